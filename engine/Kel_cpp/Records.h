@@ -1,0 +1,892 @@
+// Generated from the interface description by tools/generate.py. Do not edit.
+// Engine record classes. Each is polymorphic and handed around by std::shared_ptr;
+// records with the NamedItem base inherit it virtually.
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+namespace Varno::Kel_cpp {
+
+class MvciServerError;
+class NegativeResponse;
+class KelError;
+class NamedItem;
+class ParameterResult;
+class ClearDtcResult;
+class DtcReadConfig;
+class ReadDtcResult;
+class DtcResult;
+class SpecialDataGroup;
+class VariantIdentResult;
+class ReadDataResult;
+class Target;
+class TargetStatus;
+class TargetFilter;
+class ParameterInput;
+class ServiceInput;
+class ServiceResult;
+class ResponseResult;
+class RequestResult;
+class UnlockResult;
+class ServiceInfo;
+class ResponseInfo;
+class ParameterInfo;
+class ConstraintInfo;
+class ScaleConstraintInfo;
+class UnitInfo;
+class ParameterInfoConfig;
+class KelEvent;
+class EventReport;
+class FileFilter;
+class TargetConfig;
+class ProjectConfig;
+class ProjectDetails;
+class DbFileInfo;
+class SystemInfo;
+class SystemProperty;
+class TarnApiConfig;
+class ServerConfig;
+class Oauth2Config;
+class MoxConfig;
+class TcpInfo;
+class StatusInfo;
+class TransmissionInfo;
+class ProcessInfo;
+class GlobalProtocolParameterSet;
+class GlobalProtocolParameter;
+class LoadDatabaseResult;
+class InterfaceInformation;
+class ResourceInformation;
+class ScanInterfaceResult;
+class DynInterfaceDetection;
+class ModuleDyn;
+class DeviceInfo;
+class PhysicalLinksOnModule;
+class PhysicalLink;
+class InterfaceConfiguration;
+class InterfaceProvider;
+class DoIPParameter;
+class WLanSignalData;
+class SupportedInterface;
+class MonitoringItem;
+class PduMonitoringItem;
+class FileInfo;
+class DirectoryInfo;
+class FileCopyResult;
+class DirectoryCopyResult;
+class PathCopyResult;
+class FileReferenceResult;
+class FileCopyConfig;
+class DirectoryCopyConfig;
+class PathCopyConfig;
+class UserInfo;
+class LogInOutConfig;
+class TarnApiServerConfig;
+class ServerSettings;
+class FlashSessionInfo;
+class FlashSessionResult;
+class FlashSessionsConfig;
+class CodingStringResult;
+class CodingFileResult;
+class QuickTestResult;
+class EcuConfigurationResult;
+class EcuOrderEntry;
+class VehicleUpdateConfig;
+class VehicleUpdateResult;
+class UpdatePackageInfo;
+class VehicleReportConfig;
+class VehicleData;
+class UploadReportConfiguration;
+class VehicleInformation;
+
+class MvciServerError {
+public:
+    virtual ~MvciServerError() = default;
+    int32_t code = 0;
+    std::wstring codeText;
+    int32_t vendorCode = 0;
+    std::wstring vendorCodeText;
+    std::wstring extraText;
+    int32_t extraCode = 0;
+};
+
+class NegativeResponse {
+public:
+    virtual ~NegativeResponse() = default;
+    int32_t code = 0;
+    std::wstring text;
+    uint64_t value1 = 0;
+    uint64_t value2 = 0;
+    std::vector<uint8_t> bytes;
+};
+
+class KelError {
+public:
+    virtual ~KelError() = default;
+    int32_t code = 0;
+    std::wstring message;
+    std::wstring details;
+    int32_t subCode = 0;
+    std::shared_ptr<MvciServerError> mvciError;
+    std::shared_ptr<NegativeResponse> negativeResponse;
+};
+
+class NamedItem {
+public:
+    virtual ~NamedItem() = default;
+    std::wstring itemText1;
+    std::wstring itemText2;
+    std::wstring itemText3;
+    std::wstring itemText4;
+};
+
+class ParameterResult : public virtual NamedItem {
+public:
+    ~ParameterResult() override = default;
+    std::wstring text1;
+    std::wstring text2;
+    int32_t value1 = 0;
+    std::vector<std::shared_ptr<ParameterResult>> children;
+    std::wstring text3;
+    std::shared_ptr<KelError> error;
+    std::wstring text4;
+    int32_t value2 = 0;
+    std::vector<uint8_t> data;
+    uint32_t value3 = 0;
+    bool flag = false;
+    int32_t value4 = 0;
+};
+
+class ClearDtcResult {
+public:
+    virtual ~ClearDtcResult() = default;
+    int32_t status = 0;
+    std::wstring target;
+    std::shared_ptr<KelError> error;
+};
+
+class DtcReadConfig {
+public:
+    virtual ~DtcReadConfig() = default;
+    int32_t value = 0;
+    bool flag1 = false;
+    bool flag2 = false;
+    bool flag3 = false;
+};
+
+class ReadDtcResult {
+public:
+    virtual ~ReadDtcResult() = default;
+    int32_t status = 0;
+    std::wstring target;
+    std::shared_ptr<KelError> error;
+    std::vector<std::shared_ptr<DtcResult>> dtcs;
+    int32_t value = 0;
+};
+
+class DtcResult {
+public:
+    virtual ~DtcResult() = default;
+    int32_t code = 0;
+    std::wstring text1;
+    std::wstring text2;
+    int32_t value1 = 0;
+    std::vector<std::shared_ptr<ParameterResult>> parameters1;
+    std::vector<std::shared_ptr<ParameterResult>> parameters2;
+    std::wstring text3;
+    std::wstring text4;
+    std::vector<std::shared_ptr<SpecialDataGroup>> specialDataGroups;
+    int32_t value2 = 0;
+};
+
+class SpecialDataGroup {
+public:
+    virtual ~SpecialDataGroup() = default;
+    std::vector<std::shared_ptr<NamedItem>> items;
+};
+
+class VariantIdentResult {
+public:
+    virtual ~VariantIdentResult() = default;
+    std::wstring target;
+    int32_t status = 0;
+    std::shared_ptr<KelError> error;
+    std::wstring variant;
+};
+
+class ReadDataResult {
+public:
+    virtual ~ReadDataResult() = default;
+    std::wstring target;
+    int32_t status = 0;
+    std::wstring text;
+    std::shared_ptr<KelError> error;
+    std::vector<std::shared_ptr<ParameterResult>> parameters;
+};
+
+class Target : public virtual NamedItem {
+public:
+    ~Target() override = default;
+    int32_t value1 = 0;
+    std::wstring text1;
+    std::wstring text2;
+    std::vector<std::shared_ptr<NamedItem>> items;
+    std::vector<std::wstring> names;
+    std::wstring text3;
+    std::wstring text4;
+    int32_t value2 = 0;
+    std::wstring text5;
+};
+
+class TargetStatus {
+public:
+    virtual ~TargetStatus() = default;
+    std::wstring target;
+    std::wstring text;
+    std::shared_ptr<KelError> error;
+    std::array<uint32_t, 5> values{};
+    std::wstring text2;
+};
+
+class TargetFilter {
+public:
+    virtual ~TargetFilter() = default;
+    std::wstring pattern;
+    bool flag = false;
+    int32_t value = 0;
+};
+
+class ParameterInput {
+public:
+    virtual ~ParameterInput() = default;
+    std::wstring name;
+    std::vector<std::shared_ptr<ParameterInput>> children;
+    std::wstring value;
+};
+
+class ServiceInput {
+public:
+    virtual ~ServiceInput() = default;
+    std::vector<std::shared_ptr<ParameterInput>> parameters;
+    std::wstring service;
+    std::vector<uint8_t> data;
+    uint64_t value = 0;
+};
+
+class ServiceResult : public virtual NamedItem {
+public:
+    ~ServiceResult() override = default;
+    std::vector<std::shared_ptr<ResponseResult>> responses;
+    int32_t status = 0;
+    std::wstring text1;
+    std::shared_ptr<KelError> error;
+    std::shared_ptr<RequestResult> request;
+    int32_t value1 = 0;
+};
+
+class ResponseResult : public virtual NamedItem {
+public:
+    ~ResponseResult() override = default;
+    bool flag = false;
+    std::shared_ptr<KelError> error;
+    std::vector<uint8_t> data;
+    uint64_t value1 = 0;
+    uint64_t value2 = 0;
+    std::vector<std::shared_ptr<ParameterResult>> parameters;
+};
+
+class RequestResult {
+public:
+    virtual ~RequestResult() = default;
+    std::shared_ptr<KelError> error;
+    std::vector<uint8_t> data;
+    uint64_t value1 = 0;
+    uint64_t value2 = 0;
+    std::vector<std::shared_ptr<ParameterResult>> parameters;
+};
+
+class UnlockResult {
+public:
+    virtual ~UnlockResult() = default;
+    uint64_t value = 0;
+    std::vector<std::shared_ptr<ServiceResult>> services;
+};
+
+class ServiceInfo : public virtual NamedItem {
+public:
+    ~ServiceInfo() override = default;
+    bool flag = false;
+    std::vector<std::shared_ptr<ResponseInfo>> responses;
+    std::vector<std::shared_ptr<ParameterInfo>> parameters;
+    std::wstring text1;
+    std::vector<std::shared_ptr<NamedItem>> items;
+    std::shared_ptr<KelError> error;
+    std::array<uint32_t, 5> values{};
+};
+
+class ResponseInfo : public virtual NamedItem {
+public:
+    ~ResponseInfo() override = default;
+    int32_t status = 0;
+    std::vector<std::shared_ptr<ParameterInfo>> parameters;
+};
+
+class ParameterInfo : public virtual NamedItem {
+public:
+    ~ParameterInfo() override = default;
+    std::wstring text1;
+    std::wstring text2;
+    std::wstring text3;
+    int32_t value1 = 0;
+    std::wstring text4;
+    std::vector<std::shared_ptr<ParameterInfo>> children;
+    std::wstring text5;
+    std::vector<std::wstring> names;
+    bool flag1 = false;
+    int32_t value2 = 0;
+    std::shared_ptr<KelError> error;
+    bool flag2 = false;
+    std::array<uint32_t, 8> values{};
+    bool flag3 = false;
+    std::shared_ptr<ConstraintInfo> constraint1;
+    std::shared_ptr<ConstraintInfo> constraint2;
+    std::wstring text6;
+    std::wstring text7;
+    bool flag4 = false;
+    std::shared_ptr<UnitInfo> unit;
+};
+
+class ConstraintInfo {
+public:
+    virtual ~ConstraintInfo() = default;
+    std::wstring text1;
+    std::wstring text2;
+    bool flag = false;
+    std::vector<std::shared_ptr<ScaleConstraintInfo>> scales;
+};
+
+class ScaleConstraintInfo : public virtual NamedItem {
+public:
+    ~ScaleConstraintInfo() override = default;
+    std::wstring text1;
+    std::wstring text2;
+    bool flag = false;
+    int32_t value = 0;
+};
+
+class UnitInfo {
+public:
+    virtual ~UnitInfo() = default;
+    std::array<uint32_t, 7> values{};
+    uint64_t value1 = 0;
+    bool flag1 = false;
+    uint64_t value2 = 0;
+    bool flag2 = false;
+};
+
+class ParameterInfoConfig {
+public:
+    virtual ~ParameterInfoConfig() = default;
+    std::wstring text1;
+    std::wstring text2;
+    int32_t value = 0;
+    std::wstring text3;
+    std::wstring text4;
+};
+
+class KelEvent {
+public:
+    virtual ~KelEvent() = default;
+    std::wstring name;
+    int32_t kind = 0;
+    int32_t code = 0;
+    std::wstring text;
+    std::shared_ptr<KelError> error;
+    std::wstring detail;
+};
+
+class EventReport {
+public:
+    virtual ~EventReport() = default;
+    std::vector<std::shared_ptr<KelEvent>> events;
+};
+
+class FileFilter {
+public:
+    virtual ~FileFilter() = default;
+    std::wstring pattern;
+    bool flag = false;
+    uint32_t value = 0;
+};
+
+class TargetConfig {
+public:
+    virtual ~TargetConfig() = default;
+    int32_t value = 0;
+    std::wstring text1;
+    std::wstring text2;
+};
+
+class ProjectConfig : public virtual NamedItem {
+public:
+    ~ProjectConfig() override = default;
+    std::vector<std::shared_ptr<FileFilter>> filters1;
+    int32_t value0 = 0;
+    std::vector<std::shared_ptr<TargetConfig>> targets;
+    std::vector<std::shared_ptr<FileFilter>> filters2;
+    std::vector<std::wstring> strings1;
+    std::wstring text1;
+    uint32_t value1 = 0;
+    std::wstring text2;
+    std::vector<std::wstring> strings2;
+    std::wstring text3;
+    uint32_t value2 = 0;
+    uint32_t value3 = 0;
+    std::array<bool, 4> flags{};
+};
+
+class ProjectDetails {
+public:
+    virtual ~ProjectDetails() = default;
+    std::vector<std::shared_ptr<DbFileInfo>> dbFiles1;
+    std::vector<std::shared_ptr<DbFileInfo>> dbFiles2;
+    std::wstring text1;
+    uint32_t value1 = 0;
+    std::wstring text2;
+    uint32_t value2 = 0;
+    std::vector<std::shared_ptr<UserInfo>> users;
+};
+
+class DbFileInfo { // fields come with its family
+public:
+    virtual ~DbFileInfo() = default;
+};
+
+class SystemInfo {
+public:
+    virtual ~SystemInfo() = default;
+    uint32_t value1 = 0;
+    uint32_t value2 = 0;
+    std::wstring text1;
+    uint32_t value3 = 0;
+    std::wstring text2;
+    std::wstring text3;
+    std::wstring text4;
+};
+
+class SystemProperty : public virtual NamedItem {
+public:
+    ~SystemProperty() override = default;
+    std::wstring text1;
+    std::wstring text2;
+    uint32_t value1 = 0;
+    std::vector<std::shared_ptr<SystemProperty>> children;
+    std::wstring text3;
+    std::shared_ptr<KelError> error;
+    std::wstring text4;
+    uint32_t value2 = 0;
+    std::vector<uint8_t> data;
+    uint32_t value3 = 0;
+    bool flag = false;
+    uint32_t value4 = 0;
+};
+
+class TarnApiConfig {
+public:
+    virtual ~TarnApiConfig() = default;
+    int32_t value1 = 0;
+    bool flag1 = false;
+    bool flag2 = false;
+    int32_t value2 = 0;
+    std::shared_ptr<ServerConfig> server;
+    uint32_t value3 = 0;
+    uint32_t value4 = 0;
+    uint32_t value5 = 0;
+    bool flag3 = false;
+    uint32_t value6 = 0;
+    uint16_t value7 = 0;
+    std::vector<std::shared_ptr<Oauth2Config>> oauth2Configs;
+    std::wstring text;
+};
+
+class ServerConfig { // fields come with its family
+public:
+    virtual ~ServerConfig() = default;
+};
+
+class Oauth2Config { // fields come with its family
+public:
+    virtual ~Oauth2Config() = default;
+};
+
+class MoxConfig {
+public:
+    virtual ~MoxConfig() = default;
+    std::wstring text1;
+    std::wstring text2;
+    std::wstring text3;
+    std::wstring text4;
+    std::wstring text5;
+    bool flag1 = false;
+    bool flag2 = false;
+    bool flag3 = false;
+    uint32_t value = 0;
+    bool flag4 = false;
+    bool flag5 = false;
+    bool flag6 = false;
+    std::wstring text6;
+    std::wstring text7;
+    std::shared_ptr<TcpInfo> tcp;
+};
+
+class TcpInfo {
+public:
+    virtual ~TcpInfo() = default;
+    uint8_t value1 = 0;
+    uint8_t value2 = 0;
+    uint8_t value3 = 0;
+    uint32_t value4 = 0;
+    uint32_t value5 = 0;
+    uint32_t value6 = 0;
+};
+
+class StatusInfo {
+public:
+    virtual ~StatusInfo() = default;
+    uint64_t value1 = 0;
+    uint64_t value2 = 0;
+    uint64_t value3 = 0;
+    uint64_t value4 = 0;
+    uint64_t value5 = 0;
+    uint32_t value6 = 0;
+    uint64_t value7 = 0;
+    uint64_t value8 = 0;
+};
+
+class TransmissionInfo {
+public:
+    virtual ~TransmissionInfo() = default;
+    uint64_t value1 = 0;
+    uint64_t value2 = 0;
+    uint64_t value3 = 0;
+    uint64_t value4 = 0;
+};
+
+class ProcessInfo { // fields come with its family
+public:
+    virtual ~ProcessInfo() = default;
+};
+
+class GlobalProtocolParameterSet {
+public:
+    virtual ~GlobalProtocolParameterSet() = default;
+    std::wstring text1;
+    std::wstring text2;
+    std::wstring text3;
+    std::wstring text4;
+    std::vector<std::shared_ptr<GlobalProtocolParameter>> parameters;
+};
+
+class GlobalProtocolParameter { // fields come with its family
+public:
+    virtual ~GlobalProtocolParameter() = default;
+};
+
+class LoadDatabaseResult {
+public:
+    virtual ~LoadDatabaseResult() = default;
+    std::wstring text;
+    bool flag = false;
+    std::shared_ptr<KelError> error;
+};
+
+class InterfaceInformation : public virtual NamedItem { // fields come with its family
+public:
+    ~InterfaceInformation() override = default;
+};
+
+class ResourceInformation { // fields come with its family
+public:
+    virtual ~ResourceInformation() = default;
+};
+
+class ScanInterfaceResult {
+public:
+    virtual ~ScanInterfaceResult() = default;
+    std::shared_ptr<InterfaceInformation> interfaceInfo;
+    std::shared_ptr<KelError> error;
+};
+
+class DynInterfaceDetection { // fields come with its family
+public:
+    virtual ~DynInterfaceDetection() = default;
+};
+
+class ModuleDyn { // fields come with its family
+public:
+    virtual ~ModuleDyn() = default;
+};
+
+class DeviceInfo { // fields come with its family
+public:
+    virtual ~DeviceInfo() = default;
+};
+
+class PhysicalLinksOnModule {
+public:
+    virtual ~PhysicalLinksOnModule() = default;
+    std::wstring module;
+    std::vector<std::shared_ptr<PhysicalLink>> links;
+};
+
+class PhysicalLink { // fields come with its family
+public:
+    virtual ~PhysicalLink() = default;
+};
+
+class InterfaceConfiguration { // fields come with its family
+public:
+    virtual ~InterfaceConfiguration() = default;
+};
+
+class InterfaceProvider : public virtual NamedItem {
+public:
+    ~InterfaceProvider() override = default;
+    std::wstring text;
+    uint32_t value = 0;
+    bool flag = false;
+};
+
+class DoIPParameter {
+public:
+    virtual ~DoIPParameter() = default;
+    uint32_t value1 = 0;
+    uint32_t value2 = 0;
+    std::wstring text;
+    uint32_t value3 = 0;
+    std::vector<std::wstring> strings;
+};
+
+class WLanSignalData {
+public:
+    virtual ~WLanSignalData() = default;
+    uint32_t value1 = 0;
+    uint32_t value2 = 0;
+    uint32_t value3 = 0;
+    uint32_t value4 = 0;
+    uint32_t value5 = 0;
+    uint64_t value6 = 0;
+    uint32_t value7 = 0;
+    uint32_t value8 = 0;
+    uint32_t value9 = 0;
+    uint32_t value10 = 0;
+    uint16_t value11 = 0;
+    std::wstring text;
+};
+
+class SupportedInterface {
+public:
+    virtual ~SupportedInterface() = default;
+    std::wstring text1;
+    std::wstring text2;
+    std::vector<std::wstring> names;
+    uint32_t value = 0;
+    std::wstring text3;
+};
+
+class MonitoringItem { // fields come with its family
+public:
+    virtual ~MonitoringItem() = default;
+};
+
+class PduMonitoringItem { // fields come with its family
+public:
+    virtual ~PduMonitoringItem() = default;
+};
+
+class FileInfo {
+public:
+    virtual ~FileInfo() = default;
+    std::wstring name;
+    std::shared_ptr<KelError> error;
+    bool flag = false;
+    uint32_t value1 = 0;
+    std::wstring text1;
+    std::wstring text2;
+    uint64_t value2 = 0;
+    uint64_t value3 = 0;
+};
+
+class DirectoryInfo {
+public:
+    virtual ~DirectoryInfo() = default;
+    std::wstring name;
+    std::shared_ptr<KelError> error;
+    bool flag = false;
+    uint32_t value1 = 0;
+    std::wstring text1;
+    std::wstring text2;
+    std::vector<std::shared_ptr<FileInfo>> files;
+    std::vector<std::shared_ptr<DirectoryInfo>> directories;
+    bool flag2 = false;
+};
+
+class FileCopyResult {
+public:
+    virtual ~FileCopyResult() = default;
+    int32_t value1 = 0;
+    std::wstring text;
+    std::shared_ptr<KelError> error;
+    std::shared_ptr<FileInfo> file;
+    int32_t value2 = 0;
+};
+
+class DirectoryCopyResult { // fields come with its family
+public:
+    virtual ~DirectoryCopyResult() = default;
+};
+
+class PathCopyResult { // fields come with its family
+public:
+    virtual ~PathCopyResult() = default;
+};
+
+class FileReferenceResult {
+public:
+    virtual ~FileReferenceResult() = default;
+    std::vector<std::wstring> references;
+    std::shared_ptr<KelError> error;
+};
+
+class FileCopyConfig { // fields come with its family
+public:
+    virtual ~FileCopyConfig() = default;
+};
+
+class DirectoryCopyConfig { // fields come with its family
+public:
+    virtual ~DirectoryCopyConfig() = default;
+};
+
+class PathCopyConfig { // fields come with its family
+public:
+    virtual ~PathCopyConfig() = default;
+};
+
+class UserInfo {
+public:
+    virtual ~UserInfo() = default;
+    std::wstring name;
+    std::wstring text;
+    uint32_t value = 0;
+};
+
+class LogInOutConfig { // fields come with its family
+public:
+    virtual ~LogInOutConfig() = default;
+};
+
+class TarnApiServerConfig {
+public:
+    virtual ~TarnApiServerConfig() = default;
+    std::vector<std::shared_ptr<UserInfo>> users;
+    bool flag = false;
+    uint32_t value1 = 0;
+    std::wstring text1;
+    std::wstring text2;
+    std::vector<std::shared_ptr<FileFilter>> filters;
+    std::wstring text3;
+    std::wstring text4;
+    std::vector<std::shared_ptr<UserInfo>> users2;
+    uint16_t value2 = 0;
+};
+
+class ServerSettings {
+public:
+    virtual ~ServerSettings() = default;
+    bool flag = false;
+    uint32_t value1 = 0;
+    uint32_t value2 = 0;
+    uint32_t value3 = 0;
+};
+
+class FlashSessionInfo { // fields come with its family
+public:
+    virtual ~FlashSessionInfo() = default;
+};
+
+class FlashSessionResult { // fields come with its family
+public:
+    virtual ~FlashSessionResult() = default;
+};
+
+class FlashSessionsConfig { // fields come with its family
+public:
+    virtual ~FlashSessionsConfig() = default;
+};
+
+class CodingStringResult { // fields come with its family
+public:
+    virtual ~CodingStringResult() = default;
+};
+
+class CodingFileResult { // fields come with its family
+public:
+    virtual ~CodingFileResult() = default;
+};
+
+class QuickTestResult { // fields come with its family
+public:
+    virtual ~QuickTestResult() = default;
+};
+
+class EcuConfigurationResult { // fields come with its family
+public:
+    virtual ~EcuConfigurationResult() = default;
+};
+
+class EcuOrderEntry { // fields come with its family
+public:
+    virtual ~EcuOrderEntry() = default;
+};
+
+class VehicleUpdateConfig { // fields come with its family
+public:
+    virtual ~VehicleUpdateConfig() = default;
+};
+
+class VehicleUpdateResult { // fields come with its family
+public:
+    virtual ~VehicleUpdateResult() = default;
+};
+
+class UpdatePackageInfo { // fields come with its family
+public:
+    virtual ~UpdatePackageInfo() = default;
+};
+
+class VehicleReportConfig { // fields come with its family
+public:
+    virtual ~VehicleReportConfig() = default;
+};
+
+class VehicleData { // fields come with its family
+public:
+    virtual ~VehicleData() = default;
+};
+
+class UploadReportConfiguration { // fields come with its family
+public:
+    virtual ~UploadReportConfiguration() = default;
+};
+
+class VehicleInformation { // fields come with its family
+public:
+    virtual ~VehicleInformation() = default;
+};
+
+} // namespace Varno::Kel_cpp

@@ -1,0 +1,716 @@
+// Generated from the interface description by tools/generate.py. Do not edit.
+// Every engine record's fields by name, in record order: the one order in which
+// a record is streamed and described.
+#pragma once
+
+#include <Kel_cpp/Records.h>
+
+#include <tuple>
+
+namespace Varno::Kel_cpp::Fields {
+
+template <class C, class M>
+struct Member {
+    const char* name;
+    M C::*pointer;
+};
+template <class C, class M>
+constexpr Member<C, M> member(const char* name, M C::*pointer) {
+    return {name, pointer};
+}
+
+// Specialised for every engine record class.
+template <class E>
+struct Of;
+
+template <>
+struct Of<MvciServerError> {
+    static constexpr auto list = std::make_tuple(
+        member("code", &MvciServerError::code), member("codeText", &MvciServerError::codeText),
+        member("vendorCode", &MvciServerError::vendorCode),
+        member("vendorCodeText", &MvciServerError::vendorCodeText),
+        member("extraText", &MvciServerError::extraText),
+        member("extraCode", &MvciServerError::extraCode));
+};
+
+template <>
+struct Of<NegativeResponse> {
+    static constexpr auto list = std::make_tuple(
+        member("code", &NegativeResponse::code), member("text", &NegativeResponse::text),
+        member("value1", &NegativeResponse::value1), member("value2", &NegativeResponse::value2),
+        member("bytes", &NegativeResponse::bytes));
+};
+
+template <>
+struct Of<KelError> {
+    static constexpr auto list = std::make_tuple(
+        member("code", &KelError::code), member("message", &KelError::message),
+        member("details", &KelError::details), member("subCode", &KelError::subCode),
+        member("mvciError", &KelError::mvciError),
+        member("negativeResponse", &KelError::negativeResponse));
+};
+
+template <>
+struct Of<NamedItem> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &NamedItem::itemText1), member("itemText2", &NamedItem::itemText2),
+        member("itemText3", &NamedItem::itemText3), member("itemText4", &NamedItem::itemText4));
+};
+
+template <>
+struct Of<ParameterResult> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &ParameterResult::itemText1),
+        member("itemText2", &ParameterResult::itemText2),
+        member("itemText3", &ParameterResult::itemText3),
+        member("itemText4", &ParameterResult::itemText4), member("text1", &ParameterResult::text1),
+        member("text2", &ParameterResult::text2), member("value1", &ParameterResult::value1),
+        member("children", &ParameterResult::children), member("text3", &ParameterResult::text3),
+        member("error", &ParameterResult::error), member("text4", &ParameterResult::text4),
+        member("value2", &ParameterResult::value2), member("data", &ParameterResult::data),
+        member("value3", &ParameterResult::value3), member("flag", &ParameterResult::flag),
+        member("value4", &ParameterResult::value4));
+};
+
+template <>
+struct Of<ClearDtcResult> {
+    static constexpr auto list = std::make_tuple(member("status", &ClearDtcResult::status),
+                                                 member("target", &ClearDtcResult::target),
+                                                 member("error", &ClearDtcResult::error));
+};
+
+template <>
+struct Of<DtcReadConfig> {
+    static constexpr auto list = std::make_tuple(
+        member("value", &DtcReadConfig::value), member("flag1", &DtcReadConfig::flag1),
+        member("flag2", &DtcReadConfig::flag2), member("flag3", &DtcReadConfig::flag3));
+};
+
+template <>
+struct Of<ReadDtcResult> {
+    static constexpr auto list = std::make_tuple(
+        member("status", &ReadDtcResult::status), member("target", &ReadDtcResult::target),
+        member("error", &ReadDtcResult::error), member("dtcs", &ReadDtcResult::dtcs),
+        member("value", &ReadDtcResult::value));
+};
+
+template <>
+struct Of<DtcResult> {
+    static constexpr auto list =
+        std::make_tuple(member("code", &DtcResult::code), member("text1", &DtcResult::text1),
+                        member("text2", &DtcResult::text2), member("value1", &DtcResult::value1),
+                        member("parameters1", &DtcResult::parameters1),
+                        member("parameters2", &DtcResult::parameters2),
+                        member("text3", &DtcResult::text3), member("text4", &DtcResult::text4),
+                        member("specialDataGroups", &DtcResult::specialDataGroups),
+                        member("value2", &DtcResult::value2));
+};
+
+template <>
+struct Of<SpecialDataGroup> {
+    static constexpr auto list = std::make_tuple(member("items", &SpecialDataGroup::items));
+};
+
+template <>
+struct Of<VariantIdentResult> {
+    static constexpr auto list = std::make_tuple(member("target", &VariantIdentResult::target),
+                                                 member("status", &VariantIdentResult::status),
+                                                 member("error", &VariantIdentResult::error),
+                                                 member("variant", &VariantIdentResult::variant));
+};
+
+template <>
+struct Of<ReadDataResult> {
+    static constexpr auto list = std::make_tuple(
+        member("target", &ReadDataResult::target), member("status", &ReadDataResult::status),
+        member("text", &ReadDataResult::text), member("error", &ReadDataResult::error),
+        member("parameters", &ReadDataResult::parameters));
+};
+
+template <>
+struct Of<Target> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &Target::itemText1), member("itemText2", &Target::itemText2),
+        member("itemText3", &Target::itemText3), member("itemText4", &Target::itemText4),
+        member("value1", &Target::value1), member("text1", &Target::text1),
+        member("text2", &Target::text2), member("items", &Target::items),
+        member("names", &Target::names), member("text3", &Target::text3),
+        member("text4", &Target::text4), member("value2", &Target::value2),
+        member("text5", &Target::text5));
+};
+
+template <>
+struct Of<TargetStatus> {
+    static constexpr auto list = std::make_tuple(
+        member("target", &TargetStatus::target), member("text", &TargetStatus::text),
+        member("error", &TargetStatus::error), member("values", &TargetStatus::values),
+        member("text2", &TargetStatus::text2));
+};
+
+template <>
+struct Of<TargetFilter> {
+    static constexpr auto list =
+        std::make_tuple(member("pattern", &TargetFilter::pattern),
+                        member("flag", &TargetFilter::flag), member("value", &TargetFilter::value));
+};
+
+template <>
+struct Of<ParameterInput> {
+    static constexpr auto list = std::make_tuple(member("name", &ParameterInput::name),
+                                                 member("children", &ParameterInput::children),
+                                                 member("value", &ParameterInput::value));
+};
+
+template <>
+struct Of<ServiceInput> {
+    static constexpr auto list = std::make_tuple(
+        member("parameters", &ServiceInput::parameters), member("service", &ServiceInput::service),
+        member("data", &ServiceInput::data), member("value", &ServiceInput::value));
+};
+
+template <>
+struct Of<ServiceResult> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &ServiceResult::itemText1),
+        member("itemText2", &ServiceResult::itemText2),
+        member("itemText3", &ServiceResult::itemText3),
+        member("itemText4", &ServiceResult::itemText4),
+        member("responses", &ServiceResult::responses), member("status", &ServiceResult::status),
+        member("text1", &ServiceResult::text1), member("error", &ServiceResult::error),
+        member("request", &ServiceResult::request), member("value1", &ServiceResult::value1));
+};
+
+template <>
+struct Of<ResponseResult> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &ResponseResult::itemText1),
+        member("itemText2", &ResponseResult::itemText2),
+        member("itemText3", &ResponseResult::itemText3),
+        member("itemText4", &ResponseResult::itemText4), member("flag", &ResponseResult::flag),
+        member("error", &ResponseResult::error), member("data", &ResponseResult::data),
+        member("value1", &ResponseResult::value1), member("value2", &ResponseResult::value2),
+        member("parameters", &ResponseResult::parameters));
+};
+
+template <>
+struct Of<RequestResult> {
+    static constexpr auto list = std::make_tuple(
+        member("error", &RequestResult::error), member("data", &RequestResult::data),
+        member("value1", &RequestResult::value1), member("value2", &RequestResult::value2),
+        member("parameters", &RequestResult::parameters));
+};
+
+template <>
+struct Of<UnlockResult> {
+    static constexpr auto list = std::make_tuple(member("value", &UnlockResult::value),
+                                                 member("services", &UnlockResult::services));
+};
+
+template <>
+struct Of<ServiceInfo> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &ServiceInfo::itemText1), member("itemText2", &ServiceInfo::itemText2),
+        member("itemText3", &ServiceInfo::itemText3), member("itemText4", &ServiceInfo::itemText4),
+        member("flag", &ServiceInfo::flag), member("responses", &ServiceInfo::responses),
+        member("parameters", &ServiceInfo::parameters), member("text1", &ServiceInfo::text1),
+        member("items", &ServiceInfo::items), member("error", &ServiceInfo::error),
+        member("values", &ServiceInfo::values));
+};
+
+template <>
+struct Of<ResponseInfo> {
+    static constexpr auto list = std::make_tuple(member("itemText1", &ResponseInfo::itemText1),
+                                                 member("itemText2", &ResponseInfo::itemText2),
+                                                 member("itemText3", &ResponseInfo::itemText3),
+                                                 member("itemText4", &ResponseInfo::itemText4),
+                                                 member("status", &ResponseInfo::status),
+                                                 member("parameters", &ResponseInfo::parameters));
+};
+
+template <>
+struct Of<ParameterInfo> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &ParameterInfo::itemText1),
+        member("itemText2", &ParameterInfo::itemText2),
+        member("itemText3", &ParameterInfo::itemText3),
+        member("itemText4", &ParameterInfo::itemText4), member("text1", &ParameterInfo::text1),
+        member("text2", &ParameterInfo::text2), member("text3", &ParameterInfo::text3),
+        member("value1", &ParameterInfo::value1), member("text4", &ParameterInfo::text4),
+        member("children", &ParameterInfo::children), member("text5", &ParameterInfo::text5),
+        member("names", &ParameterInfo::names), member("flag1", &ParameterInfo::flag1),
+        member("value2", &ParameterInfo::value2), member("error", &ParameterInfo::error),
+        member("flag2", &ParameterInfo::flag2), member("values", &ParameterInfo::values),
+        member("flag3", &ParameterInfo::flag3), member("constraint1", &ParameterInfo::constraint1),
+        member("constraint2", &ParameterInfo::constraint2), member("text6", &ParameterInfo::text6),
+        member("text7", &ParameterInfo::text7), member("flag4", &ParameterInfo::flag4),
+        member("unit", &ParameterInfo::unit));
+};
+
+template <>
+struct Of<ConstraintInfo> {
+    static constexpr auto list = std::make_tuple(
+        member("text1", &ConstraintInfo::text1), member("text2", &ConstraintInfo::text2),
+        member("flag", &ConstraintInfo::flag), member("scales", &ConstraintInfo::scales));
+};
+
+template <>
+struct Of<ScaleConstraintInfo> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &ScaleConstraintInfo::itemText1),
+        member("itemText2", &ScaleConstraintInfo::itemText2),
+        member("itemText3", &ScaleConstraintInfo::itemText3),
+        member("itemText4", &ScaleConstraintInfo::itemText4),
+        member("text1", &ScaleConstraintInfo::text1), member("text2", &ScaleConstraintInfo::text2),
+        member("flag", &ScaleConstraintInfo::flag), member("value", &ScaleConstraintInfo::value));
+};
+
+template <>
+struct Of<UnitInfo> {
+    static constexpr auto list =
+        std::make_tuple(member("values", &UnitInfo::values), member("value1", &UnitInfo::value1),
+                        member("flag1", &UnitInfo::flag1), member("value2", &UnitInfo::value2),
+                        member("flag2", &UnitInfo::flag2));
+};
+
+template <>
+struct Of<ParameterInfoConfig> {
+    static constexpr auto list = std::make_tuple(
+        member("text1", &ParameterInfoConfig::text1), member("text2", &ParameterInfoConfig::text2),
+        member("value", &ParameterInfoConfig::value), member("text3", &ParameterInfoConfig::text3),
+        member("text4", &ParameterInfoConfig::text4));
+};
+
+template <>
+struct Of<KelEvent> {
+    static constexpr auto list =
+        std::make_tuple(member("name", &KelEvent::name), member("kind", &KelEvent::kind),
+                        member("code", &KelEvent::code), member("text", &KelEvent::text),
+                        member("error", &KelEvent::error), member("detail", &KelEvent::detail));
+};
+
+template <>
+struct Of<EventReport> {
+    static constexpr auto list = std::make_tuple(member("events", &EventReport::events));
+};
+
+template <>
+struct Of<FileFilter> {
+    static constexpr auto list =
+        std::make_tuple(member("pattern", &FileFilter::pattern), member("flag", &FileFilter::flag),
+                        member("value", &FileFilter::value));
+};
+
+template <>
+struct Of<TargetConfig> {
+    static constexpr auto list = std::make_tuple(member("value", &TargetConfig::value),
+                                                 member("text1", &TargetConfig::text1),
+                                                 member("text2", &TargetConfig::text2));
+};
+
+template <>
+struct Of<ProjectConfig> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &ProjectConfig::itemText1),
+        member("itemText2", &ProjectConfig::itemText2),
+        member("itemText3", &ProjectConfig::itemText3),
+        member("itemText4", &ProjectConfig::itemText4),
+        member("filters1", &ProjectConfig::filters1), member("value0", &ProjectConfig::value0),
+        member("targets", &ProjectConfig::targets), member("filters2", &ProjectConfig::filters2),
+        member("strings1", &ProjectConfig::strings1), member("text1", &ProjectConfig::text1),
+        member("value1", &ProjectConfig::value1), member("text2", &ProjectConfig::text2),
+        member("strings2", &ProjectConfig::strings2), member("text3", &ProjectConfig::text3),
+        member("value2", &ProjectConfig::value2), member("value3", &ProjectConfig::value3),
+        member("flags", &ProjectConfig::flags));
+};
+
+template <>
+struct Of<ProjectDetails> {
+    static constexpr auto list = std::make_tuple(
+        member("dbFiles1", &ProjectDetails::dbFiles1),
+        member("dbFiles2", &ProjectDetails::dbFiles2), member("text1", &ProjectDetails::text1),
+        member("value1", &ProjectDetails::value1), member("text2", &ProjectDetails::text2),
+        member("value2", &ProjectDetails::value2), member("users", &ProjectDetails::users));
+};
+
+template <>
+struct Of<DbFileInfo> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<SystemInfo> {
+    static constexpr auto list =
+        std::make_tuple(member("value1", &SystemInfo::value1),
+                        member("value2", &SystemInfo::value2), member("text1", &SystemInfo::text1),
+                        member("value3", &SystemInfo::value3), member("text2", &SystemInfo::text2),
+                        member("text3", &SystemInfo::text3), member("text4", &SystemInfo::text4));
+};
+
+template <>
+struct Of<SystemProperty> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &SystemProperty::itemText1),
+        member("itemText2", &SystemProperty::itemText2),
+        member("itemText3", &SystemProperty::itemText3),
+        member("itemText4", &SystemProperty::itemText4), member("text1", &SystemProperty::text1),
+        member("text2", &SystemProperty::text2), member("value1", &SystemProperty::value1),
+        member("children", &SystemProperty::children), member("text3", &SystemProperty::text3),
+        member("error", &SystemProperty::error), member("text4", &SystemProperty::text4),
+        member("value2", &SystemProperty::value2), member("data", &SystemProperty::data),
+        member("value3", &SystemProperty::value3), member("flag", &SystemProperty::flag),
+        member("value4", &SystemProperty::value4));
+};
+
+template <>
+struct Of<TarnApiConfig> {
+    static constexpr auto list = std::make_tuple(
+        member("value1", &TarnApiConfig::value1), member("flag1", &TarnApiConfig::flag1),
+        member("flag2", &TarnApiConfig::flag2), member("value2", &TarnApiConfig::value2),
+        member("server", &TarnApiConfig::server), member("value3", &TarnApiConfig::value3),
+        member("value4", &TarnApiConfig::value4), member("value5", &TarnApiConfig::value5),
+        member("flag3", &TarnApiConfig::flag3), member("value6", &TarnApiConfig::value6),
+        member("value7", &TarnApiConfig::value7),
+        member("oauth2Configs", &TarnApiConfig::oauth2Configs),
+        member("text", &TarnApiConfig::text));
+};
+
+template <>
+struct Of<ServerConfig> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<Oauth2Config> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<MoxConfig> {
+    static constexpr auto list =
+        std::make_tuple(member("text1", &MoxConfig::text1), member("text2", &MoxConfig::text2),
+                        member("text3", &MoxConfig::text3), member("text4", &MoxConfig::text4),
+                        member("text5", &MoxConfig::text5), member("flag1", &MoxConfig::flag1),
+                        member("flag2", &MoxConfig::flag2), member("flag3", &MoxConfig::flag3),
+                        member("value", &MoxConfig::value), member("flag4", &MoxConfig::flag4),
+                        member("flag5", &MoxConfig::flag5), member("flag6", &MoxConfig::flag6),
+                        member("text6", &MoxConfig::text6), member("text7", &MoxConfig::text7),
+                        member("tcp", &MoxConfig::tcp));
+};
+
+template <>
+struct Of<TcpInfo> {
+    static constexpr auto list =
+        std::make_tuple(member("value1", &TcpInfo::value1), member("value2", &TcpInfo::value2),
+                        member("value3", &TcpInfo::value3), member("value4", &TcpInfo::value4),
+                        member("value5", &TcpInfo::value5), member("value6", &TcpInfo::value6));
+};
+
+template <>
+struct Of<StatusInfo> {
+    static constexpr auto list = std::make_tuple(
+        member("value1", &StatusInfo::value1), member("value2", &StatusInfo::value2),
+        member("value3", &StatusInfo::value3), member("value4", &StatusInfo::value4),
+        member("value5", &StatusInfo::value5), member("value6", &StatusInfo::value6),
+        member("value7", &StatusInfo::value7), member("value8", &StatusInfo::value8));
+};
+
+template <>
+struct Of<TransmissionInfo> {
+    static constexpr auto list = std::make_tuple(
+        member("value1", &TransmissionInfo::value1), member("value2", &TransmissionInfo::value2),
+        member("value3", &TransmissionInfo::value3), member("value4", &TransmissionInfo::value4));
+};
+
+template <>
+struct Of<ProcessInfo> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<GlobalProtocolParameterSet> {
+    static constexpr auto list =
+        std::make_tuple(member("text1", &GlobalProtocolParameterSet::text1),
+                        member("text2", &GlobalProtocolParameterSet::text2),
+                        member("text3", &GlobalProtocolParameterSet::text3),
+                        member("text4", &GlobalProtocolParameterSet::text4),
+                        member("parameters", &GlobalProtocolParameterSet::parameters));
+};
+
+template <>
+struct Of<GlobalProtocolParameter> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<LoadDatabaseResult> {
+    static constexpr auto list = std::make_tuple(member("text", &LoadDatabaseResult::text),
+                                                 member("flag", &LoadDatabaseResult::flag),
+                                                 member("error", &LoadDatabaseResult::error));
+};
+
+template <>
+struct Of<InterfaceInformation> {
+    static constexpr auto list =
+        std::make_tuple(member("itemText1", &InterfaceInformation::itemText1),
+                        member("itemText2", &InterfaceInformation::itemText2),
+                        member("itemText3", &InterfaceInformation::itemText3),
+                        member("itemText4", &InterfaceInformation::itemText4));
+};
+
+template <>
+struct Of<ResourceInformation> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<ScanInterfaceResult> {
+    static constexpr auto list =
+        std::make_tuple(member("interfaceInfo", &ScanInterfaceResult::interfaceInfo),
+                        member("error", &ScanInterfaceResult::error));
+};
+
+template <>
+struct Of<DynInterfaceDetection> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<ModuleDyn> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<DeviceInfo> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<PhysicalLinksOnModule> {
+    static constexpr auto list = std::make_tuple(member("module", &PhysicalLinksOnModule::module),
+                                                 member("links", &PhysicalLinksOnModule::links));
+};
+
+template <>
+struct Of<PhysicalLink> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<InterfaceConfiguration> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<InterfaceProvider> {
+    static constexpr auto list = std::make_tuple(member("itemText1", &InterfaceProvider::itemText1),
+                                                 member("itemText2", &InterfaceProvider::itemText2),
+                                                 member("itemText3", &InterfaceProvider::itemText3),
+                                                 member("itemText4", &InterfaceProvider::itemText4),
+                                                 member("text", &InterfaceProvider::text),
+                                                 member("value", &InterfaceProvider::value),
+                                                 member("flag", &InterfaceProvider::flag));
+};
+
+template <>
+struct Of<DoIPParameter> {
+    static constexpr auto list = std::make_tuple(
+        member("value1", &DoIPParameter::value1), member("value2", &DoIPParameter::value2),
+        member("text", &DoIPParameter::text), member("value3", &DoIPParameter::value3),
+        member("strings", &DoIPParameter::strings));
+};
+
+template <>
+struct Of<WLanSignalData> {
+    static constexpr auto list = std::make_tuple(
+        member("value1", &WLanSignalData::value1), member("value2", &WLanSignalData::value2),
+        member("value3", &WLanSignalData::value3), member("value4", &WLanSignalData::value4),
+        member("value5", &WLanSignalData::value5), member("value6", &WLanSignalData::value6),
+        member("value7", &WLanSignalData::value7), member("value8", &WLanSignalData::value8),
+        member("value9", &WLanSignalData::value9), member("value10", &WLanSignalData::value10),
+        member("value11", &WLanSignalData::value11), member("text", &WLanSignalData::text));
+};
+
+template <>
+struct Of<SupportedInterface> {
+    static constexpr auto list = std::make_tuple(
+        member("text1", &SupportedInterface::text1), member("text2", &SupportedInterface::text2),
+        member("names", &SupportedInterface::names), member("value", &SupportedInterface::value),
+        member("text3", &SupportedInterface::text3));
+};
+
+template <>
+struct Of<MonitoringItem> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<PduMonitoringItem> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<FileInfo> {
+    static constexpr auto list =
+        std::make_tuple(member("name", &FileInfo::name), member("error", &FileInfo::error),
+                        member("flag", &FileInfo::flag), member("value1", &FileInfo::value1),
+                        member("text1", &FileInfo::text1), member("text2", &FileInfo::text2),
+                        member("value2", &FileInfo::value2), member("value3", &FileInfo::value3));
+};
+
+template <>
+struct Of<DirectoryInfo> {
+    static constexpr auto list = std::make_tuple(
+        member("name", &DirectoryInfo::name), member("error", &DirectoryInfo::error),
+        member("flag", &DirectoryInfo::flag), member("value1", &DirectoryInfo::value1),
+        member("text1", &DirectoryInfo::text1), member("text2", &DirectoryInfo::text2),
+        member("files", &DirectoryInfo::files), member("directories", &DirectoryInfo::directories),
+        member("flag2", &DirectoryInfo::flag2));
+};
+
+template <>
+struct Of<FileCopyResult> {
+    static constexpr auto list = std::make_tuple(
+        member("value1", &FileCopyResult::value1), member("text", &FileCopyResult::text),
+        member("error", &FileCopyResult::error), member("file", &FileCopyResult::file),
+        member("value2", &FileCopyResult::value2));
+};
+
+template <>
+struct Of<DirectoryCopyResult> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<PathCopyResult> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<FileReferenceResult> {
+    static constexpr auto list =
+        std::make_tuple(member("references", &FileReferenceResult::references),
+                        member("error", &FileReferenceResult::error));
+};
+
+template <>
+struct Of<FileCopyConfig> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<DirectoryCopyConfig> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<PathCopyConfig> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<UserInfo> {
+    static constexpr auto list =
+        std::make_tuple(member("name", &UserInfo::name), member("text", &UserInfo::text),
+                        member("value", &UserInfo::value));
+};
+
+template <>
+struct Of<LogInOutConfig> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<TarnApiServerConfig> {
+    static constexpr auto list = std::make_tuple(
+        member("users", &TarnApiServerConfig::users), member("flag", &TarnApiServerConfig::flag),
+        member("value1", &TarnApiServerConfig::value1),
+        member("text1", &TarnApiServerConfig::text1), member("text2", &TarnApiServerConfig::text2),
+        member("filters", &TarnApiServerConfig::filters),
+        member("text3", &TarnApiServerConfig::text3), member("text4", &TarnApiServerConfig::text4),
+        member("users2", &TarnApiServerConfig::users2),
+        member("value2", &TarnApiServerConfig::value2));
+};
+
+template <>
+struct Of<ServerSettings> {
+    static constexpr auto list = std::make_tuple(
+        member("flag", &ServerSettings::flag), member("value1", &ServerSettings::value1),
+        member("value2", &ServerSettings::value2), member("value3", &ServerSettings::value3));
+};
+
+template <>
+struct Of<FlashSessionInfo> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<FlashSessionResult> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<FlashSessionsConfig> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<CodingStringResult> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<CodingFileResult> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<QuickTestResult> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<EcuConfigurationResult> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<EcuOrderEntry> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<VehicleUpdateConfig> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<VehicleUpdateResult> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<UpdatePackageInfo> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<VehicleReportConfig> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<VehicleData> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<UploadReportConfiguration> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<VehicleInformation> {
+    static constexpr auto list = std::make_tuple();
+};
+
+} // namespace Varno::Kel_cpp::Fields

@@ -1,0 +1,62 @@
+#include "Script.h"
+
+#include <kel_sim.h>
+
+#include <algorithm>
+#include <cstring>
+
+using Varno::Kel_cpp::MvciServerError;
+using Varno::Kel_cpp::TarnApiException;
+using Varno::Kel_cpp::Reference::Script;
+
+namespace {
+
+std::wstring text(const wchar_t* value) { return value != nullptr ? value : L""; }
+
+} // namespace
+
+extern "C" {
+
+void kelsim_failNext(const char* operation, uint32_t count, int32_t code, int32_t subCode,
+                     const wchar_t* message, const wchar_t* details) {
+    Script::global()->failNext(operation, count,
+                               TarnApiException(code, text(message), text(details), subCode));
+}
+
+void kelsim_failNextWithMvci(const char* operation, uint32_t count, int32_t code, int32_t subCode,
+                             const wchar_t* message, const wchar_t* details, int32_t mvciCode,
+                             const wchar_t* mvciCodeText, int32_t vendorCode,
+                             const wchar_t* vendorCodeText, const wchar_t* extraText, int32_t extraCode) {
+    auto mvci = std::make_shared<MvciServerError>();
+    mvci->code = mvciCode;
+    mvci->codeText = text(mvciCodeText);
+    mvci->vendorCode = vendorCode;
+    mvci->vendorCodeText = text(vendorCodeText);
+    mvci->extraText = text(extraText);
+    mvci->extraCode = extraCode;
+    Script::global()->failNext(operation, count,
+                               TarnApiException(code, text(message), text(details), subCode, mvci));
+}
+
+void kelsim_setDelay(const char* operation, uint32_t milliseconds) {
+    Script::global()->setDelay(operation, std::chrono::milliseconds(milliseconds));
+}
+
+int64_t kelsim_lastArguments(const char* operation, char* buffer, size_t size) {
+    const auto arguments = Script::global()->lastArguments(operation);
+    if (!arguments) {
+        return -1;
+    }
+    if (buffer != nullptr && size > 0) {
+        const size_t n = std::min(size - 1, arguments->size());
+        std::memcpy(buffer, arguments->data(), n);
+        buffer[n] = '\0';
+    }
+    return static_cast<int64_t>(arguments->size());
+}
+
+uint64_t kelsim_callCount(const char* operation) { return Script::global()->callCount(operation); }
+
+void kelsim_reset(void) { Script::global()->reset(); }
+
+} // extern "C"

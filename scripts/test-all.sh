@@ -1,0 +1,105 @@
+#!/usr/bin/env bash
+# Runs every test of the project: configures, builds and tests each CMake preset in turn
+# (Linux, Linux with AddressSanitizer + UBSan, Linux with ThreadSanitizer, and the Windows
+# build under wine), then prints a summary. Exits non-zero if any step of any preset fails.
+#
+#   scripts/test-all.sh                 # all presets
+#   scripts/test-all.sh linux windows   # only these
+#
+# JOBS (default 2) sets the build parallelism.
+set -uo pipefail
+
+cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
+JOBS=${JOBS:-2}
+
+if [[ $# -gt 0 ]]; then
+    presets=("$@")
+else
+    presets=(linux linux-asan linux-tsan windows)
+fi
+
+# --- Tools -----------------------------------------------------------------------------------
+packages=(cmake ninja-build g++ libgtest-dev libgmock-dev nlohmann-json3-dev)
+for preset in "${presets[@]}"; do
+    if [[ $preset == windows ]]; then
+        packages+=(g++-mingw-w64-x86-64-posix wine wine64)
+    fi
+done
+command -v python3 >/dev/null 2>&1 || packages+=(python3)
+if ! scripts/ensure-packages.sh "${packages[@]}"; then
+    echo "test-all: could not install the required packages" >&2
+    exit 1
+fi
+
+echo "== Tools"
+cmake --version | head -n 1
+g++ --version | head -n 1
+python3 --version
+for preset in "${presets[@]}"; do
+    if [[ $preset == windows ]]; then
+        x86_64-w64-mingw32-g++-posix --version | head -n 1
+        wine --version
+    fi
+done
+
+# --- Presets ---------------------------------------------------------------------------------
+declare -A result seconds
+failed=0
+
+prepare_wine() {
+    export WINEDEBUG=-all
+    export WINEDLLOVERRIDES="mscoree,mshtml="
+    : "${HOME:=$(getent passwd "$(id -u)" | cut -d: -f6)}"
+    export HOME
+    local prefix=${WINEPREFIX:-$HOME/.wine}
+    if [[ ! -f $prefix/system.reg ]]; then
+        # The first start of wine creates its prefix; do it here rather than inside a timed test.
+        echo "== Creating the wine prefix $prefix"
+        local start=$SECONDS
+        wineboot --init >/dev/null 2>&1 || true
+        wineserver -w || true
+        echo "   took $((SECONDS - start)) s"
+    fi
+}
+
+run_preset() {
+    local preset=$1
+    local start=$SECONDS
+    echo
+    echo "==================== $preset ===================="
+    if [[ $preset == windows ]]; then
+        prepare_wine
+    fi
+    if ! cmake --preset "$preset"; then
+        result[$preset]="configure FAILED"
+    elif ! cmake --build --preset "$preset" -j "$JOBS"; then
+        result[$preset]="build FAILED"
+    elif ! ctest --preset "$preset"; then
+        result[$preset]="tests FAILED"
+    else
+        result[$preset]="passed"
+    fi
+    if [[ $preset == windows ]]; then
+        # Let the wine server finish before moving on, so no process outlives the run.
+        wineserver -w >/dev/null 2>&1 || true
+    fi
+    seconds[$preset]=$((SECONDS - start))
+    [[ ${result[$preset]} == passed ]] || failed=1
+}
+
+total_start=$SECONDS
+for preset in "${presets[@]}"; do
+    run_preset "$preset"
+done
+
+echo
+echo "==================== summary ===================="
+for preset in "${presets[@]}"; do
+    printf '  %-12s %-18s %5d s\n' "$preset" "${result[$preset]}" "${seconds[$preset]}"
+done
+printf '  %-12s %-18s %5d s\n' "total" "" $((SECONDS - total_start))
+if [[ $failed -ne 0 ]]; then
+    echo "test-all: FAILED"
+    exit 1
+fi
+echo "test-all: all presets passed"

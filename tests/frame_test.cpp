@@ -1,0 +1,136 @@
+// The export frame: engine errors become KelError records, outputs are written only on
+// success, success never touches *error; and the memory exports.
+#include "support.h"
+
+#include <array>
+#include <cstring>
+#include <cwchar>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+
+using Frame = EngineTest;
+
+TEST_F(Frame, EngineErrorFillsKelErrorAndLeavesOutputs) {
+    kelsim_failNext("getState", 1, 77, 5, L"Message text", L"Detail text");
+    KelError* error = nullptr;
+    int32_t state = 1234;
+    kel_getState(api, &error, &state);
+    ASSERT_NE(error, nullptr);
+    EXPECT_EQ(state, 1234) << "no output is written after an engine error";
+    EXPECT_EQ(error->code, 77);
+    EXPECT_EQ(error->subCode, 5);
+    EXPECT_STREQ(error->message, L"Message text") << "message and details are mapped by meaning";
+    EXPECT_STREQ(error->details, L"Detail text");
+    EXPECT_EQ(error->mvciError, nullptr);
+    EXPECT_EQ(error->negativeResponse, nullptr);
+    release_KelError(error);
+
+    kel_getState(api, &error, &state);
+    EXPECT_EQ(state, 1) << "only the next call was scripted to fail";
+}
+
+TEST_F(Frame, MvciErrorIsCopiedWholeAndEmptyTextsAreAllocated) {
+    kelsim_failNextWithMvci("lock", 1, 3, 4, nullptr, L"", 0x21, L"PDU_ERR_COMM_PC_TO_VCI_FAILED", -2,
+                            L"vendor", nullptr, 9);
+    ErrorSlot error;
+    uint64_t lockId = 99;
+    kel_lock(api, &error, &lockId);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(lockId, 99U);
+    ASSERT_NE(error->message, nullptr);
+    EXPECT_STREQ(error->message, L"") << "an empty engine text is an allocated empty string";
+    EXPECT_STREQ(error->details, L"");
+    const MvciServerError* mvci = error->mvciError;
+    ASSERT_NE(mvci, nullptr);
+    EXPECT_EQ(mvci->code, 0x21);
+    EXPECT_STREQ(mvci->codeText, L"PDU_ERR_COMM_PC_TO_VCI_FAILED");
+    EXPECT_EQ(mvci->vendorCode, -2);
+    EXPECT_STREQ(mvci->vendorCodeText, L"vendor");
+    EXPECT_STREQ(mvci->extraText, L"");
+    EXPECT_EQ(mvci->extraCode, 9);
+    EXPECT_EQ(error->negativeResponse, nullptr);
+}
+
+TEST_F(Frame, SuccessNeverWritesTheErrorParameter) {
+    auto* const sentinel = reinterpret_cast<KelError*>(static_cast<uintptr_t>(0x5A5A));
+    KelError* error = sentinel;
+    int32_t state = 0;
+    kel_getState(api, &error, &state);
+    EXPECT_EQ(error, sentinel);
+    kel_breakLock(api, &error);
+    EXPECT_EQ(error, sentinel);
+}
+
+TEST_F(Frame, SecondFailureOverwritesWithoutFreeingTheFirst) {
+    kelsim_failNext("isLocked", 2, 1, 0, L"first", L"");
+    KelError* error = nullptr;
+    bool locked = false;
+    kel_isLocked(api, &error, &locked);
+    KelError* first = error;
+    kel_isLocked(api, &error, &locked);
+    ASSERT_NE(first, nullptr);
+    ASSERT_NE(error, nullptr);
+    EXPECT_NE(error, first);
+    EXPECT_STREQ(first->message, L"first") << "the first record is still the caller's to free";
+    release_KelError(first);
+    release_KelError(error);
+}
+
+TEST_F(Frame, UnsupportedOperationNamesItself) {
+    ErrorSlot error;
+    wchar_t* version = nullptr;
+    kel_getVersion(api, &error, &version);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(version, nullptr);
+    EXPECT_EQ(error->code, 1000);
+    const std::wstring message = error->message;
+    EXPECT_NE(message.find(L"getVersion"), std::wstring::npos) << std::string(message.begin(), message.end());
+    EXPECT_NE(message.find(L"does not support"), std::wstring::npos);
+}
+
+TEST(MemoryExports, NullSafeAndOnTheLibrarysHeap) {
+    release_KelError(nullptr);
+    release_KelError_array(nullptr, 3);
+    release_Memory(nullptr);
+    release_StringArray(nullptr, 2);
+    EXPECT_EQ(duplicate_WString(nullptr), nullptr);
+    EXPECT_EQ(duplicate_String(nullptr), nullptr);
+
+    wchar_t* wide = duplicate_WString(L"Steuergerät \U0001F697");
+    EXPECT_STREQ(wide, L"Steuergerät \U0001F697");
+    char* narrow = duplicate_String("ECU");
+    EXPECT_STREQ(narrow, "ECU");
+    void* block = allocate_Memory(16);
+    ASSERT_NE(block, nullptr);
+    std::memset(block, 0, 16);
+    release_Memory(block);
+    release_Memory(narrow);
+
+    // A list of strings built by the caller goes back with release_StringArray.
+    auto** texts = static_cast<wchar_t**>(allocate_Memory(3 * sizeof(wchar_t*)));
+    texts[0] = wide;
+    texts[1] = nullptr; // NULL entries are harmless
+    texts[2] = duplicate_WString(L"");
+    const uint32_t count = 3; // as an export would hand it out, widened by the caller
+    release_StringArray(texts, count);
+}
+
+TEST(MemoryExports, ErrorArrayReleasesEveryEntryAndSkipsNulls) {
+    auto** errors = static_cast<KelError**>(allocate_Memory(3 * sizeof(KelError*)));
+    for (int i = 0; i < 3; ++i) {
+        errors[i] = static_cast<KelError*>(allocate_Memory(sizeof(KelError)));
+        std::memset(errors[i], 0, sizeof(KelError));
+        errors[i]->message = duplicate_WString(L"m");
+    }
+    release_KelError(errors[1]);
+    errors[1] = nullptr;
+    errors[2]->mvciError = static_cast<MvciServerError*>(allocate_Memory(sizeof(MvciServerError)));
+    std::memset(errors[2]->mvciError, 0, sizeof(MvciServerError));
+    errors[2]->mvciError->codeText = duplicate_WString(L"nested");
+    release_KelError_array(errors, 3); // the leak checker proves everything went back
+}
+
+} // namespace

@@ -1,0 +1,134 @@
+// Obtaining and releasing engine objects: shared counts, remote connections, threads.
+#include "support.h"
+
+#include <atomic>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using kel_test::ErrorSlot;
+
+// The engine object currently behind kel_getTarnApi, observed without keeping it alive.
+std::weak_ptr<Varno::Kel_cpp::TarnApi> observeLocalEngine() { return Varno::Kel_cpp::getTarnApi(); }
+
+TEST(Registry, SameObjectTwiceIsCountedTwice) {
+    TarnApi* first = kel_getTarnApi();
+    TarnApi* second = kel_getTarnApi();
+    ASSERT_NE(first, nullptr);
+    EXPECT_EQ(first, second);
+    const auto engine = observeLocalEngine();
+    ASSERT_EQ(engine.lock().get(), first);
+
+    releaseTarnApi(first);
+    EXPECT_FALSE(engine.expired()) << "one use is still registered";
+    releaseTarnApi(second);
+    EXPECT_TRUE(engine.expired()) << "the last release drops the registry's reference";
+}
+
+TEST(Registry, UnknownAndSurplusReleasesAreIgnored) {
+    TarnApi* api = kel_getTarnApi();
+    const auto engine = observeLocalEngine();
+    releaseTarnApi(nullptr);
+    int notAnEngine = 0;
+    releaseTarnApi(reinterpret_cast<TarnApi*>(&notAnEngine));
+    EXPECT_FALSE(engine.expired());
+
+    releaseTarnApi(api);
+    EXPECT_TRUE(engine.expired());
+    releaseTarnApi(api); // surplus: no entry any more, no effect
+}
+
+TEST(Registry, RemoteConnectionsLiveBesideTheLocalEngine) {
+    TarnApi* local = kel_getTarnApi();
+    ErrorSlot error;
+    uint64_t handle = 0;
+    kel_getHandle(local, &error, &handle);
+    ASSERT_FALSE(error);
+    ASSERT_NE(handle, 0U);
+
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handle, &error);
+    ASSERT_FALSE(error);
+    ASSERT_NE(remote, nullptr);
+    EXPECT_NE(remote, local);
+    EXPECT_EQ(kel_getRemoteConnectionByHandle(handle, &error), remote) << "same connection, second use";
+
+    uint64_t remoteHandle = 0;
+    kel_getHandle(remote, &error, &remoteHandle);
+    EXPECT_NE(remoteHandle, handle);
+
+    // The remote connection shares the vehicle: what the local engine does shows there.
+    kel_initialize(local, &error);
+    int32_t state = -1;
+    kel_getState(remote, &error, &state);
+    EXPECT_EQ(state, 1);
+
+    const auto localEngine = observeLocalEngine();
+    releaseTarnApi(local);
+    EXPECT_TRUE(localEngine.expired()) << "each object has its own count";
+    kel_getState(remote, &error, &state);
+    EXPECT_FALSE(error) << "the remote connection outlives the local object";
+    releaseTarnApi(remote);
+    releaseTarnApi(remote);
+}
+
+TEST(Registry, RejectedHandleGivesNullAndAnError) {
+    TarnApi* local = kel_getTarnApi();
+    const auto engine = observeLocalEngine();
+    ErrorSlot error;
+    EXPECT_EQ(kel_getRemoteConnectionByHandle(0xDEADBEEFULL, &error), nullptr);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1005);
+    EXPECT_NE(std::wstring(error->message).find(L"handle"), std::wstring::npos);
+    EXPECT_EQ(error->negativeResponse, nullptr);
+
+    releaseTarnApi(local);
+    EXPECT_TRUE(engine.expired()) << "the failed call registered nothing";
+}
+
+TEST(RegistryConcurrency, ManyThreadsShareAndReleaseEngineObjects) {
+    TarnApi* local = kel_getTarnApi(); // held throughout, so every thread sees this object
+    ErrorSlot error;
+    uint64_t handle = 0;
+    kel_getHandle(local, &error, &handle);
+    ASSERT_FALSE(error);
+
+    constexpr int threads = 8;
+    constexpr int rounds = 400;
+    std::atomic<int> mismatches{0};
+    std::atomic<int> failures{0};
+    std::vector<std::thread> workers;
+    for (int t = 0; t < threads; ++t) {
+        workers.emplace_back([&] {
+            for (int i = 0; i < rounds; ++i) {
+                TarnApi* api = kel_getTarnApi();
+                if (api != local) {
+                    ++mismatches;
+                }
+                KelError* e = nullptr;
+                TarnApi* remote = kel_getRemoteConnectionByHandle(handle, &e);
+                int32_t state = -1;
+                if (remote != nullptr) {
+                    kel_getState(remote, &e, &state);
+                }
+                if (e != nullptr || remote == nullptr) {
+                    ++failures;
+                    release_KelError(e);
+                }
+                releaseTarnApi(remote);
+                releaseTarnApi(api);
+            }
+        });
+    }
+    for (auto& w : workers) {
+        w.join();
+    }
+    EXPECT_EQ(mismatches.load(), 0);
+    EXPECT_EQ(failures.load(), 0);
+
+    const auto engine = observeLocalEngine();
+    releaseTarnApi(local);
+    EXPECT_TRUE(engine.expired()) << "every use was given back";
+}
+
+} // namespace

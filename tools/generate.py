@@ -1,0 +1,575 @@
+#!/usr/bin/env python3
+"""Writes every file that derives from the interface description.
+
+    python3 tools/generate.py          rewrite the generated files
+    python3 tools/generate.py --check  exit 1 if a committed file differs
+
+Outputs are plain declarations and tables; the behaviour behind them is hand-written,
+generic C++ (kel_c/convert.h, kel_c/frame.h). Standard library only.
+"""
+
+from __future__ import annotations
+
+import argparse
+import pathlib
+import shutil
+import subprocess
+import sys
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
+import kelidl  # noqa: E402
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+BANNER = "Generated from the interface description by tools/generate.py. Do not edit."
+ENGINE_NS = "Varno::Kel_cpp"
+
+# Exports written by hand (registry, memory); the generator lists them with the rest.
+HAND_WRITTEN_EXPORTS = [
+    "kel_getTarnApi",
+    "kel_getRemoteConnectionByHandle",
+    "releaseTarnApi",
+    "allocate_Memory",
+    "duplicate_String",
+    "duplicate_WString",
+    "release_Memory",
+    "release_StringArray",
+]
+
+
+# ---- type mapping ------------------------------------------------------------------
+
+def c_field(f: kelidl.Field) -> list[str]:
+    if f.kind in kelidl.SCALARS:
+        return [f"{kelidl.SCALARS[f.kind][0]} {f.name};"]
+    if f.kind == "array":
+        return [f"{kelidl.SCALARS[f.element][0]} {f.name}[{f.length}];"]
+    if f.kind == "wstr":
+        return [f"wchar_t* {f.name};"]
+    if f.kind == "wstrs":
+        return [f"wchar_t** {f.name};", f"uint32_t {f.count};"]
+    if f.kind == "bytes":
+        return [f"uint8_t* {f.name};", f"uint32_t {f.count};"]
+    if f.kind == "rec":
+        return [f"{f.record}* {f.name};"]
+    if f.kind == "list":
+        return [f"{f.record}** {f.name};", f"uint32_t {f.count};"]
+    raise AssertionError(f.kind)
+
+
+def engine_field(f: kelidl.Field) -> str:
+    if f.kind in kelidl.SCALARS:
+        init = "false" if f.kind == "bool" else "0"
+        return f"{kelidl.SCALARS[f.kind][1]} {f.name} = {init};"
+    if f.kind == "array":
+        return f"std::array<{kelidl.SCALARS[f.element][1]}, {f.length}> {f.name}{{}};"
+    if f.kind == "wstr":
+        return f"std::wstring {f.name};"
+    if f.kind == "wstrs":
+        return f"std::vector<std::wstring> {f.name};"
+    if f.kind == "bytes":
+        return f"std::vector<uint8_t> {f.name};"
+    if f.kind == "rec":
+        return f"std::shared_ptr<{f.record}> {f.name};"
+    if f.kind == "list":
+        return f"std::vector<std::shared_ptr<{f.record}>> {f.name};"
+    raise AssertionError(f.kind)
+
+
+def engine_param(v: kelidl.Value) -> str:
+    if v.kind in kelidl.SCALARS:
+        return f"{kelidl.SCALARS[v.kind][1]} {v.name}"
+    return {
+        "wstr": f"const std::wstring& {v.name}",
+        "wstrs": f"const std::vector<std::wstring>& {v.name}",
+        "u32s": f"const std::vector<uint32_t>& {v.name}",
+        "u64s": f"const std::vector<uint64_t>& {v.name}",
+        "bytes": f"const std::vector<uint8_t>& {v.name}",
+        "rec": f"std::shared_ptr<{v.record}> {v.name}",
+        "list": f"const std::vector<std::shared_ptr<{v.record}>>& {v.name}",
+        "handler": f"std::shared_ptr<ServerHandler> {v.name}",
+    }[v.kind]
+
+
+def engine_result(v: kelidl.Value | None) -> str:
+    if v is None:
+        return "void"
+    if v.kind in kelidl.SCALARS:
+        return kelidl.SCALARS[v.kind][1]
+    return {
+        "wstr": "std::wstring",
+        "wstrs": "std::vector<std::wstring>",
+        "bytes": "std::vector<uint8_t>",
+        "blob": "std::vector<uint8_t>",
+        "rec": f"std::shared_ptr<{v.record}>",
+        "list": f"std::vector<std::shared_ptr<{v.record}>>",
+        "engine": "std::shared_ptr<TarnApi>",
+    }[v.kind]
+
+
+def engine_signature(op: kelidl.Operation, names: bool = True) -> str:
+    def param(v: kelidl.Value) -> str:
+        text = engine_param(v)
+        return text if names else text.rsplit(" ", 1)[0]
+
+    if op.reserved:
+        return f"void {op.name}()"
+    if op.is_async:
+        callback = f"{op.callback_class}* callback" if names else f"{op.callback_class}*"
+        params = [param(p) for p in op.inputs] + [callback]
+        return f"uint64_t {op.name}({', '.join(params)})"
+    return f"{engine_result(op.result)} {op.name}({', '.join(param(p) for p in op.params)})"
+
+
+def c_params(v: kelidl.Value) -> list[str]:
+    if v.kind in kelidl.SCALARS:
+        return [f"{kelidl.SCALARS[v.kind][0]} {v.name}"]
+    return {
+        "wstr": [f"const wchar_t* {v.name}"],
+        "wstrs": [f"wchar_t** {v.name}", f"uint32_t {v.count}"],
+        "u32s": [f"const uint32_t* {v.name}", f"uint32_t {v.count}"],
+        "u64s": [f"const uint64_t* {v.name}", f"uint32_t {v.count}"],
+        "bytes": [f"const uint8_t* {v.name}", f"uint32_t {v.count}"],
+        "rec": [f"{v.record}* {v.name}"],
+        "list": [f"{v.record}** {v.name}", f"uint32_t {v.count}"],
+        "handler": [f"void* {v.name}"],
+    }[v.kind]
+
+
+def c_outputs(v: kelidl.Value) -> list[str]:
+    if v.kind in kelidl.SCALARS:
+        return [f"{kelidl.SCALARS[v.kind][0]}* {v.name}"]
+    return {
+        "wstr": [f"wchar_t** {v.name}"],
+        "wstrs": [f"wchar_t*** {v.name}", f"uint32_t* {v.count}"],
+        "bytes": [f"uint8_t** {v.name}", f"uint32_t* {v.count}"],
+        "blob": [f"void** {v.name}", f"uint32_t* {v.count}"],
+        "rec": [f"{v.record}** {v.name}"],
+        "list": [f"{v.record}*** {v.name}", f"uint32_t* {v.count}"],
+        "engine": [f"uint64_t* {v.name}"],
+    }[v.kind]
+
+
+def c_signature(op: kelidl.Operation) -> str:
+    api = "uint64_t api" if op.api64 else "TarnApi* api"
+    inputs = [a for p in op.params for a in c_params(p)]
+    outputs = c_outputs(op.result) if op.result and not op.discard else []
+    error = ["KelError** error"]
+    args = [api] + (error + inputs if op.error_first else inputs + error) + outputs
+    return f"void kel_{op.name}({', '.join(args)})"
+
+
+def input_expr(v: kelidl.Value) -> str:
+    if v.kind in kelidl.SCALARS:
+        return v.name
+    return {
+        "wstr": f"kel::in::text({v.name})",
+        "wstrs": f"kel::in::texts({v.name}, {v.count})",
+        "u32s": f"kel::in::values({v.name}, {v.count})",
+        "u64s": f"kel::in::values({v.name}, {v.count})",
+        "bytes": f"kel::in::values({v.name}, {v.count})",
+        "rec": f"kel::in::record({v.name})",
+        "list": f"kel::in::records({v.name}, {v.count})",
+        "handler": f"kel::in::handler({v.name})",
+    }[v.kind]
+
+
+def output_expr(v: kelidl.Value) -> str:
+    if v.kind in kelidl.SCALARS:
+        return f"kel::out::value({v.name})"
+    return {
+        "wstr": f"kel::out::text({v.name})",
+        "wstrs": f"kel::out::texts({v.name}, {v.count})",
+        "bytes": f"kel::out::buffer({v.name}, {v.count})",
+        "blob": f"kel::out::buffer({v.name}, {v.count})",
+        "rec": f"kel::out::record({v.name})",
+        "list": f"kel::out::records({v.name}, {v.count})",
+        "engine": f"kel::out::engine({v.name})",
+    }[v.kind]
+
+
+def export_body(op: kelidl.Operation) -> str:
+    api = "kel::engine(api)" if op.api64 else "api"
+    call = f"{api}->{op.name}({', '.join(input_expr(p) for p in op.params)})"
+    if op.result and not op.discard:
+        return f"kel::invoke(error, [&] {{ return {call}; }}, {output_expr(op.result)});"
+    return f"kel::invoke(error, [&] {{ {call}; }});"
+
+
+# ---- the files -----------------------------------------------------------------------
+
+def engine_classes(records: list[kelidl.Record]) -> list[str]:
+    out = [f"class {rec.name};" for rec in records] + [""]
+    for rec in records:
+        base = " : public virtual NamedItem" if rec.named else ""
+        note = "  // fields come with its family" if rec.pending else ""
+        out.append(f"class {rec.name}{base} {{{note}")
+        out.append("public:")
+        if rec.named:
+            out.append(f"    ~{rec.name}() override = default;")
+        else:
+            out.append(f"    virtual ~{rec.name}() = default;")
+        for f in rec.fields:
+            out.append(f"    {engine_field(f)}")
+        out.append("};")
+        out.append("")
+    return out
+
+
+def engine_records_h(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}", "// Engine record classes. Each is polymorphic and handed around by std::shared_ptr;",
+           "// records with the NamedItem base inherit it virtually.", "#pragma once", "",
+           "#include <array>", "#include <cstdint>", "#include <memory>", "#include <string>",
+           "#include <vector>", "", f"namespace {ENGINE_NS} {{", ""]
+    out += engine_classes(list(iface.records.values()))
+    out.append(f"}} // namespace {ENGINE_NS}")
+    return "\n".join(out) + "\n"
+
+
+def tarn_api_h(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}",
+           "// The engine interface. Operations stand at fixed virtual-table positions: on the",
+           "// Itanium C++ ABI the virtual destructor fills positions 0 and 1, and every",
+           "// operation below sits at the position given beside it.",
+           "#pragma once", "",
+           "#include <Kel_cpp/Records.h>", "#include <Kel_cpp/ServerHandler.h>",
+           "#include <Kel_cpp/TarnApiException.h>", "",
+           "#include <cstdint>", "#include <memory>", "#include <string>", "#include <vector>", "",
+           f"namespace {ENGINE_NS} {{", "",
+           "class TarnApi {", "public:"]
+    asyncs = [op for op in iface.operations if op.is_async]
+    out.append("    // Completion callbacks of the asynchronous operations. The engine calls")
+    out.append("    // onCompleted once or several times; isFinal marks the last report.")
+    for op in asyncs:
+        res = engine_result(op.sync.result)
+        out += [f"    class {op.callback_class} {{",
+                "    public:",
+                f"        virtual void onCompleted({res} results, uint64_t callId,",
+                "                                 std::shared_ptr<KelError> error, bool isFinal) = 0;",
+                "",
+                "    protected:",
+                f"        {op.callback_class}() = default;",
+                f"        {op.callback_class}(const {op.callback_class}&) = default;",
+                f"        {op.callback_class}& operator=(const {op.callback_class}&) = default;",
+                f"        ~{op.callback_class}() = default;",
+                "    };", ""]
+    out += ["    virtual ~TarnApi() = default; // positions 0 and 1",
+            "#if defined(_MSC_VER)",
+            "    // MSVC gives the destructor one slot; this keeps every later position.",
+            "    virtual void reserved1() = 0;",
+            "#endif", ""]
+    for op in iface.operations:
+        out.append(f"    virtual {engine_signature(op)} = 0; // {op.position}")
+    out += ["};", "", f"}} // namespace {ENGINE_NS}"]
+    return "\n".join(out) + "\n"
+
+
+C_PROLOGUE = """\
+#ifndef KEL_C_H
+#define KEL_C_H
+
+#include <stdbool.h>
+#include <stddef.h>
+#include <stdint.h>
+#include <wchar.h>
+
+#if defined(_WIN32)
+#if defined(KEL_C_BUILDING)
+#define KEL_C_API __declspec(dllexport)
+#else
+#define KEL_C_API __declspec(dllimport)
+#endif
+#else
+#define KEL_C_API __attribute__((visibility("default")))
+#endif
+
+#ifdef __cplusplus
+namespace Varno {
+namespace Kel_cpp {
+class TarnApi;
+}
+} // namespace Varno
+typedef Varno::Kel_cpp::TarnApi TarnApi;
+extern "C" {
+#else
+/* An engine object: obtained from kel_getTarnApi, given back with releaseTarnApi. */
+typedef struct TarnApi TarnApi;
+#endif
+"""
+
+C_FRAME = """\
+/* ---- engine objects ----
+ * Every kel_getTarnApi / kel_getRemoteConnectionByHandle is matched by one releaseTarnApi.
+ * Getting the same engine object twice returns the same address and counts two uses. */
+KEL_C_API TarnApi* kel_getTarnApi(void);
+KEL_C_API TarnApi* kel_getRemoteConnectionByHandle(uint64_t handle, KelError** error);
+KEL_C_API void releaseTarnApi(TarnApi* api);
+
+/* ---- memory ----
+ * Everything the library hands out comes from its C heap and goes back through a
+ * release_* function or release_Memory. Input records that an export consumes must be
+ * built with allocate_Memory / duplicate_WString. */
+KEL_C_API void* allocate_Memory(size_t size);
+KEL_C_API char* duplicate_String(const char* s);
+KEL_C_API wchar_t* duplicate_WString(const wchar_t* s);
+KEL_C_API void release_Memory(void* p);
+KEL_C_API void release_StringArray(wchar_t** ptr, uint64_t count);
+"""
+
+
+def c_structs(records: list[kelidl.Record]) -> list[str]:
+    out = []
+    for rec in records:
+        out.append(f"struct {rec.struct} {{")
+        if rec.named:
+            out += [f"    wchar_t* itemText{i};" for i in range(1, 5)]
+        for f in rec.fields:
+            out += [f"    {line}" for line in c_field(f)]
+        out += ["};", ""]
+    return out
+
+
+def c_header(iface: kelidl.Interface) -> str:
+    ready = iface.ready_records()
+    out = [f"/* {BANNER} */",
+           "/* kel_c: the C interface of the Kel_cpp diagnostics engine.",
+           " *",
+           " * Calling rules: the engine object comes first; then the inputs, KelError** error",
+           " * and the outputs (at engine positions 241 and above the error parameter comes",
+           " * right after the engine object). Set *error to NULL before each call: the library",
+           " * writes it only on failure, and then leaves every output untouched. Lists travel",
+           " * as a pointer and a uint32_t count; an empty list is NULL with count 0. */",
+           C_PROLOGUE, "/* ---- records ---- */"]
+    for rec in ready:
+        out.append(f"typedef struct {rec.struct} {rec.name};")
+    out.append("")
+    out += c_structs(ready)
+    out.append(C_FRAME)
+    out.append("/* ---- release functions: NULL-safe; _array takes the count the export gave ---- */")
+    for rec in ready:
+        out.append(f"KEL_C_API void release_{rec.name}({rec.name}* ptr);")
+        out.append(f"KEL_C_API void release_{rec.name}_array({rec.name}** ptr, uint64_t count);")
+    out += ["", "/* ---- operations, in engine order (the number is the engine position) ---- */"]
+    for op in iface.operations:
+        if iface.exported(op):
+            out.append(f"KEL_C_API {c_signature(op)}; /* {op.position} */")
+    out += ["", "#ifdef __cplusplus", "}", "#endif", "", "#endif /* KEL_C_H */"]
+    return "\n".join(out) + "\n"
+
+
+def record_tables(records: list[kelidl.Record], engine_ns: str) -> list[str]:
+    out = []
+    for rec in records:
+        c = f"::{rec.name}"
+        fields = []
+        if rec.named:
+            fields += [f"field(&{c}::itemText{i}, &Engine::itemText{i})" for i in range(1, 5)]
+        for f in rec.fields:
+            if f.count:
+                extra = ", always" if f.always else ""
+                fields.append(f"field(&{c}::{f.name}, &{c}::{f.count}, &Engine::{f.name}{extra})")
+            else:
+                fields.append(f"field(&{c}::{f.name}, &Engine::{f.name})")
+        out.append(f"template <> struct Record<{c}> {{")
+        out.append(f"    using Engine = {engine_ns}::{rec.name};")
+        out.append(f'    static constexpr const char* name = "{rec.name}";')
+        out.append("    static constexpr auto fields = std::make_tuple(")
+        out.append(",\n".join(f"        {x}" for x in fields) + ");")
+        out.append("};")
+        out.append("")
+    return out
+
+
+def binding_records_h(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}",
+           "// Field tables of the C records: each pairs a C member with its engine member, in",
+           "// record order. Conversion, release and streaming walk these tables.",
+           "#pragma once", "", '#include "record_fields.h"', "", "namespace kel {", ""]
+    out += record_tables(iface.ready_records(), ENGINE_NS)
+    out.append("} // namespace kel")
+    return "\n".join(out) + "\n"
+
+
+def test_records_h(iface: kelidl.Interface) -> str:
+    records = list(kelidl.parse_records(ROOT / "tests" / "interface" / "records.def").values())
+    out = [f"// {BANNER}",
+           "// The test-only records of tests/interface/records.def: C records, engine classes",
+           "// and field tables, made exactly as for the interface's own records.",
+           "#pragma once", "", "#include <record_fields.h>", "", "#include <array>", "#include <cstdint>",
+           "#include <memory>", "#include <string>", "#include <vector>", ""]
+    out += [f"typedef struct {rec.struct} {rec.name};" for rec in records] + [""]
+    out += c_structs(records)
+    used = sorted({f.record for r in records for f in r.fields if f.record} - {r.name for r in records}
+                  | ({"NamedItem"} if any(r.named for r in records) else set()))
+    out += ["namespace kel_test {"] + [f"using {ENGINE_NS}::{name};" for name in used] + [""]
+    out += engine_classes(records)
+    out += ["} // namespace kel_test", "", "namespace kel {", ""]
+    out += record_tables(records, "kel_test")
+    out.append("} // namespace kel")
+    return "\n".join(out) + "\n"
+
+
+def binding_exports_cpp(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}", "// The exports: each one line over the generic frame.", "",
+           '#include "frame.h"', "", 'extern "C" {', ""]
+    for rec in iface.ready_records():
+        n = rec.name
+        out.append(f"void release_{n}({n}* ptr) {{ kel::release(ptr); }}")
+        out.append(f"void release_{n}_array({n}** ptr, uint64_t count) {{ kel::releaseArray(ptr, count); }}")
+    out.append("")
+    for op in iface.operations:
+        if iface.exported(op):
+            out.append(f"{c_signature(op)} {{ {export_body(op)} }}")
+    out += ["", '} // extern "C"']
+    return "\n".join(out) + "\n"
+
+
+def exports_txt(iface: kelidl.Interface) -> str:
+    names = list(HAND_WRITTEN_EXPORTS)
+    for rec in iface.ready_records():
+        names += [f"release_{rec.name}", f"release_{rec.name}_array"]
+    names += [f"kel_{op.name}" for op in iface.operations if iface.exported(op)]
+    return "\n".join(sorted(names)) + "\n"
+
+
+def engine_front_h(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}",
+           "// The reference engine's two generated layers:",
+           "// - UnsupportedTarnApi answers every operation with a TarnApiException naming it;",
+           "//   the simulated vehicle overrides what it supports.",
+           "// - EngineFront is the object callers get: it records each call's arguments, lets",
+           "//   tests script failures, times the call, then forwards to the vehicle.",
+           "#pragma once", "", "#include <Kel_cpp/TarnApi.h>", "", '#include "Script.h"', "",
+           "#include <memory>", "", f"namespace {ENGINE_NS}::Reference {{", "",
+           "class UnsupportedTarnApi : public TarnApi {", "public:"]
+    for op in iface.operations:
+        out.append(f"    {engine_signature(op)} override;")
+    out += ["};", "", "class EngineFront final : public TarnApi {", "public:",
+            "    EngineFront(std::shared_ptr<TarnApi> vehicle, std::shared_ptr<Script> script,",
+            "                std::shared_ptr<CallClock> clock);",
+            "    const std::shared_ptr<Script>& script() const { return script_; }",
+            "    const std::shared_ptr<TarnApi>& vehicle() const { return vehicle_; }", ""]
+    for op in iface.operations:
+        out.append(f"    {engine_signature(op)} override;")
+    out += ["", "private:", "    std::shared_ptr<TarnApi> vehicle_;", "    std::shared_ptr<Script> script_;",
+            "    std::shared_ptr<CallClock> clock_;",
+            "};", "", f"}} // namespace {ENGINE_NS}::Reference"]
+    return "\n".join(out) + "\n"
+
+
+def engine_front_cpp(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}", "", '#include "EngineFront.h"', "", "#include <utility>", "",
+           f"namespace {ENGINE_NS}::Reference {{", ""]
+    for op in iface.operations:
+        ret, rest = engine_signature(op, names=False).split(f" {op.name}(", 1)
+        out.append(f"{ret} UnsupportedTarnApi::{op.name}({rest} {{")
+        out.append(f'    throw unsupported("{op.name}");')
+        out.append("}")
+    out += ["", "EngineFront::EngineFront(std::shared_ptr<TarnApi> vehicle, std::shared_ptr<Script> script,",
+            "                         std::shared_ptr<CallClock> clock)",
+            "    : vehicle_(std::move(vehicle)), script_(std::move(script)), clock_(std::move(clock)) {}", ""]
+    for op in iface.operations:
+        sig = engine_signature(op)
+        ret, rest = sig.split(f" {op.name}(", 1)
+        names = [p.name for p in op.inputs] + (["callback"] if op.is_async else [])
+        out.append(f"{ret} EngineFront::{op.name}({rest} {{")
+        out.append(f'    const auto call = script_->enter(*clock_, "{op.name}"' +
+                   "".join(f", {n}" for n in names) + ");")
+        out.append(f"    return vehicle_->{op.name}({', '.join(names)});")
+        out.append("}")
+    out += ["", f"}} // namespace {ENGINE_NS}::Reference"]
+    return "\n".join(out) + "\n"
+
+
+def engine_fields_h(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}",
+           "// Every engine record's fields by name, in record order: the one order in which",
+           "// a record is streamed and described.",
+           "#pragma once", "", "#include <Kel_cpp/Records.h>", "", "#include <tuple>", "",
+           f"namespace {ENGINE_NS}::Fields {{", "",
+           "template <class C, class M> struct Member {",
+           "    const char* name;",
+           "    M C::*pointer;",
+           "};",
+           "template <class C, class M> constexpr Member<C, M> member(const char* name, M C::*pointer) {",
+           "    return {name, pointer};",
+           "}", "",
+           "// Specialised for every engine record class.",
+           "template <class E> struct Of;", ""]
+    for rec in iface.records.values():
+        names = ([f"itemText{i}" for i in range(1, 5)] if rec.named else []) + [f.name for f in rec.fields]
+        out.append(f"template <> struct Of<{rec.name}> {{")
+        if names:
+            out.append("    static constexpr auto list = std::make_tuple(")
+            out.append(",\n".join(f'        member("{n}", &{rec.name}::{n})' for n in names) + ");")
+        else:
+            out.append("    static constexpr auto list = std::make_tuple();")
+        out.append("};")
+        out.append("")
+    out.append(f"}} // namespace {ENGINE_NS}::Fields")
+    return "\n".join(out) + "\n"
+
+
+def positions_inc(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}", "// Every TarnApi operation with the virtual-table position it must occupy."]
+    for op in iface.operations:
+        out.append(f"KEL_POSITION({op.position}, {op.name})")
+    return "\n".join(out) + "\n"
+
+
+def outputs(iface: kelidl.Interface) -> dict[str, str]:
+    return {
+        "engine/Kel_cpp/Records.h": engine_records_h(iface),
+        "engine/Kel_cpp/TarnApi.h": tarn_api_h(iface),
+        "include/kel_c.h": c_header(iface),
+        "kel_c/generated/records.h": binding_records_h(iface),
+        "kel_c/generated/exports.cpp": binding_exports_cpp(iface),
+        "kel_c/generated/exports.txt": exports_txt(iface),
+        "reference_engine/generated/EngineFront.h": engine_front_h(iface),
+        "reference_engine/generated/EngineFront.cpp": engine_front_cpp(iface),
+        "tests/generated/positions.inc": positions_inc(iface),
+        "tests/generated/test_records.h": test_records_h(iface),
+        "interface/generated/EngineFields.h": engine_fields_h(iface),
+    }
+
+
+def formatted(rel: str, text: str) -> str:
+    """Runs C and C++ outputs through the project's clang-format, as committed."""
+    if not rel.endswith((".h", ".cpp", ".inc")):
+        return text
+    tool = shutil.which("clang-format") or shutil.which("clang-format-14")
+    if tool is None:
+        raise SystemExit("clang-format is needed to write the generated sources")
+    return subprocess.run([tool, "--style=file", f"--assume-filename={ROOT / rel}"], input=text,
+                          capture_output=True, text=True, check=True, cwd=ROOT).stdout
+
+
+def main() -> int:
+    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
+    parser.add_argument("--check", action="store_true", help="fail if a generated file is stale")
+    args = parser.parse_args()
+    try:
+        iface = kelidl.parse(ROOT)
+    except kelidl.DescriptionError as e:
+        print(f"interface description: {e}", file=sys.stderr)
+        return 2
+    stale = []
+    for rel, text in outputs(iface).items():
+        text = formatted(rel, text)
+        path = ROOT / rel
+        if path.exists() and path.read_text() == text:
+            continue
+        if args.check:
+            stale.append(rel)
+        else:
+            path.parent.mkdir(parents=True, exist_ok=True)
+            path.write_text(text)
+            print(f"wrote {rel}")
+    if stale:
+        print("generated files differ from the interface description; run tools/generate.py:",
+              *stale, sep="\n  ", file=sys.stderr)
+        return 1
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

@@ -1,0 +1,303 @@
+"""Parser for the interface description (interface/*.def).
+
+The description is the one place where records and operations are written down; the
+generator and the tests read it through this module. Standard library only.
+"""
+
+from __future__ import annotations
+
+import dataclasses
+import pathlib
+import re
+
+SCALARS = {
+    "bool": ("bool", "bool"),
+    "u8": ("uint8_t", "uint8_t"),
+    "u16": ("uint16_t", "uint16_t"),
+    "i16": ("int16_t", "int16_t"),
+    "i32": ("int32_t", "int32_t"),
+    "u32": ("uint32_t", "uint32_t"),
+    "bits": ("uint32_t", "uint32_t"),
+    "i64": ("int64_t", "int64_t"),
+    "u64": ("uint64_t", "uint64_t"),
+}
+
+# Field kinds that carry a count member right after the pointer member.
+COUNTED_FIELDS = {"wstrs", "bytes", "list"}
+PARAM_KINDS = set(SCALARS) | {"wstr", "wstrs", "u32s", "u64s", "bytes", "rec", "list", "handler"}
+RESULT_KINDS = set(SCALARS) | {"wstr", "wstrs", "bytes", "blob", "rec", "list", "engine"}
+COUNTED_PARAMS = {"wstrs", "u32s", "u64s", "bytes", "list"}
+COUNTED_RESULTS = {"wstrs", "bytes", "blob", "list"}
+RECORD_KINDS = {"rec", "list"}
+
+# From this position on, the error parameter follows the engine object directly.
+ERROR_FIRST_POSITION = 241
+
+
+class DescriptionError(Exception):
+    pass
+
+
+@dataclasses.dataclass
+class Field:
+    kind: str  # a scalar, "wstr", "wstrs", "bytes", "rec", "list" or "array"
+    name: str
+    record: str | None = None  # element or nested record
+    count: str | None = None
+    always: bool = False  # string list block allocated even for count 0
+    element: str | None = None  # scalar kind of an array
+    length: int = 0  # array length
+
+
+@dataclasses.dataclass
+class Record:
+    name: str
+    struct: str
+    named: bool = False
+    pending: bool = False  # declared by name only
+    draft: bool = False  # fields known, family not built yet: no C record yet
+    fields: list[Field] = dataclasses.field(default_factory=list)
+    line: int = 0
+
+
+@dataclasses.dataclass
+class Value:
+    """A parameter or the result of an operation."""
+
+    kind: str
+    name: str
+    record: str | None = None
+    count: str | None = None
+
+
+@dataclasses.dataclass
+class Operation:
+    position: int
+    name: str
+    params: list[Value] = dataclasses.field(default_factory=list)
+    result: Value | None = None
+    otx: int | None = None
+    remote: bool = False
+    discard: bool = False
+    api64: bool = False
+    is_async: bool = False
+    reserved: bool = False
+    sync: Operation | None = None  # for async operations
+    line: int = 0
+
+    @property
+    def error_first(self) -> bool:
+        return self.position >= ERROR_FIRST_POSITION
+
+    @property
+    def callback_class(self) -> str:
+        base = self.sync.name if self.sync else self.name
+        return base[0].upper() + base[1:] + "Callback"
+
+    @property
+    def inputs(self) -> list[Value]:
+        return self.sync.params if self.is_async and self.sync else self.params
+
+
+@dataclasses.dataclass
+class Interface:
+    records: dict[str, Record]
+    operations: list[Operation]
+
+    def record(self, name: str) -> Record:
+        return self.records[name]
+
+    def ready(self, record_name: str, _seen: set[str] | None = None) -> bool:
+        """True when the record and every record it contains have C records."""
+        seen = _seen if _seen is not None else set()
+        if record_name in seen:
+            return True
+        seen.add(record_name)
+        rec = self.records[record_name]
+        if rec.pending or rec.draft:
+            return False
+        refs = [f.record for f in rec.fields if f.record]
+        if rec.named:
+            refs.append("NamedItem")
+        return all(self.ready(r, seen) for r in refs)
+
+    def exported(self, op: Operation) -> bool:
+        """An operation has a C export once all the records it touches are ready."""
+        if op.reserved:
+            return False
+        if op.is_async:
+            return False  # asynchronous exports come with the callback handlers
+        values = list(op.params) + ([op.result] if op.result else [])
+        return all(self.ready(v.record) for v in values if v.record)
+
+    def ready_records(self) -> list[Record]:
+        return [r for r in self.records.values() if self.ready(r.name)]
+
+
+def _words(line: str) -> str:
+    return line.split("#", 1)[0].rstrip()
+
+
+def _parse_field(words: list[str], where: str) -> Field:
+    kind = words[0]
+    m = re.fullmatch(r"(\w+)\[(\d+)\]", kind)
+    if m:
+        if m.group(1) not in SCALARS or len(words) != 2:
+            raise DescriptionError(f"{where}: bad array field")
+        return Field("array", words[1], element=m.group(1), length=int(m.group(2)))
+    if kind in SCALARS or kind == "wstr":
+        if len(words) != 2:
+            raise DescriptionError(f"{where}: '{kind}' takes one name")
+        return Field(kind, words[1])
+    if kind == "rec":
+        if len(words) != 3:
+            raise DescriptionError(f"{where}: 'rec' takes a record and a name")
+        return Field(kind, words[2], record=words[1])
+    if kind == "list":
+        if len(words) != 4:
+            raise DescriptionError(f"{where}: 'list' takes a record, a name and a count")
+        return Field(kind, words[2], record=words[1], count=words[3])
+    if kind in ("wstrs", "bytes"):
+        always = words[-1] == "always"
+        rest = words[1:-1] if always else words[1:]
+        if len(rest) != 2 or (always and kind != "wstrs"):
+            raise DescriptionError(f"{where}: '{kind}' takes a name and a count")
+        return Field(kind, rest[0], count=rest[1], always=always)
+    raise DescriptionError(f"{where}: unknown field kind '{kind}'")
+
+
+def _parse_value(text: str, kinds: set[str], counted: set[str], where: str) -> Value:
+    words = text.split()
+    if not words:
+        raise DescriptionError(f"{where}: empty parameter")
+    kind = words[0]
+    if kind not in kinds:
+        raise DescriptionError(f"{where}: unknown kind '{kind}'")
+    if kind in RECORD_KINDS:
+        want = 4 if kind in counted else 3
+        if len(words) != want:
+            raise DescriptionError(f"{where}: '{text}' needs record, name{' and count' if want == 4 else ''}")
+        return Value(kind, words[2], record=words[1], count=words[3] if want == 4 else None)
+    want = 3 if kind in counted else 2
+    if len(words) != want:
+        raise DescriptionError(f"{where}: '{text}' needs a name{' and a count' if want == 3 else ''}")
+    return Value(kind, words[1], count=words[2] if want == 3 else None)
+
+
+ATTRIBUTES = ("remote", "discard", "api64")
+
+
+def _parse_operation(line: str, where: str) -> Operation:
+    words = line.split()
+    if len(words) == 3 and words[2] == "reserved":
+        return Operation(int(words[1]), f"reserved{words[1]}", reserved=True)
+    if len(words) == 4 and words[3] == "async":
+        return Operation(int(words[1]), words[2], is_async=True)
+    m = re.fullmatch(r"op\s+(\d+)\s+(\w+)\s*\((.*?)\)(.*)", line.strip())
+    if not m:
+        raise DescriptionError(f"{where}: cannot read operation '{line.strip()}'")
+    op = Operation(int(m.group(1)), m.group(2))
+    params = m.group(3).strip()
+    if params:
+        op.params = [_parse_value(p, PARAM_KINDS, COUNTED_PARAMS, where) for p in params.split(",")]
+    rest = m.group(4).split()
+    if rest and rest[0] == "->":
+        rest.pop(0)
+        rwords = []
+        while rest and not (rest[0] in ATTRIBUTES or rest[0].startswith("otx=")):
+            rwords.append(rest.pop(0))
+        op.result = _parse_value(" ".join(rwords), RESULT_KINDS, COUNTED_RESULTS, where)
+    for a in rest:
+        if re.fullmatch(r"otx=\d+", a):
+            op.otx = int(a[4:])
+        elif a in ATTRIBUTES:
+            setattr(op, a, True)
+        else:
+            raise DescriptionError(f"{where}: unknown attribute '{a}'")
+    return op
+
+
+def parse_records(path: pathlib.Path) -> dict[str, Record]:
+    records: dict[str, Record] = {}
+    current: Record | None = None
+    for n, raw in enumerate(path.read_text().splitlines(), 1):
+        where = f"{path.name}:{n}"
+        line = _words(raw)
+        if not line.strip():
+            continue
+        words = line.split()
+        if not raw[0].isspace():
+            if words[0] != "record" or len(words) < 2:
+                raise DescriptionError(f"{where}: expected 'record <Name>'")
+            name = words[1]
+            if name in records:
+                raise DescriptionError(f"{where}: record {name} declared twice")
+            current = Record(name, name, line=n)
+            for attr in words[2:]:
+                if attr == "named":
+                    current.named = True
+                elif attr == "pending":
+                    current.pending = True
+                elif attr == "draft":
+                    current.draft = True
+                elif attr.startswith("struct="):
+                    current.struct = attr[7:]
+                else:
+                    raise DescriptionError(f"{where}: unknown record attribute '{attr}'")
+            records[name] = current
+        else:
+            if current is None:
+                raise DescriptionError(f"{where}: field outside a record")
+            if current.pending:
+                raise DescriptionError(f"{where}: a pending record has no fields")
+            current.fields.append(_parse_field(words, where))
+    return records
+
+
+def parse(root: pathlib.Path) -> Interface:
+    records = parse_records(root / "interface" / "records.def")
+
+    operations: list[Operation] = []
+    path = root / "interface" / "operations.def"
+    for n, raw in enumerate(path.read_text().splitlines(), 1):
+        line = _words(raw)
+        if line.strip():
+            op = _parse_operation(line, f"{path.name}:{n}")
+            op.line = n
+            operations.append(op)
+    operations.sort(key=lambda o: o.position)
+    iface = Interface(records, operations)
+    _validate(iface)
+    return iface
+
+
+def _validate(iface: Interface) -> None:
+    seen: dict[int, Operation] = {}
+    names: set[str] = set()
+    otx: dict[int, str] = {}
+    by_position = {op.position: op for op in iface.operations}
+    for op in iface.operations:
+        if op.position in seen:
+            raise DescriptionError(f"position {op.position} given twice")
+        seen[op.position] = op
+        if op.name in names:
+            raise DescriptionError(f"operation {op.name} given twice")
+        names.add(op.name)
+        if op.otx is not None:
+            if op.otx in otx:
+                raise DescriptionError(f"dispatcher number {op.otx} given twice")
+            otx[op.otx] = op.name
+        if op.is_async:
+            sync = by_position.get(op.position - 1)
+            if not sync or op.name != sync.name + "Async":
+                raise DescriptionError(f"{op.name} does not follow its synchronous form")
+            if not sync.result or sync.result.kind != "list":
+                raise DescriptionError(f"{sync.name} must hand out a record list to have an async form")
+            op.sync = sync
+        for v in op.params + ([op.result] if op.result else []):
+            if v.record and v.record not in iface.records:
+                raise DescriptionError(f"{op.name}: unknown record {v.record}")
+    for rec in iface.records.values():
+        for f in rec.fields:
+            if f.record and f.record not in iface.records:
+                raise DescriptionError(f"record {rec.name}: unknown record {f.record}")
