@@ -22,14 +22,16 @@ inline void* allocate(std::size_t bytes) {
 }
 
 // One record of type T, zero-filled, so that every member not written stays 0/NULL.
-template <class T> T* zeroed() {
+template <class T>
+T* zeroed() {
     void* block = allocate(sizeof(T));
     std::memset(block, 0, sizeof(T));
     return static_cast<T*>(block);
 }
 
 // A zero-filled block of `count` elements.
-template <class T> T* block(std::size_t count) {
+template <class T>
+T* block(std::size_t count) {
     void* memory = allocate(count * sizeof(T));
     std::memset(memory, 0, count * sizeof(T));
     return static_cast<T*>(memory);
@@ -56,8 +58,9 @@ inline uint8_t* copyBytes(const uint8_t* bytes, std::size_t count) {
     return out;
 }
 
-template <class T> void free(T*& pointer) {
-    std::free(const_cast<std::remove_const_t<T>*>(pointer));
+template <class T>
+void free(T*& pointer) {
+    std::free(pointer);
     pointer = nullptr;
 }
 

@@ -9,7 +9,7 @@
 namespace kel {
 
 void capture(KelError** error, const engine_ns::TarnApiException& exception) {
-    KelError* record = heap::zeroed<KelError>();
+    auto* record = heap::zeroed<KelError>();
     *error = record;
     record->code = exception.code;
     record->message = heap::copy(exception.message);

@@ -28,14 +28,20 @@ Varno::Kel_cpp::TarnApi* ApiRegistry::add(const std::shared_ptr<Varno::Kel_cpp::
 }
 
 void ApiRegistry::release(Varno::Kel_cpp::TarnApi* api) {
-    const std::lock_guard lock(mutex_);
-    const ApiRegistryEntry probe{1, api, nullptr};
-    const auto found = entries_.find(probe);
-    if (found == entries_.end()) {
-        return;
-    }
-    if (--found->useCount == 0) {
-        entries_.erase(probe);
+    // The last reference is dropped after the lock is let go: an engine object's
+    // destructor may call back into code that obtains or releases engine objects.
+    std::shared_ptr<Varno::Kel_cpp::TarnApi> last;
+    {
+        const std::lock_guard lock(mutex_);
+        const ApiRegistryEntry probe{1, api, nullptr};
+        const auto found = entries_.find(probe);
+        if (found == entries_.end()) {
+            return;
+        }
+        if (--found->useCount == 0) {
+            last = found->owner;
+            entries_.erase(probe);
+        }
     }
 }
 
