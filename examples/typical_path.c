@@ -1,44 +1,55 @@
-/* The typical path of a C caller, against the simulated vehicle:
- * obtain the engine, initialise it, read its state, take and give back its lock,
- * see how an engine failure arrives as a KelError, end and release.
+/* The typical path of a C caller: identify the control units of the (simulated)
+ * vehicle, read the diagnostic trouble codes of all of them, print them as a table,
+ * release everything and end.
  *
- * Rules shown here: set the KelError* to NULL before each call and test it after;
- * free every record the library hands out with its release_* function. */
+ * Errors come in two kinds: a KelError for the call as a whole (set the KelError* to
+ * NULL before each call and test it after), and a per-target `error` member inside the
+ * results, for a control unit that failed while the call as a whole succeeded. */
 #include <kel_c.h>
-#include <kel_sim.h>
 
 #include <stdio.h>
 #include <stdlib.h>
-
-static const char* const stateNames[] = {"created", "initialized", "ended"};
-
-static void printError(const char* what, const KelError* error) {
-    printf("%s failed: code %d, subCode %d\n", what, error->code, error->subCode);
-    printf("  message: %ls\n", error->message);
-    printf("  details: %ls\n", error->details);
-    if (error->mvciError != NULL) {
-        printf("  MVCI error %d (%ls), vendor code %d (%ls)\n", error->mvciError->code,
-               error->mvciError->codeText, error->mvciError->vendorCode, error->mvciError->vendorCodeText);
-    }
-}
 
 /* Reports a failed call and frees its error record; returns 1 when the call failed. */
 static int failed(const char* what, KelError** error) {
     if (*error == NULL) {
         return 0;
     }
-    printError(what, *error);
+    printf("%s failed: code %d: %ls (%ls)\n", what, (*error)->code, (*error)->message,
+           (*error)->details);
     release_KelError(*error);
     *error = NULL;
     return 1;
 }
 
-static void printState(TarnApi* api) {
-    KelError* error = NULL;
-    int32_t state = -1;
-    kel_getState(api, &error, &state);
-    if (!failed("getState", &error)) {
-        printf("engine state: %d (%s)\n", state, state >= 0 && state <= 2 ? stateNames[state] : "?");
+/* The ISO 14229 status bits a reader looks at first. */
+static const char* statusWords(int32_t status) {
+    if (status & 0x01) {
+        return (status & 0x08) ? "active, confirmed" : "active";
+    }
+    if (status & 0x08) {
+        return "confirmed";
+    }
+    return (status & 0x04) ? "pending" : "stored";
+}
+
+static void printDtcs(ReadDtcResult* const* results, uint32_t count) {
+    printf("%-5s %-7s %-6s %-18s %s\n", "ECU", "code", "status", "", "text");
+    for (uint32_t i = 0; i < count; ++i) {
+        const ReadDtcResult* r = results[i];
+        if (r->error != NULL) {
+            printf("%-5ls error %d: %ls (%ls)\n", r->target, r->error->code, r->error->message,
+                   r->error->details);
+            continue;
+        }
+        if (r->dtcCount == 0) {
+            printf("%-5ls no DTCs stored\n", r->target);
+        }
+        for (uint32_t k = 0; k < r->dtcCount; ++k) {
+            const DtcResult* d = r->dtcs[k];
+            printf("%-5ls %-7ls 0x%02X   %-18s %ls\n", r->target, d->text1, (unsigned)d->value1,
+                   statusWords(d->value1), d->text2);
+        }
     }
 }
 
@@ -49,59 +60,57 @@ int main(void) {
         fprintf(stderr, "no engine\n");
         return EXIT_FAILURE;
     }
-    printState(api);
-
     kel_initialize(api, &error);
     if (failed("initialize", &error)) {
         releaseTarnApi(api);
         return EXIT_FAILURE;
     }
-    printState(api);
 
-    uint64_t handle = 0;
-    kel_getHandle(api, &error, &handle);
-    failed("getHandle", &error);
-    printf("engine handle: 0x%016llx\n", (unsigned long long)handle);
-
-    uint64_t lockId = 0;
-    kel_lock(api, &error, &lockId);
-    if (!failed("lock", &error)) {
-        printf("locked, lock id %llu\n", (unsigned long long)lockId);
+    /* Which control units are there, and which variant does each run? */
+    VariantIdentResult** targets = NULL;
+    uint32_t targetCount = 0;
+    kel_identifyAllTargets(api, &error, &targets, &targetCount);
+    if (failed("identifyAllTargets", &error)) {
+        kel_end(api, &error);
+        failed("end", &error);
+        releaseTarnApi(api);
+        return EXIT_FAILURE;
+    }
+    printf("%u control units:\n", targetCount);
+    for (uint32_t i = 0; i < targetCount; ++i) {
+        if (targets[i]->error != NULL) {
+            printf("  %-5ls not identified: %ls\n", targets[i]->target, targets[i]->error->message);
+        } else {
+            printf("  %-5ls %ls\n", targets[i]->target, targets[i]->variant);
+        }
     }
 
-    /* A second lock is refused by the engine: the error arrives as a KelError and the
-     * output keeps the value it had. */
-    uint64_t secondId = 0;
-    kel_lock(api, &error, &secondId);
-    failed("second lock", &error);
-    printf("second lock id still %llu\n", (unsigned long long)secondId);
+    /* Read the DTCs of every one of them. The name list stays ours (it points into the
+     * identification results); the config is consumed by the call, so it is built with
+     * the library's allocator. */
+    wchar_t** names = (wchar_t**)allocate_Memory(targetCount * sizeof(wchar_t*) + 1);
+    for (uint32_t i = 0; i < targetCount; ++i) {
+        names[i] = targets[i]->target;
+    }
+    DtcReadConfig* config = (DtcReadConfig*)allocate_Memory(sizeof *config);
+    config->value = 0; /* status mask: 0 reads every stored DTC */
+    config->flag1 = 1; /* with snapshot data */
+    config->flag2 = 1; /* with extended data */
+    config->flag3 = 0; /* without special data groups */
 
-    kel_unlock(api, lockId, &error);
-    if (!failed("unlock", &error)) {
-        bool locked = true;
-        kel_isLocked(api, &error, &locked);
-        failed("isLocked", &error);
-        printf("unlocked, isLocked = %s\n", locked ? "true" : "false");
+    ReadDtcResult** dtcs = NULL;
+    uint32_t dtcTargetCount = 0;
+    kel_readDtcs(api, names, targetCount, config, &error, &dtcs, &dtcTargetCount);
+    if (!failed("readDtcs", &error)) {
+        printf("\n");
+        printDtcs(dtcs, dtcTargetCount);
     }
 
-    /* The simulated vehicle can be told to fail: here the next getState reports an
-     * MVCI communication error beneath the engine error. */
-    kelsim_failNextWithMvci("getState", 1, 42, 7, L"Communication with the vehicle interface failed",
-                            L"VCI did not answer within 2000 ms", 0x0101, L"PDU_ERR_COMM_PC_TO_VCI_FAILED",
-                            -3, L"VCI timeout", L"", 0);
-    int32_t state = 12345;
-    kel_getState(api, &error, &state);
-    failed("getState (scripted)", &error);
-    printf("state output untouched: %d\n", state);
-
-    uint64_t micros = 0;
-    kel_getCallDuration(api, &error, &micros);
-    failed("getCallDuration", &error);
-    printf("previous call took %llu us\n", (unsigned long long)micros);
-
+    release_ReadDtcResult_array(dtcs, dtcTargetCount);
+    release_Memory(names);
+    release_VariantIdentResult_array(targets, targetCount);
     kel_end(api, &error);
     failed("end", &error);
-    printState(api);
     releaseTarnApi(api);
     return EXIT_SUCCESS;
 }

@@ -42,6 +42,19 @@ typedef struct MvciServerError MvciServerError;
 typedef struct NegativeResponse NegativeResponse;
 typedef struct KelError_struct KelError;
 typedef struct NamedItem NamedItem;
+typedef struct ParameterResult ParameterResult;
+typedef struct ClearDtcResult ClearDtcResult;
+typedef struct DtcReadConfig DtcReadConfig;
+typedef struct ReadDtcResult ReadDtcResult;
+typedef struct DtcResult DtcResult;
+typedef struct SpecialDataGroup SpecialDataGroup;
+typedef struct VariantIdentResult VariantIdentResult;
+typedef struct ReadDataResult ReadDataResult;
+typedef struct Target Target;
+typedef struct TargetStatus TargetStatus;
+typedef struct TargetFilter TargetFilter;
+typedef struct KelEvent KelEvent;
+typedef struct EventReport EventReport;
 
 struct MvciServerError {
     int32_t code;
@@ -77,6 +90,132 @@ struct NamedItem {
     wchar_t* itemText4;
 };
 
+struct ParameterResult {
+    wchar_t* itemText1;
+    wchar_t* itemText2;
+    wchar_t* itemText3;
+    wchar_t* itemText4;
+    wchar_t* text1;
+    wchar_t* text2;
+    int32_t value1;
+    ParameterResult** children;
+    uint32_t childCount;
+    wchar_t* text3;
+    KelError* error;
+    wchar_t* text4;
+    int32_t value2;
+    uint8_t* data;
+    uint32_t dataLength;
+    uint32_t value3;
+    uint8_t flag;
+    int32_t value4;
+};
+
+struct ClearDtcResult {
+    int32_t status;
+    wchar_t* target;
+    KelError* error;
+};
+
+struct DtcReadConfig {
+    int32_t value;
+    uint8_t flag1;
+    uint8_t flag2;
+    uint8_t flag3;
+};
+
+struct ReadDtcResult {
+    int32_t status;
+    wchar_t* target;
+    KelError* error;
+    DtcResult** dtcs;
+    uint32_t dtcCount;
+    int32_t value;
+};
+
+struct DtcResult {
+    int32_t code;
+    wchar_t* text1;
+    wchar_t* text2;
+    int32_t value1;
+    ParameterResult** parameters1;
+    uint32_t parameterCount1;
+    ParameterResult** parameters2;
+    uint32_t parameterCount2;
+    wchar_t* text3;
+    wchar_t* text4;
+    SpecialDataGroup** specialDataGroups;
+    uint32_t specialDataGroupCount;
+    int32_t value2;
+};
+
+struct SpecialDataGroup {
+    NamedItem** items;
+    uint32_t itemCount;
+};
+
+struct VariantIdentResult {
+    wchar_t* target;
+    int32_t status;
+    KelError* error;
+    wchar_t* variant;
+};
+
+struct ReadDataResult {
+    wchar_t* target;
+    int32_t status;
+    wchar_t* text;
+    KelError* error;
+    ParameterResult** parameters;
+    uint32_t parameterCount;
+};
+
+struct Target {
+    wchar_t* itemText1;
+    wchar_t* itemText2;
+    wchar_t* itemText3;
+    wchar_t* itemText4;
+    int32_t value1;
+    wchar_t* text1;
+    wchar_t* text2;
+    NamedItem** items;
+    uint32_t itemCount;
+    wchar_t** names;
+    uint32_t nameCount;
+    wchar_t* text3;
+    wchar_t* text4;
+    int32_t value2;
+    wchar_t* text5;
+};
+
+struct TargetStatus {
+    wchar_t* target;
+    wchar_t* text;
+    KelError* error;
+    uint32_t values[5];
+    wchar_t* text2;
+};
+
+struct TargetFilter {
+    wchar_t* pattern;
+    uint8_t flag;
+    int32_t value;
+};
+
+struct KelEvent {
+    wchar_t* name;
+    int32_t kind;
+    int32_t code;
+    wchar_t* text;
+    KelError* error;
+    wchar_t* detail;
+};
+
+struct EventReport {
+    KelEvent** events;
+    uint32_t eventCount;
+};
+
 /* ---- engine objects ----
  * Every kel_getTarnApi / kel_getRemoteConnectionByHandle is matched by one releaseTarnApi.
  * Getting the same engine object twice returns the same address and counts two uses. */
@@ -94,6 +233,40 @@ KEL_C_API wchar_t* duplicate_WString(const wchar_t* s);
 KEL_C_API void release_Memory(void* p);
 KEL_C_API void release_StringArray(wchar_t** ptr, uint64_t count);
 
+/* ---- calls by number over a byte stream (OTX runtimes, Python) ----
+ * kel_call reads the arguments of operation `operation` from `input` and hands out a
+ * result stream: a status byte (1 success, 0 engine error), then the results or the
+ * error record. Fetch it with kel_call_result, which copies it into `destination`
+ * (at least *outSize bytes) and frees it; a second call on the same stream copies
+ * nothing. `handle` 0 is the local engine, any other value the engine object with
+ * that handle (see kel_getHandle); when the engine rejects the handle, every operation
+ * answers status 0 with the engine's error. Unknown numbers leave the outputs alone. */
+KEL_C_API void kel_call(uint64_t handle, int32_t operation, const void* input, void** outStream,
+                        uint64_t* outSize);
+KEL_C_API void* kel_call_result(void* stream, void* destination);
+
+/* py_call: the same operations for a Python extension: no status byte, the error
+ * record as the whole result with return value -1; 0 on success, or the 32-bit result
+ * of the operations that return one. `api` NULL is the local engine. The result buffer
+ * goes back through py_result, which copies `size` bytes to `destination` and frees it. */
+KEL_C_API int32_t py_call(TarnApi* api, int32_t operation, uint64_t reserved, const void* input,
+                          uint32_t* outSize, void** outBuffer);
+KEL_C_API void py_result(void* destination, int32_t size, void* buffer);
+
+/* Bounds-checked forms, additions of this library: they take the input's size and
+ * answer input that is short or malformed (a count running past the end, a string
+ * without NUL) with an error record of code KEL_ERROR_MALFORMED_INPUT instead of
+ * reading past the buffer. */
+KEL_C_API void kel_call_checked(uint64_t handle, int32_t operation, const void* input,
+                                uint64_t inputSize, void** outStream, uint64_t* outSize);
+KEL_C_API int32_t py_call_checked(TarnApi* api, int32_t operation, uint64_t reserved,
+                                  const void* input, uint64_t inputSize, uint32_t* outSize,
+                                  void** outBuffer);
+
+/* Error codes of the library itself, in the error record of the call stream. */
+#define KEL_ERROR_MALFORMED_INPUT (-1001) /* checked calls: input short or malformed */
+#define KEL_ERROR_NOT_AVAILABLE (-1002)   /* the operation's records are not built yet */
+
 /* ---- release functions: NULL-safe; _array takes the count the export gave ---- */
 KEL_C_API void release_MvciServerError(MvciServerError* ptr);
 KEL_C_API void release_MvciServerError_array(MvciServerError** ptr, uint64_t count);
@@ -103,6 +276,63 @@ KEL_C_API void release_KelError(KelError* ptr);
 KEL_C_API void release_KelError_array(KelError** ptr, uint64_t count);
 KEL_C_API void release_NamedItem(NamedItem* ptr);
 KEL_C_API void release_NamedItem_array(NamedItem** ptr, uint64_t count);
+KEL_C_API void release_ParameterResult(ParameterResult* ptr);
+KEL_C_API void release_ParameterResult_array(ParameterResult** ptr, uint64_t count);
+KEL_C_API void release_ClearDtcResult(ClearDtcResult* ptr);
+KEL_C_API void release_ClearDtcResult_array(ClearDtcResult** ptr, uint64_t count);
+KEL_C_API void release_DtcReadConfig(DtcReadConfig* ptr);
+KEL_C_API void release_DtcReadConfig_array(DtcReadConfig** ptr, uint64_t count);
+KEL_C_API void release_ReadDtcResult(ReadDtcResult* ptr);
+KEL_C_API void release_ReadDtcResult_array(ReadDtcResult** ptr, uint64_t count);
+KEL_C_API void release_DtcResult(DtcResult* ptr);
+KEL_C_API void release_DtcResult_array(DtcResult** ptr, uint64_t count);
+KEL_C_API void release_SpecialDataGroup(SpecialDataGroup* ptr);
+KEL_C_API void release_SpecialDataGroup_array(SpecialDataGroup** ptr, uint64_t count);
+KEL_C_API void release_VariantIdentResult(VariantIdentResult* ptr);
+KEL_C_API void release_VariantIdentResult_array(VariantIdentResult** ptr, uint64_t count);
+KEL_C_API void release_ReadDataResult(ReadDataResult* ptr);
+KEL_C_API void release_ReadDataResult_array(ReadDataResult** ptr, uint64_t count);
+KEL_C_API void release_Target(Target* ptr);
+KEL_C_API void release_Target_array(Target** ptr, uint64_t count);
+KEL_C_API void release_TargetStatus(TargetStatus* ptr);
+KEL_C_API void release_TargetStatus_array(TargetStatus** ptr, uint64_t count);
+KEL_C_API void release_TargetFilter(TargetFilter* ptr);
+KEL_C_API void release_TargetFilter_array(TargetFilter** ptr, uint64_t count);
+KEL_C_API void release_KelEvent(KelEvent* ptr);
+KEL_C_API void release_KelEvent_array(KelEvent** ptr, uint64_t count);
+KEL_C_API void release_EventReport(EventReport* ptr);
+KEL_C_API void release_EventReport_array(EventReport** ptr, uint64_t count);
+
+/* ---- callbacks of the asynchronous operations ----
+ * Called once or several times per call, on a thread of the engine; isFinal marks
+ * the last report. The results and the error (NULL when none) belong to the callee,
+ * which frees them with release_X_array and release_KelError. */
+typedef void (*IdentifyAllTargetsCallbackFunction)(VariantIdentResult** results,
+                                                   uint32_t resultCount, bool isFinal,
+                                                   uint64_t callId, KelError* error, void* context);
+typedef void (*ReadIdentificationValuesCallbackFunction)(ReadDataResult** results,
+                                                         uint32_t resultCount, bool isFinal,
+                                                         uint64_t callId, KelError* error,
+                                                         void* context);
+typedef void (*ReadDtcsCallbackFunction)(ReadDtcResult** results, uint32_t resultCount,
+                                         bool isFinal, uint64_t callId, KelError* error,
+                                         void* context);
+typedef void (*ReadSupportedDtcsCallbackFunction)(ReadDtcResult** results, uint32_t resultCount,
+                                                  bool isFinal, uint64_t callId, KelError* error,
+                                                  void* context);
+typedef void (*ClearAllDtcsCallbackFunction)(ClearDtcResult** results, uint32_t resultCount,
+                                             bool isFinal, uint64_t callId, KelError* error,
+                                             void* context);
+typedef void (*ReadMeasurementValuesCallbackFunction)(ReadDataResult** results,
+                                                      uint32_t resultCount, bool isFinal,
+                                                      uint64_t callId, KelError* error,
+                                                      void* context);
+typedef void (*IdentifyTargetsCallbackFunction)(VariantIdentResult** results, uint32_t resultCount,
+                                                bool isFinal, uint64_t callId, KelError* error,
+                                                void* context);
+typedef void (*ClearSpecificDtcsCallbackFunction)(ClearDtcResult** results, uint32_t resultCount,
+                                                  bool isFinal, uint64_t callId, KelError* error,
+                                                  void* context);
 
 /* ---- operations, in engine order (the number is the engine position) ---- */
 KEL_C_API void kel_initialize(TarnApi* api, KelError** error); /* 2 */
@@ -119,11 +349,48 @@ KEL_C_API void kel_releaseMonitoringLink(TarnApi* api, uint64_t handle, KelError
 KEL_C_API void kel_createPduMonitor(TarnApi* api, KelError** error, uint64_t* handle);     /* 14 */
 KEL_C_API void kel_saveConfiguration(TarnApi* api, KelError** error);                      /* 15 */
 KEL_C_API void kel_releasePduMonitor(TarnApi* api, uint64_t handle, KelError** error);     /* 16 */
+KEL_C_API void kel_identifyAllTargets(TarnApi* api, KelError** error, VariantIdentResult*** results,
+                                      uint32_t* resultCount); /* 17 */
+KEL_C_API uint64_t kel_identifyAllTargetsAsync(TarnApi* api, KelError** error,
+                                               IdentifyAllTargetsCallbackFunction callback,
+                                               void* context); /* 18 */
+KEL_C_API void kel_readIdentificationValues(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                            KelError** error, ReadDataResult*** results,
+                                            uint32_t* resultCount); /* 19 */
+KEL_C_API uint64_t kel_readIdentificationValuesAsync(
+    TarnApi* api, wchar_t** targets, uint32_t targetCount, KelError** error,
+    ReadIdentificationValuesCallbackFunction callback, void* context); /* 20 */
+KEL_C_API void kel_readDataByIdentifiers(TarnApi* api, const wchar_t* target, wchar_t** identifiers,
+                                         uint32_t identifierCount, KelError** error,
+                                         ReadDataResult*** results, uint32_t* resultCount); /* 21 */
+KEL_C_API void kel_identifyTarget(TarnApi* api, const wchar_t* target, KelError** error,
+                                  VariantIdentResult** result); /* 22 */
+KEL_C_API void kel_readDtcs(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                            DtcReadConfig* config, KelError** error, ReadDtcResult*** results,
+                            uint32_t* resultCount); /* 23 */
+KEL_C_API uint64_t kel_readDtcsAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                     DtcReadConfig* config, KelError** error,
+                                     ReadDtcsCallbackFunction callback, void* context); /* 24 */
+KEL_C_API void kel_readSupportedDtcs(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                     DtcReadConfig* config, KelError** error,
+                                     ReadDtcResult*** results, uint32_t* resultCount); /* 25 */
+KEL_C_API uint64_t kel_readSupportedDtcsAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                              DtcReadConfig* config, KelError** error,
+                                              ReadSupportedDtcsCallbackFunction callback,
+                                              void* context); /* 26 */
+KEL_C_API void kel_clearAllDtcs(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                KelError** error, ClearDtcResult*** results,
+                                uint32_t* resultCount); /* 27 */
+KEL_C_API uint64_t kel_clearAllDtcsAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                         KelError** error, ClearAllDtcsCallbackFunction callback,
+                                         void* context); /* 28 */
 KEL_C_API void kel_connectRemoteServer(TarnApi* api, const wchar_t* text, KelError** error,
                                        uint64_t* handle); /* 37 */
 KEL_C_API void kel_registerMeasurementValues(TarnApi* api, const wchar_t* target, wchar_t** names,
                                              uint32_t nameCount, KelError** error,
                                              uint64_t* registration); /* 39 */
+KEL_C_API void kel_getMeasurementValues(TarnApi* api, uint64_t registration, KelError** error,
+                                        ReadDataResult*** results, uint32_t* resultCount); /* 40 */
 KEL_C_API void kel_unregisterMeasurementValues(TarnApi* api, uint64_t registration,
                                                KelError** error);       /* 41 */
 KEL_C_API void kel_cancelAllAsyncCalls(TarnApi* api, KelError** error); /* 43 */
@@ -133,6 +400,8 @@ KEL_C_API void kel_sendKey(TarnApi* api, const uint8_t* key, uint32_t keyLength,
                            KelError** error);                                           /* 45 */
 KEL_C_API void kel_openEventChannel(TarnApi* api, KelError** error, uint64_t* channel); /* 46 */
 KEL_C_API void kel_closeEventChannel(TarnApi* api, uint64_t channel, KelError** error); /* 47 */
+KEL_C_API void kel_getCurrentEvents(TarnApi* api, uint64_t channel, uint32_t limit,
+                                    KelError** error, EventReport** report); /* 48 */
 KEL_C_API void kel_openTraceFileMonitoringLink(TarnApi* api, uint64_t handle,
                                                const wchar_t* traceFile, KelError** error); /* 49 */
 KEL_C_API void kel_startTraceFileMonitoringLink(TarnApi* api, uint64_t handle,
@@ -145,16 +414,34 @@ KEL_C_API void kel_saveInterfaceConfiguration(TarnApi* api, KelError** error); /
 KEL_C_API void kel_disconnect(TarnApi* api, KelError** error);                 /* 56 */
 KEL_C_API void kel_getInterfaceLongName(TarnApi* api, const wchar_t* name, KelError** error,
                                         wchar_t** longName); /* 57 */
+KEL_C_API void kel_readMeasurementValues(TarnApi* api, const wchar_t* target, wchar_t** names,
+                                         uint32_t nameCount, KelError** error,
+                                         ReadDataResult*** results, uint32_t* resultCount); /* 58 */
+KEL_C_API uint64_t kel_readMeasurementValuesAsync(TarnApi* api, const wchar_t* target,
+                                                  wchar_t** names, uint32_t nameCount,
+                                                  KelError** error,
+                                                  ReadMeasurementValuesCallbackFunction callback,
+                                                  void* context); /* 59 */
 KEL_C_API void kel_readFile(TarnApi* api, const wchar_t* path, uint64_t value1, uint32_t value2,
                             bool flag, KelError** error, void** data,
-                            uint32_t* dataLength);                                       /* 60 */
-KEL_C_API void kel_connectInterfaces(TarnApi* api, KelError** error);                    /* 61 */
-KEL_C_API void kel_disconnectInterfaces(TarnApi* api, KelError** error);                 /* 62 */
-KEL_C_API void kel_executeDoIPBroadcast(TarnApi* api, KelError** error);                 /* 63 */
-KEL_C_API void kel_refreshProjectList(TarnApi* api, KelError** error);                   /* 64 */
+                            uint32_t* dataLength);                       /* 60 */
+KEL_C_API void kel_connectInterfaces(TarnApi* api, KelError** error);    /* 61 */
+KEL_C_API void kel_disconnectInterfaces(TarnApi* api, KelError** error); /* 62 */
+KEL_C_API void kel_executeDoIPBroadcast(TarnApi* api, KelError** error); /* 63 */
+KEL_C_API void kel_refreshProjectList(TarnApi* api, KelError** error);   /* 64 */
+KEL_C_API void kel_identifyTargets(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                   KelError** error, VariantIdentResult*** results,
+                                   uint32_t* resultCount); /* 65 */
+KEL_C_API uint64_t kel_identifyTargetsAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                            KelError** error,
+                                            IdentifyTargetsCallbackFunction callback,
+                                            void* context);                              /* 66 */
 KEL_C_API void kel_releaseSocketBridge(TarnApi* api, uint64_t bridge, KelError** error); /* 68 */
 KEL_C_API void kel_createSocketBridge(TarnApi* api, uint32_t value1, uint32_t value2,
                                       KelError** error, uint64_t* bridge); /* 69 */
+KEL_C_API void kel_getFilteredTargets(TarnApi* api, TargetFilter** filters, uint32_t filterCount,
+                                      KelError** error, Target*** targets,
+                                      uint32_t* targetCount); /* 74 */
 KEL_C_API void kel_isProjectConversionRequired(TarnApi* api, const wchar_t* projectPath,
                                                KelError** error, bool* required); /* 75 */
 KEL_C_API void kel_convertProject(TarnApi* api, const wchar_t* projectPath,
@@ -225,6 +512,9 @@ KEL_C_API void kel_checkUpdateSuccess(TarnApi* api, KelError** error, bool* succ
 KEL_C_API void kel_cleanUpdateTmp(TarnApi* api, KelError** error);                      /* 165 */
 KEL_C_API void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error,
                                          bool* reconnected); /* 172 */
+KEL_C_API void kel_getTargetStatus(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                   KelError** error, TargetStatus*** statuses,
+                                   uint32_t* statusCount); /* 181 */
 KEL_C_API void kel_moveFile(TarnApi* api, const wchar_t* source, const wchar_t* target,
                             KelError** error, bool* moved); /* 184 */
 KEL_C_API void kel_moveDirectory(TarnApi* api, const wchar_t* source, const wchar_t* target,
@@ -266,7 +556,15 @@ KEL_C_API void kel_getEcuOrderFilePath(TarnApi* api, KelError** error, wchar_t**
 KEL_C_API void kel_triggerAsyncCancels(TarnApi* api, const uint64_t* callIds, uint32_t callIdCount,
                                        KelError** error); /* 227 */
 KEL_C_API void kel_addPublicDirectory(TarnApi* api, const wchar_t* name, const wchar_t* path,
-                                      KelError** error);                          /* 230 */
+                                      KelError** error); /* 230 */
+KEL_C_API void kel_clearSpecificDtcs(TarnApi* api, const wchar_t* target, const uint32_t* dtcCodes,
+                                     uint32_t dtcCodeCount, KelError** error,
+                                     ClearDtcResult*** results, uint32_t* resultCount); /* 235 */
+KEL_C_API uint64_t kel_clearSpecificDtcsAsync(TarnApi* api, const wchar_t* target,
+                                              const uint32_t* dtcCodes, uint32_t dtcCodeCount,
+                                              KelError** error,
+                                              ClearSpecificDtcsCallbackFunction callback,
+                                              void* context);                     /* 236 */
 KEL_C_API void kel_startSOVDServer(TarnApi* api, KelError** error);               /* 237 */
 KEL_C_API void kel_stopSOVDServer(TarnApi* api, KelError** error);                /* 238 */
 KEL_C_API void kel_getState(TarnApi* api, KelError** error, int32_t* state);      /* 242 */
@@ -274,10 +572,16 @@ KEL_C_API void kel_getVersion(TarnApi* api, KelError** error, wchar_t** version)
 KEL_C_API void kel_getSelectedProject(TarnApi* api, KelError** error,
                                       wchar_t** projectName); /* 244 */
 KEL_C_API void kel_setSelectedProject(TarnApi* api, KelError** error,
-                                      const wchar_t* projectName);              /* 245 */
+                                      const wchar_t* projectName); /* 245 */
+KEL_C_API void kel_getTargets(TarnApi* api, KelError** error, Target*** targets,
+                              uint32_t* targetCount);                           /* 251 */
 KEL_C_API void kel_getHandle(TarnApi* api, KelError** error, uint64_t* handle); /* 254 */
 KEL_C_API void kel_getMonitoringLinks(TarnApi* api, KelError** error, wchar_t*** links,
                                       uint32_t* linkCount); /* 259 */
+KEL_C_API void kel_getSessionTargetFilters(TarnApi* api, KelError** error, TargetFilter*** filters,
+                                           uint32_t* filterCount); /* 263 */
+KEL_C_API void kel_setSessionTargetFilters(TarnApi* api, KelError** error, TargetFilter** filters,
+                                           uint32_t filterCount); /* 264 */
 KEL_C_API void kel_getCurrentDebugTraceDirectory(TarnApi* api, KelError** error,
                                                  wchar_t** directory);                  /* 268 */
 KEL_C_API void kel_getCallDuration(TarnApi* api, KelError** error, uint64_t* duration); /* 270 */

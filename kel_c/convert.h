@@ -11,34 +11,54 @@
 #include "generated/records.h"
 #include "heap.h"
 
+#include <cstddef>
 #include <memory>
 #include <tuple>
+#include <type_traits>
 #include <vector>
 
 namespace kel {
 
-template <class C> C* toC(const EngineOf<C>* engine) {
+// The table that pairs C record C with engine class E. An alias may lack members of the
+// C record; those stay zero in C and default in the engine record.
+template <class C, class E>
+constexpr const auto& fieldsOf() {
+    if constexpr (std::is_same_v<E, EngineOf<C>>) {
+        return Record<C>::fields;
+    } else {
+        return Alias<C, E>::fields;
+    }
+}
+
+template <class C, class E>
+C* toC(const E* engine) {
     if (engine == nullptr) {
         return nullptr;
     }
     C* record = heap::zeroed<C>();
-    std::apply([&](const auto&... f) { (f.toC(*record, *engine), ...); }, Record<C>::fields);
+    std::apply([&](const auto&... f) { (f.toC(*record, *engine), ...); }, fieldsOf<C, E>());
     return record;
 }
+template <class C>
+C* toC(std::nullptr_t) {
+    return nullptr;
+}
 
-template <class C> std::shared_ptr<EngineOf<C>> fromC(C* record, bool consume) {
+template <class C, class E>
+std::shared_ptr<E> fromC(C* record, bool consume) {
     if (record == nullptr) {
         return {};
     }
-    auto engine = std::make_shared<EngineOf<C>>();
-    std::apply([&](const auto&... f) { (f.fromC(*engine, *record), ...); }, Record<C>::fields);
+    auto engine = std::make_shared<E>();
+    std::apply([&](const auto&... f) { (f.fromC(*engine, *record), ...); }, fieldsOf<C, E>());
     if (consume) {
         release(record);
     }
     return engine;
 }
 
-template <class C> void release(C* record) {
+template <class C>
+void release(C* record) {
     if (record == nullptr) {
         return;
     }
@@ -46,7 +66,8 @@ template <class C> void release(C* record) {
     std::free(record);
 }
 
-template <class C> void releaseArray(C** records, uint64_t count) {
+template <class C>
+void releaseArray(C** records, uint64_t count) {
     if (records == nullptr) {
         return;
     }
@@ -71,12 +92,12 @@ void listToC(const std::vector<std::shared_ptr<E>>& engine, C**& block, uint32_t
 
 // A zero count gives an empty vector without reading the block; NULL entries become
 // null engine pointers.
-template <class C>
-std::vector<std::shared_ptr<EngineOf<C>>> listFromC(C* const* block, uint32_t count) {
-    std::vector<std::shared_ptr<EngineOf<C>>> engine;
+template <class C, class E>
+std::vector<std::shared_ptr<E>> listFromC(C* const* block, uint32_t count) {
+    std::vector<std::shared_ptr<E>> engine;
     engine.reserve(count);
     for (uint32_t i = 0; i < count; ++i) {
-        engine.push_back(fromC(block[i], false));
+        engine.push_back(fromC<C, E>(block[i], false));
     }
     return engine;
 }

@@ -23,7 +23,8 @@ namespace engine_ns = Varno::Kel_cpp;
 // failure while filling it still leaves the caller a record to free.
 void capture(KelError** error, const engine_ns::TarnApiException& exception);
 
-template <class Call, class... Out> void invoke(KelError** error, Call&& call, Out&&... out) {
+template <class Call, class... Out>
+void invoke(KelError** error, Call&& call, Out&&... out) {
     try {
         if constexpr (sizeof...(Out) == 0) {
             call();
@@ -31,7 +32,8 @@ template <class Call, class... Out> void invoke(KelError** error, Call&& call, O
             auto result = call();
             (out.store(result), ...);
         }
-    } catch (engine_ns::TarnApiException exception) { // NOLINT(misc-throw-by-value-catch-by-reference)
+    } catch (
+        engine_ns::TarnApiException exception) { // NOLINT(misc-throw-by-value-catch-by-reference)
         capture(error, exception);
     }
 }
@@ -55,14 +57,19 @@ inline std::vector<std::wstring> texts(wchar_t* const* values, uint32_t count) {
 }
 
 // Copied as one block of `count` elements; the caller keeps its array.
-template <class T> std::vector<T> values(const T* block, uint32_t count) {
+template <class T>
+std::vector<T> values(const T* block, uint32_t count) {
     return count == 0 ? std::vector<T>{} : std::vector<T>(block, block + count);
 }
 
 // A single input record passes into the export's ownership.
-template <class C> std::shared_ptr<EngineOf<C>> record(C* value) { return fromC(value, true); }
+template <class C>
+std::shared_ptr<EngineOf<C>> record(C* value) {
+    return fromC(value, true);
+}
 
-template <class C> std::vector<std::shared_ptr<EngineOf<C>>> records(C* const* block, uint32_t count) {
+template <class C>
+std::vector<std::shared_ptr<EngineOf<C>>> records(C* const* block, uint32_t count) {
     return listFromC(block, count);
 }
 
@@ -75,11 +82,18 @@ inline std::shared_ptr<engine_ns::ServerHandler> handler(void* value) {
 
 namespace out {
 
-template <class T> struct Value {
+template <class T>
+struct Value {
     T* to;
-    template <class R> void store(const R& result) const { *to = static_cast<T>(result); }
+    template <class R>
+    void store(const R& result) const {
+        *to = static_cast<T>(result);
+    }
 };
-template <class T> Value<T> value(T* to) { return {to}; }
+template <class T>
+Value<T> value(T* to) {
+    return {to};
+}
 
 struct Text {
     wchar_t** to;
@@ -97,7 +111,7 @@ struct Texts {
             *to = nullptr;
             return;
         }
-        wchar_t** block = heap::block<wchar_t*>(result.size());
+        auto** block = heap::block<wchar_t*>(result.size());
         for (std::size_t i = 0; i < result.size(); ++i) {
             block[i] = heap::copy(result[i]);
         }
@@ -107,7 +121,8 @@ struct Texts {
 inline Texts texts(wchar_t*** to, uint32_t* count) { return {to, count}; }
 
 // A byte buffer handed out directly is always allocated, also for zero bytes.
-template <class P> struct Buffer {
+template <class P>
+struct Buffer {
     P** to;
     uint32_t* count;
     void store(const std::vector<uint8_t>& result) const {
@@ -115,18 +130,30 @@ template <class P> struct Buffer {
         *count = static_cast<uint32_t>(result.size());
     }
 };
-template <class P> Buffer<P> buffer(P** to, uint32_t* count) { return {to, count}; }
+template <class P>
+Buffer<P> buffer(P** to, uint32_t* count) {
+    return {to, count};
+}
 
-template <class C> struct One {
+template <class C>
+struct One {
     C** to;
-    template <class E> void store(const std::shared_ptr<E>& result) const { *to = toC<C>(result.get()); }
+    template <class E>
+    void store(const std::shared_ptr<E>& result) const {
+        *to = toC<C>(result.get());
+    }
 };
-template <class C> One<C> record(C** to) { return {to}; }
+template <class C>
+One<C> record(C** to) {
+    return {to};
+}
 
-template <class C> struct List {
+template <class C>
+struct List {
     C*** to;
     uint32_t* count;
-    template <class E> void store(const std::vector<std::shared_ptr<E>>& result) const {
+    template <class E>
+    void store(const std::vector<std::shared_ptr<E>>& result) const {
         C** block = nullptr;
         uint32_t n = 0;
         listToC<C>(result, block, n);
@@ -134,13 +161,18 @@ template <class C> struct List {
         *to = block;
     }
 };
-template <class C> List<C> records(C*** to, uint32_t* count) { return {to, count}; }
+template <class C>
+List<C> records(C*** to, uint32_t* count) {
+    return {to, count};
+}
 
 // An engine object handed out by the engine joins the registry; the caller receives
 // its address (and gives it back with releaseTarnApi).
 struct Registered {
     engine_ns::TarnApi** to;
-    void store(const std::shared_ptr<engine_ns::TarnApi>& result) const { *to = registry().add(result); }
+    void store(const std::shared_ptr<engine_ns::TarnApi>& result) const {
+        *to = registry().add(result);
+    }
 };
 
 // The same for an operation whose result is an engine object: the address travels as

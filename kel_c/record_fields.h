@@ -23,63 +23,100 @@ namespace kel {
 
 // Specialised for every C record in generated/records.h: `Engine` is the engine class,
 // `fields` the descriptor tuple.
-template <class C> struct Record;
+template <class C>
+struct Record;
 
-template <class C> using EngineOf = typename Record<C>::Engine;
+template <class C>
+using EngineOf = typename Record<C>::Engine;
 
-// The one-record and list converters, defined in convert.h.
-template <class C> C* toC(const EngineOf<C>* engine);
-template <class C> std::shared_ptr<EngineOf<C>> fromC(C* record, bool consume);
-template <class C> void release(C* record);
-template <class C> void releaseArray(C** records, uint64_t count);
+// Specialised in generated/records.h for each further engine class E that is handed out
+// as the C record C (`as=` in the description): `fields` pairs E's members with C's.
+template <class C, class E>
+struct Alias;
+
+// The one-record and list converters, defined in convert.h. E is the engine class: the
+// C record's own, or one of its aliases.
+template <class C, class E>
+C* toC(const E* engine);
+template <class C, class E = EngineOf<C>>
+std::shared_ptr<E> fromC(C* record, bool consume);
+template <class C>
+void release(C* record);
+template <class C>
+void releaseArray(C** records, uint64_t count);
 template <class C, class E>
 void listToC(const std::vector<std::shared_ptr<E>>& engine, C**& block, uint32_t& count);
-template <class C> std::vector<std::shared_ptr<EngineOf<C>>> listFromC(C* const* block, uint32_t count);
+template <class C, class E = EngineOf<C>>
+std::vector<std::shared_ptr<E>> listFromC(C* const* block, uint32_t count);
 
 // Marks a string list whose block is allocated even when it is empty.
 struct Always {};
 inline constexpr Always always{};
 
-template <class CM, class EM, class C, class E> struct ValueField {
+template <class CM, class EM, class C, class E>
+struct ValueField {
     CM C::*c;
     EM E::*e;
-    template <class CR, class ER> void toC(CR& to, const ER& from) const { to.*c = static_cast<CM>(from.*e); }
-    template <class ER, class CR> void fromC(ER& to, const CR& from) const { to.*e = static_cast<EM>(from.*c); }
-    template <class CR> void release(CR& /*record*/) const {}
+    template <class CR, class ER>
+    void toC(CR& to, const ER& from) const {
+        to.*c = static_cast<CM>(from.*e);
+    }
+    template <class ER, class CR>
+    void fromC(ER& to, const CR& from) const {
+        to.*e = static_cast<EM>(from.*c);
+    }
+    template <class CR>
+    void release(CR& /*record*/) const {}
 };
 
-template <class T, std::size_t N, class C, class E> struct ArrayField {
+template <class T, std::size_t N, class C, class E>
+struct ArrayField {
     T (C::*c)[N];
     std::array<T, N> E::*e;
-    template <class CR, class ER> void toC(CR& to, const ER& from) const {
+    template <class CR, class ER>
+    void toC(CR& to, const ER& from) const {
         for (std::size_t i = 0; i < N; ++i) {
             (to.*c)[i] = (from.*e)[i];
         }
     }
-    template <class ER, class CR> void fromC(ER& to, const CR& from) const {
+    template <class ER, class CR>
+    void fromC(ER& to, const CR& from) const {
         for (std::size_t i = 0; i < N; ++i) {
             (to.*e)[i] = (from.*c)[i];
         }
     }
-    template <class CR> void release(CR& /*record*/) const {}
+    template <class CR>
+    void release(CR& /*record*/) const {}
 };
 
-template <class C, class E> struct TextField {
+template <class C, class E>
+struct TextField {
     wchar_t* C::*c;
     std::wstring E::*e;
-    template <class CR, class ER> void toC(CR& to, const ER& from) const { to.*c = heap::copy(from.*e); }
+    template <class CR, class ER>
+    void toC(CR& to, const ER& from) const {
+        to.*c = heap::copy(from.*e);
+    }
     // A string member of an input record must not be NULL: an empty string is how a
     // caller passes an absent value.
-    template <class ER, class CR> void fromC(ER& to, const CR& from) const { to.*e = from.*c; }
-    template <class CR> void release(CR& record) const { heap::free(record.*c); }
+    template <class ER, class CR>
+    void fromC(ER& to, const CR& from) const {
+        to.*e = from.*c;
+    }
+    template <class CR>
+    void release(CR& record) const {
+        heap::free(record.*c);
+    }
 };
 
-template <class C, class E> struct TextListField {
+template <class C, class E>
+struct TextListField {
     wchar_t** C::*c;
     uint32_t C::*count;
     std::vector<std::wstring> E::*e;
     bool allocateEmpty;
-    template <class CR, class ER> void toC(CR& to, const ER& from) const {
+    template <class CR, class ER>
+    void toC(CR& to, const ER& from) const {
         const auto& texts = from.*e;
         to.*count = static_cast<uint32_t>(texts.size());
         if (texts.empty() && !allocateEmpty) {
@@ -90,65 +127,79 @@ template <class C, class E> struct TextListField {
             (to.*c)[i] = heap::copy(texts[i]);
         }
     }
-    template <class ER, class CR> void fromC(ER& to, const CR& from) const {
+    template <class ER, class CR>
+    void fromC(ER& to, const CR& from) const {
         auto& texts = to.*e;
         texts.reserve(from.*count);
         for (uint32_t i = 0; i < from.*count; ++i) {
             texts.emplace_back((from.*c)[i]);
         }
     }
-    template <class CR> void release(CR& record) const {
+    template <class CR>
+    void release(CR& record) const {
         heap::freeTexts(record.*c, record.*count);
         record.*count = 0;
     }
 };
 
-template <class C, class E> struct BytesField {
+template <class C, class E>
+struct BytesField {
     uint8_t* C::*c;
     uint32_t C::*count;
     std::vector<uint8_t> E::*e;
     // An empty vector gives NULL and 0.
-    template <class CR, class ER> void toC(CR& to, const ER& from) const {
+    template <class CR, class ER>
+    void toC(CR& to, const ER& from) const {
         const auto& bytes = from.*e;
         to.*count = static_cast<uint32_t>(bytes.size());
         to.*c = bytes.empty() ? nullptr : heap::copyBytes(bytes.data(), bytes.size());
     }
-    template <class ER, class CR> void fromC(ER& to, const CR& from) const {
+    template <class ER, class CR>
+    void fromC(ER& to, const CR& from) const {
         const uint8_t* bytes = from.*c;
         (to.*e).assign(bytes, bytes + (bytes != nullptr ? from.*count : 0));
     }
-    template <class CR> void release(CR& record) const {
+    template <class CR>
+    void release(CR& record) const {
         heap::free(record.*c);
         record.*count = 0;
     }
 };
 
-template <class CR, class ER, class C, class E> struct NestedField {
+template <class CR, class ER, class C, class E>
+struct NestedField {
     CR* C::*c;
     std::shared_ptr<ER> E::*e;
-    template <class CO, class EO> void toC(CO& to, const EO& from) const {
+    template <class CO, class EO>
+    void toC(CO& to, const EO& from) const {
         to.*c = kel::toC<CR>((from.*e).get());
     }
-    template <class EO, class CO> void fromC(EO& to, const CO& from) const {
-        to.*e = kel::fromC(from.*c, false);
+    template <class EO, class CO>
+    void fromC(EO& to, const CO& from) const {
+        to.*e = kel::fromC<CR, ER>(from.*c, false);
     }
-    template <class CO> void release(CO& record) const {
+    template <class CO>
+    void release(CO& record) const {
         kel::release(record.*c);
         record.*c = nullptr;
     }
 };
 
-template <class CR, class ER, class C, class E> struct ListField {
+template <class CR, class ER, class C, class E>
+struct ListField {
     CR** C::*c;
     uint32_t C::*count;
     std::vector<std::shared_ptr<ER>> E::*e;
-    template <class CO, class EO> void toC(CO& to, const EO& from) const {
+    template <class CO, class EO>
+    void toC(CO& to, const EO& from) const {
         kel::listToC<CR>(from.*e, to.*c, to.*count);
     }
-    template <class EO, class CO> void fromC(EO& to, const CO& from) const {
-        to.*e = kel::listFromC(from.*c, from.*count);
+    template <class EO, class CO>
+    void fromC(EO& to, const CO& from) const {
+        to.*e = kel::listFromC<CR, ER>(from.*c, from.*count);
     }
-    template <class CO> void release(CO& record) const {
+    template <class CO>
+    void release(CO& record) const {
         kel::releaseArray(record.*c, record.*count);
         record.*c = nullptr;
         record.*count = 0;
@@ -158,15 +209,14 @@ template <class CR, class ER, class C, class E> struct ListField {
 // field(...) picks the descriptor from the member types, so the generated tables read
 // as plain lists of member pairs.
 template <class CM, class EM, class C, class E>
-    requires std::is_arithmetic_v<CM> && std::is_arithmetic_v<EM>
-constexpr auto field(CM C::*c, EM E::*e) {
-    return ValueField<CM, EM, C, E>{c, e};
-}
+requires std::is_arithmetic_v<CM> && std::is_arithmetic_v<EM>
+constexpr auto field(CM C::*c, EM E::*e) { return ValueField<CM, EM, C, E>{c, e}; }
 template <class T, std::size_t N, class C, class E>
 constexpr auto field(T (C::*c)[N], std::array<T, N> E::*e) {
     return ArrayField<T, N, C, E>{c, e};
 }
-template <class C, class E> constexpr auto field(wchar_t* C::*c, std::wstring E::*e) {
+template <class C, class E>
+constexpr auto field(wchar_t* C::*c, std::wstring E::*e) {
     return TextField<C, E>{c, e};
 }
 template <class CR, class ER, class C, class E>

@@ -16,8 +16,8 @@
 namespace kel {
 
 struct ApiRegistryEntry {
-    mutable uint64_t useCount = 1;            // touched only under the registry mutex
-    Varno::Kel_cpp::TarnApi* address = nullptr; // set in lookup probes only
+    mutable uint64_t useCount = 1;                  // touched only under the registry mutex
+    Varno::Kel_cpp::TarnApi* address = nullptr;     // set in lookup probes only
     std::shared_ptr<Varno::Kel_cpp::TarnApi> owner; // set in stored entries only
 
     uint64_t key() const {

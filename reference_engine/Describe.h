@@ -2,9 +2,9 @@
 // operation received (through the scripting interface, from C or Python).
 #pragma once
 
-#include <EngineFields.h>
 #include <Kel_cpp/TarnApi.h>
 
+#include <EngineFields.h>
 #include <array>
 #include <cstdint>
 #include <memory>
@@ -22,20 +22,25 @@ void describe(std::string& out, const std::wstring& text);
 void describe(std::string& out, bool value);
 void describe(std::string& out, const std::shared_ptr<ServerHandler>& handler);
 
-template <class T> void describe(std::string& out, const std::vector<T>& values);
-template <class T, std::size_t N> void describe(std::string& out, const std::array<T, N>& values);
-template <class E> void describe(std::string& out, const std::shared_ptr<E>& record);
+template <class T>
+void describe(std::string& out, const std::vector<T>& values);
+template <class T, std::size_t N>
+void describe(std::string& out, const std::array<T, N>& values);
+template <class E>
+void describe(std::string& out, const std::shared_ptr<E>& record);
 
 template <class T>
-    requires std::is_integral_v<T>
-void describe(std::string& out, T value) {
-    out += std::to_string(value);
-}
+requires std::is_integral_v<T>
+void describe(std::string& out, T value) { out += std::to_string(value); }
 
 // Callback objects of the asynchronous operations.
-template <class T> void describe(std::string& out, T* const& /*callback*/) { out += "\"callback\""; }
+template <class T>
+void describe(std::string& out, T* const& /*callback*/) {
+    out += "\"callback\"";
+}
 
-template <class T> void describe(std::string& out, const std::vector<T>& values) {
+template <class T>
+void describe(std::string& out, const std::vector<T>& values) {
     out += '[';
     for (std::size_t i = 0; i < values.size(); ++i) {
         out += i == 0 ? "" : ",";
@@ -44,11 +49,13 @@ template <class T> void describe(std::string& out, const std::vector<T>& values)
     out += ']';
 }
 
-template <class T, std::size_t N> void describe(std::string& out, const std::array<T, N>& values) {
+template <class T, std::size_t N>
+void describe(std::string& out, const std::array<T, N>& values) {
     describe(out, std::vector<T>(values.begin(), values.end()));
 }
 
-template <class E> void describe(std::string& out, const std::shared_ptr<E>& record) {
+template <class E>
+void describe(std::string& out, const std::shared_ptr<E>& record) {
     if (!record) {
         out += "null";
         return;
@@ -57,8 +64,8 @@ template <class E> void describe(std::string& out, const std::shared_ptr<E>& rec
     bool first = true;
     std::apply(
         [&](const auto&... field) {
-            ((out += first ? "\"" : ",\"", first = false, out += field.name, out += "\":",
-              describe(out, (*record).*(field.pointer))),
+            ((out += first ? "\"" : ",\"", first = false, out += field.name,
+              out += "\":", describe(out, (*record).*(field.pointer))),
              ...);
         },
         Fields::Of<E>::list);
@@ -66,7 +73,8 @@ template <class E> void describe(std::string& out, const std::shared_ptr<E>& rec
 }
 
 // The arguments of one call as a JSON array, in parameter order.
-template <class... A> std::string describeArguments(const A&... arguments) {
+template <class... A>
+std::string describeArguments(const A&... arguments) {
     std::string out = "[";
     bool first = true;
     ((out += first ? "" : ",", first = false, describe(out, arguments)), ...);

@@ -27,7 +27,8 @@ Script::Call::Call(CallClock& clock, Script& script, const char* operation, std:
 
 void Script::Call::finish() {
     const auto elapsed = std::chrono::steady_clock::now() - start_;
-    clock_.finished(static_cast<uint64_t>(std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count()));
+    clock_.finished(static_cast<uint64_t>(
+        std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count()));
 }
 
 void Script::record(const char* operation, std::string arguments) {
@@ -52,7 +53,8 @@ void Script::record(const char* operation, std::string arguments) {
     }
 }
 
-void Script::failNext(const std::string& operation, uint32_t count, const TarnApiException& exception) {
+void Script::failNext(const std::string& operation, uint32_t count,
+                      const TarnApiException& exception) {
     const std::lock_guard lock(mutex_);
     auto& entry = entries_[operation];
     entry.failures = count;

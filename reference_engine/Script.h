@@ -29,6 +29,8 @@ enum ErrorCode : int32_t {
     NotLocked = 1003,
     WrongLockId = 1004,
     UnknownHandle = 1005,
+    UnknownEventChannel = 1006, // an event channel that was never opened or is closed
+    ConnectionLost = 1007,      // carried by ConnectionBroken events, not thrown
 };
 
 // Duration of the calls made through one engine object, in microseconds.
@@ -61,7 +63,8 @@ public:
     };
 
     // Records the call and applies what is scripted for it (delay, failure).
-    template <class... A> Call enter(CallClock& clock, const char* operation, const A&... arguments) {
+    template <class... A>
+    Call enter(CallClock& clock, const char* operation, const A&... arguments) {
         return Call(clock, *this, operation, describeArguments(arguments...));
     }
 

@@ -1,9 +1,9 @@
 #include "Script.h"
-
-#include <kel_sim.h>
+#include "SimulatedVehicle.h"
 
 #include <algorithm>
 #include <cstring>
+#include <kel_sim.h>
 
 using Varno::Kel_cpp::MvciServerError;
 using Varno::Kel_cpp::TarnApiException;
@@ -26,7 +26,8 @@ void kelsim_failNext(const char* operation, uint32_t count, int32_t code, int32_
 void kelsim_failNextWithMvci(const char* operation, uint32_t count, int32_t code, int32_t subCode,
                              const wchar_t* message, const wchar_t* details, int32_t mvciCode,
                              const wchar_t* mvciCodeText, int32_t vendorCode,
-                             const wchar_t* vendorCodeText, const wchar_t* extraText, int32_t extraCode) {
+                             const wchar_t* vendorCodeText, const wchar_t* extraText,
+                             int32_t extraCode) {
     auto mvci = std::make_shared<MvciServerError>();
     mvci->code = mvciCode;
     mvci->codeText = text(mvciCodeText);
@@ -57,6 +58,28 @@ int64_t kelsim_lastArguments(const char* operation, char* buffer, size_t size) {
 
 uint64_t kelsim_callCount(const char* operation) { return Script::global()->callCount(operation); }
 
-void kelsim_reset(void) { Script::global()->reset(); }
+int32_t kelsim_postEvent(uint64_t handle, int32_t kind, int32_t code, const wchar_t* eventText,
+                         const wchar_t* detail, int32_t errorCode, const wchar_t* errorMessage) {
+    const auto vehicle = Varno::Kel_cpp::Reference::vehicleByHandle(handle);
+    if (!vehicle) {
+        return -1;
+    }
+    std::shared_ptr<Varno::Kel_cpp::KelError> error;
+    if (errorMessage != nullptr) {
+        error = std::make_shared<Varno::Kel_cpp::KelError>();
+        error->code = errorCode;
+        error->message = errorMessage;
+    }
+    Varno::Kel_cpp::Reference::post(*vehicle, kind, code, text(eventText), text(detail),
+                                    std::move(error));
+    return 0;
+}
+
+void kelsim_restart(void) { Varno::Kel_cpp::Reference::restartLocalEngine(); }
+
+void kelsim_reset(void) {
+    Script::global()->reset();
+    Varno::Kel_cpp::Reference::resetVehicleScripts();
+}
 
 } // extern "C"

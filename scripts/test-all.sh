@@ -15,7 +15,7 @@ JOBS=${JOBS:-2}
 if [[ $# -gt 0 ]]; then
     presets=("$@")
 else
-    presets=(linux linux-asan linux-tsan windows)
+    presets=(linux linux-asan linux-tsan windows fuzz)
 fi
 
 # --- Tools -----------------------------------------------------------------------------------
@@ -23,6 +23,9 @@ packages=(cmake ninja-build g++ libgtest-dev libgmock-dev nlohmann-json3-dev)
 for preset in "${presets[@]}"; do
     if [[ $preset == windows ]]; then
         packages+=(g++-mingw-w64-x86-64-posix wine wine64)
+    fi
+    if [[ $preset == fuzz ]]; then
+        packages+=(clang clang-14 libclang-rt-14-dev)
     fi
 done
 command -v python3 >/dev/null 2>&1 || packages+=(python3)
@@ -70,7 +73,14 @@ run_preset() {
     if [[ $preset == windows ]]; then
         prepare_wine
     fi
-    if ! cmake --preset "$preset"; then
+    if [[ $preset == fuzz ]]; then
+        # The checked dispatchers under libFuzzer for a bounded time (FUZZ_SECONDS, default 60).
+        if scripts/fuzz.sh "${FUZZ_SECONDS:-60}"; then
+            result[$preset]="passed"
+        else
+            result[$preset]="fuzzing FAILED"
+        fi
+    elif ! cmake --preset "$preset"; then
         result[$preset]="configure FAILED"
     elif ! cmake --build --preset "$preset" -j "$JOBS"; then
         result[$preset]="build FAILED"

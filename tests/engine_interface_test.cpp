@@ -13,7 +13,8 @@ using Varno::Kel_cpp::TarnApi;
 
 // On the Itanium C++ ABI (GCC, Clang, MinGW) a pointer to a virtual member function
 // holds 1 + the byte offset of its slot in the virtual table.
-template <class F> std::ptrdiff_t slotOf(F member) {
+template <class F>
+std::ptrdiff_t slotOf(F member) {
     struct Raw {
         uintptr_t pointer;
         ptrdiff_t adjustment;
@@ -31,7 +32,7 @@ TEST(EngineInterface, EveryOperationSitsAtItsPosition) {
     int checked = 0;
     int last = 0;
 #define KEL_POSITION(position, name)                                                               \
-    EXPECT_EQ(slotOf(&TarnApi::name), position) << #name;                                         \
+    EXPECT_EQ(slotOf(&TarnApi::name), position) << #name;                                          \
     ++checked;                                                                                     \
     last = position;
 #include "generated/positions.inc"

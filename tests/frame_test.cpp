@@ -33,8 +33,8 @@ TEST_F(Frame, EngineErrorFillsKelErrorAndLeavesOutputs) {
 }
 
 TEST_F(Frame, MvciErrorIsCopiedWholeAndEmptyTextsAreAllocated) {
-    kelsim_failNextWithMvci("lock", 1, 3, 4, nullptr, L"", 0x21, L"PDU_ERR_COMM_PC_TO_VCI_FAILED", -2,
-                            L"vendor", nullptr, 9);
+    kelsim_failNextWithMvci("lock", 1, 3, 4, nullptr, L"", 0x21, L"PDU_ERR_COMM_PC_TO_VCI_FAILED",
+                            -2, L"vendor", nullptr, 9);
     ErrorSlot error;
     uint64_t lockId = 99;
     kel_lock(api, &error, &lockId);
@@ -87,7 +87,8 @@ TEST_F(Frame, UnsupportedOperationNamesItself) {
     EXPECT_EQ(version, nullptr);
     EXPECT_EQ(error->code, 1000);
     const std::wstring message = error->message;
-    EXPECT_NE(message.find(L"getVersion"), std::wstring::npos) << std::string(message.begin(), message.end());
+    EXPECT_NE(message.find(L"getVersion"), std::wstring::npos)
+        << std::string(message.begin(), message.end());
     EXPECT_NE(message.find(L"does not support"), std::wstring::npos);
 }
 

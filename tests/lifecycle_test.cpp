@@ -101,7 +101,8 @@ TEST_F(Lifecycle, CallDurationMeasuresThePreviousCall) {
 
 // Each output is written with exactly its own width: the bytes around it stay as the
 // caller left them.
-template <class T, class Call> std::array<unsigned char, 24> writtenBytes(Call call) {
+template <class T, class Call>
+std::array<unsigned char, 24> writtenBytes(Call call) {
     alignas(8) std::array<unsigned char, 24> bytes{};
     bytes.fill(0xAA);
     call(reinterpret_cast<T*>(bytes.data() + 8));
@@ -135,7 +136,8 @@ TEST_F(Lifecycle, OutputsHaveTheirExactWidths) {
     EXPECT_TRUE(untouchedOutside(state, 4));
     EXPECT_EQ(state[8], 1);
 
-    const auto handle = writtenBytes<uint64_t>([&](uint64_t* out) { kel_getHandle(api, &error, out); });
+    const auto handle =
+        writtenBytes<uint64_t>([&](uint64_t* out) { kel_getHandle(api, &error, out); });
     EXPECT_TRUE(untouchedOutside(handle, 8));
     EXPECT_GT(changedBytes(handle), 4) << "a 64-bit handle fills more than four bytes";
     EXPECT_FALSE(error);

@@ -2,12 +2,11 @@
 // engine to C, C to engine, consumption and release.
 #include "generated/test_records.h"
 
-#include <convert.h>
-#include <frame.h>
-
 #include <gtest/gtest.h>
 
+#include <convert.h>
 #include <cstring>
+#include <frame.h>
 
 namespace {
 

@@ -10,7 +10,13 @@ namespace {
 using kel_test::ErrorSlot;
 
 // The engine object currently behind kel_getTarnApi, observed without keeping it alive.
-std::weak_ptr<Varno::Kel_cpp::TarnApi> observeLocalEngine() { return Varno::Kel_cpp::getTarnApi(); }
+// The engine also keeps its local object itself; that hold is let go here, so that
+// the object's life shows what the registry does.
+std::weak_ptr<Varno::Kel_cpp::TarnApi> observeLocalEngine() {
+    std::weak_ptr<Varno::Kel_cpp::TarnApi> engine = Varno::Kel_cpp::getTarnApi();
+    kelsim_restart();
+    return engine;
+}
 
 TEST(Registry, SameObjectTwiceIsCountedTwice) {
     TarnApi* first = kel_getTarnApi();
@@ -51,7 +57,8 @@ TEST(Registry, RemoteConnectionsLiveBesideTheLocalEngine) {
     ASSERT_FALSE(error);
     ASSERT_NE(remote, nullptr);
     EXPECT_NE(remote, local);
-    EXPECT_EQ(kel_getRemoteConnectionByHandle(handle, &error), remote) << "same connection, second use";
+    EXPECT_EQ(kel_getRemoteConnectionByHandle(handle, &error), remote)
+        << "same connection, second use";
 
     uint64_t remoteHandle = 0;
     kel_getHandle(remote, &error, &remoteHandle);
@@ -84,6 +91,32 @@ TEST(Registry, RejectedHandleGivesNullAndAnError) {
 
     releaseTarnApi(local);
     EXPECT_TRUE(engine.expired()) << "the failed call registered nothing";
+}
+
+// A destructor that runs on the last release may call back into the binding.
+struct ReentrantHandler final : Varno::Kel_cpp::ServerHandler {
+    void onClientConnected(const std::wstring& /*client*/) override {}
+    void onClientDisconnected(const std::wstring& /*client*/) override {
+        releaseTarnApi(kel_getTarnApi());
+        ++calls;
+    }
+    int calls = 0;
+};
+
+TEST(Registry, LastReleaseMayReenterTheRegistry) {
+    TarnApi* local = kel_getTarnApi();
+    ReentrantHandler handler;
+    ErrorSlot error;
+    kel_registerServerHandler(reinterpret_cast<uintptr_t>(local), &handler, &error);
+    uint64_t handle = 0;
+    kel_getHandle(local, &error, &handle);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handle, &error);
+    ASSERT_NE(remote, nullptr);
+    releaseTarnApi(remote); // the connection ends here and tells the handler
+    EXPECT_EQ(handler.calls, 1);
+    EXPECT_FALSE(error);
+    kelsim_restart(); // the vehicle, which keeps the handler, goes with the engine
+    releaseTarnApi(local);
 }
 
 TEST(RegistryConcurrency, ManyThreadsShareAndReleaseEngineObjects) {

@@ -4,10 +4,10 @@
 
 #include <Kel_cpp/Engine.h>
 #include <kel_c.h>
-#include <kel_sim.h>
 
 #include <gtest/gtest.h>
 
+#include <kel_sim.h>
 #include <memory>
 #include <string>
 
@@ -35,6 +35,7 @@ class EngineTest : public ::testing::Test {
 protected:
     void SetUp() override {
         kelsim_reset();
+        kelsim_restart(); // a fresh engine on a fresh vehicle for every test
         api = kel_getTarnApi();
         ASSERT_NE(api, nullptr);
         ErrorSlot error;
@@ -42,8 +43,8 @@ protected:
         ASSERT_FALSE(error);
     }
     void TearDown() override {
+        releaseTarnApi(api);
         kelsim_reset();
-        releaseTarnApi(api); // the last use: the next test starts on a fresh vehicle
     }
     TarnApi* api = nullptr;
 };

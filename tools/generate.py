@@ -33,6 +33,12 @@ HAND_WRITTEN_EXPORTS = [
     "duplicate_WString",
     "release_Memory",
     "release_StringArray",
+    "kel_call",
+    "kel_call_result",
+    "kel_call_checked",
+    "py_call",
+    "py_result",
+    "py_call_checked",
 ]
 
 
@@ -50,9 +56,9 @@ def c_field(f: kelidl.Field) -> list[str]:
     if f.kind == "bytes":
         return [f"uint8_t* {f.name};", f"uint32_t {f.count};"]
     if f.kind == "rec":
-        return [f"{f.record}* {f.name};"]
+        return [f"{f.c_name}* {f.name};"]
     if f.kind == "list":
-        return [f"{f.record}** {f.name};", f"uint32_t {f.count};"]
+        return [f"{f.c_name}** {f.name};", f"uint32_t {f.count};"]
     raise AssertionError(f.kind)
 
 
@@ -129,8 +135,8 @@ def c_params(v: kelidl.Value) -> list[str]:
         "u32s": [f"const uint32_t* {v.name}", f"uint32_t {v.count}"],
         "u64s": [f"const uint64_t* {v.name}", f"uint32_t {v.count}"],
         "bytes": [f"const uint8_t* {v.name}", f"uint32_t {v.count}"],
-        "rec": [f"{v.record}* {v.name}"],
-        "list": [f"{v.record}** {v.name}", f"uint32_t {v.count}"],
+        "rec": [f"{v.c_name}* {v.name}"],
+        "list": [f"{v.c_name}** {v.name}", f"uint32_t {v.count}"],
         "handler": [f"void* {v.name}"],
     }[v.kind]
 
@@ -143,13 +149,15 @@ def c_outputs(v: kelidl.Value) -> list[str]:
         "wstrs": [f"wchar_t*** {v.name}", f"uint32_t* {v.count}"],
         "bytes": [f"uint8_t** {v.name}", f"uint32_t* {v.count}"],
         "blob": [f"void** {v.name}", f"uint32_t* {v.count}"],
-        "rec": [f"{v.record}** {v.name}"],
-        "list": [f"{v.record}*** {v.name}", f"uint32_t* {v.count}"],
+        "rec": [f"{v.c_name}** {v.name}"],
+        "list": [f"{v.c_name}*** {v.name}", f"uint32_t* {v.count}"],
         "engine": [f"uint64_t* {v.name}"],
     }[v.kind]
 
 
 def c_signature(op: kelidl.Operation) -> str:
+    if op.is_async:
+        return c_async_signature(op)
     api = "uint64_t api" if op.api64 else "TarnApi* api"
     inputs = [a for p in op.params for a in c_params(p)]
     outputs = c_outputs(op.result) if op.result and not op.discard else []
@@ -188,6 +196,8 @@ def output_expr(v: kelidl.Value) -> str:
 
 
 def export_body(op: kelidl.Operation) -> str:
+    if op.is_async:
+        return async_export_body(op)
     api = "kel::engine(api)" if op.api64 else "api"
     call = f"{api}->{op.name}({', '.join(input_expr(p) for p in op.params)})"
     if op.result and not op.discard:
@@ -313,6 +323,39 @@ KEL_C_API char* duplicate_String(const char* s);
 KEL_C_API wchar_t* duplicate_WString(const wchar_t* s);
 KEL_C_API void release_Memory(void* p);
 KEL_C_API void release_StringArray(wchar_t** ptr, uint64_t count);
+
+/* ---- calls by number over a byte stream (OTX runtimes, Python) ----
+ * kel_call reads the arguments of operation `operation` from `input` and hands out a
+ * result stream: a status byte (1 success, 0 engine error), then the results or the
+ * error record. Fetch it with kel_call_result, which copies it into `destination`
+ * (at least *outSize bytes) and frees it; a second call on the same stream copies
+ * nothing. `handle` 0 is the local engine, any other value the engine object with
+ * that handle (see kel_getHandle); when the engine rejects the handle, every operation
+ * answers status 0 with the engine's error. Unknown numbers leave the outputs alone. */
+KEL_C_API void kel_call(uint64_t handle, int32_t operation, const void* input, void** outStream,
+                        uint64_t* outSize);
+KEL_C_API void* kel_call_result(void* stream, void* destination);
+
+/* py_call: the same operations for a Python extension: no status byte, the error
+ * record as the whole result with return value -1; 0 on success, or the 32-bit result
+ * of the operations that return one. `api` NULL is the local engine. The result buffer
+ * goes back through py_result, which copies `size` bytes to `destination` and frees it. */
+KEL_C_API int32_t py_call(TarnApi* api, int32_t operation, uint64_t reserved, const void* input,
+                          uint32_t* outSize, void** outBuffer);
+KEL_C_API void py_result(void* destination, int32_t size, void* buffer);
+
+/* Bounds-checked forms, additions of this library: they take the input's size and
+ * answer input that is short or malformed (a count running past the end, a string
+ * without NUL) with an error record of code KEL_ERROR_MALFORMED_INPUT instead of
+ * reading past the buffer. */
+KEL_C_API void kel_call_checked(uint64_t handle, int32_t operation, const void* input, uint64_t inputSize,
+                                void** outStream, uint64_t* outSize);
+KEL_C_API int32_t py_call_checked(TarnApi* api, int32_t operation, uint64_t reserved, const void* input,
+                                  uint64_t inputSize, uint32_t* outSize, void** outBuffer);
+
+/* Error codes of the library itself, in the error record of the call stream. */
+#define KEL_ERROR_MALFORMED_INPUT (-1001) /* checked calls: input short or malformed */
+#define KEL_ERROR_NOT_AVAILABLE (-1002)   /* the operation's records are not built yet */
 """
 
 
@@ -348,6 +391,7 @@ def c_header(iface: kelidl.Interface) -> str:
     for rec in ready:
         out.append(f"KEL_C_API void release_{rec.name}({rec.name}* ptr);")
         out.append(f"KEL_C_API void release_{rec.name}_array({rec.name}** ptr, uint64_t count);")
+    out += c_callback_typedefs(iface)
     out += ["", "/* ---- operations, in engine order (the number is the engine position) ---- */"]
     for op in iface.operations:
         if iface.exported(op):
@@ -385,6 +429,7 @@ def binding_records_h(iface: kelidl.Interface) -> str:
            "// record order. Conversion, release and streaming walk these tables.",
            "#pragma once", "", '#include "record_fields.h"', "", "namespace kel {", ""]
     out += record_tables(iface.ready_records(), ENGINE_NS)
+    out += alias_tables(iface)
     out.append("} // namespace kel")
     return "\n".join(out) + "\n"
 
@@ -410,7 +455,7 @@ def test_records_h(iface: kelidl.Interface) -> str:
 
 def binding_exports_cpp(iface: kelidl.Interface) -> str:
     out = [f"// {BANNER}", "// The exports: each one line over the generic frame.", "",
-           '#include "frame.h"', "", 'extern "C" {', ""]
+           '#include "frame.h"', '#include "generated/handlers.h"', "", 'extern "C" {', ""]
     for rec in iface.ready_records():
         n = rec.name
         out.append(f"void release_{n}({n}* ptr) {{ kel::release(ptr); }}")
@@ -486,26 +531,50 @@ def engine_fields_h(iface: kelidl.Interface) -> str:
            "// a record is streamed and described.",
            "#pragma once", "", "#include <Kel_cpp/Records.h>", "", "#include <tuple>", "",
            f"namespace {ENGINE_NS}::Fields {{", "",
-           "template <class C, class M> struct Member {",
+           "template <class C, class M, bool Bits = false> struct Member {",
+           "    static constexpr bool bits = Bits; // a bit set, streamed as a list of bits",
            "    const char* name;",
            "    M C::*pointer;",
            "};",
            "template <class C, class M> constexpr Member<C, M> member(const char* name, M C::*pointer) {",
            "    return {name, pointer};",
+           "}",
+           "template <class C, class M> constexpr Member<C, M, true> bitset(const char* name, M C::*pointer) {",
+           "    return {name, pointer};",
            "}", "",
            "// Specialised for every engine record class.",
            "template <class E> struct Of;", ""]
     for rec in iface.records.values():
-        names = ([f"itemText{i}" for i in range(1, 5)] if rec.named else []) + [f.name for f in rec.fields]
+        names = ([("member", f"itemText{i}") for i in range(1, 5)] if rec.named else []) + [
+            ("bitset" if f.kind == "bits" else "member", f.name) for f in rec.fields]
         out.append(f"template <> struct Of<{rec.name}> {{")
         if names:
             out.append("    static constexpr auto list = std::make_tuple(")
-            out.append(",\n".join(f'        member("{n}", &{rec.name}::{n})' for n in names) + ");")
+            out.append(",\n".join(f'        {k}("{n}", &{rec.name}::{n})' for k, n in names) + ");")
         else:
             out.append("    static constexpr auto list = std::make_tuple();")
         out.append("};")
         out.append("")
     out.append(f"}} // namespace {ENGINE_NS}::Fields")
+    return "\n".join(out) + "\n"
+
+
+def dispatch_table_h(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}",
+           "// The dispatcher numbers of kel_call and py_call, in order: each names one engine",
+           "// operation. Numbers not listed name no operation.",
+           "#pragma once", "", '#include "dispatch.h"', "", "#include <array>", "",
+           "namespace kel::dispatch {", "",
+           "inline constexpr std::array operations{"]
+    for op in sorted((o for o in iface.operations if o.otx is not None), key=lambda o: o.otx):
+        if iface.streamable(op):
+            discard = ", true" if op.discard else ""
+            call = f"&call<&TarnApi::{op.name}{discard}>"
+        else:
+            call = "nullptr"
+        out.append(f'    Operation{{{op.otx}, "{op.name}", {call}, {str(op.remote).lower()}, '
+                   f"{str(op.pyreturn).lower()}}},")
+    out += ["};", "", "} // namespace kel::dispatch"]
     return "\n".join(out) + "\n"
 
 
@@ -516,6 +585,97 @@ def positions_inc(iface: kelidl.Interface) -> str:
     return "\n".join(out) + "\n"
 
 
+# ---- asynchronous calls and second engine classes -----------------------------------
+
+def alias_tables(iface: kelidl.Interface) -> list[str]:
+    """Tables of the `as=` classes: their members paired with the C record's, by name."""
+    out = []
+    for rec in iface.ready_aliases():
+        c = f"::{rec.alias}"
+        target = iface.record(rec.alias)
+        counts = {f.name: f.count for f in target.fields}
+        always = {f.name for f in target.fields if f.always}
+        fields = []
+        for name in rec.member_names():
+            if counts.get(name):
+                extra = ", always" if name in always else ""
+                fields.append(f"field(&{c}::{name}, &{c}::{counts[name]}, &Engine::{name}{extra})")
+            else:
+                fields.append(f"field(&{c}::{name}, &Engine::{name})")
+        out.append(f"template <> struct Alias<{c}, {ENGINE_NS}::{rec.name}> {{")
+        out.append(f"    using Engine = {ENGINE_NS}::{rec.name};")
+        out.append("    static constexpr auto fields = std::make_tuple(")
+        out.append(",\n".join(f"        {x}" for x in fields) + ");")
+        out.append("};")
+        out.append("")
+    return out
+
+
+def async_ops(iface: kelidl.Interface) -> list[kelidl.Operation]:
+    return [op for op in iface.operations if op.is_async and iface.exported(op)]
+
+
+def callback_function(op: kelidl.Operation) -> str:
+    """The C type of an asynchronous operation's callback: <Operation>CallbackFunction."""
+    return f"{op.callback_class}Function"
+
+
+def handler_class(op: kelidl.Operation) -> str:
+    return f"{op.callback_class}Handler"
+
+
+def c_callback_typedefs(iface: kelidl.Interface) -> list[str]:
+    ops = async_ops(iface)
+    if not ops:
+        return []
+    out = ["", "/* ---- callbacks of the asynchronous operations ----",
+           " * Called once or several times per call, on a thread of the engine; isFinal marks",
+           " * the last report. The results and the error (NULL when none) belong to the callee,",
+           " * which frees them with release_X_array and release_KelError. */"]
+    for op in ops:
+        rec = op.sync.result.c_name
+        out.append(f"typedef void (*{callback_function(op)})({rec}** results, uint32_t resultCount, "
+                   "bool isFinal, uint64_t callId, KelError* error, void* context);")
+    return out
+
+
+def c_async_signature(op: kelidl.Operation) -> str:
+    inputs = [a for p in op.inputs for a in c_params(p)]
+    args = ["TarnApi* api"] + inputs + ["KelError** error", f"{callback_function(op)} callback",
+                                        "void* context"]
+    return f"uint64_t kel_{op.name}({', '.join(args)})"
+
+
+def async_export_body(op: kelidl.Operation) -> str:
+    call = f"api->{op.name}({', '.join([input_expr(p) for p in op.inputs] + ['handler'])})"
+    return (f"return kel::start<{handler_class(op)}>(error, callback, context, "
+            f"[&](auto* handler) {{ return {call}; }});")
+
+
+def handlers_h(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}",
+           "// One handler class per asynchronous operation, deriving from the engine's callback",
+           "// class. Handlers that convert the same results share their kel::Completion base.",
+           "#pragma once", "", '#include "async.h"', ""]
+    for op in async_ops(iface):
+        result = op.sync.result
+        engine = f"{ENGINE_NS}::{result.record}"
+        base = f"kel::Completion<::{result.c_name}, {engine}>"
+        out += [f"class {handler_class(op)} final : public {ENGINE_NS}::TarnApi::{op.callback_class},",
+                f"                                  public {base} {{",
+                "public:",
+                f"    using Function = {callback_function(op)};",
+                f"    {handler_class(op)}(Function callback, void* context) : Completion(callback, context) {{}}",
+                f"    void onCompleted(std::vector<std::shared_ptr<{engine}>> results, uint64_t callId,",
+                f"                     std::shared_ptr<{ENGINE_NS}::KelError> error, bool isFinal) override {{",
+                "        if (report(results, callId, error, isFinal)) {",
+                "            delete this; // the final report ends the call",
+                "        }",
+                "    }",
+                "};", ""]
+    return "\n".join(out) + "\n"
+
+
 def outputs(iface: kelidl.Interface) -> dict[str, str]:
     return {
         "engine/Kel_cpp/Records.h": engine_records_h(iface),
@@ -523,7 +683,9 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
         "include/kel_c.h": c_header(iface),
         "kel_c/generated/records.h": binding_records_h(iface),
         "kel_c/generated/exports.cpp": binding_exports_cpp(iface),
+        "kel_c/generated/handlers.h": handlers_h(iface),
         "kel_c/generated/exports.txt": exports_txt(iface),
+        "kel_c/generated/dispatch_table.h": dispatch_table_h(iface),
         "reference_engine/generated/EngineFront.h": engine_front_h(iface),
         "reference_engine/generated/EngineFront.cpp": engine_front_cpp(iface),
         "tests/generated/positions.inc": positions_inc(iface),

@@ -47,6 +47,11 @@ class Field:
     always: bool = False  # string list block allocated even for count 0
     element: str | None = None  # scalar kind of an array
     length: int = 0  # array length
+    c_record: str | None = None  # the C record of `record` when that is an `as=` class
+
+    @property
+    def c_name(self) -> str | None:
+        return self.c_record or self.record
 
 
 @dataclasses.dataclass
@@ -56,8 +61,12 @@ class Record:
     named: bool = False
     pending: bool = False  # declared by name only
     draft: bool = False  # fields known, family not built yet: no C record yet
+    alias: str | None = None  # `as=`: an engine class converted to and from this C record
     fields: list[Field] = dataclasses.field(default_factory=list)
     line: int = 0
+
+    def member_names(self) -> list[str]:
+        return ([f"itemText{i}" for i in range(1, 5)] if self.named else []) + [f.name for f in self.fields]
 
 
 @dataclasses.dataclass
@@ -68,6 +77,11 @@ class Value:
     name: str
     record: str | None = None
     count: str | None = None
+    c_record: str | None = None  # the C record of `record` when that is an `as=` class
+
+    @property
+    def c_name(self) -> str | None:
+        return self.c_record or self.record
 
 
 @dataclasses.dataclass
@@ -80,6 +94,7 @@ class Operation:
     remote: bool = False
     discard: bool = False
     api64: bool = False
+    pyreturn: bool = False  # py_call also returns the 32-bit result
     is_async: bool = False
     reserved: bool = False
     sync: Operation | None = None  # for async operations
@@ -119,6 +134,8 @@ class Interface:
         refs = [f.record for f in rec.fields if f.record]
         if rec.named:
             refs.append("NamedItem")
+        if rec.alias:
+            refs.append(rec.alias)
         return all(self.ready(r, seen) for r in refs)
 
     def exported(self, op: Operation) -> bool:
@@ -126,12 +143,31 @@ class Interface:
         if op.reserved:
             return False
         if op.is_async:
-            return False  # asynchronous exports come with the callback handlers
+            return op.sync is not None and self.exported(op.sync)
         values = list(op.params) + ([op.result] if op.result else [])
         return all(self.ready(v.record) for v in values if v.record)
 
+    def streamable(self, op: Operation, _seen: set[str] | None = None) -> bool:
+        """True when no record the operation touches is still pending."""
+        seen: set[str] = set()
+
+        def complete(name: str) -> bool:
+            if name in seen:
+                return True
+            seen.add(name)
+            rec = self.records[name]
+            return not rec.pending and all(complete(f.record) for f in rec.fields if f.record)
+
+        values = list(op.params) + ([op.result] if op.result else [])
+        return all(complete(v.record) for v in values if v.record)
+
     def ready_records(self) -> list[Record]:
-        return [r for r in self.records.values() if self.ready(r.name)]
+        """The records that have a C record of their own."""
+        return [r for r in self.records.values() if not r.alias and self.ready(r.name)]
+
+    def ready_aliases(self) -> list[Record]:
+        """The built `as=` classes: engine classes converted through another C record."""
+        return [r for r in self.records.values() if r.alias and self.ready(r.name)]
 
 
 def _words(line: str) -> str:
@@ -184,7 +220,7 @@ def _parse_value(text: str, kinds: set[str], counted: set[str], where: str) -> V
     return Value(kind, words[1], count=words[2] if want == 3 else None)
 
 
-ATTRIBUTES = ("remote", "discard", "api64")
+ATTRIBUTES = ("remote", "discard", "api64", "pyreturn")
 
 
 def _parse_operation(line: str, where: str) -> Operation:
@@ -242,6 +278,8 @@ def parse_records(path: pathlib.Path) -> dict[str, Record]:
                     current.draft = True
                 elif attr.startswith("struct="):
                     current.struct = attr[7:]
+                elif attr.startswith("as="):
+                    current.alias = attr[3:]
                 else:
                     raise DescriptionError(f"{where}: unknown record attribute '{attr}'")
             records[name] = current
@@ -251,6 +289,10 @@ def parse_records(path: pathlib.Path) -> dict[str, Record]:
             if current.pending:
                 raise DescriptionError(f"{where}: a pending record has no fields")
             current.fields.append(_parse_field(words, where))
+    for rec in records.values():
+        for f in rec.fields:
+            if f.record in records and records[f.record].alias:
+                f.c_record = records[f.record].alias
     return records
 
 
@@ -297,7 +339,28 @@ def _validate(iface: Interface) -> None:
         for v in op.params + ([op.result] if op.result else []):
             if v.record and v.record not in iface.records:
                 raise DescriptionError(f"{op.name}: unknown record {v.record}")
+            if v.record:
+                v.c_record = iface.records[v.record].alias
     for rec in iface.records.values():
         for f in rec.fields:
             if f.record and f.record not in iface.records:
                 raise DescriptionError(f"record {rec.name}: unknown record {f.record}")
+        if rec.alias:
+            _validate_alias(iface, rec)
+
+
+def _validate_alias(iface: Interface, rec: Record) -> None:
+    """An `as=` class pairs each of its members with the C record's member of that name."""
+    target = iface.records.get(rec.alias)
+    if target is None or target.alias:
+        raise DescriptionError(f"record {rec.name}: as={rec.alias} must name a record with a C record")
+    if rec.named and not (target.named or target.name == "NamedItem"):
+        raise DescriptionError(f"record {rec.name}: {rec.alias} has no NamedItem strings")
+    theirs = {f.name: f for f in target.fields}
+    for f in rec.fields:
+        other = theirs.get(f.name)
+        if other is None:
+            raise DescriptionError(f"record {rec.name}: {rec.alias} has no field {f.name}")
+        if (f.kind, f.c_name, f.count, f.element, f.length) != (
+                other.kind, other.c_name, other.count, other.element, other.length):
+            raise DescriptionError(f"record {rec.name}: field {f.name} differs from {rec.alias}.{f.name}")

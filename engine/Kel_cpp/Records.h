@@ -19,8 +19,10 @@ class ParameterResult;
 class ClearDtcResult;
 class DtcReadConfig;
 class ReadDtcResult;
+class SupportedDtcResult;
 class DtcResult;
 class SpecialDataGroup;
+class SpecialData;
 class VariantIdentResult;
 class ReadDataResult;
 class Target;
@@ -157,7 +159,7 @@ public:
     int32_t value2 = 0;
     std::vector<uint8_t> data;
     uint32_t value3 = 0;
-    bool flag = false;
+    uint8_t flag = 0;
     int32_t value4 = 0;
 };
 
@@ -173,9 +175,9 @@ class DtcReadConfig {
 public:
     virtual ~DtcReadConfig() = default;
     int32_t value = 0;
-    bool flag1 = false;
-    bool flag2 = false;
-    bool flag3 = false;
+    uint8_t flag1 = 0;
+    uint8_t flag2 = 0;
+    uint8_t flag3 = 0;
 };
 
 class ReadDtcResult {
@@ -186,6 +188,15 @@ public:
     std::shared_ptr<KelError> error;
     std::vector<std::shared_ptr<DtcResult>> dtcs;
     int32_t value = 0;
+};
+
+class SupportedDtcResult {
+public:
+    virtual ~SupportedDtcResult() = default;
+    int32_t status = 0;
+    std::wstring target;
+    std::shared_ptr<KelError> error;
+    std::vector<std::shared_ptr<DtcResult>> dtcs;
 };
 
 class DtcResult {
@@ -206,7 +217,12 @@ public:
 class SpecialDataGroup {
 public:
     virtual ~SpecialDataGroup() = default;
-    std::vector<std::shared_ptr<NamedItem>> items;
+    std::vector<std::shared_ptr<SpecialData>> items;
+};
+
+class SpecialData : public virtual NamedItem {
+public:
+    ~SpecialData() override = default;
 };
 
 class VariantIdentResult {
@@ -256,7 +272,7 @@ class TargetFilter {
 public:
     virtual ~TargetFilter() = default;
     std::wstring pattern;
-    bool flag = false;
+    uint8_t flag = 0;
     int32_t value = 0;
 };
 

@@ -61,7 +61,7 @@ public:
 
     class ReadSupportedDtcsCallback {
     public:
-        virtual void onCompleted(std::vector<std::shared_ptr<ReadDtcResult>> results,
+        virtual void onCompleted(std::vector<std::shared_ptr<SupportedDtcResult>> results,
                                  uint64_t callId, std::shared_ptr<KelError> error,
                                  bool isFinal) = 0;
 
@@ -391,7 +391,7 @@ public:
     virtual uint64_t readDtcsAsync(const std::vector<std::wstring>& targets,
                                    std::shared_ptr<DtcReadConfig> config,
                                    ReadDtcsCallback* callback) = 0; // 24
-    virtual std::vector<std::shared_ptr<ReadDtcResult>>
+    virtual std::vector<std::shared_ptr<SupportedDtcResult>>
     readSupportedDtcs(const std::vector<std::wstring>& targets,
                       std::shared_ptr<DtcReadConfig> config) = 0; // 25
     virtual uint64_t readSupportedDtcsAsync(const std::vector<std::wstring>& targets,

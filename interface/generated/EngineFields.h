@@ -9,13 +9,18 @@
 
 namespace Varno::Kel_cpp::Fields {
 
-template <class C, class M>
+template <class C, class M, bool Bits = false>
 struct Member {
+    static constexpr bool bits = Bits; // a bit set, streamed as a list of bits
     const char* name;
     M C::*pointer;
 };
 template <class C, class M>
 constexpr Member<C, M> member(const char* name, M C::*pointer) {
+    return {name, pointer};
+}
+template <class C, class M>
+constexpr Member<C, M, true> bitset(const char* name, M C::*pointer) {
     return {name, pointer};
 }
 
@@ -95,6 +100,14 @@ struct Of<ReadDtcResult> {
 };
 
 template <>
+struct Of<SupportedDtcResult> {
+    static constexpr auto list = std::make_tuple(member("status", &SupportedDtcResult::status),
+                                                 member("target", &SupportedDtcResult::target),
+                                                 member("error", &SupportedDtcResult::error),
+                                                 member("dtcs", &SupportedDtcResult::dtcs));
+};
+
+template <>
 struct Of<DtcResult> {
     static constexpr auto list =
         std::make_tuple(member("code", &DtcResult::code), member("text1", &DtcResult::text1),
@@ -109,6 +122,13 @@ struct Of<DtcResult> {
 template <>
 struct Of<SpecialDataGroup> {
     static constexpr auto list = std::make_tuple(member("items", &SpecialDataGroup::items));
+};
+
+template <>
+struct Of<SpecialData> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &SpecialData::itemText1), member("itemText2", &SpecialData::itemText2),
+        member("itemText3", &SpecialData::itemText3), member("itemText4", &SpecialData::itemText4));
 };
 
 template <>

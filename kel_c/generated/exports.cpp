@@ -2,6 +2,7 @@
 // The exports: each one line over the generic frame.
 
 #include "frame.h"
+#include "generated/handlers.h"
 
 extern "C" {
 
@@ -17,6 +18,50 @@ void release_KelError(KelError* ptr) { kel::release(ptr); }
 void release_KelError_array(KelError** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
 void release_NamedItem(NamedItem* ptr) { kel::release(ptr); }
 void release_NamedItem_array(NamedItem** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_ParameterResult(ParameterResult* ptr) { kel::release(ptr); }
+void release_ParameterResult_array(ParameterResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ClearDtcResult(ClearDtcResult* ptr) { kel::release(ptr); }
+void release_ClearDtcResult_array(ClearDtcResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_DtcReadConfig(DtcReadConfig* ptr) { kel::release(ptr); }
+void release_DtcReadConfig_array(DtcReadConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ReadDtcResult(ReadDtcResult* ptr) { kel::release(ptr); }
+void release_ReadDtcResult_array(ReadDtcResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_DtcResult(DtcResult* ptr) { kel::release(ptr); }
+void release_DtcResult_array(DtcResult** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_SpecialDataGroup(SpecialDataGroup* ptr) { kel::release(ptr); }
+void release_SpecialDataGroup_array(SpecialDataGroup** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_VariantIdentResult(VariantIdentResult* ptr) { kel::release(ptr); }
+void release_VariantIdentResult_array(VariantIdentResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ReadDataResult(ReadDataResult* ptr) { kel::release(ptr); }
+void release_ReadDataResult_array(ReadDataResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_Target(Target* ptr) { kel::release(ptr); }
+void release_Target_array(Target** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_TargetStatus(TargetStatus* ptr) { kel::release(ptr); }
+void release_TargetStatus_array(TargetStatus** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_TargetFilter(TargetFilter* ptr) { kel::release(ptr); }
+void release_TargetFilter_array(TargetFilter** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_KelEvent(KelEvent* ptr) { kel::release(ptr); }
+void release_KelEvent_array(KelEvent** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_EventReport(EventReport* ptr) { kel::release(ptr); }
+void release_EventReport_array(EventReport** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
 
 void kel_initialize(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->initialize(); });
@@ -56,6 +101,101 @@ void kel_saveConfiguration(TarnApi* api, KelError** error) {
 void kel_releasePduMonitor(TarnApi* api, uint64_t handle, KelError** error) {
     kel::invoke(error, [&] { api->releasePduMonitor(handle); });
 }
+void kel_identifyAllTargets(TarnApi* api, KelError** error, VariantIdentResult*** results,
+                            uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->identifyAllTargets(); }, kel::out::records(results, resultCount));
+}
+uint64_t kel_identifyAllTargetsAsync(TarnApi* api, KelError** error,
+                                     IdentifyAllTargetsCallbackFunction callback, void* context) {
+    return kel::start<IdentifyAllTargetsCallbackHandler>(
+        error, callback, context,
+        [&](auto* handler) { return api->identifyAllTargetsAsync(handler); });
+}
+void kel_readIdentificationValues(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                  KelError** error, ReadDataResult*** results,
+                                  uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->readIdentificationValues(kel::in::texts(targets, targetCount)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_readIdentificationValuesAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                           KelError** error,
+                                           ReadIdentificationValuesCallbackFunction callback,
+                                           void* context) {
+    return kel::start<ReadIdentificationValuesCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->readIdentificationValuesAsync(kel::in::texts(targets, targetCount),
+                                                      handler);
+        });
+}
+void kel_readDataByIdentifiers(TarnApi* api, const wchar_t* target, wchar_t** identifiers,
+                               uint32_t identifierCount, KelError** error,
+                               ReadDataResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->readDataByIdentifiers(kel::in::text(target),
+                                              kel::in::texts(identifiers, identifierCount));
+        },
+        kel::out::records(results, resultCount));
+}
+void kel_identifyTarget(TarnApi* api, const wchar_t* target, KelError** error,
+                        VariantIdentResult** result) {
+    kel::invoke(
+        error, [&] { return api->identifyTarget(kel::in::text(target)); },
+        kel::out::record(result));
+}
+void kel_readDtcs(TarnApi* api, wchar_t** targets, uint32_t targetCount, DtcReadConfig* config,
+                  KelError** error, ReadDtcResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->readDtcs(kel::in::texts(targets, targetCount), kel::in::record(config));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_readDtcsAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                           DtcReadConfig* config, KelError** error,
+                           ReadDtcsCallbackFunction callback, void* context) {
+    return kel::start<ReadDtcsCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->readDtcsAsync(kel::in::texts(targets, targetCount), kel::in::record(config),
+                                  handler);
+    });
+}
+void kel_readSupportedDtcs(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                           DtcReadConfig* config, KelError** error, ReadDtcResult*** results,
+                           uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->readSupportedDtcs(kel::in::texts(targets, targetCount),
+                                          kel::in::record(config));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_readSupportedDtcsAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                    DtcReadConfig* config, KelError** error,
+                                    ReadSupportedDtcsCallbackFunction callback, void* context) {
+    return kel::start<ReadSupportedDtcsCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->readSupportedDtcsAsync(kel::in::texts(targets, targetCount),
+                                               kel::in::record(config), handler);
+        });
+}
+void kel_clearAllDtcs(TarnApi* api, wchar_t** targets, uint32_t targetCount, KelError** error,
+                      ClearDtcResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->clearAllDtcs(kel::in::texts(targets, targetCount)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_clearAllDtcsAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                               KelError** error, ClearAllDtcsCallbackFunction callback,
+                               void* context) {
+    return kel::start<ClearAllDtcsCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->clearAllDtcsAsync(kel::in::texts(targets, targetCount), handler);
+    });
+}
 void kel_connectRemoteServer(TarnApi* api, const wchar_t* text, KelError** error,
                              uint64_t* handle) {
     kel::invoke(
@@ -71,6 +211,12 @@ void kel_registerMeasurementValues(TarnApi* api, const wchar_t* target, wchar_t*
                                                   kel::in::texts(names, nameCount));
         },
         kel::out::value(registration));
+}
+void kel_getMeasurementValues(TarnApi* api, uint64_t registration, KelError** error,
+                              ReadDataResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->getMeasurementValues(registration); },
+        kel::out::records(results, resultCount));
 }
 void kel_unregisterMeasurementValues(TarnApi* api, uint64_t registration, KelError** error) {
     kel::invoke(error, [&] { api->unregisterMeasurementValues(registration); });
@@ -92,6 +238,11 @@ void kel_openEventChannel(TarnApi* api, KelError** error, uint64_t* channel) {
 }
 void kel_closeEventChannel(TarnApi* api, uint64_t channel, KelError** error) {
     kel::invoke(error, [&] { api->closeEventChannel(channel); });
+}
+void kel_getCurrentEvents(TarnApi* api, uint64_t channel, uint32_t limit, KelError** error,
+                          EventReport** report) {
+    kel::invoke(
+        error, [&] { return api->getCurrentEvents(channel, limit); }, kel::out::record(report));
 }
 void kel_openTraceFileMonitoringLink(TarnApi* api, uint64_t handle, const wchar_t* traceFile,
                                      KelError** error) {
@@ -118,6 +269,27 @@ void kel_getInterfaceLongName(TarnApi* api, const wchar_t* name, KelError** erro
         error, [&] { return api->getInterfaceLongName(kel::in::text(name)); },
         kel::out::text(longName));
 }
+void kel_readMeasurementValues(TarnApi* api, const wchar_t* target, wchar_t** names,
+                               uint32_t nameCount, KelError** error, ReadDataResult*** results,
+                               uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->readMeasurementValues(kel::in::text(target),
+                                              kel::in::texts(names, nameCount));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_readMeasurementValuesAsync(TarnApi* api, const wchar_t* target, wchar_t** names,
+                                        uint32_t nameCount, KelError** error,
+                                        ReadMeasurementValuesCallbackFunction callback,
+                                        void* context) {
+    return kel::start<ReadMeasurementValuesCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->readMeasurementValuesAsync(kel::in::text(target),
+                                                   kel::in::texts(names, nameCount), handler);
+        });
+}
 void kel_readFile(TarnApi* api, const wchar_t* path, uint64_t value1, uint32_t value2, bool flag,
                   KelError** error, void** data, uint32_t* dataLength) {
     kel::invoke(
@@ -136,6 +308,19 @@ void kel_executeDoIPBroadcast(TarnApi* api, KelError** error) {
 void kel_refreshProjectList(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->refreshProjectList(); });
 }
+void kel_identifyTargets(TarnApi* api, wchar_t** targets, uint32_t targetCount, KelError** error,
+                         VariantIdentResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->identifyTargets(kel::in::texts(targets, targetCount)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_identifyTargetsAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                  KelError** error, IdentifyTargetsCallbackFunction callback,
+                                  void* context) {
+    return kel::start<IdentifyTargetsCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->identifyTargetsAsync(kel::in::texts(targets, targetCount), handler);
+    });
+}
 void kel_releaseSocketBridge(TarnApi* api, uint64_t bridge, KelError** error) {
     kel::invoke(error, [&] { api->releaseSocketBridge(bridge); });
 }
@@ -143,6 +328,12 @@ void kel_createSocketBridge(TarnApi* api, uint32_t value1, uint32_t value2, KelE
                             uint64_t* bridge) {
     kel::invoke(
         error, [&] { return api->createSocketBridge(value1, value2); }, kel::out::value(bridge));
+}
+void kel_getFilteredTargets(TarnApi* api, TargetFilter** filters, uint32_t filterCount,
+                            KelError** error, Target*** targets, uint32_t* targetCount) {
+    kel::invoke(
+        error, [&] { return api->getFilteredTargets(kel::in::records(filters, filterCount)); },
+        kel::out::records(targets, targetCount));
 }
 void kel_isProjectConversionRequired(TarnApi* api, const wchar_t* projectPath, KelError** error,
                                      bool* required) {
@@ -328,6 +519,12 @@ void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error, 
     kel::invoke(
         error, [&] { return api->reconnectRemoteServer(handle); }, kel::out::value(reconnected));
 }
+void kel_getTargetStatus(TarnApi* api, wchar_t** targets, uint32_t targetCount, KelError** error,
+                         TargetStatus*** statuses, uint32_t* statusCount) {
+    kel::invoke(
+        error, [&] { return api->getTargetStatus(kel::in::texts(targets, targetCount)); },
+        kel::out::records(statuses, statusCount));
+}
 void kel_moveFile(TarnApi* api, const wchar_t* source, const wchar_t* target, KelError** error,
                   bool* moved) {
     kel::invoke(
@@ -439,6 +636,26 @@ void kel_addPublicDirectory(TarnApi* api, const wchar_t* name, const wchar_t* pa
                             KelError** error) {
     kel::invoke(error, [&] { api->addPublicDirectory(kel::in::text(name), kel::in::text(path)); });
 }
+void kel_clearSpecificDtcs(TarnApi* api, const wchar_t* target, const uint32_t* dtcCodes,
+                           uint32_t dtcCodeCount, KelError** error, ClearDtcResult*** results,
+                           uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->clearSpecificDtcs(kel::in::text(target),
+                                          kel::in::values(dtcCodes, dtcCodeCount));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_clearSpecificDtcsAsync(TarnApi* api, const wchar_t* target, const uint32_t* dtcCodes,
+                                    uint32_t dtcCodeCount, KelError** error,
+                                    ClearSpecificDtcsCallbackFunction callback, void* context) {
+    return kel::start<ClearSpecificDtcsCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->clearSpecificDtcsAsync(kel::in::text(target),
+                                               kel::in::values(dtcCodes, dtcCodeCount), handler);
+        });
+}
 void kel_startSOVDServer(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->startSOVDServer(); });
 }
@@ -460,6 +677,10 @@ void kel_getSelectedProject(TarnApi* api, KelError** error, wchar_t** projectNam
 void kel_setSelectedProject(TarnApi* api, KelError** error, const wchar_t* projectName) {
     kel::invoke(error, [&] { api->setSelectedProject(kel::in::text(projectName)); });
 }
+void kel_getTargets(TarnApi* api, KelError** error, Target*** targets, uint32_t* targetCount) {
+    kel::invoke(
+        error, [&] { return api->getTargets(); }, kel::out::records(targets, targetCount));
+}
 void kel_getHandle(TarnApi* api, KelError** error, uint64_t* handle) {
     kel::invoke(
         error, [&] { return api->getHandle(); }, kel::out::value(handle));
@@ -467,6 +688,17 @@ void kel_getHandle(TarnApi* api, KelError** error, uint64_t* handle) {
 void kel_getMonitoringLinks(TarnApi* api, KelError** error, wchar_t*** links, uint32_t* linkCount) {
     kel::invoke(
         error, [&] { return api->getMonitoringLinks(); }, kel::out::texts(links, linkCount));
+}
+void kel_getSessionTargetFilters(TarnApi* api, KelError** error, TargetFilter*** filters,
+                                 uint32_t* filterCount) {
+    kel::invoke(
+        error, [&] { return api->getSessionTargetFilters(); },
+        kel::out::records(filters, filterCount));
+}
+void kel_setSessionTargetFilters(TarnApi* api, KelError** error, TargetFilter** filters,
+                                 uint32_t filterCount) {
+    kel::invoke(error,
+                [&] { api->setSessionTargetFilters(kel::in::records(filters, filterCount)); });
 }
 void kel_getCurrentDebugTraceDirectory(TarnApi* api, KelError** error, wchar_t** directory) {
     kel::invoke(

@@ -69,7 +69,7 @@ uint64_t UnsupportedTarnApi::readDtcsAsync(const std::vector<std::wstring>&,
                                            std::shared_ptr<DtcReadConfig>, ReadDtcsCallback*) {
     throw unsupported("readDtcsAsync");
 }
-std::vector<std::shared_ptr<ReadDtcResult>>
+std::vector<std::shared_ptr<SupportedDtcResult>>
 UnsupportedTarnApi::readSupportedDtcs(const std::vector<std::wstring>&,
                                       std::shared_ptr<DtcReadConfig>) {
     throw unsupported("readSupportedDtcs");
@@ -901,7 +901,7 @@ uint64_t EngineFront::readDtcsAsync(const std::vector<std::wstring>& targets,
     const auto call = script_->enter(*clock_, "readDtcsAsync", targets, config, callback);
     return vehicle_->readDtcsAsync(targets, config, callback);
 }
-std::vector<std::shared_ptr<ReadDtcResult>>
+std::vector<std::shared_ptr<SupportedDtcResult>>
 EngineFront::readSupportedDtcs(const std::vector<std::wstring>& targets,
                                std::shared_ptr<DtcReadConfig> config) {
     const auto call = script_->enter(*clock_, "readSupportedDtcs", targets, config);

@@ -51,7 +51,7 @@ public:
     uint64_t readDtcsAsync(const std::vector<std::wstring>& targets,
                            std::shared_ptr<DtcReadConfig> config,
                            ReadDtcsCallback* callback) override;
-    std::vector<std::shared_ptr<ReadDtcResult>>
+    std::vector<std::shared_ptr<SupportedDtcResult>>
     readSupportedDtcs(const std::vector<std::wstring>& targets,
                       std::shared_ptr<DtcReadConfig> config) override;
     uint64_t readSupportedDtcsAsync(const std::vector<std::wstring>& targets,
@@ -472,7 +472,7 @@ public:
     uint64_t readDtcsAsync(const std::vector<std::wstring>& targets,
                            std::shared_ptr<DtcReadConfig> config,
                            ReadDtcsCallback* callback) override;
-    std::vector<std::shared_ptr<ReadDtcResult>>
+    std::vector<std::shared_ptr<SupportedDtcResult>>
     readSupportedDtcs(const std::vector<std::wstring>& targets,
                       std::shared_ptr<DtcReadConfig> config) override;
     uint64_t readSupportedDtcsAsync(const std::vector<std::wstring>& targets,

@@ -24,8 +24,8 @@ extern "C" {
 
 /* The next `count` calls of `operation` throw a TarnApiException with these values
  * (NULL texts are empty) and no MVCI error. A count of 0 cancels what was scripted. */
-KEL_SIM_API void kelsim_failNext(const char* operation, uint32_t count, int32_t code, int32_t subCode,
-                                 const wchar_t* message, const wchar_t* details);
+KEL_SIM_API void kelsim_failNext(const char* operation, uint32_t count, int32_t code,
+                                 int32_t subCode, const wchar_t* message, const wchar_t* details);
 
 /* The same, with an MVCI server error beneath the engine error. */
 KEL_SIM_API void kelsim_failNextWithMvci(const char* operation, uint32_t count, int32_t code,
@@ -47,7 +47,46 @@ KEL_SIM_API int64_t kelsim_lastArguments(const char* operation, char* buffer, si
 /* How often `operation` was called since the last reset. */
 KEL_SIM_API uint64_t kelsim_callCount(const char* operation);
 
-/* Forgets scripted failures, delays and recorded calls. */
+/* Posts an event on the vehicle of the engine object with `handle` (kel_getHandle), as
+ * the vehicle would: it reaches every event channel open on that vehicle. `kind` should
+ * be 100 or above, clear of the vehicle's own kinds; NULL texts are empty. With a
+ * non-NULL `errorMessage` the event carries an error with `errorCode` and that message.
+ * Returns 0, or -1 when no live engine object has the handle. */
+KEL_SIM_API int32_t kelsim_postEvent(uint64_t handle, int32_t kind, int32_t code,
+                                     const wchar_t* text, const wchar_t* detail, int32_t errorCode,
+                                     const wchar_t* errorMessage);
+
+/* The engine holds its local engine object itself (callers may use it without a
+ * reference). This lets go of that hold: once every caller has released it too, the
+ * next kel_getTarnApi starts a fresh engine on a fresh vehicle. */
+KEL_SIM_API void kelsim_restart(void);
+
+/* ---- the simulated vehicle ----
+ * Vehicles read their description (reference_engine/README.md) when they start: the
+ * one set here, else the file named by the environment variable KEL_SIM_VEHICLE, else
+ * the bundled default vehicle. Setting one also reloads every live vehicle. Both return
+ * 0, or -1 when the description cannot be read or is not valid (nothing changes then).
+ * NULL (or "") goes back to KEL_SIM_VEHICLE or the default. */
+KEL_SIM_API int32_t kelsim_setVehicleFile(const char* path);
+KEL_SIM_API int32_t kelsim_setVehicleJson(const char* json);
+/* Every live vehicle goes back to the fault memory of its description. */
+KEL_SIM_API void kelsim_reloadVehicle(void);
+
+/* ---- asynchronous calls, by operation name ("readDtcsAsync") ----
+ * Number of reports of each call (0, the default: one per result, at least one). */
+KEL_SIM_API void kelsim_setAsyncReports(const char* operation, uint32_t reports);
+/* Time before each report (default 5 ms). */
+KEL_SIM_API void kelsim_setAsyncInterval(const char* operation, uint32_t milliseconds);
+/* The next `count` calls start normally and end with one final report that carries
+ * this error and no results. */
+KEL_SIM_API void kelsim_failAsync(const char* operation, uint32_t count, int32_t code,
+                                  const wchar_t* message, const wchar_t* details);
+/* Asynchronous calls still running on the vehicle of the engine object with `handle`,
+ * or -1 when no live engine object has it. */
+KEL_SIM_API int64_t kelsim_runningAsyncCalls(uint64_t handle);
+
+/* Forgets scripted failures, delays, recorded calls, asynchronous scripts and the
+ * vehicle description set above. */
 KEL_SIM_API void kelsim_reset(void);
 
 #ifdef __cplusplus

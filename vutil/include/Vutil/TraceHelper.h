@@ -15,7 +15,8 @@ public:
 #if defined(__GNUC__)
     __attribute__((format(printf, 2, 3)))
 #endif
-    static void trace(const char* source, const char* format, ...);
+    static void
+    trace(const char* source, const char* format, ...);
 };
 
 } // namespace Vutil

@@ -1,0 +1,198 @@
+// The positional, untagged, little-endian byte stream of the two dispatchers.
+//
+// One stream reads a caller's buffer or writes a buffer it grows itself. Values
+// follow one another with no tags, alignment or padding; both sides know from the
+// operation number what comes next. Every engine record has one stream form: its
+// fields in the one order of its field table (EngineFields.h), nested records and
+// record vectors in the nullable-record form.
+//
+// Three flags select variants: `lengthPrefixedStrings` (strings are read with a u32
+// byte count, otherwise up to a NUL that is consumed), `presenceBytes` (a record read
+// is preceded by a presence byte) and `flagsAsList` (bit sets travel as a count and a
+// list of single bits). The writer always writes string length prefixes and presence
+// bytes: the first two flags govern reading only.
+#pragma once
+
+#include <Kel_cpp/TarnApi.h>
+
+#include <EngineFields.h>
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <tuple>
+#include <type_traits>
+#include <vector>
+
+namespace kel {
+
+// A bit set member or argument: travels as one u32, or under flagsAsList as a list.
+struct Bits {
+    uint32_t value = 0;
+};
+
+// Input that runs past the end of a bounds-checked stream, or is otherwise malformed.
+class MalformedInput : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+struct OTXStream {
+    uint8_t* buffer = nullptr; // the caller's bytes (input) or a C-heap block (output)
+    uint32_t capacity = 0;     // bytes allocated; 0 for a stream over a caller's buffer
+    uint32_t position = 0;     // next byte; for output also the number of bytes written
+    uint8_t lengthPrefixedStrings = 0;
+    uint8_t presenceBytes = 0;
+    uint8_t flagsAsList = 0;
+    // Only for the bounds-checked entry points: the input's size. Reading past it throws
+    // MalformedInput. The designed entry points get no size and read unchecked.
+    bool bounded = false;
+    uint32_t size = 0;
+
+    OTXStream(bool lengthPrefixedStrings, bool presenceBytes, bool flagsAsList);
+    OTXStream(const OTXStream&) = delete;
+    OTXStream& operator=(const OTXStream&) = delete;
+    // A stream with non-zero capacity owns its buffer.
+    ~OTXStream();
+
+    // An input stream over a caller's buffer, which it never frees (capacity 0).
+    OTXStream(const void* input, bool lengthPrefixedStrings, bool presenceBytes, bool flagsAsList);
+
+    // Hands the written buffer over: the stream is left empty and owns nothing.
+    uint8_t* detach();
+
+    // ---- writing ----
+    OTXStream& write(bool value);
+    OTXStream& write(uint8_t value);
+    OTXStream& write(uint16_t value);
+    OTXStream& write(int16_t value);
+    OTXStream& write(int32_t value);
+    OTXStream& write(uint32_t value);
+    OTXStream& write(int64_t value);
+    OTXStream& write(uint64_t value);
+    OTXStream& write(Bits value);
+    OTXStream& write(const std::wstring& text);
+    OTXStream& write(const std::vector<uint8_t>& bytes);
+    template <class T>
+    OTXStream& write(const std::vector<T>& values);
+    template <class T, std::size_t N>
+    OTXStream& write(const std::array<T, N>& values);
+    template <class E>
+    OTXStream& write(const std::shared_ptr<E>& record);
+
+    // ---- reading ----
+    OTXStream& read(bool& value);
+    OTXStream& read(uint8_t& value);
+    OTXStream& read(uint16_t& value);
+    OTXStream& read(int16_t& value);
+    OTXStream& read(int32_t& value);
+    OTXStream& read(uint32_t& value);
+    OTXStream& read(int64_t& value);
+    OTXStream& read(uint64_t& value);
+    OTXStream& read(Bits& value);
+    OTXStream& read(std::wstring& text);
+    OTXStream& read(std::vector<uint8_t>& bytes);
+    template <class T>
+    OTXStream& read(std::vector<T>& values);
+    template <class T, std::size_t N>
+    OTXStream& read(std::array<T, N>& values);
+    template <class E>
+    OTXStream& read(std::shared_ptr<E>& record);
+
+    // Raw bytes, as every primitive is written: grows the buffer geometrically.
+    void put(const void* bytes, std::size_t count);
+    void take(void* bytes, std::size_t count);
+
+private:
+    uint32_t readCount(std::size_t elementSize);
+    template <class E, class Member>
+    void writeField(const E& record, const Member& field);
+    template <class E, class Member>
+    void readField(E& record, const Member& field);
+};
+
+template <class T>
+OTXStream& OTXStream::write(const std::vector<T>& values) {
+    write(static_cast<uint32_t>(values.size()));
+    for (const auto& value : values) {
+        write(value);
+    }
+    return *this;
+}
+
+template <class T, std::size_t N>
+OTXStream& OTXStream::write(const std::array<T, N>& values) {
+    for (const auto& value : values) {
+        write(value);
+    }
+    return *this;
+}
+
+template <class E, class Member>
+void OTXStream::writeField(const E& record, const Member& field) {
+    if constexpr (Member::bits) {
+        write(Bits{record.*(field.pointer)});
+    } else {
+        write(record.*(field.pointer));
+    }
+}
+
+template <class E>
+OTXStream& OTXStream::write(const std::shared_ptr<E>& record) {
+    write(static_cast<uint8_t>(record ? 1 : 0));
+    if (record) {
+        std::apply([&](const auto&... field) { (writeField(*record, field), ...); },
+                   Varno::Kel_cpp::Fields::Of<E>::list);
+    }
+    return *this;
+}
+
+template <class T>
+OTXStream& OTXStream::read(std::vector<T>& values) {
+    const uint32_t count = readCount(1);
+    values.resize(count);
+    for (auto& value : values) {
+        read(value);
+    }
+    return *this;
+}
+
+template <class T, std::size_t N>
+OTXStream& OTXStream::read(std::array<T, N>& values) {
+    for (auto& value : values) {
+        read(value);
+    }
+    return *this;
+}
+
+template <class E, class Member>
+void OTXStream::readField(E& record, const Member& field) {
+    if constexpr (Member::bits) {
+        Bits bits;
+        read(bits);
+        record.*(field.pointer) |= bits.value;
+    } else {
+        read(record.*(field.pointer));
+    }
+}
+
+// With presence bytes a 0 leaves the target as it was; without them a record is
+// always created and its fields follow at once.
+template <class E>
+OTXStream& OTXStream::read(std::shared_ptr<E>& record) {
+    if (presenceBytes != 0) {
+        uint8_t present = 0;
+        read(present);
+        if (present == 0) {
+            return *this;
+        }
+    }
+    auto created = std::make_shared<E>();
+    std::apply([&](const auto&... field) { (readField(*created, field), ...); },
+               Varno::Kel_cpp::Fields::Of<E>::list);
+    record = std::move(created);
+    return *this;
+}
+
+} // namespace kel

@@ -1,0 +1,77 @@
+// py_call / py_result: engine operations by number for a Python extension.
+#include "dispatch.h"
+
+#include <Kel_cpp/Engine.h>
+#include <Vutil/TraceHelper.h>
+#include <kel_c.h>
+
+#include <cstdlib>
+#include <cstring>
+
+namespace {
+
+using kel::OTXStream;
+using Varno::Kel_cpp::TarnApi;
+using Varno::Kel_cpp::TarnApiException;
+
+int32_t call(TarnApi* api, int32_t number, const void* input, const uint64_t* inputSize,
+             uint32_t* outSize, void** outBuffer) {
+    if (api == nullptr) {
+        // The local engine keeps itself alive; the reference is not held for the call.
+        api = Varno::Kel_cpp::getTarnApi().get();
+    }
+    OTXStream in(input, false, true, false);
+    if (inputSize != nullptr) {
+        in.bounded = true;
+        in.size = static_cast<uint32_t>(std::min<uint64_t>(*inputSize, UINT32_MAX));
+    }
+    const kel::dispatch::Operation* operation = kel::dispatch::find(number);
+    if (operation == nullptr) {
+        return 0;
+    }
+    OTXStream out(true, false, false);
+    int32_t returned = 0;
+    try {
+        try {
+            if (operation->call == nullptr) {
+                throw kel::dispatch::notAvailable(*operation);
+            }
+            operation->call(*api, in, out, {false, operation->returnsValue ? &returned : nullptr});
+        } catch (const kel::MalformedInput& problem) {
+            throw kel::dispatch::malformed(*operation, problem);
+        }
+    } catch (TarnApiException exception) { // NOLINT(misc-throw-by-value-catch-by-reference)
+        out.position = 0;
+        kel::dispatch::writeError(out, exception);
+        returned = -1;
+    }
+    *outSize = out.position;
+    *outBuffer = out.detach();
+    return returned;
+}
+
+} // namespace
+
+extern "C" {
+
+int32_t py_call(TarnApi* api, int32_t operation, uint64_t /*reserved*/, const void* input,
+                uint32_t* outSize, void** outBuffer) {
+    return call(api, operation, input, nullptr, outSize, outBuffer);
+}
+
+int32_t py_call_checked(TarnApi* api, int32_t operation, uint64_t /*reserved*/, const void* input,
+                        uint64_t inputSize, uint32_t* outSize, void** outBuffer) {
+    return call(api, operation, input, &inputSize, outSize, outBuffer);
+}
+
+void py_result(void* destination, int32_t size, void* buffer) {
+    if (Vutil::TraceHelper::enabled(3)) {
+        Vutil::TraceHelper::trace("kel_py", "result address = %p", buffer);
+    }
+    if (size > 0) {
+        std::memcpy(destination, buffer, static_cast<std::size_t>(size));
+    }
+    std::free(buffer);
+}
+
+} // extern "C"

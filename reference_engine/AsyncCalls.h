@@ -1,0 +1,122 @@
+// The simulated vehicle's asynchronous calls: each runs on the engine's worker threads
+// and reports through the caller's callback object, once or several times.
+//
+// A call computes its results at its first report and hands them out in slices: by
+// default one report per result (one per target, as the ECUs answer), the last with
+// isFinal set; a call without results reports once. Tests script the number of reports,
+// the interval between them and failures (kel_sim.h). A cancelled call ends with one
+// final report carrying a CallCancelled error and no results.
+#pragma once
+
+#include <Kel_cpp/TarnApi.h>
+
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace Varno::Kel_cpp::Reference {
+
+struct VehicleState;
+
+// What tests script for the asynchronous form of an operation (by its name, for
+// example "readDtcsAsync").
+struct AsyncScript {
+    uint32_t reports = 0;    // 0: one per result
+    uint32_t intervalMs = 5; // before each report
+    uint32_t failures = 0;   // the next calls end with `failure`
+    std::shared_ptr<KelError> failure;
+};
+void scriptAsyncReports(const std::string& operation, uint32_t reports);
+void scriptAsyncInterval(const std::string& operation, uint32_t milliseconds);
+void scriptAsyncFailure(const std::string& operation, uint32_t count,
+                        std::shared_ptr<KelError> error);
+void resetAsyncScripts();
+
+class AsyncCalls {
+public:
+    explicit AsyncCalls(VehicleState& vehicle);
+    AsyncCalls(const AsyncCalls&) = delete;
+    AsyncCalls& operator=(const AsyncCalls&) = delete;
+    // Ends every running call with a final CallCancelled report and lets the workers go.
+    ~AsyncCalls();
+
+    // Starts a call whose results `work` computes (on a worker thread, at the first
+    // report; a TarnApiException from it becomes the final report's error). Returns the
+    // call id, never 0.
+    template <class Callback, class Work>
+    uint64_t start(const char* operation, Callback* callback, Work work) {
+        using Results = decltype(work());
+        auto call = std::make_shared<Typed<Callback, Results>>();
+        call->callback = callback;
+        call->work = std::move(work);
+        return enqueue(operation, std::move(call));
+    }
+
+    // Cancels the calls with these ids (unknown ids are ignored): `now` ends them at
+    // once, otherwise at their next report.
+    void cancel(const std::vector<uint64_t>& ids, bool now);
+    void cancelAll();
+    std::size_t running() const;
+
+private:
+    struct Call {
+        virtual ~Call() = default;
+        // Runs the work; returns the number of results.
+        virtual std::size_t prepare() = 0;
+        virtual void deliver(std::size_t from, std::size_t to, bool isFinal,
+                             std::shared_ptr<KelError> error) = 0;
+
+        uint64_t id = 0;
+        std::string operation;
+        AsyncScript script;
+        std::chrono::steady_clock::time_point due;
+        bool busy = false;
+        bool cancelled = false;
+        bool prepared = false;
+        std::size_t results = 0;
+        uint32_t reports = 1;
+        uint32_t next = 0; // the report to deliver next
+    };
+
+    template <class Callback, class Results>
+    struct Typed : Call {
+        Callback* callback = nullptr;
+        std::function<Results()> work;
+        Results values;
+        std::size_t prepare() override {
+            values = work();
+            return values.size();
+        }
+        void deliver(std::size_t from, std::size_t to, bool isFinal,
+                     std::shared_ptr<KelError> error) override {
+            Results slice(values.begin() + static_cast<std::ptrdiff_t>(from),
+                          values.begin() + static_cast<std::ptrdiff_t>(to));
+            callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
+        }
+    };
+
+    // Shared with the workers, so that it outlives an engine released from a callback.
+    struct State {
+        std::mutex mutex;
+        std::condition_variable wake;
+        std::map<uint64_t, std::shared_ptr<Call>> calls;
+        bool closing = false;
+        VehicleState* vehicle = nullptr; // null once closing: no more events
+    };
+
+    uint64_t enqueue(const char* operation, std::shared_ptr<Call> call);
+    static void work(const std::shared_ptr<State>& state);
+    static void step(State& state, Call& call, std::unique_lock<std::mutex>& lock);
+
+    std::shared_ptr<State> state_;
+    std::vector<std::thread> workers_;
+};
+
+} // namespace Varno::Kel_cpp::Reference

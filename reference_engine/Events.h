@@ -1,0 +1,83 @@
+// The simulated vehicle's events: what happens to a vehicle is posted once and queued
+// on every event channel that is open on it at that moment. Each channel is read by
+// getCurrentEvents, oldest first, and forgets what it hands out.
+//
+// Posting is thread-safe and takes only the channel lock, so it may be called with the
+// vehicle's mutex held (the lock order is vehicle mutex, then channel lock; never the
+// reverse). Event records are shared between channels and never changed after posting.
+#pragma once
+
+#include <Kel_cpp/Records.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+
+namespace Varno::Kel_cpp::Reference {
+
+struct VehicleState;
+
+// KelEvent::kind. The numbers are part of what callers see; only ever add to the end.
+// KelEvent::code is kind-specific, 0 unless stated.
+enum class EventKind : int32_t {
+    EngineInitialized = 1,
+    EngineEnded = 2,
+    LockTaken = 3,           // detail: "lock id <n>"
+    LockReleased = 4,        // detail: "lock id <n>"
+    LockBroken = 5,          // detail: "lock id <n>" of the lock that was broken
+    DtcsCleared = 6,         // code: number of targets cleared
+    AsyncProgress = 7,       // code: percent done; detail: the operation and call id
+    AsyncCompleted = 8,      // code: 0, or the error code (then error is set)
+    ConnectionBroken = 9,    // detail: "engine <handle>"; error: code ConnectionLost
+    ConnectionClosed = 10,   // detail: "engine <handle>" of the object told
+    ClientConnected = 11,    // code: remote clients connected now; detail: the client
+    ClientDisconnected = 12, // code: remote clients connected now; detail: the client
+    EventsLost = 13,         // code: events dropped because the channel was full
+    Scripted = 100,          // posted by tests through kelsim_postEvent (any kind >= 100)
+};
+
+// The event's name (KelEvent::name), e.g. L"LockTaken"; L"Event<n>" for other numbers.
+std::wstring eventName(int32_t kind);
+
+// The event channels of one vehicle.
+class EventChannels {
+public:
+    // Events a channel holds before the oldest are dropped (and an EventsLost event
+    // reports how many at the next read).
+    static constexpr std::size_t capacity = 10000;
+
+    // A new channel id, unique in the process and never 0, so that an id of a closed
+    // channel or of another vehicle is never mistaken for an open one.
+    uint64_t open();
+    // Throws TarnApiException UnknownEventChannel for an unknown or closed channel.
+    void close(uint64_t channel);
+    // At most `limit` pending events, oldest first, removed from the channel; a limit
+    // of 0 takes every pending event. Never null; empty when nothing is pending.
+    std::shared_ptr<EventReport> take(uint64_t channel, uint32_t limit);
+    // Queues `event` on every open channel.
+    void post(const std::shared_ptr<KelEvent>& event);
+    std::size_t openCount() const;
+
+private:
+    struct Channel {
+        std::deque<std::shared_ptr<KelEvent>> pending;
+        int32_t dropped = 0;
+    };
+    mutable std::mutex mutex_;
+    std::map<uint64_t, Channel> channels_;
+};
+
+// Posts an event on `vehicle`'s open channels. The text is what a person reads, the
+// detail what a log would add (a lock id, a client, a call id).
+void post(VehicleState& vehicle, EventKind kind, int32_t code, std::wstring text,
+          std::wstring detail, std::shared_ptr<KelError> error = {});
+
+// The same with a raw kind number, for scripted events.
+void post(VehicleState& vehicle, int32_t kind, int32_t code, std::wstring text, std::wstring detail,
+          std::shared_ptr<KelError> error = {});
+
+} // namespace Varno::Kel_cpp::Reference

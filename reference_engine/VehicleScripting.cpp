@@ -1,0 +1,74 @@
+// kel_sim.h: the vehicle description and the asynchronous calls.
+#include "AsyncCalls.h"
+#include "SimulatedVehicle.h"
+#include "Vehicle.h"
+
+#include <fstream>
+#include <kel_sim.h>
+#include <sstream>
+
+using namespace Varno::Kel_cpp::Reference;
+
+namespace {
+
+// Checks a description before it is used, so that the caller hears about a bad one.
+int32_t useSource(const char* path, const char* json) {
+    try {
+        std::string text = json != nullptr ? json : "";
+        if (path != nullptr && *path != '\0') {
+            std::ifstream in(path, std::ios::binary);
+            if (!in) {
+                return -1;
+            }
+            std::ostringstream content;
+            content << in.rdbuf();
+            VehicleModel::parse(content.str());
+        } else if (!text.empty()) {
+            VehicleModel::parse(text);
+        }
+    } catch (const Varno::Kel_cpp::TarnApiException&) {
+        return -1;
+    }
+    setVehicleSource(path != nullptr ? path : "", json != nullptr ? json : "");
+    VehicleModel::reloadAll();
+    return 0;
+}
+
+} // namespace
+
+extern "C" {
+
+int32_t kelsim_setVehicleFile(const char* path) { return useSource(path, nullptr); }
+
+int32_t kelsim_setVehicleJson(const char* json) { return useSource(nullptr, json); }
+
+void kelsim_reloadVehicle(void) { VehicleModel::reloadAll(); }
+
+void kelsim_setAsyncReports(const char* operation, uint32_t reports) {
+    scriptAsyncReports(operation, reports);
+}
+
+void kelsim_setAsyncInterval(const char* operation, uint32_t milliseconds) {
+    scriptAsyncInterval(operation, milliseconds);
+}
+
+void kelsim_failAsync(const char* operation, uint32_t count, int32_t code, const wchar_t* message,
+                      const wchar_t* details) {
+    auto error = std::make_shared<Varno::Kel_cpp::KelError>();
+    error->code = code;
+    error->message = message != nullptr ? message : L"";
+    error->details = details != nullptr ? details : L"";
+    scriptAsyncFailure(operation, count, std::move(error));
+}
+
+int64_t kelsim_runningAsyncCalls(uint64_t handle) {
+    const auto vehicle = vehicleByHandle(handle);
+    return vehicle ? static_cast<int64_t>(vehicle->async.running()) : -1;
+}
+
+} // extern "C"
+
+void Varno::Kel_cpp::Reference::resetVehicleScripts() {
+    resetAsyncScripts();
+    setVehicleSource("", "");
+}

@@ -1,0 +1,280 @@
+// kel_call and py_call: the numbering, engine selection, result layouts, errors, the
+// result registry and the checked entry points.
+#include "golden.h"
+#include "support.h"
+
+#include <Vutil/ErrorHandler.h>
+#include <Vutil/TraceRecorder.h>
+
+#include <algorithm>
+#include <atomic>
+#include <cstdlib>
+#include <cstring>
+#include <set>
+#include <thread>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::golden;
+using Bytes = std::vector<uint8_t>;
+
+// One kel_call and its fetched result; nullopt when the number is not recognised.
+struct OtxResult {
+    bool recognised = false;
+    Bytes bytes;
+};
+
+OtxResult otxCall(int32_t operation, const Bytes& input = {}, uint64_t handle = 0,
+                  bool checked = true) {
+    void* stream = reinterpret_cast<void*>(static_cast<uintptr_t>(0x1234));
+    uint64_t size = 0xFFFF;
+    if (checked) {
+        kel_call_checked(handle, operation, input.data(), input.size(), &stream, &size);
+    } else {
+        kel_call(handle, operation, input.data(), &stream, &size);
+    }
+    OtxResult result;
+    if (stream == reinterpret_cast<void*>(static_cast<uintptr_t>(0x1234))) {
+        EXPECT_EQ(size, 0xFFFFU) << "an unrecognised number leaves both outputs alone";
+        return result;
+    }
+    result.recognised = true;
+    result.bytes.resize(size);
+    EXPECT_EQ(kel_call_result(stream, result.bytes.data()), result.bytes.data());
+    return result;
+}
+
+struct PyResult {
+    int32_t returned = 0;
+    Bytes bytes;
+};
+
+PyResult pyCall(TarnApi* api, int32_t operation, const Bytes& input = {}, bool checked = true) {
+    uint32_t size = 0;
+    void* buffer = nullptr;
+    PyResult result;
+    result.returned =
+        checked ? py_call_checked(api, operation, 0, input.data(), input.size(), &size, &buffer)
+                : py_call(api, operation, 0, input.data(), &size, &buffer);
+    result.bytes.resize(size);
+    py_result(result.bytes.data(), static_cast<int32_t>(size), buffer);
+    return result;
+}
+
+Bytes u64(uint64_t value) {
+    Bytes bytes(8);
+    std::memcpy(bytes.data(), &value, 8);
+    return bytes;
+}
+
+// The numbers that name no operation, as the dispatchers' numbering defines them.
+bool namesNoOperation(int n) {
+    static const std::set<int> none = {18,  20,  24,  26,  28,  31,  33,  35,  72,  76,  84,
+                                       87,  94,  95,  98,  122, 124, 163, 167, 168, 170, 171,
+                                       172, 173, 176, 197, 200, 205, 207, 212, 214, 221, 222,
+                                       229, 230, 239, 240, 241, 242, 243, 252, 258, 263, 266,
+                                       269, 270, 271, 272, 273, 274, 275, 276, 277, 278, 279};
+    return n < 2 || n > 280 || none.count(n) != 0;
+}
+
+using Dispatch = EngineTest;
+
+TEST_F(Dispatch, ExactlyTheNumberedOperationsAreRecognised) {
+    std::vector<int> wrong;
+    for (int n = -5; n <= 285; ++n) {
+        // Empty input: operations with arguments answer "malformed input", still recognised.
+        if (otxCall(n).recognised == namesNoOperation(n)) {
+            wrong.push_back(n);
+        }
+        uint32_t size = 77;
+        void* buffer = &size;
+        const int32_t returned = py_call_checked(api, n, 0, nullptr, 0, &size, &buffer);
+        if (buffer == &size) {
+            EXPECT_EQ(returned, 0);
+            EXPECT_EQ(size, 77U);
+            if (!namesNoOperation(n)) {
+                wrong.push_back(n);
+            }
+        } else {
+            py_result(nullptr, 0, buffer);
+            if (namesNoOperation(n)) {
+                wrong.push_back(n);
+            }
+        }
+    }
+    EXPECT_TRUE(wrong.empty()) << "recognition differs for " << ::testing::PrintToString(wrong);
+}
+
+TEST_F(Dispatch, ResultLayoutsMatchTheGoldenVectors) {
+    EXPECT_EQ(otxCall(49).bytes, golden("otx_get_state"));
+    EXPECT_EQ(otxCall(2).bytes, golden("otx_initialize"));
+    const PyResult state = pyCall(api, 49);
+    EXPECT_EQ(state.returned, 1) << "getState's result is also the return value";
+    EXPECT_EQ(state.bytes, golden("py_get_state"));
+
+    kelsim_failNext("getState", 2, 42, 7, L"No VCI", L"timeout");
+    EXPECT_EQ(otxCall(49).bytes, golden("otx_error"));
+    const PyResult failed = pyCall(api, 49);
+    EXPECT_EQ(failed.returned, -1);
+    EXPECT_EQ(failed.bytes, golden("py_error"));
+}
+
+TEST_F(Dispatch, ArgumentsReachTheEngineInOrder) {
+    // 148 is unlock: one u64.
+    const OtxResult unlock = otxCall(148, u64(0x0102030405060708ULL), 0, false);
+    ASSERT_TRUE(unlock.recognised);
+    EXPECT_EQ(unlock.bytes[0], 0) << "not locked: the engine refuses";
+    EXPECT_EQ(kel_test::lastArguments("unlock"), "[72623859790382856]");
+
+    // 196 is setStatusText: py_call strings arrive NUL-terminated.
+    const Bytes text = {'R', 0xC3, 0xBC, 'n', 0};
+    const PyResult status = pyCall(api, 196, text, false);
+    EXPECT_EQ(status.returned, -1) << "not simulated yet";
+    EXPECT_EQ(kel_test::lastArguments("setStatusText"), "[\"R\xC3\xBCn\"]");
+
+    // 147 lock then 149 isLocked: a u64 result, then a one-byte flag.
+    const OtxResult lock = otxCall(147);
+    ASSERT_EQ(lock.bytes.size(), 9U);
+    EXPECT_EQ(lock.bytes[0], 1);
+    EXPECT_EQ(otxCall(149).bytes, (Bytes{1, 1}));
+}
+
+TEST_F(Dispatch, HandleSelectsTheEngineOnlyForItsOperations) {
+    KelError* error = nullptr;
+    uint64_t handle = 0;
+    kel_getHandle(api, &error, &handle);
+    ASSERT_EQ(error, nullptr);
+
+    // 61 getHandle is served by the engine that `handle` selects: a remote connection.
+    const OtxResult remote = otxCall(61, {}, handle);
+    ASSERT_EQ(remote.bytes.size(), 9U);
+    uint64_t remoteHandle = 0;
+    std::memcpy(&remoteHandle, remote.bytes.data() + 1, 8);
+    EXPECT_NE(remoteHandle, handle);
+    EXPECT_NE(remoteHandle, 0U);
+
+    // 4 startServer ignores `handle` and runs on the local engine.
+    kelsim_reset();
+    otxCall(4, Bytes{0, 0, 0, 0}, handle);
+    EXPECT_EQ(kelsim_callCount("startServer"), 1U);
+
+    // A handle the engine rejects: every recognised operation reports the engine's error.
+    const OtxResult rejected = otxCall(4, Bytes{0, 0, 0, 0}, 0xBADBADULL);
+    ASSERT_GE(rejected.bytes.size(), 6U);
+    EXPECT_EQ(rejected.bytes[0], 0);
+    EXPECT_EQ(rejected.bytes[1], 1);
+    int32_t code = 0;
+    std::memcpy(&code, rejected.bytes.data() + 2, 4);
+    EXPECT_EQ(code, 1005);
+    EXPECT_EQ(kelsim_callCount("startServer"), 1U) << "nothing ran";
+}
+
+TEST_F(Dispatch, MalformedInputIsReportedByTheCheckedForms) {
+    // unlock wants 8 bytes; give it 3.
+    const OtxResult shortInput = otxCall(148, Bytes{1, 2, 3});
+    ASSERT_TRUE(shortInput.recognised);
+    ASSERT_GE(shortInput.bytes.size(), 6U);
+    EXPECT_EQ(shortInput.bytes[0], 0);
+    int32_t code = 0;
+    std::memcpy(&code, shortInput.bytes.data() + 2, 4);
+    EXPECT_EQ(code, KEL_ERROR_MALFORMED_INPUT);
+    EXPECT_EQ(kelsim_callCount("unlock"), 0U) << "the engine is not called";
+
+    // A string without its NUL inside the buffer.
+    const PyResult noNul = pyCall(api, 196, Bytes{'a', 'b'});
+    EXPECT_EQ(noNul.returned, -1);
+    std::memcpy(&code, noNul.bytes.data() + 1, 4);
+    EXPECT_EQ(code, KEL_ERROR_MALFORMED_INPUT);
+    EXPECT_EQ(kelsim_callCount("setStatusText"), 0U);
+}
+
+TEST_F(Dispatch, EveryResultIsFetchedOnceAndFreed) {
+    void* stream = nullptr;
+    uint64_t size = 0;
+    kel_call(0, 2, nullptr, &stream, &size);
+    ASSERT_EQ(size, 1U);
+    uint8_t first[4] = {9, 9, 9, 9};
+    kel_call_result(stream, first);
+    EXPECT_EQ(first[0], 1);
+    uint8_t second[4] = {9, 9, 9, 9};
+    EXPECT_EQ(kel_call_result(stream, second), second);
+    EXPECT_EQ(second[0], 9) << "a second fetch copies nothing";
+    EXPECT_EQ(kel_call_result(second, first), first) << "an unknown pointer copies nothing";
+    // A loop of calls leaves nothing behind: the leak checker of the sanitizer build
+    // would report every stream not freed.
+    for (int i = 0; i < 2000; ++i) {
+        kel_call(0, 49, nullptr, &stream, &size);
+        uint8_t bytes[8];
+        kel_call_result(stream, bytes);
+    }
+}
+
+TEST_F(Dispatch, TraceNamesTheOperationAndTheResultAddress) {
+    auto recorder = std::make_shared<Vutil::TraceRecorder>();
+    Vutil::ErrorHandler::addListener(recorder);
+    Vutil::ErrorHandler::setDebugTraceLevel(3);
+    otxCall(1); // unknown numbers are traced too
+    otxCall(49);
+    uint32_t size = 0;
+    void* buffer = nullptr;
+    py_call(api, 49, 0, nullptr, &size, &buffer);
+    const void* const address = buffer;
+    int32_t state = 0;
+    py_result(&state, static_cast<int32_t>(size), buffer);
+    Vutil::ErrorHandler::setDebugTraceLevel(0);
+    Vutil::ErrorHandler::removeListener(recorder);
+
+    std::vector<std::string> seen;
+    for (const auto& line : recorder->lines()) {
+        seen.push_back(line.source + ": " + line.text);
+    }
+    EXPECT_NE(std::find(seen.begin(), seen.end(), "kel_otx: kel_call operation 1"), seen.end());
+    EXPECT_NE(std::find(seen.begin(), seen.end(), "kel_otx: kel_call operation 49"), seen.end());
+    // %p is printed differently by each C runtime: compare the number, not the text.
+    const std::string prefix = "kel_py: result address = ";
+    const auto line = std::find_if(seen.begin(), seen.end(),
+                                   [&](const std::string& l) { return l.rfind(prefix, 0) == 0; });
+    ASSERT_NE(line, seen.end());
+    EXPECT_EQ(std::strtoull(line->c_str() + prefix.size(), nullptr, 16),
+              reinterpret_cast<uintptr_t>(address));
+}
+
+TEST_F(Dispatch, NullApiMeansTheLocalEngine) {
+    const PyResult state = pyCall(nullptr, 49);
+    EXPECT_EQ(state.returned, 1);
+    EXPECT_EQ(kelsim_callCount("getState"), 1U);
+}
+
+TEST_F(Dispatch, RegisterServerHandlerWritesOnlyTheStatus) {
+    const OtxResult registered = otxCall(254);
+    ASSERT_TRUE(registered.recognised);
+    EXPECT_EQ(registered.bytes, Bytes{1});
+}
+
+using DispatchConcurrency = EngineTest;
+
+TEST_F(DispatchConcurrency, CallsFromManyThreadsEachGetTheirOwnResult) {
+    std::atomic<int> wrong{0};
+    std::vector<std::thread> threads;
+    for (int t = 0; t < 6; ++t) {
+        threads.emplace_back([&] {
+            for (int i = 0; i < 300; ++i) {
+                void* stream = nullptr;
+                uint64_t size = 0;
+                kel_call(0, 49, nullptr, &stream, &size);
+                uint8_t bytes[5] = {};
+                kel_call_result(stream, bytes);
+                if (size != 5 || bytes[0] != 1 || bytes[1] != 1) {
+                    ++wrong;
+                }
+            }
+        });
+    }
+    for (auto& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(wrong.load(), 0);
+}
+
+} // namespace

@@ -1,0 +1,530 @@
+// Event channels, connection callbacks and server handlers through the C exports,
+// against the simulated vehicle: events come from what the engine does.
+#include "support.h"
+
+#include <atomic>
+#include <chrono>
+#include <cstring>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+
+// The vehicle's event kinds, as the reference engine numbers them.
+enum : int32_t {
+    EngineEnded = 2,
+    LockTaken = 3,
+    LockReleased = 4,
+    LockBroken = 5,
+    ConnectionBroken = 9,
+    ConnectionClosed = 10,
+    ClientConnected = 11,
+    ClientDisconnected = 12,
+    EventsLost = 13,
+};
+
+struct Event {
+    std::wstring name;
+    int32_t kind = 0;
+    int32_t code = 0;
+    std::wstring text;
+    std::wstring detail;
+    bool hasError = false;
+    int32_t errorCode = 0;
+    std::wstring errorMessage;
+};
+
+std::wstring copy(const wchar_t* text) { return text != nullptr ? text : L"<null>"; }
+
+// Copies a report into plain values and releases it.
+std::vector<Event> consume(EventReport* report) {
+    std::vector<Event> events;
+    for (uint32_t i = 0; i < report->eventCount; ++i) {
+        const KelEvent* e = report->events[i];
+        Event event{copy(e->name),       e->kind, e->code, copy(e->text), copy(e->detail),
+                    e->error != nullptr, 0,       {}};
+        if (e->error != nullptr) {
+            event.errorCode = e->error->code;
+            event.errorMessage = copy(e->error->message);
+        }
+        events.push_back(std::move(event));
+    }
+    release_EventReport(report);
+    return events;
+}
+
+std::vector<int32_t> kinds(const std::vector<Event>& events) {
+    std::vector<int32_t> result;
+    for (const auto& e : events) {
+        result.push_back(e.kind);
+    }
+    return result;
+}
+
+std::wstring lockDetail(uint64_t lockId) { return L"lock id " + std::to_wstring(lockId); }
+
+class Events : public EngineTest {
+protected:
+    uint64_t open(TarnApi* on = nullptr) {
+        ErrorSlot error;
+        uint64_t channel = 0;
+        kel_openEventChannel(on != nullptr ? on : api, &error, &channel);
+        EXPECT_FALSE(error);
+        EXPECT_NE(channel, 0U);
+        return channel;
+    }
+    std::vector<Event> read(uint64_t channel, uint32_t limit = 0) {
+        ErrorSlot error;
+        EventReport* report = nullptr;
+        kel_getCurrentEvents(api, channel, limit, &error, &report);
+        EXPECT_FALSE(error) << "code " << (error ? error->code : 0);
+        if (report == nullptr) {
+            ADD_FAILURE() << "no report";
+            return {};
+        }
+        return consume(report);
+    }
+    uint64_t handle(TarnApi* of) {
+        ErrorSlot error;
+        uint64_t value = 0;
+        kel_getHandle(of, &error, &value);
+        EXPECT_FALSE(error);
+        return value;
+    }
+};
+
+TEST_F(Events, EngineActionsComeBackOldestFirstWithTheirDetails) {
+    const uint64_t channel = open();
+    ErrorSlot error;
+    uint64_t first = 0;
+    uint64_t second = 0;
+    kel_lock(api, &error, &first);
+    kel_unlock(api, first, &error);
+    kel_lock(api, &error, &second);
+    kel_breakLock(api, &error);
+    kel_breakLock(api, &error); // nothing to break: no event
+    kel_end(api, &error);
+    ASSERT_FALSE(error);
+
+    const auto events = read(channel);
+    ASSERT_EQ(kinds(events),
+              (std::vector<int32_t>{LockTaken, LockReleased, LockTaken, LockBroken, EngineEnded}));
+    EXPECT_EQ(events[0].name, L"LockTaken");
+    EXPECT_EQ(events[0].detail, lockDetail(first));
+    EXPECT_EQ(events[1].name, L"LockReleased");
+    EXPECT_EQ(events[1].detail, lockDetail(first));
+    EXPECT_EQ(events[2].detail, lockDetail(second));
+    EXPECT_EQ(events[3].name, L"LockBroken");
+    EXPECT_EQ(events[3].detail, lockDetail(second));
+    EXPECT_EQ(events[4].name, L"EngineEnded");
+    EXPECT_EQ(events[4].detail, L"") << "an empty engine text arrives as an empty string";
+    for (const auto& e : events) {
+        EXPECT_FALSE(e.text.empty());
+        EXPECT_FALSE(e.hasError);
+    }
+}
+
+// A minimal reader of kel_call results, enough to walk an event report.
+struct ResultReader {
+    std::vector<uint8_t> bytes;
+    size_t at = 0;
+    template <class T>
+    T take() {
+        T value{};
+        EXPECT_LE(at + sizeof(T), bytes.size());
+        if (at + sizeof(T) <= bytes.size()) {
+            std::memcpy(&value, bytes.data() + at, sizeof(T));
+        }
+        at += sizeof(T);
+        return value;
+    }
+    std::string text() {
+        const auto length = take<uint32_t>();
+        std::string out(reinterpret_cast<const char*>(bytes.data() + at), length);
+        at += length;
+        return out;
+    }
+};
+
+ResultReader otxCall(int32_t operation, const std::vector<uint8_t>& input = {}) {
+    void* stream = nullptr;
+    uint64_t size = 0;
+    kel_call_checked(0, operation, input.data(), input.size(), &stream, &size);
+    ResultReader result;
+    result.bytes.resize(size);
+    kel_call_result(stream, result.bytes.data());
+    EXPECT_EQ(result.take<uint8_t>(), 1) << "status of operation " << operation;
+    return result;
+}
+
+TEST_F(Events, ComeBackThroughKelCallToo) {
+    // 45 openEventChannel, 147 lock, 47 getCurrentEvents(channel, limit).
+    const auto channel = otxCall(45).take<uint64_t>();
+    otxCall(147);
+    std::vector<uint8_t> input(12);
+    std::memcpy(input.data(), &channel, 8);
+    ResultReader report = otxCall(47, input); // limit 0: everything pending
+    EXPECT_EQ(report.take<uint8_t>(), 1) << "the report is present";
+    ASSERT_EQ(report.take<uint32_t>(), 1U) << "one event";
+    EXPECT_EQ(report.take<uint8_t>(), 1);
+    EXPECT_EQ(report.text(), "LockTaken");
+    EXPECT_EQ(report.take<int32_t>(), LockTaken);
+    report.take<int32_t>(); // code
+    EXPECT_FALSE(report.text().empty());
+    EXPECT_EQ(report.take<uint8_t>(), 0) << "no error record";
+    EXPECT_EQ(report.text().rfind("lock id ", 0), 0U);
+    EXPECT_EQ(report.at, report.bytes.size()) << "nothing follows the report";
+}
+
+TEST_F(Events, AnEmptyChannelGivesAnEmptyReportNotNull) {
+    const uint64_t channel = open();
+    ErrorSlot error;
+    EventReport* report = nullptr;
+    kel_getCurrentEvents(api, channel, 10, &error, &report);
+    ASSERT_FALSE(error);
+    ASSERT_NE(report, nullptr);
+    EXPECT_EQ(report->eventCount, 0U);
+    EXPECT_EQ(report->events, nullptr);
+    release_EventReport(report);
+}
+
+TEST_F(Events, LimitIsRespectedAndWhatIsReadIsGone) {
+    const uint64_t channel = open();
+    const uint64_t self = handle(api);
+    for (int32_t i = 0; i < 5; ++i) {
+        ASSERT_EQ(kelsim_postEvent(self, 100, i, L"scripted", L"", 0, nullptr), 0);
+    }
+    auto codes = [](const std::vector<Event>& events) {
+        std::vector<int32_t> result;
+        for (const auto& e : events) {
+            result.push_back(e.code);
+        }
+        return result;
+    };
+    EXPECT_EQ(codes(read(channel, 2)), (std::vector<int32_t>{0, 1}));
+    EXPECT_EQ(codes(read(channel, 1)), (std::vector<int32_t>{2}));
+    EXPECT_EQ(codes(read(channel, 10)), (std::vector<int32_t>{3, 4}));
+    EXPECT_TRUE(read(channel, 10).empty());
+
+    for (int32_t i = 0; i < 3; ++i) {
+        kelsim_postEvent(self, 100, i, L"scripted", L"", 0, nullptr);
+    }
+    EXPECT_EQ(codes(read(channel, 0)), (std::vector<int32_t>{0, 1, 2}))
+        << "limit 0 takes everything";
+}
+
+TEST_F(Events, EachChannelHasItsOwnQueueFromWhenItOpened) {
+    const uint64_t early = open();
+    ErrorSlot error;
+    uint64_t lockId = 0;
+    kel_lock(api, &error, &lockId);
+    const uint64_t late = open();
+    EXPECT_NE(late, early);
+    kel_unlock(api, lockId, &error);
+    ASSERT_FALSE(error);
+
+    EXPECT_EQ(kinds(read(early)), (std::vector<int32_t>{LockTaken, LockReleased}));
+    EXPECT_EQ(kinds(read(late)), (std::vector<int32_t>{LockReleased}))
+        << "reading one channel leaves the other";
+    EXPECT_TRUE(read(early).empty());
+}
+
+TEST_F(Events, UnknownOrClosedChannelIsAnError) {
+    const uint64_t channel = open();
+    ErrorSlot closeError;
+    kel_closeEventChannel(api, channel, &closeError);
+    ASSERT_FALSE(closeError);
+
+    for (const uint64_t bad : {channel, uint64_t{0}, ~uint64_t{0}}) {
+        ErrorSlot error;
+        auto* const untouched = reinterpret_cast<EventReport*>(0x1234);
+        EventReport* report = untouched;
+        kel_getCurrentEvents(api, bad, 0, &error, &report);
+        ASSERT_TRUE(error) << bad;
+        EXPECT_EQ(error->code, 1006);
+        EXPECT_EQ(copy(error->details),
+                  L"channel " + std::to_wstring(bad) + L" was never opened or is closed");
+        EXPECT_EQ(report, untouched);
+    }
+    ErrorSlot again;
+    kel_closeEventChannel(api, channel, &again);
+    ASSERT_TRUE(again) << "a channel closes once";
+    EXPECT_EQ(again->code, 1006);
+}
+
+TEST_F(Events, ConnectionReportsBecomeEventsAndABrokenOneCarriesAnError) {
+    const uint64_t channel = open();
+    ErrorSlot error;
+    kel_onConnectionBroken(api, &error);
+    kel_onConnectionClosed(api, &error);
+    ASSERT_FALSE(error);
+
+    // Released unread first: the nested error goes with the report (the ASan run checks).
+    EventReport* report = nullptr;
+    kel_getCurrentEvents(api, channel, 1, &error, &report);
+    ASSERT_NE(report, nullptr);
+    ASSERT_EQ(report->eventCount, 1U);
+    ASSERT_NE(report->events[0]->error, nullptr);
+    release_EventReport(report);
+
+    kel_onConnectionBroken(api, &error);
+    const auto events = read(channel);
+    ASSERT_EQ(kinds(events), (std::vector<int32_t>{ConnectionClosed, ConnectionBroken}));
+    EXPECT_FALSE(events[0].hasError);
+    EXPECT_TRUE(events[1].hasError);
+    EXPECT_EQ(events[1].errorCode, 1007);
+    EXPECT_EQ(events[1].errorMessage, L"The connection to the client broke");
+}
+
+TEST_F(Events, ScriptedEventsKeepEveryFieldAndNullTextsBecomeEmpty) {
+    const uint64_t channel = open();
+    ASSERT_EQ(
+        kelsim_postEvent(handle(api), 321, -7, L"t\u00e9xt", L"d\u00e9tail", 55, L"m\u00e9ssage"),
+        0);
+    ASSERT_EQ(kelsim_postEvent(handle(api), 100, 0, nullptr, nullptr, 0, nullptr), 0);
+    EXPECT_EQ(kelsim_postEvent(0, 100, 0, nullptr, nullptr, 0, nullptr), -1);
+
+    const auto events = read(channel);
+    ASSERT_EQ(events.size(), 2U);
+    EXPECT_EQ(events[0].name, L"Event321");
+    EXPECT_EQ(events[0].kind, 321);
+    EXPECT_EQ(events[0].code, -7);
+    EXPECT_EQ(events[0].text, L"t\u00e9xt");
+    EXPECT_EQ(events[0].detail, L"d\u00e9tail");
+    EXPECT_EQ(events[0].errorCode, 55);
+    EXPECT_EQ(events[0].errorMessage, L"m\u00e9ssage");
+    EXPECT_EQ(events[1].name, L"Scripted");
+    EXPECT_EQ(events[1].text, L"");
+    EXPECT_FALSE(events[1].hasError);
+}
+
+TEST_F(Events, AFullChannelDropsTheOldestAndSaysHowMany) {
+    const uint64_t channel = open();
+    const uint64_t self = handle(api);
+    constexpr int32_t capacity = 10000;
+    for (int32_t i = 0; i < capacity + 5; ++i) {
+        kelsim_postEvent(self, 100, i, nullptr, nullptr, 0, nullptr);
+    }
+    const auto head = read(channel, 2);
+    ASSERT_EQ(head.size(), 2U);
+    EXPECT_EQ(head[0].kind, EventsLost);
+    EXPECT_EQ(head[0].code, 5);
+    EXPECT_EQ(head[1].code, 5) << "the oldest five were dropped";
+    const auto rest = read(channel);
+    ASSERT_EQ(rest.size(), static_cast<size_t>(capacity - 1));
+    EXPECT_EQ(rest.back().code, capacity + 4);
+}
+
+TEST_F(Events, RemoteClientsComingAndGoingAreEvents) {
+    const uint64_t channel = open();
+    ErrorSlot error;
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    ASSERT_NE(remote, nullptr);
+    const uint64_t remoteHandle = handle(remote);
+    uint64_t lockId = 0;
+    kel_lock(remote, &error, &lockId);
+    ASSERT_FALSE(error);
+    releaseTarnApi(remote);
+
+    const auto events = read(channel);
+    ASSERT_EQ(kinds(events),
+              (std::vector<int32_t>{ClientConnected, LockTaken, ClientDisconnected}));
+    EXPECT_EQ(events[0].code, 1) << "one remote client now";
+    EXPECT_EQ(events[2].code, 0);
+    EXPECT_EQ(events[0].detail, events[2].detail);
+    wchar_t hex[17];
+    for (int i = 0; i < 16; ++i) {
+        hex[i] = L"0123456789ABCDEF"[(remoteHandle >> (60 - 4 * i)) & 0xF];
+    }
+    hex[16] = L'\0';
+    EXPECT_EQ(events[0].detail, std::wstring(L"remote ") + hex);
+}
+
+// A client's handler: records what it hears and says when it is destroyed.
+class RecordingHandler : public Varno::Kel_cpp::ServerHandler {
+public:
+    explicit RecordingHandler(bool& destroyed) : destroyed_(destroyed) {}
+    RecordingHandler(const RecordingHandler&) = delete;
+    RecordingHandler& operator=(const RecordingHandler&) = delete;
+    ~RecordingHandler() override { destroyed_ = true; }
+    void onClientConnected(const std::wstring& client) override {
+        const std::lock_guard lock(mutex_);
+        heard_.push_back(L"+" + client);
+    }
+    void onClientDisconnected(const std::wstring& client) override {
+        const std::lock_guard lock(mutex_);
+        heard_.push_back(L"-" + client);
+    }
+    std::vector<std::wstring> heard() const {
+        const std::lock_guard lock(mutex_);
+        return heard_;
+    }
+
+private:
+    bool& destroyed_;
+    mutable std::mutex mutex_;
+    std::vector<std::wstring> heard_;
+};
+
+void registerHandler(TarnApi* api, Varno::Kel_cpp::ServerHandler* handler) {
+    ErrorSlot error;
+    kel_registerServerHandler(reinterpret_cast<uint64_t>(api), static_cast<void*>(handler), &error);
+    ASSERT_FALSE(error);
+}
+
+using ServerHandlers = Events;
+
+TEST_F(ServerHandlers, HearRemoteClientsAndAreNeverDeletedByTheEngine) {
+    bool destroyed = false;
+    auto handler = std::make_unique<RecordingHandler>(destroyed);
+    registerHandler(api, handler.get());
+    registerHandler(api, handler.get()); // twice: still told once per client
+
+    ErrorSlot error;
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    ASSERT_NE(remote, nullptr);
+    const auto connected = handler->heard();
+    ASSERT_EQ(connected.size(), 1U);
+    EXPECT_EQ(connected[0].rfind(L"+remote ", 0), 0U);
+    releaseTarnApi(remote);
+    const auto all = handler->heard();
+    ASSERT_EQ(all.size(), 2U);
+    EXPECT_EQ(all[1], L"-" + connected[0].substr(1));
+
+    // The engine going away drops the vehicle and every handler it kept.
+    releaseTarnApi(api);
+    kelsim_restart();
+    api = kel_getTarnApi();
+    EXPECT_FALSE(destroyed) << "the engine deleted the caller's handler";
+    handler.reset();
+    EXPECT_TRUE(destroyed);
+}
+
+TEST_F(ServerHandlers, ARemoteConnectionOutlivingTheLocalEngineStillReachesTheHandler) {
+    bool destroyed = false;
+    RecordingHandler handler(destroyed);
+    ErrorSlot error;
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    ASSERT_NE(remote, nullptr);
+    registerHandler(remote, &handler); // registered through the remote object: same vehicle
+    releaseTarnApi(api);
+    kelsim_restart();
+    api = kel_getTarnApi();
+    EXPECT_TRUE(handler.heard().empty()) << "connected before the handler was registered";
+    releaseTarnApi(remote);
+    ASSERT_EQ(handler.heard().size(), 1U);
+    EXPECT_EQ(handler.heard()[0][0], L'-');
+    EXPECT_FALSE(destroyed);
+}
+
+using EventsConcurrency = Events;
+
+// Producers: scripted posts from several threads and lock traffic from a remote
+// connection; one consumer per channel. Each producer's events must arrive exactly once
+// and in its own order on every channel.
+TEST_F(EventsConcurrency, ProducersAndOneConsumerPerChannelLoseAndRepeatNothing) {
+    constexpr int32_t producers = 3;
+    constexpr int32_t perProducer = 400;
+    constexpr int32_t lockRounds = 150;
+    constexpr size_t expected = producers * perProducer + 2 * lockRounds;
+
+    const uint64_t self = handle(api);
+    ErrorSlot error;
+    TarnApi* remote = kel_getRemoteConnectionByHandle(self, &error);
+    ASSERT_NE(remote, nullptr);
+    const std::vector<uint64_t> channels{open(), open()};
+
+    std::atomic<int> failures{0};
+    std::vector<std::thread> threads;
+    for (int32_t p = 0; p < producers; ++p) {
+        threads.emplace_back([&, p] {
+            for (int32_t i = 0; i < perProducer; ++i) {
+                if (kelsim_postEvent(self, 100 + p, i, L"scripted", L"", 0, nullptr) != 0) {
+                    ++failures;
+                }
+            }
+        });
+    }
+    threads.emplace_back([&] {
+        for (int32_t i = 0; i < lockRounds; ++i) {
+            KelError* e = nullptr;
+            uint64_t lockId = 0;
+            kel_lock(remote, &e, &lockId);
+            if (e == nullptr) {
+                kel_unlock(remote, lockId, &e);
+            }
+            if (e != nullptr) {
+                ++failures;
+                release_KelError(e);
+            }
+        }
+    });
+
+    std::vector<std::vector<Event>> received(channels.size());
+    std::vector<std::thread> consumers;
+    for (size_t c = 0; c < channels.size(); ++c) {
+        consumers.emplace_back([&, c] {
+            const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+            while (received[c].size() < expected && std::chrono::steady_clock::now() < deadline) {
+                KelError* e = nullptr;
+                EventReport* report = nullptr;
+                kel_getCurrentEvents(api, channels[c], 7, &e, &report);
+                if (e != nullptr || report == nullptr) {
+                    ++failures;
+                    release_KelError(e);
+                    return;
+                }
+                if (report->eventCount > 7) {
+                    ++failures;
+                }
+                for (auto& event : consume(report)) {
+                    received[c].push_back(std::move(event));
+                }
+                std::this_thread::yield();
+            }
+        });
+    }
+    for (auto& t : threads) {
+        t.join();
+    }
+    for (auto& t : consumers) {
+        t.join();
+    }
+    releaseTarnApi(remote);
+    ASSERT_EQ(failures.load(), 0);
+
+    for (size_t c = 0; c < channels.size(); ++c) {
+        const auto& events = received[c];
+        EXPECT_EQ(events.size(), expected) << "channel " << c;
+        std::map<int32_t, int32_t> next; // per producer: the code it must post next
+        int32_t taken = 0;
+        int32_t released = 0;
+        for (const auto& e : events) {
+            if (e.kind >= 100) {
+                EXPECT_EQ(e.code, next[e.kind]++)
+                    << "producer " << e.kind - 100 << " on channel " << c;
+            } else if (e.kind == LockTaken) {
+                ++taken;
+                EXPECT_EQ(taken, released + 1) << "a release came before its lock";
+            } else if (e.kind == LockReleased) {
+                ++released;
+            } else {
+                ADD_FAILURE() << "unexpected kind " << e.kind;
+            }
+        }
+        for (int32_t p = 0; p < producers; ++p) {
+            EXPECT_EQ(next[100 + p], perProducer);
+        }
+        EXPECT_EQ(taken, lockRounds);
+        EXPECT_EQ(released, lockRounds);
+    }
+}
+
+} // namespace

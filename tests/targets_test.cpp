@@ -1,0 +1,255 @@
+// Targets, variant identification, identification values and target filters through
+// the exports.
+#include "support.h"
+
+#include <string>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::lastArguments;
+
+template <class R, void (*Release)(R**, uint64_t)>
+struct List {
+    R** items = nullptr;
+    uint32_t count = 0;
+    List() = default;
+    List(const List&) = delete;
+    List& operator=(const List&) = delete;
+    ~List() { Release(items, count); }
+};
+using Idents = List<VariantIdentResult, release_VariantIdentResult_array>;
+using Data = List<ReadDataResult, release_ReadDataResult_array>;
+using Targets = List<Target, release_Target_array>;
+using Statuses = List<TargetStatus, release_TargetStatus_array>;
+using Filters = List<TargetFilter, release_TargetFilter_array>;
+
+// A caller-built filter list: the export does not consume it.
+struct FilterInput {
+    std::vector<TargetFilter*> items;
+    void add(const wchar_t* pattern, bool exclude, int32_t value = 0) {
+        auto* f = static_cast<TargetFilter*>(allocate_Memory(sizeof(TargetFilter)));
+        f->pattern = duplicate_WString(pattern);
+        f->flag = exclude ? 1 : 0;
+        f->value = value;
+        items.push_back(f);
+    }
+    ~FilterInput() {
+        for (auto* f : items) {
+            release_TargetFilter(f);
+        }
+    }
+};
+
+std::vector<std::wstring> namesOf(const Targets& t) {
+    std::vector<std::wstring> out;
+    for (uint32_t i = 0; i < t.count; ++i) {
+        out.emplace_back(t.items[i]->itemText1);
+    }
+    return out;
+}
+
+using TargetsFamily = EngineTest;
+
+TEST_F(TargetsFamily, IdentifyAllReportsVariantsAndTheSilentEcu) {
+    ErrorSlot error;
+    Idents out;
+    kel_identifyAllTargets(api, &error, &out.items, &out.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(out.count, 6U);
+    EXPECT_STREQ(out.items[0]->target, L"ECM");
+    EXPECT_STREQ(out.items[0]->variant, L"ECM_EDC17_CR_2L0_V3");
+    EXPECT_EQ(out.items[0]->status, 0);
+    EXPECT_EQ(out.items[0]->error, nullptr);
+    EXPECT_STREQ(out.items[5]->target, L"ACC");
+    EXPECT_STREQ(out.items[5]->variant, L"");
+    ASSERT_NE(out.items[5]->error, nullptr);
+    EXPECT_EQ(out.items[5]->error->code, 1010);
+}
+
+TEST_F(TargetsFamily, IdentifyTargetsAndIdentifyTarget) {
+    ErrorSlot error;
+    Idents out;
+    const wchar_t* names[] = {L"TCM", L"Nope"};
+    kel_identifyTargets(api, const_cast<wchar_t**>(names), 2, &error, &out.items, &out.count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(lastArguments("identifyTargets"), R"([["TCM","Nope"]])");
+    ASSERT_EQ(out.count, 2U);
+    EXPECT_STREQ(out.items[0]->variant, L"TCM_DQ250_6F_V2");
+    ASSERT_NE(out.items[1]->error, nullptr);
+    EXPECT_EQ(out.items[1]->error->code, 1011);
+
+    VariantIdentResult* one = nullptr;
+    kel_identifyTarget(api, L"ESP", &error, &one);
+    ASSERT_NE(one, nullptr);
+    EXPECT_STREQ(one->variant, L"ESP_MK60EC1_V4");
+    release_VariantIdentResult(one);
+
+    VariantIdentResult* none = reinterpret_cast<VariantIdentResult*>(0x1);
+    kel_identifyTarget(api, L"Nope", &error, &none);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(none, nullptr) << "a null engine record gives NULL";
+}
+
+TEST_F(TargetsFamily, IdentificationValuesAndDataByIdentifier) {
+    ErrorSlot error;
+    Data values;
+    const wchar_t* names[] = {L"BCM"};
+    kel_readIdentificationValues(api, const_cast<wchar_t**>(names), 1, &error, &values.items,
+                                 &values.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(values.count, 1U);
+    const ReadDataResult& bcm = *values.items[0];
+    EXPECT_STREQ(bcm.target, L"BCM");
+    EXPECT_STREQ(bcm.text, L"BCM_PQ35_HIGH_V1");
+    ASSERT_EQ(bcm.parameterCount, 4U);
+    EXPECT_STREQ(bcm.parameters[0]->itemText1, L"VIN");
+    EXPECT_STREQ(bcm.parameters[0]->itemText2, L"F190");
+    EXPECT_STREQ(bcm.parameters[0]->text1, L"WVWZZZ1KZ8W000417");
+    ASSERT_EQ(bcm.parameters[0]->dataLength, 17U);
+    EXPECT_EQ(bcm.parameters[0]->data[0], 'W');
+
+    Data read;
+    const wchar_t* ids[] = {L"F187", L"F1FF"};
+    kel_readDataByIdentifiers(api, L"ECM", const_cast<wchar_t**>(ids), 2, &error, &read.items,
+                              &read.count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(lastArguments("readDataByIdentifiers"), R"(["ECM",["F187","F1FF"]])");
+    ASSERT_EQ(read.count, 1U);
+    ASSERT_EQ(read.items[0]->parameterCount, 2U);
+    EXPECT_STREQ(read.items[0]->parameters[0]->text1, L"03L 906 018 JH");
+    ASSERT_NE(read.items[0]->parameters[1]->error, nullptr) << "per-parameter error";
+    EXPECT_EQ(read.items[0]->parameters[1]->error->code, 1014);
+}
+
+TEST_F(TargetsFamily, TargetsCarryTheirNamesBlockEvenWhenEmpty) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [
+        {"name": "A", "address": 1, "aliases": ["first", "alpha"],
+         "identification": [{"id": "F187", "name": "Part number", "value": "P-1"}]},
+        {"name": "B", "variant": "B1"}]})"),
+              0);
+    ErrorSlot error;
+    Targets out;
+    kel_getTargets(api, &error, &out.items, &out.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(out.count, 2U);
+    const Target& a = *out.items[0];
+    EXPECT_EQ(a.value1, 1);
+    ASSERT_EQ(a.nameCount, 2U);
+    EXPECT_STREQ(a.names[1], L"alpha");
+    ASSERT_EQ(a.itemCount, 1U);
+    EXPECT_STREQ(a.items[0]->itemText1, L"Part number");
+    EXPECT_STREQ(a.text3, L"P-1");
+    const Target& b = *out.items[1];
+    EXPECT_EQ(b.nameCount, 0U);
+    EXPECT_NE(b.names, nullptr) << "the names block is allocated even for count 0";
+    EXPECT_EQ(b.items, nullptr) << "other empty lists are NULL";
+    EXPECT_STREQ(b.itemText3, L"B1");
+}
+
+TEST_F(TargetsFamily, BadDescriptionIsRefusedAndKeepsTheVehicle) {
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "X", "dtcs": [{"code": "Q1234"}]}]})"),
+              -1);
+    EXPECT_EQ(kelsim_setVehicleFile("/nonexistent/vehicle.json"), -1);
+    ErrorSlot error;
+    Targets out;
+    kel_getTargets(api, &error, &out.items, &out.count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(out.count, 6U);
+}
+
+TEST_F(TargetsFamily, FilteredTargetsApplyTheGivenFiltersWithoutConsumingThem) {
+    FilterInput filters;
+    filters.add(L"?CM", false, 5);
+    filters.add(L"Trans*", true);
+    ErrorSlot error;
+    Targets out;
+    kel_getFilteredTargets(api, filters.items.data(), 2, &error, &out.items, &out.count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(
+        lastArguments("getFilteredTargets"),
+        R"([[{"pattern":"?CM","flag":0,"value":5},{"pattern":"Trans*","flag":1,"value":0}]])");
+    EXPECT_EQ(namesOf(out), (std::vector<std::wstring>{L"ECM", L"BCM"}))
+        << "TCM is excluded through its alias";
+    EXPECT_STREQ(filters.items[0]->pattern, L"?CM") << "the caller's filters are untouched";
+
+    FilterInput nothing;
+    nothing.add(L"Z*", false);
+    Targets empty;
+    kel_getFilteredTargets(api, nothing.items.data(), 1, &error, &empty.items, &empty.count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(empty.count, 0U);
+    EXPECT_EQ(empty.items, nullptr) << "an empty result is NULL with count 0";
+}
+
+TEST_F(TargetsFamily, SessionFiltersAreStoredAndApplied) {
+    FilterInput filters;
+    filters.add(L"A*", true, -3);
+    ErrorSlot error;
+    kel_setSessionTargetFilters(api, &error, filters.items.data(), 1);
+    ASSERT_FALSE(error);
+
+    Filters stored;
+    kel_getSessionTargetFilters(api, &error, &stored.items, &stored.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(stored.count, 1U);
+    EXPECT_STREQ(stored.items[0]->pattern, L"A*");
+    EXPECT_EQ(stored.items[0]->flag, 1);
+    EXPECT_EQ(stored.items[0]->value, -3);
+
+    Targets filtered;
+    kel_getFilteredTargets(api, nullptr, 0, &error, &filtered.items, &filtered.count);
+    EXPECT_EQ(namesOf(filtered), (std::vector<std::wstring>{L"ECM", L"TCM", L"ESP", L"BCM", L"GW"}))
+        << "no filters given: the session's apply";
+    Targets all;
+    kel_getTargets(api, &error, &all.items, &all.count);
+    EXPECT_EQ(all.count, 6U);
+
+    kel_setSessionTargetFilters(api, &error, nullptr, 0);
+    Filters cleared;
+    kel_getSessionTargetFilters(api, &error, &cleared.items, &cleared.count);
+    EXPECT_EQ(cleared.count, 0U);
+    EXPECT_EQ(cleared.items, nullptr);
+}
+
+TEST_F(TargetsFamily, StatusReportsEachTarget) {
+    ErrorSlot error;
+    Idents identified;
+    const wchar_t* ecm[] = {L"ECM"};
+    kel_identifyTargets(api, const_cast<wchar_t**>(ecm), 1, &error, &identified.items,
+                        &identified.count);
+    Statuses out;
+    const wchar_t* names[] = {L"ECM", L"ACC", L"TCM"};
+    kel_getTargetStatus(api, const_cast<wchar_t**>(names), 3, &error, &out.items, &out.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(out.count, 3U);
+    const TargetStatus& s = *out.items[0];
+    EXPECT_STREQ(s.target, L"ECM");
+    EXPECT_STREQ(s.text, L"responding");
+    EXPECT_STREQ(s.text2, L"ECM_EDC17_CR_2L0_V3");
+    EXPECT_EQ(s.error, nullptr);
+    // address, responds, identified, stored DTCs, supported DTCs
+    EXPECT_EQ(s.values[0], 2016U);
+    EXPECT_EQ(s.values[1], 1U);
+    EXPECT_EQ(s.values[2], 1U);
+    EXPECT_EQ(s.values[3], 2U);
+    EXPECT_EQ(s.values[4], 4U);
+    EXPECT_EQ(out.items[2]->values[2], 0U) << "TCM was not identified";
+    ASSERT_NE(out.items[1]->error, nullptr);
+    EXPECT_STREQ(out.items[1]->text, L"not responding");
+}
+
+TEST_F(TargetsFamily, OperationsNeedAnInitializedEngine) {
+    ErrorSlot error;
+    kel_end(api, &error);
+    ASSERT_FALSE(error);
+    Idents out;
+    kel_identifyAllTargets(api, &error, &out.items, &out.count);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1001);
+    EXPECT_EQ(out.items, nullptr);
+}
+
+} // namespace
