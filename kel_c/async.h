@@ -45,6 +45,23 @@ protected:
     }
 };
 
+// What every handler class does, written once: each generated handler class derives
+// from Handler with its own engine callback class and names nothing else. `Derived` is
+// the handler class itself, so that the final report deletes the complete object.
+template <class Derived, class Callback, class C, class E, class F>
+class Handler : public Callback, public Completion<C, E> {
+public:
+    using Function = F;
+    Handler(Function callback, void* context) : Completion<C, E>(callback, context) {}
+
+    void onCompleted(std::vector<std::shared_ptr<E>> results, uint64_t callId,
+                     std::shared_ptr<engine_ns::KelError> error, bool isFinal) override {
+        if (this->report(results, callId, error, isFinal)) {
+            delete static_cast<Derived*>(this); // the final report ends the call
+        }
+    }
+};
+
 // The frame of an asynchronous export. Inputs are converted inside `call` (a consumed
 // record is therefore released even when the engine refuses the call); `call` receives
 // the handler and returns the engine's call id.

@@ -122,6 +122,30 @@ std::shared_ptr<KelError> unknown(const std::wstring& name) {
     return error(UnknownTarget, L"The vehicle has no such control unit", L"target " + name);
 }
 
+// One result per selected target: an unknown target and a control unit that does not
+// respond get their per-target error (status 2 and 1); `answer` fills the result of a
+// control unit that responds.
+template <class R, class Answer>
+std::vector<std::shared_ptr<R>>
+perTarget(const std::vector<std::pair<std::wstring, Ecu*>>& selected, Answer&& answer) {
+    std::vector<std::shared_ptr<R>> out;
+    for (const auto& [name, ecu] : selected) {
+        auto r = std::make_shared<R>();
+        r->target = name;
+        if (ecu == nullptr) {
+            r->status = 2;
+            r->error = unknown(name);
+        } else if (!ecu->responds) {
+            r->status = 1;
+            r->error = silent(*ecu);
+        } else {
+            answer(*r, *ecu);
+        }
+        out.push_back(std::move(r));
+    }
+    return out;
+}
+
 std::shared_ptr<ParameterResult> parameterResult(const Parameter& p) {
     auto r = std::make_shared<ParameterResult>();
     r->itemText1 = p.name;
@@ -420,23 +444,10 @@ VehicleModel::select(const std::vector<std::wstring>& names) {
 std::vector<std::shared_ptr<VariantIdentResult>>
 VehicleModel::identify(const std::vector<std::wstring>& targets) {
     const std::lock_guard lock(mutex_);
-    std::vector<std::shared_ptr<VariantIdentResult>> out;
-    for (auto& [name, ecu] : select(targets)) {
-        auto r = std::make_shared<VariantIdentResult>();
-        r->target = name;
-        if (ecu == nullptr) {
-            r->status = 2;
-            r->error = unknown(name);
-        } else if (!ecu->responds) {
-            r->status = 1;
-            r->error = silent(*ecu);
-        } else {
-            r->variant = ecu->variant;
-            ecu->identified = true;
-        }
-        out.push_back(std::move(r));
-    }
-    return out;
+    return perTarget<VariantIdentResult>(select(targets), [](VariantIdentResult& r, Ecu& ecu) {
+        r.variant = ecu.variant;
+        ecu.identified = true;
+    });
 }
 
 std::shared_ptr<VariantIdentResult> VehicleModel::identifyOne(const std::wstring& target) {
@@ -448,55 +459,31 @@ std::shared_ptr<VariantIdentResult> VehicleModel::identifyOne(const std::wstring
 std::vector<std::shared_ptr<ReadDataResult>>
 VehicleModel::identification(const std::vector<std::wstring>& targets) {
     const std::lock_guard lock(mutex_);
-    std::vector<std::shared_ptr<ReadDataResult>> out;
-    for (auto& [name, ecu] : select(targets)) {
-        auto r = std::make_shared<ReadDataResult>();
-        r->target = name;
-        if (ecu == nullptr) {
-            r->status = 2;
-            r->error = unknown(name);
-        } else if (!ecu->responds) {
-            r->status = 1;
-            r->error = silent(*ecu);
-        } else {
-            r->text = ecu->variant;
-            for (const auto& v : ecu->identification) {
-                r->parameters.push_back(identParameter(v));
-            }
+    return perTarget<ReadDataResult>(select(targets), [](ReadDataResult& r, const Ecu& ecu) {
+        r.text = ecu.variant;
+        for (const auto& v : ecu.identification) {
+            r.parameters.push_back(identParameter(v));
         }
-        out.push_back(std::move(r));
-    }
-    return out;
+    });
 }
 
 std::vector<std::shared_ptr<ReadDataResult>>
 VehicleModel::readData(const std::wstring& target, const std::vector<std::wstring>& ids) {
     const std::lock_guard lock(mutex_);
-    auto selected = select({target});
-    Ecu* ecu = selected.front().second;
-    auto r = std::make_shared<ReadDataResult>();
-    r->target = target;
-    if (ecu == nullptr) {
-        r->status = 2;
-        r->error = unknown(target);
-    } else if (!ecu->responds) {
-        r->status = 1;
-        r->error = silent(*ecu);
-    } else {
-        r->text = ecu->variant;
+    return perTarget<ReadDataResult>(select({target}), [&](ReadDataResult& r, const Ecu& ecu) {
+        r.text = ecu.variant;
         for (const auto& id : ids) {
-            if (const auto* v = identValue(*ecu, id)) {
-                r->parameters.push_back(identParameter(*v));
+            if (const auto* v = identValue(ecu, id)) {
+                r.parameters.push_back(identParameter(*v));
             } else {
                 auto p = std::make_shared<ParameterResult>();
                 p->itemText2 = id;
                 p->error = error(UnknownIdentifier, L"The control unit has no such identifier",
                                  L"identifier " + id + L" on " + target);
-                r->parameters.push_back(std::move(p));
+                r.parameters.push_back(std::move(p));
             }
         }
-    }
-    return {r};
+    });
 }
 
 namespace {
@@ -505,26 +492,13 @@ template <class R>
 std::vector<std::shared_ptr<R>>
 dtcResults(const std::vector<std::pair<std::wstring, Ecu*>>& selected, const DtcReadConfig* config,
            bool supported) {
-    std::vector<std::shared_ptr<R>> out;
-    for (const auto& [name, ecu] : selected) {
-        auto r = std::make_shared<R>();
-        r->target = name;
-        if (ecu == nullptr) {
-            r->status = 2;
-            r->error = unknown(name);
-        } else if (!ecu->responds) {
-            r->status = 1;
-            r->error = silent(*ecu);
-        } else {
-            for (const auto& d : ecu->dtcs) {
-                if ((supported || d.stored) && wanted(d, config)) {
-                    r->dtcs.push_back(dtcResult(*ecu, d, config));
-                }
+    return perTarget<R>(selected, [&](R& r, const Ecu& ecu) {
+        for (const auto& d : ecu.dtcs) {
+            if ((supported || d.stored) && wanted(d, config)) {
+                r.dtcs.push_back(dtcResult(ecu, d, config));
             }
         }
-        out.push_back(std::move(r));
-    }
-    return out;
+    });
 }
 
 } // namespace
@@ -556,54 +530,30 @@ VehicleModel::readSupportedDtcs(const std::vector<std::wstring>& targets,
 std::vector<std::shared_ptr<ClearDtcResult>>
 VehicleModel::clearAll(const std::vector<std::wstring>& targets, int32_t& cleared) {
     const std::lock_guard lock(mutex_);
-    std::vector<std::shared_ptr<ClearDtcResult>> out;
     cleared = 0;
-    for (auto& [name, ecu] : select(targets)) {
-        auto r = std::make_shared<ClearDtcResult>();
-        r->target = name;
-        if (ecu == nullptr) {
-            r->status = 2;
-            r->error = unknown(name);
-        } else if (!ecu->responds) {
-            r->status = 1;
-            r->error = silent(*ecu);
-        } else {
-            for (auto& d : ecu->dtcs) {
-                d.stored = false;
-                d.status = 0;
-            }
-            ++cleared;
+    return perTarget<ClearDtcResult>(select(targets), [&](ClearDtcResult& /*r*/, Ecu& ecu) {
+        for (auto& d : ecu.dtcs) {
+            d.stored = false;
+            d.status = 0;
         }
-        out.push_back(std::move(r));
-    }
-    return out;
+        ++cleared;
+    });
 }
 
 std::vector<std::shared_ptr<ClearDtcResult>>
 VehicleModel::clearSpecific(const std::wstring& target, const std::vector<uint32_t>& codes,
                             int32_t& cleared) {
     const std::lock_guard lock(mutex_);
-    auto selected = select({target});
-    Ecu* ecu = selected.front().second;
-    auto r = std::make_shared<ClearDtcResult>();
-    r->target = target;
     cleared = 0;
-    if (ecu == nullptr) {
-        r->status = 2;
-        r->error = unknown(target);
-    } else if (!ecu->responds) {
-        r->status = 1;
-        r->error = silent(*ecu);
-    } else {
-        for (auto& d : ecu->dtcs) {
+    return perTarget<ClearDtcResult>(select({target}), [&](ClearDtcResult& /*r*/, Ecu& ecu) {
+        for (auto& d : ecu.dtcs) {
             if (std::find(codes.begin(), codes.end(), d.code) != codes.end()) {
                 d.stored = false;
                 d.status = 0;
             }
         }
         cleared = 1;
-    }
-    return {r};
+    });
 }
 
 std::vector<std::shared_ptr<Target>>

@@ -1,10 +1,11 @@
 #!/usr/bin/env bash
 # Runs every test of the project: configures, builds and tests each CMake preset in turn
 # (Linux, Linux with AddressSanitizer + UBSan, Linux with ThreadSanitizer, and the Windows
-# build under wine), then prints a summary. Exits non-zero if any step of any preset fails.
+# build under wine), fuzzes the checked dispatchers for a bounded time ('fuzz',
+# FUZZ_SECONDS), then prints a summary. Exits non-zero if any step of any preset fails.
 #
 #   scripts/test-all.sh                 # all presets
-#   scripts/test-all.sh linux windows   # only these
+#   scripts/test-all.sh linux windows   # only these (presets, or fuzz)
 #
 # JOBS (default 2) sets the build parallelism.
 set -uo pipefail

@@ -15,17 +15,8 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::lastArguments;
+using kel_test::List;
 
-// Owns an exported result list for the length of a test.
-template <class R, void (*Release)(R**, uint64_t)>
-struct List {
-    R** items = nullptr;
-    uint32_t count = 0;
-    List() = default;
-    List(const List&) = delete;
-    List& operator=(const List&) = delete;
-    ~List() { Release(items, count); }
-};
 using DtcLists = List<ReadDtcResult, release_ReadDtcResult_array>;
 using ClearLists = List<ClearDtcResult, release_ClearDtcResult_array>;
 

@@ -25,6 +25,17 @@ struct ErrorSlot {
     explicit operator bool() const { return error != nullptr; }
 };
 
+// Owns a result list handed out by an export for the length of a test.
+template <class R, void (*Release)(R**, uint64_t)>
+struct List {
+    R** items = nullptr;
+    uint32_t count = 0;
+    List() = default;
+    List(const List&) = delete;
+    List& operator=(const List&) = delete;
+    ~List() { Release(items, count); }
+};
+
 inline std::string lastArguments(const char* operation) {
     char buffer[4096];
     const int64_t length = kelsim_lastArguments(operation, buffer, sizeof buffer);

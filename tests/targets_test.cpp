@@ -10,16 +10,8 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::lastArguments;
+using kel_test::List;
 
-template <class R, void (*Release)(R**, uint64_t)>
-struct List {
-    R** items = nullptr;
-    uint32_t count = 0;
-    List() = default;
-    List(const List&) = delete;
-    List& operator=(const List&) = delete;
-    ~List() { Release(items, count); }
-};
 using Idents = List<VariantIdentResult, release_VariantIdentResult_array>;
 using Data = List<ReadDataResult, release_ReadDataResult_array>;
 using Targets = List<Target, release_Target_array>;

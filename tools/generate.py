@@ -654,24 +654,17 @@ def async_export_body(op: kelidl.Operation) -> str:
 
 def handlers_h(iface: kelidl.Interface) -> str:
     out = [f"// {BANNER}",
-           "// One handler class per asynchronous operation, deriving from the engine's callback",
-           "// class. Handlers that convert the same results share their kel::Completion base.",
+           "// One handler class per asynchronous operation, deriving (through kel::Handler)",
+           "// from the engine's callback class. Handlers that convert the same results share",
+           "// their kel::Completion base.",
            "#pragma once", "", '#include "async.h"', ""]
     for op in async_ops(iface):
         result = op.sync.result
-        engine = f"{ENGINE_NS}::{result.record}"
-        base = f"kel::Completion<::{result.c_name}, {engine}>"
-        out += [f"class {handler_class(op)} final : public {ENGINE_NS}::TarnApi::{op.callback_class},",
-                f"                                  public {base} {{",
-                "public:",
-                f"    using Function = {callback_function(op)};",
-                f"    {handler_class(op)}(Function callback, void* context) : Completion(callback, context) {{}}",
-                f"    void onCompleted(std::vector<std::shared_ptr<{engine}>> results, uint64_t callId,",
-                f"                     std::shared_ptr<{ENGINE_NS}::KelError> error, bool isFinal) override {{",
-                "        if (report(results, callId, error, isFinal)) {",
-                "            delete this; // the final report ends the call",
-                "        }",
-                "    }",
+        name = handler_class(op)
+        out += [f"class {name} final",
+                f"    : public kel::Handler<{name}, {ENGINE_NS}::TarnApi::{op.callback_class}, "
+                f"::{result.c_name}, {ENGINE_NS}::{result.record}, {callback_function(op)}> {{",
+                "    using Handler::Handler;",
                 "};", ""]
     return "\n".join(out) + "\n"
 
