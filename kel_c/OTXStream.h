@@ -46,7 +46,7 @@ struct OTXStream {
     uint8_t presenceBytes = 0;
     uint8_t flagsAsList = 0;
     // Only for the bounds-checked entry points: the input's size. Reading past it throws
-    // MalformedInput. The designed entry points get no size and read unchecked.
+    // MalformedInput. The plain entry points get no size and read unchecked.
     bool bounded = false;
     uint32_t size = 0;
 
