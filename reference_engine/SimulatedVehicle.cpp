@@ -37,9 +37,13 @@ struct Handles {
     std::shared_ptr<EngineFront> keptLocal;
 };
 
+// Never destroyed, so the local engine outlives process exit. On Windows the other
+// threads are already killed when a DLL's statics go; one of them may have died holding
+// a lock that the vehicle's teardown (its asynchronous workers' state) would wait on
+// forever. Leaving it to the operating system is what exit wants anyway.
 Handles& handles() {
-    static Handles instance;
-    return instance;
+    static auto* instance = new Handles; // NOLINT(cppcoreguidelines-owning-memory)
+    return *instance;
 }
 
 } // namespace
