@@ -98,6 +98,7 @@ class Operation:
     is_async: bool = False
     reserved: bool = False
     sync: Operation | None = None  # for async operations
+    family: str | None = None  # the `family` section it stands in; None for reserved positions
     line: int = 0
 
     @property
@@ -121,6 +122,14 @@ class Interface:
 
     def record(self, name: str) -> Record:
         return self.records[name]
+
+    def families(self) -> list[str]:
+        """The families in the order of the description."""
+        seen: dict[str, None] = {}
+        for op in sorted(self.operations, key=lambda o: o.line):
+            if op.family:
+                seen.setdefault(op.family)
+        return list(seen)
 
     def ready(self, record_name: str, _seen: set[str] | None = None) -> bool:
         """True when the record and every record it contains have C records."""
@@ -301,12 +310,24 @@ def parse(root: pathlib.Path) -> Interface:
 
     operations: list[Operation] = []
     path = root / "interface" / "operations.def"
+    family: str | None = None
     for n, raw in enumerate(path.read_text().splitlines(), 1):
         line = _words(raw)
-        if line.strip():
-            op = _parse_operation(line, f"{path.name}:{n}")
-            op.line = n
-            operations.append(op)
+        if not line.strip():
+            continue
+        where = f"{path.name}:{n}"
+        words = line.split()
+        if words[0] == "family":
+            if len(words) != 2 or not re.fullmatch(r"[A-Za-z]\w*", words[1]):
+                raise DescriptionError(f"{where}: expected 'family <Name>'")
+            family = None if words[1] == "none" else words[1]
+            continue
+        op = _parse_operation(line, where)
+        op.line = n
+        op.family = family
+        if (family is None) != op.reserved:
+            raise DescriptionError(f"{where}: every operation but the reserved ones belongs to a family")
+        operations.append(op)
     operations.sort(key=lambda o: o.position)
     iface = Interface(records, operations)
     _validate(iface)
