@@ -15,6 +15,7 @@ import pathlib
 import shutil
 import subprocess
 import sys
+import textwrap
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 import kelidl  # noqa: E402
@@ -155,12 +156,30 @@ def c_outputs(v: kelidl.Value) -> list[str]:
     }[v.kind]
 
 
-def c_signature(op: kelidl.Operation) -> str:
+# The header marks each pointer parameter with an empty macro that says who owns it.
+CONSUMED, KEPT, OUT = "KEL_CONSUMED ", "KEL_KEPT ", "KEL_OUT "
+
+
+def c_inputs(v: kelidl.Value, marked: bool) -> list[str]:
+    args = c_params(v)
+    if not marked or v.kind in kelidl.SCALARS:
+        return args
+    return [(CONSUMED if v.kind == "rec" else KEPT) + args[0]] + args[1:]
+
+
+def c_results(op: kelidl.Operation, marked: bool) -> list[str]:
+    if not op.result or op.discard:
+        return []
+    return [(OUT if marked else "") + a for a in c_outputs(op.result)]
+
+
+def c_signature(op: kelidl.Operation, marked: bool = False) -> str:
+    """The export's C declaration; `marked` adds the ownership marks of the header."""
     if op.is_async:
-        return c_async_signature(op)
+        return c_async_signature(op, marked)
     api = "uint64_t api" if op.api64 else "TarnApi* api"
-    inputs = [a for p in op.params for a in c_params(p)]
-    outputs = c_outputs(op.result) if op.result and not op.discard else []
+    inputs = [a for p in op.params for a in c_inputs(p, marked)]
+    outputs = c_results(op, marked)
     error = ["KelError** error"]
     args = [api] + (error + inputs if op.error_first else inputs + error) + outputs
     return f"void kel_{op.name}({', '.join(args)})"
@@ -292,6 +311,17 @@ C_PROLOGUE = """\
 #define KEL_C_API __attribute__((visibility("default")))
 #endif
 
+/* Who owns a pointer parameter, marked before it; the marks expand to nothing.
+ * KEL_CONSUMED  passes into the library, which frees it, also when the call fails: the
+ *               caller's pointer dangles afterwards. Build it on the library's heap
+ *               (allocate_Memory, duplicate_WString).
+ * KEL_KEPT      read only during the call; it stays the caller's, to free or reuse.
+ * KEL_OUT       written on success only; what it receives belongs to the caller, who frees
+ *               it with the release function the export names. */
+#define KEL_CONSUMED
+#define KEL_KEPT
+#define KEL_OUT
+
 #ifdef __cplusplus
 namespace Varno {
 namespace Kel_cpp {
@@ -307,95 +337,215 @@ typedef struct TarnApi TarnApi;
 """
 
 C_FRAME = """\
-/* ---- engine objects ----
- * Every kel_getTarnApi / kel_getRemoteConnectionByHandle is matched by one releaseTarnApi.
- * Getting the same engine object twice returns the same address and counts two uses. */
+/* ---- engine objects ---- */
+/* Registers the local engine object and returns its address, the `api` of every export.
+ * Every kel_getTarnApi is matched by one releaseTarnApi; getting the same engine object
+ * twice returns the same address and counts two uses. */
 KEL_C_API TarnApi* kel_getTarnApi(void);
+/* The same for the engine object of the remote connection with `handle`. After an error
+ * it returns NULL and *error holds the error record (free it with release_KelError). */
 KEL_C_API TarnApi* kel_getRemoteConnectionByHandle(uint64_t handle, KelError** error);
+/* Gives back one use of an engine object; the last one lets the library's reference go.
+ * NULL and addresses never handed out are ignored. */
 KEL_C_API void releaseTarnApi(TarnApi* api);
 
 /* ---- memory ----
  * Everything the library hands out comes from its C heap and goes back through a
  * release_* function or release_Memory. Input records that an export consumes must be
- * built with allocate_Memory / duplicate_WString. */
+ * built on the same heap, with allocate_Memory and duplicate_WString. */
+/* malloc on the library's heap; NULL when the heap is exhausted. */
 KEL_C_API void* allocate_Memory(size_t size);
-KEL_C_API char* duplicate_String(const char* s);
-KEL_C_API wchar_t* duplicate_WString(const wchar_t* s);
-KEL_C_API void release_Memory(void* p);
-KEL_C_API void release_StringArray(wchar_t** ptr, uint64_t count);
+/* Copies of s on the library's heap, NULL for NULL; s stays the caller's. */
+KEL_C_API char* duplicate_String(KEL_KEPT const char* s);
+KEL_C_API wchar_t* duplicate_WString(KEL_KEPT const wchar_t* s);
+/* Frees one block of the library's heap: a string or buffer it handed out; NULL is allowed. */
+KEL_C_API void release_Memory(KEL_CONSUMED void* p);
+/* Frees a string list that an export handed out: its `count` strings (NULL entries are
+ * skipped), then the block. `count` is the uint32_t count of the export, widened; NULL is
+ * allowed. */
+KEL_C_API void release_StringArray(KEL_CONSUMED wchar_t** ptr, uint64_t count);
 
 /* ---- calls by number over a byte stream (OTX runtimes, Python) ----
- * kel_call reads the arguments of operation `operation` from `input` and hands out a
- * result stream: a status byte (1 success, 0 engine error), then the results or the
- * error record. Fetch it with kel_call_result, which copies it into `destination`
- * (at least *outSize bytes) and frees it; a second call on the same stream copies
- * nothing. `handle` 0 is the local engine, any other value the engine object with
- * that handle (see kel_getHandle); when the engine rejects the handle, every operation
- * answers status 0 with the engine's error. Unknown numbers leave the outputs alone. */
-KEL_C_API void kel_call(uint64_t handle, int32_t operation, const void* input, void** outStream,
-                        uint64_t* outSize);
-KEL_C_API void* kel_call_result(void* stream, void* destination);
+ * kel_call reads the arguments of operation `operation` from `input` (kept) and hands out
+ * a result stream in *outStream with its size in *outSize: a status byte (1 success, 0
+ * engine error), then the results or the error record. Fetch it with kel_call_result,
+ * which copies it into `destination` (at least *outSize bytes), frees it and returns
+ * `destination`; a second call on the same stream copies nothing. `handle` 0 is the local
+ * engine, any other value the engine object with that handle (see kel_getHandle); when
+ * the engine rejects the handle, every operation answers status 0 with the engine's
+ * error. Unknown numbers leave the outputs alone. */
+KEL_C_API void kel_call(uint64_t handle, int32_t operation, KEL_KEPT const void* input,
+                        KEL_OUT void** outStream, KEL_OUT uint64_t* outSize);
+KEL_C_API void* kel_call_result(KEL_CONSUMED void* stream, KEL_OUT void* destination);
 
-/* py_call: the same operations for a Python extension: no status byte, the error
- * record as the whole result with return value -1; 0 on success, or the 32-bit result
- * of the operations that return one. `api` NULL is the local engine. The result buffer
- * goes back through py_result, which copies `size` bytes to `destination` and frees it. */
-KEL_C_API int32_t py_call(TarnApi* api, int32_t operation, uint64_t reserved, const void* input,
-                          uint32_t* outSize, void** outBuffer);
-KEL_C_API void py_result(void* destination, int32_t size, void* buffer);
+/* py_call: the same operations for a Python extension: no status byte, the error record
+ * as the whole result with return value -1; 0 on success, or the 32-bit result of the
+ * operations that return one. `api` NULL is the local engine. The result buffer
+ * (*outBuffer, *outSize bytes) goes back through py_result, which copies `size` bytes to
+ * `destination` and frees it. Unknown numbers return 0 and leave the outputs alone. */
+KEL_C_API int32_t py_call(TarnApi* api, int32_t operation, uint64_t reserved,
+                          KEL_KEPT const void* input, KEL_OUT uint32_t* outSize,
+                          KEL_OUT void** outBuffer);
+KEL_C_API void py_result(KEL_OUT void* destination, int32_t size, KEL_CONSUMED void* buffer);
 
 /* Bounds-checked forms, additions of this library: they take the input's size and
  * answer input that is short or malformed (a count running past the end, a string
  * without NUL) with an error record of code KEL_ERROR_MALFORMED_INPUT instead of
- * reading past the buffer. */
-KEL_C_API void kel_call_checked(uint64_t handle, int32_t operation, const void* input, uint64_t inputSize,
-                                void** outStream, uint64_t* outSize);
-KEL_C_API int32_t py_call_checked(TarnApi* api, int32_t operation, uint64_t reserved, const void* input,
-                                  uint64_t inputSize, uint32_t* outSize, void** outBuffer);
+ * reading past the buffer. Ownership as in kel_call and py_call. */
+KEL_C_API void kel_call_checked(uint64_t handle, int32_t operation, KEL_KEPT const void* input,
+                                uint64_t inputSize, KEL_OUT void** outStream,
+                                KEL_OUT uint64_t* outSize);
+KEL_C_API int32_t py_call_checked(TarnApi* api, int32_t operation, uint64_t reserved,
+                                  KEL_KEPT const void* input, uint64_t inputSize,
+                                  KEL_OUT uint32_t* outSize, KEL_OUT void** outBuffer);
 
 /* Error codes of the library itself, in the error record of the call stream. */
 #define KEL_ERROR_MALFORMED_INPUT (-1001) /* checked calls: input short or malformed */
 #define KEL_ERROR_NOT_AVAILABLE (-1002)   /* the operation's records are not built yet */
 """
 
+# Header comments are wrapped to this width (the comment's own text, after " * ").
+DOC_WIDTH = 92
 
-def c_structs(records: list[kelidl.Record]) -> list[str]:
+
+def c_comment(paragraphs: list[str]) -> list[str]:
+    """A block comment: each paragraph starts a new line and is wrapped on its own; a
+    "Position N" stays on one line."""
+    lines = [line.replace("Position\0", "Position ") for text in paragraphs if text
+             for line in textwrap.wrap(text.replace("Position ", "Position\0"), DOC_WIDTH)]
+    if not lines:
+        return []
+    out = [f"/* {lines[0]}"] + [f" * {line}" for line in lines[1:]]
+    out[-1] += " */"
+    return out
+
+
+def a(noun: str | None) -> str:
+    return ("an " if noun and noun[0] in "AEIOU" else "a ") + (noun or "")
+
+
+def input_ownership(inputs: list[kelidl.Value]) -> list[str]:
+    """Who owns each pointer input, from its kind: a record is consumed, the rest kept."""
+    out = []
+    for v in inputs:
+        if v.kind == "rec":
+            out.append(f"{v.name}: consumed: the library frees it with release_{v.c_name}, also when "
+                       "the call fails; NULL passes no record.")
+        elif v.kind == "handler":
+            out.append(f"{v.name}: the caller's object, kept by the caller: neither the library nor the "
+                       "engine deletes it, and it must stay alive while the engine may call it.")
+    kept = [v.name for v in inputs if v.kind in ("wstr", "wstrs", "u32s", "u64s", "bytes", "list")]
+    if kept:
+        out.append(f"{', '.join(kept)}: kept by the caller, read only during the call.")
+    return out
+
+
+def result_ownership(op: kelidl.Operation) -> str:
+    """What the caller receives on success and how it frees it, from the result's kind."""
+    v = op.result
+    if v is None:
+        return ""
+    if op.discard:
+        return "The engine's result is not handed out."
+    n, c = v.name, v.count
+    if v.kind in kelidl.SCALARS:
+        return f"On success *{n} receives the result."
+    return {
+        "wstr": f"On success *{n} receives a new string; free it with release_Memory.",
+        "wstrs": f"On success *{n} and *{c} receive a string list, NULL and 0 when empty; free it "
+                 f"with release_StringArray({n}, {c}).",
+        "bytes": f"On success *{n} receives a buffer of *{c} bytes, allocated also for 0 bytes; free it "
+                 "with release_Memory.",
+        "rec": f"On success *{n} receives {a(v.c_name)} record, or NULL when the engine gives none; "
+               f"free it with release_{v.c_name}.",
+        "list": f"On success *{n} and *{c} receive {a(v.c_name)} list, NULL and 0 when empty; free it "
+                f"with release_{v.c_name}_array({n}, {c}).",
+        "engine": f"On success *{n} receives the address of the new engine object as a 64-bit value: "
+                  f"use it as (TarnApi*)(uintptr_t){n}, and give it back with releaseTarnApi.",
+    }["bytes" if v.kind == "blob" else v.kind]
+
+
+def operation_doc(op: kelidl.Operation) -> list[str]:
+    """The comment above an export: what it does, then who owns each pointer."""
+    if op.is_async:
+        sync = op.sync
+        record = sync.result.c_name
+        what = op.doc or f"Asynchronous form of kel_{sync.name}."
+        return [f"{what} Position {op.position}.",
+                "Returns the call identifier at once; 0 after an error, and callback is then never "
+                "called.",
+                *input_ownership(op.inputs),
+                f"callback receives {record} lists, once or several times until isFinal, on a thread of "
+                f"the engine; each list and error belong to it, to free with release_{record}_array and "
+                "release_KelError. context reaches callback unchanged."]
+    api = ["api: the engine object's address as a 64-bit integer."] if op.api64 else []
+    return [f"{op.doc} Position {op.position}.", *api, *input_ownership(op.params), result_ownership(op)]
+
+
+def field_doc(f: kelidl.Field) -> str:
+    always = f"Allocated even when empty: go by {f.count}." if f.always else ""
+    return " ".join(text for text in (f.doc, always) if text)
+
+
+def c_structs(records: list[kelidl.Record], named_docs: list[str] | None = None) -> list[str]:
+    """C records; with `named_docs` (the NamedItem strings' docs) each record and member
+    carries its doc, as in the public header."""
+    documented = named_docs is not None
     out = []
     for rec in records:
+        if documented:
+            owns = rec.named or any(f.kind in ("wstr", "wstrs", "bytes", "rec", "list") for f in rec.fields)
+            release = (f"Freed with release_{rec.name}{', which frees everything it points to' if owns else ''}; "
+                       f"a list of them with release_{rec.name}_array.")
+            out += c_comment([rec.doc, release])
         out.append(f"struct {rec.struct} {{")
+        members: list[tuple[str, str]] = []
         if rec.named:
-            out += [f"    wchar_t* itemText{i};" for i in range(1, 5)]
+            members += [(f"wchar_t* itemText{i};", (named_docs or [""] * 4)[i - 1]) for i in range(1, 5)]
         for f in rec.fields:
-            out += [f"    {line}" for line in c_field(f)]
+            lines = c_field(f)
+            members += [(lines[0], field_doc(f) if documented else "")] + [(line, "") for line in lines[1:]]
+        out += [f"    {line} /* {doc} */" if doc else f"    {line}" for line, doc in members]
         out += ["};", ""]
     return out
 
 
 def c_header(iface: kelidl.Interface) -> str:
     ready = iface.ready_records()
+    named_docs = [f.doc for f in iface.record("NamedItem").fields]
     out = [f"/* {BANNER} */",
            "/* kel_c: the C interface of the Kel_cpp diagnostics engine.",
            " *",
            " * Calling rules: the engine object comes first; then the inputs, KelError** error",
            " * and the outputs (at engine positions 241 and above the error parameter comes",
            " * right after the engine object). Set *error to NULL before each call: the library",
-           " * writes it only on failure, and then leaves every output untouched. Lists travel",
-           " * as a pointer and a uint32_t count; an empty list is NULL with count 0. */",
+           " * writes it only on failure, and then leaves every output untouched; free the error",
+           " * record with release_KelError. Texts are NUL-terminated wchar_t strings and must not",
+           " * be NULL (an empty string stands for no value). Lists travel as a pointer and a",
+           " * uint32_t count; an empty list is NULL with count 0. Each export's comment says what",
+           " * it does, who owns each pointer (see KEL_CONSUMED, KEL_KEPT and KEL_OUT below) and",
+           " * how to free what it hands out. */",
            C_PROLOGUE, "/* ---- records ---- */"]
     for rec in ready:
         out.append(f"typedef struct {rec.struct} {rec.name};")
     out.append("")
-    out += c_structs(ready)
+    out += c_structs(ready, named_docs)
     out.append(C_FRAME)
-    out.append("/* ---- release functions: NULL-safe; _array takes the count the export gave ---- */")
+    out += ["/* ---- release functions ----",
+            " * Each frees one record with everything it points to; _array frees a list that an",
+            " * export handed out, taking its uint32_t count widened to uint64_t. NULL is allowed. */"]
     for rec in ready:
-        out.append(f"KEL_C_API void release_{rec.name}({rec.name}* ptr);")
-        out.append(f"KEL_C_API void release_{rec.name}_array({rec.name}** ptr, uint64_t count);")
+        out.append(f"KEL_C_API void release_{rec.name}(KEL_CONSUMED {rec.name}* ptr);")
+        out.append(f"KEL_C_API void release_{rec.name}_array(KEL_CONSUMED {rec.name}** ptr, uint64_t count);")
     out += c_callback_typedefs(iface)
-    out += ["", "/* ---- operations, in engine order (the number is the engine position) ---- */"]
-    for op in iface.operations:
-        if iface.exported(op):
-            out.append(f"KEL_C_API {c_signature(op)}; /* {op.position} */")
+    for family in iface.families():
+        ops = [op for op in iface.operations if op.family == family and iface.exported(op)]
+        if not ops:
+            continue
+        out += [""] + c_comment([f"---- {family} ----", iface.family_docs.get(family, "")])
+        for op in ops:
+            out += c_comment(operation_doc(op))
+            out.append(f"KEL_C_API {c_signature(op, marked=True)};")
     out += ["", "#ifdef __cplusplus", "}", "#endif", "", "#endif /* KEL_C_H */"]
     return "\n".join(out) + "\n"
 
@@ -630,17 +780,19 @@ def c_callback_typedefs(iface: kelidl.Interface) -> list[str]:
         return []
     out = ["", "/* ---- callbacks of the asynchronous operations ----",
            " * Called once or several times per call, on a thread of the engine; isFinal marks",
-           " * the last report. The results and the error (NULL when none) belong to the callee,",
-           " * which frees them with release_X_array and release_KelError. */"]
+           " * the last report, callId is the identifier the export returned and context the one",
+           " * it was given. The results (NULL and 0 when empty) and the error (NULL when none)",
+           " * pass to the callee, which frees them with release_X_array and release_KelError. */"]
     for op in ops:
         rec = op.sync.result.c_name
+        out += c_comment([f"Reports of kel_{op.name}: free results with release_{rec}_array."])
         out.append(f"typedef void (*{callback_function(op)})({rec}** results, uint32_t resultCount, "
                    "bool isFinal, uint64_t callId, KelError* error, void* context);")
     return out
 
 
-def c_async_signature(op: kelidl.Operation) -> str:
-    inputs = [a for p in op.inputs for a in c_params(p)]
+def c_async_signature(op: kelidl.Operation, marked: bool = False) -> str:
+    inputs = [a for p in op.inputs for a in c_inputs(p, marked)]
     args = ["TarnApi* api"] + inputs + ["KelError** error", f"{callback_function(op)} callback",
                                         "void* context"]
     return f"uint64_t kel_{op.name}({', '.join(args)})"
@@ -698,12 +850,24 @@ def formatted(rel: str, text: str) -> str:
                           capture_output=True, text=True, check=True, cwd=ROOT).stdout
 
 
+def check_docs(iface: kelidl.Interface) -> None:
+    """Every operation arrives documented: its comment in the header comes from its doc.
+    Records without a doc only warn for now (their docs are being written)."""
+    ops, records = kelidl.undocumented(iface)
+    if ops:
+        raise kelidl.DescriptionError("operations without a '#:' doc: " + ", ".join(op.name for op in ops))
+    if records:
+        print(f"interface description: {len(records)} records without a '#:' doc: "
+              + ", ".join(r.name for r in records), file=sys.stderr)
+
+
 def main() -> int:
     parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
     parser.add_argument("--check", action="store_true", help="fail if a generated file is stale")
     args = parser.parse_args()
     try:
         iface = kelidl.parse(ROOT)
+        check_docs(iface)
     except kelidl.DescriptionError as e:
         print(f"interface description: {e}", file=sys.stderr)
         return 2

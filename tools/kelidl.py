@@ -48,6 +48,7 @@ class Field:
     element: str | None = None  # scalar kind of an array
     length: int = 0  # array length
     c_record: str | None = None  # the C record of `record` when that is an `as=` class
+    doc: str = ""  # the trailing `#:` text of its line
 
     @property
     def c_name(self) -> str | None:
@@ -64,6 +65,7 @@ class Record:
     alias: str | None = None  # `as=`: an engine class converted to and from this C record
     fields: list[Field] = dataclasses.field(default_factory=list)
     line: int = 0
+    doc: str = ""  # the `#:` lines above it
 
     def member_names(self) -> list[str]:
         return ([f"itemText{i}" for i in range(1, 5)] if self.named else []) + [f.name for f in self.fields]
@@ -100,6 +102,7 @@ class Operation:
     sync: Operation | None = None  # for async operations
     family: str | None = None  # the `family` section it stands in; None for reserved positions
     line: int = 0
+    doc: str = ""  # the `#:` lines above it
 
     @property
     def error_first(self) -> bool:
@@ -119,6 +122,7 @@ class Operation:
 class Interface:
     records: dict[str, Record]
     operations: list[Operation]
+    family_docs: dict[str, str] = dataclasses.field(default_factory=dict)  # trailing `#:` of each family
 
     def record(self, name: str) -> Record:
         return self.records[name]
@@ -181,6 +185,40 @@ class Interface:
 
 def _words(line: str) -> str:
     return line.split("#", 1)[0].rstrip()
+
+
+def _trailing_doc(line: str) -> str:
+    """The text of a trailing `#: text` comment, or ""."""
+    comment = line.partition("#")[2]
+    return comment[1:].strip() if comment.startswith(":") else ""
+
+
+class _Docs:
+    """Collects the `#:` lines that document the record or operation right below them."""
+
+    def __init__(self) -> None:
+        self.lines: list[str] = []
+        self.where = ""
+
+    def read(self, raw: str, where: str) -> bool:
+        """True when `raw` is a `#:` line (and so taken)."""
+        if not raw.lstrip().startswith("#:"):
+            return False
+        if raw[0].isspace():
+            raise DescriptionError(f"{where}: a field's doc trails its field line ('<field>  #: text')")
+        if not self.lines:
+            self.where = where
+        self.lines.append(raw.strip()[2:].strip())
+        return True
+
+    def take(self) -> str:
+        text = " ".join(line for line in self.lines if line)
+        self.lines = []
+        return text
+
+    def none_pending(self, what: str) -> None:
+        if self.lines:
+            raise DescriptionError(f"{self.where}: a #: doc must stand directly above its {what}")
 
 
 def _parse_field(words: list[str], where: str) -> Field:
@@ -265,10 +303,14 @@ def _parse_operation(line: str, where: str) -> Operation:
 def parse_records(path: pathlib.Path) -> dict[str, Record]:
     records: dict[str, Record] = {}
     current: Record | None = None
+    docs = _Docs()
     for n, raw in enumerate(path.read_text().splitlines(), 1):
         where = f"{path.name}:{n}"
+        if docs.read(raw, where):
+            continue
         line = _words(raw)
         if not line.strip():
+            docs.none_pending("record")
             continue
         words = line.split()
         if not raw[0].isspace():
@@ -277,7 +319,9 @@ def parse_records(path: pathlib.Path) -> dict[str, Record]:
             name = words[1]
             if name in records:
                 raise DescriptionError(f"{where}: record {name} declared twice")
-            current = Record(name, name, line=n)
+            if _trailing_doc(raw):
+                raise DescriptionError(f"{where}: a record's doc stands in #: lines above it")
+            current = Record(name, name, line=n, doc=docs.take())
             for attr in words[2:]:
                 if attr == "named":
                     current.named = True
@@ -297,7 +341,10 @@ def parse_records(path: pathlib.Path) -> dict[str, Record]:
                 raise DescriptionError(f"{where}: field outside a record")
             if current.pending:
                 raise DescriptionError(f"{where}: a pending record has no fields")
+            docs.none_pending("record")
             current.fields.append(_parse_field(words, where))
+            current.fields[-1].doc = _trailing_doc(raw)
+    docs.none_pending("record")
     for rec in records.values():
         for f in rec.fields:
             if f.record in records and records[f.record].alias:
@@ -311,27 +358,48 @@ def parse(root: pathlib.Path) -> Interface:
     operations: list[Operation] = []
     path = root / "interface" / "operations.def"
     family: str | None = None
+    family_docs: dict[str, str] = {}
+    docs = _Docs()
     for n, raw in enumerate(path.read_text().splitlines(), 1):
+        where = f"{path.name}:{n}"
+        if docs.read(raw, where):
+            continue
         line = _words(raw)
         if not line.strip():
+            docs.none_pending("operation")
             continue
-        where = f"{path.name}:{n}"
         words = line.split()
         if words[0] == "family":
             if len(words) != 2 or not re.fullmatch(r"[A-Za-z]\w*", words[1]):
                 raise DescriptionError(f"{where}: expected 'family <Name>'")
+            docs.none_pending("operation")
             family = None if words[1] == "none" else words[1]
+            if family:
+                family_docs[family] = _trailing_doc(raw)
             continue
+        if _trailing_doc(raw):
+            raise DescriptionError(f"{where}: an operation's doc stands in #: lines above it")
         op = _parse_operation(line, where)
         op.line = n
         op.family = family
+        op.doc = docs.take()
         if (family is None) != op.reserved:
             raise DescriptionError(f"{where}: every operation but the reserved ones belongs to a family")
         operations.append(op)
+    docs.none_pending("operation")
     operations.sort(key=lambda o: o.position)
-    iface = Interface(records, operations)
+    iface = Interface(records, operations, family_docs)
     _validate(iface)
     return iface
+
+
+def undocumented(iface: Interface) -> tuple[list[Operation], list[Record]]:
+    """Operations with no doc of their own (the reserved ones and asynchronous forms,
+    which share their synchronous form's text, need none), and the records with a C record
+    that have none."""
+    ops = [op for op in iface.operations if not (op.doc or op.reserved or op.is_async)]
+    recs = [r for r in iface.ready_records() if not r.doc]
+    return ops, recs
 
 
 def _validate(iface: Interface) -> None:
