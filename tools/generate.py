@@ -316,8 +316,8 @@ C_PROLOGUE = """\
  *               caller's pointer dangles afterwards. Build it on the library's heap
  *               (allocate_Memory, duplicate_WString).
  * KEL_KEPT      read only during the call; it stays the caller's, to free or reuse.
- * KEL_OUT       written on success only; what it receives belongs to the caller, who frees
- *               it with the release function the export names. */
+ * KEL_OUT       where the library stores a result (an export only on success); what it
+ *               receives belongs to the caller, who frees it as the comment says. */
 #define KEL_CONSUMED
 #define KEL_KEPT
 #define KEL_OUT
