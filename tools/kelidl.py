@@ -396,8 +396,6 @@ def _validate(iface: Interface) -> None:
             if v.record:
                 v.c_record = iface.records[v.record].alias
     for op in iface.operations:
-        if op.custom and (op.is_async or op.reserved):
-            raise DescriptionError(f"{op.name}: only a synchronous operation can be custom")
         for v in op.params + ([op.result] if op.result else []):
             if v.record and iface.records[v.record].abstract:
                 raise DescriptionError(f"{op.name}: {v.record} is a base only and cannot be passed")
