@@ -423,7 +423,7 @@ KEL_C_API uint64_t kel_readMeasurementValuesAsync(TarnApi* api, const wchar_t* t
                                                   ReadMeasurementValuesCallbackFunction callback,
                                                   void* context); /* 59 */
 KEL_C_API void kel_readFile(TarnApi* api, const wchar_t* path, uint64_t value1, uint32_t value2,
-                            bool flag, KelError** error, void** data,
+                            uint8_t flag, KelError** error, void** data,
                             uint32_t* dataLength);                       /* 60 */
 KEL_C_API void kel_connectInterfaces(TarnApi* api, KelError** error);    /* 61 */
 KEL_C_API void kel_disconnectInterfaces(TarnApi* api, KelError** error); /* 62 */
@@ -443,7 +443,7 @@ KEL_C_API void kel_getFilteredTargets(TarnApi* api, TargetFilter** filters, uint
                                       KelError** error, Target*** targets,
                                       uint32_t* targetCount); /* 74 */
 KEL_C_API void kel_isProjectConversionRequired(TarnApi* api, const wchar_t* projectPath,
-                                               KelError** error, bool* required); /* 75 */
+                                               KelError** error, uint8_t* required); /* 75 */
 KEL_C_API void kel_convertProject(TarnApi* api, const wchar_t* projectPath,
                                   KelError** error);                                     /* 76 */
 KEL_C_API void kel_saveMoxConfiguration(TarnApi* api, KelError** error);                 /* 77 */
@@ -461,7 +461,7 @@ KEL_C_API void kel_disconnectDynInterfaces(TarnApi* api, wchar_t** names, uint32
 KEL_C_API void kel_cancelAsyncCalls(TarnApi* api, const uint64_t* callIds, uint32_t callIdCount,
                                     KelError** error); /* 99 */
 KEL_C_API void kel_writeFile(TarnApi* api, const wchar_t* path, const uint8_t* data,
-                             uint32_t dataLength, uint32_t value, bool flag, KelError** error,
+                             uint32_t dataLength, uint32_t value, uint8_t flag, KelError** error,
                              uint32_t* result); /* 102 */
 KEL_C_API void kel_deleteDirectory(TarnApi* api, const wchar_t* path, KelError** error,
                                    KelError** result);                      /* 109 */
@@ -473,19 +473,21 @@ KEL_C_API void kel_setEthernetPinState(TarnApi* api, uint8_t state, wchar_t** in
                                        uint32_t interfaceCount, KelError** error); /* 119 */
 KEL_C_API void kel_getEthernetPinState(TarnApi* api, const wchar_t* interfaceName, KelError** error,
                                        uint32_t* state); /* 120 */
-KEL_C_API void kel_connectDynInterfaceEx(TarnApi* api, const wchar_t* name, bool flag,
+KEL_C_API void kel_connectDynInterfaceEx(TarnApi* api, const wchar_t* name, uint8_t flag,
                                          KelError** error); /* 123 */
 KEL_C_API void kel_addUser(TarnApi* api, const wchar_t* text1, const wchar_t* text2, uint32_t value,
                            KelError** error);                                       /* 124 */
 KEL_C_API void kel_removeUser(TarnApi* api, const wchar_t* text, KelError** error); /* 125 */
 KEL_C_API void kel_updateUser(TarnApi* api, const wchar_t* text1, const wchar_t* text2,
-                              const wchar_t* text3, uint32_t value, KelError** error);     /* 128 */
-KEL_C_API void kel_getServerUserManagement(TarnApi* api, KelError** error, bool* enabled); /* 129 */
-KEL_C_API void kel_setServerUserManagement(TarnApi* api, bool enabled, KelError** error);  /* 130 */
-KEL_C_API void kel_registerServerHandler(uint64_t api, void* handler, KelError** error);   /* 131 */
-KEL_C_API void kel_disconnectAllClients(TarnApi* api, KelError** error);                   /* 133 */
+                              const wchar_t* text3, uint32_t value, KelError** error); /* 128 */
+KEL_C_API void kel_getServerUserManagement(TarnApi* api, KelError** error,
+                                           uint8_t* enabled); /* 129 */
+KEL_C_API void kel_setServerUserManagement(TarnApi* api, uint8_t enabled,
+                                           KelError** error);                            /* 130 */
+KEL_C_API void kel_registerServerHandler(uint64_t api, void* handler, KelError** error); /* 131 */
+KEL_C_API void kel_disconnectAllClients(TarnApi* api, KelError** error);                 /* 133 */
 KEL_C_API void kel_testSocketBridge(TarnApi* api, uint64_t bridge, KelError** error,
-                                    bool* result); /* 134 */
+                                    uint8_t* result); /* 134 */
 KEL_C_API void kel_calculateChecksum(TarnApi* api, const wchar_t* path, int32_t algorithm,
                                      KelError** error, wchar_t** checksum); /* 140 */
 KEL_C_API void kel_runSequence(TarnApi* api, const wchar_t* sequence, wchar_t** arguments,
@@ -511,30 +513,30 @@ KEL_C_API void kel_getCurrentVersions(TarnApi* api, KelError** error, NamedItem*
 KEL_C_API void kel_checkUpdateSuccess(TarnApi* api, KelError** error, bool* succeeded); /* 164 */
 KEL_C_API void kel_cleanUpdateTmp(TarnApi* api, KelError** error);                      /* 165 */
 KEL_C_API void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error,
-                                         bool* reconnected); /* 172 */
+                                         uint8_t* reconnected); /* 172 */
 KEL_C_API void kel_getTargetStatus(TarnApi* api, wchar_t** targets, uint32_t targetCount,
                                    KelError** error, TargetStatus*** statuses,
                                    uint32_t* statusCount); /* 181 */
 KEL_C_API void kel_moveFile(TarnApi* api, const wchar_t* source, const wchar_t* target,
-                            KelError** error, bool* moved); /* 184 */
+                            KelError** error, uint8_t* moved); /* 184 */
 KEL_C_API void kel_moveDirectory(TarnApi* api, const wchar_t* source, const wchar_t* target,
-                                 KelError** error, bool* moved); /* 185 */
+                                 KelError** error, uint8_t* moved); /* 185 */
 KEL_C_API void kel_pathExists(TarnApi* api, const wchar_t* path, KelError** error,
-                              bool* exists); /* 186 */
+                              uint8_t* exists); /* 186 */
 KEL_C_API void kel_resolvePath(TarnApi* api, const wchar_t* path, KelError** error,
-                               wchar_t** resolved);                            /* 188 */
-KEL_C_API void kel_onConnectionClosed(TarnApi* api, KelError** error);         /* 195 */
-KEL_C_API void kel_openTerminal(TarnApi* api, KelError** error, bool* opened); /* 196 */
-KEL_C_API void kel_closeTerminal(TarnApi* api, KelError** error);              /* 197 */
+                               wchar_t** resolved);                               /* 188 */
+KEL_C_API void kel_onConnectionClosed(TarnApi* api, KelError** error);            /* 195 */
+KEL_C_API void kel_openTerminal(TarnApi* api, KelError** error, uint8_t* opened); /* 196 */
+KEL_C_API void kel_closeTerminal(TarnApi* api, KelError** error);                 /* 197 */
 KEL_C_API void kel_isDirectory(TarnApi* api, const wchar_t* path, KelError** error,
-                               bool* result); /* 200 */
+                               uint8_t* result); /* 200 */
 KEL_C_API void kel_isFile(TarnApi* api, const wchar_t* path, KelError** error,
-                          bool* result); /* 203 */
+                          uint8_t* result); /* 203 */
 KEL_C_API void kel_clearDoIPEcuCollection(TarnApi* api, KelError** error, KelError*** errors,
                                           uint32_t* errorCount);                     /* 205 */
 KEL_C_API void kel_setBrokerUrl(TarnApi* api, const wchar_t* url, KelError** error); /* 206 */
 KEL_C_API void kel_thirdPartyLogin(TarnApi* api, const wchar_t* text, KelError** error,
-                                   bool* result);                       /* 213 */
+                                   uint8_t* result);                    /* 213 */
 KEL_C_API void kel_clearUpdatePackages(TarnApi* api, KelError** error); /* 214 */
 KEL_C_API void kel_getThirdPartyLoginUrl(TarnApi* api, const wchar_t* text, KelError** error,
                                          wchar_t** url); /* 215 */
