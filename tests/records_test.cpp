@@ -422,10 +422,15 @@ TEST(RecordsFlag, ABoolByteOtherThanOneFromCIsTrue) {
     c->text = duplicate_WString(L"");
     const uint8_t two = 2;
     std::memcpy(&c->flag, &two, 1);
+    std::memcpy(&c->switches[1], &two, 1);
     const auto engine = kel::in::record(c);
-    uint8_t stored = 0;
-    std::memcpy(&stored, &engine->flag, 1);
-    EXPECT_EQ(stored, 1U);
+    uint8_t stored[4] = {};
+    std::memcpy(&stored[0], &engine->flag, 1);
+    std::memcpy(&stored[1], engine->switches.data(), 3);
+    EXPECT_EQ(stored[0], 1U);
+    EXPECT_EQ(stored[1], 0U);
+    EXPECT_EQ(stored[2], 1U) << "also in a fixed array";
+    EXPECT_EQ(stored[3], 0U);
 }
 
 TEST(RecordsFlag, StreamedFlagBytesBecomeTrue) {

@@ -60,6 +60,7 @@ struct Probe {
     uint64_t wideValue;
     uint16_t narrowValue;
     uint32_t values[5];
+    bool switches[3];
     Probe** children;
     uint32_t childCount;
     ProbeLeaf** labels;
@@ -133,6 +134,7 @@ public:
     uint64_t wideValue = 0;
     uint16_t narrowValue = 0;
     std::array<uint32_t, 5> values{};
+    std::array<bool, 3> switches{};
     std::vector<std::shared_ptr<Probe>> children;
     std::vector<std::shared_ptr<ProbeLeafLabel>> labels;
     std::shared_ptr<ProbeNode> node;
@@ -189,7 +191,7 @@ struct Record<::Probe> {
         field(&::Probe::wideSigned, &Engine::wideSigned),
         field(&::Probe::wideValue, &Engine::wideValue),
         field(&::Probe::narrowValue, &Engine::narrowValue),
-        field(&::Probe::values, &Engine::values),
+        field(&::Probe::values, &Engine::values), field(&::Probe::switches, &Engine::switches),
         field(&::Probe::children, &::Probe::childCount, &Engine::children),
         field(&::Probe::labels, &::Probe::labelCount, &Engine::labels),
         field(&::Probe::node, &Engine::node), field(&::Probe::entry, &Engine::entry));
@@ -293,9 +295,9 @@ struct Of<kel_test::Probe> {
         member("wideSigned", &kel_test::Probe::wideSigned),
         member("wideValue", &kel_test::Probe::wideValue),
         member("narrowValue", &kel_test::Probe::narrowValue),
-        member("values", &kel_test::Probe::values), member("children", &kel_test::Probe::children),
-        member("labels", &kel_test::Probe::labels), member("node", &kel_test::Probe::node),
-        member("entry", &kel_test::Probe::entry));
+        member("values", &kel_test::Probe::values), member("switches", &kel_test::Probe::switches),
+        member("children", &kel_test::Probe::children), member("labels", &kel_test::Probe::labels),
+        member("node", &kel_test::Probe::node), member("entry", &kel_test::Probe::entry));
 };
 
 } // namespace Varno::Kel_cpp::Fields
