@@ -423,7 +423,8 @@ def _validate_base(iface: Interface, rec: Record) -> None:
     while current.base:
         base = iface.records.get(current.base)
         if base is None or base.alias:
-            raise DescriptionError(f"record {current.name}: base {current.base} must be a record with fields")
+            raise DescriptionError(
+                f"record {current.name}: base {current.base} must name a record, not an `as=` class")
         if base.name in seen:
             raise DescriptionError(f"record {rec.name}: its bases form a cycle")
         seen.append(base.name)
