@@ -71,196 +71,217 @@ typedef struct TargetFilter TargetFilter;
 typedef struct KelEvent KelEvent;
 typedef struct EventReport EventReport;
 
-/* Freed with release_MvciServerError, which frees everything it points to; a list of them with
+/* The MVCI (ISO 22900) server error beneath an engine error.
+ * Freed with release_MvciServerError, which frees everything it points to; a list of them with
  * release_MvciServerError_array. */
 struct MvciServerError {
-    int32_t code;
-    wchar_t* codeText;
-    int32_t vendorCode;
-    wchar_t* vendorCodeText;
-    wchar_t* extraText;
-    int32_t extraCode;
+    int32_t code;            /* the MVCI server's error number */
+    wchar_t* codeText;       /* the text that goes with code */
+    int32_t vendorCode;      /* a second number, as the engine reports it */
+    wchar_t* vendorCodeText; /* the text that goes with vendorCode */
+    wchar_t* extraText;      /* further text */
+    int32_t extraCode;       /* a third number */
 };
 
-/* Freed with release_NegativeResponse, which frees everything it points to; a list of them
+/* A control unit's negative response.
+ * Freed with release_NegativeResponse, which frees everything it points to; a list of them
  * with release_NegativeResponse_array. */
 struct NegativeResponse {
-    int32_t code;
-    wchar_t* text;
-    uint64_t value1;
-    uint64_t value2;
-    uint8_t* bytes;
+    int32_t code;    /* the response code */
+    wchar_t* text;   /* its text */
+    uint64_t value1; /* copied bit for bit from the engine */
+    uint64_t value2; /* copied bit for bit from the engine */
+    uint8_t* bytes;  /* the raw response bytes; NULL when there are none */
     uint32_t byteCount;
 };
 
-/* Freed with release_KelError, which frees everything it points to; a list of them with
+/* An engine error: what a failed call writes through its KelError** error, and the per-item
+ * error inside result records.
+ * Freed with release_KelError, which frees everything it points to; a list of them with
  * release_KelError_array. */
 struct KelError_struct {
-    int32_t code;
-    wchar_t* message;
-    wchar_t* details;
-    int32_t subCode;
-    MvciServerError* mvciError;
-    NegativeResponse* negativeResponse;
+    int32_t code;                       /* the engine's error code */
+    wchar_t* message;                   /* what went wrong */
+    wchar_t* details;                   /* further details */
+    int32_t subCode;                    /* a second error number */
+    MvciServerError* mvciError;         /* the MVCI server error beneath it, or NULL */
+    NegativeResponse* negativeResponse; /* the control unit's negative response, or NULL; always
+                                           NULL for a failed call */
 };
 
-/* Freed with release_NamedItem, which frees everything it points to; a list of them with
+/* Four texts that name an item; they also lead every record with the NamedItem base.
+ * Freed with release_NamedItem, which frees everything it points to; a list of them with
  * release_NamedItem_array. */
 struct NamedItem {
-    wchar_t* itemText1;
-    wchar_t* itemText2;
-    wchar_t* itemText3;
-    wchar_t* itemText4;
+    wchar_t* itemText1; /* the item's first text, usually its name */
+    wchar_t* itemText2; /* second text */
+    wchar_t* itemText3; /* third text */
+    wchar_t* itemText4; /* fourth text */
 };
 
-/* Freed with release_ParameterResult, which frees everything it points to; a list of them with
+/* One decoded parameter value. A structured value carries its members as children, so the
+ * values form a tree.
+ * Freed with release_ParameterResult, which frees everything it points to; a list of them with
  * release_ParameterResult_array. */
 struct ParameterResult {
-    wchar_t* itemText1;
-    wchar_t* itemText2;
-    wchar_t* itemText3;
-    wchar_t* itemText4;
-    wchar_t* text1;
-    wchar_t* text2;
-    int32_t value1;
-    ParameterResult** children;
+    wchar_t* itemText1;         /* the item's first text, usually its name */
+    wchar_t* itemText2;         /* second text */
+    wchar_t* itemText3;         /* third text */
+    wchar_t* itemText4;         /* fourth text */
+    wchar_t* text1;             /* first text, usually the value */
+    wchar_t* text2;             /* second text, usually the unit */
+    int32_t value1;             /* copied unchanged from the engine */
+    ParameterResult** children; /* the members of a structured value, in engine order */
     uint32_t childCount;
-    wchar_t* text3;
-    KelError* error;
-    wchar_t* text4;
-    int32_t value2;
-    uint8_t* data;
+    wchar_t* text3;  /* third text */
+    KelError* error; /* the error of this parameter, or NULL */
+    wchar_t* text4;  /* fourth text */
+    int32_t value2;  /* copied unchanged from the engine */
+    uint8_t* data;   /* the raw bytes of the value, exactly as many as the engine gives; NULL when
+                        there are none */
     uint32_t dataLength;
-    uint32_t value3;
-    uint8_t flag;
-    int32_t value4;
+    uint32_t value3; /* copied unchanged from the engine */
+    uint8_t flag;    /* a one-byte flag, copied unchanged */
+    int32_t value4;  /* copied unchanged from the engine */
 };
 
-/* Freed with release_ClearDtcResult, which frees everything it points to; a list of them with
+/* The outcome of clearing the DTCs of one target.
+ * Freed with release_ClearDtcResult, which frees everything it points to; a list of them with
  * release_ClearDtcResult_array. */
 struct ClearDtcResult {
-    int32_t status;
-    wchar_t* target;
-    KelError* error;
+    int32_t status;  /* the engine's status of this target */
+    wchar_t* target; /* the target's name */
+    KelError* error; /* the error of this target, or NULL */
 };
 
-/* Freed with release_DtcReadConfig; a list of them with release_DtcReadConfig_array. */
+/* Options of a DTC read; an input that the reading operations consume.
+ * Freed with release_DtcReadConfig; a list of them with release_DtcReadConfig_array. */
 struct DtcReadConfig {
-    int32_t value;
-    uint8_t flag1;
-    uint8_t flag2;
-    uint8_t flag3;
+    int32_t value; /* the engine's first option, a number */
+    uint8_t flag1; /* first one-byte option */
+    uint8_t flag2; /* second one-byte option */
+    uint8_t flag3; /* third one-byte option */
 };
 
-/* Freed with release_ReadDtcResult, which frees everything it points to; a list of them with
+/* The DTCs read from one target.
+ * Freed with release_ReadDtcResult, which frees everything it points to; a list of them with
  * release_ReadDtcResult_array. */
 struct ReadDtcResult {
-    int32_t status;
-    wchar_t* target;
-    KelError* error;
-    DtcResult** dtcs;
+    int32_t status;   /* the engine's status of this target */
+    wchar_t* target;  /* the target's name */
+    KelError* error;  /* the error of this target, or NULL */
+    DtcResult** dtcs; /* the DTCs read */
     uint32_t dtcCount;
-    int32_t value;
+    int32_t value; /* a further number of the engine; 0 from kel_readSupportedDtcs */
 };
 
-/* Freed with release_DtcResult, which frees everything it points to; a list of them with
+/* One diagnostic trouble code.
+ * Freed with release_DtcResult, which frees everything it points to; a list of them with
  * release_DtcResult_array. */
 struct DtcResult {
-    int32_t code;
-    wchar_t* text1;
-    wchar_t* text2;
-    int32_t value1;
-    ParameterResult** parameters1;
+    int32_t code;                  /* the DTC number */
+    wchar_t* text1;                /* first text, usually the code as text */
+    wchar_t* text2;                /* second text, usually what the code means */
+    int32_t value1;                /* copied unchanged from the engine, usually the status byte */
+    ParameterResult** parameters1; /* first parameter list, usually the snapshot data */
     uint32_t parameterCount1;
-    ParameterResult** parameters2;
+    ParameterResult** parameters2; /* second parameter list, usually the extended data */
     uint32_t parameterCount2;
-    wchar_t* text3;
-    wchar_t* text4;
-    SpecialDataGroup** specialDataGroups;
+    wchar_t* text3;                       /* third text */
+    wchar_t* text4;                       /* fourth text */
+    SpecialDataGroup** specialDataGroups; /* groups of special data */
     uint32_t specialDataGroupCount;
-    int32_t value2;
+    int32_t value2; /* copied unchanged from the engine */
 };
 
-/* Freed with release_SpecialDataGroup, which frees everything it points to; a list of them
+/* One group of a DTC's special data.
+ * Freed with release_SpecialDataGroup, which frees everything it points to; a list of them
  * with release_SpecialDataGroup_array. */
 struct SpecialDataGroup {
-    NamedItem** items;
+    NamedItem** items; /* its entries */
     uint32_t itemCount;
 };
 
-/* Freed with release_VariantIdentResult, which frees everything it points to; a list of them
+/* The identified variant of one target.
+ * Freed with release_VariantIdentResult, which frees everything it points to; a list of them
  * with release_VariantIdentResult_array. */
 struct VariantIdentResult {
-    wchar_t* target;
-    int32_t status;
-    KelError* error;
-    wchar_t* variant;
+    wchar_t* target;  /* the target's name */
+    int32_t status;   /* the engine's status of this target */
+    KelError* error;  /* the error of this target, or NULL */
+    wchar_t* variant; /* the variant identified */
 };
 
-/* Freed with release_ReadDataResult, which frees everything it points to; a list of them with
+/* Identification values, or data read by identifier, of one target.
+ * Freed with release_ReadDataResult, which frees everything it points to; a list of them with
  * release_ReadDataResult_array. */
 struct ReadDataResult {
-    wchar_t* target;
-    int32_t status;
-    wchar_t* text;
-    KelError* error;
-    ParameterResult** parameters;
+    wchar_t* target;              /* the target's name */
+    int32_t status;               /* the engine's status of this target */
+    wchar_t* text;                /* a text of the engine, usually the variant */
+    KelError* error;              /* the error of this target, or NULL */
+    ParameterResult** parameters; /* the values read */
     uint32_t parameterCount;
 };
 
-/* Freed with release_Target, which frees everything it points to; a list of them with
+/* One control unit known to the project.
+ * Freed with release_Target, which frees everything it points to; a list of them with
  * release_Target_array. */
 struct Target {
-    wchar_t* itemText1;
-    wchar_t* itemText2;
-    wchar_t* itemText3;
-    wchar_t* itemText4;
-    int32_t value1;
-    wchar_t* text1;
-    wchar_t* text2;
-    NamedItem** items;
+    wchar_t* itemText1; /* the item's first text, usually its name */
+    wchar_t* itemText2; /* second text */
+    wchar_t* itemText3; /* third text */
+    wchar_t* itemText4; /* fourth text */
+    int32_t value1;     /* copied unchanged from the engine */
+    wchar_t* text1;     /* first text */
+    wchar_t* text2;     /* second text */
+    NamedItem** items;  /* named items of the target */
     uint32_t itemCount;
-    wchar_t** names; /* Allocated even when empty: go by nameCount. */
+    wchar_t** names; /* further names of the target Allocated even when empty: go by nameCount. */
     uint32_t nameCount;
-    wchar_t* text3;
-    wchar_t* text4;
-    int32_t value2;
-    wchar_t* text5;
+    wchar_t* text3; /* third text */
+    wchar_t* text4; /* fourth text */
+    int32_t value2; /* copied unchanged from the engine */
+    wchar_t* text5; /* fifth text */
 };
 
-/* Freed with release_TargetStatus, which frees everything it points to; a list of them with
+/* The status of one target.
+ * Freed with release_TargetStatus, which frees everything it points to; a list of them with
  * release_TargetStatus_array. */
 struct TargetStatus {
-    wchar_t* target;
-    wchar_t* text;
-    KelError* error;
-    uint32_t values[5];
-    wchar_t* text2;
+    wchar_t* target;    /* the target's name */
+    wchar_t* text;      /* the status as text */
+    KelError* error;    /* the error of this target, or NULL */
+    uint32_t values[5]; /* five numbers, copied in order from the engine */
+    wchar_t* text2;     /* a second text */
 };
 
-/* Freed with release_TargetFilter, which frees everything it points to; a list of them with
+/* A pattern that selects targets by name; a session's target filter.
+ * Freed with release_TargetFilter, which frees everything it points to; a list of them with
  * release_TargetFilter_array. */
 struct TargetFilter {
-    wchar_t* pattern;
-    uint8_t flag;
-    int32_t value;
+    wchar_t* pattern; /* the pattern, where * stands for any text */
+    uint8_t flag;     /* a one-byte option, copied unchanged */
+    int32_t value;    /* copied unchanged from the engine */
 };
 
-/* Freed with release_KelEvent, which frees everything it points to; a list of them with
+/* One event of the engine, fetched from an event channel.
+ * Freed with release_KelEvent, which frees everything it points to; a list of them with
  * release_KelEvent_array. */
 struct KelEvent {
-    wchar_t* name;
-    int32_t kind;
-    int32_t code;
-    wchar_t* text;
-    KelError* error;
-    wchar_t* detail;
+    wchar_t* name;   /* the event's name */
+    int32_t kind;    /* its kind, a number */
+    int32_t code;    /* its code, a number */
+    wchar_t* text;   /* what happened */
+    KelError* error; /* the error the event carries, or NULL */
+    wchar_t* detail; /* further detail */
 };
 
-/* Freed with release_EventReport, which frees everything it points to; a list of them with
+/* The events fetched from an event channel, oldest first.
+ * Freed with release_EventReport, which frees everything it points to; a list of them with
  * release_EventReport_array. */
 struct EventReport {
-    KelEvent** events;
+    KelEvent** events; /* the events; NULL when there are none */
     uint32_t eventCount;
 };
 
@@ -681,7 +702,7 @@ KEL_C_API void kel_refreshProjectList(TarnApi* api, KelError** error);
  * projectPath: kept by the caller, read only during the call.
  * On success *required receives the result. */
 KEL_C_API void kel_isProjectConversionRequired(TarnApi* api, KEL_KEPT const wchar_t* projectPath,
-                                               KelError** error, KEL_OUT bool* required);
+                                               KelError** error, KEL_OUT uint8_t* required);
 /* Converts a project for the engine's current version. Position 76.
  * projectPath: kept by the caller, read only during the call. */
 KEL_C_API void kel_convertProject(TarnApi* api, KEL_KEPT const wchar_t* projectPath,
@@ -758,21 +779,22 @@ KEL_C_API void kel_updateUser(TarnApi* api, KEL_KEPT const wchar_t* text1,
                               uint32_t value, KelError** error);
 /* Tells whether the server's user management is on. Position 129.
  * On success *enabled receives the result. */
-KEL_C_API void kel_getServerUserManagement(TarnApi* api, KelError** error, KEL_OUT bool* enabled);
+KEL_C_API void kel_getServerUserManagement(TarnApi* api, KelError** error,
+                                           KEL_OUT uint8_t* enabled);
 /* Turns the server's user management on or off. Position 130. */
-KEL_C_API void kel_setServerUserManagement(TarnApi* api, bool enabled, KelError** error);
+KEL_C_API void kel_setServerUserManagement(TarnApi* api, uint8_t enabled, KelError** error);
 /* Disconnects every remote client from the engine's server. Position 133. */
 KEL_C_API void kel_disconnectAllClients(TarnApi* api, KelError** error);
 /* Connects the remote engine with the given handle again; tells whether that worked.
  * Position 172.
  * On success *reconnected receives the result. */
 KEL_C_API void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error,
-                                         KEL_OUT bool* reconnected);
+                                         KEL_OUT uint8_t* reconnected);
 /* Logs in through an outside identity provider; tells whether that worked. Position 213.
  * text: kept by the caller, read only during the call.
  * On success *result receives the result. */
 KEL_C_API void kel_thirdPartyLogin(TarnApi* api, KEL_KEPT const wchar_t* text, KelError** error,
-                                   KEL_OUT bool* result);
+                                   KEL_OUT uint8_t* result);
 /* Reads the address of the outside identity provider's login. Position 215.
  * text: kept by the caller, read only during the call.
  * On success *url receives a new string; free it with release_Memory. */
@@ -853,15 +875,15 @@ KEL_C_API void kel_getEthernetPinState(TarnApi* api, KEL_KEPT const wchar_t* int
                                        KelError** error, KEL_OUT uint32_t* state);
 /* Connects a dynamically detected interface without a detection record. Position 123.
  * name: kept by the caller, read only during the call. */
-KEL_C_API void kel_connectDynInterfaceEx(TarnApi* api, KEL_KEPT const wchar_t* name, bool flag,
+KEL_C_API void kel_connectDynInterfaceEx(TarnApi* api, KEL_KEPT const wchar_t* name, uint8_t flag,
                                          KelError** error);
 /* Tells whether a socket bridge works. Position 134.
  * On success *result receives the result. */
 KEL_C_API void kel_testSocketBridge(TarnApi* api, uint64_t bridge, KelError** error,
-                                    KEL_OUT bool* result);
+                                    KEL_OUT uint8_t* result);
 /* Opens the terminal; tells whether it opened. Position 196.
  * On success *opened receives the result. */
-KEL_C_API void kel_openTerminal(TarnApi* api, KelError** error, KEL_OUT bool* opened);
+KEL_C_API void kel_openTerminal(TarnApi* api, KelError** error, KEL_OUT uint8_t* opened);
 /* Closes the terminal. Position 197. */
 KEL_C_API void kel_closeTerminal(TarnApi* api, KelError** error);
 /* Clears the collection of ECUs found over DoIP; returns an error record for each entry that
@@ -921,14 +943,14 @@ KEL_C_API void kel_getMonitoringLinks(TarnApi* api, KelError** error, KEL_OUT wc
  * On success *data receives a buffer of *dataLength bytes, allocated also for 0 bytes; free it
  * with release_Memory. */
 KEL_C_API void kel_readFile(TarnApi* api, KEL_KEPT const wchar_t* path, uint64_t value1,
-                            uint32_t value2, bool flag, KelError** error, KEL_OUT void** data,
+                            uint32_t value2, uint8_t flag, KelError** error, KEL_OUT void** data,
                             KEL_OUT uint32_t* dataLength);
 /* Writes bytes to a file; returns the engine's 32-bit result. Position 102.
  * path, data: kept by the caller, read only during the call.
  * On success *result receives the result. */
 KEL_C_API void kel_writeFile(TarnApi* api, KEL_KEPT const wchar_t* path,
                              KEL_KEPT const uint8_t* data, uint32_t dataLength, uint32_t value,
-                             bool flag, KelError** error, KEL_OUT uint32_t* result);
+                             uint8_t flag, KelError** error, KEL_OUT uint32_t* result);
 /* Deletes a directory; the outcome comes back as an error record, NULL when the engine reports
  * none. Position 109.
  * path: kept by the caller, read only during the call.
@@ -944,18 +966,19 @@ KEL_C_API void kel_renameFile(TarnApi* api, KEL_KEPT const wchar_t* path,
  * source, target: kept by the caller, read only during the call.
  * On success *moved receives the result. */
 KEL_C_API void kel_moveFile(TarnApi* api, KEL_KEPT const wchar_t* source,
-                            KEL_KEPT const wchar_t* target, KelError** error, KEL_OUT bool* moved);
+                            KEL_KEPT const wchar_t* target, KelError** error,
+                            KEL_OUT uint8_t* moved);
 /* Moves a directory; tells whether it moved. Position 185.
  * source, target: kept by the caller, read only during the call.
  * On success *moved receives the result. */
 KEL_C_API void kel_moveDirectory(TarnApi* api, KEL_KEPT const wchar_t* source,
                                  KEL_KEPT const wchar_t* target, KelError** error,
-                                 KEL_OUT bool* moved);
+                                 KEL_OUT uint8_t* moved);
 /* Tells whether a path exists. Position 186.
  * path: kept by the caller, read only during the call.
  * On success *exists receives the result. */
 KEL_C_API void kel_pathExists(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
-                              KEL_OUT bool* exists);
+                              KEL_OUT uint8_t* exists);
 /* Resolves a path to the engine's full path. Position 188.
  * path: kept by the caller, read only during the call.
  * On success *resolved receives a new string; free it with release_Memory. */
@@ -965,12 +988,12 @@ KEL_C_API void kel_resolvePath(TarnApi* api, KEL_KEPT const wchar_t* path, KelEr
  * path: kept by the caller, read only during the call.
  * On success *result receives the result. */
 KEL_C_API void kel_isDirectory(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
-                               KEL_OUT bool* result);
+                               KEL_OUT uint8_t* result);
 /* Tells whether a path is a file. Position 203.
  * path: kept by the caller, read only during the call.
  * On success *result receives the result. */
 KEL_C_API void kel_isFile(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
-                          KEL_OUT bool* result);
+                          KEL_OUT uint8_t* result);
 /* Adds a public directory under a name. Position 230.
  * name, path: kept by the caller, read only during the call. */
 KEL_C_API void kel_addPublicDirectory(TarnApi* api, KEL_KEPT const wchar_t* name,

@@ -62,15 +62,16 @@ std::vector<T> values(const T* block, uint32_t count) {
     return count == 0 ? std::vector<T>{} : std::vector<T>(block, block + count);
 }
 
-// A single input record passes into the export's ownership.
-template <class C>
-std::shared_ptr<EngineOf<C>> record(C* value) {
-    return fromC(value, true);
+// A single input record passes into the export's ownership. E is the engine class the
+// operation takes: the C record's own, or an `as=` class handed in as C.
+template <class C, class E = EngineOf<C>>
+std::shared_ptr<E> record(C* value) {
+    return fromC<C, E>(value, true);
 }
 
-template <class C>
-std::vector<std::shared_ptr<EngineOf<C>>> records(C* const* block, uint32_t count) {
-    return listFromC(block, count);
+template <class C, class E = EngineOf<C>>
+std::vector<std::shared_ptr<E>> records(C* const* block, uint32_t count) {
+    return listFromC<C, E>(block, count);
 }
 
 // The caller keeps its handler: neither the engine nor the library ever deletes it.

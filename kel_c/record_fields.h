@@ -53,17 +53,33 @@ std::vector<std::shared_ptr<E>> listFromC(C* const* block, uint32_t count);
 struct Always {};
 inline constexpr Always always{};
 
+// A value as a C caller wrote it. A C bool is read as its byte: a caller's byte other
+// than 0 or 1 is then true rather than an invalid bool.
+template <class T>
+T readC(const T& value) {
+    if constexpr (std::is_same_v<T, bool>) {
+        return *reinterpret_cast<const unsigned char*>(&value) != 0; // NOLINT
+    } else {
+        return value;
+    }
+}
+
 template <class CM, class EM, class C, class E>
 struct ValueField {
     CM C::*c;
     EM E::*e;
+    // Engine true is 1 in a C flag byte; any non-zero byte is engine true.
     template <class CR, class ER>
     void toC(CR& to, const ER& from) const {
         to.*c = static_cast<CM>(from.*e);
     }
     template <class ER, class CR>
     void fromC(ER& to, const CR& from) const {
-        to.*e = static_cast<EM>(from.*c);
+        if constexpr (std::is_same_v<EM, bool>) {
+            to.*e = readC(from.*c) != 0;
+        } else {
+            to.*e = static_cast<EM>(from.*c);
+        }
     }
     template <class CR>
     void release(CR& /*record*/) const {}
@@ -82,7 +98,7 @@ struct ArrayField {
     template <class ER, class CR>
     void fromC(ER& to, const CR& from) const {
         for (std::size_t i = 0; i < N; ++i) {
-            (to.*e)[i] = (from.*c)[i];
+            (to.*e)[i] = readC((from.*c)[i]);
         }
     }
     template <class CR>
@@ -205,6 +221,27 @@ struct ListField {
         record.*count = 0;
     }
 };
+
+// A field that travels one way only. Release still frees whatever the C member holds,
+// whichever side filled it.
+template <class F>
+struct InOnly : F { // C to engine: toC leaves the C member zero/NULL
+    template <class CR, class ER>
+    void toC(CR& /*to*/, const ER& /*from*/) const {}
+};
+template <class F>
+struct OutOnly : F { // engine to C: fromC leaves the engine member at its default
+    template <class ER, class CR>
+    void fromC(ER& /*to*/, const CR& /*from*/) const {}
+};
+template <class F>
+constexpr InOnly<F> inOnly(F field) {
+    return {field};
+}
+template <class F>
+constexpr OutOnly<F> outOnly(F field) {
+    return {field};
+}
 
 // field(...) picks the descriptor from the member types, so the generated tables read
 // as plain lists of member pairs.

@@ -65,8 +65,9 @@ def c_field(f: kelidl.Field) -> list[str]:
 
 def engine_field(f: kelidl.Field) -> str:
     if f.kind in kelidl.SCALARS:
-        init = "false" if f.kind == "bool" else "0"
-        return f"{kelidl.SCALARS[f.kind][1]} {f.name} = {init};"
+        engine_type = kelidl.SCALARS[f.kind][1]
+        init = "false" if engine_type == "bool" else "0"
+        return f"{engine_type} {f.name} = {init};"
     if f.kind == "array":
         return f"std::array<{kelidl.SCALARS[f.element][1]}, {f.length}> {f.name}{{}};"
     if f.kind == "wstr":
@@ -186,8 +187,16 @@ def c_signature(op: kelidl.Operation, marked: bool = False) -> str:
 
 
 def input_expr(v: kelidl.Value) -> str:
+    if v.kind == "flag":
+        return f"{v.name} != 0"
     if v.kind in kelidl.SCALARS:
         return v.name
+    if v.kind in kelidl.RECORD_KINDS and v.c_record:
+        # An `as=` class: the engine class is not the C record's own, so it is named.
+        types = f"<::{v.c_record}, {ENGINE_NS}::{v.record}>"
+        if v.kind == "rec":
+            return f"kel::in::record{types}({v.name})"
+        return f"kel::in::records{types}({v.name}, {v.count})"
     return {
         "wstr": f"kel::in::text({v.name})",
         "wstrs": f"kel::in::texts({v.name}, {v.count})",
@@ -226,14 +235,29 @@ def export_body(op: kelidl.Operation) -> str:
 
 # ---- the files -----------------------------------------------------------------------
 
+def bases_first(records: list[kelidl.Record]) -> list[kelidl.Record]:
+    """The records in description order, except that a base stands before what derives from it."""
+    names = {rec.name: rec for rec in records}
+    ordered: dict[str, kelidl.Record] = {}
+
+    def place(rec: kelidl.Record) -> None:
+        if rec.base in names and rec.base not in ordered:
+            place(names[rec.base])
+        ordered.setdefault(rec.name, rec)
+
+    for rec in records:
+        place(rec)
+    return list(ordered.values())
+
+
 def engine_classes(records: list[kelidl.Record]) -> list[str]:
     out = [f"class {rec.name};" for rec in records] + [""]
-    for rec in records:
-        base = " : public virtual NamedItem" if rec.named else ""
+    for rec in bases_first(records):
+        base = f" : public virtual {rec.base}" if rec.base else ""
         note = "  // fields come with its family" if rec.pending else ""
         out.append(f"class {rec.name}{base} {{{note}")
         out.append("public:")
-        if rec.named:
+        if rec.base:
             out.append(f"    ~{rec.name}() override = default;")
         else:
             out.append(f"    virtual ~{rec.name}() = default;")
@@ -487,10 +511,9 @@ def field_doc(f: kelidl.Field) -> str:
     return " ".join(text for text in (f.doc, always) if text)
 
 
-def c_structs(records: list[kelidl.Record], named_docs: list[str] | None = None) -> list[str]:
-    """C records; with `named_docs` (the NamedItem strings' docs) each record and member
+def c_structs(records: list[kelidl.Record], iface: kelidl.Interface, documented: bool = False) -> list[str]:
+    """C records, members in order (a base's first); `documented`: each record and member
     carries its doc, as in the public header."""
-    documented = named_docs is not None
     out = []
     for rec in records:
         if documented:
@@ -500,9 +523,7 @@ def c_structs(records: list[kelidl.Record], named_docs: list[str] | None = None)
             out += c_comment([rec.doc, release])
         out.append(f"struct {rec.struct} {{")
         members: list[tuple[str, str]] = []
-        if rec.named:
-            members += [(f"wchar_t* itemText{i};", (named_docs or [""] * 4)[i - 1]) for i in range(1, 5)]
-        for f in rec.fields:
+        for f in iface.members(rec.name):
             lines = c_field(f)
             members += [(lines[0], field_doc(f) if documented else "")] + [(line, "") for line in lines[1:]]
         out += [f"    {line} /* {doc} */" if doc else f"    {line}" for line, doc in members]
@@ -512,7 +533,6 @@ def c_structs(records: list[kelidl.Record], named_docs: list[str] | None = None)
 
 def c_header(iface: kelidl.Interface) -> str:
     ready = iface.ready_records()
-    named_docs = [f.doc for f in iface.record("NamedItem").fields]
     out = [f"/* {BANNER} */",
            "/* kel_c: the C interface of the Kel_cpp diagnostics engine.",
            " *",
@@ -529,7 +549,7 @@ def c_header(iface: kelidl.Interface) -> str:
     for rec in ready:
         out.append(f"typedef struct {rec.struct} {rec.name};")
     out.append("")
-    out += c_structs(ready, named_docs)
+    out += c_structs(ready, iface, documented=True)
     out.append(C_FRAME)
     out += ["/* ---- release functions ----",
             " * Each frees one record with everything it points to; _array frees a list that an",
@@ -550,19 +570,22 @@ def c_header(iface: kelidl.Interface) -> str:
     return "\n".join(out) + "\n"
 
 
-def record_tables(records: list[kelidl.Record], engine_ns: str) -> list[str]:
+def table_entry(c: str, f: kelidl.Field, c_member: kelidl.Field) -> str:
+    """One descriptor of a field table: the C record's member paired with the engine's.
+    `c_member` is the C record's field (count and `always` are the C layout's)."""
+    if c_member.count:
+        extra = ", always" if c_member.always else ""
+        entry = f"field(&{c}::{f.name}, &{c}::{c_member.count}, &Engine::{f.name}{extra})"
+    else:
+        entry = f"field(&{c}::{f.name}, &Engine::{f.name})"
+    return {"both": entry, "in": f"inOnly({entry})", "out": f"outOnly({entry})"}[f.direction]
+
+
+def record_tables(records: list[kelidl.Record], engine_ns: str, iface: kelidl.Interface) -> list[str]:
     out = []
     for rec in records:
         c = f"::{rec.name}"
-        fields = []
-        if rec.named:
-            fields += [f"field(&{c}::itemText{i}, &Engine::itemText{i})" for i in range(1, 5)]
-        for f in rec.fields:
-            if f.count:
-                extra = ", always" if f.always else ""
-                fields.append(f"field(&{c}::{f.name}, &{c}::{f.count}, &Engine::{f.name}{extra})")
-            else:
-                fields.append(f"field(&{c}::{f.name}, &Engine::{f.name})")
+        fields = [table_entry(c, f, f) for f in iface.members(rec.name)]
         out.append(f"template <> struct Record<{c}> {{")
         out.append(f"    using Engine = {engine_ns}::{rec.name};")
         out.append(f'    static constexpr const char* name = "{rec.name}";')
@@ -578,28 +601,36 @@ def binding_records_h(iface: kelidl.Interface) -> str:
            "// Field tables of the C records: each pairs a C member with its engine member, in",
            "// record order. Conversion, release and streaming walk these tables.",
            "#pragma once", "", '#include "record_fields.h"', "", "namespace kel {", ""]
-    out += record_tables(iface.ready_records(), ENGINE_NS)
-    out += alias_tables(iface)
+    out += record_tables(iface.ready_records(), ENGINE_NS, iface)
+    out += alias_tables(iface.ready_aliases(), ENGINE_NS, iface)
     out.append("} // namespace kel")
     return "\n".join(out) + "\n"
 
 
 def test_records_h(iface: kelidl.Interface) -> str:
-    records = list(kelidl.parse_records(ROOT / "tests" / "interface" / "records.def").values())
+    own = kelidl.parse_records(ROOT / "tests" / "interface" / "records.def", known=iface.records)
+    both = kelidl.Interface({**iface.records, **own}, [])
+    records = [r for r in own.values() if not r.alias and not r.abstract]
+    aliases = [r for r in own.values() if r.alias]
     out = [f"// {BANNER}",
            "// The test-only records of tests/interface/records.def: C records, engine classes",
            "// and field tables, made exactly as for the interface's own records.",
-           "#pragma once", "", "#include <record_fields.h>", "", "#include <array>", "#include <cstdint>",
+           "#pragma once", "", "#include <EngineFields.h>", "#include <record_fields.h>", "",
+           "#include <array>", "#include <cstdint>",
            "#include <memory>", "#include <string>", "#include <vector>", ""]
     out += [f"typedef struct {rec.struct} {rec.name};" for rec in records] + [""]
-    out += c_structs(records)
-    used = sorted({f.record for r in records for f in r.fields if f.record} - {r.name for r in records}
-                  | ({"NamedItem"} if any(r.named for r in records) else set()))
+    out += c_structs(records, both)
+    refs = {f.record for r in own.values() for f in r.fields if f.record} | {
+        r.base for r in own.values() if r.base} | {r.alias for r in own.values() if r.alias}
+    used = sorted(refs - set(own))
     out += ["namespace kel_test {"] + [f"using {ENGINE_NS}::{name};" for name in used] + [""]
-    out += engine_classes(records)
+    out += engine_classes(list(own.values()))
     out += ["} // namespace kel_test", "", "namespace kel {", ""]
-    out += record_tables(records, "kel_test")
-    out.append("} // namespace kel")
+    out += record_tables(records, "kel_test", both)
+    out += alias_tables(aliases, "kel_test", both)
+    out += ["} // namespace kel", "", f"namespace {ENGINE_NS}::Fields {{", ""]
+    out += fields_of(list(own.values()), "kel_test::", both)
+    out.append(f"}} // namespace {ENGINE_NS}::Fields")
     return "\n".join(out) + "\n"
 
 
@@ -612,7 +643,7 @@ def binding_exports_cpp(iface: kelidl.Interface) -> str:
         out.append(f"void release_{n}_array({n}** ptr, uint64_t count) {{ kel::releaseArray(ptr, count); }}")
     out.append("")
     for op in iface.operations:
-        if iface.exported(op):
+        if iface.exported(op) and not op.custom:
             out.append(f"{c_signature(op)} {{ {export_body(op)} }}")
     out += ["", '} // extern "C"']
     return "\n".join(out) + "\n"
@@ -694,19 +725,27 @@ def engine_fields_h(iface: kelidl.Interface) -> str:
            "}", "",
            "// Specialised for every engine record class.",
            "template <class E> struct Of;", ""]
-    for rec in iface.records.values():
-        names = ([("member", f"itemText{i}") for i in range(1, 5)] if rec.named else []) + [
-            ("bitset" if f.kind == "bits" else "member", f.name) for f in rec.fields]
-        out.append(f"template <> struct Of<{rec.name}> {{")
+    out += fields_of(list(iface.records.values()), "", iface)
+    out.append(f"}} // namespace {ENGINE_NS}::Fields")
+    return "\n".join(out) + "\n"
+
+
+def fields_of(records: list[kelidl.Record], engine_ns: str, iface: kelidl.Interface) -> list[str]:
+    """The engine field lists (`Fields::Of<E>`): every member, base members first, in
+    both directions: the stream carries what the engine class holds."""
+    out = []
+    for rec in records:
+        cls = f"{engine_ns}{rec.name}"
+        names = [("bitset" if f.kind == "bits" else "member", f.name) for f in iface.members(rec.name)]
+        out.append(f"template <> struct Of<{cls}> {{")
         if names:
             out.append("    static constexpr auto list = std::make_tuple(")
-            out.append(",\n".join(f'        {k}("{n}", &{rec.name}::{n})' for k, n in names) + ");")
+            out.append(",\n".join(f'        {k}("{n}", &{cls}::{n})' for k, n in names) + ");")
         else:
             out.append("    static constexpr auto list = std::make_tuple();")
         out.append("};")
         out.append("")
-    out.append(f"}} // namespace {ENGINE_NS}::Fields")
-    return "\n".join(out) + "\n"
+    return out
 
 
 def dispatch_table_h(iface: kelidl.Interface) -> str:
@@ -737,23 +776,15 @@ def positions_inc(iface: kelidl.Interface) -> str:
 
 # ---- asynchronous calls and second engine classes -----------------------------------
 
-def alias_tables(iface: kelidl.Interface) -> list[str]:
+def alias_tables(aliases: list[kelidl.Record], engine_ns: str, iface: kelidl.Interface) -> list[str]:
     """Tables of the `as=` classes: their members paired with the C record's, by name."""
     out = []
-    for rec in iface.ready_aliases():
+    for rec in aliases:
         c = f"::{rec.alias}"
-        target = iface.record(rec.alias)
-        counts = {f.name: f.count for f in target.fields}
-        always = {f.name for f in target.fields if f.always}
-        fields = []
-        for name in rec.member_names():
-            if counts.get(name):
-                extra = ", always" if name in always else ""
-                fields.append(f"field(&{c}::{name}, &{c}::{counts[name]}, &Engine::{name}{extra})")
-            else:
-                fields.append(f"field(&{c}::{name}, &Engine::{name})")
-        out.append(f"template <> struct Alias<{c}, {ENGINE_NS}::{rec.name}> {{")
-        out.append(f"    using Engine = {ENGINE_NS}::{rec.name};")
+        theirs = {f.name: f for f in iface.members(rec.alias)}
+        fields = [table_entry(c, f, theirs[f.name]) for f in iface.members(rec.name)]
+        out.append(f"template <> struct Alias<{c}, {engine_ns}::{rec.name}> {{")
+        out.append(f"    using Engine = {engine_ns}::{rec.name};")
         out.append("    static constexpr auto fields = std::make_tuple(")
         out.append(",\n".join(f"        {x}" for x in fields) + ");")
         out.append("};")
@@ -839,6 +870,12 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
     }
 
 
+def missing_custom_exports(iface: kelidl.Interface, root: pathlib.Path) -> list[str]:
+    """The `custom` operations whose export body, kel_c/custom/<name>.cpp, is missing."""
+    return [f"kel_c/custom/{op.name}.cpp" for op in iface.operations
+            if op.custom and iface.exported(op) and not (root / "kel_c" / "custom" / f"{op.name}.cpp").exists()]
+
+
 def formatted(rel: str, text: str) -> str:
     """Runs C and C++ outputs through the project's clang-format, as committed."""
     if not rel.endswith((".h", ".cpp", ".inc")):
@@ -851,14 +888,13 @@ def formatted(rel: str, text: str) -> str:
 
 
 def check_docs(iface: kelidl.Interface) -> None:
-    """Every operation arrives documented: its comment in the header comes from its doc.
-    Records without a doc only warn for now (their docs are being written)."""
+    """Every operation and record arrives documented: the header's comments come from
+    their docs."""
     ops, records = kelidl.undocumented(iface)
     if ops:
         raise kelidl.DescriptionError("operations without a '#:' doc: " + ", ".join(op.name for op in ops))
     if records:
-        print(f"interface description: {len(records)} records without a '#:' doc: "
-              + ", ".join(r.name for r in records), file=sys.stderr)
+        raise kelidl.DescriptionError("records without a '#:' doc: " + ", ".join(r.name for r in records))
 
 
 def main() -> int:
@@ -870,6 +906,10 @@ def main() -> int:
         check_docs(iface)
     except kelidl.DescriptionError as e:
         print(f"interface description: {e}", file=sys.stderr)
+        return 2
+    missing = missing_custom_exports(iface, ROOT)
+    if missing:
+        print("custom operations need their hand-written export:", *missing, sep="\n  ", file=sys.stderr)
         return 2
     stale = []
     for rel, text in outputs(iface).items():

@@ -20,6 +20,8 @@ SCALARS = {
     "bits": ("uint32_t", "uint32_t"),
     "i64": ("int64_t", "int64_t"),
     "u64": ("uint64_t", "uint64_t"),
+    # A one-byte flag: any byte other than 0 is true in the engine, true is 1 in C.
+    "flag": ("uint8_t", "bool"),
 }
 
 # Field kinds that carry a count member right after the pointer member.
@@ -29,6 +31,8 @@ RESULT_KINDS = set(SCALARS) | {"wstr", "wstrs", "bytes", "blob", "rec", "list", 
 COUNTED_PARAMS = {"wstrs", "u32s", "u64s", "bytes", "list"}
 COUNTED_RESULTS = {"wstrs", "bytes", "blob", "list"}
 RECORD_KINDS = {"rec", "list"}
+# A field travels both ways, only from C to the engine ("in") or only back ("out").
+DIRECTIONS = ("both", "in", "out")
 
 # From this position on, the error parameter follows the engine object directly.
 ERROR_FIRST_POSITION = 241
@@ -48,6 +52,7 @@ class Field:
     element: str | None = None  # scalar kind of an array
     length: int = 0  # array length
     c_record: str | None = None  # the C record of `record` when that is an `as=` class
+    direction: str = "both"  # "in": C to engine only; "out": engine to C only
     doc: str = ""  # the trailing `#:` text of its line
 
     @property
@@ -59,7 +64,8 @@ class Field:
 class Record:
     name: str
     struct: str
-    named: bool = False
+    base: str | None = None  # the engine base class, whose members lead the C record
+    abstract: bool = False  # a base only: no C record of its own
     pending: bool = False  # declared by name only
     draft: bool = False  # fields known, family not built yet: no C record yet
     alias: str | None = None  # `as=`: an engine class converted to and from this C record
@@ -67,8 +73,9 @@ class Record:
     line: int = 0
     doc: str = ""  # the `#:` lines above it
 
-    def member_names(self) -> list[str]:
-        return ([f"itemText{i}" for i in range(1, 5)] if self.named else []) + [f.name for f in self.fields]
+    @property
+    def named(self) -> bool:
+        return self.base == "NamedItem"
 
 
 @dataclasses.dataclass
@@ -99,6 +106,7 @@ class Operation:
     pyreturn: bool = False  # py_call also returns the 32-bit result
     is_async: bool = False
     reserved: bool = False
+    custom: bool = False  # the export is declared but written by hand (kel_c/custom/)
     sync: Operation | None = None  # for async operations
     family: str | None = None  # the `family` section it stands in; None for reserved positions
     line: int = 0
@@ -127,6 +135,13 @@ class Interface:
     def record(self, name: str) -> Record:
         return self.records[name]
 
+    def members(self, record_name: str) -> list[Field]:
+        """Every member of the record in C order: the base's members first, recursively
+        (the four NamedItem strings for named records), then the record's own fields.
+        For an `as=` class these are its own members, a subset of the C record's."""
+        rec = self.records[record_name]
+        return (self.members(rec.base) if rec.base else []) + rec.fields
+
     def families(self) -> list[str]:
         """The families in the order of the description."""
         seen: dict[str, None] = {}
@@ -145,8 +160,8 @@ class Interface:
         if rec.pending or rec.draft:
             return False
         refs = [f.record for f in rec.fields if f.record]
-        if rec.named:
-            refs.append("NamedItem")
+        if rec.base:
+            refs.append(rec.base)
         if rec.alias:
             refs.append(rec.alias)
         return all(self.ready(r, seen) for r in refs)
@@ -169,14 +184,15 @@ class Interface:
                 return True
             seen.add(name)
             rec = self.records[name]
-            return not rec.pending and all(complete(f.record) for f in rec.fields if f.record)
+            refs = [f.record for f in rec.fields if f.record] + ([rec.base] if rec.base else [])
+            return not rec.pending and all(complete(r) for r in refs)
 
         values = list(op.params) + ([op.result] if op.result else [])
         return all(complete(v.record) for v in values if v.record)
 
     def ready_records(self) -> list[Record]:
         """The records that have a C record of their own."""
-        return [r for r in self.records.values() if not r.alias and self.ready(r.name)]
+        return [r for r in self.records.values() if not r.alias and not r.abstract and self.ready(r.name)]
 
     def ready_aliases(self) -> list[Record]:
         """The built `as=` classes: engine classes converted through another C record."""
@@ -222,10 +238,19 @@ class _Docs:
 
 
 def _parse_field(words: list[str], where: str) -> Field:
+    direction = "both"
+    if len(words) > 2 and words[-1] in DIRECTIONS[1:]:
+        direction = words.pop()
+    field = _parse_field_kind(words, where)
+    field.direction = direction
+    return field
+
+
+def _parse_field_kind(words: list[str], where: str) -> Field:
     kind = words[0]
     m = re.fullmatch(r"(\w+)\[(\d+)\]", kind)
     if m:
-        if m.group(1) not in SCALARS or len(words) != 2:
+        if m.group(1) not in SCALARS or m.group(1) == "flag" or len(words) != 2:
             raise DescriptionError(f"{where}: bad array field")
         return Field("array", words[1], element=m.group(1), length=int(m.group(2)))
     if kind in SCALARS or kind == "wstr":
@@ -267,7 +292,7 @@ def _parse_value(text: str, kinds: set[str], counted: set[str], where: str) -> V
     return Value(kind, words[1], count=words[2] if want == 3 else None)
 
 
-ATTRIBUTES = ("remote", "discard", "api64", "pyreturn")
+ATTRIBUTES = ("remote", "discard", "api64", "pyreturn", "custom")
 
 
 def _parse_operation(line: str, where: str) -> Operation:
@@ -300,7 +325,9 @@ def _parse_operation(line: str, where: str) -> Operation:
     return op
 
 
-def parse_records(path: pathlib.Path) -> dict[str, Record]:
+def parse_records(path: pathlib.Path, known: dict[str, Record] | None = None) -> dict[str, Record]:
+    """The records of one description file. `known` are records of another file that
+    these may use (the test records use the interface's); they are not returned."""
     records: dict[str, Record] = {}
     current: Record | None = None
     docs = _Docs()
@@ -317,14 +344,18 @@ def parse_records(path: pathlib.Path) -> dict[str, Record]:
             if words[0] != "record" or len(words) < 2:
                 raise DescriptionError(f"{where}: expected 'record <Name>'")
             name = words[1]
-            if name in records:
+            if name in records or (known and name in known):
                 raise DescriptionError(f"{where}: record {name} declared twice")
             if _trailing_doc(raw):
                 raise DescriptionError(f"{where}: a record's doc stands in #: lines above it")
             current = Record(name, name, line=n, doc=docs.take())
             for attr in words[2:]:
-                if attr == "named":
-                    current.named = True
+                if attr == "named" or attr.startswith("base="):
+                    if current.base:
+                        raise DescriptionError(f"{where}: a record has one base")
+                    current.base = "NamedItem" if attr == "named" else attr[5:]
+                elif attr == "abstract":
+                    current.abstract = True
                 elif attr == "pending":
                     current.pending = True
                 elif attr == "draft":
@@ -345,10 +376,12 @@ def parse_records(path: pathlib.Path) -> dict[str, Record]:
             current.fields.append(_parse_field(words, where))
             current.fields[-1].doc = _trailing_doc(raw)
     docs.none_pending("record")
+    every = {**(known or {}), **records}
     for rec in records.values():
         for f in rec.fields:
-            if f.record in records and records[f.record].alias:
-                f.c_record = records[f.record].alias
+            if f.record in every and every[f.record].alias:
+                f.c_record = every[f.record].alias
+    validate_records(every)
     return records
 
 
@@ -395,10 +428,10 @@ def parse(root: pathlib.Path) -> Interface:
 
 def undocumented(iface: Interface) -> tuple[list[Operation], list[Record]]:
     """Operations with no doc of their own (the reserved ones and asynchronous forms,
-    which share their synchronous form's text, need none), and the records with a C record
-    that have none."""
+    which share their synchronous form's text, need none), and the records whose fields are
+    written down (all but the pending ones) that have none."""
     ops = [op for op in iface.operations if not (op.doc or op.reserved or op.is_async)]
-    recs = [r for r in iface.ready_records() if not r.doc]
+    recs = [r for r in iface.records.values() if not (r.doc or r.pending)]
     return ops, recs
 
 
@@ -430,26 +463,58 @@ def _validate(iface: Interface) -> None:
                 raise DescriptionError(f"{op.name}: unknown record {v.record}")
             if v.record:
                 v.c_record = iface.records[v.record].alias
-    for rec in iface.records.values():
+    for op in iface.operations:
+        for v in op.params + ([op.result] if op.result else []):
+            if v.record and iface.records[v.record].abstract:
+                raise DescriptionError(f"{op.name}: {v.record} is a base only and cannot be passed")
+
+
+def validate_records(records: dict[str, Record]) -> None:
+    """Checks what the records say about one another: references, bases, `as=` pairs."""
+    iface = Interface(records, [])
+    for rec in records.values():
         for f in rec.fields:
-            if f.record and f.record not in iface.records:
+            if f.record and f.record not in records:
                 raise DescriptionError(f"record {rec.name}: unknown record {f.record}")
+            if f.record and records[f.record].abstract:
+                raise DescriptionError(f"record {rec.name}: {f.record} is a base only and cannot be a field")
+        _validate_base(iface, rec)
+    for rec in records.values():
         if rec.alias:
             _validate_alias(iface, rec)
+
+
+def _validate_base(iface: Interface, rec: Record) -> None:
+    """A base chain ends, names plain records, and no member name repeats along it."""
+    seen = [rec.name]
+    current = rec
+    while current.base:
+        base = iface.records.get(current.base)
+        if base is None or base.alias:
+            raise DescriptionError(
+                f"record {current.name}: base {current.base} must name a record, not an `as=` class")
+        if base.name in seen:
+            raise DescriptionError(f"record {rec.name}: its bases form a cycle")
+        seen.append(base.name)
+        current = base
+    if rec.abstract and rec.alias:
+        raise DescriptionError(f"record {rec.name}: a base only cannot be an `as=` class")
+    names = [f.name for f in iface.members(rec.name)]
+    repeated = {n for n in names if names.count(n) > 1}
+    if repeated:
+        raise DescriptionError(f"record {rec.name}: member {sorted(repeated)[0]} given twice along its bases")
 
 
 def _validate_alias(iface: Interface, rec: Record) -> None:
     """An `as=` class pairs each of its members with the C record's member of that name."""
     target = iface.records.get(rec.alias)
-    if target is None or target.alias:
+    if target is None or target.alias or target.abstract:
         raise DescriptionError(f"record {rec.name}: as={rec.alias} must name a record with a C record")
-    if rec.named and not (target.named or target.name == "NamedItem"):
-        raise DescriptionError(f"record {rec.name}: {rec.alias} has no NamedItem strings")
-    theirs = {f.name: f for f in target.fields}
-    for f in rec.fields:
+    theirs = {f.name: f for f in iface.members(target.name)}
+    for f in iface.members(rec.name):
         other = theirs.get(f.name)
         if other is None:
-            raise DescriptionError(f"record {rec.name}: {rec.alias} has no field {f.name}")
+            raise DescriptionError(f"record {rec.name}: {rec.alias} has no member {f.name}")
         if (f.kind, f.c_name, f.count, f.element, f.length) != (
                 other.kind, other.c_name, other.count, other.element, other.length):
             raise DescriptionError(f"record {rec.name}: field {f.name} differs from {rec.alias}.{f.name}")

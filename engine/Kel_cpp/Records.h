@@ -44,6 +44,7 @@ class ParameterInfoConfig;
 class KelEvent;
 class EventReport;
 class FileFilter;
+class FilterPattern;
 class TargetConfig;
 class ProjectConfig;
 class ProjectDetails;
@@ -58,11 +59,15 @@ class TcpInfo;
 class StatusInfo;
 class TransmissionInfo;
 class ProcessInfo;
+class ProcessEntry;
+class ProcessEntryItem1;
+class ProcessEntryItem2;
 class GlobalProtocolParameterSet;
 class GlobalProtocolParameter;
 class LoadDatabaseResult;
 class InterfaceInformation;
 class ResourceInformation;
+class InterfaceInformationItem;
 class ScanInterfaceResult;
 class DynInterfaceDetection;
 class ModuleDyn;
@@ -70,17 +75,25 @@ class DeviceInfo;
 class PhysicalLinksOnModule;
 class PhysicalLink;
 class InterfaceConfiguration;
+class InterfaceConfigurationEntry;
+class InterfaceConfigurationItem;
 class InterfaceProvider;
+class InterfaceProviderDyn;
 class DoIPParameter;
 class WLanSignalData;
 class SupportedInterface;
 class MonitoringItem;
+class MonitoringItemDetail;
 class PduMonitoringItem;
+class PduMonitoringItemDetail;
+class FileSystemEntry;
 class FileInfo;
 class DirectoryInfo;
 class FileCopyResult;
 class DirectoryCopyResult;
+class DirectoryCopyItem;
 class PathCopyResult;
+class PathCopyItem;
 class FileReferenceResult;
 class FileCopyConfig;
 class DirectoryCopyConfig;
@@ -439,6 +452,13 @@ public:
     uint32_t value = 0;
 };
 
+class FilterPattern {
+public:
+    virtual ~FilterPattern() = default;
+    std::wstring pattern;
+    bool flag = false;
+};
+
 class TargetConfig {
 public:
     virtual ~TargetConfig() = default;
@@ -453,7 +473,7 @@ public:
     std::vector<std::shared_ptr<FileFilter>> filters1;
     int32_t value0 = 0;
     std::vector<std::shared_ptr<TargetConfig>> targets;
-    std::vector<std::shared_ptr<FileFilter>> filters2;
+    std::vector<std::shared_ptr<FilterPattern>> filters2;
     std::vector<std::wstring> strings1;
     std::wstring text1;
     uint32_t value1 = 0;
@@ -592,9 +612,32 @@ public:
     uint64_t value4 = 0;
 };
 
-class ProcessInfo { // fields come with its family
+class ProcessInfo {
 public:
     virtual ~ProcessInfo() = default;
+    std::vector<std::shared_ptr<ProcessEntry>> processes;
+    bool flag1 = false;
+    bool flag2 = false;
+    std::wstring text;
+};
+
+class ProcessEntry {
+public:
+    virtual ~ProcessEntry() = default;
+    uint32_t value = 0;
+    std::vector<std::shared_ptr<ProcessEntryItem1>> items1;
+    std::wstring text;
+    std::vector<std::shared_ptr<ProcessEntryItem2>> items2;
+};
+
+class ProcessEntryItem1 { // fields come with its family
+public:
+    virtual ~ProcessEntryItem1() = default;
+};
+
+class ProcessEntryItem2 { // fields come with its family
+public:
+    virtual ~ProcessEntryItem2() = default;
 };
 
 class GlobalProtocolParameterSet {
@@ -620,14 +663,27 @@ public:
     std::shared_ptr<KelError> error;
 };
 
-class InterfaceInformation : public virtual NamedItem { // fields come with its family
+class InterfaceInformation : public virtual NamedItem {
 public:
     ~InterfaceInformation() override = default;
+    std::vector<std::shared_ptr<ResourceInformation>> resources;
+    bool flag1 = false;
+    bool flag2 = false;
+    std::wstring text1;
+    std::wstring text2;
+    bool flag3 = false;
+    std::vector<std::shared_ptr<InterfaceInformationItem>> items;
+    uint64_t value = 0;
 };
 
 class ResourceInformation { // fields come with its family
 public:
     virtual ~ResourceInformation() = default;
+};
+
+class InterfaceInformationItem { // fields come with its family
+public:
+    virtual ~InterfaceInformationItem() = default;
 };
 
 class ScanInterfaceResult {
@@ -664,14 +720,41 @@ public:
     virtual ~PhysicalLink() = default;
 };
 
-class InterfaceConfiguration { // fields come with its family
+class InterfaceConfiguration {
 public:
     virtual ~InterfaceConfiguration() = default;
+    std::vector<std::shared_ptr<InterfaceConfigurationEntry>> entries;
+};
+
+class InterfaceConfigurationEntry {
+public:
+    virtual ~InterfaceConfigurationEntry() = default;
+    std::wstring text1;
+    std::wstring text2;
+    std::wstring text3;
+    std::wstring text4;
+    std::wstring text5;
+    uint32_t value = 0;
+    bool flag = false;
+    std::vector<std::shared_ptr<InterfaceConfigurationItem>> items;
+};
+
+class InterfaceConfigurationItem { // fields come with its family
+public:
+    virtual ~InterfaceConfigurationItem() = default;
 };
 
 class InterfaceProvider : public virtual NamedItem {
 public:
     ~InterfaceProvider() override = default;
+    std::wstring text;
+    uint32_t value = 0;
+    bool flag = false;
+};
+
+class InterfaceProviderDyn : public virtual NamedItem {
+public:
+    ~InterfaceProviderDyn() override = default;
     std::wstring text;
     uint32_t value = 0;
     bool flag = false;
@@ -714,38 +797,65 @@ public:
     std::wstring text3;
 };
 
-class MonitoringItem { // fields come with its family
+class MonitoringItem {
 public:
     virtual ~MonitoringItem() = default;
+    std::wstring text1;
+    std::vector<uint8_t> data;
+    uint64_t value1 = 0;
+    uint32_t value2 = 0;
+    bool flag1 = false;
+    bool flag2 = false;
+    bool flag3 = false;
+    uint32_t value3 = 0;
+    std::wstring text2;
+    uint32_t value4 = 0;
+    std::shared_ptr<MonitoringItemDetail> detail;
 };
 
-class PduMonitoringItem { // fields come with its family
+class MonitoringItemDetail { // fields come with its family
+public:
+    virtual ~MonitoringItemDetail() = default;
+};
+
+class PduMonitoringItem {
 public:
     virtual ~PduMonitoringItem() = default;
+    uint32_t value1 = 0;
+    std::vector<uint8_t> data;
+    std::shared_ptr<PduMonitoringItemDetail> detail;
+    std::wstring text1;
+    std::wstring text2;
+    uint64_t value2 = 0;
+    std::wstring text3;
 };
 
-class FileInfo {
+class PduMonitoringItemDetail { // fields come with its family
 public:
-    virtual ~FileInfo() = default;
+    virtual ~PduMonitoringItemDetail() = default;
+};
+
+class FileSystemEntry {
+public:
+    virtual ~FileSystemEntry() = default;
     std::wstring name;
     std::shared_ptr<KelError> error;
     bool flag = false;
     uint32_t value1 = 0;
     std::wstring text1;
     std::wstring text2;
+};
+
+class FileInfo : public virtual FileSystemEntry {
+public:
+    ~FileInfo() override = default;
     uint64_t value2 = 0;
     uint64_t value3 = 0;
 };
 
-class DirectoryInfo {
+class DirectoryInfo : public virtual FileSystemEntry {
 public:
-    virtual ~DirectoryInfo() = default;
-    std::wstring name;
-    std::shared_ptr<KelError> error;
-    bool flag = false;
-    uint32_t value1 = 0;
-    std::wstring text1;
-    std::wstring text2;
+    ~DirectoryInfo() override = default;
     std::vector<std::shared_ptr<FileInfo>> files;
     std::vector<std::shared_ptr<DirectoryInfo>> directories;
     bool flag2 = false;
@@ -761,14 +871,32 @@ public:
     int32_t value2 = 0;
 };
 
-class DirectoryCopyResult { // fields come with its family
+class DirectoryCopyResult {
 public:
     virtual ~DirectoryCopyResult() = default;
+    int32_t value1 = 0;
+    std::wstring text;
+    std::shared_ptr<KelError> error;
+    std::shared_ptr<DirectoryCopyItem> directory;
 };
 
-class PathCopyResult { // fields come with its family
+class DirectoryCopyItem { // fields come with its family
+public:
+    virtual ~DirectoryCopyItem() = default;
+};
+
+class PathCopyResult {
 public:
     virtual ~PathCopyResult() = default;
+    int32_t value1 = 0;
+    std::shared_ptr<KelError> error;
+    int32_t value2 = 0;
+    std::shared_ptr<PathCopyItem> item;
+};
+
+class PathCopyItem { // fields come with its family
+public:
+    virtual ~PathCopyItem() = default;
 };
 
 class FileReferenceResult {

@@ -782,12 +782,12 @@ public:
     virtual std::vector<std::shared_ptr<SupportedInterface>> getSupportedInterfaces() = 0;  // 265
     virtual std::vector<std::shared_ptr<InterfaceProvider>> getInterfaceProviders() = 0;    // 266
     virtual void setInterfaceProviders(
-        const std::vector<std::shared_ptr<InterfaceProvider>>& providers) = 0; // 267
-    virtual std::wstring getCurrentDebugTraceDirectory() = 0;                  // 268
-    virtual std::shared_ptr<TarnApiServerConfig> getServerConfiguration() = 0; // 269
-    virtual uint64_t getCallDuration() = 0;                                    // 270
-    virtual void setStatusText(const std::wstring& text) = 0;                  // 271
-    virtual std::shared_ptr<DoIPParameter> getDefaultDoIPParameter() = 0;      // 272
+        const std::vector<std::shared_ptr<InterfaceProviderDyn>>& providers) = 0; // 267
+    virtual std::wstring getCurrentDebugTraceDirectory() = 0;                     // 268
+    virtual std::shared_ptr<TarnApiServerConfig> getServerConfiguration() = 0;    // 269
+    virtual uint64_t getCallDuration() = 0;                                       // 270
+    virtual void setStatusText(const std::wstring& text) = 0;                     // 271
+    virtual std::shared_ptr<DoIPParameter> getDefaultDoIPParameter() = 0;         // 272
 };
 
 } // namespace Varno::Kel_cpp

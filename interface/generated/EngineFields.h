@@ -321,6 +321,12 @@ struct Of<FileFilter> {
 };
 
 template <>
+struct Of<FilterPattern> {
+    static constexpr auto list = std::make_tuple(member("pattern", &FilterPattern::pattern),
+                                                 member("flag", &FilterPattern::flag));
+};
+
+template <>
 struct Of<TargetConfig> {
     static constexpr auto list = std::make_tuple(member("value", &TargetConfig::value),
                                                  member("text1", &TargetConfig::text1),
@@ -443,6 +449,25 @@ struct Of<TransmissionInfo> {
 
 template <>
 struct Of<ProcessInfo> {
+    static constexpr auto list = std::make_tuple(
+        member("processes", &ProcessInfo::processes), member("flag1", &ProcessInfo::flag1),
+        member("flag2", &ProcessInfo::flag2), member("text", &ProcessInfo::text));
+};
+
+template <>
+struct Of<ProcessEntry> {
+    static constexpr auto list = std::make_tuple(
+        member("value", &ProcessEntry::value), member("items1", &ProcessEntry::items1),
+        member("text", &ProcessEntry::text), member("items2", &ProcessEntry::items2));
+};
+
+template <>
+struct Of<ProcessEntryItem1> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<ProcessEntryItem2> {
     static constexpr auto list = std::make_tuple();
 };
 
@@ -474,11 +499,24 @@ struct Of<InterfaceInformation> {
         std::make_tuple(member("itemText1", &InterfaceInformation::itemText1),
                         member("itemText2", &InterfaceInformation::itemText2),
                         member("itemText3", &InterfaceInformation::itemText3),
-                        member("itemText4", &InterfaceInformation::itemText4));
+                        member("itemText4", &InterfaceInformation::itemText4),
+                        member("resources", &InterfaceInformation::resources),
+                        member("flag1", &InterfaceInformation::flag1),
+                        member("flag2", &InterfaceInformation::flag2),
+                        member("text1", &InterfaceInformation::text1),
+                        member("text2", &InterfaceInformation::text2),
+                        member("flag3", &InterfaceInformation::flag3),
+                        member("items", &InterfaceInformation::items),
+                        member("value", &InterfaceInformation::value));
 };
 
 template <>
 struct Of<ResourceInformation> {
+    static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<InterfaceInformationItem> {
     static constexpr auto list = std::make_tuple();
 };
 
@@ -517,6 +555,25 @@ struct Of<PhysicalLink> {
 
 template <>
 struct Of<InterfaceConfiguration> {
+    static constexpr auto list =
+        std::make_tuple(member("entries", &InterfaceConfiguration::entries));
+};
+
+template <>
+struct Of<InterfaceConfigurationEntry> {
+    static constexpr auto list =
+        std::make_tuple(member("text1", &InterfaceConfigurationEntry::text1),
+                        member("text2", &InterfaceConfigurationEntry::text2),
+                        member("text3", &InterfaceConfigurationEntry::text3),
+                        member("text4", &InterfaceConfigurationEntry::text4),
+                        member("text5", &InterfaceConfigurationEntry::text5),
+                        member("value", &InterfaceConfigurationEntry::value),
+                        member("flag", &InterfaceConfigurationEntry::flag),
+                        member("items", &InterfaceConfigurationEntry::items));
+};
+
+template <>
+struct Of<InterfaceConfigurationItem> {
     static constexpr auto list = std::make_tuple();
 };
 
@@ -529,6 +586,17 @@ struct Of<InterfaceProvider> {
                                                  member("text", &InterfaceProvider::text),
                                                  member("value", &InterfaceProvider::value),
                                                  member("flag", &InterfaceProvider::flag));
+};
+
+template <>
+struct Of<InterfaceProviderDyn> {
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &InterfaceProviderDyn::itemText1),
+        member("itemText2", &InterfaceProviderDyn::itemText2),
+        member("itemText3", &InterfaceProviderDyn::itemText3),
+        member("itemText4", &InterfaceProviderDyn::itemText4),
+        member("text", &InterfaceProviderDyn::text), member("value", &InterfaceProviderDyn::value),
+        member("flag", &InterfaceProviderDyn::flag));
 };
 
 template <>
@@ -560,12 +628,40 @@ struct Of<SupportedInterface> {
 
 template <>
 struct Of<MonitoringItem> {
+    static constexpr auto list = std::make_tuple(
+        member("text1", &MonitoringItem::text1), member("data", &MonitoringItem::data),
+        member("value1", &MonitoringItem::value1), member("value2", &MonitoringItem::value2),
+        member("flag1", &MonitoringItem::flag1), member("flag2", &MonitoringItem::flag2),
+        member("flag3", &MonitoringItem::flag3), member("value3", &MonitoringItem::value3),
+        member("text2", &MonitoringItem::text2), member("value4", &MonitoringItem::value4),
+        member("detail", &MonitoringItem::detail));
+};
+
+template <>
+struct Of<MonitoringItemDetail> {
     static constexpr auto list = std::make_tuple();
 };
 
 template <>
 struct Of<PduMonitoringItem> {
+    static constexpr auto list = std::make_tuple(
+        member("value1", &PduMonitoringItem::value1), member("data", &PduMonitoringItem::data),
+        member("detail", &PduMonitoringItem::detail), member("text1", &PduMonitoringItem::text1),
+        member("text2", &PduMonitoringItem::text2), member("value2", &PduMonitoringItem::value2),
+        member("text3", &PduMonitoringItem::text3));
+};
+
+template <>
+struct Of<PduMonitoringItemDetail> {
     static constexpr auto list = std::make_tuple();
+};
+
+template <>
+struct Of<FileSystemEntry> {
+    static constexpr auto list = std::make_tuple(
+        member("name", &FileSystemEntry::name), member("error", &FileSystemEntry::error),
+        member("flag", &FileSystemEntry::flag), member("value1", &FileSystemEntry::value1),
+        member("text1", &FileSystemEntry::text1), member("text2", &FileSystemEntry::text2));
 };
 
 template <>
@@ -597,11 +693,26 @@ struct Of<FileCopyResult> {
 
 template <>
 struct Of<DirectoryCopyResult> {
+    static constexpr auto list = std::make_tuple(
+        member("value1", &DirectoryCopyResult::value1), member("text", &DirectoryCopyResult::text),
+        member("error", &DirectoryCopyResult::error),
+        member("directory", &DirectoryCopyResult::directory));
+};
+
+template <>
+struct Of<DirectoryCopyItem> {
     static constexpr auto list = std::make_tuple();
 };
 
 template <>
 struct Of<PathCopyResult> {
+    static constexpr auto list = std::make_tuple(
+        member("value1", &PathCopyResult::value1), member("error", &PathCopyResult::error),
+        member("value2", &PathCopyResult::value2), member("item", &PathCopyResult::item));
+};
+
+template <>
+struct Of<PathCopyItem> {
     static constexpr auto list = std::make_tuple();
 };
 

@@ -290,10 +290,10 @@ uint64_t kel_readMeasurementValuesAsync(TarnApi* api, const wchar_t* target, wch
                                                    kel::in::texts(names, nameCount), handler);
         });
 }
-void kel_readFile(TarnApi* api, const wchar_t* path, uint64_t value1, uint32_t value2, bool flag,
+void kel_readFile(TarnApi* api, const wchar_t* path, uint64_t value1, uint32_t value2, uint8_t flag,
                   KelError** error, void** data, uint32_t* dataLength) {
     kel::invoke(
-        error, [&] { return api->readFile(kel::in::text(path), value1, value2, flag); },
+        error, [&] { return api->readFile(kel::in::text(path), value1, value2, flag != 0); },
         kel::out::buffer(data, dataLength));
 }
 void kel_connectInterfaces(TarnApi* api, KelError** error) {
@@ -336,7 +336,7 @@ void kel_getFilteredTargets(TarnApi* api, TargetFilter** filters, uint32_t filte
         kel::out::records(targets, targetCount));
 }
 void kel_isProjectConversionRequired(TarnApi* api, const wchar_t* projectPath, KelError** error,
-                                     bool* required) {
+                                     uint8_t* required) {
     kel::invoke(
         error, [&] { return api->isProjectConversionRequired(kel::in::text(projectPath)); },
         kel::out::value(required));
@@ -378,12 +378,12 @@ void kel_cancelAsyncCalls(TarnApi* api, const uint64_t* callIds, uint32_t callId
     kel::invoke(error, [&] { api->cancelAsyncCalls(kel::in::values(callIds, callIdCount)); });
 }
 void kel_writeFile(TarnApi* api, const wchar_t* path, const uint8_t* data, uint32_t dataLength,
-                   uint32_t value, bool flag, KelError** error, uint32_t* result) {
+                   uint32_t value, uint8_t flag, KelError** error, uint32_t* result) {
     kel::invoke(
         error,
         [&] {
             return api->writeFile(kel::in::text(path), kel::in::values(data, dataLength), value,
-                                  flag);
+                                  flag != 0);
         },
         kel::out::value(result));
 }
@@ -417,8 +417,8 @@ void kel_getEthernetPinState(TarnApi* api, const wchar_t* interfaceName, KelErro
         error, [&] { return api->getEthernetPinState(kel::in::text(interfaceName)); },
         kel::out::value(state));
 }
-void kel_connectDynInterfaceEx(TarnApi* api, const wchar_t* name, bool flag, KelError** error) {
-    kel::invoke(error, [&] { api->connectDynInterfaceEx(kel::in::text(name), flag); });
+void kel_connectDynInterfaceEx(TarnApi* api, const wchar_t* name, uint8_t flag, KelError** error) {
+    kel::invoke(error, [&] { api->connectDynInterfaceEx(kel::in::text(name), flag != 0); });
 }
 void kel_addUser(TarnApi* api, const wchar_t* text1, const wchar_t* text2, uint32_t value,
                  KelError** error) {
@@ -433,12 +433,12 @@ void kel_updateUser(TarnApi* api, const wchar_t* text1, const wchar_t* text2, co
         api->updateUser(kel::in::text(text1), kel::in::text(text2), kel::in::text(text3), value);
     });
 }
-void kel_getServerUserManagement(TarnApi* api, KelError** error, bool* enabled) {
+void kel_getServerUserManagement(TarnApi* api, KelError** error, uint8_t* enabled) {
     kel::invoke(
         error, [&] { return api->getServerUserManagement(); }, kel::out::value(enabled));
 }
-void kel_setServerUserManagement(TarnApi* api, bool enabled, KelError** error) {
-    kel::invoke(error, [&] { api->setServerUserManagement(enabled); });
+void kel_setServerUserManagement(TarnApi* api, uint8_t enabled, KelError** error) {
+    kel::invoke(error, [&] { api->setServerUserManagement(enabled != 0); });
 }
 void kel_registerServerHandler(uint64_t api, void* handler, KelError** error) {
     kel::invoke(error, [&] { kel::engine(api)->registerServerHandler(kel::in::handler(handler)); });
@@ -446,7 +446,7 @@ void kel_registerServerHandler(uint64_t api, void* handler, KelError** error) {
 void kel_disconnectAllClients(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->disconnectAllClients(); });
 }
-void kel_testSocketBridge(TarnApi* api, uint64_t bridge, KelError** error, bool* result) {
+void kel_testSocketBridge(TarnApi* api, uint64_t bridge, KelError** error, uint8_t* result) {
     kel::invoke(
         error, [&] { return api->testSocketBridge(bridge); }, kel::out::value(result));
 }
@@ -515,7 +515,8 @@ void kel_checkUpdateSuccess(TarnApi* api, KelError** error, bool* succeeded) {
 void kel_cleanUpdateTmp(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->cleanUpdateTmp(); });
 }
-void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error, bool* reconnected) {
+void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error,
+                               uint8_t* reconnected) {
     kel::invoke(
         error, [&] { return api->reconnectRemoteServer(handle); }, kel::out::value(reconnected));
 }
@@ -526,18 +527,18 @@ void kel_getTargetStatus(TarnApi* api, wchar_t** targets, uint32_t targetCount, 
         kel::out::records(statuses, statusCount));
 }
 void kel_moveFile(TarnApi* api, const wchar_t* source, const wchar_t* target, KelError** error,
-                  bool* moved) {
+                  uint8_t* moved) {
     kel::invoke(
         error, [&] { return api->moveFile(kel::in::text(source), kel::in::text(target)); },
         kel::out::value(moved));
 }
 void kel_moveDirectory(TarnApi* api, const wchar_t* source, const wchar_t* target, KelError** error,
-                       bool* moved) {
+                       uint8_t* moved) {
     kel::invoke(
         error, [&] { return api->moveDirectory(kel::in::text(source), kel::in::text(target)); },
         kel::out::value(moved));
 }
-void kel_pathExists(TarnApi* api, const wchar_t* path, KelError** error, bool* exists) {
+void kel_pathExists(TarnApi* api, const wchar_t* path, KelError** error, uint8_t* exists) {
     kel::invoke(
         error, [&] { return api->pathExists(kel::in::text(path)); }, kel::out::value(exists));
 }
@@ -548,18 +549,18 @@ void kel_resolvePath(TarnApi* api, const wchar_t* path, KelError** error, wchar_
 void kel_onConnectionClosed(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->onConnectionClosed(); });
 }
-void kel_openTerminal(TarnApi* api, KelError** error, bool* opened) {
+void kel_openTerminal(TarnApi* api, KelError** error, uint8_t* opened) {
     kel::invoke(
         error, [&] { return api->openTerminal(); }, kel::out::value(opened));
 }
 void kel_closeTerminal(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->closeTerminal(); });
 }
-void kel_isDirectory(TarnApi* api, const wchar_t* path, KelError** error, bool* result) {
+void kel_isDirectory(TarnApi* api, const wchar_t* path, KelError** error, uint8_t* result) {
     kel::invoke(
         error, [&] { return api->isDirectory(kel::in::text(path)); }, kel::out::value(result));
 }
-void kel_isFile(TarnApi* api, const wchar_t* path, KelError** error, bool* result) {
+void kel_isFile(TarnApi* api, const wchar_t* path, KelError** error, uint8_t* result) {
     kel::invoke(
         error, [&] { return api->isFile(kel::in::text(path)); }, kel::out::value(result));
 }
@@ -572,7 +573,7 @@ void kel_clearDoIPEcuCollection(TarnApi* api, KelError** error, KelError*** erro
 void kel_setBrokerUrl(TarnApi* api, const wchar_t* url, KelError** error) {
     kel::invoke(error, [&] { api->setBrokerUrl(kel::in::text(url)); });
 }
-void kel_thirdPartyLogin(TarnApi* api, const wchar_t* text, KelError** error, bool* result) {
+void kel_thirdPartyLogin(TarnApi* api, const wchar_t* text, KelError** error, uint8_t* result) {
     kel::invoke(
         error, [&] { return api->thirdPartyLogin(kel::in::text(text)); }, kel::out::value(result));
 }

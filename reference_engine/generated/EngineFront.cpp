@@ -778,7 +778,7 @@ std::vector<std::shared_ptr<InterfaceProvider>> UnsupportedTarnApi::getInterface
     throw unsupported("getInterfaceProviders");
 }
 void UnsupportedTarnApi::setInterfaceProviders(
-    const std::vector<std::shared_ptr<InterfaceProvider>>&) {
+    const std::vector<std::shared_ptr<InterfaceProviderDyn>>&) {
     throw unsupported("setInterfaceProviders");
 }
 std::wstring UnsupportedTarnApi::getCurrentDebugTraceDirectory() {
@@ -2015,7 +2015,7 @@ std::vector<std::shared_ptr<InterfaceProvider>> EngineFront::getInterfaceProvide
     return vehicle_->getInterfaceProviders();
 }
 void EngineFront::setInterfaceProviders(
-    const std::vector<std::shared_ptr<InterfaceProvider>>& providers) {
+    const std::vector<std::shared_ptr<InterfaceProviderDyn>>& providers) {
     const auto call = script_->enter(*clock_, "setInterfaceProviders", providers);
     return vehicle_->setInterfaceProviders(providers);
 }

@@ -422,7 +422,7 @@ public:
     std::vector<std::shared_ptr<SupportedInterface>> getSupportedInterfaces() override;
     std::vector<std::shared_ptr<InterfaceProvider>> getInterfaceProviders() override;
     void setInterfaceProviders(
-        const std::vector<std::shared_ptr<InterfaceProvider>>& providers) override;
+        const std::vector<std::shared_ptr<InterfaceProviderDyn>>& providers) override;
     std::wstring getCurrentDebugTraceDirectory() override;
     std::shared_ptr<TarnApiServerConfig> getServerConfiguration() override;
     uint64_t getCallDuration() override;
@@ -843,7 +843,7 @@ public:
     std::vector<std::shared_ptr<SupportedInterface>> getSupportedInterfaces() override;
     std::vector<std::shared_ptr<InterfaceProvider>> getInterfaceProviders() override;
     void setInterfaceProviders(
-        const std::vector<std::shared_ptr<InterfaceProvider>>& providers) override;
+        const std::vector<std::shared_ptr<InterfaceProviderDyn>>& providers) override;
     std::wstring getCurrentDebugTraceDirectory() override;
     std::shared_ptr<TarnApiServerConfig> getServerConfiguration() override;
     uint64_t getCallDuration() override;

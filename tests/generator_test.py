@@ -1,0 +1,212 @@
+#!/usr/bin/env python3
+"""The description grammar and what the generator writes from it, on small descriptions
+written here: the forms the interface's families rely on before any of them is built."""
+
+import pathlib
+import sys
+import tempfile
+import textwrap
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tools"))
+import generate  # noqa: E402
+import kelidl  # noqa: E402
+
+BASE_RECORDS = """\
+record MvciServerError
+    i32 code
+record NegativeResponse
+    i32 code
+record KelError struct=KelError_struct
+    i32 code
+    rec MvciServerError mvciError
+    rec NegativeResponse negativeResponse
+record NamedItem
+    wstr itemText1
+    wstr itemText2
+    wstr itemText3
+    wstr itemText4
+"""
+
+
+class Description:
+    """A description in a temporary folder laid out as the repository is."""
+
+    def __init__(self, records: str, operations: str = ""):
+        self.folder = tempfile.TemporaryDirectory()
+        self.root = pathlib.Path(self.folder.name)
+        (self.root / "interface").mkdir()
+        (self.root / "interface" / "records.def").write_text(BASE_RECORDS + textwrap.dedent(records))
+        (self.root / "interface" / "operations.def").write_text(
+            "family Things\n" + textwrap.dedent(operations))
+
+    def parse(self) -> kelidl.Interface:
+        return kelidl.parse(self.root)
+
+    def close(self):
+        self.folder.cleanup()
+
+
+def parsed(records: str, operations: str = "") -> kelidl.Interface:
+    description = Description(records, operations)
+    try:
+        return description.parse()
+    finally:
+        description.close()
+
+
+class Members(unittest.TestCase):
+    def test_bases_lead_in_order_and_named_is_the_named_item_base(self):
+        iface = parsed("""
+            record Entry base=NamedItem abstract
+                wstr name
+                flag ok
+            record File base=Entry
+                u64 size
+            record Leaf named
+                u32 value
+            """)
+        self.assertEqual([f.name for f in iface.members("File")],
+                         ["itemText1", "itemText2", "itemText3", "itemText4", "name", "ok", "size"])
+        self.assertEqual(iface.record("Leaf").base, "NamedItem")
+        self.assertTrue(iface.record("Leaf").named)
+        self.assertEqual([f.name for f in iface.members("Leaf")][:4], [f"itemText{i}" for i in range(1, 5)])
+        self.assertFalse(iface.record("File").named)
+        self.assertEqual([r.name for r in iface.ready_records() if r.name in ("Entry", "File")], ["File"],
+                         "a base only has no C record")
+
+    def test_directions_and_flags(self):
+        iface = parsed("""
+            record Tree
+                list Tree children childCount out
+                wstr request in
+                u32 in
+                flag marker
+            """)
+        fields = {f.name: f for f in iface.record("Tree").fields}
+        self.assertEqual(fields["children"].direction, "out")
+        self.assertEqual(fields["request"].direction, "in")
+        self.assertEqual(fields["in"].direction, "both", "a field may be called 'in'")
+        self.assertEqual(fields["marker"].kind, "flag")
+
+
+class Rejected(unittest.TestCase):
+    def assertRejected(self, records: str, operations: str = "", message: str = ""):
+        with self.assertRaises(kelidl.DescriptionError) as caught:
+            parsed(records, operations)
+        self.assertIn(message, str(caught.exception))
+
+    def test_base_chains(self):
+        self.assertRejected("""
+            record A base=B
+                u32 a
+            record B base=A
+                u32 b
+            """, message="cycle")
+        self.assertRejected("""
+            record A named
+                wstr itemText2
+            """, message="itemText2 given twice")
+        self.assertRejected("""
+            record A named base=NamedItem
+            """, message="one base")
+        self.assertRejected("""
+            record A base=Missing
+            """, message="base Missing")
+
+    def test_a_base_only_is_never_passed_or_nested(self):
+        self.assertRejected("""
+            record Entry abstract
+                u32 a
+            record Holder
+                rec Entry entry
+            """, message="base only")
+        self.assertRejected("""
+            record Entry abstract
+                u32 a
+            """, "op 2 get () -> rec Entry entry\n", message="base only")
+
+    def test_as_classes_pair_by_name_along_bases(self):
+        self.assertRejected("""
+            record Thing
+                u32 value
+            record View named as=Thing
+            """, message="no member itemText1")
+        self.assertRejected("""
+            record Thing
+                u32 value
+            record View as=Thing
+                u16 value
+            """, message="differs")
+
+    def test_field_and_operation_forms(self):
+        self.assertRejected("""
+            record Thing
+                wstr name sideways
+            """, message="takes one name")
+        self.assertRejected("""
+            record Thing
+                flag[4] flags
+            """, message="bad array")
+
+
+class Generated(unittest.TestCase):
+    RECORDS = """
+        record Thing
+            wstr name
+            u32 value
+        # Handed in as a Thing, without its value.
+        record ThingInput as=Thing
+            wstr name
+        """
+
+    def setUp(self):
+        self.description = Description(self.RECORDS, """\
+            op 2 take (list ThingInput things thingCount) -> flag taken
+            op 3 give (rec ThingInput thing, flag enabled)
+            op 4 special (wstr text) -> wstr result custom
+            op 5 plain (rec Thing thing)
+            """)
+        self.iface = self.description.parse()
+        self.ops = {op.name: op for op in self.iface.operations}
+
+    def tearDown(self):
+        self.description.close()
+
+    def test_as_inputs_name_their_engine_class(self):
+        exports = generate.binding_exports_cpp(self.iface)
+        self.assertIn("kel::in::records<::Thing, Varno::Kel_cpp::ThingInput>(things, thingCount)", exports)
+        self.assertIn("kel::in::record<::Thing, Varno::Kel_cpp::ThingInput>(thing)", exports)
+        self.assertIn("kel::in::record(thing)", exports, "a record's own class needs no name")
+        self.assertEqual(generate.c_signature(self.ops["take"]),
+                         "void kel_take(TarnApi* api, Thing** things, uint32_t thingCount, KelError** error, "
+                         "uint8_t* taken)")
+
+    def test_flags_are_bytes_in_c_and_bool_in_the_engine(self):
+        self.assertEqual(generate.engine_signature(self.ops["give"]),
+                         "void give(std::shared_ptr<ThingInput> thing, bool enabled)")
+        self.assertIn("uint8_t enabled", generate.c_signature(self.ops["give"]))
+        self.assertIn("enabled != 0", generate.export_body(self.ops["give"]))
+        self.assertEqual(generate.engine_signature(self.ops["take"]).split(" ", 1)[0], "bool")
+
+    def test_custom_exports_are_declared_but_not_written(self):
+        header = generate.c_header(self.iface)
+        self.assertIn("KEL_C_API void kel_special(TarnApi* api, KEL_KEPT const wchar_t* text, "
+                      "KelError** error, KEL_OUT wchar_t** result);", header)
+        self.assertIn("kel_special", generate.exports_txt(self.iface).split())
+        self.assertNotIn("kel_special", generate.binding_exports_cpp(self.iface))
+        self.assertEqual(generate.missing_custom_exports(self.iface, self.description.root),
+                         ["kel_c/custom/special.cpp"])
+        (self.description.root / "kel_c" / "custom").mkdir(parents=True)
+        (self.description.root / "kel_c" / "custom" / "special.cpp").write_text("")
+        self.assertEqual(generate.missing_custom_exports(self.iface, self.description.root), [])
+
+    def test_release_functions_for_every_c_record_only(self):
+        names = generate.exports_txt(self.iface).split()
+        self.assertIn("release_Thing", names)
+        self.assertIn("release_Thing_array", names)
+        self.assertNotIn("release_ThingInput", names, "an as= class is released as its C record")
+
+
+if __name__ == "__main__":
+    unittest.main()
