@@ -346,8 +346,9 @@ KEL_C_API void py_result(void* destination, int32_t size, void* buffer);
 
 /* Bounds-checked forms, additions of this library: they take the input's size and
  * answer input that is short or malformed (a count running past the end, a string
- * without NUL) with an error record of code KEL_ERROR_MALFORMED_INPUT instead of
- * reading past the buffer. */
+ * without NUL, records nested more than 256 levels deep) with an error record of code
+ * KEL_ERROR_MALFORMED_INPUT instead of reading past the buffer or exhausting the stack.
+ * The engine is not called then. */
 KEL_C_API void kel_call_checked(uint64_t handle, int32_t operation, const void* input, uint64_t inputSize,
                                 void** outStream, uint64_t* outSize);
 KEL_C_API int32_t py_call_checked(TarnApi* api, int32_t operation, uint64_t reserved, const void* input,
