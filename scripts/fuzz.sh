@@ -33,5 +33,7 @@ python3 fuzz/seeds.py "$corpus"
 
 echo "== fuzzing the checked dispatchers for ${seconds} s"
 # Inputs up to 256 KiB: deeply nested records need room (a level takes 6 to 100 bytes).
+# The stack is 1 MiB, as a Windows main thread has: what overflows there fails here too.
+ulimit -s 1024
 build/fuzz/bin/dispatch_fuzz -max_total_time="$seconds" -max_len=262144 -rss_limit_mb=2048 -timeout=10 \
     -print_final_stats=1 "$corpus" 2>&1 | tail -n 25
