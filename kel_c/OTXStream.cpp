@@ -71,6 +71,14 @@ void OTXStream::take(void* bytes, std::size_t count) {
     position += static_cast<uint32_t>(count);
 }
 
+OTXStream::Nesting::Nesting(OTXStream& stream) : stream_(stream) {
+    if (stream.bounded && stream.depth >= maxRecordDepth) {
+        throw MalformedInput("records nest deeper than " + std::to_string(maxRecordDepth) +
+                             " levels at offset " + std::to_string(stream.position));
+    }
+    ++stream.depth;
+}
+
 uint32_t OTXStream::readCount(std::size_t elementSize) {
     uint32_t count = 0;
     read(count);

@@ -38,6 +38,15 @@ public:
     using std::runtime_error::runtime_error;
 };
 
+// The deepest record nesting a bounds-checked stream accepts; a deeper record is
+// malformed input. Reading a tree, the engine's work on it and its release each recurse
+// once per level, and a few bytes of input make a level: without a bound a small input
+// exhausts the stack (a Windows main thread has 1 MiB). At this depth a whole call,
+// engine included, stays under a quarter of that stack even in a debug build (about
+// 1 KB a level), while parameter and directory trees of real use stay far below it.
+// kel_c.h states the figure to callers.
+inline constexpr uint32_t maxRecordDepth = 256;
+
 struct OTXStream {
     uint8_t* buffer = nullptr; // the caller's bytes (input) or a C-heap block (output)
     uint32_t capacity = 0;     // bytes allocated; 0 for a stream over a caller's buffer
@@ -49,6 +58,8 @@ struct OTXStream {
     // MalformedInput. The plain entry points get no size and read unchecked.
     bool bounded = false;
     uint32_t size = 0;
+    // Records being read around the current position (1 inside a top-level record).
+    uint32_t depth = 0;
 
     OTXStream(bool lengthPrefixedStrings, bool presenceBytes, bool flagsAsList);
     OTXStream(const OTXStream&) = delete;
@@ -105,6 +116,19 @@ struct OTXStream {
     void take(void* bytes, std::size_t count);
 
 private:
+    // Holds one level of record nesting while a record's fields are read; throws
+    // MalformedInput on a bounded stream past maxRecordDepth.
+    class Nesting {
+    public:
+        explicit Nesting(OTXStream& stream);
+        Nesting(const Nesting&) = delete;
+        Nesting& operator=(const Nesting&) = delete;
+        ~Nesting() { --stream_.depth; }
+
+    private:
+        OTXStream& stream_;
+    };
+
     uint32_t readCount(std::size_t elementSize);
     template <class E, class Member>
     void writeField(const E& record, const Member& field);
@@ -188,6 +212,7 @@ OTXStream& OTXStream::read(std::shared_ptr<E>& record) {
             return *this;
         }
     }
+    const Nesting level(*this);
     auto created = std::make_shared<E>();
     std::apply([&](const auto&... field) { (readField(*created, field), ...); },
                Varno::Kel_cpp::Fields::Of<E>::list);

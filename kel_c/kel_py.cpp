@@ -16,9 +16,12 @@ using Varno::Kel_cpp::TarnApiException;
 
 int32_t call(TarnApi* api, int32_t number, const void* input, const uint64_t* inputSize,
              uint32_t* outSize, void** outBuffer) {
+    // The local engine is held for the whole call: the engine may let go of it meanwhile
+    // (a restart on another thread), and the call must not outlive the object it uses.
+    std::shared_ptr<TarnApi> local;
     if (api == nullptr) {
-        // The local engine keeps itself alive; the reference is not held for the call.
-        api = Varno::Kel_cpp::getTarnApi().get();
+        local = Varno::Kel_cpp::getTarnApi();
+        api = local.get();
     }
     OTXStream in(input, false, true, false);
     if (inputSize != nullptr) {

@@ -55,7 +55,8 @@ std::size_t put(char32_t c, unsigned char* out) {
 }
 
 // Decodes one character at bytes[i]; a malformed sequence yields U+FFFD and consumes
-// its maximal valid prefix (at least one byte), as the Windows converter does.
+// its maximal subpart: the bytes that could still begin a well-formed sequence (lead
+// bytes restrict their second byte), at least one.
 char32_t next(const unsigned char* bytes, std::size_t length, std::size_t& i) {
     const unsigned char lead = bytes[i++];
     if (lead < 0x80) {

@@ -4,6 +4,14 @@
 // codec behaves the same way: malformed input becomes U+FFFD instead of failing, and
 // characters outside the Basic Multilingual Plane survive a round trip (surrogate pairs
 // in UTF-16 wchar_t, single code points in UTF-32 wchar_t).
+//
+// Invalid bytes: each maximal subpart (the longest prefix of a well-formed sequence, or
+// else one byte) becomes one U+FFFD, as the Unicode standard recommends and Windows
+// does. So an encoded surrogate ED A0 80 gives three, F4 90 80 80 (above U+10FFFF)
+// four, a truncated E2 82 one. Wine's converter differs where a second byte cannot
+// follow its lead (E0 80..9F, ED A0..BF, F0 80..8F, F4 90..BF): it takes both bytes as
+// one subpart and gives one U+FFFD fewer. Unpaired surrogates (and, in UTF-32, values
+// above U+10FFFF) encode as U+FFFD on every platform.
 #pragma once
 
 #include <cstddef>

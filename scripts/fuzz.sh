@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Builds the libFuzzer target for the bounds-checked dispatchers (preset 'fuzz', clang) and
-# runs it for a bounded time, seeded from the golden vectors.
+# runs it for a bounded time, seeded from the golden vectors and from well-formed arguments
+# of every numbered operation (fuzz/seeds.py), record trees nested deep among them.
 #
 #   scripts/fuzz.sh [seconds]    # default 60
 set -euo pipefail
@@ -28,7 +29,11 @@ for path in sys.argv[2:]:
             name = f"{pathlib.Path(path).stem}-{dispatcher}-{operation}"
             (corpus / name).write_bytes(bytes([dispatcher]) + struct.pack("<I", operation) + data)
 PY
+python3 fuzz/seeds.py "$corpus"
 
 echo "== fuzzing the checked dispatchers for ${seconds} s"
-build/fuzz/bin/dispatch_fuzz -max_total_time="$seconds" -rss_limit_mb=2048 -timeout=10 \
+# Inputs up to 256 KiB: deeply nested records need room (a level takes 6 to 100 bytes).
+# The stack is 1 MiB, as a Windows main thread has: what overflows there fails here too.
+ulimit -s 1024
+build/fuzz/bin/dispatch_fuzz -max_total_time="$seconds" -max_len=262144 -rss_limit_mb=2048 -timeout=10 \
     -print_final_stats=1 "$corpus" 2>&1 | tail -n 25

@@ -414,8 +414,9 @@ KEL_C_API void py_result(KEL_OUT void* destination, int32_t size, KEL_CONSUMED v
 
 /* Bounds-checked forms, additions of this library: they take the input's size and
  * answer input that is short or malformed (a count running past the end, a string
- * without NUL) with an error record of code KEL_ERROR_MALFORMED_INPUT instead of
- * reading past the buffer. Ownership as in kel_call and py_call. */
+ * without NUL, records nested more than 256 levels deep) with an error record of code
+ * KEL_ERROR_MALFORMED_INPUT instead of reading past the buffer or exhausting the stack.
+ * The engine is not called then. Ownership as in kel_call and py_call. */
 KEL_C_API void kel_call_checked(uint64_t handle, int32_t operation, KEL_KEPT const void* input,
                                 uint64_t inputSize, KEL_OUT void** outStream,
                                 KEL_OUT uint64_t* outSize);
