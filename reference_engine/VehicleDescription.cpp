@@ -9,6 +9,7 @@
 #include <fstream>
 #include <mutex>
 #include <sstream>
+#include <stdexcept>
 
 namespace Varno::Kel_cpp::Reference {
 namespace {
@@ -65,6 +66,21 @@ const nlohmann::json& VehicleDescription::section(const char* family) const {
     static const nlohmann::json empty = nlohmann::json::object();
     const auto found = root.find(family);
     return found != root.end() ? *found : empty;
+}
+
+uint64_t wholeNumber(const nlohmann::json& section, const char* key, uint64_t fallback,
+                     uint64_t least, uint64_t most) {
+    const auto found = section.find(key);
+    if (found == section.end()) {
+        return fallback;
+    }
+    // JSON's negative numbers are not unsigned, and would wrap if taken as such.
+    if (!found->is_number_unsigned() || found->get<uint64_t>() < least ||
+        found->get<uint64_t>() > most) {
+        throw std::invalid_argument(std::string(key) + " is a whole number from " +
+                                    std::to_string(least) + " to " + std::to_string(most));
+    }
+    return found->get<uint64_t>();
 }
 
 nlohmann::json parseVehicleJson(const std::string& text) {

@@ -7,6 +7,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cstdint>
 #include <string>
 
 namespace Varno::Kel_cpp::Reference {
@@ -29,6 +30,11 @@ struct VehicleDescription {
 // KEL_SIM_VEHICLE environment variable, else the bundled default vehicle, parsed as
 // JSON. Checking its parts is the vehicle's business.
 VehicleDescription readVehicleDescription();
+
+// The whole number `key` of a section, `fallback` when it is absent. Throws
+// std::invalid_argument naming the member when it is not a number from least to most.
+uint64_t wholeNumber(const nlohmann::json& section, const char* key, uint64_t fallback,
+                     uint64_t least, uint64_t most);
 
 // JSON text as a description; throws TarnApiException BadVehicleDescription.
 nlohmann::json parseVehicleJson(const std::string& text);

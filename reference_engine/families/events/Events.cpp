@@ -2,6 +2,7 @@
 
 #include "Describe.h"
 #include "SimulatedVehicle.h"
+#include "VehicleDescription.h"
 
 #include <algorithm>
 #include <utility>
@@ -11,12 +12,9 @@ namespace Varno::Kel_cpp::Reference {
 EventsSettings EventsSettings::parse(const nlohmann::json& section) {
     try {
         EventsSettings settings;
-        settings.limits.capacity = section.value("channelCapacity", settings.limits.capacity);
-        settings.limits.channels = section.value("maxChannels", settings.limits.channels);
-        if (settings.limits.capacity == 0 || settings.limits.channels == 0) {
-            throw std::invalid_argument("events.channelCapacity and events.maxChannels are at "
-                                        "least 1");
-        }
+        auto& limits = settings.limits;
+        limits.capacity = wholeNumber(section, "channelCapacity", limits.capacity, 1, 1000000);
+        limits.channels = wholeNumber(section, "maxChannels", limits.channels, 1, 10000);
         return settings;
     } catch (const std::exception& e) {
         throw TarnApiException(BadVehicleDescription, L"The vehicle description is not valid",

@@ -2,7 +2,9 @@
 
 #include "Describe.h"
 #include "SimulatedVehicle.h"
+#include "VehicleDescription.h"
 
+#include <cstdint>
 #include <string>
 
 namespace Varno::Kel_cpp::Reference {
@@ -22,10 +24,9 @@ void requireInitialized(int32_t state) {
 LifecycleSettings LifecycleSettings::parse(const nlohmann::json& section) {
     try {
         LifecycleSettings settings;
-        settings.firstLockId = section.value("firstLockId", settings.firstLockId);
-        if (settings.firstLockId == 0) {
-            throw std::invalid_argument("lifecycle.firstLockId: 0 means \"not locked\"");
-        }
+        // Not 0, which means "not locked"; room above it, so that the ids never wrap to 0.
+        settings.firstLockId =
+            wholeNumber(section, "firstLockId", settings.firstLockId, 1, UINT64_MAX / 2);
         return settings;
     } catch (const std::exception& e) {
         throw TarnApiException(BadVehicleDescription, L"The vehicle description is not valid",
