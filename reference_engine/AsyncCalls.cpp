@@ -1,8 +1,8 @@
 #include "AsyncCalls.h"
 
 #include "Describe.h"
-#include "Events.h"
-#include "Vehicle.h"
+#include "ErrorCodes.h"
+#include "families/events/EventChannels.h"
 
 #include <Kel_cpp/TarnApiException.h>
 
@@ -97,8 +97,8 @@ void resetAsyncScripts() {
     s.byOperation.clear();
 }
 
-AsyncCalls::AsyncCalls(VehicleState& vehicle) : state_(std::make_shared<State>()) {
-    state_->vehicle = &vehicle;
+AsyncCalls::AsyncCalls(EventChannels& events) : state_(std::make_shared<State>()) {
+    state_->events = &events;
     for (unsigned i = 0; i < workerCount; ++i) {
         workers_.emplace_back([state = state_] { work(state); });
     }
@@ -108,7 +108,7 @@ AsyncCalls::AsyncCalls(VehicleState& vehicle) : state_(std::make_shared<State>()
 // the engine's static hold on its local object goes) Windows has already stopped them,
 // and any wait could last forever; and a callback that lets go of the last engine
 // object runs this on a worker. Nothing needs the wait: a worker touches only the
-// shared state and its call, posts no events once `vehicle` is null, and ends a call
+// shared state and its call, posts no events once `events` is null, and ends a call
 // still in progress with the cancelled report itself. The workers leave once the state
 // is closed and empty.
 AsyncCalls::~AsyncCalls() {
@@ -116,7 +116,7 @@ AsyncCalls::~AsyncCalls() {
     {
         const std::lock_guard lock(state_->mutex);
         state_->closing = true;
-        state_->vehicle = nullptr;
+        state_->events = nullptr;
         for (auto it = state_->calls.begin(); it != state_->calls.end();) {
             it->second->cancelled = true;
             it->second->due = std::chrono::steady_clock::now();
@@ -249,17 +249,17 @@ void AsyncCalls::step(State& state, Call& call, std::unique_lock<std::mutex>& lo
         to = call.results * (k + 1) / call.reports;
         isFinal = k + 1 == call.reports;
     }
-    if (state.vehicle != nullptr) {
+    if (state.events != nullptr) {
         const auto detail = callDetail(call.operation, call.id);
         if (isFinal) {
-            post(*state.vehicle, EventKind::AsyncCompleted, failure ? failure->code : 0,
-                 failure ? L"An asynchronous call ended with an error"
-                         : L"An asynchronous call completed",
-                 detail, failure);
+            state.events->post(EventKind::AsyncCompleted, failure ? failure->code : 0,
+                               failure ? L"An asynchronous call ended with an error"
+                                       : L"An asynchronous call completed",
+                               detail, failure);
         } else {
-            post(*state.vehicle, EventKind::AsyncProgress,
-                 static_cast<int32_t>(100 * (call.next + 1) / call.reports),
-                 L"An asynchronous call made progress", detail);
+            state.events->post(EventKind::AsyncProgress,
+                               static_cast<int32_t>(100 * (call.next + 1) / call.reports),
+                               L"An asynchronous call made progress", detail);
         }
     }
     const uint64_t id = call.id;

@@ -23,7 +23,7 @@
 
 namespace Varno::Kel_cpp::Reference {
 
-struct VehicleState;
+class EventChannels;
 
 // What tests script for the asynchronous form of an operation (by its name, for
 // example "readDtcsAsync").
@@ -41,7 +41,8 @@ void resetAsyncScripts();
 
 class AsyncCalls {
 public:
-    explicit AsyncCalls(VehicleState& vehicle);
+    // Reports progress and completion as events on `events`.
+    explicit AsyncCalls(EventChannels& events);
     AsyncCalls(const AsyncCalls&) = delete;
     AsyncCalls& operator=(const AsyncCalls&) = delete;
     // Ends every running call with a final CallCancelled report and lets the workers go.
@@ -108,7 +109,7 @@ private:
         std::condition_variable wake;
         std::map<uint64_t, std::shared_ptr<Call>> calls;
         bool closing = false;
-        VehicleState* vehicle = nullptr; // null once closing: no more events
+        EventChannels* events = nullptr; // null once closing: no more events
     };
 
     uint64_t enqueue(const char* operation, std::shared_ptr<Call> call);

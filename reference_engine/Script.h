@@ -4,6 +4,7 @@
 #pragma once
 
 #include "Describe.h"
+#include "ErrorCodes.h"
 
 #include <Kel_cpp/TarnApiException.h>
 
@@ -20,18 +21,6 @@ namespace Varno::Kel_cpp::Reference {
 
 // The exception an operation of a family the simulated vehicle does not have yet throws.
 TarnApiException unsupported(const char* operation);
-
-// Error codes of the reference engine.
-enum ErrorCode : int32_t {
-    NotSupported = 1000,
-    NotInitialized = 1001,
-    AlreadyLocked = 1002,
-    NotLocked = 1003,
-    WrongLockId = 1004,
-    UnknownHandle = 1005,
-    UnknownEventChannel = 1006, // an event channel that was never opened or is closed
-    ConnectionLost = 1007,      // carried by ConnectionBroken events, not thrown
-};
 
 // Duration of the calls made through one engine object, in microseconds.
 class CallClock {

@@ -1,7 +1,5 @@
 // kel_sim.h: the vehicle description and the asynchronous calls.
-#include "AsyncCalls.h"
 #include "SimulatedVehicle.h"
-#include "Vehicle.h"
 
 #include <fstream>
 #include <kel_sim.h>
@@ -22,15 +20,15 @@ int32_t useSource(const char* path, const char* json) {
             }
             std::ostringstream content;
             content << in.rdbuf();
-            VehicleModel::parse(content.str());
+            SimulatedVehicle::check(content.str());
         } else if (!text.empty()) {
-            VehicleModel::parse(text);
+            SimulatedVehicle::check(text);
         }
     } catch (const Varno::Kel_cpp::TarnApiException&) {
         return -1;
     }
     setVehicleSource(path != nullptr ? path : "", json != nullptr ? json : "");
-    VehicleModel::reloadAll();
+    SimulatedVehicle::reloadAll();
     return 0;
 }
 
@@ -42,7 +40,7 @@ int32_t kelsim_setVehicleFile(const char* path) { return useSource(path, nullptr
 
 int32_t kelsim_setVehicleJson(const char* json) { return useSource(nullptr, json); }
 
-void kelsim_reloadVehicle(void) { VehicleModel::reloadAll(); }
+void kelsim_reloadVehicle(void) { SimulatedVehicle::reloadAll(); }
 
 void kelsim_setAsyncReports(const char* operation, uint32_t reports) {
     scriptAsyncReports(operation, reports);

@@ -5,9 +5,11 @@
 
 #include <OTXStream.h>
 #include <algorithm>
+#include <atomic>
 #include <convert.h>
 #include <memory>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -288,6 +290,99 @@ TEST_F(Dtcs, KelCallAndPyCallCarryWhatTheExportHandsOut) {
     std::vector<uint8_t> pyResult(pySize);
     py_result(pyResult.data(), static_cast<int32_t>(pySize), buffer);
     EXPECT_EQ(pyResult, expected);
+}
+
+using VehicleConcurrency = EngineTest;
+
+// The families share one vehicle, each under its own lock, with the control units and
+// the event channels beneath them. Lock traffic, channel traffic, DTC reads and clears,
+// session filters and reloads of the description run at once from the local engine
+// object and a remote connection; every answer must be one that some order of the
+// calls explains.
+TEST_F(VehicleConcurrency, FamiliesShareOneVehicleFromManyThreads) {
+    constexpr int rounds = 150;
+    ErrorSlot error;
+    uint64_t self = 0;
+    kel_getHandle(api, &error, &self);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(self, &error);
+    ASSERT_NE(remote, nullptr);
+
+    std::atomic<int> failures{0};
+    const auto check = [&](KelError* e) {
+        if (e != nullptr) {
+            ++failures;
+            release_KelError(e);
+        }
+    };
+    const wchar_t* ecm[] = {L"ECM"};
+    std::vector<std::thread> threads;
+    threads.emplace_back([&] { // Lifecycle, through the remote connection
+        for (int i = 0; i < rounds; ++i) {
+            KelError* e = nullptr;
+            uint64_t lockId = 0;
+            kel_lock(remote, &e, &lockId);
+            if (e == nullptr) {
+                kel_unlock(remote, lockId, &e);
+            }
+            check(e);
+        }
+    });
+    threads.emplace_back([&] { // Events
+        for (int i = 0; i < rounds; ++i) {
+            KelError* e = nullptr;
+            uint64_t channel = 0;
+            kel_openEventChannel(remote, &e, &channel);
+            if (e == nullptr) {
+                kel_closeEventChannel(api, channel, &e);
+            }
+            check(e);
+        }
+    });
+    threads.emplace_back([&] { // Diagnostics: the fault memory is whole or cleared
+        for (int i = 0; i < rounds; ++i) {
+            KelError* e = nullptr;
+            DtcLists read;
+            kel_readDtcs(api, const_cast<wchar_t**>(ecm), 1, nullptr, &e, &read.items, &read.count);
+            check(e);
+            if (read.count != 1 || (read.items[0]->dtcCount != 2 && read.items[0]->dtcCount != 0)) {
+                ++failures;
+            }
+        }
+    });
+    threads.emplace_back([&] { // clears and reloads of the description
+        for (int i = 0; i < rounds / 3; ++i) {
+            KelError* e = nullptr;
+            ClearLists cleared;
+            kel_clearAllDtcs(remote, const_cast<wchar_t**>(ecm), 1, &e, &cleared.items,
+                             &cleared.count);
+            check(e);
+            kelsim_reloadVehicle();
+        }
+    });
+    threads.emplace_back([&] { // session filters: set, or gone with a reload
+        auto* filter = static_cast<TargetFilter*>(allocate_Memory(sizeof(TargetFilter)));
+        filter->pattern = duplicate_WString(L"E*");
+        filter->flag = 0;
+        filter->value = 0;
+        for (int i = 0; i < rounds; ++i) {
+            KelError* e = nullptr;
+            kel_setSessionTargetFilters(api, &e, &filter, 1);
+            check(e);
+            e = nullptr;
+            List<Target, release_Target_array> targets;
+            kel_getFilteredTargets(remote, nullptr, 0, &e, &targets.items, &targets.count);
+            check(e);
+            if (targets.count != 2 && targets.count != 6) {
+                ++failures;
+            }
+        }
+        release_TargetFilter(filter);
+    });
+    for (auto& t : threads) {
+        t.join();
+    }
+    releaseTarnApi(remote);
+    EXPECT_EQ(failures.load(), 0);
 }
 
 } // namespace

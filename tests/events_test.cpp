@@ -322,6 +322,75 @@ TEST_F(Events, AFullChannelDropsTheOldestAndSaysHowMany) {
     EXPECT_EQ(rest.back().code, capacity + 4);
 }
 
+TEST_F(Events, TheDescriptionSetsTheChannelCapacity) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"channelCapacity": 3}})"), 0);
+    const uint64_t channel = open();
+    for (int32_t i = 0; i < 5; ++i) {
+        kelsim_postEvent(handle(api), 100, i, nullptr, nullptr, 0, nullptr);
+    }
+    const auto events = read(channel);
+    ASSERT_EQ(kinds(events), (std::vector<int32_t>{EventsLost, 100, 100, 100}));
+    EXPECT_EQ(events[0].code, 2);
+    EXPECT_EQ(events[0].detail, L"capacity 3");
+    EXPECT_EQ(events[1].code, 2) << "the oldest two were dropped";
+}
+
+// Channels opened and never closed must not take the engine's memory: the vehicle
+// refuses more than its limit, counted over every engine object on it.
+TEST_F(Events, OpeningChannelsWithoutEndIsRefusedWithAnError) {
+    ErrorSlot error;
+    std::vector<uint64_t> channels;
+    for (int i = 0; i < 100000 && !error; ++i) {
+        uint64_t channel = 0;
+        kel_openEventChannel(api, &error, &channel);
+        if (!error) {
+            channels.push_back(channel);
+        }
+    }
+    ASSERT_TRUE(error) << "opened " << channels.size() << " channels without an error";
+    EXPECT_EQ(channels.size(), 64U) << "the default limit";
+    EXPECT_EQ(error->code, 1008);
+    EXPECT_STREQ(error->message, L"Too many event channels are open");
+
+    ErrorSlot closed;
+    kel_closeEventChannel(api, channels.back(), &closed);
+    ASSERT_FALSE(closed);
+    const uint64_t reopened = open();
+    EXPECT_NE(reopened, channels.back()) << "ids are never reused";
+}
+
+TEST_F(Events, TheChannelLimitComesFromTheDescriptionAndCoversRemoteConnections) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"maxChannels": 2}})"), 0);
+    ErrorSlot error;
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    ASSERT_NE(remote, nullptr);
+    const uint64_t first = open();
+    open(remote);
+    uint64_t third = 0;
+    kel_openEventChannel(remote, &error, &third);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1008);
+    EXPECT_EQ(third, 0U) << "a refused open leaves the output alone";
+    ErrorSlot closed;
+    kel_closeEventChannel(api, first, &closed);
+    ASSERT_FALSE(closed);
+    EXPECT_NE(open(remote), 0U) << "closing one makes room";
+    releaseTarnApi(remote);
+}
+
+TEST_F(Events, AnEventsSectionThatIsNotValidRefusesTheDescription) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"maxChannels": 1}})"), 0);
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"maxChannels": 0}})"), -1);
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"maxChannels": "many"}})"), -1);
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"channelCapacity": -1}})"), -1);
+    open();
+    ErrorSlot error;
+    uint64_t second = 0;
+    kel_openEventChannel(api, &error, &second);
+    ASSERT_TRUE(error) << "a refused description changed the vehicle's limit";
+    EXPECT_EQ(error->code, 1008);
+}
+
 TEST_F(Events, RemoteClientsComingAndGoingAreEvents) {
     const uint64_t channel = open();
     ErrorSlot error;
@@ -422,6 +491,33 @@ TEST_F(ServerHandlers, ARemoteConnectionOutlivingTheLocalEngineStillReachesTheHa
     ASSERT_EQ(handler.heard().size(), 1U);
     EXPECT_EQ(handler.heard()[0][0], L'-');
     EXPECT_FALSE(destroyed);
+}
+
+// A NULL handler from a C caller, and the empty one number 254 hands the engine (a
+// stream cannot carry a handler), have nothing to hear: the next remote client must
+// not reach them, and a real handler beside them still hears it.
+TEST_F(ServerHandlers, AnEmptyHandlerIsHarmlessThroughTheExportAndTheDispatcher) {
+    ErrorSlot error;
+    kel_registerServerHandler(reinterpret_cast<uint64_t>(api), nullptr, &error);
+    ASSERT_FALSE(error);
+    void* stream = nullptr;
+    uint64_t size = 0;
+    kel_call_checked(0, 254, nullptr, 0, &stream, &size);
+    std::vector<uint8_t> status(size);
+    kel_call_result(stream, status.data());
+    ASSERT_EQ(status, std::vector<uint8_t>{1});
+    EXPECT_EQ(kelsim_callCount("registerServerHandler"), 2U) << "both reached the engine";
+
+    bool destroyed = false;
+    RecordingHandler handler(destroyed);
+    registerHandler(api, &handler);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    ASSERT_NE(remote, nullptr);
+    releaseTarnApi(remote);
+    const auto heard = handler.heard();
+    ASSERT_EQ(heard.size(), 2U);
+    EXPECT_EQ(heard[0][0], L'+');
+    EXPECT_EQ(heard[1][0], L'-');
 }
 
 using EventsConcurrency = Events;

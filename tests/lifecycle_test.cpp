@@ -63,6 +63,30 @@ TEST_F(Lifecycle, LockIssuesTheIdThatUnlockChecks) {
     EXPECT_FALSE(locked);
 }
 
+TEST_F(Lifecycle, TheDescriptionSetsTheFirstLockIdAndAReloadStartsThereAgain) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "lifecycle": {"firstLockId": 77}})"), 0);
+    ErrorSlot error;
+    uint64_t first = 0;
+    uint64_t second = 0;
+    kel_lock(api, &error, &first);
+    kel_unlock(api, first, &error);
+    kel_lock(api, &error, &second);
+    kel_unlock(api, second, &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(first, 77U);
+    EXPECT_EQ(second, 78U);
+
+    kelsim_reloadVehicle();
+    uint64_t again = 0;
+    kel_lock(api, &error, &again);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(again, 77U);
+
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "lifecycle": {"firstLockId": 0}})"), -1)
+        << "0 means not locked";
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "lifecycle": {"firstLockId": -5}})"), -1);
+}
+
 TEST_F(Lifecycle, BreakLockFreesTheLock) {
     ErrorSlot error;
     uint64_t lockId = 0;

@@ -3,6 +3,7 @@
 #include "support.h"
 
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -174,6 +175,95 @@ TEST_F(TargetsFamily, FilteredTargetsApplyTheGivenFiltersWithoutConsumingThem) {
     ASSERT_FALSE(error);
     EXPECT_EQ(empty.count, 0U);
     EXPECT_EQ(empty.items, nullptr) << "an empty result is NULL with count 0";
+}
+
+// Which targets of the vehicle one include filter admits.
+std::vector<std::wstring> admittedBy(TarnApi* api, const std::wstring& pattern) {
+    FilterInput filter;
+    filter.add(pattern.c_str(), false);
+    ErrorSlot error;
+    Targets out;
+    kel_getFilteredTargets(api, filter.items.data(), 1, &error, &out.items, &out.count);
+    EXPECT_FALSE(error);
+    return namesOf(out);
+}
+
+std::wstring repeat(const std::wstring& part, int times) {
+    std::wstring out;
+    for (int i = 0; i < times; ++i) {
+        out += part;
+    }
+    return out;
+}
+
+TEST_F(TargetsFamily, PatternsMatchWholeNamesAndBacktrackWhereTheyMust) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [
+        {"name": "mississippi"},
+        {"name": "abc", "aliases": ["x*y"]},
+        {"name": "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa"},
+        {"name": "ab"}]})"),
+              0);
+    const std::wstring forty(40, L'a');
+    const std::vector<std::pair<std::wstring, std::vector<std::wstring>>> cases = {
+        {L"*", {L"mississippi", L"abc", forty, L"ab"}},
+        {L"", {}},
+        {L"*?", {L"mississippi", L"abc", forty, L"ab"}},
+        {L"??", {L"ab"}},
+        {L"a*", {L"abc", forty, L"ab"}},
+        {L"*c", {L"abc"}},
+        {L"a**c", {L"abc"}},
+        {L"*a*", {L"abc", forty, L"ab"}},
+        {L"?b*", {L"abc", L"ab"}},
+        {L"mississipp", {}},
+        {L"mississippi*", {L"mississippi"}},
+        {L"*mississippi", {L"mississippi"}},
+        {L"m*ss*pi", {L"mississippi"}},
+        {L"*ss*ssi?pi", {L"mississippi"}},
+        {L"*issipp?", {L"mississippi"}},
+        {L"*issip", {}},
+        {L"x?y", {L"abc"}}, // `?` takes the alias's literal `*`
+        {L"a*a*a*b", {}},
+        {repeat(L"a*", 20), {forty}},
+        {repeat(L"a*", 41), {}},
+        {std::wstring(40, L'*') + L"b", {L"ab"}},
+    };
+    for (const auto& [pattern, expected] : cases) {
+        EXPECT_EQ(admittedBy(api, pattern), expected)
+            << "pattern \"" << std::string(pattern.begin(), pattern.end()) << "\"";
+    }
+}
+
+// Patterns of many stars that match nothing took time exponential in the stars.
+TEST_F(TargetsFamily, ManyStarsThatMatchNothingStillAnswer) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [
+        {"name": "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa", "aliases": ["aaaaaaaaaaaaaaaaaaaa"]}]})"),
+              0);
+    EXPECT_TRUE(admittedBy(api, std::wstring(40, L'*') + L"x").empty());
+    EXPECT_TRUE(admittedBy(api, repeat(L"*a", 40) + L"b").empty());
+    EXPECT_TRUE(admittedBy(api, repeat(L"*?", 41)).empty());
+}
+
+TEST_F(TargetsFamily, TheDescriptionGivesTheSessionItsFirstFilters) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "ECM"}, {"name": "TCM"}, {"name": "ABS"}],
+        "diagnostics": {"sessionFilters": [{"pattern": "?CM"}, {"pattern": "T*", "flag": 1, "value": 7}]}})"),
+              0);
+    ErrorSlot error;
+    Filters stored;
+    kel_getSessionTargetFilters(api, &error, &stored.items, &stored.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(stored.count, 2U);
+    EXPECT_STREQ(stored.items[0]->pattern, L"?CM");
+    EXPECT_EQ(stored.items[0]->flag, 0);
+    EXPECT_EQ(stored.items[1]->flag, 1);
+    EXPECT_EQ(stored.items[1]->value, 7);
+    Targets filtered;
+    kel_getFilteredTargets(api, nullptr, 0, &error, &filtered.items, &filtered.count);
+    EXPECT_EQ(namesOf(filtered), std::vector<std::wstring>{L"ECM"});
+
+    EXPECT_EQ(
+        kelsim_setVehicleJson(R"({"ecus": [], "diagnostics": {"sessionFilters": [{"flag": 1}]}})"),
+        -1)
+        << "a filter needs its pattern";
 }
 
 TEST_F(TargetsFamily, SessionFiltersAreStoredAndApplied) {

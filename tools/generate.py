@@ -707,6 +707,77 @@ def engine_front_cpp(iface: kelidl.Interface) -> str:
     return "\n".join(out) + "\n"
 
 
+def family_class(family: str) -> str:
+    return f"{family}Family"
+
+
+def family_member(family: str) -> str:
+    return family[0].lower() + family[1:]
+
+
+def forwarded_argument(v: kelidl.Value) -> str:
+    """Arguments taken by value are moved on; the rest are passed as they came."""
+    return f"std::move({v.name})" if v.kind in ("rec", "handler") else v.name
+
+
+def engine_families_h(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}",
+           "// The reference engine by family: one interface per family of the interface",
+           "// description, whose operations answer \"not simulated yet\" until a simulated",
+           "// family overrides them, and FamilyRouter, the TarnApi that hands each operation to",
+           "// the family that owns it.",
+           "#pragma once", "", "#include <Kel_cpp/TarnApi.h>", "", '#include "Script.h"', "",
+           "#include <memory>", "", f"namespace {ENGINE_NS}::Reference {{", ""]
+    for family in iface.families():
+        out += [f"class {family_class(family)} {{", "public:",
+                f"    {family_class(family)}() = default;",
+                f"    {family_class(family)}(const {family_class(family)}&) = delete;",
+                f"    {family_class(family)}& operator=(const {family_class(family)}&) = delete;",
+                f"    virtual ~{family_class(family)}() = default;", ""]
+        ops = [op for op in iface.operations if op.family == family]
+        callbacks = [op.callback_class for op in ops if op.is_async]
+        out += [f"    using {c} = TarnApi::{c};" for c in callbacks] + ([""] if callbacks else [])
+        out += [f"    virtual {engine_signature(op)};" for op in ops]
+        out += ["};", ""]
+    out += ["// One engine object's families; a family left as it is answers every operation",
+            "// with \"not simulated yet\".",
+            "struct Families {"]
+    for family in iface.families():
+        out.append(f"    std::shared_ptr<{family_class(family)}> {family_member(family)} ="
+                   f" std::make_shared<{family_class(family)}>();")
+    out += ["};", "", "class FamilyRouter final : public TarnApi {", "public:",
+            "    explicit FamilyRouter(Families families) : families_(std::move(families)) {}", ""]
+    for op in iface.operations:
+        out.append(f"    {engine_signature(op)} override;")
+    out += ["", "private:", "    Families families_;", "};", "",
+            f"}} // namespace {ENGINE_NS}::Reference"]
+    return "\n".join(out) + "\n"
+
+
+def engine_families_cpp(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}", "", '#include "Families.h"', "", "#include <utility>", "",
+           f"namespace {ENGINE_NS}::Reference {{", ""]
+    for family in iface.families():
+        for op in iface.operations:
+            if op.family != family:
+                continue
+            ret, rest = engine_signature(op, names=False).split(f" {op.name}(", 1)
+            out += [f"{ret} {family_class(family)}::{op.name}({rest} {{",
+                    f'    throw unsupported("{op.name}");', "}"]
+        out.append("")
+    for op in iface.operations:
+        ret, rest = engine_signature(op).split(f" {op.name}(", 1)
+        out.append(f"{ret} FamilyRouter::{op.name}({rest} {{")
+        if op.reserved:
+            out.append(f'    throw unsupported("{op.name}");')
+        else:
+            args = [forwarded_argument(p) for p in op.inputs] + (["callback"] if op.is_async else [])
+            out.append(f"    return families_.{family_member(op.family)}->{op.name}({', '.join(args)});")
+        out.append("}")
+    out += ["", f"}} // namespace {ENGINE_NS}::Reference"]
+    return "\n".join(out) + "\n"
+
+
 def engine_fields_h(iface: kelidl.Interface) -> str:
     out = [f"// {BANNER}",
            "// Every engine record's fields by name, in record order: the one order in which",
@@ -865,6 +936,8 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
         "kel_c/generated/dispatch_table.h": dispatch_table_h(iface),
         "reference_engine/generated/EngineFront.h": engine_front_h(iface),
         "reference_engine/generated/EngineFront.cpp": engine_front_cpp(iface),
+        "reference_engine/generated/Families.h": engine_families_h(iface),
+        "reference_engine/generated/Families.cpp": engine_families_cpp(iface),
         "tests/generated/positions.inc": positions_inc(iface),
         "tests/generated/test_records.h": test_records_h(iface),
         "interface/generated/EngineFields.h": engine_fields_h(iface),

@@ -2,9 +2,9 @@
 // on every event channel that is open on it at that moment. Each channel is read by
 // getCurrentEvents, oldest first, and forgets what it hands out.
 //
-// Posting is thread-safe and takes only the channel lock, so it may be called with the
-// vehicle's mutex held (the lock order is vehicle mutex, then channel lock; never the
-// reverse). Event records are shared between channels and never changed after posting.
+// Posting is thread-safe and takes only the channels' lock, the last in the lock order,
+// so it may be called with any other lock of the engine held. Event records are shared
+// between channels and never changed after posting.
 #pragma once
 
 #include <Kel_cpp/Records.h>
@@ -16,10 +16,9 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <utility>
 
 namespace Varno::Kel_cpp::Reference {
-
-struct VehicleState;
 
 // KelEvent::kind. The numbers are part of what callers see; only ever add to the end.
 // KelEvent::code is kind-specific, 0 unless stated.
@@ -46,21 +45,35 @@ std::wstring eventName(int32_t kind);
 // The event channels of one vehicle.
 class EventChannels {
 public:
-    // Events a channel holds before the oldest are dropped (and an EventsLost event
-    // reports how many at the next read).
-    static constexpr std::size_t capacity = 10000;
+    struct Limits {
+        // Events a channel holds before the oldest are dropped (and an EventsLost event
+        // reports how many at the next read).
+        std::size_t capacity = 10000;
+        // Channels open at once; one more is refused, so that channels opened and never
+        // closed cannot take the engine's memory.
+        std::size_t channels = 64;
+    };
+    // Applies to channels opened from now on and to the next posts.
+    void setLimits(const Limits& limits);
 
     // A new channel id, unique in the process and never 0, so that an id of a closed
-    // channel or of another vehicle is never mistaken for an open one.
+    // channel or of another vehicle is never mistaken for an open one. Throws
+    // TarnApiException TooManyEventChannels when the limit is reached.
     uint64_t open();
     // Throws TarnApiException UnknownEventChannel for an unknown or closed channel.
     void close(uint64_t channel);
     // At most `limit` pending events, oldest first, removed from the channel; a limit
     // of 0 takes every pending event. Never null; empty when nothing is pending.
     std::shared_ptr<EventReport> take(uint64_t channel, uint32_t limit);
-    // Queues `event` on every open channel.
-    void post(const std::shared_ptr<KelEvent>& event);
-    std::size_t openCount() const;
+    // Queues an event on every open channel. The text is what a person reads, the
+    // detail what a log would add (a lock id, a client, a call id).
+    void post(int32_t kind, int32_t code, std::wstring text, std::wstring detail,
+              std::shared_ptr<KelError> error = {});
+    void post(EventKind kind, int32_t code, std::wstring text, std::wstring detail,
+              std::shared_ptr<KelError> error = {}) {
+        post(static_cast<int32_t>(kind), code, std::move(text), std::move(detail),
+             std::move(error));
+    }
 
 private:
     struct Channel {
@@ -69,15 +82,7 @@ private:
     };
     mutable std::mutex mutex_;
     std::map<uint64_t, Channel> channels_;
+    Limits limits_;
 };
-
-// Posts an event on `vehicle`'s open channels. The text is what a person reads, the
-// detail what a log would add (a lock id, a client, a call id).
-void post(VehicleState& vehicle, EventKind kind, int32_t code, std::wstring text,
-          std::wstring detail, std::shared_ptr<KelError> error = {});
-
-// The same with a raw kind number, for scripted events.
-void post(VehicleState& vehicle, int32_t kind, int32_t code, std::wstring text, std::wstring detail,
-          std::shared_ptr<KelError> error = {});
 
 } // namespace Varno::Kel_cpp::Reference

@@ -1,7 +1,6 @@
-#include "Events.h"
+#include "EventChannels.h"
 
-#include "Script.h"
-#include "SimulatedVehicle.h"
+#include "ErrorCodes.h"
 
 #include <Kel_cpp/TarnApiException.h>
 
@@ -71,9 +70,20 @@ std::wstring eventName(int32_t kind) {
     return L"Event" + std::to_wstring(kind);
 }
 
-uint64_t EventChannels::open() {
-    const uint64_t id = newChannelId();
+void EventChannels::setLimits(const Limits& limits) {
     const std::lock_guard lock(mutex_);
+    limits_ = limits;
+}
+
+uint64_t EventChannels::open() {
+    const std::lock_guard lock(mutex_);
+    if (channels_.size() >= limits_.channels) {
+        throw TarnApiException(TooManyEventChannels, L"Too many event channels are open",
+                               std::to_wstring(channels_.size()) +
+                                   L" channels are open on this vehicle, the most it allows; "
+                                   L"close one first");
+    }
+    const uint64_t id = newChannelId();
     channels_.emplace(id, Channel{});
     return id;
 }
@@ -98,7 +108,7 @@ std::shared_ptr<EventReport> EventChannels::take(uint64_t channel, uint32_t limi
     if (queue.dropped > 0 && wanted > 0) {
         report->events.push_back(makeEvent(static_cast<int32_t>(EventKind::EventsLost),
                                            queue.dropped, L"Events were lost: the channel was full",
-                                           L"capacity " + std::to_wstring(capacity), {}));
+                                           L"capacity " + std::to_wstring(limits_.capacity), {}));
         queue.dropped = 0;
     }
     const std::size_t n = std::min(queue.pending.size(), wanted - report->events.size());
@@ -109,32 +119,17 @@ std::shared_ptr<EventReport> EventChannels::take(uint64_t channel, uint32_t limi
     return report;
 }
 
-void EventChannels::post(const std::shared_ptr<KelEvent>& event) {
+void EventChannels::post(int32_t kind, int32_t code, std::wstring text, std::wstring detail,
+                         std::shared_ptr<KelError> error) {
+    const auto event = makeEvent(kind, code, std::move(text), std::move(detail), std::move(error));
     const std::lock_guard lock(mutex_);
     for (auto& [id, queue] : channels_) {
-        if (queue.pending.size() >= capacity) {
+        while (!queue.pending.empty() && queue.pending.size() >= limits_.capacity) {
             queue.pending.pop_front();
             ++queue.dropped;
         }
         queue.pending.push_back(event);
     }
-}
-
-std::size_t EventChannels::openCount() const {
-    const std::lock_guard lock(mutex_);
-    return channels_.size();
-}
-
-void post(VehicleState& vehicle, EventKind kind, int32_t code, std::wstring text,
-          std::wstring detail, std::shared_ptr<KelError> error) {
-    post(vehicle, static_cast<int32_t>(kind), code, std::move(text), std::move(detail),
-         std::move(error));
-}
-
-void post(VehicleState& vehicle, int32_t kind, int32_t code, std::wstring text, std::wstring detail,
-          std::shared_ptr<KelError> error) {
-    vehicle.events.post(
-        makeEvent(kind, code, std::move(text), std::move(detail), std::move(error)));
 }
 
 } // namespace Varno::Kel_cpp::Reference

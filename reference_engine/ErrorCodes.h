@@ -1,0 +1,39 @@
+// Every error code the reference engine throws or reports, one range per family. The
+// numbers are part of what callers and tests see: never renumber, only add within the
+// owning family's range (README.md, "Error codes").
+#pragma once
+
+#include <cstdint>
+
+namespace Varno::Kel_cpp::Reference {
+
+enum ErrorCode : int32_t {
+    // Every family: an operation the simulated vehicle does not have yet.
+    NotSupported = 1000,
+
+    // Lifecycle: 1001-1005, continued at 2300-2399.
+    NotInitialized = 1001,
+    AlreadyLocked = 1002,
+    NotLocked = 1003,
+    WrongLockId = 1004,
+    UnknownHandle = 1005,
+
+    // Events: 1006-1009, continued at 2400-2499.
+    UnknownEventChannel = 1006, // an event channel that was never opened or is closed
+    ConnectionLost = 1007,      // carried by ConnectionBroken events, not thrown
+    TooManyEventChannels = 1008,
+
+    // Diagnostics: 1010-1099. Mostly per-target errors inside results.
+    EcuNotResponding = 1010,
+    UnknownTarget = 1011,
+    CallCancelled = 1012, // also ends asynchronous calls of any family
+    BadVehicleDescription = 1013,
+    UnknownIdentifier = 1014,
+
+    // Reserved for the families not simulated yet: Services 1100-1199, Projects
+    // 1200-1299, Servers 1300-1399, Interfaces 1400-1499, Monitoring 1500-1599, Files
+    // 1600-1699, Flash 1700-1799, Coding 1800-1899, Measurement 1900-1999, Sequences
+    // 2000-2099, EcuOrder 2100-2199, VehicleUpdate 2200-2299.
+};
+
+} // namespace Varno::Kel_cpp::Reference

@@ -1,0 +1,233 @@
+// The synchronous operations answer from the control units at once; the asynchronous
+// ones compute the same answer on the vehicle's asynchronous calls. The work of an
+// asynchronous call keeps the control units, not the vehicle, so that it may outlive
+// the vehicle's last engine object.
+#include "Diagnostics.h"
+
+#include "Answers.h"
+#include "Describe.h"
+#include "SimulatedVehicle.h"
+
+#include <utility>
+
+namespace Varno::Kel_cpp::Reference {
+namespace {
+
+using Units = std::vector<Ecu>;
+
+std::shared_ptr<TargetFilter> copyFilter(const std::shared_ptr<TargetFilter>& f) {
+    return f ? std::make_shared<TargetFilter>(*f) : nullptr;
+}
+
+void postCleared(SimulatedVehicle& vehicle, int32_t cleared) {
+    if (cleared > 0) {
+        post(vehicle, EventKind::DtcsCleared, cleared, L"Diagnostic trouble codes were cleared",
+             std::to_wstring(cleared) + L" target(s)");
+    }
+}
+
+} // namespace
+
+DiagnosticsSettings DiagnosticsSettings::parse(const nlohmann::json& section) {
+    try {
+        DiagnosticsSettings settings;
+        for (const auto& f : section.value("sessionFilters", nlohmann::json::array())) {
+            auto filter = std::make_shared<TargetFilter>();
+            filter->pattern = fromUtf8(f.at("pattern").get<std::string>());
+            filter->flag = f.value("flag", uint8_t{0});
+            filter->value = f.value("value", 0);
+            settings.sessionFilters.push_back(std::move(filter));
+        }
+        return settings;
+    } catch (const std::exception& e) {
+        throw TarnApiException(BadVehicleDescription, L"The vehicle description is not valid",
+                               fromUtf8(e.what()));
+    }
+}
+
+std::vector<std::shared_ptr<TargetFilter>> DiagnosticsState::sessionFilters() const {
+    const std::lock_guard lock(mutex_);
+    std::vector<std::shared_ptr<TargetFilter>> out;
+    for (const auto& f : sessionFilters_) {
+        out.push_back(copyFilter(f));
+    }
+    return out;
+}
+
+void DiagnosticsState::setSessionFilters(
+    const std::vector<std::shared_ptr<TargetFilter>>& filters) {
+    std::vector<std::shared_ptr<TargetFilter>> copies;
+    for (const auto& f : filters) {
+        copies.push_back(copyFilter(f));
+    }
+    const std::lock_guard lock(mutex_);
+    sessionFilters_ = std::move(copies);
+}
+
+Diagnostics::Diagnostics(std::shared_ptr<SimulatedVehicle> vehicle)
+    : vehicle_(std::move(vehicle)) {}
+
+const std::shared_ptr<ControlUnits>& Diagnostics::ready() const {
+    vehicle_->lifecycle.requireInitialized();
+    return vehicle_->units;
+}
+
+std::vector<std::shared_ptr<VariantIdentResult>> Diagnostics::identifyAllTargets() {
+    return ready()->update([](Units& ecus) { return Answers::identify(ecus, {}); });
+}
+
+uint64_t Diagnostics::identifyAllTargetsAsync(IdentifyAllTargetsCallback* callback) {
+    return vehicle_->async.start("identifyAllTargetsAsync", callback, [units = ready()] {
+        return units->update([](Units& ecus) { return Answers::identify(ecus, {}); });
+    });
+}
+
+std::vector<std::shared_ptr<ReadDataResult>>
+Diagnostics::readIdentificationValues(const std::vector<std::wstring>& targets) {
+    return ready()->read([&](const Units& ecus) { return Answers::identification(ecus, targets); });
+}
+
+uint64_t Diagnostics::readIdentificationValuesAsync(const std::vector<std::wstring>& targets,
+                                                    ReadIdentificationValuesCallback* callback) {
+    return vehicle_->async.start("readIdentificationValuesAsync", callback,
+                                 [units = ready(), targets] {
+                                     return units->read([&](const Units& ecus) {
+                                         return Answers::identification(ecus, targets);
+                                     });
+                                 });
+}
+
+std::vector<std::shared_ptr<ReadDataResult>>
+Diagnostics::readDataByIdentifiers(const std::wstring& target,
+                                   const std::vector<std::wstring>& identifiers) {
+    return ready()->read(
+        [&](const Units& ecus) { return Answers::readData(ecus, target, identifiers); });
+}
+
+// The vehicle has nothing to say about a name it does not know.
+std::shared_ptr<VariantIdentResult> Diagnostics::identifyTarget(const std::wstring& target) {
+    auto results = ready()->update([&](Units& ecus) { return Answers::identify(ecus, {target}); });
+    return results.front()->status == 2 ? nullptr : results.front();
+}
+
+std::vector<std::shared_ptr<ReadDtcResult>>
+Diagnostics::readDtcs(const std::vector<std::wstring>& targets,
+                      std::shared_ptr<DtcReadConfig> config) {
+    return ready()->read(
+        [&](const Units& ecus) { return Answers::readDtcs(ecus, targets, config.get()); });
+}
+
+uint64_t Diagnostics::readDtcsAsync(const std::vector<std::wstring>& targets,
+                                    std::shared_ptr<DtcReadConfig> config,
+                                    ReadDtcsCallback* callback) {
+    return vehicle_->async.start("readDtcsAsync", callback,
+                                 [units = ready(), targets, config = std::move(config)] {
+                                     return units->read([&](const Units& ecus) {
+                                         return Answers::readDtcs(ecus, targets, config.get());
+                                     });
+                                 });
+}
+
+std::vector<std::shared_ptr<SupportedDtcResult>>
+Diagnostics::readSupportedDtcs(const std::vector<std::wstring>& targets,
+                               std::shared_ptr<DtcReadConfig> config) {
+    return ready()->read(
+        [&](const Units& ecus) { return Answers::readSupportedDtcs(ecus, targets, config.get()); });
+}
+
+uint64_t Diagnostics::readSupportedDtcsAsync(const std::vector<std::wstring>& targets,
+                                             std::shared_ptr<DtcReadConfig> config,
+                                             ReadSupportedDtcsCallback* callback) {
+    return vehicle_->async.start(
+        "readSupportedDtcsAsync", callback, [units = ready(), targets, config = std::move(config)] {
+            return units->read([&](const Units& ecus) {
+                return Answers::readSupportedDtcs(ecus, targets, config.get());
+            });
+        });
+}
+
+std::vector<std::shared_ptr<ClearDtcResult>>
+Diagnostics::clearAllDtcs(const std::vector<std::wstring>& targets) {
+    int32_t cleared = 0;
+    auto results =
+        ready()->update([&](Units& ecus) { return Answers::clearAll(ecus, targets, cleared); });
+    postCleared(*vehicle_, cleared);
+    return results;
+}
+
+// The asynchronous clears post no DtcsCleared event: their completion event says it,
+// and a worker must not reach the vehicle after the engine may have ended.
+uint64_t Diagnostics::clearAllDtcsAsync(const std::vector<std::wstring>& targets,
+                                        ClearAllDtcsCallback* callback) {
+    return vehicle_->async.start("clearAllDtcsAsync", callback, [units = ready(), targets] {
+        int32_t cleared = 0;
+        return units->update(
+            [&](Units& ecus) { return Answers::clearAll(ecus, targets, cleared); });
+    });
+}
+
+std::vector<std::shared_ptr<VariantIdentResult>>
+Diagnostics::identifyTargets(const std::vector<std::wstring>& targets) {
+    return ready()->update([&](Units& ecus) { return Answers::identify(ecus, targets); });
+}
+
+uint64_t Diagnostics::identifyTargetsAsync(const std::vector<std::wstring>& targets,
+                                           IdentifyTargetsCallback* callback) {
+    return vehicle_->async.start("identifyTargetsAsync", callback, [units = ready(), targets] {
+        return units->update([&](Units& ecus) { return Answers::identify(ecus, targets); });
+    });
+}
+
+// No filters given: the session's apply. They are copied out first, so that the
+// diagnostics lock and the control units' lock are never held together.
+std::vector<std::shared_ptr<Target>>
+Diagnostics::getFilteredTargets(const std::vector<std::shared_ptr<TargetFilter>>& filters) {
+    const auto& units = ready();
+    const auto session = filters.empty() ? vehicle_->diagnostics.sessionFilters()
+                                         : std::vector<std::shared_ptr<TargetFilter>>{};
+    const auto& applied = filters.empty() ? session : filters;
+    return units->read([&](const Units& ecus) { return Answers::targets(ecus, applied); });
+}
+
+std::vector<std::shared_ptr<TargetStatus>>
+Diagnostics::getTargetStatus(const std::vector<std::wstring>& targets) {
+    return ready()->read([&](const Units& ecus) { return Answers::status(ecus, targets); });
+}
+
+std::vector<std::shared_ptr<ClearDtcResult>>
+Diagnostics::clearSpecificDtcs(const std::wstring& target, const std::vector<uint32_t>& dtcCodes) {
+    int32_t cleared = 0;
+    auto results = ready()->update(
+        [&](Units& ecus) { return Answers::clearSpecific(ecus, target, dtcCodes, cleared); });
+    postCleared(*vehicle_, cleared);
+    return results;
+}
+
+uint64_t Diagnostics::clearSpecificDtcsAsync(const std::wstring& target,
+                                             const std::vector<uint32_t>& dtcCodes,
+                                             ClearSpecificDtcsCallback* callback) {
+    return vehicle_->async.start(
+        "clearSpecificDtcsAsync", callback, [units = ready(), target, dtcCodes] {
+            int32_t cleared = 0;
+            return units->update([&](Units& ecus) {
+                return Answers::clearSpecific(ecus, target, dtcCodes, cleared);
+            });
+        });
+}
+
+std::vector<std::shared_ptr<Target>> Diagnostics::getTargets() {
+    return ready()->read([](const Units& ecus) { return Answers::targets(ecus, {}); });
+}
+
+std::vector<std::shared_ptr<TargetFilter>> Diagnostics::getSessionTargetFilters() {
+    vehicle_->lifecycle.requireInitialized();
+    return vehicle_->diagnostics.sessionFilters();
+}
+
+void Diagnostics::setSessionTargetFilters(
+    const std::vector<std::shared_ptr<TargetFilter>>& filters) {
+    vehicle_->lifecycle.requireInitialized();
+    vehicle_->diagnostics.setSessionFilters(filters);
+}
+
+} // namespace Varno::Kel_cpp::Reference

@@ -1,0 +1,1011 @@
+// Generated from the interface description by tools/generate.py. Do not edit.
+// The reference engine by family: one interface per family of the interface
+// description, whose operations answer "not simulated yet" until a simulated
+// family overrides them, and FamilyRouter, the TarnApi that hands each operation to
+// the family that owns it.
+#pragma once
+
+#include "Script.h"
+
+#include <Kel_cpp/TarnApi.h>
+
+#include <memory>
+
+namespace Varno::Kel_cpp::Reference {
+
+class LifecycleFamily {
+public:
+    LifecycleFamily() = default;
+    LifecycleFamily(const LifecycleFamily&) = delete;
+    LifecycleFamily& operator=(const LifecycleFamily&) = delete;
+    virtual ~LifecycleFamily() = default;
+
+    virtual void initialize();
+    virtual void end();
+    virtual void cancelAllAsyncCalls();
+    virtual void cancelAsyncCalls(const std::vector<uint64_t>& callIds);
+    virtual uint64_t lock();
+    virtual void unlock(uint64_t lockId);
+    virtual bool isLocked();
+    virtual void breakLock();
+    virtual void triggerAsyncCancels(const std::vector<uint64_t>& callIds);
+    virtual int32_t getState();
+    virtual uint64_t getHandle();
+    virtual uint64_t getCallDuration();
+};
+
+class EventsFamily {
+public:
+    EventsFamily() = default;
+    EventsFamily(const EventsFamily&) = delete;
+    EventsFamily& operator=(const EventsFamily&) = delete;
+    virtual ~EventsFamily() = default;
+
+    virtual uint64_t openEventChannel();
+    virtual void closeEventChannel(uint64_t channel);
+    virtual std::shared_ptr<EventReport> getCurrentEvents(uint64_t channel, uint32_t limit);
+    virtual void registerServerHandler(std::shared_ptr<ServerHandler> handler);
+    virtual void onConnectionBroken();
+    virtual void onConnectionClosed();
+};
+
+class DiagnosticsFamily {
+public:
+    DiagnosticsFamily() = default;
+    DiagnosticsFamily(const DiagnosticsFamily&) = delete;
+    DiagnosticsFamily& operator=(const DiagnosticsFamily&) = delete;
+    virtual ~DiagnosticsFamily() = default;
+
+    using IdentifyAllTargetsCallback = TarnApi::IdentifyAllTargetsCallback;
+    using ReadIdentificationValuesCallback = TarnApi::ReadIdentificationValuesCallback;
+    using ReadDtcsCallback = TarnApi::ReadDtcsCallback;
+    using ReadSupportedDtcsCallback = TarnApi::ReadSupportedDtcsCallback;
+    using ClearAllDtcsCallback = TarnApi::ClearAllDtcsCallback;
+    using PerformQuickTestCallback = TarnApi::PerformQuickTestCallback;
+    using IdentifyTargetsCallback = TarnApi::IdentifyTargetsCallback;
+    using ClearSpecificDtcsCallback = TarnApi::ClearSpecificDtcsCallback;
+
+    virtual std::vector<std::shared_ptr<VariantIdentResult>> identifyAllTargets();
+    virtual uint64_t identifyAllTargetsAsync(IdentifyAllTargetsCallback* callback);
+    virtual std::vector<std::shared_ptr<ReadDataResult>>
+    readIdentificationValues(const std::vector<std::wstring>& targets);
+    virtual uint64_t readIdentificationValuesAsync(const std::vector<std::wstring>& targets,
+                                                   ReadIdentificationValuesCallback* callback);
+    virtual std::vector<std::shared_ptr<ReadDataResult>>
+    readDataByIdentifiers(const std::wstring& target, const std::vector<std::wstring>& identifiers);
+    virtual std::shared_ptr<VariantIdentResult> identifyTarget(const std::wstring& target);
+    virtual std::vector<std::shared_ptr<ReadDtcResult>>
+    readDtcs(const std::vector<std::wstring>& targets, std::shared_ptr<DtcReadConfig> config);
+    virtual uint64_t readDtcsAsync(const std::vector<std::wstring>& targets,
+                                   std::shared_ptr<DtcReadConfig> config,
+                                   ReadDtcsCallback* callback);
+    virtual std::vector<std::shared_ptr<SupportedDtcResult>>
+    readSupportedDtcs(const std::vector<std::wstring>& targets,
+                      std::shared_ptr<DtcReadConfig> config);
+    virtual uint64_t readSupportedDtcsAsync(const std::vector<std::wstring>& targets,
+                                            std::shared_ptr<DtcReadConfig> config,
+                                            ReadSupportedDtcsCallback* callback);
+    virtual std::vector<std::shared_ptr<ClearDtcResult>>
+    clearAllDtcs(const std::vector<std::wstring>& targets);
+    virtual uint64_t clearAllDtcsAsync(const std::vector<std::wstring>& targets,
+                                       ClearAllDtcsCallback* callback);
+    virtual std::vector<std::shared_ptr<QuickTestResult>>
+    performQuickTest(const std::vector<std::wstring>& targets,
+                     std::shared_ptr<DtcReadConfig> config);
+    virtual uint64_t performQuickTestAsync(const std::vector<std::wstring>& targets,
+                                           std::shared_ptr<DtcReadConfig> config,
+                                           PerformQuickTestCallback* callback);
+    virtual std::vector<std::shared_ptr<VariantIdentResult>>
+    identifyTargets(const std::vector<std::wstring>& targets);
+    virtual uint64_t identifyTargetsAsync(const std::vector<std::wstring>& targets,
+                                          IdentifyTargetsCallback* callback);
+    virtual std::vector<std::shared_ptr<Target>>
+    getFilteredTargets(const std::vector<std::shared_ptr<TargetFilter>>& filters);
+    virtual std::vector<std::shared_ptr<TargetStatus>>
+    getTargetStatus(const std::vector<std::wstring>& targets);
+    virtual std::vector<std::shared_ptr<ClearDtcResult>>
+    clearSpecificDtcs(const std::wstring& target, const std::vector<uint32_t>& dtcCodes);
+    virtual uint64_t clearSpecificDtcsAsync(const std::wstring& target,
+                                            const std::vector<uint32_t>& dtcCodes,
+                                            ClearSpecificDtcsCallback* callback);
+    virtual std::vector<std::shared_ptr<Target>> getTargets();
+    virtual std::vector<std::shared_ptr<TargetFilter>> getSessionTargetFilters();
+    virtual void setSessionTargetFilters(const std::vector<std::shared_ptr<TargetFilter>>& filters);
+};
+
+class ServicesFamily {
+public:
+    ServicesFamily() = default;
+    ServicesFamily(const ServicesFamily&) = delete;
+    ServicesFamily& operator=(const ServicesFamily&) = delete;
+    virtual ~ServicesFamily() = default;
+
+    using ExecuteServiceCallback = TarnApi::ExecuteServiceCallback;
+    using ExecuteServiceInDefaultSessionCallback = TarnApi::ExecuteServiceInDefaultSessionCallback;
+
+    virtual std::vector<std::shared_ptr<ServiceInfo>>
+    getServiceInfos(const std::wstring& text1, const std::wstring& text2,
+                    const std::vector<std::wstring>& names, int32_t value);
+    virtual std::vector<std::shared_ptr<ParameterInfo>>
+    getIdentificationValueInfos(const std::wstring& target);
+    virtual std::vector<uint8_t> createSeed(uint32_t value1, uint32_t value2);
+    virtual void sendKey(const std::vector<uint8_t>& key);
+    virtual std::vector<std::shared_ptr<ParameterInfo>>
+    getActuatorServiceInfos(const std::wstring& text1, const std::wstring& text2);
+    virtual uint64_t startCyclicServices(const std::wstring& target,
+                                         const std::vector<std::shared_ptr<ServiceInput>>& services,
+                                         uint32_t cycleTime);
+    virtual std::vector<std::shared_ptr<ServiceResult>> getCyclicResults(uint64_t cyclic);
+    virtual void stopCyclicServices(uint64_t cyclic);
+    virtual std::vector<std::shared_ptr<ServiceResult>>
+    executeService(const std::wstring& target,
+                   const std::vector<std::shared_ptr<ServiceInput>>& services);
+    virtual uint64_t executeServiceAsync(const std::wstring& target,
+                                         const std::vector<std::shared_ptr<ServiceInput>>& services,
+                                         ExecuteServiceCallback* callback);
+    virtual void updateCyclicServices(uint64_t cyclic,
+                                      const std::vector<std::shared_ptr<ServiceInput>>& services);
+    virtual std::shared_ptr<UnlockResult>
+    unlockVehicle(const std::wstring& target,
+                  const std::vector<std::shared_ptr<ServiceInput>>& services);
+    virtual uint64_t releaseVehicleUnlock(uint64_t value);
+    virtual std::vector<std::shared_ptr<ServiceResult>>
+    executeServiceInDefaultSession(const std::wstring& target,
+                                   const std::vector<std::shared_ptr<ServiceInput>>& services);
+    virtual uint64_t
+    executeServiceInDefaultSessionAsync(const std::wstring& target,
+                                        const std::vector<std::shared_ptr<ServiceInput>>& services,
+                                        ExecuteServiceInDefaultSessionCallback* callback);
+    virtual std::shared_ptr<ParameterInfo>
+    getParameterInfo(std::shared_ptr<ParameterInfoConfig> config);
+};
+
+class ProjectsFamily {
+public:
+    ProjectsFamily() = default;
+    ProjectsFamily(const ProjectsFamily&) = delete;
+    ProjectsFamily& operator=(const ProjectsFamily&) = delete;
+    virtual ~ProjectsFamily() = default;
+
+    virtual std::shared_ptr<ProjectConfig> getProjectConfiguration(const std::wstring& projectName);
+    virtual void setProjectConfiguration(const std::wstring& projectName,
+                                         std::shared_ptr<ProjectConfig> config);
+    virtual void saveProjectConfiguration(const std::wstring& projectName);
+    virtual void saveConfiguration();
+    virtual void refreshProjectList();
+    virtual bool isProjectConversionRequired(const std::wstring& projectPath);
+    virtual void convertProject(const std::wstring& projectPath);
+    virtual void saveMoxConfiguration();
+    virtual std::shared_ptr<ProjectDetails> getProjectDetails();
+    virtual std::shared_ptr<SystemProperty> getSystemProperty(const std::wstring& name);
+    virtual void resetSystemProperty(const std::wstring& name);
+    virtual void setSystemProperty(std::shared_ptr<SystemProperty> property);
+    virtual std::vector<std::wstring>
+    getVendorModuleNames(std::shared_ptr<InterfaceInformation> interfaceInfo);
+    virtual std::vector<std::wstring> getVendorModuleNamesEx(const std::wstring& text);
+    virtual std::shared_ptr<SystemInfo> getSystemInfo();
+    virtual std::vector<std::shared_ptr<LoadDatabaseResult>>
+    loadDatabaseFile(const std::vector<std::wstring>& files);
+    virtual std::vector<std::shared_ptr<LoadDatabaseResult>>
+    unloadDatabaseFile(const std::vector<std::wstring>& files);
+    virtual std::vector<std::shared_ptr<ProjectDetails>>
+    getProjectsDetails(const std::vector<std::wstring>& projectNames);
+    virtual void selectDynamicProject(const std::wstring& projectName,
+                                      const std::vector<std::wstring>& items);
+    virtual std::vector<std::shared_ptr<ProjectConfig>> getProjectConfigurations();
+    virtual std::wstring getVersion();
+    virtual std::wstring getSelectedProject();
+    virtual void setSelectedProject(const std::wstring& projectName);
+    virtual std::shared_ptr<TarnApiConfig> getConfiguration();
+    virtual void setConfiguration(std::shared_ptr<TarnApiConfig> config);
+    virtual std::shared_ptr<ProcessInfo> getProcessInfo();
+    virtual std::shared_ptr<TransmissionInfo> getTransmissionInfo();
+    virtual std::shared_ptr<MoxConfig> getMoxConfiguration();
+    virtual void setMoxConfiguration(std::shared_ptr<MoxConfig> config);
+    virtual std::vector<std::shared_ptr<GlobalProtocolParameterSet>>
+    getGlobalProtocolParameterSets();
+    virtual void setGlobalProtocolParameterSets(
+        const std::vector<std::shared_ptr<GlobalProtocolParameterSet>>& sets);
+    virtual std::shared_ptr<StatusInfo> getStatusInfo();
+    virtual std::wstring getCurrentDebugTraceDirectory();
+    virtual void setStatusText(const std::wstring& text);
+};
+
+class ServersFamily {
+public:
+    ServersFamily() = default;
+    ServersFamily(const ServersFamily&) = delete;
+    ServersFamily& operator=(const ServersFamily&) = delete;
+    virtual ~ServersFamily() = default;
+
+    virtual std::wstring startServer(const std::wstring& text);
+    virtual void stopServer(const std::wstring& text);
+    virtual void restartServer(int32_t value);
+    virtual std::shared_ptr<TarnApi> connectRemoteServer(const std::wstring& text);
+    virtual void disconnect();
+    virtual void addUser(const std::wstring& text1, const std::wstring& text2, uint32_t value);
+    virtual void removeUser(const std::wstring& text);
+    virtual std::vector<std::shared_ptr<UserInfo>> getUsers();
+    virtual void logOut(std::shared_ptr<LogInOutConfig> config);
+    virtual void updateUser(const std::wstring& text1, const std::wstring& text2,
+                            const std::wstring& text3, uint32_t value);
+    virtual bool getServerUserManagement();
+    virtual void setServerUserManagement(bool enabled);
+    virtual void disconnectAllClients();
+    virtual bool reconnectRemoteServer(uint64_t handle);
+    virtual bool thirdPartyLogin(const std::wstring& text);
+    virtual std::wstring getThirdPartyLoginUrl(const std::wstring& text);
+    virtual std::wstring getCertificateByPublicKey(const std::wstring& text1,
+                                                   const std::wstring& text2,
+                                                   const std::wstring& text3,
+                                                   const std::wstring& text4);
+    virtual std::wstring
+    createCertificateFromCSR(const std::wstring& text1, const std::wstring& text2,
+                             const std::wstring& text3, const std::wstring& text4,
+                             const std::wstring& text5, const std::wstring& text6);
+    virtual std::vector<std::wstring> getCertificateChainById(const std::wstring& text1,
+                                                              const std::wstring& text2,
+                                                              const std::wstring& text3);
+    virtual void startSOVDServer();
+    virtual void stopSOVDServer();
+    virtual void logIn(std::shared_ptr<LogInOutConfig> config);
+    virtual std::shared_ptr<ServerSettings> getServerSettings();
+    virtual std::shared_ptr<TarnApiServerConfig> getServerConfiguration();
+};
+
+class InterfacesFamily {
+public:
+    InterfacesFamily() = default;
+    InterfacesFamily(const InterfacesFamily&) = delete;
+    InterfacesFamily& operator=(const InterfacesFamily&) = delete;
+    virtual ~InterfacesFamily() = default;
+
+    using ScanInterfaceConnectionCallback = TarnApi::ScanInterfaceConnectionCallback;
+    using DetectDynInterfacesCallback = TarnApi::DetectDynInterfacesCallback;
+    using DetectDynInterfacesExCallback = TarnApi::DetectDynInterfacesExCallback;
+
+    virtual void saveInterfaceConfiguration();
+    virtual std::vector<std::shared_ptr<ScanInterfaceResult>>
+    scanInterfaceConnection(const std::vector<std::wstring>& interfaces);
+    virtual uint64_t scanInterfaceConnectionAsync(const std::vector<std::wstring>& interfaces,
+                                                  ScanInterfaceConnectionCallback* callback);
+    virtual std::wstring getInterfaceLongName(const std::wstring& name);
+    virtual void connectInterfaces();
+    virtual void disconnectInterfaces();
+    virtual void executeDoIPBroadcast();
+    virtual void releaseSocketBridge(uint64_t bridge);
+    virtual uint64_t createSocketBridge(uint32_t value1, uint32_t value2);
+    virtual void clearLinkCache();
+    virtual void addResource(const std::wstring& name,
+                             std::shared_ptr<ResourceInformation> resource, uint16_t value);
+    virtual void removeInterface(const std::wstring& name);
+    virtual std::shared_ptr<InterfaceInformation>
+    addInterface(std::shared_ptr<InterfaceInformation> interfaceInfo, const std::wstring& text1,
+                 const std::wstring& text2, const std::wstring& text3);
+    virtual void removeResource(const std::wstring& name1, const std::wstring& name2);
+    virtual std::vector<std::shared_ptr<ModuleDyn>>
+    detectDynInterfaces(uint32_t value, std::shared_ptr<DynInterfaceDetection> detection);
+    virtual uint64_t detectDynInterfacesAsync(uint32_t value,
+                                              std::shared_ptr<DynInterfaceDetection> detection,
+                                              DetectDynInterfacesCallback* callback);
+    virtual void connectDynInterface(const std::wstring& name, bool flag,
+                                     std::shared_ptr<DynInterfaceDetection> detection);
+    virtual void disconnectDynInterfaces(const std::vector<std::wstring>& names);
+    virtual void setEthernetPinState(uint8_t state, const std::vector<std::wstring>& interfaces);
+    virtual uint32_t getEthernetPinState(const std::wstring& interfaceName);
+    virtual std::vector<std::shared_ptr<ModuleDyn>> detectDynInterfacesEx(uint32_t value);
+    virtual uint64_t detectDynInterfacesExAsync(uint32_t value,
+                                                DetectDynInterfacesExCallback* callback);
+    virtual void connectDynInterfaceEx(const std::wstring& name, bool flag);
+    virtual bool testSocketBridge(uint64_t bridge);
+    virtual std::vector<std::shared_ptr<DeviceInfo>> getRegisteredDevices();
+    virtual std::vector<std::shared_ptr<PhysicalLinksOnModule>>
+    getPhysicalLinks(const std::vector<std::wstring>& modules);
+    virtual std::vector<std::shared_ptr<PhysicalLinksOnModule>>
+    setPhysicalLinks(const std::vector<std::shared_ptr<PhysicalLinksOnModule>>& links);
+    virtual bool openTerminal();
+    virtual void closeTerminal();
+    virtual std::shared_ptr<WLanSignalData> getWLanSignalData(const std::wstring& interfaceName);
+    virtual std::vector<std::shared_ptr<KelError>> clearDoIPEcuCollection();
+    virtual std::shared_ptr<InterfaceConfiguration> getInterfaceConfiguration();
+    virtual void setInterfaceConfiguration(std::shared_ptr<InterfaceConfiguration> config);
+    virtual std::vector<std::shared_ptr<SupportedInterface>> getSupportedInterfaces();
+    virtual std::vector<std::shared_ptr<InterfaceProvider>> getInterfaceProviders();
+    virtual void
+    setInterfaceProviders(const std::vector<std::shared_ptr<InterfaceProvider>>& providers);
+    virtual std::shared_ptr<DoIPParameter> getDefaultDoIPParameter();
+};
+
+class MonitoringFamily {
+public:
+    MonitoringFamily() = default;
+    MonitoringFamily(const MonitoringFamily&) = delete;
+    MonitoringFamily& operator=(const MonitoringFamily&) = delete;
+    virtual ~MonitoringFamily() = default;
+
+    virtual uint64_t createMonitoringLink(const std::wstring& name);
+    virtual std::vector<std::shared_ptr<MonitoringItem>>
+    getMonitoringItems(uint64_t handle, uint32_t value1, int32_t value2);
+    virtual void releaseMonitoringLink(uint64_t handle);
+    virtual std::vector<std::shared_ptr<PduMonitoringItem>>
+    getPduMonitoringItems(uint64_t handle, uint32_t value1, int32_t value2);
+    virtual uint64_t createPduMonitor();
+    virtual void releasePduMonitor(uint64_t handle);
+    virtual void openTraceFileMonitoringLink(uint64_t handle, const std::wstring& traceFile);
+    virtual void startTraceFileMonitoringLink(uint64_t handle);
+    virtual void stopTraceFileMonitoringLink(uint64_t handle);
+    virtual void closeTraceFileMonitoringLink(uint64_t handle);
+    virtual uint64_t createApiTraceMonitor();
+    virtual std::vector<uint8_t> getApiTraceContent(uint64_t handle, uint32_t value1,
+                                                    int32_t value2);
+    virtual void releaseApiTraceMonitor(uint64_t handle);
+    virtual std::vector<std::wstring> getMonitoringLinks();
+};
+
+class FilesFamily {
+public:
+    FilesFamily() = default;
+    FilesFamily(const FilesFamily&) = delete;
+    FilesFamily& operator=(const FilesFamily&) = delete;
+    virtual ~FilesFamily() = default;
+
+    using CopyFilesCallback = TarnApi::CopyFilesCallback;
+    using CopyDirectoriesCallback = TarnApi::CopyDirectoriesCallback;
+    using CopyPathCallback = TarnApi::CopyPathCallback;
+
+    virtual std::vector<uint8_t> readFile(const std::wstring& path, uint64_t value1,
+                                          uint32_t value2, bool flag);
+    virtual std::shared_ptr<DirectoryInfo> getProjectDirectory(bool flag);
+    virtual std::shared_ptr<DirectoryInfo> getSelectedProjectDirectory(bool flag);
+    virtual uint32_t writeFile(const std::wstring& path, const std::vector<uint8_t>& data,
+                               uint32_t value, bool flag);
+    virtual std::shared_ptr<KelError>
+    deleteFiles(const std::vector<std::shared_ptr<FileInfo>>& files);
+    virtual std::vector<std::shared_ptr<DirectoryInfo>>
+    findDirectories(std::shared_ptr<DirectoryInfo> directory, const std::wstring& pattern,
+                    bool flag);
+    virtual std::vector<std::shared_ptr<FileInfo>>
+    findFiles(const std::wstring& directory, const std::wstring& pattern, bool flag);
+    virtual std::shared_ptr<DirectoryInfo>
+    initializeDirectoryElements(std::shared_ptr<DirectoryInfo> directory, bool flag);
+    virtual std::shared_ptr<FileInfo> createFile(std::shared_ptr<DirectoryInfo> parent,
+                                                 const std::wstring& name);
+    virtual std::shared_ptr<DirectoryInfo> createDirectory(std::shared_ptr<DirectoryInfo> parent,
+                                                           const std::wstring& name);
+    virtual std::shared_ptr<KelError> deleteDirectory(const std::wstring& path);
+    virtual std::shared_ptr<DirectoryInfo> getTraceDirectory(bool flag);
+    virtual std::vector<std::shared_ptr<FileCopyResult>>
+    copyFiles(std::shared_ptr<FileCopyConfig> config);
+    virtual uint64_t copyFilesAsync(std::shared_ptr<FileCopyConfig> config,
+                                    CopyFilesCallback* callback);
+    virtual std::vector<std::shared_ptr<DirectoryCopyResult>>
+    copyDirectories(std::shared_ptr<DirectoryCopyConfig> config);
+    virtual uint64_t copyDirectoriesAsync(std::shared_ptr<DirectoryCopyConfig> config,
+                                          CopyDirectoriesCallback* callback);
+    virtual void renameFile(const std::wstring& path, const std::wstring& newName);
+    virtual std::shared_ptr<DirectoryInfo> getConfigDirectory(bool flag);
+    virtual std::vector<std::shared_ptr<FileInfo>>
+    copyProjectWithFilters(const std::vector<std::shared_ptr<FileFilter>>& filters, bool flag,
+                           std::shared_ptr<FileCopyConfig> config, const std::wstring& text);
+    virtual std::vector<std::wstring>
+    filterFiles(const std::vector<std::shared_ptr<FileFilter>>& filters, const std::wstring& text);
+    virtual std::vector<std::shared_ptr<DirectoryInfo>> getPublicDirectories();
+    virtual bool moveFile(const std::wstring& source, const std::wstring& target);
+    virtual bool moveDirectory(const std::wstring& source, const std::wstring& target);
+    virtual bool pathExists(const std::wstring& path);
+    virtual std::wstring resolvePath(const std::wstring& path);
+    virtual std::vector<std::shared_ptr<FileReferenceResult>>
+    getFileReferences(const std::vector<std::wstring>& files);
+    virtual bool isDirectory(const std::wstring& path);
+    virtual std::shared_ptr<DirectoryInfo> getDirectoryInfo(const std::wstring& path, bool flag);
+    virtual std::shared_ptr<FileInfo> getFileInfo(const std::wstring& path);
+    virtual bool isFile(const std::wstring& path);
+    virtual std::vector<std::shared_ptr<PathCopyResult>>
+    copyPath(std::shared_ptr<PathCopyConfig> config);
+    virtual uint64_t copyPathAsync(std::shared_ptr<PathCopyConfig> config,
+                                   CopyPathCallback* callback);
+    virtual void addPublicDirectory(const std::wstring& name, const std::wstring& path);
+};
+
+class FlashFamily {
+public:
+    FlashFamily() = default;
+    FlashFamily(const FlashFamily&) = delete;
+    FlashFamily& operator=(const FlashFamily&) = delete;
+    virtual ~FlashFamily() = default;
+
+    using ExecuteFlashSessionsCallback = TarnApi::ExecuteFlashSessionsCallback;
+    using ExecuteFlashSessionsConfigCallback = TarnApi::ExecuteFlashSessionsConfigCallback;
+
+    virtual std::vector<std::shared_ptr<FlashSessionInfo>>
+    getFlashSessionInfos(const std::wstring& target);
+    virtual std::vector<std::shared_ptr<FlashSessionResult>>
+    executeFlashSessions(const std::wstring& target, const std::vector<std::wstring>& sessions);
+    virtual uint64_t executeFlashSessionsAsync(const std::wstring& target,
+                                               const std::vector<std::wstring>& sessions,
+                                               ExecuteFlashSessionsCallback* callback);
+    virtual std::vector<std::shared_ptr<FlashSessionResult>>
+    executeFlashSessionsConfig(std::shared_ptr<FlashSessionsConfig> config);
+    virtual uint64_t executeFlashSessionsConfigAsync(std::shared_ptr<FlashSessionsConfig> config,
+                                                     ExecuteFlashSessionsConfigCallback* callback);
+};
+
+class CodingFamily {
+public:
+    CodingFamily() = default;
+    CodingFamily(const CodingFamily&) = delete;
+    CodingFamily& operator=(const CodingFamily&) = delete;
+    virtual ~CodingFamily() = default;
+
+    using ReadCodingStringsCallback = TarnApi::ReadCodingStringsCallback;
+    using WriteCodingFileCallback = TarnApi::WriteCodingFileCallback;
+    using PerformEcuConfigurationCallback = TarnApi::PerformEcuConfigurationCallback;
+
+    virtual std::vector<std::shared_ptr<CodingStringResult>>
+    readCodingStrings(const std::vector<std::wstring>& targets);
+    virtual uint64_t readCodingStringsAsync(const std::vector<std::wstring>& targets,
+                                            ReadCodingStringsCallback* callback);
+    virtual std::wstring calculateChecksum(const std::wstring& path, int32_t algorithm);
+    virtual std::vector<std::shared_ptr<CodingFileResult>>
+    writeCodingFile(const std::wstring& codingFile, const std::vector<std::wstring>& targets);
+    virtual uint64_t writeCodingFileAsync(const std::wstring& codingFile,
+                                          const std::vector<std::wstring>& targets,
+                                          WriteCodingFileCallback* callback);
+    virtual std::vector<std::shared_ptr<EcuConfigurationResult>>
+    performEcuConfiguration(const std::vector<std::wstring>& targets,
+                            const std::wstring& configuration);
+    virtual uint64_t performEcuConfigurationAsync(const std::vector<std::wstring>& targets,
+                                                  const std::wstring& configuration,
+                                                  PerformEcuConfigurationCallback* callback);
+};
+
+class MeasurementFamily {
+public:
+    MeasurementFamily() = default;
+    MeasurementFamily(const MeasurementFamily&) = delete;
+    MeasurementFamily& operator=(const MeasurementFamily&) = delete;
+    virtual ~MeasurementFamily() = default;
+
+    using ReadMeasurementValuesCallback = TarnApi::ReadMeasurementValuesCallback;
+
+    virtual std::vector<std::shared_ptr<ParameterInfo>>
+    getMeasurementValueInfos(const std::wstring& target);
+    virtual uint64_t registerMeasurementValues(const std::wstring& target,
+                                               const std::vector<std::wstring>& names);
+    virtual std::vector<std::shared_ptr<ReadDataResult>>
+    getMeasurementValues(uint64_t registration);
+    virtual void unregisterMeasurementValues(uint64_t registration);
+    virtual std::vector<std::shared_ptr<ReadDataResult>>
+    readMeasurementValues(const std::wstring& target, const std::vector<std::wstring>& names);
+    virtual uint64_t readMeasurementValuesAsync(const std::wstring& target,
+                                                const std::vector<std::wstring>& names,
+                                                ReadMeasurementValuesCallback* callback);
+    virtual std::vector<std::shared_ptr<ParameterInfo>>
+    getSingleMeasurementValueInfos(const std::wstring& target,
+                                   const std::vector<std::wstring>& names);
+};
+
+class SequencesFamily {
+public:
+    SequencesFamily() = default;
+    SequencesFamily(const SequencesFamily&) = delete;
+    SequencesFamily& operator=(const SequencesFamily&) = delete;
+    virtual ~SequencesFamily() = default;
+
+    using ExecuteSequenceCallback = TarnApi::ExecuteSequenceCallback;
+
+    virtual uint64_t runSequence(const std::wstring& sequence,
+                                 const std::vector<std::wstring>& arguments);
+    virtual void cancelSequence(uint64_t run);
+    virtual std::vector<std::shared_ptr<ServiceResult>>
+    executeSequence(const std::wstring& target, const std::wstring& sequence,
+                    const std::vector<std::shared_ptr<ParameterInput>>& parameters);
+    virtual uint64_t
+    executeSequenceAsync(const std::wstring& target, const std::wstring& sequence,
+                         const std::vector<std::shared_ptr<ParameterInput>>& parameters,
+                         ExecuteSequenceCallback* callback);
+};
+
+class EcuOrderFamily {
+public:
+    EcuOrderFamily() = default;
+    EcuOrderFamily(const EcuOrderFamily&) = delete;
+    EcuOrderFamily& operator=(const EcuOrderFamily&) = delete;
+    virtual ~EcuOrderFamily() = default;
+
+    virtual std::vector<std::shared_ptr<EcuOrderEntry>> readEcuOrder(const std::wstring& path);
+    virtual std::vector<std::shared_ptr<EcuOrderEntry>>
+    filterEcuOrder(const std::vector<std::shared_ptr<EcuOrderEntry>>& entries,
+                   const std::vector<std::wstring>& targets);
+    virtual std::vector<std::shared_ptr<EcuOrderEntry>>
+    addMissingTargetsToEcuOrder(const std::vector<std::shared_ptr<EcuOrderEntry>>& entries);
+    virtual std::vector<std::shared_ptr<EcuOrderEntry>> createDefaultECUOrder();
+    virtual void writeEcuOrder(const std::wstring& path,
+                               const std::vector<std::shared_ptr<EcuOrderEntry>>& entries);
+    virtual std::wstring getEcuOrderFilePath();
+};
+
+class VehicleUpdateFamily {
+public:
+    VehicleUpdateFamily() = default;
+    VehicleUpdateFamily(const VehicleUpdateFamily&) = delete;
+    VehicleUpdateFamily& operator=(const VehicleUpdateFamily&) = delete;
+    virtual ~VehicleUpdateFamily() = default;
+
+    using UpdateVehicleCallback = TarnApi::UpdateVehicleCallback;
+    using PerformVehicleUpdateCallback = TarnApi::PerformVehicleUpdateCallback;
+
+    virtual std::wstring createVehicleReport(std::shared_ptr<VehicleReportConfig> config);
+    virtual void applyUpdatePackage(const std::wstring& package);
+    virtual std::vector<std::shared_ptr<UpdatePackageInfo>> getUpdatePackages();
+    virtual std::vector<std::shared_ptr<UpdatePackageInfo>> getPackagesFromBroker();
+    virtual bool checkUpdatesOnBroker();
+    virtual bool autoUpdate();
+    virtual std::vector<std::shared_ptr<NamedItem>> getCurrentVersions();
+    virtual bool checkUpdateSuccess();
+    virtual void cleanUpdateTmp();
+    virtual std::vector<std::shared_ptr<VehicleUpdateResult>>
+    updateVehicle(std::shared_ptr<VehicleUpdateConfig> config);
+    virtual uint64_t updateVehicleAsync(std::shared_ptr<VehicleUpdateConfig> config,
+                                        UpdateVehicleCallback* callback);
+    virtual std::vector<std::shared_ptr<VehicleData>> getVehicleData();
+    virtual void uploadReport(std::shared_ptr<UploadReportConfiguration> config);
+    virtual void setBrokerUrl(const std::wstring& url);
+    virtual void clearUpdatePackages();
+    virtual std::vector<std::shared_ptr<VehicleUpdateResult>>
+    performVehicleUpdate(const std::vector<std::shared_ptr<EcuOrderEntry>>& entries,
+                         std::shared_ptr<VehicleUpdateConfig> config);
+    virtual uint64_t
+    performVehicleUpdateAsync(const std::vector<std::shared_ptr<EcuOrderEntry>>& entries,
+                              std::shared_ptr<VehicleUpdateConfig> config,
+                              PerformVehicleUpdateCallback* callback);
+    virtual std::wstring
+    createVehicleUpdateReport(const std::vector<std::shared_ptr<VehicleUpdateResult>>& results);
+    virtual std::shared_ptr<VehicleUpdateConfig>
+    createVehicleUpdateConfig(const std::vector<std::wstring>& targets);
+    virtual std::shared_ptr<VehicleInformation> getSelectedVehicleInformation();
+    virtual void setSelectedVehicleInformation(std::shared_ptr<VehicleInformation> information);
+};
+
+// One engine object's families; a family left as it is answers every operation
+// with "not simulated yet".
+struct Families {
+    std::shared_ptr<LifecycleFamily> lifecycle = std::make_shared<LifecycleFamily>();
+    std::shared_ptr<EventsFamily> events = std::make_shared<EventsFamily>();
+    std::shared_ptr<DiagnosticsFamily> diagnostics = std::make_shared<DiagnosticsFamily>();
+    std::shared_ptr<ServicesFamily> services = std::make_shared<ServicesFamily>();
+    std::shared_ptr<ProjectsFamily> projects = std::make_shared<ProjectsFamily>();
+    std::shared_ptr<ServersFamily> servers = std::make_shared<ServersFamily>();
+    std::shared_ptr<InterfacesFamily> interfaces = std::make_shared<InterfacesFamily>();
+    std::shared_ptr<MonitoringFamily> monitoring = std::make_shared<MonitoringFamily>();
+    std::shared_ptr<FilesFamily> files = std::make_shared<FilesFamily>();
+    std::shared_ptr<FlashFamily> flash = std::make_shared<FlashFamily>();
+    std::shared_ptr<CodingFamily> coding = std::make_shared<CodingFamily>();
+    std::shared_ptr<MeasurementFamily> measurement = std::make_shared<MeasurementFamily>();
+    std::shared_ptr<SequencesFamily> sequences = std::make_shared<SequencesFamily>();
+    std::shared_ptr<EcuOrderFamily> ecuOrder = std::make_shared<EcuOrderFamily>();
+    std::shared_ptr<VehicleUpdateFamily> vehicleUpdate = std::make_shared<VehicleUpdateFamily>();
+};
+
+class FamilyRouter final : public TarnApi {
+public:
+    explicit FamilyRouter(Families families) : families_(std::move(families)) {}
+
+    void initialize() override;
+    void end() override;
+    std::wstring startServer(const std::wstring& text) override;
+    void stopServer(const std::wstring& text) override;
+    void restartServer(int32_t value) override;
+    std::shared_ptr<ProjectConfig>
+    getProjectConfiguration(const std::wstring& projectName) override;
+    void setProjectConfiguration(const std::wstring& projectName,
+                                 std::shared_ptr<ProjectConfig> config) override;
+    void saveProjectConfiguration(const std::wstring& projectName) override;
+    uint64_t createMonitoringLink(const std::wstring& name) override;
+    std::vector<std::shared_ptr<MonitoringItem>>
+    getMonitoringItems(uint64_t handle, uint32_t value1, int32_t value2) override;
+    void releaseMonitoringLink(uint64_t handle) override;
+    std::vector<std::shared_ptr<PduMonitoringItem>>
+    getPduMonitoringItems(uint64_t handle, uint32_t value1, int32_t value2) override;
+    uint64_t createPduMonitor() override;
+    void saveConfiguration() override;
+    void releasePduMonitor(uint64_t handle) override;
+    std::vector<std::shared_ptr<VariantIdentResult>> identifyAllTargets() override;
+    uint64_t identifyAllTargetsAsync(IdentifyAllTargetsCallback* callback) override;
+    std::vector<std::shared_ptr<ReadDataResult>>
+    readIdentificationValues(const std::vector<std::wstring>& targets) override;
+    uint64_t readIdentificationValuesAsync(const std::vector<std::wstring>& targets,
+                                           ReadIdentificationValuesCallback* callback) override;
+    std::vector<std::shared_ptr<ReadDataResult>>
+    readDataByIdentifiers(const std::wstring& target,
+                          const std::vector<std::wstring>& identifiers) override;
+    std::shared_ptr<VariantIdentResult> identifyTarget(const std::wstring& target) override;
+    std::vector<std::shared_ptr<ReadDtcResult>>
+    readDtcs(const std::vector<std::wstring>& targets,
+             std::shared_ptr<DtcReadConfig> config) override;
+    uint64_t readDtcsAsync(const std::vector<std::wstring>& targets,
+                           std::shared_ptr<DtcReadConfig> config,
+                           ReadDtcsCallback* callback) override;
+    std::vector<std::shared_ptr<SupportedDtcResult>>
+    readSupportedDtcs(const std::vector<std::wstring>& targets,
+                      std::shared_ptr<DtcReadConfig> config) override;
+    uint64_t readSupportedDtcsAsync(const std::vector<std::wstring>& targets,
+                                    std::shared_ptr<DtcReadConfig> config,
+                                    ReadSupportedDtcsCallback* callback) override;
+    std::vector<std::shared_ptr<ClearDtcResult>>
+    clearAllDtcs(const std::vector<std::wstring>& targets) override;
+    uint64_t clearAllDtcsAsync(const std::vector<std::wstring>& targets,
+                               ClearAllDtcsCallback* callback) override;
+    std::vector<std::shared_ptr<ServiceInfo>>
+    getServiceInfos(const std::wstring& text1, const std::wstring& text2,
+                    const std::vector<std::wstring>& names, int32_t value) override;
+    std::vector<std::shared_ptr<FlashSessionInfo>>
+    getFlashSessionInfos(const std::wstring& target) override;
+    std::vector<std::shared_ptr<FlashSessionResult>>
+    executeFlashSessions(const std::wstring& target,
+                         const std::vector<std::wstring>& sessions) override;
+    uint64_t executeFlashSessionsAsync(const std::wstring& target,
+                                       const std::vector<std::wstring>& sessions,
+                                       ExecuteFlashSessionsCallback* callback) override;
+    std::vector<std::shared_ptr<CodingStringResult>>
+    readCodingStrings(const std::vector<std::wstring>& targets) override;
+    uint64_t readCodingStringsAsync(const std::vector<std::wstring>& targets,
+                                    ReadCodingStringsCallback* callback) override;
+    std::vector<std::shared_ptr<QuickTestResult>>
+    performQuickTest(const std::vector<std::wstring>& targets,
+                     std::shared_ptr<DtcReadConfig> config) override;
+    uint64_t performQuickTestAsync(const std::vector<std::wstring>& targets,
+                                   std::shared_ptr<DtcReadConfig> config,
+                                   PerformQuickTestCallback* callback) override;
+    std::shared_ptr<TarnApi> connectRemoteServer(const std::wstring& text) override;
+    std::vector<std::shared_ptr<ParameterInfo>>
+    getMeasurementValueInfos(const std::wstring& target) override;
+    uint64_t registerMeasurementValues(const std::wstring& target,
+                                       const std::vector<std::wstring>& names) override;
+    std::vector<std::shared_ptr<ReadDataResult>>
+    getMeasurementValues(uint64_t registration) override;
+    void unregisterMeasurementValues(uint64_t registration) override;
+    std::vector<std::shared_ptr<ParameterInfo>>
+    getIdentificationValueInfos(const std::wstring& target) override;
+    void cancelAllAsyncCalls() override;
+    std::vector<uint8_t> createSeed(uint32_t value1, uint32_t value2) override;
+    void sendKey(const std::vector<uint8_t>& key) override;
+    uint64_t openEventChannel() override;
+    void closeEventChannel(uint64_t channel) override;
+    std::shared_ptr<EventReport> getCurrentEvents(uint64_t channel, uint32_t limit) override;
+    void openTraceFileMonitoringLink(uint64_t handle, const std::wstring& traceFile) override;
+    void startTraceFileMonitoringLink(uint64_t handle) override;
+    void stopTraceFileMonitoringLink(uint64_t handle) override;
+    void closeTraceFileMonitoringLink(uint64_t handle) override;
+    void saveInterfaceConfiguration() override;
+    std::vector<std::shared_ptr<ScanInterfaceResult>>
+    scanInterfaceConnection(const std::vector<std::wstring>& interfaces) override;
+    uint64_t scanInterfaceConnectionAsync(const std::vector<std::wstring>& interfaces,
+                                          ScanInterfaceConnectionCallback* callback) override;
+    void disconnect() override;
+    std::wstring getInterfaceLongName(const std::wstring& name) override;
+    std::vector<std::shared_ptr<ReadDataResult>>
+    readMeasurementValues(const std::wstring& target,
+                          const std::vector<std::wstring>& names) override;
+    uint64_t readMeasurementValuesAsync(const std::wstring& target,
+                                        const std::vector<std::wstring>& names,
+                                        ReadMeasurementValuesCallback* callback) override;
+    std::vector<uint8_t> readFile(const std::wstring& path, uint64_t value1, uint32_t value2,
+                                  bool flag) override;
+    void connectInterfaces() override;
+    void disconnectInterfaces() override;
+    void executeDoIPBroadcast() override;
+    void refreshProjectList() override;
+    std::vector<std::shared_ptr<VariantIdentResult>>
+    identifyTargets(const std::vector<std::wstring>& targets) override;
+    uint64_t identifyTargetsAsync(const std::vector<std::wstring>& targets,
+                                  IdentifyTargetsCallback* callback) override;
+    std::vector<std::shared_ptr<ParameterInfo>>
+    getActuatorServiceInfos(const std::wstring& text1, const std::wstring& text2) override;
+    void releaseSocketBridge(uint64_t bridge) override;
+    uint64_t createSocketBridge(uint32_t value1, uint32_t value2) override;
+    void reserved70() override;
+    void reserved71() override;
+    void reserved72() override;
+    std::vector<std::shared_ptr<ParameterInfo>>
+    getSingleMeasurementValueInfos(const std::wstring& target,
+                                   const std::vector<std::wstring>& names) override;
+    std::vector<std::shared_ptr<Target>>
+    getFilteredTargets(const std::vector<std::shared_ptr<TargetFilter>>& filters) override;
+    bool isProjectConversionRequired(const std::wstring& projectPath) override;
+    void convertProject(const std::wstring& projectPath) override;
+    void saveMoxConfiguration() override;
+    uint64_t startCyclicServices(const std::wstring& target,
+                                 const std::vector<std::shared_ptr<ServiceInput>>& services,
+                                 uint32_t cycleTime) override;
+    std::vector<std::shared_ptr<ServiceResult>> getCyclicResults(uint64_t cyclic) override;
+    void stopCyclicServices(uint64_t cyclic) override;
+    std::shared_ptr<ProjectDetails> getProjectDetails() override;
+    void clearLinkCache() override;
+    void addResource(const std::wstring& name, std::shared_ptr<ResourceInformation> resource,
+                     uint16_t value) override;
+    void removeInterface(const std::wstring& name) override;
+    std::shared_ptr<InterfaceInformation>
+    addInterface(std::shared_ptr<InterfaceInformation> interfaceInfo, const std::wstring& text1,
+                 const std::wstring& text2, const std::wstring& text3) override;
+    void removeResource(const std::wstring& name1, const std::wstring& name2) override;
+    std::shared_ptr<SystemProperty> getSystemProperty(const std::wstring& name) override;
+    void resetSystemProperty(const std::wstring& name) override;
+    void setSystemProperty(std::shared_ptr<SystemProperty> property) override;
+    std::vector<std::wstring>
+    getVendorModuleNames(std::shared_ptr<InterfaceInformation> interfaceInfo) override;
+    std::vector<std::wstring> getVendorModuleNamesEx(const std::wstring& text) override;
+    std::vector<std::shared_ptr<ServiceResult>>
+    executeService(const std::wstring& target,
+                   const std::vector<std::shared_ptr<ServiceInput>>& services) override;
+    uint64_t executeServiceAsync(const std::wstring& target,
+                                 const std::vector<std::shared_ptr<ServiceInput>>& services,
+                                 ExecuteServiceCallback* callback) override;
+    std::vector<std::shared_ptr<ModuleDyn>>
+    detectDynInterfaces(uint32_t value, std::shared_ptr<DynInterfaceDetection> detection) override;
+    uint64_t detectDynInterfacesAsync(uint32_t value,
+                                      std::shared_ptr<DynInterfaceDetection> detection,
+                                      DetectDynInterfacesCallback* callback) override;
+    void connectDynInterface(const std::wstring& name, bool flag,
+                             std::shared_ptr<DynInterfaceDetection> detection) override;
+    void disconnectDynInterfaces(const std::vector<std::wstring>& names) override;
+    void updateCyclicServices(uint64_t cyclic,
+                              const std::vector<std::shared_ptr<ServiceInput>>& services) override;
+    void cancelAsyncCalls(const std::vector<uint64_t>& callIds) override;
+    std::shared_ptr<DirectoryInfo> getProjectDirectory(bool flag) override;
+    std::shared_ptr<DirectoryInfo> getSelectedProjectDirectory(bool flag) override;
+    uint32_t writeFile(const std::wstring& path, const std::vector<uint8_t>& data, uint32_t value,
+                       bool flag) override;
+    std::shared_ptr<KelError>
+    deleteFiles(const std::vector<std::shared_ptr<FileInfo>>& files) override;
+    std::vector<std::shared_ptr<DirectoryInfo>>
+    findDirectories(std::shared_ptr<DirectoryInfo> directory, const std::wstring& pattern,
+                    bool flag) override;
+    std::vector<std::shared_ptr<FileInfo>>
+    findFiles(const std::wstring& directory, const std::wstring& pattern, bool flag) override;
+    std::shared_ptr<DirectoryInfo>
+    initializeDirectoryElements(std::shared_ptr<DirectoryInfo> directory, bool flag) override;
+    std::shared_ptr<FileInfo> createFile(std::shared_ptr<DirectoryInfo> parent,
+                                         const std::wstring& name) override;
+    std::shared_ptr<DirectoryInfo> createDirectory(std::shared_ptr<DirectoryInfo> parent,
+                                                   const std::wstring& name) override;
+    std::shared_ptr<KelError> deleteDirectory(const std::wstring& path) override;
+    std::shared_ptr<DirectoryInfo> getTraceDirectory(bool flag) override;
+    std::wstring createVehicleReport(std::shared_ptr<VehicleReportConfig> config) override;
+    std::vector<std::shared_ptr<EcuOrderEntry>> readEcuOrder(const std::wstring& path) override;
+    std::vector<std::shared_ptr<EcuOrderEntry>>
+    filterEcuOrder(const std::vector<std::shared_ptr<EcuOrderEntry>>& entries,
+                   const std::vector<std::wstring>& targets) override;
+    std::vector<std::shared_ptr<EcuOrderEntry>> addMissingTargetsToEcuOrder(
+        const std::vector<std::shared_ptr<EcuOrderEntry>>& entries) override;
+    uint64_t lock() override;
+    void unlock(uint64_t lockId) override;
+    bool isLocked() override;
+    void breakLock() override;
+    void setEthernetPinState(uint8_t state, const std::vector<std::wstring>& interfaces) override;
+    uint32_t getEthernetPinState(const std::wstring& interfaceName) override;
+    std::vector<std::shared_ptr<ModuleDyn>> detectDynInterfacesEx(uint32_t value) override;
+    uint64_t detectDynInterfacesExAsync(uint32_t value,
+                                        DetectDynInterfacesExCallback* callback) override;
+    void connectDynInterfaceEx(const std::wstring& name, bool flag) override;
+    void addUser(const std::wstring& text1, const std::wstring& text2, uint32_t value) override;
+    void removeUser(const std::wstring& text) override;
+    std::vector<std::shared_ptr<UserInfo>> getUsers() override;
+    void logOut(std::shared_ptr<LogInOutConfig> config) override;
+    void updateUser(const std::wstring& text1, const std::wstring& text2, const std::wstring& text3,
+                    uint32_t value) override;
+    bool getServerUserManagement() override;
+    void setServerUserManagement(bool enabled) override;
+    void registerServerHandler(std::shared_ptr<ServerHandler> handler) override;
+    void reserved132() override;
+    void disconnectAllClients() override;
+    bool testSocketBridge(uint64_t bridge) override;
+    void reserved135() override;
+    std::vector<std::shared_ptr<FileCopyResult>>
+    copyFiles(std::shared_ptr<FileCopyConfig> config) override;
+    uint64_t copyFilesAsync(std::shared_ptr<FileCopyConfig> config,
+                            CopyFilesCallback* callback) override;
+    std::vector<std::shared_ptr<DirectoryCopyResult>>
+    copyDirectories(std::shared_ptr<DirectoryCopyConfig> config) override;
+    uint64_t copyDirectoriesAsync(std::shared_ptr<DirectoryCopyConfig> config,
+                                  CopyDirectoriesCallback* callback) override;
+    std::wstring calculateChecksum(const std::wstring& path, int32_t algorithm) override;
+    void reserved141() override;
+    void reserved142() override;
+    void reserved143() override;
+    void reserved144() override;
+    uint64_t runSequence(const std::wstring& sequence,
+                         const std::vector<std::wstring>& arguments) override;
+    std::shared_ptr<UnlockResult>
+    unlockVehicle(const std::wstring& target,
+                  const std::vector<std::shared_ptr<ServiceInput>>& services) override;
+    uint64_t releaseVehicleUnlock(uint64_t value) override;
+    void cancelSequence(uint64_t run) override;
+    std::vector<std::shared_ptr<DeviceInfo>> getRegisteredDevices() override;
+    std::shared_ptr<SystemInfo> getSystemInfo() override;
+    void applyUpdatePackage(const std::wstring& package) override;
+    void renameFile(const std::wstring& path, const std::wstring& newName) override;
+    void onConnectionBroken() override;
+    std::vector<std::shared_ptr<UpdatePackageInfo>> getUpdatePackages() override;
+    std::vector<std::shared_ptr<UpdatePackageInfo>> getPackagesFromBroker() override;
+    bool checkUpdatesOnBroker() override;
+    bool autoUpdate() override;
+    std::shared_ptr<DirectoryInfo> getConfigDirectory(bool flag) override;
+    void reserved159() override;
+    uint64_t createApiTraceMonitor() override;
+    std::vector<uint8_t> getApiTraceContent(uint64_t handle, uint32_t value1,
+                                            int32_t value2) override;
+    void releaseApiTraceMonitor(uint64_t handle) override;
+    std::vector<std::shared_ptr<NamedItem>> getCurrentVersions() override;
+    bool checkUpdateSuccess() override;
+    void cleanUpdateTmp() override;
+    std::vector<std::shared_ptr<FlashSessionResult>>
+    executeFlashSessionsConfig(std::shared_ptr<FlashSessionsConfig> config) override;
+    uint64_t executeFlashSessionsConfigAsync(std::shared_ptr<FlashSessionsConfig> config,
+                                             ExecuteFlashSessionsConfigCallback* callback) override;
+    std::vector<std::shared_ptr<LoadDatabaseResult>>
+    loadDatabaseFile(const std::vector<std::wstring>& files) override;
+    std::vector<std::shared_ptr<FileInfo>>
+    copyProjectWithFilters(const std::vector<std::shared_ptr<FileFilter>>& filters, bool flag,
+                           std::shared_ptr<FileCopyConfig> config,
+                           const std::wstring& text) override;
+    void reserved170() override;
+    void reserved171() override;
+    bool reconnectRemoteServer(uint64_t handle) override;
+    std::vector<std::wstring> filterFiles(const std::vector<std::shared_ptr<FileFilter>>& filters,
+                                          const std::wstring& text) override;
+    void reserved174() override;
+    std::vector<std::shared_ptr<LoadDatabaseResult>>
+    unloadDatabaseFile(const std::vector<std::wstring>& files) override;
+    std::vector<std::shared_ptr<DirectoryInfo>> getPublicDirectories() override;
+    std::vector<std::shared_ptr<VehicleUpdateResult>>
+    updateVehicle(std::shared_ptr<VehicleUpdateConfig> config) override;
+    uint64_t updateVehicleAsync(std::shared_ptr<VehicleUpdateConfig> config,
+                                UpdateVehicleCallback* callback) override;
+    std::vector<std::shared_ptr<ServiceResult>> executeServiceInDefaultSession(
+        const std::wstring& target,
+        const std::vector<std::shared_ptr<ServiceInput>>& services) override;
+    uint64_t
+    executeServiceInDefaultSessionAsync(const std::wstring& target,
+                                        const std::vector<std::shared_ptr<ServiceInput>>& services,
+                                        ExecuteServiceInDefaultSessionCallback* callback) override;
+    std::vector<std::shared_ptr<TargetStatus>>
+    getTargetStatus(const std::vector<std::wstring>& targets) override;
+    std::vector<std::shared_ptr<PhysicalLinksOnModule>>
+    getPhysicalLinks(const std::vector<std::wstring>& modules) override;
+    std::vector<std::shared_ptr<PhysicalLinksOnModule>>
+    setPhysicalLinks(const std::vector<std::shared_ptr<PhysicalLinksOnModule>>& links) override;
+    bool moveFile(const std::wstring& source, const std::wstring& target) override;
+    bool moveDirectory(const std::wstring& source, const std::wstring& target) override;
+    bool pathExists(const std::wstring& path) override;
+    void reserved187() override;
+    std::wstring resolvePath(const std::wstring& path) override;
+    void reserved189() override;
+    void reserved190() override;
+    std::vector<std::shared_ptr<VehicleData>> getVehicleData() override;
+    std::vector<std::shared_ptr<ProjectDetails>>
+    getProjectsDetails(const std::vector<std::wstring>& projectNames) override;
+    void uploadReport(std::shared_ptr<UploadReportConfiguration> config) override;
+    std::vector<std::shared_ptr<FileReferenceResult>>
+    getFileReferences(const std::vector<std::wstring>& files) override;
+    void onConnectionClosed() override;
+    bool openTerminal() override;
+    void closeTerminal() override;
+    void reserved198() override;
+    void reserved199() override;
+    bool isDirectory(const std::wstring& path) override;
+    std::shared_ptr<DirectoryInfo> getDirectoryInfo(const std::wstring& path, bool flag) override;
+    std::shared_ptr<FileInfo> getFileInfo(const std::wstring& path) override;
+    bool isFile(const std::wstring& path) override;
+    std::shared_ptr<WLanSignalData> getWLanSignalData(const std::wstring& interfaceName) override;
+    std::vector<std::shared_ptr<KelError>> clearDoIPEcuCollection() override;
+    void setBrokerUrl(const std::wstring& url) override;
+    std::vector<std::shared_ptr<PathCopyResult>>
+    copyPath(std::shared_ptr<PathCopyConfig> config) override;
+    uint64_t copyPathAsync(std::shared_ptr<PathCopyConfig> config,
+                           CopyPathCallback* callback) override;
+    void reserved209() override;
+    void reserved210() override;
+    void reserved211() override;
+    void reserved212() override;
+    bool thirdPartyLogin(const std::wstring& text) override;
+    void clearUpdatePackages() override;
+    std::wstring getThirdPartyLoginUrl(const std::wstring& text) override;
+    void selectDynamicProject(const std::wstring& projectName,
+                              const std::vector<std::wstring>& items) override;
+    std::wstring getCertificateByPublicKey(const std::wstring& text1, const std::wstring& text2,
+                                           const std::wstring& text3,
+                                           const std::wstring& text4) override;
+    std::wstring createCertificateFromCSR(const std::wstring& text1, const std::wstring& text2,
+                                          const std::wstring& text3, const std::wstring& text4,
+                                          const std::wstring& text5,
+                                          const std::wstring& text6) override;
+    std::vector<std::wstring> getCertificateChainById(const std::wstring& text1,
+                                                      const std::wstring& text2,
+                                                      const std::wstring& text3) override;
+    std::vector<std::shared_ptr<EcuOrderEntry>> createDefaultECUOrder() override;
+    std::vector<std::shared_ptr<CodingFileResult>>
+    writeCodingFile(const std::wstring& codingFile,
+                    const std::vector<std::wstring>& targets) override;
+    uint64_t writeCodingFileAsync(const std::wstring& codingFile,
+                                  const std::vector<std::wstring>& targets,
+                                  WriteCodingFileCallback* callback) override;
+    void writeEcuOrder(const std::wstring& path,
+                       const std::vector<std::shared_ptr<EcuOrderEntry>>& entries) override;
+    std::wstring getEcuOrderFilePath() override;
+    std::vector<std::shared_ptr<VehicleUpdateResult>>
+    performVehicleUpdate(const std::vector<std::shared_ptr<EcuOrderEntry>>& entries,
+                         std::shared_ptr<VehicleUpdateConfig> config) override;
+    uint64_t performVehicleUpdateAsync(const std::vector<std::shared_ptr<EcuOrderEntry>>& entries,
+                                       std::shared_ptr<VehicleUpdateConfig> config,
+                                       PerformVehicleUpdateCallback* callback) override;
+    void triggerAsyncCancels(const std::vector<uint64_t>& callIds) override;
+    std::vector<std::shared_ptr<ServiceResult>>
+    executeSequence(const std::wstring& target, const std::wstring& sequence,
+                    const std::vector<std::shared_ptr<ParameterInput>>& parameters) override;
+    uint64_t executeSequenceAsync(const std::wstring& target, const std::wstring& sequence,
+                                  const std::vector<std::shared_ptr<ParameterInput>>& parameters,
+                                  ExecuteSequenceCallback* callback) override;
+    void addPublicDirectory(const std::wstring& name, const std::wstring& path) override;
+    std::wstring createVehicleUpdateReport(
+        const std::vector<std::shared_ptr<VehicleUpdateResult>>& results) override;
+    std::shared_ptr<ParameterInfo>
+    getParameterInfo(std::shared_ptr<ParameterInfoConfig> config) override;
+    std::vector<std::shared_ptr<EcuConfigurationResult>>
+    performEcuConfiguration(const std::vector<std::wstring>& targets,
+                            const std::wstring& configuration) override;
+    uint64_t performEcuConfigurationAsync(const std::vector<std::wstring>& targets,
+                                          const std::wstring& configuration,
+                                          PerformEcuConfigurationCallback* callback) override;
+    std::vector<std::shared_ptr<ClearDtcResult>>
+    clearSpecificDtcs(const std::wstring& target, const std::vector<uint32_t>& dtcCodes) override;
+    uint64_t clearSpecificDtcsAsync(const std::wstring& target,
+                                    const std::vector<uint32_t>& dtcCodes,
+                                    ClearSpecificDtcsCallback* callback) override;
+    void startSOVDServer() override;
+    void stopSOVDServer() override;
+    void logIn(std::shared_ptr<LogInOutConfig> config) override;
+    std::shared_ptr<VehicleUpdateConfig>
+    createVehicleUpdateConfig(const std::vector<std::wstring>& targets) override;
+    std::vector<std::shared_ptr<ProjectConfig>> getProjectConfigurations() override;
+    int32_t getState() override;
+    std::wstring getVersion() override;
+    std::wstring getSelectedProject() override;
+    void setSelectedProject(const std::wstring& projectName) override;
+    std::shared_ptr<TarnApiConfig> getConfiguration() override;
+    void setConfiguration(std::shared_ptr<TarnApiConfig> config) override;
+    std::shared_ptr<ServerSettings> getServerSettings() override;
+    std::shared_ptr<VehicleInformation> getSelectedVehicleInformation() override;
+    void setSelectedVehicleInformation(std::shared_ptr<VehicleInformation> information) override;
+    std::vector<std::shared_ptr<Target>> getTargets() override;
+    std::shared_ptr<ProcessInfo> getProcessInfo() override;
+    std::shared_ptr<TransmissionInfo> getTransmissionInfo() override;
+    uint64_t getHandle() override;
+    std::shared_ptr<MoxConfig> getMoxConfiguration() override;
+    void setMoxConfiguration(std::shared_ptr<MoxConfig> config) override;
+    std::shared_ptr<InterfaceConfiguration> getInterfaceConfiguration() override;
+    void setInterfaceConfiguration(std::shared_ptr<InterfaceConfiguration> config) override;
+    std::vector<std::wstring> getMonitoringLinks() override;
+    std::vector<std::shared_ptr<GlobalProtocolParameterSet>>
+    getGlobalProtocolParameterSets() override;
+    void setGlobalProtocolParameterSets(
+        const std::vector<std::shared_ptr<GlobalProtocolParameterSet>>& sets) override;
+    std::shared_ptr<StatusInfo> getStatusInfo() override;
+    std::vector<std::shared_ptr<TargetFilter>> getSessionTargetFilters() override;
+    void
+    setSessionTargetFilters(const std::vector<std::shared_ptr<TargetFilter>>& filters) override;
+    std::vector<std::shared_ptr<SupportedInterface>> getSupportedInterfaces() override;
+    std::vector<std::shared_ptr<InterfaceProvider>> getInterfaceProviders() override;
+    void setInterfaceProviders(
+        const std::vector<std::shared_ptr<InterfaceProvider>>& providers) override;
+    std::wstring getCurrentDebugTraceDirectory() override;
+    std::shared_ptr<TarnApiServerConfig> getServerConfiguration() override;
+    uint64_t getCallDuration() override;
+    void setStatusText(const std::wstring& text) override;
+    std::shared_ptr<DoIPParameter> getDefaultDoIPParameter() override;
+
+private:
+    Families families_;
+};
+
+} // namespace Varno::Kel_cpp::Reference
