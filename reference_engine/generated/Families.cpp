@@ -430,7 +430,7 @@ std::vector<std::shared_ptr<InterfaceProvider>> InterfacesFamily::getInterfacePr
     throw unsupported("getInterfaceProviders");
 }
 void InterfacesFamily::setInterfaceProviders(
-    const std::vector<std::shared_ptr<InterfaceProvider>>&) {
+    const std::vector<std::shared_ptr<InterfaceProviderDyn>>&) {
     throw unsupported("setInterfaceProviders");
 }
 std::shared_ptr<DoIPParameter> InterfacesFamily::getDefaultDoIPParameter() {
@@ -1587,7 +1587,7 @@ std::vector<std::shared_ptr<InterfaceProvider>> FamilyRouter::getInterfaceProvid
     return families_.interfaces->getInterfaceProviders();
 }
 void FamilyRouter::setInterfaceProviders(
-    const std::vector<std::shared_ptr<InterfaceProvider>>& providers) {
+    const std::vector<std::shared_ptr<InterfaceProviderDyn>>& providers) {
     return families_.interfaces->setInterfaceProviders(providers);
 }
 std::wstring FamilyRouter::getCurrentDebugTraceDirectory() {

@@ -312,7 +312,7 @@ public:
     virtual std::vector<std::shared_ptr<SupportedInterface>> getSupportedInterfaces();
     virtual std::vector<std::shared_ptr<InterfaceProvider>> getInterfaceProviders();
     virtual void
-    setInterfaceProviders(const std::vector<std::shared_ptr<InterfaceProvider>>& providers);
+    setInterfaceProviders(const std::vector<std::shared_ptr<InterfaceProviderDyn>>& providers);
     virtual std::shared_ptr<DoIPParameter> getDefaultDoIPParameter();
 };
 
@@ -997,7 +997,7 @@ public:
     std::vector<std::shared_ptr<SupportedInterface>> getSupportedInterfaces() override;
     std::vector<std::shared_ptr<InterfaceProvider>> getInterfaceProviders() override;
     void setInterfaceProviders(
-        const std::vector<std::shared_ptr<InterfaceProvider>>& providers) override;
+        const std::vector<std::shared_ptr<InterfaceProviderDyn>>& providers) override;
     std::wstring getCurrentDebugTraceDirectory() override;
     std::shared_ptr<TarnApiServerConfig> getServerConfiguration() override;
     uint64_t getCallDuration() override;
