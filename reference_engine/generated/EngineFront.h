@@ -3,7 +3,7 @@
 // - UnsupportedTarnApi answers every operation with a TarnApiException naming it;
 //   the simulated vehicle overrides what it supports.
 // - EngineFront is the object callers get: it records each call's arguments, lets
-//   tests script failures, times the call, then forwards to the vehicle.
+//   tests script failures and results, times the call, then forwards to the vehicle.
 #pragma once
 
 #include "Script.h"
