@@ -1,6 +1,6 @@
 // What tests can observe and steer in the reference engine without recompiling: every
-// call's arguments, scripted failures for the next calls of an operation, and delays.
-// Reached from C through kel_sim.h.
+// call's arguments, scripted failures, scripted results for the next calls of an
+// operation, and delays. Reached from C through kel_sim.h.
 #pragma once
 
 #include "Describe.h"
@@ -8,19 +8,41 @@
 
 #include <Kel_cpp/TarnApiException.h>
 
+#include <any>
 #include <atomic>
 #include <chrono>
 #include <cstdint>
+#include <deque>
+#include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
 namespace Varno::Kel_cpp::Reference {
 
 // The exception an operation of a family the simulated vehicle does not have yet throws.
 TarnApiException unsupported(const char* operation);
+
+// How the scripted result of one operation is read: the generated table has one entry
+// per operation. `parse` turns the JSON text into the value the operation returns (for
+// an asynchronous operation: the results its callback receives; for a void one: an
+// empty any) or throws ScriptError; it is null where no JSON can describe the result.
+struct ScriptedOperation {
+    std::string_view name;
+    std::any (*parse)(std::string_view json);
+};
+std::span<const ScriptedOperation> scriptedOperations();
+
+// Hands `report` to the engine's delivery thread, which runs it shortly after (so after
+// the engine call that asked for it has returned). Reports run one at a time, in order.
+void deliverLater(std::function<void()> report);
+// Runs every report still waiting and returns once none is left (at once when called
+// from a report itself).
+void deliverNow();
 
 // Duration of the calls made through one engine object, in microseconds.
 class CallClock {
@@ -63,7 +85,38 @@ public:
     void setDelay(const std::string& operation, std::chrono::milliseconds delay);
     std::optional<std::string> lastArguments(const std::string& operation) const;
     uint64_t callCount(const std::string& operation) const;
-    // Forgets every scripted failure, delay and recorded call.
+
+    // Queues the result described by `json` for the next call of `operation`. Returns
+    // false, with the reason in lastScriptError(), when the operation is unknown, its
+    // result cannot be scripted, or the JSON does not describe a value of its type.
+    bool scriptResult(const std::string& operation, std::string_view json);
+    std::string lastScriptError() const;
+
+    // The result scripted for this call of `operation`, if any; consumes it. Called after
+    // enter(), so a scripted failure wins and leaves the result for the next call.
+    template <class T>
+    std::optional<T> scripted(const char* operation) {
+        auto result = takeResult(operation);
+        if (!result) {
+            return std::nullopt;
+        }
+        return std::any_cast<T>(std::move(*result));
+    }
+    bool scriptedVoid(const char* operation) { return takeResult(operation).has_value(); }
+
+    // Delivers scripted results of an asynchronous call: one final report without error,
+    // from the delivery thread. Returns the call id.
+    template <class Callback, class Results>
+    uint64_t deliver(Callback* callback, Results results) {
+        const uint64_t id = newScriptedCallId();
+        deliverLater([callback, id, results = std::move(results)]() mutable {
+            callback->onCompleted(std::move(results), id, nullptr, true);
+        });
+        return id;
+    }
+
+    // Forgets every scripted failure, result, delay and recorded call, after the scripted
+    // reports still waiting have been delivered.
     void reset();
 
 private:
@@ -73,11 +126,15 @@ private:
         uint32_t failures = 0;
         TarnApiException failure;
         std::chrono::milliseconds delay{0};
+        std::deque<std::any> results; // scripted, oldest first
     };
     void record(const char* operation, std::string arguments);
+    std::optional<std::any> takeResult(const char* operation);
+    static uint64_t newScriptedCallId();
 
     mutable std::mutex mutex_;
     std::map<std::string, Entry, std::less<>> entries_;
+    std::string scriptError_;
 };
 
 } // namespace Varno::Kel_cpp::Reference

@@ -13,6 +13,16 @@ namespace {
 
 std::wstring text(const wchar_t* value) { return value != nullptr ? value : L""; }
 
+// Copies as much of `value` as fits, NUL-terminated; returns its full length.
+int64_t copyOut(const std::string& value, char* buffer, size_t size) {
+    if (buffer != nullptr && size > 0) {
+        const size_t n = std::min(size - 1, value.size());
+        std::memcpy(buffer, value.data(), n);
+        buffer[n] = '\0';
+    }
+    return static_cast<int64_t>(value.size());
+}
+
 } // namespace
 
 extern "C" {
@@ -45,15 +55,18 @@ void kelsim_setDelay(const char* operation, uint32_t milliseconds) {
 
 int64_t kelsim_lastArguments(const char* operation, char* buffer, size_t size) {
     const auto arguments = Script::global()->lastArguments(operation);
-    if (!arguments) {
-        return -1;
-    }
-    if (buffer != nullptr && size > 0) {
-        const size_t n = std::min(size - 1, arguments->size());
-        std::memcpy(buffer, arguments->data(), n);
-        buffer[n] = '\0';
-    }
-    return static_cast<int64_t>(arguments->size());
+    return arguments ? copyOut(*arguments, buffer, size) : -1;
+}
+
+int32_t kelsim_scriptResult(const char* operation, const char* json) {
+    return Script::global()->scriptResult(operation != nullptr ? operation : "",
+                                          json != nullptr ? json : "")
+               ? 0
+               : -1;
+}
+
+int64_t kelsim_lastScriptError(char* buffer, size_t size) {
+    return copyOut(Script::global()->lastScriptError(), buffer, size);
 }
 
 uint64_t kelsim_callCount(const char* operation) { return Script::global()->callCount(operation); }

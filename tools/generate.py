@@ -635,6 +635,15 @@ def test_records_h(iface: kelidl.Interface) -> str:
     return "\n".join(out) + "\n"
 
 
+def engine_records_list_h(iface: kelidl.Interface) -> str:
+    names = ",\n".join(f"    {ENGINE_NS}::{rec.name}" for rec in iface.records.values())
+    return "\n".join([f"// {BANNER}",
+                      "// Every engine record class, for tests that run over all of them.",
+                      "#pragma once", "", "#include <Kel_cpp/Records.h>", "", "#include <tuple>", "",
+                      "namespace kel_test {", "", f"using EngineRecords = std::tuple<\n{names}>;", "",
+                      "} // namespace kel_test"]) + "\n"
+
+
 def binding_exports_cpp(iface: kelidl.Interface) -> str:
     out = [f"// {BANNER}", "// The exports: each one line over the generic frame.", "",
            '#include "frame.h"', '#include "generated/handlers.h"', "", 'extern "C" {', ""]
@@ -660,17 +669,12 @@ def exports_txt(iface: kelidl.Interface) -> str:
 
 def engine_front_h(iface: kelidl.Interface) -> str:
     out = [f"// {BANNER}",
-           "// The reference engine's two generated layers:",
-           "// - UnsupportedTarnApi answers every operation with a TarnApiException naming it;",
-           "//   the simulated vehicle overrides what it supports.",
-           "// - EngineFront is the object callers get: it records each call's arguments, lets",
-           "//   tests script failures, times the call, then forwards to the vehicle.",
+           "// EngineFront is the object callers get: it records each call's arguments, lets",
+           "// tests script failures and results, times the call, then forwards to the vehicle",
+           "// (a FamilyRouter, Families.h).",
            "#pragma once", "", "#include <Kel_cpp/TarnApi.h>", "", '#include "Script.h"', "",
-           "#include <memory>", "", f"namespace {ENGINE_NS}::Reference {{", "",
-           "class UnsupportedTarnApi : public TarnApi {", "public:"]
-    for op in iface.operations:
-        out.append(f"    {engine_signature(op)} override;")
-    out += ["};", "", "class EngineFront final : public TarnApi {", "public:",
+           "#include <memory>", "", f"namespace {ENGINE_NS}::Reference {{", ""]
+    out += ["class EngineFront final : public TarnApi {", "public:",
             "    EngineFront(std::shared_ptr<TarnApi> vehicle, std::shared_ptr<Script> script,",
             "                std::shared_ptr<CallClock> clock);",
             "    const std::shared_ptr<Script>& script() const { return script_; }",
@@ -686,12 +690,7 @@ def engine_front_h(iface: kelidl.Interface) -> str:
 def engine_front_cpp(iface: kelidl.Interface) -> str:
     out = [f"// {BANNER}", "", '#include "EngineFront.h"', "", "#include <utility>", "",
            f"namespace {ENGINE_NS}::Reference {{", ""]
-    for op in iface.operations:
-        ret, rest = engine_signature(op, names=False).split(f" {op.name}(", 1)
-        out.append(f"{ret} UnsupportedTarnApi::{op.name}({rest} {{")
-        out.append(f'    throw unsupported("{op.name}");')
-        out.append("}")
-    out += ["", "EngineFront::EngineFront(std::shared_ptr<TarnApi> vehicle, std::shared_ptr<Script> script,",
+    out += ["EngineFront::EngineFront(std::shared_ptr<TarnApi> vehicle, std::shared_ptr<Script> script,",
             "                         std::shared_ptr<CallClock> clock)",
             "    : vehicle_(std::move(vehicle)), script_(std::move(script)), clock_(std::move(clock)) {}", ""]
     for op in iface.operations:
@@ -701,6 +700,7 @@ def engine_front_cpp(iface: kelidl.Interface) -> str:
         out.append(f"{ret} EngineFront::{op.name}({rest} {{")
         out.append(f'    const auto call = script_->enter(*clock_, "{op.name}"' +
                    "".join(f", {n}" for n in names) + ");")
+        out += scripted_return(op)
         out.append(f"    return vehicle_->{op.name}({', '.join(names)});")
         out.append("}")
     out += ["", f"}} // namespace {ENGINE_NS}::Reference"]
@@ -750,6 +750,46 @@ def engine_families_h(iface: kelidl.Interface) -> str:
     for op in iface.operations:
         out.append(f"    {engine_signature(op)} override;")
     out += ["", "private:", "    Families families_;", "};", "",
+            f"}} // namespace {ENGINE_NS}::Reference"]
+    return "\n".join(out) + "\n"
+
+
+def scripted_type(op: kelidl.Operation) -> str | None:
+    """What a scripted result of `op` holds, "void", or None when it cannot be scripted."""
+    if op.is_async:
+        return engine_result(op.sync.result)
+    if op.reserved or op.result is None:
+        return "void"
+    if op.result.kind == "engine":
+        return None
+    return engine_result(op.result)
+
+
+def scripted_return(op: kelidl.Operation) -> list[str]:
+    """The front's check for a scripted result, right after the call is recorded."""
+    kind = scripted_type(op)
+    if kind is None:
+        return []
+    if kind == "void":
+        return [f'    if (script_->scriptedVoid("{op.name}")) {{', "        return;", "    }"]
+    done = "script_->deliver(callback, std::move(*scripted))" if op.is_async else "std::move(*scripted)"
+    return [f'    if (auto scripted = script_->scripted<{kind}>("{op.name}")) {{',
+            f"        return {done};", "    }"]
+
+
+def scripted_results_cpp(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}",
+           "// How the scripted result of each operation is read from JSON: the value the",
+           "// operation returns (an asynchronous one: what its callback receives).", "",
+           '#include "Parse.h"', '#include "Script.h"', "", "#include <array>", "",
+           f"namespace {ENGINE_NS}::Reference {{", "",
+           "namespace {", "", "constexpr std::array operations{"]
+    for op in iface.operations:
+        kind = scripted_type(op)
+        parse = "nullptr" if kind is None else f"&parseResult<{kind}>"
+        out.append(f'    ScriptedOperation{{"{op.name}", {parse}}},')
+    out += ["};", "", "} // namespace", "",
+            "std::span<const ScriptedOperation> scriptedOperations() { return operations; }", "",
             f"}} // namespace {ENGINE_NS}::Reference"]
     return "\n".join(out) + "\n"
 
@@ -938,8 +978,10 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
         "reference_engine/generated/EngineFront.cpp": engine_front_cpp(iface),
         "reference_engine/generated/Families.h": engine_families_h(iface),
         "reference_engine/generated/Families.cpp": engine_families_cpp(iface),
+        "reference_engine/generated/ScriptedResults.cpp": scripted_results_cpp(iface),
         "tests/generated/positions.inc": positions_inc(iface),
         "tests/generated/test_records.h": test_records_h(iface),
+        "tests/generated/engine_records.h": engine_records_list_h(iface),
         "interface/generated/EngineFields.h": engine_fields_h(iface),
     }
 

@@ -44,6 +44,27 @@ KEL_SIM_API void kelsim_setDelay(const char* operation, uint32_t milliseconds);
  * without the NUL, or -1 when the operation was never called. */
 KEL_SIM_API int64_t kelsim_lastArguments(const char* operation, char* buffer, size_t size);
 
+/* The next call of `operation` (through any engine object) returns the result that
+ * `json` describes instead of reaching the vehicle; its arguments are recorded as for
+ * any call. `json` has the form kelsim_lastArguments writes values in: records as
+ * objects with exactly their fields in field order (NamedItem's itemText1..4 first),
+ * null for a null record, strings in UTF-8, byte and integer lists and fixed-size
+ * arrays as arrays of numbers, bools as true/false, bit sets as numbers. A void
+ * operation takes `null` and returns at once. An asynchronous operation
+ * ("readDtcsAsync") takes what its synchronous form returns: the call returns a new
+ * call id and the callback receives those results in one final report without error,
+ * from a thread of the engine, shortly after the call returned.
+ * Each scripted result serves one call; several queue in order. A scripted failure
+ * (kelsim_failNext) of the same call wins and leaves the result for the next call.
+ * Returns 0, or -1 (reason from kelsim_lastScriptError) when the operation is unknown,
+ * returns an engine object (connectRemoteServer), or `json` does not describe a value
+ * of its result's type. */
+KEL_SIM_API int32_t kelsim_scriptResult(const char* operation, const char* json);
+
+/* Why the last kelsim_scriptResult returned -1 ("" after a success), copied into
+ * `buffer` as kelsim_lastArguments does; returns the full length. */
+KEL_SIM_API int64_t kelsim_lastScriptError(char* buffer, size_t size);
+
 /* How often `operation` was called since the last reset. */
 KEL_SIM_API uint64_t kelsim_callCount(const char* operation);
 
@@ -85,8 +106,9 @@ KEL_SIM_API void kelsim_failAsync(const char* operation, uint32_t count, int32_t
  * or -1 when no live engine object has it. */
 KEL_SIM_API int64_t kelsim_runningAsyncCalls(uint64_t handle);
 
-/* Forgets scripted failures, delays, recorded calls, asynchronous scripts and the
- * vehicle description set above. */
+/* Forgets scripted failures, results, delays, recorded calls, asynchronous scripts and
+ * the vehicle description set above. Scripted reports of asynchronous calls still on
+ * their way are delivered first, so none arrives after the test that asked for it. */
 KEL_SIM_API void kelsim_reset(void);
 
 #ifdef __cplusplus

@@ -1,0 +1,423 @@
+// Scripted results: JSON read back into every engine record class exactly as it is
+// described, mistakes refused with their place, and scripted results coming back
+// through the exports (synchronous, void and asynchronous) in place of the vehicle's.
+#include "generated/engine_records.h"
+#include "support.h"
+
+#include <Parse.h>
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <limits>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::lastArguments;
+using kel_test::List;
+using Varno::Kel_cpp::Reference::describe;
+using Varno::Kel_cpp::Reference::Json;
+using Varno::Kel_cpp::Reference::parseText;
+using Varno::Kel_cpp::Reference::ScriptError;
+namespace engine = Varno::Kel_cpp;
+using namespace std::chrono_literals;
+
+// Fills a record with distinctive values of every kind: text with quotes, escapes,
+// control, non-ASCII and astral characters (and empty text), both ends of each integer
+// range, lists of a full and a null record, nested records down to `depth`.
+class Filler {
+public:
+    explicit Filler(int depth) : depth_(depth) {}
+
+    void fill(std::wstring& text) {
+        static const wchar_t* const samples[] = {L"Zürich \"quoted\" back\\slash",
+                                                 L"astral \U0001D11E and \u00e9", L"",
+                                                 L"line\nbreak\ttab\x01 end"};
+        text = samples[next_++ % 4];
+    }
+    void fill(bool& value) { value = next_++ % 2 == 0; }
+    template <class T>
+    requires std::is_integral_v<T>
+    void fill(T& value) {
+        using Limits = std::numeric_limits<T>;
+        value = next_++ % 2 == 0 ? Limits::max() : std::is_signed_v<T> ? Limits::min() : T(1);
+    }
+    template <class T>
+    void fill(std::vector<T>& values) {
+        values.resize(2);
+        for (auto& v : values) {
+            fill(v);
+        }
+    }
+    template <class T, std::size_t N>
+    void fill(std::array<T, N>& values) {
+        for (auto& v : values) {
+            fill(v);
+        }
+    }
+    template <class E>
+    void fill(std::shared_ptr<E>& record) {
+        if (depth_ == 0 || next_++ % 5 == 4) { // now and then a null one
+            record.reset();
+            return;
+        }
+        record = std::make_shared<E>();
+        --depth_;
+        std::apply([&](const auto&... field) { (fill((*record).*(field.pointer)), ...); },
+                   engine::Fields::Of<E>::list);
+        ++depth_;
+    }
+
+private:
+    int depth_;
+    unsigned next_ = 0;
+};
+
+template <class E>
+std::string describedSample() {
+    std::shared_ptr<E> record;
+    while (!record) { // the first one is never null, but stay safe
+        Filler(3).fill(record);
+    }
+    std::string text;
+    describe(text, record);
+    return text;
+}
+
+template <class E>
+bool refused(const Json& json) {
+    try {
+        parseText<std::shared_ptr<E>>(json.dump(), "result");
+    } catch (const ScriptError&) {
+        return true;
+    }
+    return false;
+}
+
+template <class Tuple>
+struct AsGtestTypes;
+template <class... E>
+struct AsGtestTypes<std::tuple<E...>> {
+    using type = ::testing::Types<E...>;
+};
+
+template <class E>
+class EveryRecordClass : public ::testing::Test {};
+TYPED_TEST_SUITE(EveryRecordClass, AsGtestTypes<kel_test::EngineRecords>::type);
+
+TYPED_TEST(EveryRecordClass, ReadsBackWhatIsDescribed) {
+    const std::string text = describedSample<TypeParam>();
+    std::string again;
+    describe(again, parseText<std::shared_ptr<TypeParam>>(text, "result"));
+    EXPECT_EQ(again, text);
+    std::string list;
+    describe(list, parseText<std::vector<std::shared_ptr<TypeParam>>>("[" + text + ",null]", "r"));
+    EXPECT_EQ(list, "[" + text + ",null]");
+}
+
+TYPED_TEST(EveryRecordClass, RefusesAnythingButItsExactMembers) {
+    const Json exact = Json::parse(describedSample<TypeParam>());
+    Json extra = exact;
+    extra["notAField"] = 0;
+    EXPECT_TRUE(refused<TypeParam>(extra));
+    EXPECT_TRUE(refused<TypeParam>(Json::array()));
+    if (exact.empty()) {
+        return;
+    }
+    Json missing = exact;
+    missing.erase(std::prev(missing.end()).key());
+    EXPECT_TRUE(refused<TypeParam>(missing));
+    Json wrongValue = exact;
+    wrongValue.front() = Json{{"notAField", 1}}; // a value of no field's type
+    EXPECT_TRUE(refused<TypeParam>(wrongValue));
+    if (exact.size() >= 2) {
+        Json swapped = Json::object();
+        auto it = exact.items().begin();
+        const auto first = it;
+        ++it;
+        swapped[it.key()] = it.value();
+        swapped[first.key()] = first.value();
+        for (++it; it != exact.items().end(); ++it) {
+            swapped[it.key()] = it.value();
+        }
+        EXPECT_TRUE(refused<TypeParam>(swapped)) << swapped.dump();
+    }
+}
+
+std::string refusal(const std::string& text) {
+    try {
+        parseText<std::shared_ptr<engine::ReadDtcResult>>(text, "result");
+    } catch (const ScriptError& e) {
+        return e.what();
+    }
+    return "accepted";
+}
+
+std::string dtcs(const std::string& dtc) {
+    return R"({"status":0,"target":"ECM","error":null,"dtcs":[)" + dtc + R"(],"value":1})";
+}
+const std::string goodDtc =
+    R"({"code":1,"text1":"","text2":"","value1":0,"parameters1":[],"parameters2":[],)"
+    R"("text3":"","text4":"","specialDataGroups":[],"value2":0})";
+
+TEST(ScriptedJson, NamesThePlaceAndTheReasonOfAMistake) {
+    ASSERT_EQ(refusal(dtcs(goodDtc)), "accepted");
+    auto with = [&](const std::string& from, const std::string& to) {
+        std::string dtc = goodDtc;
+        dtc.replace(dtc.find(from), from.size(), to);
+        return refusal(dtcs(dtc));
+    };
+    EXPECT_EQ(with(R"("code":1)", R"("code":2147483648)"),
+              "result.dtcs[0].code: expected an integer from -2147483648 to 2147483647, got "
+              "2147483648");
+    EXPECT_EQ(with(R"("code":1)", R"("code":1.0)").substr(0, 19), "result.dtcs[0].code");
+    EXPECT_EQ(with(R"("code":1)", R"("code":true)").substr(0, 19), "result.dtcs[0].code");
+    EXPECT_EQ(with(R"("text1":"")", R"("text1":7)"),
+              "result.dtcs[0].text1: expected a string, got 7");
+    EXPECT_EQ(with(R"("text1":"",)", ""),
+              R"(result.dtcs[0]: member "text2" where "text1" belongs)");
+    EXPECT_EQ(with(R"(,"value2":0)", ""), R"(result.dtcs[0]: member "value2" is missing)");
+    EXPECT_EQ(with(R"("parameters1":[])", R"("parameters1":{})"),
+              "result.dtcs[0].parameters1: expected an array, got {}");
+    EXPECT_EQ(refusal("[" + dtcs(goodDtc) + "]"), "result: expected an object or null, got [" +
+                                                      Json::parse(dtcs(goodDtc)).dump() + "]");
+    EXPECT_EQ(refusal(R"({"status":0)").substr(0, 18), "not valid JSON: [j");
+    EXPECT_EQ(refusal("\"\xff\"").substr(0, 15), "not valid JSON:") << "invalid UTF-8";
+}
+
+TEST(ScriptedJson, KeepsEveryIntegerRangeExact) {
+    EXPECT_EQ(parseText<uint64_t>("18446744073709551615", "r"),
+              std::numeric_limits<uint64_t>::max());
+    EXPECT_EQ(parseText<int64_t>("-9223372036854775808", "r"), std::numeric_limits<int64_t>::min());
+    EXPECT_EQ(parseText<uint8_t>("255", "r"), 255);
+    EXPECT_THROW(parseText<uint8_t>("256", "r"), ScriptError);
+    EXPECT_THROW(parseText<uint32_t>("-1", "r"), ScriptError);
+    EXPECT_THROW(parseText<int32_t>("-2147483649", "r"), ScriptError);
+    EXPECT_THROW(parseText<uint64_t>("18446744073709551616", "r"), ScriptError) << "a float";
+    EXPECT_THROW(parseText<bool>("1", "r"), ScriptError);
+    using Values = std::array<uint32_t, 3>;
+    EXPECT_EQ(parseText<Values>("[1,2,3]", "r"), (Values{1, 2, 3}));
+    EXPECT_THROW(parseText<Values>("[1,2]", "r"), ScriptError);
+    EXPECT_THROW(parseText<Values>("[1,2,3,4]", "r"), ScriptError);
+}
+
+// ---- through the exports ----------------------------------------------------------
+
+std::string scriptError() {
+    char buffer[512];
+    kelsim_lastScriptError(buffer, sizeof buffer);
+    return buffer;
+}
+
+int32_t state(TarnApi* api) {
+    ErrorSlot error;
+    int32_t value = -1;
+    kel_getState(api, &error, &value);
+    return error ? -error->code : value;
+}
+
+using ScriptedResults = EngineTest;
+
+TEST_F(ScriptedResults, ReplaceTheVehiclesResultOncePerCallInOrder) {
+    ASSERT_EQ(kelsim_scriptResult("getState", "-7"), 0);
+    ASSERT_EQ(kelsim_scriptResult("getState", "2147483647"), 0);
+    EXPECT_EQ(state(api), -7);
+    EXPECT_EQ(state(api), 2147483647);
+    EXPECT_EQ(state(api), 1) << "the vehicle again once the scripted results are used";
+    EXPECT_EQ(kelsim_callCount("getState"), 3U);
+
+    ASSERT_EQ(kelsim_scriptResult("getState", "9"), 0);
+    kelsim_reset();
+    EXPECT_EQ(state(api), 1) << "reset forgets scripted results";
+}
+
+TEST_F(ScriptedResults, AScriptedFailureWinsAndLeavesTheResultForTheNextCall) {
+    ASSERT_EQ(kelsim_scriptResult("getState", "5"), 0);
+    kelsim_failNext("getState", 1, 42, 0, L"failed", nullptr);
+    EXPECT_EQ(state(api), -42);
+    EXPECT_EQ(state(api), 5);
+}
+
+TEST_F(ScriptedResults, AVoidOperationReturnsAtOnceWithItsArgumentsRecorded) {
+    ASSERT_EQ(kelsim_scriptResult("end", "null"), 0);
+    ErrorSlot error;
+    kel_end(api, &error);
+    EXPECT_FALSE(error);
+    EXPECT_EQ(state(api), 1) << "the engine was not ended";
+    EXPECT_EQ(kelsim_scriptResult("stopServer", "0"), -1);
+    EXPECT_EQ(scriptError(),
+              "stopServer: result: expected null (the operation returns nothing), got 0");
+    ASSERT_EQ(kelsim_scriptResult("stopServer", "null"), 0);
+    kel_stopServer(api, L"Zürich \U0001D11E", &error);
+    EXPECT_FALSE(error);
+    EXPECT_EQ(lastArguments("stopServer"), "[\"Zürich \U0001D11E\"]");
+}
+
+TEST_F(ScriptedResults, CarryTextListsBytesAndRecordsExactly) {
+    ASSERT_EQ(kelsim_scriptResult("getVersion", R"("v\"1\" \u00e9 \ud834\udd1e")"), 0);
+    ErrorSlot error;
+    wchar_t* version = nullptr;
+    kel_getVersion(api, &error, &version);
+    ASSERT_FALSE(error);
+    EXPECT_STREQ(version, L"v\"1\" \u00e9 \U0001D11E");
+    release_Memory(version);
+
+    ASSERT_EQ(kelsim_scriptResult("createSeed", "[0,255,16]"), 0);
+    uint8_t* seed = nullptr;
+    uint32_t length = 0;
+    kel_createSeed(api, 1, 2, &error, &seed, &length);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(length, 3U);
+    EXPECT_EQ(std::vector<uint8_t>(seed, seed + length), (std::vector<uint8_t>{0, 255, 16}));
+    release_Memory(seed);
+    EXPECT_EQ(lastArguments("createSeed"), "[1,2]");
+
+    ASSERT_EQ(kelsim_scriptResult("identifyTarget", "null"), 0);
+    VariantIdentResult* ident = nullptr;
+    kel_identifyTarget(api, L"ECM", &error, &ident);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(ident, nullptr) << "ECM exists, but null was scripted";
+
+    ASSERT_EQ(kelsim_scriptResult("readDtcs", ("[" + dtcs(goodDtc) + "]").c_str()), 0);
+    List<ReadDtcResult, release_ReadDtcResult_array> out;
+    kel_readDtcs(api, nullptr, 0, nullptr, &error, &out.items, &out.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(out.count, 1U);
+    EXPECT_STREQ(out.items[0]->target, L"ECM");
+    ASSERT_EQ(out.items[0]->dtcCount, 1U);
+    EXPECT_EQ(out.items[0]->dtcs[0]->code, 1);
+}
+
+TEST_F(ScriptedResults, RefuseWhatCannotBeScriptedAndSayWhy) {
+    EXPECT_EQ(kelsim_scriptResult("noSuchOperation", "null"), -1);
+    EXPECT_EQ(scriptError(), "noSuchOperation: no such operation");
+    EXPECT_EQ(kelsim_scriptResult("connectRemoteServer", "null"), -1);
+    EXPECT_EQ(scriptError(),
+              "connectRemoteServer: returns an engine object, which a scripted result cannot "
+              "describe");
+    EXPECT_EQ(kelsim_scriptResult("getState", "\"1\""), -1);
+    EXPECT_EQ(scriptError(), "getState: result: expected an integer from -2147483648 to "
+                             "2147483647, got \"1\"");
+    EXPECT_EQ(kelsim_scriptResult("readDtcsAsync", dtcs(goodDtc).c_str()), -1)
+        << "an asynchronous operation takes the list its callback receives";
+    EXPECT_EQ(kelsim_scriptResult(nullptr, "null"), -1);
+    EXPECT_EQ(kelsim_scriptResult("getState", nullptr), -1);
+    EXPECT_EQ(kelsim_scriptResult("getState", "3"), 0);
+    EXPECT_EQ(scriptError(), "");
+    EXPECT_EQ(state(api), 3) << "refused scripts queue nothing";
+    EXPECT_EQ(state(api), 1);
+}
+
+// Collects the reports of scripted asynchronous calls (named *Concurrency*: TSan runs it).
+struct Reports {
+    static void callback(ReadDtcResult** results, uint32_t count, bool isFinal, uint64_t callId,
+                         KelError* error, void* context) {
+        auto* self = static_cast<Reports*>(context);
+        std::vector<std::wstring> targets;
+        for (uint32_t i = 0; i < count; ++i) {
+            targets.emplace_back(results[i]->target);
+        }
+        const bool errorless = error == nullptr;
+        release_ReadDtcResult_array(results, count);
+        release_KelError(error);
+        const std::lock_guard lock(self->mutex);
+        self->calls.push_back({callId, isFinal, errorless, std::this_thread::get_id(), targets});
+        self->changed.notify_all();
+    }
+    bool waitFor(std::size_t n) {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, 10s, [&] { return calls.size() >= n; });
+    }
+    struct Call {
+        uint64_t id;
+        bool isFinal;
+        bool errorless;
+        std::thread::id thread;
+        std::vector<std::wstring> targets;
+    };
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<Call> calls;
+};
+
+using ScriptedConcurrency = EngineTest;
+
+TEST_F(ScriptedConcurrency, AsynchronousResultsArriveInOneFinalReportFromAnEngineThread) {
+    kelsim_setAsyncReports("readDtcsAsync", 3); // the vehicle's slicing does not apply
+    const std::string second = dtcs("").replace(dtcs("").find("ECM"), 3, "GW");
+    ASSERT_EQ(kelsim_scriptResult("readDtcsAsync", ("[" + dtcs("") + "," + second + "]").c_str()),
+              0);
+    ASSERT_EQ(kelsim_scriptResult("readDtcsAsync", "[]"), 0);
+    Reports reports;
+    ErrorSlot error;
+    const wchar_t* names[] = {L"ABS"};
+    const uint64_t first = kel_readDtcsAsync(api, const_cast<wchar_t**>(names), 1, nullptr, &error,
+                                             Reports::callback, &reports);
+    const uint64_t next =
+        kel_readDtcsAsync(api, nullptr, 0, nullptr, &error, Reports::callback, &reports);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(lastArguments("readDtcsAsync"), R"([[],null,"callback"])");
+    EXPECT_NE(first, 0U);
+    EXPECT_NE(first, next);
+    ASSERT_TRUE(reports.waitFor(2));
+    const std::lock_guard lock(reports.mutex);
+    ASSERT_EQ(reports.calls.size(), 2U);
+    EXPECT_EQ(reports.calls[0].id, first);
+    EXPECT_TRUE(reports.calls[0].isFinal);
+    EXPECT_TRUE(reports.calls[0].errorless);
+    EXPECT_EQ(reports.calls[0].targets, (std::vector<std::wstring>{L"ECM", L"GW"}));
+    EXPECT_NE(reports.calls[0].thread, std::this_thread::get_id());
+    EXPECT_EQ(reports.calls[1].id, next);
+    EXPECT_TRUE(reports.calls[1].targets.empty());
+}
+
+TEST_F(ScriptedConcurrency, ResetDeliversTheReportsStillOnTheirWay) {
+    Reports reports;
+    for (int i = 0; i < 5; ++i) {
+        ASSERT_EQ(kelsim_scriptResult("readDtcsAsync", "[]"), 0);
+        ErrorSlot error;
+        EXPECT_NE(kel_readDtcsAsync(api, nullptr, 0, nullptr, &error, Reports::callback, &reports),
+                  0U);
+    }
+    kelsim_reset(); // `reports` must have heard every call when this returns
+    const std::lock_guard lock(reports.mutex);
+    EXPECT_EQ(reports.calls.size(), 5U);
+}
+
+TEST_F(ScriptedConcurrency, ManyThreadsTakeEachScriptedResultOnce) {
+    constexpr int threads = 4;
+    constexpr int calls = 50;
+    Reports reports;
+    std::vector<std::thread> workers;
+    std::mutex mutex;
+    std::vector<int32_t> seen;
+    for (int t = 0; t < threads; ++t) {
+        workers.emplace_back([&, t] {
+            for (int i = 0; i < calls; ++i) {
+                const int32_t value = 1000 + t * calls + i;
+                EXPECT_EQ(kelsim_scriptResult("getState", std::to_string(value).c_str()), 0);
+                EXPECT_EQ(kelsim_scriptResult("readDtcsAsync", "[]"), 0);
+                ErrorSlot error;
+                kel_readDtcsAsync(api, nullptr, 0, nullptr, &error, Reports::callback, &reports);
+                const int32_t got = state(api);
+                const std::lock_guard lock(mutex);
+                seen.push_back(got);
+            }
+        });
+    }
+    for (auto& w : workers) {
+        w.join();
+    }
+    ASSERT_TRUE(reports.waitFor(threads * calls));
+    std::sort(seen.begin(), seen.end());
+    for (int i = 0; i < threads * calls; ++i) {
+        EXPECT_EQ(seen[static_cast<std::size_t>(i)], 1000 + i);
+    }
+}
+
+} // namespace
