@@ -60,7 +60,12 @@ def direction(f) -> str:
 
 
 def is_flag(f) -> bool:
+    """A one-byte flag: uint8_t in C, bool in the engine."""
     return f.kind == "flag"
+
+
+def is_scalar(f) -> bool:
+    return f.kind in kelidl.SCALARS and not is_flag(f)
 
 
 def base_of(rec: kelidl.Record) -> str | None:
@@ -186,7 +191,7 @@ class Model:
 
     def member(self, f, for_input: bool, path: tuple):
         sparse = self.variant.sparse
-        if f.kind in kelidl.SCALARS:
+        if is_scalar(f):
             return self.source.number(f.kind)
         if is_flag(f):
             return self.source.number("bool")
@@ -266,7 +271,7 @@ HANDLER = object()  # the server handler argument: its address is only known at 
 
 
 def default_value(f):
-    if f.kind in kelidl.SCALARS:
+    if is_scalar(f):
         return False if f.kind == "bool" else 0
     if is_flag(f):
         return False
@@ -319,7 +324,7 @@ def engine_json(value) -> str:
 
 def c_zero(f) -> list[tuple[str, str]]:
     """A C member the conversion does not write: zero, NULL."""
-    if f.kind in kelidl.SCALARS:
+    if is_scalar(f):
         return [(f.name, "false" if f.kind == "bool" else "0")]
     if is_flag(f):
         return [(f.name, "0")]
@@ -340,7 +345,7 @@ def c_json(iface: kelidl.Interface, value: Rec | None, c_name: str) -> str:
             parts += c_zero(f)
             continue
         v = value.values[f.name]
-        if f.kind in kelidl.SCALARS or f.kind == "array":
+        if is_scalar(f) or f.kind == "array":
             parts.append((f.name, engine_json(v)))
         elif is_flag(f):
             parts.append((f.name, "1" if v else "0"))
@@ -400,7 +405,7 @@ def c_input(iface: kelidl.Interface, value: Rec | None, c_name: str, source: Sou
 
 
 def stray_value(iface: kelidl.Interface, f, source: Source):
-    if f.kind in kelidl.SCALARS:
+    if is_scalar(f):
         return source.number(f.kind)
     if is_flag(f):
         return 0x7F
@@ -492,7 +497,7 @@ class Stream:
     def member(self, f, value) -> None:
         if f.kind == "bits":
             self.bits(value)
-        elif f.kind in kelidl.SCALARS:
+        elif is_scalar(f):
             self.scalar(f.kind, value)
         elif is_flag(f):
             self.scalar("bool", value)
