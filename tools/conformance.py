@@ -26,9 +26,9 @@ OUT_DIR = "tests/generated/conformance"
 TREE_LEVELS = 3
 MAX_DEPTH = 4
 
-WIDTHS = {"bool": 1, "u8": 1, "u16": 2, "i16": 2, "i32": 4, "u32": 4, "bits": 4, "i64": 8, "u64": 8}
+WIDTHS = {"bool": 1, "flag": 1, "u8": 1, "u16": 2, "i16": 2, "i32": 4, "u32": 4, "bits": 4, "i64": 8, "u64": 8}
 SIGNED = {"i16", "i32", "i64"}
-PACK = {"bool": "<B", "u8": "<B", "u16": "<H", "i16": "<h", "i32": "<i", "u32": "<I", "bits": "<I",
+PACK = {"bool": "<B", "flag": "<B", "u8": "<B", "u16": "<H", "i16": "<h", "i32": "<i", "u32": "<I", "bits": "<I",
         "i64": "<q", "u64": "<Q"}
 
 # The first values each integer kind hands out: the extremes, where a conversion that
@@ -115,7 +115,7 @@ class Source:
         self.flags = 0
 
     def number(self, kind: str):
-        if kind == "bool":
+        if kind in ("bool", "flag"):
             self.bools += 1
             return self.bools % 2 == 1
         n = self.used.get(kind, 0)
@@ -246,7 +246,7 @@ class Model:
 
     def result(self, v: kelidl.Value):
         empty = self.variant.empty_result
-        if v.kind in kelidl.SCALARS:
+        if v.kind in kelidl.SCALARS:  # a flag is true or false in the engine
             return self.source.number(v.kind)
         if v.kind == "wstr":
             return "" if self.variant.sparse else self.source.text()
@@ -368,6 +368,8 @@ def c_json(iface: kelidl.Interface, value: Rec | None, c_name: str) -> str:
 
 def c_result_json(iface: kelidl.Interface, v: kelidl.Value, value) -> str:
     """The C view of an operation's result, as the output holders render it."""
+    if v.kind == "flag":
+        return "1" if value else "0"
     if v.kind in kelidl.SCALARS or v.kind == "wstr":
         return engine_json(value)
     if v.kind == "wstrs":
@@ -437,6 +439,11 @@ def c_param_json(iface: kelidl.Interface, v: kelidl.Value, value, source: Source
         return c_input_json([c_input(iface, e, v.c_name, source) for e in value])
     if v.kind == "handler":
         return "null"
+    if v.kind == "flag":
+        byte = source.flag_byte()
+        while (byte != 0) != value:
+            byte = source.flag_byte()
+        return str(byte)
     return engine_json(value)
 
 
@@ -714,7 +721,7 @@ def build_cases(iface: kelidl.Interface, op: kelidl.Operation, salt: int) -> lis
         model = Model(iface, variant, salt)
         params = [model.param(p) for p in op.params]
         value = model.result(result) if result else None
-        c_source = Source(salt + 1000)
+        c_source = model.source  # strays continue the sequence, so they never repeat a value
         c_inputs = "[" + ",".join(c_param_json(iface, p, x, c_source) for p, x in zip(op.params, params)) + "]"
         arguments = "[" + ",".join(engine_json(x) for x in params) + "]"
         script = None
