@@ -18,6 +18,7 @@ import sys
 import textwrap
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
+import conformance  # noqa: E402
 import kelidl  # noqa: E402
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
@@ -983,6 +984,7 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
         "tests/generated/test_records.h": test_records_h(iface),
         "tests/generated/engine_records.h": engine_records_list_h(iface),
         "interface/generated/EngineFields.h": engine_fields_h(iface),
+        **conformance.outputs(iface),
     }
 
 

@@ -1,0 +1,966 @@
+// The generic half of the conformance suite (tests/generated/conformance/*): the generated
+// files hold, per operation, only its call and a table of cases computed from the
+// description; everything below runs those tables.
+//
+// A case gives the C inputs as JSON, the arguments the engine must record, the scripted
+// result, the C view of the result, and the byte streams of both dispatchers. Every
+// comparison is of whole strings or whole byte runs.
+#pragma once
+
+#include <kel_c.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <kel_sim.h>
+#include <mutex>
+#include <span>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <type_traits>
+#include <utility>
+#include <vector>
+
+namespace kel_conformance {
+
+// ---- JSON, as the generator writes it -----------------------------------------------------
+
+class Json {
+public:
+    enum class Kind { Null, Boolean, Number, Text, Array, Object };
+
+    static Json parse(std::string_view text) {
+        std::size_t at = 0;
+        Json value = read(text, at);
+        skip(text, at);
+        if (at != text.size()) {
+            throw std::runtime_error("trailing text in JSON");
+        }
+        return value;
+    }
+
+    Kind kind() const { return kind_; }
+    bool isNull() const { return kind_ == Kind::Null; }
+    bool boolean() const { return expect(Kind::Boolean).flag_; }
+    const std::string& text() const { return expect(Kind::Text).text_; } // UTF-8
+    std::size_t size() const { return expect(Kind::Array).items_.size(); }
+    const Json& operator[](std::size_t i) const { return expect(Kind::Array).items_.at(i); }
+    const Json& at(std::string_view key) const {
+        for (const auto& [name, value] : expect(Kind::Object).members_) {
+            if (name == key) {
+                return value;
+            }
+        }
+        throw std::runtime_error("JSON object without member " + std::string(key));
+    }
+    template <class T>
+    T number() const {
+        const std::string& digits = expect(Kind::Number).text_;
+        if (digits.front() == '-') {
+            return static_cast<T>(std::stoll(digits));
+        }
+        return static_cast<T>(std::stoull(digits));
+    }
+
+private:
+    const Json& expect(Kind kind) const {
+        if (kind_ != kind) {
+            throw std::runtime_error("unexpected JSON value kind");
+        }
+        return *this;
+    }
+    static void skip(std::string_view s, std::size_t& at) {
+        while (at < s.size() && (s[at] == ' ' || s[at] == '\n' || s[at] == '\t')) {
+            ++at;
+        }
+    }
+    static Json read(std::string_view s, std::size_t& at);
+    static std::string readText(std::string_view s, std::size_t& at);
+
+    Kind kind_ = Kind::Null;
+    bool flag_ = false;
+    std::string text_;
+    std::vector<Json> items_;
+    std::vector<std::pair<std::string, Json>> members_;
+};
+
+inline void appendUtf8(std::string& out, char32_t c) {
+    if (c < 0x80) {
+        out += static_cast<char>(c);
+    } else if (c < 0x800) {
+        out += static_cast<char>(0xC0 | (c >> 6));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else if (c < 0x10000) {
+        out += static_cast<char>(0xE0 | (c >> 12));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    } else {
+        out += static_cast<char>(0xF0 | (c >> 18));
+        out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
+        out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
+        out += static_cast<char>(0x80 | (c & 0x3F));
+    }
+}
+
+inline std::string Json::readText(std::string_view s, std::size_t& at) {
+    std::string out;
+    ++at; // the opening quote
+    while (at < s.size() && s[at] != '"') {
+        if (s[at] != '\\') {
+            out += s[at++];
+            continue;
+        }
+        const char escaped = s.at(at + 1);
+        if (escaped == 'u') {
+            appendUtf8(out, static_cast<char32_t>(
+                                std::stoul(std::string(s.substr(at + 2, 4)), nullptr, 16)));
+            at += 6;
+        } else {
+            out += escaped == 't' ? '\t' : escaped == 'n' ? '\n' : escaped;
+            at += 2;
+        }
+    }
+    ++at;
+    return out;
+}
+
+inline Json Json::read(std::string_view s, std::size_t& at) {
+    skip(s, at);
+    Json value;
+    if (at >= s.size()) {
+        throw std::runtime_error("JSON ends early");
+    }
+    const char c = s[at];
+    if (c == 'n') {
+        at += 4;
+    } else if (c == 't' || c == 'f') {
+        value.kind_ = Kind::Boolean;
+        value.flag_ = c == 't';
+        at += c == 't' ? 4 : 5;
+    } else if (c == '"') {
+        value.kind_ = Kind::Text;
+        value.text_ = readText(s, at);
+    } else if (c == '[' || c == '{') {
+        const bool object = c == '{';
+        value.kind_ = object ? Kind::Object : Kind::Array;
+        ++at;
+        skip(s, at);
+        while (at < s.size() && s[at] != (object ? '}' : ']')) {
+            if (object) {
+                skip(s, at);
+                std::string name = readText(s, at);
+                skip(s, at);
+                ++at; // ':'
+                value.members_.emplace_back(std::move(name), read(s, at));
+            } else {
+                value.items_.push_back(read(s, at));
+            }
+            skip(s, at);
+            if (at < s.size() && s[at] == ',') {
+                ++at;
+            }
+        }
+        ++at;
+    } else {
+        value.kind_ = Kind::Number;
+        const std::size_t start = at;
+        while (at < s.size() && (s[at] == '-' || (s[at] >= '0' && s[at] <= '9'))) {
+            ++at;
+        }
+        if (at == start) {
+            throw std::runtime_error("bad JSON value");
+        }
+        value.text_ = std::string(s.substr(start, at - start));
+    }
+    return value;
+}
+
+// ---- wide text: UTF-16 on Windows, UTF-32 elsewhere ----------------------------------------
+
+inline std::wstring widen(const std::string& utf8) {
+    std::wstring out;
+    for (std::size_t i = 0; i < utf8.size();) {
+        const auto b = static_cast<unsigned char>(utf8[i]);
+        const int extra = b < 0x80 ? 0 : b < 0xE0 ? 1 : b < 0xF0 ? 2 : 3;
+        char32_t c = extra == 0 ? b : b & (0x3F >> extra);
+        for (int k = 1; k <= extra; ++k) {
+            c = (c << 6) |
+                (static_cast<unsigned char>(utf8.at(i + static_cast<std::size_t>(k))) & 0x3F);
+        }
+        i += static_cast<std::size_t>(extra) + 1;
+        if constexpr (sizeof(wchar_t) == 2) {
+            if (c >= 0x10000) {
+                c -= 0x10000;
+                out += static_cast<wchar_t>(0xD800 + (c >> 10));
+                out += static_cast<wchar_t>(0xDC00 + (c & 0x3FF));
+                continue;
+            }
+        }
+        out += static_cast<wchar_t>(c);
+    }
+    return out;
+}
+
+inline std::string narrow(const wchar_t* text) {
+    std::string out;
+    for (const wchar_t* p = text; *p != 0; ++p) {
+        auto c = static_cast<char32_t>(*p);
+        if constexpr (sizeof(wchar_t) == 2) {
+            if (c >= 0xD800 && c < 0xDC00 && p[1] >= 0xDC00 && p[1] < 0xE000) {
+                c = 0x10000 + ((c - 0xD800) << 10) + (static_cast<char32_t>(p[1]) - 0xDC00);
+                ++p;
+            }
+        }
+        appendUtf8(out, c);
+    }
+    return out;
+}
+
+// ---- describing C values as JSON -----------------------------------------------------------
+
+// Renders C records member by member (generated describe() overloads): a NULL pointer
+// is null, so NULL and empty differ; each count follows its list.
+class Out {
+public:
+    std::string text;
+
+    void value(bool v) { text += v ? "true" : "false"; }
+    template <class T>
+    requires std::is_integral_v<T>
+    void value(T v) {
+        if constexpr (std::is_signed_v<T>) {
+            text += std::to_string(static_cast<long long>(v));
+        } else {
+            text += std::to_string(static_cast<unsigned long long>(v));
+        }
+    }
+    void value(const wchar_t* v) {
+        if (v == nullptr) {
+            text += "null";
+            return;
+        }
+        text += '"';
+        for (const char c : narrow(v)) {
+            if (c == '"' || c == '\\') {
+                text += '\\';
+                text += c;
+            } else if (static_cast<unsigned char>(c) < 0x20) {
+                char escaped[8];
+                std::snprintf(escaped, sizeof escaped, "\\u%04x", static_cast<unsigned>(c));
+                text += escaped;
+            } else {
+                text += c;
+            }
+        }
+        text += '"';
+    }
+    template <class R>
+    requires std::is_class_v<R>
+    void value(const R* record) {
+        if (record == nullptr) {
+            text += "null";
+            return;
+        }
+        text += '{';
+        first_.push_back(true);
+        describe(*this, *record);
+    }
+    // A block of `count` elements, or null.
+    template <class T>
+    void values(const T* block, uint32_t count) {
+        if (block == nullptr) {
+            text += "null";
+            return;
+        }
+        text += '[';
+        for (uint32_t i = 0; i < count; ++i) {
+            text += i == 0 ? "" : ",";
+            value(block[i]);
+        }
+        text += ']';
+    }
+
+    // Members of the record being described.
+    template <class T>
+    void member(const char* name, const T& v) {
+        key(name);
+        if constexpr (std::is_array_v<T>) {
+            values(&v[0], static_cast<uint32_t>(std::extent_v<T>));
+        } else {
+            value(v);
+        }
+    }
+    template <class T>
+    void member(const char* name, T* const& block, uint32_t count) {
+        key(name);
+        values(block, count);
+    }
+    void end() {
+        text += '}';
+        first_.pop_back();
+    }
+
+private:
+    void key(const char* name) {
+        text += first_.back() ? "\"" : ",\"";
+        first_.back() = false;
+        text += name;
+        text += "\":";
+    }
+    std::vector<bool> first_;
+};
+
+template <class T>
+std::string view(const T& value) {
+    Out o;
+    o.value(value);
+    return o.text;
+}
+template <class T>
+std::string view(const T* block, uint32_t count) {
+    Out o;
+    o.values(block, count);
+    return o.text;
+}
+
+// ---- building C inputs from JSON, on the library's heap -------------------------------------
+
+template <class T>
+T number(const Json& j) {
+    if constexpr (std::is_same_v<T, bool>) {
+        return j.boolean();
+    } else {
+        return j.number<T>();
+    }
+}
+
+inline wchar_t* text(const Json& j) { return duplicate_WString(widen(j.text()).c_str()); }
+
+template <class R>
+R* record(const Json& j) {
+    if (j.isNull()) {
+        return nullptr;
+    }
+    auto* r = static_cast<R*>(allocate_Memory(sizeof(R)));
+    std::memset(static_cast<void*>(r), 0, sizeof(R));
+    build(j, *r);
+    return r;
+}
+
+template <class T>
+T* block(std::size_t count) {
+    return count == 0 ? nullptr : static_cast<T*>(allocate_Memory(count * sizeof(T)));
+}
+
+template <class T>
+requires std::is_arithmetic_v<T>
+void set(const Json& j, T& to) { to = number<T>(j); }
+template <class T, std::size_t N>
+void set(const Json& j, T (&to)[N]) {
+    for (std::size_t i = 0; i < N; ++i) {
+        to[i] = number<T>(j[i]);
+    }
+}
+inline void set(const Json& j, wchar_t*& to) { to = text(j); }
+template <class R>
+requires std::is_class_v<R>
+void set(const Json& j, R*& to) { to = record<R>(j); }
+inline void set(const Json& j, wchar_t**& to, uint32_t& count) {
+    count = static_cast<uint32_t>(j.size());
+    to = block<wchar_t*>(count);
+    for (uint32_t i = 0; i < count; ++i) {
+        to[i] = text(j[i]);
+    }
+}
+inline void set(const Json& j, uint8_t*& to, uint32_t& count) {
+    count = static_cast<uint32_t>(j.size());
+    to = block<uint8_t>(count);
+    for (uint32_t i = 0; i < count; ++i) {
+        to[i] = number<uint8_t>(j[i]);
+    }
+}
+template <class R>
+requires std::is_class_v<R>
+void set(const Json& j, R**& to, uint32_t& count) {
+    count = static_cast<uint32_t>(j.size());
+    to = block<R*>(count);
+    for (uint32_t i = 0; i < count; ++i) {
+        to[i] = record<R>(j[i]);
+    }
+}
+
+// Arguments of an export: lists stay the caller's, so they live as long as the call.
+class Text {
+public:
+    explicit Text(const Json& j) : text_(widen(j.text())) {}
+    const wchar_t* get() const { return text_.c_str(); }
+
+private:
+    std::wstring text_;
+};
+
+class Texts {
+public:
+    explicit Texts(const Json& j) {
+        for (std::size_t i = 0; i < j.size(); ++i) {
+            texts_.push_back(widen(j[i].text()));
+        }
+        for (auto& t : texts_) {
+            pointers_.push_back(t.data());
+        }
+    }
+    wchar_t** data() { return pointers_.empty() ? nullptr : pointers_.data(); }
+    uint32_t count() const { return static_cast<uint32_t>(pointers_.size()); }
+
+private:
+    std::vector<std::wstring> texts_;
+    std::vector<wchar_t*> pointers_;
+};
+
+template <class T>
+class Values {
+public:
+    explicit Values(const Json& j) {
+        for (std::size_t i = 0; i < j.size(); ++i) {
+            values_.push_back(number<T>(j[i]));
+        }
+    }
+    const T* data() const { return values_.empty() ? nullptr : values_.data(); }
+    uint32_t count() const { return static_cast<uint32_t>(values_.size()); }
+
+private:
+    std::vector<T> values_;
+};
+
+template <class R, void (*Release)(R**, uint64_t)>
+class RecordList {
+public:
+    explicit RecordList(const Json& j) { set(j, block_, count_); }
+    RecordList(const RecordList&) = delete;
+    RecordList& operator=(const RecordList&) = delete;
+    ~RecordList() { Release(block_, count_); }
+    R** data() const { return block_; }
+    uint32_t count() const { return count_; }
+
+private:
+    R** block_ = nullptr;
+    uint32_t count_ = 0;
+};
+
+// The server handler a caller registers: the engine only records its address here.
+inline void* handlerAddress() {
+    static int handler = 0;
+    return &handler;
+}
+
+// ---- results: each holder starts as canary bytes, so that a write shows -------------------
+
+struct NoResult {
+    std::string view() const { return "null"; }
+    void release() {}
+};
+template <class T>
+struct ValueResult {
+    T data;
+    std::string view() const { return kel_conformance::view(data); }
+    void release() {}
+};
+struct TextResult {
+    wchar_t* data;
+    std::string view() const { return kel_conformance::view(static_cast<const wchar_t*>(data)); }
+    void release() { release_Memory(data); }
+};
+struct TextsResult {
+    wchar_t** data;
+    uint32_t count;
+    std::string view() const { return kel_conformance::view(data, count); }
+    void release() { release_StringArray(data, count); }
+};
+// A buffer handed out directly; its view is null only when it is NULL.
+template <class P>
+struct BufferResult {
+    P* data;
+    uint32_t count;
+    std::string view() const {
+        return kel_conformance::view(static_cast<const uint8_t*>(data), count);
+    }
+    void release() { release_Memory(data); }
+};
+template <class R, void (*Release)(R*)>
+struct RecordResult {
+    R* data;
+    std::string view() const { return kel_conformance::view(static_cast<const R*>(data)); }
+    void release() { Release(data); }
+};
+template <class R, void (*Release)(R**, uint64_t)>
+struct ListResult {
+    R** data;
+    uint32_t count;
+    std::string view() const { return kel_conformance::view(data, count); }
+    void release() { Release(data, count); }
+};
+struct EngineResult {
+    uint64_t data;
+    std::string view() const { return kel_conformance::view(data); }
+    void release() { releaseTarnApi(reinterpret_cast<TarnApi*>(static_cast<uintptr_t>(data))); }
+};
+
+constexpr unsigned char canaryByte = 0xA5;
+
+template <class H>
+void fillCanary(H& holder) {
+    std::memset(static_cast<void*>(&holder), canaryByte, sizeof holder);
+}
+template <class H>
+bool untouched(const H& holder) {
+    const auto* bytes = reinterpret_cast<const unsigned char*>(&holder);
+    for (std::size_t i = 0; i < sizeof holder; ++i) {
+        if (bytes[i] != canaryByte) {
+            return false;
+        }
+    }
+    return true;
+}
+
+// The reports of one asynchronous call, taken from an engine thread.
+template <class R, void (*Release)(R**, uint64_t)>
+struct Reports {
+    std::mutex mutex;
+    std::condition_variable changed;
+    int count = 0;
+    bool final = false;
+    uint64_t callId = 0;
+    std::string view;
+    std::string error;
+
+    static void onReport(R** results, uint32_t resultCount, bool isFinal, uint64_t id, KelError* e,
+                         void* context) {
+        std::string v = kel_conformance::view(results, resultCount);
+        std::string ev = kel_conformance::view(static_cast<const KelError*>(e));
+        Release(results, resultCount);
+        release_KelError(e);
+        auto* self = static_cast<Reports*>(context);
+        const std::lock_guard lock(self->mutex);
+        ++self->count;
+        self->final = isFinal;
+        self->callId = id;
+        self->view = std::move(v);
+        self->error = std::move(ev);
+        self->changed.notify_all();
+    }
+    bool waitFinal(std::chrono::milliseconds limit) {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, limit, [&] { return final; });
+    }
+    int reports() {
+        const std::lock_guard lock(mutex);
+        return count;
+    }
+};
+
+// ---- cases -----------------------------------------------------------------------------------
+
+// One variant of an operation's values: what a C caller passes, what the engine must
+// record, the scripted result and what each way in must hand back.
+struct Case {
+    const char* variant;
+    const char* inputs;    // the C arguments as JSON
+    const char* arguments; // what the engine records for the export's call
+    const char* script;    // the scripted result; nullptr when it cannot be scripted
+    const char* cView;     // the C view of the result; nullptr when nothing is handed out
+    const char* otxInput;  // kel_call's input, hexadecimal
+    const char* pyInput;   // py_call's input
+    const char* otxArguments;
+    const char* pyArguments;
+    const char* otxResult; // status byte and results
+    const char* pyResult;
+    int32_t pyReturn;
+};
+
+struct Number {
+    int32_t number;
+    const char* operation;
+    std::span<const Case> cases;
+};
+
+struct Failure {
+    const char* name;
+    int32_t code;
+    int32_t subCode;
+    const wchar_t* message;
+    const wchar_t* details;
+    bool withMvci;
+    int32_t mvciCode;
+    const wchar_t* codeText;
+    int32_t vendorCode;
+    const wchar_t* vendorCodeText;
+    const wchar_t* extraText;
+    int32_t extraCode;
+    const char* view;      // the C view of the KelError
+    const char* otxResult; // kel_call's stream: status 0 and the error record
+    const char* pyResult;  // py_call's stream: the error record
+};
+
+using Bytes = std::vector<uint8_t>;
+
+inline Bytes bytes(const char* hex) {
+    Bytes out;
+    for (const char* p = hex; p[0] != 0 && p[1] != 0; p += 2) {
+        out.push_back(static_cast<uint8_t>(std::stoul(std::string(p, 2), nullptr, 16)));
+    }
+    return out;
+}
+
+inline std::string hex(const Bytes& data) {
+    std::string out;
+    char digits[3];
+    for (const uint8_t b : data) {
+        std::snprintf(digits, sizeof digits, "%02x", b);
+        out += digits;
+    }
+    return out;
+}
+
+inline std::string lastArguments(const char* operation) {
+    char probe[1];
+    const int64_t length = kelsim_lastArguments(operation, probe, sizeof probe);
+    if (length < 0) {
+        return "<never called>";
+    }
+    std::string out(static_cast<std::size_t>(length) + 1, '\0');
+    kelsim_lastArguments(operation, out.data(), out.size());
+    out.resize(static_cast<std::size_t>(length));
+    return out;
+}
+
+inline std::string pointerText(const void* pointer) {
+    char text[40];
+    std::snprintf(text, sizeof text, "\"%p\"", pointer);
+    return text;
+}
+
+// The recorded arguments, with the handler's address put in where the case names it.
+inline std::string expected(const char* arguments, bool async = false) {
+    std::string out = arguments;
+    for (const auto& [token, pointer] :
+         {std::pair<std::string, const void*>{"\"@handler\"", handlerAddress()},
+          std::pair<std::string, const void*>{"\"@nohandler\"", nullptr}}) {
+        for (std::size_t at = out.find(token); at != std::string::npos; at = out.find(token)) {
+            out.replace(at, token.size(), pointerText(pointer));
+        }
+    }
+    if (async) {
+        out.insert(out.size() - 1, out == "[]" ? "\"callback\"" : ",\"callback\"");
+    }
+    return out;
+}
+
+inline void script(const char* operation, const char* result) {
+    if (kelsim_scriptResult(operation, result) != 0) {
+        char why[512];
+        kelsim_lastScriptError(why, sizeof why);
+        ADD_FAILURE() << "the engine refused the result of " << operation << ": " << why;
+    }
+}
+
+inline void fail(const char* operation, const Failure& f) {
+    if (f.withMvci) {
+        kelsim_failNextWithMvci(operation, 1, f.code, f.subCode, f.message, f.details, f.mvciCode,
+                                f.codeText, f.vendorCode, f.vendorCodeText, f.extraText,
+                                f.extraCode);
+    } else {
+        kelsim_failNext(operation, 1, f.code, f.subCode, f.message, f.details);
+    }
+}
+
+// Defined by the generated records.h: the scripted failures and the named numbers.
+std::span<const Failure> scriptedFailures();
+std::span<const int32_t> namedNumbers();
+
+// ---- the checks ------------------------------------------------------------------------------
+
+inline std::string errorView(KelError* error) { return view(static_cast<const KelError*>(error)); }
+
+// Inputs reach the engine exactly and the scripted result comes back exactly; then every
+// output is released (ASan/LSan see leaks and double frees).
+template <class Op>
+void exchange(TarnApi* api, std::span<const Case> cases) {
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.variant);
+        script(Op::operation, c.script);
+        typename Op::Result out;
+        fillCanary(out);
+        KelError* error = nullptr;
+        Op::call(api, Json::parse(c.inputs), &error, out);
+        if (error != nullptr) {
+            ADD_FAILURE() << "engine error " << errorView(error);
+            release_KelError(error);
+            continue;
+        }
+        EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments));
+        if (c.cView != nullptr) {
+            EXPECT_EQ(out.view(), c.cView);
+        }
+        out.release();
+    }
+}
+
+// An engine failure leaves every output as it was and gives exactly the error; a
+// consumed input record is freed all the same (LSan reports it otherwise).
+template <class Op>
+void failure(TarnApi* api, std::span<const Case> cases) {
+    for (const Case& c : cases) {
+        for (const Failure& f : scriptedFailures()) {
+            SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name);
+            fail(Op::operation, f);
+            typename Op::Result out;
+            fillCanary(out);
+            KelError* error = nullptr;
+            Op::call(api, Json::parse(c.inputs), &error, out);
+            ASSERT_NE(error, nullptr);
+            EXPECT_EQ(errorView(error), f.view);
+            EXPECT_TRUE(untouched(out)) << "an output was written";
+            EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments));
+            release_KelError(error);
+        }
+    }
+}
+
+constexpr std::chrono::milliseconds reportLimit{10000};
+
+// The scripted result arrives through the callback, once, final, without error, and
+// converted as the synchronous export converts it.
+template <class Op>
+void asyncExchange(TarnApi* api, std::span<const Case> cases) {
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.variant);
+        script(Op::operation, c.script);
+        typename Op::Reports reports;
+        KelError* error = nullptr;
+        const uint64_t id = Op::call(api, Json::parse(c.inputs), &error, reports);
+        ASSERT_EQ(error, nullptr) << errorView(error);
+        ASSERT_TRUE(reports.waitFinal(reportLimit)) << "no final report";
+        const std::lock_guard lock(reports.mutex);
+        EXPECT_EQ(reports.count, 1);
+        EXPECT_EQ(reports.callId, id);
+        EXPECT_EQ(reports.error, "null");
+        EXPECT_EQ(reports.view, c.cView);
+        EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, true));
+    }
+}
+
+// A failure at the start: 0, the exact error, and no callback.
+template <class Op>
+void asyncFailure(TarnApi* api, std::span<const Case> cases) {
+    for (const Case& c : cases) {
+        for (const Failure& f : scriptedFailures()) {
+            SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name);
+            fail(Op::operation, f);
+            typename Op::Reports reports;
+            KelError* error = nullptr;
+            EXPECT_EQ(Op::call(api, Json::parse(c.inputs), &error, reports), 0U);
+            ASSERT_NE(error, nullptr);
+            EXPECT_EQ(errorView(error), f.view);
+            EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, true));
+            release_KelError(error);
+            EXPECT_FALSE(reports.waitFinal(std::chrono::milliseconds(20)));
+            EXPECT_EQ(reports.reports(), 0) << "a call that did not start reported";
+        }
+    }
+}
+
+// ---- by number -------------------------------------------------------------------------------
+
+struct Streamed {
+    bool recognised = false;
+    int32_t returned = 0;
+    Bytes bytes;
+};
+
+inline void* const untouchedStream = reinterpret_cast<void*>(static_cast<uintptr_t>(0xC0FFEE0));
+constexpr uint64_t untouchedSize = 0xA5A5A5A5A5ULL;
+
+inline Streamed otxCall(int32_t number, const Bytes& input, bool checked, std::size_t size) {
+    void* stream = untouchedStream;
+    uint64_t outSize = untouchedSize;
+    if (checked) {
+        kel_call_checked(0, number, input.data(), size, &stream, &outSize);
+    } else {
+        kel_call(0, number, input.data(), &stream, &outSize);
+    }
+    Streamed result;
+    if (stream == untouchedStream) {
+        EXPECT_EQ(outSize, untouchedSize) << "one output of an unrecognised number was written";
+        return result;
+    }
+    result.recognised = true;
+    result.bytes.resize(static_cast<std::size_t>(outSize));
+    kel_call_result(stream, result.bytes.data());
+    return result;
+}
+
+inline Streamed pyCall(TarnApi* api, int32_t number, const Bytes& input, bool checked,
+                       std::size_t size) {
+    void* buffer = untouchedStream;
+    uint32_t outSize = 0xA5A5A5A5U;
+    Streamed result;
+    result.returned = checked
+                          ? py_call_checked(api, number, 0, input.data(), size, &outSize, &buffer)
+                          : py_call(api, number, 0, input.data(), &outSize, &buffer);
+    if (buffer == untouchedStream) {
+        EXPECT_EQ(outSize, 0xA5A5A5A5U) << "one output of an unrecognised number was written";
+        return result;
+    }
+    result.recognised = true;
+    result.bytes.resize(outSize);
+    py_result(result.bytes.data(), static_cast<int32_t>(outSize), buffer);
+    return result;
+}
+
+// The error code in a result stream that carries an error record.
+inline int32_t errorCode(const Bytes& bytes, std::size_t at) {
+    int32_t code = 0;
+    if (bytes.size() >= at + 4) {
+        std::memcpy(&code, bytes.data() + at, 4);
+    }
+    return code;
+}
+
+// An input without padding: the stream must be read exactly, so a copy of its own size.
+inline Bytes input(const char* hexText) { return bytes(hexText); }
+
+inline void kelCall(TarnApi* /*api*/, const Number& n) {
+    for (const Case& c : n.cases) {
+        for (const bool checked : {false, true}) {
+            SCOPED_TRACE(std::string(c.variant) + (checked ? ", kel_call_checked" : ", kel_call"));
+            script(n.operation, c.script);
+            const Bytes in = input(c.otxInput);
+            const Streamed r = otxCall(n.number, in, checked, in.size());
+            ASSERT_TRUE(r.recognised);
+            EXPECT_EQ(hex(r.bytes), c.otxResult);
+            EXPECT_EQ(lastArguments(n.operation), expected(c.otxArguments));
+        }
+    }
+}
+
+inline void pyCall(TarnApi* api, const Number& n) {
+    for (const Case& c : n.cases) {
+        for (const bool checked : {false, true}) {
+            SCOPED_TRACE(std::string(c.variant) + (checked ? ", py_call_checked" : ", py_call"));
+            script(n.operation, c.script);
+            const Bytes in = input(c.pyInput);
+            // The checked form goes to the local engine through a NULL engine object.
+            const Streamed r = pyCall(checked ? nullptr : api, n.number, in, checked, in.size());
+            ASSERT_TRUE(r.recognised);
+            EXPECT_EQ(r.returned, c.pyReturn);
+            EXPECT_EQ(hex(r.bytes), c.pyResult);
+            EXPECT_EQ(lastArguments(n.operation), expected(c.pyArguments));
+        }
+    }
+}
+
+inline void numberFailure(TarnApi* api, const Number& n) {
+    for (const Case& c : n.cases) {
+        for (const Failure& f : scriptedFailures()) {
+            SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name);
+            fail(n.operation, f);
+            const Bytes otxIn = input(c.otxInput);
+            const Streamed otx = otxCall(n.number, otxIn, false, otxIn.size());
+            EXPECT_EQ(hex(otx.bytes), f.otxResult);
+            EXPECT_EQ(lastArguments(n.operation), expected(c.otxArguments));
+            fail(n.operation, f);
+            const Bytes pyIn = input(c.pyInput);
+            const Streamed py = pyCall(api, n.number, pyIn, false, pyIn.size());
+            EXPECT_EQ(py.returned, -1);
+            EXPECT_EQ(hex(py.bytes), f.pyResult);
+            EXPECT_EQ(lastArguments(n.operation), expected(c.pyArguments));
+        }
+    }
+}
+
+// The checked forms read nothing past the given size: one byte short is malformed, and
+// the engine is not called.
+inline void shortInput(TarnApi* api, const Number& n) {
+    for (const Case& c : n.cases) {
+        SCOPED_TRACE(c.variant);
+        const uint64_t calls = kelsim_callCount(n.operation);
+        const Bytes otxIn = input(c.otxInput);
+        if (!otxIn.empty()) {
+            const Streamed otx = otxCall(n.number, otxIn, true, otxIn.size() - 1);
+            ASSERT_GE(otx.bytes.size(), 6U);
+            EXPECT_EQ(otx.bytes[0], 0);
+            EXPECT_EQ(errorCode(otx.bytes, 2), KEL_ERROR_MALFORMED_INPUT);
+        }
+        const Bytes pyIn = input(c.pyInput);
+        if (!pyIn.empty()) {
+            const Streamed py = pyCall(api, n.number, pyIn, true, pyIn.size() - 1);
+            EXPECT_EQ(py.returned, -1);
+            EXPECT_EQ(errorCode(py.bytes, 1), KEL_ERROR_MALFORMED_INPUT);
+        }
+        EXPECT_EQ(kelsim_callCount(n.operation), calls) << "the engine was called";
+    }
+}
+
+// A number whose records are not built yet is recognised but answers -1002.
+inline void notAvailable(TarnApi* api, int32_t number, const char* operation) {
+    const Streamed otx = otxCall(number, {}, true, 0);
+    ASSERT_TRUE(otx.recognised);
+    ASSERT_GE(otx.bytes.size(), 6U);
+    EXPECT_EQ(otx.bytes[0], 0);
+    EXPECT_EQ(otx.bytes[1], 1);
+    EXPECT_EQ(errorCode(otx.bytes, 2), KEL_ERROR_NOT_AVAILABLE);
+    const Streamed py = pyCall(api, number, {}, true, 0);
+    ASSERT_TRUE(py.recognised);
+    EXPECT_EQ(py.returned, -1);
+    EXPECT_EQ(errorCode(py.bytes, 1), KEL_ERROR_NOT_AVAILABLE);
+    EXPECT_EQ(kelsim_callCount(operation), 0U);
+}
+
+// Every number the description does not name, and a margin around the range.
+inline void unnamedNumbers(TarnApi* api) {
+    const auto named = namedNumbers();
+    int checked = 0;
+    for (int32_t n = -5; n <= 285; ++n) {
+        if (std::find(named.begin(), named.end(), n) != named.end()) {
+            continue;
+        }
+        SCOPED_TRACE(n);
+        for (const bool check : {false, true}) {
+            EXPECT_FALSE(otxCall(n, {}, check, 0).recognised);
+            const Streamed py = pyCall(api, n, {}, check, 0);
+            EXPECT_FALSE(py.recognised);
+            EXPECT_EQ(py.returned, 0);
+        }
+        ++checked;
+    }
+    EXPECT_GT(checked, 60);
+}
+
+// ---- the fixture -----------------------------------------------------------------------------
+
+// A fresh engine on a fresh vehicle for every test, with nothing scripted.
+class ConformanceTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        kelsim_reset();
+        kelsim_restart();
+        api = kel_getTarnApi();
+        ASSERT_NE(api, nullptr);
+        KelError* error = nullptr;
+        kel_initialize(api, &error);
+        ASSERT_EQ(error, nullptr);
+    }
+    void TearDown() override {
+        releaseTarnApi(api);
+        kelsim_reset();
+    }
+    TarnApi* api = nullptr;
+};
+
+} // namespace kel_conformance

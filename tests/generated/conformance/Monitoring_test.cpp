@@ -1,0 +1,435 @@
+// Generated from the interface description by tools/generate.py. Do not edit.
+// Conformance checks of the family Monitoring: every export and every dispatcher number.
+
+#include "conformance_support.h"
+#include "generated/conformance/records.h"
+
+namespace {
+
+namespace kc = kel_conformance;
+
+using Monitoring = kc::ConformanceTest;
+using MonitoringByNumber = kc::ConformanceTest;
+
+// ---- createMonitoringLink (position 10, number 10) ----
+
+const kc::Case kCreateMonitoringLinkCases[] = {
+    {"full", "[\"Pr\303\274fstand \342\202\254 10.1\"]", "[\"Pr\303\274fstand \342\202\254 10.1\"]",
+     "9223372036854775809", "9223372036854775809", "130000005072c3bc667374616e6420e282ac2031302e31",
+     "5072c3bc667374616e6420e282ac2031302e3100", "[\"Pr\303\274fstand \342\202\254 10.1\"]",
+     "[\"Pr\303\274fstand \342\202\254 10.1\"]", "010100000000000080", "0100000000000080", 0},
+    {"sparse", "[\"\"]", "[\"\"]", "9223372036854775809", "9223372036854775809", "00000000", "00",
+     "[\"\"]", "[\"\"]", "010100000000000080", "0100000000000080", 0},
+};
+
+struct CreateMonitoringLinkExport {
+    static constexpr const char* operation = "createMonitoringLink";
+    using Result = kc::ValueResult<uint64_t>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kel_createMonitoringLink(api, a0.get(), error, &out.data);
+    }
+};
+
+TEST_F(Monitoring, createMonitoringLink_Exchange) {
+    kc::exchange<CreateMonitoringLinkExport>(api, kCreateMonitoringLinkCases);
+}
+TEST_F(Monitoring, createMonitoringLink_Failure) {
+    kc::failure<CreateMonitoringLinkExport>(api, kCreateMonitoringLinkCases);
+}
+
+const kc::Number kNumber10{10, "createMonitoringLink", kCreateMonitoringLinkCases};
+
+TEST_F(MonitoringByNumber, n10_createMonitoringLink_KelCall) { kc::kelCall(api, kNumber10); }
+TEST_F(MonitoringByNumber, n10_createMonitoringLink_PyCall) { kc::pyCall(api, kNumber10); }
+TEST_F(MonitoringByNumber, n10_createMonitoringLink_Failure) { kc::numberFailure(api, kNumber10); }
+TEST_F(MonitoringByNumber, n10_createMonitoringLink_ShortInput) { kc::shortInput(api, kNumber10); }
+
+TEST_F(MonitoringByNumber, n11_getMonitoringItems_NotAvailable) {
+    kc::notAvailable(api, 11, "getMonitoringItems");
+}
+
+// ---- releaseMonitoringLink (position 12, number 12) ----
+
+const kc::Case kReleaseMonitoringLinkCases[] = {
+    {"full", "[9223372036854775809]", "[9223372036854775809]", "null", nullptr, "0100000000000080",
+     "0100000000000080", "[9223372036854775809]", "[9223372036854775809]", "01", "", 0},
+};
+
+struct ReleaseMonitoringLinkExport {
+    static constexpr const char* operation = "releaseMonitoringLink";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_releaseMonitoringLink(api, kc::number<uint64_t>(in[0]), error);
+    }
+};
+
+TEST_F(Monitoring, releaseMonitoringLink_Exchange) {
+    kc::exchange<ReleaseMonitoringLinkExport>(api, kReleaseMonitoringLinkCases);
+}
+TEST_F(Monitoring, releaseMonitoringLink_Failure) {
+    kc::failure<ReleaseMonitoringLinkExport>(api, kReleaseMonitoringLinkCases);
+}
+
+const kc::Number kNumber12{12, "releaseMonitoringLink", kReleaseMonitoringLinkCases};
+
+TEST_F(MonitoringByNumber, n12_releaseMonitoringLink_KelCall) { kc::kelCall(api, kNumber12); }
+TEST_F(MonitoringByNumber, n12_releaseMonitoringLink_PyCall) { kc::pyCall(api, kNumber12); }
+TEST_F(MonitoringByNumber, n12_releaseMonitoringLink_Failure) { kc::numberFailure(api, kNumber12); }
+TEST_F(MonitoringByNumber, n12_releaseMonitoringLink_ShortInput) { kc::shortInput(api, kNumber12); }
+
+TEST_F(MonitoringByNumber, n13_getPduMonitoringItems_NotAvailable) {
+    kc::notAvailable(api, 13, "getPduMonitoringItems");
+}
+
+// ---- createPduMonitor (position 14, number 14) ----
+
+const kc::Case kCreatePduMonitorCases[] = {
+    {"full", "[]", "[]", "9223372036854775809", "9223372036854775809", "", "", "[]", "[]",
+     "010100000000000080", "0100000000000080", 0},
+};
+
+struct CreatePduMonitorExport {
+    static constexpr const char* operation = "createPduMonitor";
+    using Result = kc::ValueResult<uint64_t>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_createPduMonitor(api, error, &out.data);
+    }
+};
+
+TEST_F(Monitoring, createPduMonitor_Exchange) {
+    kc::exchange<CreatePduMonitorExport>(api, kCreatePduMonitorCases);
+}
+TEST_F(Monitoring, createPduMonitor_Failure) {
+    kc::failure<CreatePduMonitorExport>(api, kCreatePduMonitorCases);
+}
+
+const kc::Number kNumber14{14, "createPduMonitor", kCreatePduMonitorCases};
+
+TEST_F(MonitoringByNumber, n14_createPduMonitor_KelCall) { kc::kelCall(api, kNumber14); }
+TEST_F(MonitoringByNumber, n14_createPduMonitor_PyCall) { kc::pyCall(api, kNumber14); }
+TEST_F(MonitoringByNumber, n14_createPduMonitor_Failure) { kc::numberFailure(api, kNumber14); }
+
+// ---- releasePduMonitor (position 16, number 16) ----
+
+const kc::Case kReleasePduMonitorCases[] = {
+    {"full", "[9223372036854775809]", "[9223372036854775809]", "null", nullptr, "0100000000000080",
+     "0100000000000080", "[9223372036854775809]", "[9223372036854775809]", "01", "", 0},
+};
+
+struct ReleasePduMonitorExport {
+    static constexpr const char* operation = "releasePduMonitor";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_releasePduMonitor(api, kc::number<uint64_t>(in[0]), error);
+    }
+};
+
+TEST_F(Monitoring, releasePduMonitor_Exchange) {
+    kc::exchange<ReleasePduMonitorExport>(api, kReleasePduMonitorCases);
+}
+TEST_F(Monitoring, releasePduMonitor_Failure) {
+    kc::failure<ReleasePduMonitorExport>(api, kReleasePduMonitorCases);
+}
+
+const kc::Number kNumber16{16, "releasePduMonitor", kReleasePduMonitorCases};
+
+TEST_F(MonitoringByNumber, n16_releasePduMonitor_KelCall) { kc::kelCall(api, kNumber16); }
+TEST_F(MonitoringByNumber, n16_releasePduMonitor_PyCall) { kc::pyCall(api, kNumber16); }
+TEST_F(MonitoringByNumber, n16_releasePduMonitor_Failure) { kc::numberFailure(api, kNumber16); }
+TEST_F(MonitoringByNumber, n16_releasePduMonitor_ShortInput) { kc::shortInput(api, kNumber16); }
+
+// ---- openTraceFileMonitoringLink (position 49, number 67) ----
+
+const kc::Case kOpenTraceFileMonitoringLinkCases[] = {
+    {"full", "[9223372036854775809,\"Pr\303\274fstand \342\202\254 49.1\"]",
+     "[9223372036854775809,\"Pr\303\274fstand \342\202\254 49.1\"]", "null", nullptr,
+     "0100000000000080130000005072c3bc667374616e6420e282ac2034392e31",
+     "01000000000000805072c3bc667374616e6420e282ac2034392e3100",
+     "[9223372036854775809,\"Pr\303\274fstand \342\202\254 49.1\"]",
+     "[9223372036854775809,\"Pr\303\274fstand \342\202\254 49.1\"]", "01", "", 0},
+    {"sparse", "[9223372036854775809,\"\"]", "[9223372036854775809,\"\"]", "null", nullptr,
+     "010000000000008000000000", "010000000000008000", "[9223372036854775809,\"\"]",
+     "[9223372036854775809,\"\"]", "01", "", 0},
+};
+
+struct OpenTraceFileMonitoringLinkExport {
+    static constexpr const char* operation = "openTraceFileMonitoringLink";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a1(in[1]);
+        static_cast<void>(out);
+        kel_openTraceFileMonitoringLink(api, kc::number<uint64_t>(in[0]), a1.get(), error);
+    }
+};
+
+TEST_F(Monitoring, openTraceFileMonitoringLink_Exchange) {
+    kc::exchange<OpenTraceFileMonitoringLinkExport>(api, kOpenTraceFileMonitoringLinkCases);
+}
+TEST_F(Monitoring, openTraceFileMonitoringLink_Failure) {
+    kc::failure<OpenTraceFileMonitoringLinkExport>(api, kOpenTraceFileMonitoringLinkCases);
+}
+
+const kc::Number kNumber67{67, "openTraceFileMonitoringLink", kOpenTraceFileMonitoringLinkCases};
+
+TEST_F(MonitoringByNumber, n67_openTraceFileMonitoringLink_KelCall) { kc::kelCall(api, kNumber67); }
+TEST_F(MonitoringByNumber, n67_openTraceFileMonitoringLink_PyCall) { kc::pyCall(api, kNumber67); }
+TEST_F(MonitoringByNumber, n67_openTraceFileMonitoringLink_Failure) {
+    kc::numberFailure(api, kNumber67);
+}
+TEST_F(MonitoringByNumber, n67_openTraceFileMonitoringLink_ShortInput) {
+    kc::shortInput(api, kNumber67);
+}
+
+// ---- startTraceFileMonitoringLink (position 50, number 68) ----
+
+const kc::Case kStartTraceFileMonitoringLinkCases[] = {
+    {"full", "[9223372036854775809]", "[9223372036854775809]", "null", nullptr, "0100000000000080",
+     "0100000000000080", "[9223372036854775809]", "[9223372036854775809]", "01", "", 0},
+};
+
+struct StartTraceFileMonitoringLinkExport {
+    static constexpr const char* operation = "startTraceFileMonitoringLink";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_startTraceFileMonitoringLink(api, kc::number<uint64_t>(in[0]), error);
+    }
+};
+
+TEST_F(Monitoring, startTraceFileMonitoringLink_Exchange) {
+    kc::exchange<StartTraceFileMonitoringLinkExport>(api, kStartTraceFileMonitoringLinkCases);
+}
+TEST_F(Monitoring, startTraceFileMonitoringLink_Failure) {
+    kc::failure<StartTraceFileMonitoringLinkExport>(api, kStartTraceFileMonitoringLinkCases);
+}
+
+const kc::Number kNumber68{68, "startTraceFileMonitoringLink", kStartTraceFileMonitoringLinkCases};
+
+TEST_F(MonitoringByNumber, n68_startTraceFileMonitoringLink_KelCall) {
+    kc::kelCall(api, kNumber68);
+}
+TEST_F(MonitoringByNumber, n68_startTraceFileMonitoringLink_PyCall) { kc::pyCall(api, kNumber68); }
+TEST_F(MonitoringByNumber, n68_startTraceFileMonitoringLink_Failure) {
+    kc::numberFailure(api, kNumber68);
+}
+TEST_F(MonitoringByNumber, n68_startTraceFileMonitoringLink_ShortInput) {
+    kc::shortInput(api, kNumber68);
+}
+
+// ---- stopTraceFileMonitoringLink (position 51, number 69) ----
+
+const kc::Case kStopTraceFileMonitoringLinkCases[] = {
+    {"full", "[9223372036854775809]", "[9223372036854775809]", "null", nullptr, "0100000000000080",
+     "0100000000000080", "[9223372036854775809]", "[9223372036854775809]", "01", "", 0},
+};
+
+struct StopTraceFileMonitoringLinkExport {
+    static constexpr const char* operation = "stopTraceFileMonitoringLink";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_stopTraceFileMonitoringLink(api, kc::number<uint64_t>(in[0]), error);
+    }
+};
+
+TEST_F(Monitoring, stopTraceFileMonitoringLink_Exchange) {
+    kc::exchange<StopTraceFileMonitoringLinkExport>(api, kStopTraceFileMonitoringLinkCases);
+}
+TEST_F(Monitoring, stopTraceFileMonitoringLink_Failure) {
+    kc::failure<StopTraceFileMonitoringLinkExport>(api, kStopTraceFileMonitoringLinkCases);
+}
+
+const kc::Number kNumber69{69, "stopTraceFileMonitoringLink", kStopTraceFileMonitoringLinkCases};
+
+TEST_F(MonitoringByNumber, n69_stopTraceFileMonitoringLink_KelCall) { kc::kelCall(api, kNumber69); }
+TEST_F(MonitoringByNumber, n69_stopTraceFileMonitoringLink_PyCall) { kc::pyCall(api, kNumber69); }
+TEST_F(MonitoringByNumber, n69_stopTraceFileMonitoringLink_Failure) {
+    kc::numberFailure(api, kNumber69);
+}
+TEST_F(MonitoringByNumber, n69_stopTraceFileMonitoringLink_ShortInput) {
+    kc::shortInput(api, kNumber69);
+}
+
+// ---- closeTraceFileMonitoringLink (position 52, number 66) ----
+
+const kc::Case kCloseTraceFileMonitoringLinkCases[] = {
+    {"full", "[9223372036854775809]", "[9223372036854775809]", "null", nullptr, "0100000000000080",
+     "0100000000000080", "[9223372036854775809]", "[9223372036854775809]", "01", "", 0},
+};
+
+struct CloseTraceFileMonitoringLinkExport {
+    static constexpr const char* operation = "closeTraceFileMonitoringLink";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_closeTraceFileMonitoringLink(api, kc::number<uint64_t>(in[0]), error);
+    }
+};
+
+TEST_F(Monitoring, closeTraceFileMonitoringLink_Exchange) {
+    kc::exchange<CloseTraceFileMonitoringLinkExport>(api, kCloseTraceFileMonitoringLinkCases);
+}
+TEST_F(Monitoring, closeTraceFileMonitoringLink_Failure) {
+    kc::failure<CloseTraceFileMonitoringLinkExport>(api, kCloseTraceFileMonitoringLinkCases);
+}
+
+const kc::Number kNumber66{66, "closeTraceFileMonitoringLink", kCloseTraceFileMonitoringLinkCases};
+
+TEST_F(MonitoringByNumber, n66_closeTraceFileMonitoringLink_KelCall) {
+    kc::kelCall(api, kNumber66);
+}
+TEST_F(MonitoringByNumber, n66_closeTraceFileMonitoringLink_PyCall) { kc::pyCall(api, kNumber66); }
+TEST_F(MonitoringByNumber, n66_closeTraceFileMonitoringLink_Failure) {
+    kc::numberFailure(api, kNumber66);
+}
+TEST_F(MonitoringByNumber, n66_closeTraceFileMonitoringLink_ShortInput) {
+    kc::shortInput(api, kNumber66);
+}
+
+// ---- createApiTraceMonitor (position 160, number 189) ----
+
+const kc::Case kCreateApiTraceMonitorCases[] = {
+    {"full", "[]", "[]", "9223372036854775809", "9223372036854775809", "", "", "[]", "[]",
+     "010100000000000080", "0100000000000080", 0},
+};
+
+struct CreateApiTraceMonitorExport {
+    static constexpr const char* operation = "createApiTraceMonitor";
+    using Result = kc::ValueResult<uint64_t>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_createApiTraceMonitor(api, error, &out.data);
+    }
+};
+
+TEST_F(Monitoring, createApiTraceMonitor_Exchange) {
+    kc::exchange<CreateApiTraceMonitorExport>(api, kCreateApiTraceMonitorCases);
+}
+TEST_F(Monitoring, createApiTraceMonitor_Failure) {
+    kc::failure<CreateApiTraceMonitorExport>(api, kCreateApiTraceMonitorCases);
+}
+
+const kc::Number kNumber189{189, "createApiTraceMonitor", kCreateApiTraceMonitorCases};
+
+TEST_F(MonitoringByNumber, n189_createApiTraceMonitor_KelCall) { kc::kelCall(api, kNumber189); }
+TEST_F(MonitoringByNumber, n189_createApiTraceMonitor_PyCall) { kc::pyCall(api, kNumber189); }
+TEST_F(MonitoringByNumber, n189_createApiTraceMonitor_Failure) {
+    kc::numberFailure(api, kNumber189);
+}
+
+// ---- getApiTraceContent (position 161, number 190) ----
+
+const kc::Case kGetApiTraceContentCases[] = {
+    {"full", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]", "[0,255,255,128,127,1,110]",
+     "[0,255,255,128,127,1,110]", "0100000000000080ffffffff00000080",
+     "0100000000000080ffffffff00000080", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]", "010700000000ffff807f016e",
+     "0700000000ffff807f016e", 0},
+    {"empty", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]", "[]", "[]", "0100000000000080ffffffff00000080",
+     "0100000000000080ffffffff00000080", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]", "0100000000", "00000000", 0},
+};
+
+struct GetApiTraceContentExport {
+    static constexpr const char* operation = "getApiTraceContent";
+    using Result = kc::BufferResult<void>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_getApiTraceContent(api, kc::number<uint64_t>(in[0]), kc::number<uint32_t>(in[1]),
+                               kc::number<int32_t>(in[2]), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Monitoring, getApiTraceContent_Exchange) {
+    kc::exchange<GetApiTraceContentExport>(api, kGetApiTraceContentCases);
+}
+TEST_F(Monitoring, getApiTraceContent_Failure) {
+    kc::failure<GetApiTraceContentExport>(api, kGetApiTraceContentCases);
+}
+
+const kc::Number kNumber190{190, "getApiTraceContent", kGetApiTraceContentCases};
+
+TEST_F(MonitoringByNumber, n190_getApiTraceContent_KelCall) { kc::kelCall(api, kNumber190); }
+TEST_F(MonitoringByNumber, n190_getApiTraceContent_PyCall) { kc::pyCall(api, kNumber190); }
+TEST_F(MonitoringByNumber, n190_getApiTraceContent_Failure) { kc::numberFailure(api, kNumber190); }
+TEST_F(MonitoringByNumber, n190_getApiTraceContent_ShortInput) { kc::shortInput(api, kNumber190); }
+
+// ---- releaseApiTraceMonitor (position 162, number 192) ----
+
+const kc::Case kReleaseApiTraceMonitorCases[] = {
+    {"full", "[9223372036854775809]", "[9223372036854775809]", "null", nullptr, "0100000000000080",
+     "0100000000000080", "[9223372036854775809]", "[9223372036854775809]", "01", "", 0},
+};
+
+struct ReleaseApiTraceMonitorExport {
+    static constexpr const char* operation = "releaseApiTraceMonitor";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_releaseApiTraceMonitor(api, kc::number<uint64_t>(in[0]), error);
+    }
+};
+
+TEST_F(Monitoring, releaseApiTraceMonitor_Exchange) {
+    kc::exchange<ReleaseApiTraceMonitorExport>(api, kReleaseApiTraceMonitorCases);
+}
+TEST_F(Monitoring, releaseApiTraceMonitor_Failure) {
+    kc::failure<ReleaseApiTraceMonitorExport>(api, kReleaseApiTraceMonitorCases);
+}
+
+const kc::Number kNumber192{192, "releaseApiTraceMonitor", kReleaseApiTraceMonitorCases};
+
+TEST_F(MonitoringByNumber, n192_releaseApiTraceMonitor_KelCall) { kc::kelCall(api, kNumber192); }
+TEST_F(MonitoringByNumber, n192_releaseApiTraceMonitor_PyCall) { kc::pyCall(api, kNumber192); }
+TEST_F(MonitoringByNumber, n192_releaseApiTraceMonitor_Failure) {
+    kc::numberFailure(api, kNumber192);
+}
+TEST_F(MonitoringByNumber, n192_releaseApiTraceMonitor_ShortInput) {
+    kc::shortInput(api, kNumber192);
+}
+
+// ---- getMonitoringLinks (position 259, number 65) ----
+
+const kc::Case kGetMonitoringLinksCases[] = {
+    {"full", "[]", "[]",
+     "[\"Pr\303\274fstand \342\202\254 259.1\",\"\",\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 259.2\"]",
+     "[\"Pr\303\274fstand \342\202\254 259.1\",\"\",\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 259.2\"]",
+     "", "", "[]", "[]",
+     "0103000000140000005072c3bc667374616e6420e282ac203235392e310000000014000000e697a5e69cace8"
+     "aa9e20f09d849e203235392e32",
+     "03000000140000005072c3bc667374616e6420e282ac203235392e310000000014000000e697a5e69cace8aa"
+     "9e20f09d849e203235392e32",
+     0},
+    {"empty", "[]", "[]", "[]", "null", "", "", "[]", "[]", "0100000000", "00000000", 0},
+};
+
+struct GetMonitoringLinksExport {
+    static constexpr const char* operation = "getMonitoringLinks";
+    using Result = kc::TextsResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getMonitoringLinks(api, error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Monitoring, getMonitoringLinks_Exchange) {
+    kc::exchange<GetMonitoringLinksExport>(api, kGetMonitoringLinksCases);
+}
+TEST_F(Monitoring, getMonitoringLinks_Failure) {
+    kc::failure<GetMonitoringLinksExport>(api, kGetMonitoringLinksCases);
+}
+
+const kc::Number kNumber65{65, "getMonitoringLinks", kGetMonitoringLinksCases};
+
+TEST_F(MonitoringByNumber, n65_getMonitoringLinks_KelCall) { kc::kelCall(api, kNumber65); }
+TEST_F(MonitoringByNumber, n65_getMonitoringLinks_PyCall) { kc::pyCall(api, kNumber65); }
+TEST_F(MonitoringByNumber, n65_getMonitoringLinks_Failure) { kc::numberFailure(api, kNumber65); }
+
+} // namespace
