@@ -495,13 +495,13 @@ TEST_F(InterfacesByNumber, n83_detectDynInterfacesEx_NotAvailable) {
 // ---- connectDynInterfaceEx (position 123, number 153) ----
 
 const kc::Case kConnectDynInterfaceExCases[] = {
-    {"full", "[\"Pr\303\274fstand \342\202\254 123.1\",true]",
+    {"full", "[\"Pr\303\274fstand \342\202\254 123.1\",128]",
      "[\"Pr\303\274fstand \342\202\254 123.1\",true]", "null", nullptr,
      "140000005072c3bc667374616e6420e282ac203132332e3101",
      "5072c3bc667374616e6420e282ac203132332e310001",
      "[\"Pr\303\274fstand \342\202\254 123.1\",true]",
      "[\"Pr\303\274fstand \342\202\254 123.1\",true]", "01", "", 0},
-    {"sparse", "[\"\",true]", "[\"\",true]", "null", nullptr, "0000000001", "0001", "[\"\",true]",
+    {"sparse", "[\"\",128]", "[\"\",true]", "null", nullptr, "0000000001", "0001", "[\"\",true]",
      "[\"\",true]", "01", "", 0},
 };
 
@@ -511,7 +511,7 @@ struct ConnectDynInterfaceExExport {
     static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
         const kc::Text a0(in[0]);
         static_cast<void>(out);
-        kel_connectDynInterfaceEx(api, a0.get(), kc::number<bool>(in[1]), error);
+        kel_connectDynInterfaceEx(api, a0.get(), kc::number<uint8_t>(in[1]), error);
     }
 };
 
@@ -536,13 +536,13 @@ TEST_F(InterfacesByNumber, n153_connectDynInterfaceEx_ShortInput) {
 // ---- testSocketBridge (position 134, number 157) ----
 
 const kc::Case kTestSocketBridgeCases[] = {
-    {"full", "[9223372036854775809]", "[9223372036854775809]", "true", "true", "0100000000000080",
+    {"full", "[9223372036854775809]", "[9223372036854775809]", "true", "1", "0100000000000080",
      "0100000000000080", "[9223372036854775809]", "[9223372036854775809]", "0101", "01", 0},
 };
 
 struct TestSocketBridgeExport {
     static constexpr const char* operation = "testSocketBridge";
-    using Result = kc::ValueResult<bool>;
+    using Result = kc::ValueResult<uint8_t>;
     static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
         kel_testSocketBridge(api, kc::number<uint64_t>(in[0]), error, &out.data);
     }
@@ -577,12 +577,12 @@ TEST_F(InterfacesByNumber, n218_setPhysicalLinks_NotAvailable) {
 // ---- openTerminal (position 196, number 227) ----
 
 const kc::Case kOpenTerminalCases[] = {
-    {"full", "[]", "[]", "true", "true", "", "", "[]", "[]", "0101", "01", 0},
+    {"full", "[]", "[]", "true", "1", "", "", "[]", "[]", "0101", "01", 0},
 };
 
 struct OpenTerminalExport {
     static constexpr const char* operation = "openTerminal";
-    using Result = kc::ValueResult<bool>;
+    using Result = kc::ValueResult<uint8_t>;
     static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
         static_cast<void>(in);
         kel_openTerminal(api, error, &out.data);
@@ -830,11 +830,11 @@ const kc::Case kGetInterfaceProvidersCases[] = {
      "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 266.1\",\"itemText2\":\"\346\227\245\346"
      "\234\254\350\252\236 \360\235\204\236 266.2\",\"itemText3\":\"K\303\274hler\\u0009\360"
      "\237\224\247 266.3\",\"itemText4\":\"say \\\"\303\251\\\" 266.4\",\"text\":\"back\\\\sla"
-     "sh \303\237 266.5\",\"value\":4294967295,\"flag\":true},{\"itemText1\":\"Z\303\274ndung "
+     "sh \303\237 266.5\",\"value\":4294967295,\"flag\":1},{\"itemText1\":\"Z\303\274ndung "
      "\360\237\232\227 266.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 266.7\",\"itemTex"
      "t3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 266.8\",\"itemText4\":\"K"
      "\303\274hler\\u0009\360\237\224\247 266.9\",\"text\":\"say \\\"\303\251\\\" 266.10\",\"v"
-     "alue\":2147483648,\"flag\":false}]",
+     "alue\":2147483648,\"flag\":0}]",
      "", "", "[]", "[]",
      "010200000001140000005072c3bc667374616e6420e282ac203236362e3114000000e697a5e69cace8aa9e20"
      "f09d849e203236362e32120000004bc3bc686c657209f09f94a7203236362e330e0000007361792022c3a922"
@@ -853,7 +853,7 @@ const kc::Case kGetInterfaceProvidersCases[] = {
      "[{\"itemText1\":\"\",\"itemText2\":\"\",\"itemText3\":\"\",\"itemText4\":\"\",\"text\":"
      "\"\",\"value\":4294967295,\"flag\":true},null]",
      "[{\"itemText1\":\"\",\"itemText2\":\"\",\"itemText3\":\"\",\"itemText4\":\"\",\"text\":"
-     "\"\",\"value\":4294967295,\"flag\":true},null]",
+     "\"\",\"value\":4294967295,\"flag\":1},null]",
      "", "", "[]", "[]", "0102000000010000000000000000000000000000000000000000ffffffff0100",
      "02000000010000000000000000000000000000000000000000ffffffff0100", 0},
     {"empty", "[]", "[]", "[]", "null", "", "", "[]", "[]", "0100000000", "00000000", 0},
@@ -874,11 +874,11 @@ const kc::Case kSetInterfaceProvidersCases[] = {
      "[[{\"itemText1\":\"Pr\303\274fstand \342\202\254 267.1\",\"itemText2\":\"\346\227\245"
      "\346\234\254\350\252\236 \360\235\204\236 267.2\",\"itemText3\":\"K\303\274hler\\u0009"
      "\360\237\224\247 267.3\",\"itemText4\":\"say \\\"\303\251\\\" 267.4\",\"text\":\"back\\"
-     "\\slash \303\237 267.5\",\"value\":4294967295,\"flag\":true},{\"itemText1\":\"Z\303\274n"
-     "dung \360\237\232\227 267.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 267.7\",\"it"
-     "emText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 267.8\",\"itemText4\":"
+     "\\slash \303\237 267.5\",\"value\":4294967295,\"flag\":128},{\"itemText1\":\"Z\303\274nd"
+     "ung \360\237\232\227 267.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 267.7\",\"ite"
+     "mText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 267.8\",\"itemText4\":"
      "\"K\303\274hler\\u0009\360\237\224\247 267.9\",\"text\":\"say \\\"\303\251\\\" 267.10\","
-     "\"value\":2147483648,\"flag\":false}]]",
+     "\"value\":2147483648,\"flag\":0}]]",
      "[[{\"itemText1\":\"Pr\303\274fstand \342\202\254 267.1\",\"itemText2\":\"\346\227\245"
      "\346\234\254\350\252\236 \360\235\204\236 267.2\",\"itemText3\":\"K\303\274hler\\u0009"
      "\360\237\224\247 267.3\",\"itemText4\":\"say \\\"\303\251\\\" 267.4\",\"text\":\"back\\"

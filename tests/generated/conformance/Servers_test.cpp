@@ -317,12 +317,12 @@ TEST_F(ServersByNumber, n161_updateUser_ShortInput) { kc::shortInput(api, kNumbe
 // ---- getServerUserManagement (position 129, number 138) ----
 
 const kc::Case kGetServerUserManagementCases[] = {
-    {"full", "[]", "[]", "true", "true", "", "", "[]", "[]", "0101", "01", 0},
+    {"full", "[]", "[]", "true", "1", "", "", "[]", "[]", "0101", "01", 0},
 };
 
 struct GetServerUserManagementExport {
     static constexpr const char* operation = "getServerUserManagement";
-    using Result = kc::ValueResult<bool>;
+    using Result = kc::ValueResult<uint8_t>;
     static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
         static_cast<void>(in);
         kel_getServerUserManagement(api, error, &out.data);
@@ -347,7 +347,7 @@ TEST_F(ServersByNumber, n138_getServerUserManagement_Failure) {
 // ---- setServerUserManagement (position 130, number 156) ----
 
 const kc::Case kSetServerUserManagementCases[] = {
-    {"full", "[true]", "[true]", "null", nullptr, "01", "01", "[true]", "[true]", "01", "", 0},
+    {"full", "[128]", "[true]", "null", nullptr, "01", "01", "[true]", "[true]", "01", "", 0},
 };
 
 struct SetServerUserManagementExport {
@@ -355,7 +355,7 @@ struct SetServerUserManagementExport {
     using Result = kc::NoResult;
     static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
         static_cast<void>(out);
-        kel_setServerUserManagement(api, kc::number<bool>(in[0]), error);
+        kel_setServerUserManagement(api, kc::number<uint8_t>(in[0]), error);
     }
 };
 
@@ -409,13 +409,13 @@ TEST_F(ServersByNumber, n162_disconnectAllClients_Failure) { kc::numberFailure(a
 // ---- reconnectRemoteServer (position 172, number 199) ----
 
 const kc::Case kReconnectRemoteServerCases[] = {
-    {"full", "[9223372036854775809]", "[9223372036854775809]", "true", "true", "0100000000000080",
+    {"full", "[9223372036854775809]", "[9223372036854775809]", "true", "1", "0100000000000080",
      "0100000000000080", "[9223372036854775809]", "[9223372036854775809]", "0101", "01", 0},
 };
 
 struct ReconnectRemoteServerExport {
     static constexpr const char* operation = "reconnectRemoteServer";
-    using Result = kc::ValueResult<bool>;
+    using Result = kc::ValueResult<uint8_t>;
     static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
         kel_reconnectRemoteServer(api, kc::number<uint64_t>(in[0]), error, &out.data);
     }
@@ -439,17 +439,17 @@ TEST_F(ServersByNumber, n199_reconnectRemoteServer_ShortInput) { kc::shortInput(
 
 const kc::Case kThirdPartyLoginCases[] = {
     {"full", "[\"Pr\303\274fstand \342\202\254 213.1\"]",
-     "[\"Pr\303\274fstand \342\202\254 213.1\"]", "true", "true",
+     "[\"Pr\303\274fstand \342\202\254 213.1\"]", "true", "1",
      "140000005072c3bc667374616e6420e282ac203231332e31",
      "5072c3bc667374616e6420e282ac203231332e3100", "[\"Pr\303\274fstand \342\202\254 213.1\"]",
      "[\"Pr\303\274fstand \342\202\254 213.1\"]", "0101", "01", 0},
-    {"sparse", "[\"\"]", "[\"\"]", "true", "true", "00000000", "00", "[\"\"]", "[\"\"]", "0101",
-     "01", 0},
+    {"sparse", "[\"\"]", "[\"\"]", "true", "1", "00000000", "00", "[\"\"]", "[\"\"]", "0101", "01",
+     0},
 };
 
 struct ThirdPartyLoginExport {
     static constexpr const char* operation = "thirdPartyLogin";
-    using Result = kc::ValueResult<bool>;
+    using Result = kc::ValueResult<uint8_t>;
     static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
         const kc::Text a0(in[0]);
         kel_thirdPartyLogin(api, a0.get(), error, &out.data);
@@ -766,8 +766,8 @@ TEST_F(ServersByNumber, n216_logIn_NotAvailable) { kc::notAvailable(api, 216, "l
 const kc::Case kGetServerSettingsCases[] = {
     {"full", "[]", "[]",
      "{\"flag\":true,\"value1\":4294967295,\"value2\":2147483648,\"value3\":2147483647}",
-     "{\"flag\":true,\"value1\":4294967295,\"value2\":2147483648,\"value3\":2147483647}", "", "",
-     "[]", "[]", "010101ffffffff00000080ffffff7f", "0101ffffffff00000080ffffff7f", 0},
+     "{\"flag\":1,\"value1\":4294967295,\"value2\":2147483648,\"value3\":2147483647}", "", "", "[]",
+     "[]", "010101ffffffff00000080ffffff7f", "0101ffffffff00000080ffffff7f", 0},
     {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
 };
 
@@ -796,16 +796,16 @@ const kc::Case kGetServerConfigurationCases[] = {
      "{\"users\":[{\"name\":\"Pr\303\274fstand \342\202\254 269.1\",\"text\":\"\346\227\245"
      "\346\234\254\350\252\236 \360\235\204\236 269.2\",\"value\":4294967295},{\"name\":\"K"
      "\303\274hler\\u0009\360\237\224\247 269.3\",\"text\":\"say \\\"\303\251\\\" 269.4\",\"va"
-     "lue\":2147483648}],\"userCount\":2,\"flag\":true,\"value1\":2147483647,\"text1\":\"back"
-     "\\\\slash \303\237 269.5\",\"text2\":\"Z\303\274ndung \360\237\232\227 269.6\",\"filters"
-     "\":[{\"pattern\":\"Pr\303\274fstand \342\202\254 269.7\",\"flag\":false,\"value\":153175"
-     "1649},{\"pattern\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 269.8\",\"fla"
-     "g\":true,\"value\":2038703763}],\"filterCount\":2,\"text3\":\"K\303\274hler\\u0009\360"
-     "\237\224\247 269.9\",\"text4\":\"say \\\"\303\251\\\" 269.10\",\"users2\":[{\"name\":\"b"
-     "ack\\\\slash \303\237 269.11\",\"text\":\"Z\303\274ndung \360\237\232\227 269.12\",\"val"
-     "ue\":398172231},{\"name\":\"Pr\303\274fstand \342\202\254 269.13\",\"text\":\"\346\227"
-     "\245\346\234\254\350\252\236 \360\235\204\236 269.14\",\"value\":905124345}],\"userCount"
-     "2\":2,\"value2\":65535}",
+     "lue\":2147483648}],\"userCount\":2,\"flag\":1,\"value1\":2147483647,\"text1\":\"back\\\\"
+     "slash \303\237 269.5\",\"text2\":\"Z\303\274ndung \360\237\232\227 269.6\",\"filters\":["
+     "{\"pattern\":\"Pr\303\274fstand \342\202\254 269.7\",\"flag\":0,\"value\":1531751649},{"
+     "\"pattern\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 269.8\",\"flag\":1,"
+     "\"value\":2038703763}],\"filterCount\":2,\"text3\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 269.9\",\"text4\":\"say \\\"\303\251\\\" 269.10\",\"users2\":[{\"name\":\"back\\\\s"
+     "lash \303\237 269.11\",\"text\":\"Z\303\274ndung \360\237\232\227 269.12\",\"value\":398"
+     "172231},{\"name\":\"Pr\303\274fstand \342\202\254 269.13\",\"text\":\"\346\227\245\346"
+     "\234\254\350\252\236 \360\235\204\236 269.14\",\"value\":905124345}],\"userCount2\":2,\""
+     "value2\":65535}",
      "", "", "[]", "[]",
      "01010200000001140000005072c3bc667374616e6420e282ac203236392e3114000000e697a5e69cace8aa9e"
      "20f09d849e203236392e32ffffffff01120000004bc3bc686c657209f09f94a7203236392e330e0000007361"
@@ -832,10 +832,10 @@ const kc::Case kGetServerConfigurationCases[] = {
      "\"value\":2147483647}],\"text3\":\"\",\"text4\":\"\",\"users2\":[{\"name\":\"\",\"text\""
      ":\"\",\"value\":1531751649}],\"value2\":65535}",
      "{\"users\":[{\"name\":\"\",\"text\":\"\",\"value\":4294967295}],\"userCount\":1,\"flag\""
-     ":true,\"value1\":2147483648,\"text1\":\"\",\"text2\":\"\",\"filters\":[{\"pattern\":\"\""
-     ",\"flag\":false,\"value\":2147483647}],\"filterCount\":1,\"text3\":\"\",\"text4\":\"\","
-     "\"users2\":[{\"name\":\"\",\"text\":\"\",\"value\":1531751649}],\"userCount2\":1,\"value"
-     "2\":65535}",
+     ":1,\"value1\":2147483648,\"text1\":\"\",\"text2\":\"\",\"filters\":[{\"pattern\":\"\",\""
+     "flag\":0,\"value\":2147483647}],\"filterCount\":1,\"text3\":\"\",\"text4\":\"\",\"users2"
+     "\":[{\"name\":\"\",\"text\":\"\",\"value\":1531751649}],\"userCount2\":1,\"value2\":6553"
+     "5}",
      "", "", "[]", "[]",
      "010101000000010000000000000000ffffffff0100000080000000000000000001000000010000000000ffff"
      "ff7f000000000000000001000000010000000000000000e1ac4c5bffff",
