@@ -796,7 +796,9 @@ def scripted_results_cpp(iface: kelidl.Interface) -> str:
            "// operation returns (an asynchronous one: what its callback receives).", "",
            '#include "Parse.h"', '#include "Script.h"', "", "#include <array>", "",
            f"namespace {ENGINE_NS}::Reference {{", "",
-           "namespace {", "", "constexpr std::array operations{"]
+           "namespace {", "",
+           # The size is spelled out: deducing it folds over every element, past clang's limit.
+           f"constexpr std::array<ScriptedOperation, {len(iface.operations)}> operations{{"]
     for op in iface.operations:
         kind = scripted_type(op)
         parse = "nullptr" if kind is None else f"&parseResult<{kind}>"
@@ -879,7 +881,7 @@ def dispatch_table_h(iface: kelidl.Interface) -> str:
            "// operation. Numbers not listed name no operation.",
            "#pragma once", "", '#include "dispatch.h"', "", "#include <array>", "",
            "namespace kel::dispatch {", "",
-           "inline constexpr std::array operations{"]
+           f"inline constexpr std::array<Operation, {sum(o.otx is not None for o in iface.operations)}> operations{{"]
     for op in sorted((o for o in iface.operations if o.otx is not None), key=lambda o: o.otx):
         if iface.streamable(op):
             discard = ", true" if op.discard else ""

@@ -9,7 +9,7 @@
 
 namespace kel::dispatch {
 
-inline constexpr std::array operations{
+inline constexpr std::array<Operation, 224> operations{
     Operation{2, "initialize", &call<&TarnApi::initialize>, false, false},
     Operation{3, "end", &call<&TarnApi::end>, false, false},
     Operation{4, "startServer", &call<&TarnApi::startServer>, false, false},

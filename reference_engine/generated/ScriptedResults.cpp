@@ -11,7 +11,7 @@ namespace Varno::Kel_cpp::Reference {
 
 namespace {
 
-constexpr std::array operations{
+constexpr std::array<ScriptedOperation, 271> operations{
     ScriptedOperation{"initialize", &parseResult<void>},
     ScriptedOperation{"end", &parseResult<void>},
     ScriptedOperation{"startServer", &parseResult<std::wstring>},
