@@ -30,10 +30,32 @@ enum ErrorCode : int32_t {
     BadVehicleDescription = 1013,
     UnknownIdentifier = 1014,
 
-    // Reserved for the families not simulated yet: Services 1100-1199, Projects
-    // 1200-1299, Servers 1300-1399, Interfaces 1400-1499, Monitoring 1500-1599, Files
-    // 1600-1699, Flash 1700-1799, Coding 1800-1899, Measurement 1900-1999, Sequences
-    // 2000-2099, EcuOrder 2100-2199, VehicleUpdate 2200-2299.
+    // Services: 1100-1199.
+
+    // Projects: 1200-1299.
+
+    // Servers: 1300-1399.
+
+    // Interfaces: 1400-1499.
+
+    // Monitoring: 1500-1599.
+
+    // Files: 1600-1699.
+
+    // Flash: 1700-1799.
+
+    // Coding: 1800-1899.
+
+    // Measurement: 1900-1999.
+
+    // Sequences: 2000-2099.
+
+    // EcuOrder: 2100-2199.
+
+    // VehicleUpdate: 2200-2299.
+
+    // Lifecycle, continued: engine-wide conditions.
+    DataRootUnavailable = 2300, // the data root cannot be created or used
 };
 
 } // namespace Varno::Kel_cpp::Reference

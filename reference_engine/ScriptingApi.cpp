@@ -1,8 +1,11 @@
+#include "DataRoot.h"
 #include "Script.h"
 #include "SimulatedVehicle.h"
 
 #include <algorithm>
 #include <cstring>
+#include <cwchar>
+#include <filesystem>
 #include <kel_sim.h>
 
 using Varno::Kel_cpp::MvciServerError;
@@ -93,6 +96,28 @@ void kelsim_restart(void) { Varno::Kel_cpp::Reference::restartLocalEngine(); }
 void kelsim_reset(void) {
     Script::global()->reset();
     Varno::Kel_cpp::Reference::resetVehicleScripts();
+    Varno::Kel_cpp::Reference::setDataRoot({});
+}
+
+void kelsim_setDataRoot(const wchar_t* folder) {
+    Varno::Kel_cpp::Reference::setDataRoot(folder != nullptr
+                                               ? Varno::Kel_cpp::Reference::pathFromWide(folder)
+                                               : std::filesystem::path());
+}
+
+int64_t kelsim_dataRoot(wchar_t* buffer, size_t size) {
+    try {
+        const std::wstring root =
+            Varno::Kel_cpp::Reference::wideFromPath(Varno::Kel_cpp::Reference::dataRoot());
+        if (buffer != nullptr && size > 0) {
+            const size_t n = std::min(size - 1, root.size());
+            std::wmemcpy(buffer, root.data(), n);
+            buffer[n] = L'\0';
+        }
+        return static_cast<int64_t>(root.size());
+    } catch (const TarnApiException&) {
+        return -1;
+    }
 }
 
 } // extern "C"

@@ -3,10 +3,13 @@
 // through the exports (synchronous, void and asynchronous) in place of the vehicle's.
 #include "support.h"
 
+#include <DataRoot.h>
 #include <Parse.h>
 #include <algorithm>
 #include <chrono>
 #include <condition_variable>
+#include <filesystem>
+#include <fstream>
 #include <limits>
 #include <mutex>
 #include <string>
@@ -22,7 +25,9 @@ using kel_test::List;
 using Varno::Kel_cpp::Reference::describe;
 using Varno::Kel_cpp::Reference::Json;
 using Varno::Kel_cpp::Reference::parseText;
+using Varno::Kel_cpp::Reference::pathFromWide;
 using Varno::Kel_cpp::Reference::ScriptError;
+using Varno::Kel_cpp::Reference::wideFromPath;
 namespace engine = Varno::Kel_cpp;
 using namespace std::chrono_literals;
 
@@ -298,3 +303,37 @@ TEST_F(ScriptedConcurrency, ManyThreadsTakeEachScriptedResultOnce) {
 }
 
 } // namespace
+
+// The data root every persisting family builds on: the scripted folder wins, is created
+// on first use, and reset goes back to a per-process folder that is a different one.
+TEST(DataRoot, IsTheScriptedFolderCreatedOnFirstUseUntilReset) {
+    const auto scratch =
+        std::filesystem::temp_directory_path() /
+        ("kel_data_root_test_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()));
+    std::filesystem::remove_all(scratch);
+    const auto chosen = scratch / pathFromWide(L"r\u00e9pertoire");
+    kelsim_setDataRoot(wideFromPath(chosen).c_str());
+    EXPECT_FALSE(std::filesystem::exists(chosen)) << "made before it was used";
+
+    std::wstring root(512, L'\0');
+    const int64_t length = kelsim_dataRoot(root.data(), root.size());
+    ASSERT_GT(length, 0);
+    root.resize(static_cast<size_t>(length));
+    EXPECT_EQ(pathFromWide(root), chosen);
+    EXPECT_TRUE(std::filesystem::is_directory(chosen));
+    EXPECT_EQ(kelsim_dataRoot(nullptr, 0), length) << "the length alone";
+
+    kelsim_reset();
+    std::wstring fallback(512, L'\0');
+    fallback.resize(static_cast<size_t>(kelsim_dataRoot(fallback.data(), fallback.size())));
+    EXPECT_NE(pathFromWide(fallback), chosen);
+    EXPECT_TRUE(std::filesystem::is_directory(pathFromWide(fallback)));
+
+    // A root that cannot be made (below a regular file) is refused, not faked.
+    std::filesystem::create_directories(scratch);
+    { std::ofstream(scratch / "file") << "x"; }
+    kelsim_setDataRoot(wideFromPath(scratch / "file" / "below").c_str());
+    EXPECT_EQ(kelsim_dataRoot(nullptr, 0), -1);
+    kelsim_reset();
+    std::filesystem::remove_all(scratch);
+}

@@ -93,6 +93,18 @@ KEL_SIM_API int32_t kelsim_setVehicleJson(const char* json);
 /* Every live vehicle goes back to the fault memory of its description. */
 KEL_SIM_API void kelsim_reloadVehicle(void);
 
+/* ---- the data root ----
+ * The real folder under which the engine keeps its files (reference_engine/README.md,
+ * "The data root"): the one set here, else the one named by the environment variable
+ * KEL_SIM_DATA_ROOT, else a folder made per process in the temporary folder and removed
+ * when the process ends. NULL (or L"") goes back to KEL_SIM_DATA_ROOT or the default.
+ * Families read their files when their vehicle starts: kelsim_restart after a change. */
+KEL_SIM_API void kelsim_setDataRoot(const wchar_t* folder);
+/* The current root (created if needed), copied into `buffer` (`size` wide characters,
+ * NUL-terminated, cut if short); returns its full length, or -1 when it cannot be
+ * created. */
+KEL_SIM_API int64_t kelsim_dataRoot(wchar_t* buffer, size_t size);
+
 /* ---- asynchronous calls, by operation name ("readDtcsAsync") ----
  * Number of reports of each call (0, the default: one per result, at least one). */
 KEL_SIM_API void kelsim_setAsyncReports(const char* operation, uint32_t reports);
@@ -106,9 +118,10 @@ KEL_SIM_API void kelsim_failAsync(const char* operation, uint32_t count, int32_t
  * or -1 when no live engine object has it. */
 KEL_SIM_API int64_t kelsim_runningAsyncCalls(uint64_t handle);
 
-/* Forgets scripted failures, results, delays, recorded calls, asynchronous scripts and
- * the vehicle description set above. Scripted reports of asynchronous calls still on
- * their way are delivered first, so none arrives after the test that asked for it. */
+/* Forgets scripted failures, results, delays, recorded calls, asynchronous scripts, and
+ * the vehicle description and data root set above. Scripted reports of asynchronous
+ * calls still on their way are delivered first, so none arrives after the test that
+ * asked for it. */
 KEL_SIM_API void kelsim_reset(void);
 
 #ifdef __cplusplus
