@@ -126,4 +126,19 @@ void ControlUnits::requireLoaded() const {
     }
 }
 
+void ControlUnits::countExchange(size_t requestBytes, size_t responseBytes) {
+    const std::lock_guard lock(mutex_);
+    ++traffic_.requests;
+    traffic_.bytesSent += requestBytes;
+    if (responseBytes > 0) {
+        ++traffic_.responses;
+        traffic_.bytesReceived += responseBytes;
+    }
+}
+
+BusTraffic ControlUnits::traffic() const {
+    const std::lock_guard lock(mutex_);
+    return traffic_;
+}
+
 } // namespace Varno::Kel_cpp::Reference

@@ -61,6 +61,15 @@ struct Ecu {
     bool identified = false;
 };
 
+// What the simulated bus has carried since the vehicle started: every request sent to a
+// unit and every response it gave, with their bytes.
+struct BusTraffic {
+    uint64_t requests = 0;
+    uint64_t responses = 0;
+    uint64_t bytesSent = 0;     // request bytes
+    uint64_t bytesReceived = 0; // response bytes
+};
+
 // The vehicle's control units, shared by every family: identification, DTCs and
 // later services and measurements all see the same units. Holds its own lock; a
 // family reaches the units only through read and update, whose function runs under
@@ -89,12 +98,19 @@ public:
         return std::forward<Use>(use)(ecus_);
     }
 
+    // Counts one request of `requestBytes` and, unless the unit stayed silent
+    // (`responseBytes` 0), its response. Every exchange with a unit goes through here,
+    // so that transmission figures and monitors see the same traffic.
+    void countExchange(size_t requestBytes, size_t responseBytes);
+    BusTraffic traffic() const;
+
 private:
     void requireLoaded() const;
 
     mutable std::mutex mutex_;
     std::vector<Ecu> ecus_;
     std::wstring problem_;
+    BusTraffic traffic_; // under mutex_
 };
 
 } // namespace Varno::Kel_cpp::Reference
