@@ -68,8 +68,34 @@ typedef struct ReadDataResult ReadDataResult;
 typedef struct Target Target;
 typedef struct TargetStatus TargetStatus;
 typedef struct TargetFilter TargetFilter;
+typedef struct ParameterInfo ParameterInfo;
+typedef struct ConstraintInfo ConstraintInfo;
+typedef struct ScaleConstraintInfo ScaleConstraintInfo;
+typedef struct UnitInfo UnitInfo;
 typedef struct KelEvent KelEvent;
 typedef struct EventReport EventReport;
+typedef struct FileFilter FileFilter;
+typedef struct TargetConfig TargetConfig;
+typedef struct ProjectConfig ProjectConfig;
+typedef struct ProjectDetails ProjectDetails;
+typedef struct DbFileInfo DbFileInfo;
+typedef struct SystemInfo SystemInfo;
+typedef struct SystemProperty SystemProperty;
+typedef struct TarnApiConfig TarnApiConfig;
+typedef struct ServerConfig ServerConfig;
+typedef struct Oauth2Config Oauth2Config;
+typedef struct MoxConfig MoxConfig;
+typedef struct TcpInfo TcpInfo;
+typedef struct StatusInfo StatusInfo;
+typedef struct TransmissionInfo TransmissionInfo;
+typedef struct ProcessInfo ProcessInfo;
+typedef struct ProcessEntry ProcessEntry;
+typedef struct ProcessThread ProcessThread;
+typedef struct ProcessMemory ProcessMemory;
+typedef struct GlobalProtocolParameterSet GlobalProtocolParameterSet;
+typedef struct GlobalProtocolParameter GlobalProtocolParameter;
+typedef struct LoadDatabaseResult LoadDatabaseResult;
+typedef struct UserInfo UserInfo;
 
 /* The MVCI (ISO 22900) server error beneath an engine error.
  * Freed with release_MvciServerError, which frees everything it points to; a list of them with
@@ -265,6 +291,75 @@ struct TargetFilter {
     int32_t value;    /* copied unchanged from the engine */
 };
 
+/* The description of one parameter: its texts, limits and unit. Structured parameters describe
+ * their members as children.
+ * Freed with release_ParameterInfo, which frees everything it points to; a list of them with
+ * release_ParameterInfo_array. */
+struct ParameterInfo {
+    wchar_t* itemText1;       /* the item's first text, usually its name */
+    wchar_t* itemText2;       /* second text */
+    wchar_t* itemText3;       /* third text */
+    wchar_t* itemText4;       /* fourth text */
+    wchar_t* text1;           /* copied unchanged from the engine */
+    wchar_t* text2;           /* copied unchanged from the engine */
+    wchar_t* text3;           /* copied unchanged from the engine */
+    int32_t value1;           /* copied unchanged from the engine */
+    wchar_t* text4;           /* copied unchanged from the engine */
+    ParameterInfo** children; /* the member parameters of a structured parameter */
+    uint32_t childCount;
+    wchar_t* text5;  /* copied unchanged from the engine */
+    wchar_t** names; /* engine texts; the block is allocated even when empty Allocated even when
+                        empty: go by nameCount. */
+    uint32_t nameCount;
+    uint8_t flag1;               /* copied unchanged from the engine */
+    int32_t value2;              /* copied unchanged from the engine */
+    KelError* error;             /* an error describing this parameter; NULL when none */
+    uint8_t flag2;               /* copied unchanged from the engine */
+    uint32_t values[8];          /* eight engine values, in order */
+    uint8_t flag3;               /* copied unchanged from the engine */
+    ConstraintInfo* constraint1; /* the first constraint on the value; NULL when none */
+    ConstraintInfo* constraint2; /* the second constraint on the value; NULL when none */
+    wchar_t* text6;              /* copied unchanged from the engine */
+    wchar_t* text7;              /* copied unchanged from the engine */
+    uint8_t flag4;               /* copied unchanged from the engine */
+    UnitInfo* unit;              /* the value's unit; NULL when none */
+};
+
+/* A constraint on a parameter's value, made of intervals.
+ * Freed with release_ConstraintInfo, which frees everything it points to; a list of them with
+ * release_ConstraintInfo_array. */
+struct ConstraintInfo {
+    wchar_t* text1;               /* copied unchanged from the engine */
+    wchar_t* text2;               /* copied unchanged from the engine */
+    uint8_t flag;                 /* copied unchanged from the engine */
+    ScaleConstraintInfo** scales; /* the intervals; NULL and 0 when none */
+    uint32_t scaleCount;
+};
+
+/* One interval of a constraint.
+ * Freed with release_ScaleConstraintInfo, which frees everything it points to; a list of them
+ * with release_ScaleConstraintInfo_array. */
+struct ScaleConstraintInfo {
+    wchar_t* itemText1; /* the item's first text, usually its name */
+    wchar_t* itemText2; /* second text */
+    wchar_t* itemText3; /* third text */
+    wchar_t* itemText4; /* fourth text */
+    wchar_t* text1;     /* copied unchanged from the engine */
+    wchar_t* text2;     /* copied unchanged from the engine */
+    uint8_t flag;       /* copied unchanged from the engine */
+    int32_t value;      /* copied unchanged from the engine */
+};
+
+/* The unit of a parameter's value; plain data that owns no memory.
+ * Freed with release_UnitInfo; a list of them with release_UnitInfo_array. */
+struct UnitInfo {
+    uint32_t values[7]; /* seven engine values, in order */
+    uint64_t value1;    /* copied unchanged from the engine */
+    uint8_t flag1;      /* copied unchanged from the engine */
+    uint64_t value2;    /* copied unchanged from the engine */
+    uint8_t flag2;      /* copied unchanged from the engine */
+};
+
 /* One event of the engine, fetched from an event channel.
  * Freed with release_KelEvent, which frees everything it points to; a list of them with
  * release_KelEvent_array. */
@@ -283,6 +378,310 @@ struct KelEvent {
 struct EventReport {
     KelEvent** events; /* the events; NULL when there are none */
     uint32_t eventCount;
+};
+
+/* One file filter: a name pattern with the engine's flag and value.
+ * Freed with release_FileFilter, which frees everything it points to; a list of them with
+ * release_FileFilter_array. */
+struct FileFilter {
+    wchar_t* pattern; /* the file name pattern */
+    uint8_t flag;     /* copied unchanged from the engine */
+    uint32_t value;   /* copied unchanged from the engine */
+};
+
+/* The configuration of one target within a project.
+ * Freed with release_TargetConfig, which frees everything it points to; a list of them with
+ * release_TargetConfig_array. */
+struct TargetConfig {
+    int32_t value;  /* copied unchanged from the engine */
+    wchar_t* text1; /* copied unchanged from the engine */
+    wchar_t* text2; /* copied unchanged from the engine */
+};
+
+/* The configuration of one diagnostic project. itemText1 is the project's name; the other
+ * members are the engine's and copied unchanged.
+ * Freed with release_ProjectConfig, which frees everything it points to; a list of them with
+ * release_ProjectConfig_array. */
+struct ProjectConfig {
+    wchar_t* itemText1;    /* the item's first text, usually its name */
+    wchar_t* itemText2;    /* second text */
+    wchar_t* itemText3;    /* third text */
+    wchar_t* itemText4;    /* fourth text */
+    FileFilter** filters1; /* the project's first file filters */
+    uint32_t filterCount1;
+    int32_t value0;         /* copied unchanged from the engine */
+    TargetConfig** targets; /* the project's targets */
+    uint32_t targetCount;
+    FileFilter** filters2; /* the second file filters: pattern and flag, value 0 */
+    uint32_t filterCount2;
+    wchar_t** strings1; /* engine texts; the block is allocated even when empty Allocated even when
+                           empty: go by stringCount1. */
+    uint32_t stringCount1;
+    wchar_t* text1;     /* copied unchanged from the engine */
+    uint32_t value1;    /* copied unchanged from the engine */
+    wchar_t* text2;     /* copied unchanged from the engine */
+    wchar_t** strings2; /* engine texts; the block is allocated even when empty Allocated even when
+                           empty: go by stringCount2. */
+    uint32_t stringCount2;
+    wchar_t* text3;  /* copied unchanged from the engine */
+    uint32_t value2; /* copied unchanged from the engine */
+    uint32_t value3; /* copied unchanged from the engine */
+    bool flags[4];   /* four engine flags, in order */
+};
+
+/* The details of the selected project (or of one project): its database files and users.
+ * Freed with release_ProjectDetails, which frees everything it points to; a list of them with
+ * release_ProjectDetails_array. */
+struct ProjectDetails {
+    DbFileInfo** dbFiles1; /* the database files in the project's folder */
+    uint32_t dbFileCount1;
+    DbFileInfo** dbFiles2; /* the database files loaded now */
+    uint32_t dbFileCount2;
+    wchar_t* text1;   /* the project's name */
+    uint32_t value1;  /* the format of the project's files */
+    wchar_t* text2;   /* the project's folder */
+    uint32_t value2;  /* 1 when the project is the selected one */
+    UserInfo** users; /* the project's users */
+    uint32_t userCount;
+};
+
+/* One database file of a project.
+ * Freed with release_DbFileInfo, which frees everything it points to; a list of them with
+ * release_DbFileInfo_array. */
+struct DbFileInfo {
+    wchar_t* name;   /* the file's name, relative to the project's folder */
+    wchar_t* path;   /* the file's full path */
+    uint64_t size;   /* its size in bytes; 0 when it is missing */
+    uint8_t loaded;  /* 1 when the file is loaded */
+    KelError* error; /* why the file cannot be loaded; NULL when it can */
+};
+
+/* Information on the system the engine runs on.
+ * Freed with release_SystemInfo, which frees everything it points to; a list of them with
+ * release_SystemInfo_array. */
+struct SystemInfo {
+    uint32_t value1; /* the number of processors */
+    uint32_t value2; /* the size of a memory page in bytes */
+    wchar_t* text1;  /* the operating system's name */
+    uint32_t value3; /* the width of a pointer in bits */
+    wchar_t* text2;  /* the operating system's release */
+    wchar_t* text3;  /* the host's name */
+    wchar_t* text4;  /* the processor architecture */
+};
+
+/* One system property of the engine; a property may hold child properties, so the properties
+ * form a tree. release_SystemProperty frees a whole tree: the children, the error and the
+ * bytes.
+ * Freed with release_SystemProperty, which frees everything it points to; a list of them with
+ * release_SystemProperty_array. */
+struct SystemProperty {
+    wchar_t* itemText1;        /* the item's first text, usually its name */
+    wchar_t* itemText2;        /* second text */
+    wchar_t* itemText3;        /* third text */
+    wchar_t* itemText4;        /* fourth text */
+    wchar_t* text1;            /* the property's value, as text */
+    wchar_t* text2;            /* the value a reset gives */
+    uint32_t value1;           /* copied unchanged from the engine */
+    SystemProperty** children; /* the child properties */
+    uint32_t childCount;
+    wchar_t* text3;  /* copied unchanged from the engine */
+    KelError* error; /* the property's own error; NULL when none */
+    wchar_t* text4;  /* copied unchanged from the engine */
+    uint32_t value2; /* copied unchanged from the engine */
+    uint8_t* data;   /* the property's bytes; NULL and 0 when empty */
+    uint32_t dataLength;
+    uint32_t value3; /* copied unchanged from the engine */
+    uint8_t flag;    /* 1 when the value differs from the one a reset gives */
+    uint32_t value4; /* copied unchanged from the engine */
+};
+
+/* The engine's own configuration.
+ * Freed with release_TarnApiConfig, which frees everything it points to; a list of them with
+ * release_TarnApiConfig_array. */
+struct TarnApiConfig {
+    int32_t value1;               /* copied unchanged from the engine */
+    uint8_t flag1;                /* copied unchanged from the engine */
+    uint8_t flag2;                /* copied unchanged from the engine */
+    int32_t value2;               /* copied unchanged from the engine */
+    ServerConfig* server;         /* the server configuration; NULL when none */
+    uint32_t value3;              /* copied unchanged from the engine */
+    uint32_t value4;              /* copied unchanged from the engine */
+    uint32_t value5;              /* copied unchanged from the engine */
+    uint8_t flag3;                /* copied unchanged from the engine */
+    uint32_t value6;              /* copied unchanged from the engine */
+    uint16_t value7;              /* copied unchanged; 16 bits wide, as the engine's */
+    Oauth2Config** oauth2Configs; /* the OAuth 2 configurations */
+    uint32_t oauth2ConfigCount;
+    wchar_t* text; /* copied unchanged from the engine */
+};
+
+/* The server part of the engine's configuration.
+ * Freed with release_ServerConfig, which frees everything it points to; a list of them with
+ * release_ServerConfig_array. */
+struct ServerConfig {
+    wchar_t* address; /* the address the server listens on */
+    uint32_t port;    /* the port it listens on */
+    uint8_t enabled;  /* 1 when the server starts with the engine */
+    wchar_t* name;    /* the name the server gives itself to clients */
+};
+
+/* One OAuth 2 configuration of the engine. It names a client registered with an identity
+ * provider; no secret is part of it.
+ * Freed with release_Oauth2Config, which frees everything it points to; a list of them with
+ * release_Oauth2Config_array. */
+struct Oauth2Config {
+    wchar_t* issuer;   /* the identity provider's address */
+    wchar_t* clientId; /* the client's identifier at the provider */
+    wchar_t** scopes;  /* the scopes the engine asks for */
+    uint32_t scopeCount;
+    wchar_t* redirectUrl; /* where the provider sends the user back */
+};
+
+/* The engine's Mox configuration, as saveMoxConfiguration stores it.
+ * Freed with release_MoxConfig, which frees everything it points to; a list of them with
+ * release_MoxConfig_array. */
+struct MoxConfig {
+    wchar_t* text1; /* copied unchanged from the engine */
+    wchar_t* text2; /* copied unchanged from the engine */
+    wchar_t* text3; /* copied unchanged from the engine */
+    wchar_t* text4; /* copied unchanged from the engine */
+    wchar_t* text5; /* copied unchanged from the engine */
+    uint8_t flag1;  /* copied unchanged from the engine */
+    uint8_t flag2;  /* copied unchanged from the engine */
+    uint8_t flag3;  /* copied unchanged from the engine */
+    uint32_t value; /* copied unchanged from the engine */
+    uint8_t flag4;  /* copied unchanged from the engine */
+    uint8_t flag5;  /* copied unchanged from the engine */
+    uint8_t flag6;  /* copied unchanged from the engine */
+    wchar_t* text6; /* copied unchanged from the engine */
+    wchar_t* text7; /* copied unchanged from the engine */
+    TcpInfo* tcp;   /* the TCP settings; NULL when none */
+};
+
+/* TCP settings; plain data that owns no memory.
+ * Freed with release_TcpInfo; a list of them with release_TcpInfo_array. */
+struct TcpInfo {
+    uint8_t value1;  /* copied unchanged from the engine */
+    uint8_t value2;  /* copied unchanged from the engine */
+    uint8_t value3;  /* copied unchanged from the engine */
+    uint32_t value4; /* copied unchanged from the engine */
+    uint32_t value5; /* copied unchanged from the engine */
+    uint32_t value6; /* copied unchanged from the engine */
+};
+
+/* The engine's status information; plain data that owns no memory.
+ * Freed with release_StatusInfo; a list of them with release_StatusInfo_array. */
+struct StatusInfo {
+    uint64_t value1; /* the calls made on this engine object before this one */
+    uint64_t value2; /* how many of them failed */
+    uint64_t value3; /* milliseconds since the engine started */
+    uint64_t value4; /* microseconds spent in those calls */
+    uint64_t value5; /* database files loaded now */
+    uint32_t value6; /* projects in the projects folder */
+    uint64_t value7; /* times the status text was set */
+    uint64_t value8; /* when the engine started, in milliseconds since 1970 (UTC) */
+};
+
+/* The engine's transmission information; plain data that owns no memory.
+ * Freed with release_TransmissionInfo; a list of them with release_TransmissionInfo_array. */
+struct TransmissionInfo {
+    uint64_t value1; /* requests sent to the control units */
+    uint64_t value2; /* responses received from them */
+    uint64_t value3; /* request bytes sent */
+    uint64_t value4; /* response bytes received */
+};
+
+/* Information on the engine's process.
+ * Freed with release_ProcessInfo, which frees everything it points to; a list of them with
+ * release_ProcessInfo_array. */
+struct ProcessInfo {
+    ProcessEntry** processes; /* one entry: the engine's own process */
+    uint32_t processCount;
+    uint8_t flag1; /* 1 in a 64-bit process */
+    uint8_t flag2; /* 1 when the engine is initialized */
+    wchar_t* text; /* the engine's status text */
+};
+
+/* One process of ProcessInfo.
+ * Freed with release_ProcessEntry, which frees everything it points to; a list of them with
+ * release_ProcessEntry_array. */
+struct ProcessEntry {
+    uint32_t value;         /* the process id */
+    ProcessThread** items1; /* the process's threads */
+    uint32_t itemCount1;
+    wchar_t* text;          /* the process's executable */
+    ProcessMemory** items2; /* the process's memory figures */
+    uint32_t itemCount2;
+};
+
+/* One thread of a process.
+ * Freed with release_ProcessThread, which frees everything it points to; a list of them with
+ * release_ProcessThread_array. */
+struct ProcessThread {
+    uint32_t id;   /* the thread's id */
+    wchar_t* name; /* its name; empty where the system names none */
+};
+
+/* One memory figure of a process.
+ * Freed with release_ProcessMemory, which frees everything it points to; a list of them with
+ * release_ProcessMemory_array. */
+struct ProcessMemory {
+    wchar_t* name;  /* what is counted: "resident", "virtual", "peak resident" */
+    uint64_t bytes; /* its size in bytes */
+};
+
+/* One set of global protocol parameters.
+ * Freed with release_GlobalProtocolParameterSet, which frees everything it points to; a list
+ * of them with release_GlobalProtocolParameterSet_array. */
+struct GlobalProtocolParameterSet {
+    wchar_t* text1;                       /* the set's name */
+    wchar_t* text2;                       /* the protocol it is for */
+    wchar_t* text3;                       /* copied unchanged from the engine */
+    wchar_t* text4;                       /* copied unchanged from the engine */
+    GlobalProtocolParameter** parameters; /* the parameters of the set */
+    uint32_t parameterCount;
+};
+
+/* One global protocol parameter: a parameter description with its value. itemText1 is its
+ * name, the other NamedItem texts its label, description and unit.
+ * Freed with release_GlobalProtocolParameter, which frees everything it points to; a list of
+ * them with release_GlobalProtocolParameter_array. */
+struct GlobalProtocolParameter {
+    wchar_t* itemText1;    /* the item's first text, usually its name */
+    wchar_t* itemText2;    /* second text */
+    wchar_t* itemText3;    /* third text */
+    wchar_t* itemText4;    /* fourth text */
+    wchar_t* value;        /* the value, as text */
+    wchar_t* defaultValue; /* the value the engine starts with */
+    ParameterInfo** infos; /* descriptions of the parameter's members */
+    uint32_t infoCount;
+    wchar_t** choices; /* the values it may take; none when any value within its constraints is
+                          allowed Allocated even when empty: go by choiceCount. */
+    uint32_t choiceCount;
+    KelError* error;              /* why the value is not valid; NULL when it is */
+    ConstraintInfo** constraints; /* the limits of its value */
+    uint32_t constraintCount;
+    TcpInfo* tcp;    /* the TCP settings of a parameter of a TCP link; NULL otherwise */
+    uint32_t value1; /* copied unchanged from the engine */
+    uint8_t flag;    /* copied unchanged from the engine */
+};
+
+/* The outcome of loading or unloading one database file.
+ * Freed with release_LoadDatabaseResult, which frees everything it points to; a list of them
+ * with release_LoadDatabaseResult_array. */
+struct LoadDatabaseResult {
+    wchar_t* text;   /* the file as given */
+    uint8_t flag;    /* 1 when the file is loaded after the call */
+    KelError* error; /* the file's own error; NULL when none */
+};
+
+/* A user of the engine's server.
+ * Freed with release_UserInfo, which frees everything it points to; a list of them with
+ * release_UserInfo_array. */
+struct UserInfo {
+    wchar_t* name;  /* the user's name */
+    wchar_t* text;  /* copied unchanged from the engine */
+    uint32_t value; /* copied unchanged from the engine */
 };
 
 /* ---- engine objects ---- */
@@ -386,10 +785,67 @@ KEL_C_API void release_TargetStatus(KEL_CONSUMED TargetStatus* ptr);
 KEL_C_API void release_TargetStatus_array(KEL_CONSUMED TargetStatus** ptr, uint64_t count);
 KEL_C_API void release_TargetFilter(KEL_CONSUMED TargetFilter* ptr);
 KEL_C_API void release_TargetFilter_array(KEL_CONSUMED TargetFilter** ptr, uint64_t count);
+KEL_C_API void release_ParameterInfo(KEL_CONSUMED ParameterInfo* ptr);
+KEL_C_API void release_ParameterInfo_array(KEL_CONSUMED ParameterInfo** ptr, uint64_t count);
+KEL_C_API void release_ConstraintInfo(KEL_CONSUMED ConstraintInfo* ptr);
+KEL_C_API void release_ConstraintInfo_array(KEL_CONSUMED ConstraintInfo** ptr, uint64_t count);
+KEL_C_API void release_ScaleConstraintInfo(KEL_CONSUMED ScaleConstraintInfo* ptr);
+KEL_C_API void release_ScaleConstraintInfo_array(KEL_CONSUMED ScaleConstraintInfo** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_UnitInfo(KEL_CONSUMED UnitInfo* ptr);
+KEL_C_API void release_UnitInfo_array(KEL_CONSUMED UnitInfo** ptr, uint64_t count);
 KEL_C_API void release_KelEvent(KEL_CONSUMED KelEvent* ptr);
 KEL_C_API void release_KelEvent_array(KEL_CONSUMED KelEvent** ptr, uint64_t count);
 KEL_C_API void release_EventReport(KEL_CONSUMED EventReport* ptr);
 KEL_C_API void release_EventReport_array(KEL_CONSUMED EventReport** ptr, uint64_t count);
+KEL_C_API void release_FileFilter(KEL_CONSUMED FileFilter* ptr);
+KEL_C_API void release_FileFilter_array(KEL_CONSUMED FileFilter** ptr, uint64_t count);
+KEL_C_API void release_TargetConfig(KEL_CONSUMED TargetConfig* ptr);
+KEL_C_API void release_TargetConfig_array(KEL_CONSUMED TargetConfig** ptr, uint64_t count);
+KEL_C_API void release_ProjectConfig(KEL_CONSUMED ProjectConfig* ptr);
+KEL_C_API void release_ProjectConfig_array(KEL_CONSUMED ProjectConfig** ptr, uint64_t count);
+KEL_C_API void release_ProjectDetails(KEL_CONSUMED ProjectDetails* ptr);
+KEL_C_API void release_ProjectDetails_array(KEL_CONSUMED ProjectDetails** ptr, uint64_t count);
+KEL_C_API void release_DbFileInfo(KEL_CONSUMED DbFileInfo* ptr);
+KEL_C_API void release_DbFileInfo_array(KEL_CONSUMED DbFileInfo** ptr, uint64_t count);
+KEL_C_API void release_SystemInfo(KEL_CONSUMED SystemInfo* ptr);
+KEL_C_API void release_SystemInfo_array(KEL_CONSUMED SystemInfo** ptr, uint64_t count);
+KEL_C_API void release_SystemProperty(KEL_CONSUMED SystemProperty* ptr);
+KEL_C_API void release_SystemProperty_array(KEL_CONSUMED SystemProperty** ptr, uint64_t count);
+KEL_C_API void release_TarnApiConfig(KEL_CONSUMED TarnApiConfig* ptr);
+KEL_C_API void release_TarnApiConfig_array(KEL_CONSUMED TarnApiConfig** ptr, uint64_t count);
+KEL_C_API void release_ServerConfig(KEL_CONSUMED ServerConfig* ptr);
+KEL_C_API void release_ServerConfig_array(KEL_CONSUMED ServerConfig** ptr, uint64_t count);
+KEL_C_API void release_Oauth2Config(KEL_CONSUMED Oauth2Config* ptr);
+KEL_C_API void release_Oauth2Config_array(KEL_CONSUMED Oauth2Config** ptr, uint64_t count);
+KEL_C_API void release_MoxConfig(KEL_CONSUMED MoxConfig* ptr);
+KEL_C_API void release_MoxConfig_array(KEL_CONSUMED MoxConfig** ptr, uint64_t count);
+KEL_C_API void release_TcpInfo(KEL_CONSUMED TcpInfo* ptr);
+KEL_C_API void release_TcpInfo_array(KEL_CONSUMED TcpInfo** ptr, uint64_t count);
+KEL_C_API void release_StatusInfo(KEL_CONSUMED StatusInfo* ptr);
+KEL_C_API void release_StatusInfo_array(KEL_CONSUMED StatusInfo** ptr, uint64_t count);
+KEL_C_API void release_TransmissionInfo(KEL_CONSUMED TransmissionInfo* ptr);
+KEL_C_API void release_TransmissionInfo_array(KEL_CONSUMED TransmissionInfo** ptr, uint64_t count);
+KEL_C_API void release_ProcessInfo(KEL_CONSUMED ProcessInfo* ptr);
+KEL_C_API void release_ProcessInfo_array(KEL_CONSUMED ProcessInfo** ptr, uint64_t count);
+KEL_C_API void release_ProcessEntry(KEL_CONSUMED ProcessEntry* ptr);
+KEL_C_API void release_ProcessEntry_array(KEL_CONSUMED ProcessEntry** ptr, uint64_t count);
+KEL_C_API void release_ProcessThread(KEL_CONSUMED ProcessThread* ptr);
+KEL_C_API void release_ProcessThread_array(KEL_CONSUMED ProcessThread** ptr, uint64_t count);
+KEL_C_API void release_ProcessMemory(KEL_CONSUMED ProcessMemory* ptr);
+KEL_C_API void release_ProcessMemory_array(KEL_CONSUMED ProcessMemory** ptr, uint64_t count);
+KEL_C_API void release_GlobalProtocolParameterSet(KEL_CONSUMED GlobalProtocolParameterSet* ptr);
+KEL_C_API void
+release_GlobalProtocolParameterSet_array(KEL_CONSUMED GlobalProtocolParameterSet** ptr,
+                                         uint64_t count);
+KEL_C_API void release_GlobalProtocolParameter(KEL_CONSUMED GlobalProtocolParameter* ptr);
+KEL_C_API void release_GlobalProtocolParameter_array(KEL_CONSUMED GlobalProtocolParameter** ptr,
+                                                     uint64_t count);
+KEL_C_API void release_LoadDatabaseResult(KEL_CONSUMED LoadDatabaseResult* ptr);
+KEL_C_API void release_LoadDatabaseResult_array(KEL_CONSUMED LoadDatabaseResult** ptr,
+                                                uint64_t count);
+KEL_C_API void release_UserInfo(KEL_CONSUMED UserInfo* ptr);
+KEL_C_API void release_UserInfo_array(KEL_CONSUMED UserInfo** ptr, uint64_t count);
 
 /* ---- callbacks of the asynchronous operations ----
  * Called once or several times per call, on a thread of the engine; isFinal marks
@@ -673,6 +1129,13 @@ KEL_C_API void kel_setSessionTargetFilters(TarnApi* api, KelError** error,
 
 /* ---- Services ----
  * Service execution and descriptions, security access, vehicle unlock and cyclic services */
+/* Describes the identification values that one target offers. Position 42.
+ * target: kept by the caller, read only during the call.
+ * On success *infos and *infoCount receive a ParameterInfo list, NULL and 0 when empty; free
+ * it with release_ParameterInfo_array(infos, infoCount). */
+KEL_C_API void kel_getIdentificationValueInfos(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                               KelError** error, KEL_OUT ParameterInfo*** infos,
+                                               KEL_OUT uint32_t* infoCount);
 /* Asks for the seed of a security access; the two values reach the engine in this order.
  * Position 44.
  * On success *seed receives a buffer of *seedLength bytes, allocated also for 0 bytes; free it
@@ -683,6 +1146,15 @@ KEL_C_API void kel_createSeed(TarnApi* api, uint32_t value1, uint32_t value2, Ke
  * key: kept by the caller, read only during the call. */
 KEL_C_API void kel_sendKey(TarnApi* api, KEL_KEPT const uint8_t* key, uint32_t keyLength,
                            KelError** error);
+/* Describes the parameters of actuator services; the two texts select them as the engine
+ * defines. Position 67.
+ * text1, text2: kept by the caller, read only during the call.
+ * On success *infos and *infoCount receive a ParameterInfo list, NULL and 0 when empty; free
+ * it with release_ParameterInfo_array(infos, infoCount). */
+KEL_C_API void kel_getActuatorServiceInfos(TarnApi* api, KEL_KEPT const wchar_t* text1,
+                                           KEL_KEPT const wchar_t* text2, KelError** error,
+                                           KEL_OUT ParameterInfo*** infos,
+                                           KEL_OUT uint32_t* infoCount);
 /* Stops a cyclic run started with kel_startCyclicServices. Position 80. */
 KEL_C_API void kel_stopCyclicServices(TarnApi* api, uint64_t cyclic, KelError** error);
 /* Releases a vehicle unlock; value is passed to the engine unchanged. Position 147.
@@ -691,6 +1163,18 @@ KEL_C_API void kel_releaseVehicleUnlock(TarnApi* api, uint64_t value, KelError**
 
 /* ---- Projects ----
  * Projects, configuration, system properties, database files and system information */
+/* Reads a project's configuration. Position 7.
+ * projectName: kept by the caller, read only during the call.
+ * On success *config receives a ProjectConfig record, or NULL when the engine gives none; free
+ * it with release_ProjectConfig. */
+KEL_C_API void kel_getProjectConfiguration(TarnApi* api, KEL_KEPT const wchar_t* projectName,
+                                           KelError** error, KEL_OUT ProjectConfig** config);
+/* Sets a project's configuration. Position 8.
+ * config: consumed: the library frees it with release_ProjectConfig, also when the call fails;
+ * NULL passes no record.
+ * projectName: kept by the caller, read only during the call. */
+KEL_C_API void kel_setProjectConfiguration(TarnApi* api, KEL_KEPT const wchar_t* projectName,
+                                           KEL_CONSUMED ProjectConfig* config, KelError** error);
 /* Saves a project's configuration. Position 9.
  * projectName: kept by the caller, read only during the call. */
 KEL_C_API void kel_saveProjectConfiguration(TarnApi* api, KEL_KEPT const wchar_t* projectName,
@@ -710,10 +1194,26 @@ KEL_C_API void kel_convertProject(TarnApi* api, KEL_KEPT const wchar_t* projectP
                                   KelError** error);
 /* Saves the MOX configuration. Position 77. */
 KEL_C_API void kel_saveMoxConfiguration(TarnApi* api, KelError** error);
+/* Reads the details of the selected project: its database files and users. Position 81.
+ * On success *details receives a ProjectDetails record, or NULL when the engine gives none;
+ * free it with release_ProjectDetails. */
+KEL_C_API void kel_getProjectDetails(TarnApi* api, KelError** error,
+                                     KEL_OUT ProjectDetails** details);
+/* Reads a system property by name. Position 87.
+ * name: kept by the caller, read only during the call.
+ * On success *property receives a SystemProperty record, or NULL when the engine gives none;
+ * free it with release_SystemProperty. */
+KEL_C_API void kel_getSystemProperty(TarnApi* api, KEL_KEPT const wchar_t* name, KelError** error,
+                                     KEL_OUT SystemProperty** property);
 /* Sets a system property back to its default. Position 88.
  * name: kept by the caller, read only during the call. */
 KEL_C_API void kel_resetSystemProperty(TarnApi* api, KEL_KEPT const wchar_t* name,
                                        KelError** error);
+/* Sets a system property. Position 89.
+ * property: consumed: the library frees it with release_SystemProperty, also when the call
+ * fails; NULL passes no record. */
+KEL_C_API void kel_setSystemProperty(TarnApi* api, KEL_CONSUMED SystemProperty* property,
+                                     KelError** error);
 /* Lists vendor module names; text selects them as the engine defines. Position 91.
  * text: kept by the caller, read only during the call.
  * On success *names and *nameCount receive a string list, NULL and 0 when empty; free it with
@@ -721,11 +1221,43 @@ KEL_C_API void kel_resetSystemProperty(TarnApi* api, KEL_KEPT const wchar_t* nam
 KEL_C_API void kel_getVendorModuleNamesEx(TarnApi* api, KEL_KEPT const wchar_t* text,
                                           KelError** error, KEL_OUT wchar_t*** names,
                                           KEL_OUT uint32_t* nameCount);
+/* Reads information about the system that the engine runs on. Position 150.
+ * On success *info receives a SystemInfo record, or NULL when the engine gives none; free it
+ * with release_SystemInfo. */
+KEL_C_API void kel_getSystemInfo(TarnApi* api, KelError** error, KEL_OUT SystemInfo** info);
+/* Loads the given database files; one result per file. Position 168.
+ * files: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a LoadDatabaseResult list, NULL and 0 when
+ * empty; free it with release_LoadDatabaseResult_array(results, resultCount). */
+KEL_C_API void kel_loadDatabaseFile(TarnApi* api, KEL_KEPT wchar_t** files, uint32_t fileCount,
+                                    KelError** error, KEL_OUT LoadDatabaseResult*** results,
+                                    KEL_OUT uint32_t* resultCount);
+/* Unloads the given database files; one result per file. Position 175.
+ * files: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a LoadDatabaseResult list, NULL and 0 when
+ * empty; free it with release_LoadDatabaseResult_array(results, resultCount). */
+KEL_C_API void kel_unloadDatabaseFile(TarnApi* api, KEL_KEPT wchar_t** files, uint32_t fileCount,
+                                      KelError** error, KEL_OUT LoadDatabaseResult*** results,
+                                      KEL_OUT uint32_t* resultCount);
+/* Reads the details of the given projects. Position 192.
+ * projectNames: kept by the caller, read only during the call.
+ * On success *details and *detailCount receive a ProjectDetails list, NULL and 0 when empty;
+ * free it with release_ProjectDetails_array(details, detailCount). */
+KEL_C_API void kel_getProjectsDetails(TarnApi* api, KEL_KEPT wchar_t** projectNames,
+                                      uint32_t projectNameCount, KelError** error,
+                                      KEL_OUT ProjectDetails*** details,
+                                      KEL_OUT uint32_t* detailCount);
 /* Selects a dynamic project made of the given items. Position 216.
  * projectName, items: kept by the caller, read only during the call. */
 KEL_C_API void kel_selectDynamicProject(TarnApi* api, KEL_KEPT const wchar_t* projectName,
                                         KEL_KEPT wchar_t** items, uint32_t itemCount,
                                         KelError** error);
+/* Lists the configurations of every project. Position 241.
+ * On success *configs and *configCount receive a ProjectConfig list, NULL and 0 when empty;
+ * free it with release_ProjectConfig_array(configs, configCount). */
+KEL_C_API void kel_getProjectConfigurations(TarnApi* api, KelError** error,
+                                            KEL_OUT ProjectConfig*** configs,
+                                            KEL_OUT uint32_t* configCount);
 /* Reads the engine's version. Position 243.
  * On success *version receives a new string; free it with release_Memory. */
 KEL_C_API void kel_getVersion(TarnApi* api, KelError** error, KEL_OUT wchar_t** version);
@@ -737,6 +1269,48 @@ KEL_C_API void kel_getSelectedProject(TarnApi* api, KelError** error,
  * projectName: kept by the caller, read only during the call. */
 KEL_C_API void kel_setSelectedProject(TarnApi* api, KelError** error,
                                       KEL_KEPT const wchar_t* projectName);
+/* Reads the engine's configuration. Position 246.
+ * On success *config receives a TarnApiConfig record, or NULL when the engine gives none; free
+ * it with release_TarnApiConfig. */
+KEL_C_API void kel_getConfiguration(TarnApi* api, KelError** error, KEL_OUT TarnApiConfig** config);
+/* Sets the engine's configuration. Position 247.
+ * config: consumed: the library frees it with release_TarnApiConfig, also when the call fails;
+ * NULL passes no record. */
+KEL_C_API void kel_setConfiguration(TarnApi* api, KelError** error,
+                                    KEL_CONSUMED TarnApiConfig* config);
+/* Reads information about the engine's processes. Position 252.
+ * On success *info receives a ProcessInfo record, or NULL when the engine gives none; free it
+ * with release_ProcessInfo. */
+KEL_C_API void kel_getProcessInfo(TarnApi* api, KelError** error, KEL_OUT ProcessInfo** info);
+/* Reads the engine's transmission information. Position 253.
+ * On success *info receives a TransmissionInfo record, or NULL when the engine gives none;
+ * free it with release_TransmissionInfo. */
+KEL_C_API void kel_getTransmissionInfo(TarnApi* api, KelError** error,
+                                       KEL_OUT TransmissionInfo** info);
+/* Reads the MOX configuration. Position 255.
+ * On success *config receives a MoxConfig record, or NULL when the engine gives none; free it
+ * with release_MoxConfig. */
+KEL_C_API void kel_getMoxConfiguration(TarnApi* api, KelError** error, KEL_OUT MoxConfig** config);
+/* Sets the MOX configuration. Position 256.
+ * config: consumed: the library frees it with release_MoxConfig, also when the call fails;
+ * NULL passes no record. */
+KEL_C_API void kel_setMoxConfiguration(TarnApi* api, KelError** error,
+                                       KEL_CONSUMED MoxConfig* config);
+/* Reads the global protocol parameter sets. Position 260.
+ * On success *sets and *setCount receive a GlobalProtocolParameterSet list, NULL and 0 when
+ * empty; free it with release_GlobalProtocolParameterSet_array(sets, setCount). */
+KEL_C_API void kel_getGlobalProtocolParameterSets(TarnApi* api, KelError** error,
+                                                  KEL_OUT GlobalProtocolParameterSet*** sets,
+                                                  KEL_OUT uint32_t* setCount);
+/* Sets the global protocol parameter sets. Position 261.
+ * sets: kept by the caller, read only during the call. */
+KEL_C_API void kel_setGlobalProtocolParameterSets(TarnApi* api, KelError** error,
+                                                  KEL_KEPT GlobalProtocolParameterSet** sets,
+                                                  uint32_t setCount);
+/* Reads the engine's status information. Position 262.
+ * On success *info receives a StatusInfo record, or NULL when the engine gives none; free it
+ * with release_StatusInfo. */
+KEL_C_API void kel_getStatusInfo(TarnApi* api, KelError** error, KEL_OUT StatusInfo** info);
 /* Reads the directory that the engine writes its debug trace to. Position 268.
  * On success *directory receives a new string; free it with release_Memory. */
 KEL_C_API void kel_getCurrentDebugTraceDirectory(TarnApi* api, KelError** error,
@@ -773,6 +1347,11 @@ KEL_C_API void kel_addUser(TarnApi* api, KEL_KEPT const wchar_t* text1,
 /* Removes a user from the server's user management. Position 125.
  * text: kept by the caller, read only during the call. */
 KEL_C_API void kel_removeUser(TarnApi* api, KEL_KEPT const wchar_t* text, KelError** error);
+/* Lists the server's users. Position 126.
+ * On success *users and *userCount receive an UserInfo list, NULL and 0 when empty; free it
+ * with release_UserInfo_array(users, userCount). */
+KEL_C_API void kel_getUsers(TarnApi* api, KelError** error, KEL_OUT UserInfo*** users,
+                            KEL_OUT uint32_t* userCount);
 /* Changes a user of the server's user management. Position 128.
  * text1, text2, text3: kept by the caller, read only during the call. */
 KEL_C_API void kel_updateUser(TarnApi* api, KEL_KEPT const wchar_t* text1,
@@ -963,6 +1542,13 @@ KEL_C_API void kel_deleteDirectory(TarnApi* api, KEL_KEPT const wchar_t* path, K
  * path, newName: kept by the caller, read only during the call. */
 KEL_C_API void kel_renameFile(TarnApi* api, KEL_KEPT const wchar_t* path,
                               KEL_KEPT const wchar_t* newName, KelError** error);
+/* Lists the files that pass the given file filters. Position 173.
+ * filters, text: kept by the caller, read only during the call.
+ * On success *files and *fileCount receive a string list, NULL and 0 when empty; free it with
+ * release_StringArray(files, fileCount). */
+KEL_C_API void kel_filterFiles(TarnApi* api, KEL_KEPT FileFilter** filters, uint32_t filterCount,
+                               KEL_KEPT const wchar_t* text, KelError** error,
+                               KEL_OUT wchar_t*** files, KEL_OUT uint32_t* fileCount);
 /* Moves a file; tells whether it moved. Position 184.
  * source, target: kept by the caller, read only during the call.
  * On success *moved receives the result. */
@@ -1010,6 +1596,13 @@ KEL_C_API void kel_calculateChecksum(TarnApi* api, KEL_KEPT const wchar_t* path,
 
 /* ---- Measurement ----
  * Measurement values */
+/* Describes the measurement values that one target offers. Position 38.
+ * target: kept by the caller, read only during the call.
+ * On success *infos and *infoCount receive a ParameterInfo list, NULL and 0 when empty; free
+ * it with release_ParameterInfo_array(infos, infoCount). */
+KEL_C_API void kel_getMeasurementValueInfos(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                            KelError** error, KEL_OUT ParameterInfo*** infos,
+                                            KEL_OUT uint32_t* infoCount);
 /* Registers measurement values of one target for repeated reading; returns the registration
  * that kel_getMeasurementValues takes. Position 39.
  * target, names: kept by the caller, read only during the call.
@@ -1045,6 +1638,14 @@ KEL_C_API uint64_t kel_readMeasurementValuesAsync(TarnApi* api, KEL_KEPT const w
                                                   KelError** error,
                                                   ReadMeasurementValuesCallbackFunction callback,
                                                   void* context);
+/* Describes the named measurement values of one target. Position 73.
+ * target, names: kept by the caller, read only during the call.
+ * On success *infos and *infoCount receive a ParameterInfo list, NULL and 0 when empty; free
+ * it with release_ParameterInfo_array(infos, infoCount). */
+KEL_C_API void kel_getSingleMeasurementValueInfos(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                                  KEL_KEPT wchar_t** names, uint32_t nameCount,
+                                                  KelError** error, KEL_OUT ParameterInfo*** infos,
+                                                  KEL_OUT uint32_t* infoCount);
 
 /* ---- Sequences ----
  * Sequences */

@@ -24,15 +24,16 @@ Script::Call::Call(CallClock& clock, Script& script, const char* operation, std:
     try {
         script.record(operation, std::move(arguments));
     } catch (...) {
-        finish(); // a failed call is still the previous call
+        finish(true); // a failed call is still the previous call
         throw;
     }
 }
 
-void Script::Call::finish() {
+void Script::Call::finish(bool failed) {
     const auto elapsed = std::chrono::steady_clock::now() - start_;
     clock_.finished(static_cast<uint64_t>(
-        std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count()));
+                        std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count()),
+                    failed);
 }
 
 void Script::record(const char* operation, std::string arguments) {

@@ -13,6 +13,7 @@
 #include <chrono>
 #include <cstdint>
 #include <deque>
+#include <exception>
 #include <functional>
 #include <map>
 #include <memory>
@@ -44,15 +45,29 @@ void deliverLater(std::function<void()> report);
 // from a report itself).
 void deliverNow();
 
-// Duration of the calls made through one engine object, in microseconds.
+// Duration of the calls made through one engine object, in microseconds, and how many
+// were made and failed (getStatusInfo).
 class CallClock {
 public:
-    void finished(uint64_t micros) { last_.store(micros); }
+    void finished(uint64_t micros, bool failed) {
+        last_.store(micros);
+        calls_.fetch_add(1);
+        total_.fetch_add(micros);
+        if (failed) {
+            failed_.fetch_add(1);
+        }
+    }
     // Read by getCallDuration while it runs, so it sees the call before it.
     uint64_t previous() const { return last_.load(); }
+    uint64_t calls() const { return calls_.load(); }
+    uint64_t failed() const { return failed_.load(); }
+    uint64_t totalMicros() const { return total_.load(); }
 
 private:
     std::atomic<uint64_t> last_{0};
+    std::atomic<uint64_t> calls_{0};
+    std::atomic<uint64_t> failed_{0};
+    std::atomic<uint64_t> total_{0};
 };
 
 class Script {
@@ -65,12 +80,13 @@ public:
         Call(CallClock& clock, Script& script, const char* operation, std::string arguments);
         Call(const Call&) = delete;
         Call& operator=(const Call&) = delete;
-        ~Call() { finish(); }
+        ~Call() { finish(std::uncaught_exceptions() > unwinding_); }
 
     private:
-        void finish();
+        void finish(bool failed);
         CallClock& clock_;
         std::chrono::steady_clock::time_point start_;
+        int unwinding_ = std::uncaught_exceptions(); // more at the end: the call failed
     };
 
     // Records the call and applies what is scripted for it (delay, failure).

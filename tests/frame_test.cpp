@@ -81,13 +81,13 @@ TEST_F(Frame, SecondFailureOverwritesWithoutFreeingTheFirst) {
 
 TEST_F(Frame, UnsupportedOperationNamesItself) {
     ErrorSlot error;
-    wchar_t* version = nullptr;
-    kel_getVersion(api, &error, &version);
+    wchar_t* path = nullptr;
+    kel_getEcuOrderFilePath(api, &error, &path);
     ASSERT_TRUE(error);
-    EXPECT_EQ(version, nullptr);
+    EXPECT_EQ(path, nullptr);
     EXPECT_EQ(error->code, 1000);
     const std::wstring message = error->message;
-    EXPECT_NE(message.find(L"getVersion"), std::wstring::npos)
+    EXPECT_NE(message.find(L"getEcuOrderFilePath"), std::wstring::npos)
         << std::string(message.begin(), message.end());
     EXPECT_NE(message.find(L"does not support"), std::wstring::npos);
 }

@@ -2,16 +2,60 @@
 // runs on a fresh data root of its own, so what one saves never reaches another.
 #include "support.h"
 
+#include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <thread>
+#include <vector>
+
+#if defined(_WIN32)
+#include <windows.h>
+
+#include <process.h>
+#else
+#include <unistd.h>
+
+#include <sys/syscall.h>
+#endif
 
 namespace {
 
 using kel_test::ErrorSlot;
+using kel_test::List;
+
+// Replaces a string member of a record the library handed out.
+void replace(wchar_t*& member, const wchar_t* text) {
+    release_Memory(member);
+    member = duplicate_WString(text);
+}
+
+void writeFile(const std::filesystem::path& file, const std::string& text) {
+    std::filesystem::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+const std::string database = R"({"kind": "kel_sim database", "format": 1})";
+
+uint32_t currentThreadId() {
+#if defined(_WIN32)
+    return GetCurrentThreadId();
+#else
+    return static_cast<uint32_t>(syscall(SYS_gettid));
+#endif
+}
+
+uint32_t processId() {
+#if defined(_WIN32)
+    return static_cast<uint32_t>(_getpid());
+#else
+    return static_cast<uint32_t>(getpid());
+#endif
+}
 
 class ProjectsTest : public ::testing::Test {
 protected:
@@ -49,6 +93,30 @@ protected:
         return copy;
     }
 
+    ProjectConfig* configuration(const wchar_t* project) {
+        ErrorSlot error;
+        ProjectConfig* config = nullptr;
+        kel_getProjectConfiguration(api, project, &error, &config);
+        EXPECT_FALSE(error);
+        return config;
+    }
+
+    int32_t selectionError(const wchar_t* project) {
+        ErrorSlot error;
+        kel_setSelectedProject(api, &error, project);
+        return error ? error->code : 0;
+    }
+
+    SystemProperty* property(const wchar_t* name) {
+        ErrorSlot error;
+        SystemProperty* p = nullptr;
+        kel_getSystemProperty(api, name, &error, &p);
+        EXPECT_FALSE(error) << std::filesystem::path(name).string();
+        return p;
+    }
+
+    std::filesystem::path projects() const { return root / "projects"; }
+
     std::filesystem::path root;
     TarnApi* api = nullptr;
 
@@ -83,6 +151,433 @@ TEST_F(ProjectsTest, SelectingAnUnknownProjectIsAnErrorAndKeepsTheSelection) {
         EXPECT_EQ(error->code, 1200);
     }
     EXPECT_EQ(selected(), L"Default");
+}
+
+TEST_F(ProjectsTest, ASavedProjectConfigurationOutlivesARestartAndAnUnsavedOneDoesNot) {
+    const wchar_t* description = L"Werkstatt S\u00fcd \u2713";
+    auto change = [&] {
+        ProjectConfig* config = configuration(L"Default");
+        ASSERT_NE(config, nullptr);
+        replace(config->itemText2, description);
+        config->value0 = -5;
+        config->value3 = 77;
+        config->flags[2] = true;
+        ErrorSlot error;
+        kel_setProjectConfiguration(api, L"Default", config, &error);
+        ASSERT_FALSE(error);
+    };
+    auto check = [&](const wchar_t* expected, int32_t value0) {
+        ProjectConfig* config = configuration(L"Default");
+        ASSERT_NE(config, nullptr);
+        EXPECT_EQ(std::wstring(config->itemText1), L"Default");
+        EXPECT_EQ(std::wstring(config->itemText2), expected);
+        EXPECT_EQ(config->value0, value0);
+        EXPECT_EQ(config->flags[2], value0 != 0);
+        EXPECT_NE(config->strings1, nullptr); // allocated even when empty
+        EXPECT_EQ(config->stringCount1, 0u);
+        release_ProjectConfig(config);
+    };
+
+    change();
+    check(description, -5);
+    restart();
+    check(L"Simulated vehicle project", 0);
+
+    change();
+    ErrorSlot error;
+    kel_saveProjectConfiguration(api, L"Default", &error);
+    ASSERT_FALSE(error);
+    restart();
+    check(description, -5);
+
+    List<ProjectConfig, release_ProjectConfig_array> all;
+    kel_getProjectConfigurations(api, &error, &all.items, &all.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(all.count, 1u);
+    EXPECT_EQ(all.items[0]->value3, 77u);
+}
+
+TEST_F(ProjectsTest, ProjectConfigurationsOfUnknownProjectsAndNullInputs) {
+    EXPECT_EQ(configuration(L"Nowhere"), nullptr); // no record and no error
+    ErrorSlot error;
+    kel_setProjectConfiguration(api, L"Default", nullptr, &error);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1207);
+    ErrorSlot unknown;
+    kel_saveProjectConfiguration(api, L"Nowhere", &unknown);
+    ASSERT_TRUE(unknown);
+    EXPECT_EQ(unknown->code, 1200);
+}
+
+TEST_F(ProjectsTest, TheEngineConfigurationOutlivesARestartOnlyWhenSaved) {
+    std::filesystem::copy(projects() / "Default", projects() / "Second");
+    ErrorSlot error;
+    kel_refreshProjectList(api, &error);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(selectionError(L"Second"), 0);
+
+    TarnApiConfig* config = nullptr;
+    kel_getConfiguration(api, &error, &config);
+    ASSERT_FALSE(error);
+    ASSERT_NE(config, nullptr);
+    ASSERT_NE(config->server, nullptr);
+    config->value1 = 42;
+    config->value7 = 0xBEEF;
+    config->server->port = 7000;
+    kel_setConfiguration(api, &error, config);
+    ASSERT_FALSE(error);
+
+    MoxConfig* mox = nullptr;
+    kel_getMoxConfiguration(api, &error, &mox);
+    ASSERT_FALSE(error);
+    ASSERT_NE(mox, nullptr);
+    replace(mox->text1, L"mox \u00fc");
+    kel_setMoxConfiguration(api, &error, mox);
+    ASSERT_FALSE(error);
+
+    SystemProperty* language = property(L"Engine.Language");
+    ASSERT_NE(language, nullptr);
+    replace(language->text1, L"de");
+    kel_setSystemProperty(api, language, &error);
+    ASSERT_FALSE(error);
+
+    kel_saveConfiguration(api, &error); // the Mox configuration is not saved
+    ASSERT_FALSE(error);
+    restart();
+
+    EXPECT_EQ(selected(), L"Second");
+    kel_getConfiguration(api, &error, &config);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(config->value1, 42);
+    EXPECT_EQ(config->value7, 0xBEEF);
+    EXPECT_EQ(config->server->port, 7000u);
+    EXPECT_EQ(std::wstring(config->server->address), L"127.0.0.1");
+    release_TarnApiConfig(config);
+    language = property(L"Engine.Language");
+    EXPECT_EQ(std::wstring(language->text1), L"de");
+    EXPECT_EQ(language->flag, 1);
+    release_SystemProperty(language);
+    kel_getMoxConfiguration(api, &error, &mox);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(std::wstring(mox->text1), L"");
+    replace(mox->text1, L"mox \u00fc");
+    kel_setMoxConfiguration(api, &error, mox);
+    kel_saveMoxConfiguration(api, &error);
+    ASSERT_FALSE(error);
+    restart();
+    kel_getMoxConfiguration(api, &error, &mox);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(std::wstring(mox->text1), L"mox \u00fc");
+    release_MoxConfig(mox);
+}
+
+TEST_F(ProjectsTest, ASavedConfigurationThatCannotBeReadIsReportedUntilReplaced) {
+    writeFile(root / "configuration" / "engine.json", "{\"format\": 1");
+    restart();
+    ErrorSlot error;
+    TarnApiConfig* config = nullptr;
+    kel_getConfiguration(api, &error, &config);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1209);
+    EXPECT_EQ(config, nullptr);
+    EXPECT_EQ(selected(), L"Default");
+
+    config = static_cast<TarnApiConfig*>(allocate_Memory(sizeof(TarnApiConfig)));
+    std::memset(config, 0, sizeof *config);
+    config->value1 = 9;
+    config->text = duplicate_WString(L"");
+    ErrorSlot set;
+    kel_setConfiguration(api, &set, config);
+    ASSERT_FALSE(set);
+    kel_saveConfiguration(api, &set);
+    ASSERT_FALSE(set);
+    restart();
+    kel_getConfiguration(api, &set, &config);
+    ASSERT_FALSE(set);
+    EXPECT_EQ(config->value1, 9);
+    EXPECT_EQ(config->server, nullptr);
+    release_TarnApiConfig(config);
+}
+
+TEST_F(ProjectsTest, DatabaseFilesLoadAndUnloadWithAnErrorPerFile) {
+    writeFile(projects() / "Default" / "second.kdb", database);
+    writeFile(projects() / "Default" / "notes.kdb", "not a database");
+    writeFile(root / "outside.kdb", database);
+    ErrorSlot error;
+    wchar_t* files[] = {const_cast<wchar_t*>(L"second.kdb"), const_cast<wchar_t*>(L"missing.kdb"),
+                        const_cast<wchar_t*>(L"../../outside.kdb"),
+                        const_cast<wchar_t*>(L"notes.kdb"), const_cast<wchar_t*>(L"vehicle.kdb")};
+    List<LoadDatabaseResult, release_LoadDatabaseResult_array> loaded;
+    kel_loadDatabaseFile(api, files, 5, &error, &loaded.items, &loaded.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(loaded.count, 5u);
+    const int32_t expected[] = {0, 1203, 1206, 1204, 0};
+    for (uint32_t i = 0; i < 5; ++i) {
+        const auto* r = loaded.items[i];
+        EXPECT_EQ(std::wstring(r->text), files[i]);
+        EXPECT_EQ(r->error != nullptr ? r->error->code : 0, expected[i]) << i;
+        EXPECT_EQ(r->flag, expected[i] == 0 ? 1 : 0) << i;
+    }
+
+    ProjectDetails* details = nullptr;
+    kel_getProjectDetails(api, &error, &details);
+    ASSERT_FALSE(error);
+    ASSERT_NE(details, nullptr);
+    EXPECT_EQ(std::wstring(details->text1), L"Default");
+    ASSERT_EQ(details->dbFileCount2, 2u); // the project's own database, then the new one
+    EXPECT_EQ(std::wstring(details->dbFiles2[0]->name), L"vehicle.kdb");
+    EXPECT_EQ(std::wstring(details->dbFiles2[1]->name), L"second.kdb");
+    ASSERT_EQ(details->dbFileCount1, 3u); // every database file in the folder, by name
+    EXPECT_EQ(std::wstring(details->dbFiles1[0]->name), L"notes.kdb");
+    ASSERT_NE(details->dbFiles1[0]->error, nullptr);
+    EXPECT_EQ(details->dbFiles1[0]->error->code, 1204);
+    EXPECT_EQ(details->dbFiles1[0]->loaded, 0);
+    EXPECT_EQ(details->dbFiles1[1]->loaded, 1);
+    EXPECT_EQ(details->dbFiles1[1]->size, database.size());
+    release_ProjectDetails(details);
+
+    wchar_t* unload[] = {const_cast<wchar_t*>(L"second.kdb"), const_cast<wchar_t*>(L"second.kdb")};
+    List<LoadDatabaseResult, release_LoadDatabaseResult_array> unloaded;
+    kel_unloadDatabaseFile(api, unload, 2, &error, &unloaded.items, &unloaded.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(unloaded.count, 2u);
+    EXPECT_EQ(unloaded.items[0]->error, nullptr);
+    EXPECT_EQ(unloaded.items[0]->flag, 0);
+    ASSERT_NE(unloaded.items[1]->error, nullptr);
+    EXPECT_EQ(unloaded.items[1]->error->code, 1205);
+
+    StatusInfo* status = nullptr;
+    kel_getStatusInfo(api, &error, &status);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(status->value5, 1u);
+    release_StatusInfo(status);
+}
+
+TEST_F(ProjectsTest, AnOlderProjectMustBeConvertedBeforeItCanBeSelected) {
+    writeFile(projects() / "Old" / "project.json", R"({"format": 1, "databases": ["old.kdb"]})");
+    writeFile(projects() / "Old" / "old.kdb", database);
+    writeFile(projects() / "Broken" / "project.json", "{not json");
+    ErrorSlot error;
+    kel_refreshProjectList(api, &error);
+    ASSERT_FALSE(error);
+
+    auto required = [&](const std::wstring& path) -> int {
+        ErrorSlot e;
+        uint8_t answer = 7;
+        kel_isProjectConversionRequired(api, path.c_str(), &e, &answer);
+        return e ? -e->code : answer;
+    };
+    EXPECT_EQ(required(L"Old"), 1);
+    EXPECT_EQ(required((projects() / "Old").wstring()), 1);
+    EXPECT_EQ(required(L"Default"), 0);
+    EXPECT_EQ(required(L"Broken"), -1201);
+    EXPECT_EQ(required(L"Nowhere"), -1200);
+    EXPECT_EQ(required(root.wstring()), -1200);
+    EXPECT_EQ(selectionError(L"Old"), 1202);
+    EXPECT_EQ(selectionError(L"Broken"), 1201);
+    EXPECT_EQ(configuration(L"Old"), nullptr);
+
+    kel_convertProject(api, L"Old", &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(required(L"Old"), 0);
+    restart();
+    EXPECT_EQ(required(L"Old"), 0);
+    ASSERT_EQ(selectionError(L"Old"), 0);
+    ProjectDetails* details = nullptr;
+    kel_getProjectDetails(api, &error, &details);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(details->dbFileCount2, 1u); // its database files are kept and load
+    EXPECT_EQ(std::wstring(details->dbFiles2[0]->name), L"old.kdb");
+    EXPECT_EQ(details->value1, 2u);
+    release_ProjectDetails(details);
+    ProjectConfig* config = configuration(L"Old");
+    ASSERT_NE(config, nullptr);
+    EXPECT_EQ(std::wstring(config->itemText1), L"Old");
+    release_ProjectConfig(config);
+}
+
+TEST_F(ProjectsTest, SystemPropertiesFormATreeAndAResetRestoresTheDefaults) {
+    SystemProperty* engine = property(L"Engine");
+    ASSERT_NE(engine, nullptr);
+    ASSERT_EQ(engine->childCount, 3u);
+    EXPECT_EQ(std::wstring(engine->children[0]->itemText1), L"Engine.Language");
+    EXPECT_EQ(std::wstring(engine->children[0]->text1), L"en");
+    EXPECT_EQ(engine->children[0]->flag, 0);
+    replace(engine->children[1]->text1, L"3");
+    ErrorSlot error;
+    kel_setSystemProperty(api, engine, &error); // sets the children given with it
+    ASSERT_FALSE(error);
+    SystemProperty* level = property(L"Engine.TraceLevel");
+    EXPECT_EQ(std::wstring(level->text1), L"3");
+    EXPECT_EQ(level->flag, 1);
+    release_SystemProperty(level);
+
+    // One unknown name refuses the whole change.
+    engine = property(L"Engine");
+    replace(engine->children[0]->text1, L"fr");
+    replace(engine->children[2]->itemText1, L"Engine.Nothing");
+    kel_setSystemProperty(api, engine, &error);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1208);
+    SystemProperty* language = property(L"Engine.Language");
+    EXPECT_EQ(std::wstring(language->text1), L"en");
+    release_SystemProperty(language);
+
+    ErrorSlot reset;
+    kel_resetSystemProperty(api, L"Engine", &reset);
+    ASSERT_FALSE(reset);
+    level = property(L"Engine.TraceLevel");
+    EXPECT_EQ(std::wstring(level->text1), L"0");
+    EXPECT_EQ(level->flag, 0);
+    release_SystemProperty(level);
+
+    ErrorSlot unknown;
+    SystemProperty* none = nullptr;
+    kel_getSystemProperty(api, L"Nothing", &unknown, &none);
+    ASSERT_TRUE(unknown);
+    EXPECT_EQ(unknown->code, 1208);
+    EXPECT_EQ(none, nullptr);
+}
+
+TEST_F(ProjectsTest, ProcessAndSystemInformationAreTheRealFigures) {
+    ErrorSlot error;
+    ProcessInfo* info = nullptr;
+    kel_getProcessInfo(api, &error, &info);
+    ASSERT_FALSE(error);
+    ASSERT_NE(info, nullptr);
+    ASSERT_EQ(info->processCount, 1u);
+    const ProcessEntry* process = info->processes[0];
+    EXPECT_EQ(process->value, processId());
+    EXPECT_NE(std::wstring(process->text), L"");
+    std::vector<uint32_t> threads;
+    for (uint32_t i = 0; i < process->itemCount1; ++i) {
+        threads.push_back(process->items1[i]->id);
+    }
+    EXPECT_NE(std::find(threads.begin(), threads.end(), currentThreadId()), threads.end());
+    ASSERT_EQ(process->itemCount2, 3u);
+    EXPECT_EQ(std::wstring(process->items2[0]->name), L"resident");
+    EXPECT_GT(process->items2[0]->bytes, 0u);
+    EXPECT_GE(process->items2[2]->bytes, process->items2[0]->bytes); // the peak
+    EXPECT_EQ(info->flag1, sizeof(void*) == 8 ? 1 : 0);
+    EXPECT_EQ(info->flag2, 1); // initialized
+    release_ProcessInfo(info);
+
+    SystemInfo* system = nullptr;
+    kel_getSystemInfo(api, &error, &system);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(system->value1, std::thread::hardware_concurrency());
+    EXPECT_EQ(system->value3, sizeof(void*) * 8);
+    EXPECT_GT(system->value2, 0u);
+#if defined(_WIN32)
+    EXPECT_EQ(std::wstring(system->text1), L"Windows");
+#else
+    EXPECT_EQ(std::wstring(system->text1), L"Linux");
+#endif
+    EXPECT_NE(std::wstring(system->text3), L"");
+    release_SystemInfo(system);
+}
+
+TEST_F(ProjectsTest, TheStatusTextIsReportedAndPostedAsAnEvent) {
+    ErrorSlot error;
+    uint64_t channel = 0;
+    kel_openEventChannel(api, &error, &channel);
+    ASSERT_FALSE(error);
+    const wchar_t* text = L"Flashing ECM \u2713";
+    kel_setStatusText(api, &error, text);
+    ASSERT_FALSE(error);
+
+    EventReport* report = nullptr;
+    kel_getCurrentEvents(api, channel, 0, &error, &report);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(report->eventCount, 1u);
+    EXPECT_EQ(report->events[0]->kind, 14);
+    EXPECT_EQ(std::wstring(report->events[0]->name), L"StatusText");
+    EXPECT_EQ(std::wstring(report->events[0]->text), text);
+    release_EventReport(report);
+
+    ProcessInfo* info = nullptr;
+    kel_getProcessInfo(api, &error, &info);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(std::wstring(info->text), text);
+    release_ProcessInfo(info);
+    StatusInfo* status = nullptr;
+    kel_getStatusInfo(api, &error, &status);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(status->value7, 1u);
+    release_StatusInfo(status);
+}
+
+TEST_F(ProjectsTest, StatusInfoCountsTheCallsOfTheEngineObject) {
+    ErrorSlot error;
+    StatusInfo* before = nullptr;
+    kel_getStatusInfo(api, &error, &before);
+    ASSERT_FALSE(error);
+    EXPECT_GT(before->value8, 0u);
+    EXPECT_EQ(selected(), L"Default");
+    EXPECT_EQ(selectionError(L"Nowhere"), 1200);
+    std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    StatusInfo* after = nullptr;
+    kel_getStatusInfo(api, &error, &after);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(after->value1, before->value1 + 3); // the first getStatusInfo and two calls
+    EXPECT_EQ(after->value2, before->value2 + 1);
+    EXPECT_GE(after->value3, before->value3 + 20);
+    EXPECT_EQ(after->value8, before->value8);
+    EXPECT_EQ(after->value6, 1u);
+    release_StatusInfo(before);
+    release_StatusInfo(after);
+}
+
+TEST_F(ProjectsTest, TransmissionInfoIsWhatTheBusCarried) {
+    ErrorSlot error;
+    TransmissionInfo* info = nullptr;
+    kel_getTransmissionInfo(api, &error, &info);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(info->value1, 0u); // a fresh vehicle has sent nothing
+    EXPECT_EQ(info->value2, 0u);
+    EXPECT_EQ(info->value3, 0u);
+    EXPECT_EQ(info->value4, 0u);
+    release_TransmissionInfo(info);
+
+    wchar_t* targets[] = {const_cast<wchar_t*>(L"ECM"), const_cast<wchar_t*>(L"ACC")};
+    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+    kel_readDtcs(api, targets, 2, nullptr, &error, &dtcs.items, &dtcs.count);
+    ASSERT_FALSE(error);
+    kel_getTransmissionInfo(api, &error, &info);
+    ASSERT_FALSE(error);
+    EXPECT_LE(info->value2, info->value1); // the silent ACC answers nothing
+    EXPECT_GE(info->value3, info->value1); // every request has a byte at least
+    EXPECT_GE(info->value4, info->value2);
+    release_TransmissionInfo(info);
+}
+
+TEST_F(ProjectsTest, ProjectsWithNonAsciiNamesAreFoundAndSelected) {
+    const std::wstring name = L"Pr\u00fcfstand \u6e2c\u8a66";
+    const auto folder = projects() / std::filesystem::path(u8"Pr\u00fcfstand \u6e2c\u8a66");
+    std::filesystem::copy(projects() / "Default", folder);
+    ErrorSlot error;
+    kel_refreshProjectList(api, &error);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(selectionError(name.c_str()), 0);
+    EXPECT_EQ(selected(), name);
+    kel_saveConfiguration(api, &error);
+    ASSERT_FALSE(error);
+    restart();
+    EXPECT_EQ(selected(), name);
+    ProjectDetails* details = nullptr;
+    kel_getProjectDetails(api, &error, &details);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(std::wstring(details->text1), name);
+    ASSERT_EQ(details->dbFileCount2, 1u);
+    EXPECT_TRUE(std::filesystem::exists(folder / "vehicle.kdb"));
+    EXPECT_NE(std::wstring(details->dbFiles2[0]->path).find(name), std::wstring::npos);
+    release_ProjectDetails(details);
+
+    wchar_t* trace = nullptr;
+    kel_getCurrentDebugTraceDirectory(api, &error, &trace);
+    ASSERT_FALSE(error);
+    EXPECT_TRUE(std::filesystem::is_directory(root / "traces" / "debug"));
+    release_Memory(trace);
 }
 
 } // namespace

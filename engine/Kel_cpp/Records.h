@@ -60,8 +60,8 @@ class StatusInfo;
 class TransmissionInfo;
 class ProcessInfo;
 class ProcessEntry;
-class ProcessEntryItem1;
-class ProcessEntryItem2;
+class ProcessThread;
+class ProcessMemory;
 class GlobalProtocolParameterSet;
 class GlobalProtocolParameter;
 class LoadDatabaseResult;
@@ -497,9 +497,14 @@ public:
     std::vector<std::shared_ptr<UserInfo>> users;
 };
 
-class DbFileInfo { // fields come with its family
+class DbFileInfo {
 public:
     virtual ~DbFileInfo() = default;
+    std::wstring name;
+    std::wstring path;
+    uint64_t size = 0;
+    bool loaded = false;
+    std::shared_ptr<KelError> error;
 };
 
 class SystemInfo {
@@ -549,14 +554,22 @@ public:
     std::wstring text;
 };
 
-class ServerConfig { // fields come with its family
+class ServerConfig {
 public:
     virtual ~ServerConfig() = default;
+    std::wstring address;
+    uint32_t port = 0;
+    bool enabled = false;
+    std::wstring name;
 };
 
-class Oauth2Config { // fields come with its family
+class Oauth2Config {
 public:
     virtual ~Oauth2Config() = default;
+    std::wstring issuer;
+    std::wstring clientId;
+    std::vector<std::wstring> scopes;
+    std::wstring redirectUrl;
 };
 
 class MoxConfig {
@@ -625,19 +638,23 @@ class ProcessEntry {
 public:
     virtual ~ProcessEntry() = default;
     uint32_t value = 0;
-    std::vector<std::shared_ptr<ProcessEntryItem1>> items1;
+    std::vector<std::shared_ptr<ProcessThread>> items1;
     std::wstring text;
-    std::vector<std::shared_ptr<ProcessEntryItem2>> items2;
+    std::vector<std::shared_ptr<ProcessMemory>> items2;
 };
 
-class ProcessEntryItem1 { // fields come with its family
+class ProcessThread {
 public:
-    virtual ~ProcessEntryItem1() = default;
+    virtual ~ProcessThread() = default;
+    uint32_t id = 0;
+    std::wstring name;
 };
 
-class ProcessEntryItem2 { // fields come with its family
+class ProcessMemory {
 public:
-    virtual ~ProcessEntryItem2() = default;
+    virtual ~ProcessMemory() = default;
+    std::wstring name;
+    uint64_t bytes = 0;
 };
 
 class GlobalProtocolParameterSet {
@@ -650,9 +667,18 @@ public:
     std::vector<std::shared_ptr<GlobalProtocolParameter>> parameters;
 };
 
-class GlobalProtocolParameter { // fields come with its family
+class GlobalProtocolParameter : public virtual NamedItem {
 public:
-    virtual ~GlobalProtocolParameter() = default;
+    ~GlobalProtocolParameter() override = default;
+    std::wstring value;
+    std::wstring defaultValue;
+    std::vector<std::shared_ptr<ParameterInfo>> infos;
+    std::vector<std::wstring> choices;
+    std::shared_ptr<KelError> error;
+    std::vector<std::shared_ptr<ConstraintInfo>> constraints;
+    std::shared_ptr<TcpInfo> tcp;
+    uint32_t value1 = 0;
+    bool flag = false;
 };
 
 class LoadDatabaseResult {

@@ -360,7 +360,10 @@ struct Of<ProjectDetails> {
 
 template <>
 struct Of<DbFileInfo> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("name", &DbFileInfo::name), member("path", &DbFileInfo::path),
+                        member("size", &DbFileInfo::size), member("loaded", &DbFileInfo::loaded),
+                        member("error", &DbFileInfo::error));
 };
 
 template <>
@@ -402,12 +405,16 @@ struct Of<TarnApiConfig> {
 
 template <>
 struct Of<ServerConfig> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("address", &ServerConfig::address), member("port", &ServerConfig::port),
+        member("enabled", &ServerConfig::enabled), member("name", &ServerConfig::name));
 };
 
 template <>
 struct Of<Oauth2Config> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("issuer", &Oauth2Config::issuer), member("clientId", &Oauth2Config::clientId),
+        member("scopes", &Oauth2Config::scopes), member("redirectUrl", &Oauth2Config::redirectUrl));
 };
 
 template <>
@@ -462,13 +469,15 @@ struct Of<ProcessEntry> {
 };
 
 template <>
-struct Of<ProcessEntryItem1> {
-    static constexpr auto list = std::make_tuple();
+struct Of<ProcessThread> {
+    static constexpr auto list =
+        std::make_tuple(member("id", &ProcessThread::id), member("name", &ProcessThread::name));
 };
 
 template <>
-struct Of<ProcessEntryItem2> {
-    static constexpr auto list = std::make_tuple();
+struct Of<ProcessMemory> {
+    static constexpr auto list = std::make_tuple(member("name", &ProcessMemory::name),
+                                                 member("bytes", &ProcessMemory::bytes));
 };
 
 template <>
@@ -483,7 +492,20 @@ struct Of<GlobalProtocolParameterSet> {
 
 template <>
 struct Of<GlobalProtocolParameter> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("itemText1", &GlobalProtocolParameter::itemText1),
+                        member("itemText2", &GlobalProtocolParameter::itemText2),
+                        member("itemText3", &GlobalProtocolParameter::itemText3),
+                        member("itemText4", &GlobalProtocolParameter::itemText4),
+                        member("value", &GlobalProtocolParameter::value),
+                        member("defaultValue", &GlobalProtocolParameter::defaultValue),
+                        member("infos", &GlobalProtocolParameter::infos),
+                        member("choices", &GlobalProtocolParameter::choices),
+                        member("error", &GlobalProtocolParameter::error),
+                        member("constraints", &GlobalProtocolParameter::constraints),
+                        member("tcp", &GlobalProtocolParameter::tcp),
+                        member("value1", &GlobalProtocolParameter::value1),
+                        member("flag", &GlobalProtocolParameter::flag));
 };
 
 template <>

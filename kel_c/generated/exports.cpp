@@ -58,10 +58,96 @@ void release_TargetFilter(TargetFilter* ptr) { kel::release(ptr); }
 void release_TargetFilter_array(TargetFilter** ptr, uint64_t count) {
     kel::releaseArray(ptr, count);
 }
+void release_ParameterInfo(ParameterInfo* ptr) { kel::release(ptr); }
+void release_ParameterInfo_array(ParameterInfo** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ConstraintInfo(ConstraintInfo* ptr) { kel::release(ptr); }
+void release_ConstraintInfo_array(ConstraintInfo** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ScaleConstraintInfo(ScaleConstraintInfo* ptr) { kel::release(ptr); }
+void release_ScaleConstraintInfo_array(ScaleConstraintInfo** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_UnitInfo(UnitInfo* ptr) { kel::release(ptr); }
+void release_UnitInfo_array(UnitInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
 void release_KelEvent(KelEvent* ptr) { kel::release(ptr); }
 void release_KelEvent_array(KelEvent** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
 void release_EventReport(EventReport* ptr) { kel::release(ptr); }
 void release_EventReport_array(EventReport** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_FileFilter(FileFilter* ptr) { kel::release(ptr); }
+void release_FileFilter_array(FileFilter** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_TargetConfig(TargetConfig* ptr) { kel::release(ptr); }
+void release_TargetConfig_array(TargetConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ProjectConfig(ProjectConfig* ptr) { kel::release(ptr); }
+void release_ProjectConfig_array(ProjectConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ProjectDetails(ProjectDetails* ptr) { kel::release(ptr); }
+void release_ProjectDetails_array(ProjectDetails** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_DbFileInfo(DbFileInfo* ptr) { kel::release(ptr); }
+void release_DbFileInfo_array(DbFileInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_SystemInfo(SystemInfo* ptr) { kel::release(ptr); }
+void release_SystemInfo_array(SystemInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_SystemProperty(SystemProperty* ptr) { kel::release(ptr); }
+void release_SystemProperty_array(SystemProperty** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_TarnApiConfig(TarnApiConfig* ptr) { kel::release(ptr); }
+void release_TarnApiConfig_array(TarnApiConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ServerConfig(ServerConfig* ptr) { kel::release(ptr); }
+void release_ServerConfig_array(ServerConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_Oauth2Config(Oauth2Config* ptr) { kel::release(ptr); }
+void release_Oauth2Config_array(Oauth2Config** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_MoxConfig(MoxConfig* ptr) { kel::release(ptr); }
+void release_MoxConfig_array(MoxConfig** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_TcpInfo(TcpInfo* ptr) { kel::release(ptr); }
+void release_TcpInfo_array(TcpInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_StatusInfo(StatusInfo* ptr) { kel::release(ptr); }
+void release_StatusInfo_array(StatusInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_TransmissionInfo(TransmissionInfo* ptr) { kel::release(ptr); }
+void release_TransmissionInfo_array(TransmissionInfo** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ProcessInfo(ProcessInfo* ptr) { kel::release(ptr); }
+void release_ProcessInfo_array(ProcessInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_ProcessEntry(ProcessEntry* ptr) { kel::release(ptr); }
+void release_ProcessEntry_array(ProcessEntry** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ProcessThread(ProcessThread* ptr) { kel::release(ptr); }
+void release_ProcessThread_array(ProcessThread** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ProcessMemory(ProcessMemory* ptr) { kel::release(ptr); }
+void release_ProcessMemory_array(ProcessMemory** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_GlobalProtocolParameterSet(GlobalProtocolParameterSet* ptr) { kel::release(ptr); }
+void release_GlobalProtocolParameterSet_array(GlobalProtocolParameterSet** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_GlobalProtocolParameter(GlobalProtocolParameter* ptr) { kel::release(ptr); }
+void release_GlobalProtocolParameter_array(GlobalProtocolParameter** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_LoadDatabaseResult(LoadDatabaseResult* ptr) { kel::release(ptr); }
+void release_LoadDatabaseResult_array(LoadDatabaseResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_UserInfo(UserInfo* ptr) { kel::release(ptr); }
+void release_UserInfo_array(UserInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
 
 void kel_initialize(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->initialize(); });
@@ -78,6 +164,18 @@ void kel_stopServer(TarnApi* api, const wchar_t* text, KelError** error) {
 }
 void kel_restartServer(TarnApi* api, int32_t value, KelError** error) {
     kel::invoke(error, [&] { api->restartServer(value); });
+}
+void kel_getProjectConfiguration(TarnApi* api, const wchar_t* projectName, KelError** error,
+                                 ProjectConfig** config) {
+    kel::invoke(
+        error, [&] { return api->getProjectConfiguration(kel::in::text(projectName)); },
+        kel::out::record(config));
+}
+void kel_setProjectConfiguration(TarnApi* api, const wchar_t* projectName, ProjectConfig* config,
+                                 KelError** error) {
+    kel::invoke(error, [&] {
+        api->setProjectConfiguration(kel::in::text(projectName), kel::in::record(config));
+    });
 }
 void kel_saveProjectConfiguration(TarnApi* api, const wchar_t* projectName, KelError** error) {
     kel::invoke(error, [&] { api->saveProjectConfiguration(kel::in::text(projectName)); });
@@ -202,6 +300,12 @@ void kel_connectRemoteServer(TarnApi* api, const wchar_t* text, KelError** error
         error, [&] { return api->connectRemoteServer(kel::in::text(text)); },
         kel::out::engine(handle));
 }
+void kel_getMeasurementValueInfos(TarnApi* api, const wchar_t* target, KelError** error,
+                                  ParameterInfo*** infos, uint32_t* infoCount) {
+    kel::invoke(
+        error, [&] { return api->getMeasurementValueInfos(kel::in::text(target)); },
+        kel::out::records(infos, infoCount));
+}
 void kel_registerMeasurementValues(TarnApi* api, const wchar_t* target, wchar_t** names,
                                    uint32_t nameCount, KelError** error, uint64_t* registration) {
     kel::invoke(
@@ -220,6 +324,12 @@ void kel_getMeasurementValues(TarnApi* api, uint64_t registration, KelError** er
 }
 void kel_unregisterMeasurementValues(TarnApi* api, uint64_t registration, KelError** error) {
     kel::invoke(error, [&] { api->unregisterMeasurementValues(registration); });
+}
+void kel_getIdentificationValueInfos(TarnApi* api, const wchar_t* target, KelError** error,
+                                     ParameterInfo*** infos, uint32_t* infoCount) {
+    kel::invoke(
+        error, [&] { return api->getIdentificationValueInfos(kel::in::text(target)); },
+        kel::out::records(infos, infoCount));
 }
 void kel_cancelAllAsyncCalls(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->cancelAllAsyncCalls(); });
@@ -321,6 +431,13 @@ uint64_t kel_identifyTargetsAsync(TarnApi* api, wchar_t** targets, uint32_t targ
         return api->identifyTargetsAsync(kel::in::texts(targets, targetCount), handler);
     });
 }
+void kel_getActuatorServiceInfos(TarnApi* api, const wchar_t* text1, const wchar_t* text2,
+                                 KelError** error, ParameterInfo*** infos, uint32_t* infoCount) {
+    kel::invoke(
+        error,
+        [&] { return api->getActuatorServiceInfos(kel::in::text(text1), kel::in::text(text2)); },
+        kel::out::records(infos, infoCount));
+}
 void kel_releaseSocketBridge(TarnApi* api, uint64_t bridge, KelError** error) {
     kel::invoke(error, [&] { api->releaseSocketBridge(bridge); });
 }
@@ -328,6 +445,17 @@ void kel_createSocketBridge(TarnApi* api, uint32_t value1, uint32_t value2, KelE
                             uint64_t* bridge) {
     kel::invoke(
         error, [&] { return api->createSocketBridge(value1, value2); }, kel::out::value(bridge));
+}
+void kel_getSingleMeasurementValueInfos(TarnApi* api, const wchar_t* target, wchar_t** names,
+                                        uint32_t nameCount, KelError** error,
+                                        ParameterInfo*** infos, uint32_t* infoCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->getSingleMeasurementValueInfos(kel::in::text(target),
+                                                       kel::in::texts(names, nameCount));
+        },
+        kel::out::records(infos, infoCount));
 }
 void kel_getFilteredTargets(TarnApi* api, TargetFilter** filters, uint32_t filterCount,
                             KelError** error, Target*** targets, uint32_t* targetCount) {
@@ -350,6 +478,10 @@ void kel_saveMoxConfiguration(TarnApi* api, KelError** error) {
 void kel_stopCyclicServices(TarnApi* api, uint64_t cyclic, KelError** error) {
     kel::invoke(error, [&] { api->stopCyclicServices(cyclic); });
 }
+void kel_getProjectDetails(TarnApi* api, KelError** error, ProjectDetails** details) {
+    kel::invoke(
+        error, [&] { return api->getProjectDetails(); }, kel::out::record(details));
+}
 void kel_clearLinkCache(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->clearLinkCache(); });
 }
@@ -360,8 +492,17 @@ void kel_removeResource(TarnApi* api, const wchar_t* name1, const wchar_t* name2
                         KelError** error) {
     kel::invoke(error, [&] { api->removeResource(kel::in::text(name1), kel::in::text(name2)); });
 }
+void kel_getSystemProperty(TarnApi* api, const wchar_t* name, KelError** error,
+                           SystemProperty** property) {
+    kel::invoke(
+        error, [&] { return api->getSystemProperty(kel::in::text(name)); },
+        kel::out::record(property));
+}
 void kel_resetSystemProperty(TarnApi* api, const wchar_t* name, KelError** error) {
     kel::invoke(error, [&] { api->resetSystemProperty(kel::in::text(name)); });
+}
+void kel_setSystemProperty(TarnApi* api, SystemProperty* property, KelError** error) {
+    kel::invoke(error, [&] { api->setSystemProperty(kel::in::record(property)); });
 }
 void kel_getVendorModuleNamesEx(TarnApi* api, const wchar_t* text, KelError** error,
                                 wchar_t*** names, uint32_t* nameCount) {
@@ -427,6 +568,10 @@ void kel_addUser(TarnApi* api, const wchar_t* text1, const wchar_t* text2, uint3
 void kel_removeUser(TarnApi* api, const wchar_t* text, KelError** error) {
     kel::invoke(error, [&] { api->removeUser(kel::in::text(text)); });
 }
+void kel_getUsers(TarnApi* api, KelError** error, UserInfo*** users, uint32_t* userCount) {
+    kel::invoke(
+        error, [&] { return api->getUsers(); }, kel::out::records(users, userCount));
+}
 void kel_updateUser(TarnApi* api, const wchar_t* text1, const wchar_t* text2, const wchar_t* text3,
                     uint32_t value, KelError** error) {
     kel::invoke(error, [&] {
@@ -472,6 +617,10 @@ void kel_releaseVehicleUnlock(TarnApi* api, uint64_t value, KelError** error) {
 void kel_cancelSequence(TarnApi* api, uint64_t run, KelError** error) {
     kel::invoke(error, [&] { api->cancelSequence(run); });
 }
+void kel_getSystemInfo(TarnApi* api, KelError** error, SystemInfo** info) {
+    kel::invoke(
+        error, [&] { return api->getSystemInfo(); }, kel::out::record(info));
+}
 void kel_applyUpdatePackage(TarnApi* api, const wchar_t* package, KelError** error) {
     kel::invoke(error, [&] { api->applyUpdatePackage(kel::in::text(package)); });
 }
@@ -515,10 +664,31 @@ void kel_checkUpdateSuccess(TarnApi* api, KelError** error, bool* succeeded) {
 void kel_cleanUpdateTmp(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->cleanUpdateTmp(); });
 }
+void kel_loadDatabaseFile(TarnApi* api, wchar_t** files, uint32_t fileCount, KelError** error,
+                          LoadDatabaseResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->loadDatabaseFile(kel::in::texts(files, fileCount)); },
+        kel::out::records(results, resultCount));
+}
 void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error,
                                uint8_t* reconnected) {
     kel::invoke(
         error, [&] { return api->reconnectRemoteServer(handle); }, kel::out::value(reconnected));
+}
+void kel_filterFiles(TarnApi* api, FileFilter** filters, uint32_t filterCount, const wchar_t* text,
+                     KelError** error, wchar_t*** files, uint32_t* fileCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->filterFiles(kel::in::records(filters, filterCount), kel::in::text(text));
+        },
+        kel::out::texts(files, fileCount));
+}
+void kel_unloadDatabaseFile(TarnApi* api, wchar_t** files, uint32_t fileCount, KelError** error,
+                            LoadDatabaseResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->unloadDatabaseFile(kel::in::texts(files, fileCount)); },
+        kel::out::records(results, resultCount));
 }
 void kel_getTargetStatus(TarnApi* api, wchar_t** targets, uint32_t targetCount, KelError** error,
                          TargetStatus*** statuses, uint32_t* statusCount) {
@@ -545,6 +715,13 @@ void kel_pathExists(TarnApi* api, const wchar_t* path, KelError** error, uint8_t
 void kel_resolvePath(TarnApi* api, const wchar_t* path, KelError** error, wchar_t** resolved) {
     kel::invoke(
         error, [&] { return api->resolvePath(kel::in::text(path)); }, kel::out::text(resolved));
+}
+void kel_getProjectsDetails(TarnApi* api, wchar_t** projectNames, uint32_t projectNameCount,
+                            KelError** error, ProjectDetails*** details, uint32_t* detailCount) {
+    kel::invoke(
+        error,
+        [&] { return api->getProjectsDetails(kel::in::texts(projectNames, projectNameCount)); },
+        kel::out::records(details, detailCount));
 }
 void kel_onConnectionClosed(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->onConnectionClosed(); });
@@ -663,6 +840,12 @@ void kel_startSOVDServer(TarnApi* api, KelError** error) {
 void kel_stopSOVDServer(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->stopSOVDServer(); });
 }
+void kel_getProjectConfigurations(TarnApi* api, KelError** error, ProjectConfig*** configs,
+                                  uint32_t* configCount) {
+    kel::invoke(
+        error, [&] { return api->getProjectConfigurations(); },
+        kel::out::records(configs, configCount));
+}
 void kel_getState(TarnApi* api, KelError** error, int32_t* state) {
     kel::invoke(
         error, [&] { return api->getState(); }, kel::out::value(state));
@@ -678,17 +861,54 @@ void kel_getSelectedProject(TarnApi* api, KelError** error, wchar_t** projectNam
 void kel_setSelectedProject(TarnApi* api, KelError** error, const wchar_t* projectName) {
     kel::invoke(error, [&] { api->setSelectedProject(kel::in::text(projectName)); });
 }
+void kel_getConfiguration(TarnApi* api, KelError** error, TarnApiConfig** config) {
+    kel::invoke(
+        error, [&] { return api->getConfiguration(); }, kel::out::record(config));
+}
+void kel_setConfiguration(TarnApi* api, KelError** error, TarnApiConfig* config) {
+    kel::invoke(error, [&] { api->setConfiguration(kel::in::record(config)); });
+}
 void kel_getTargets(TarnApi* api, KelError** error, Target*** targets, uint32_t* targetCount) {
     kel::invoke(
         error, [&] { return api->getTargets(); }, kel::out::records(targets, targetCount));
+}
+void kel_getProcessInfo(TarnApi* api, KelError** error, ProcessInfo** info) {
+    kel::invoke(
+        error, [&] { return api->getProcessInfo(); }, kel::out::record(info));
+}
+void kel_getTransmissionInfo(TarnApi* api, KelError** error, TransmissionInfo** info) {
+    kel::invoke(
+        error, [&] { return api->getTransmissionInfo(); }, kel::out::record(info));
 }
 void kel_getHandle(TarnApi* api, KelError** error, uint64_t* handle) {
     kel::invoke(
         error, [&] { return api->getHandle(); }, kel::out::value(handle));
 }
+void kel_getMoxConfiguration(TarnApi* api, KelError** error, MoxConfig** config) {
+    kel::invoke(
+        error, [&] { return api->getMoxConfiguration(); }, kel::out::record(config));
+}
+void kel_setMoxConfiguration(TarnApi* api, KelError** error, MoxConfig* config) {
+    kel::invoke(error, [&] { api->setMoxConfiguration(kel::in::record(config)); });
+}
 void kel_getMonitoringLinks(TarnApi* api, KelError** error, wchar_t*** links, uint32_t* linkCount) {
     kel::invoke(
         error, [&] { return api->getMonitoringLinks(); }, kel::out::texts(links, linkCount));
+}
+void kel_getGlobalProtocolParameterSets(TarnApi* api, KelError** error,
+                                        GlobalProtocolParameterSet*** sets, uint32_t* setCount) {
+    kel::invoke(
+        error, [&] { return api->getGlobalProtocolParameterSets(); },
+        kel::out::records(sets, setCount));
+}
+void kel_setGlobalProtocolParameterSets(TarnApi* api, KelError** error,
+                                        GlobalProtocolParameterSet** sets, uint32_t setCount) {
+    kel::invoke(error,
+                [&] { api->setGlobalProtocolParameterSets(kel::in::records(sets, setCount)); });
+}
+void kel_getStatusInfo(TarnApi* api, KelError** error, StatusInfo** info) {
+    kel::invoke(
+        error, [&] { return api->getStatusInfo(); }, kel::out::record(info));
 }
 void kel_getSessionTargetFilters(TarnApi* api, KelError** error, TargetFilter*** filters,
                                  uint32_t* filterCount) {

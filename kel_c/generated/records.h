@@ -194,6 +194,73 @@ struct Record<::TargetFilter> {
 };
 
 template <>
+struct Record<::ParameterInfo> {
+    using Engine = Varno::Kel_cpp::ParameterInfo;
+    static constexpr const char* name = "ParameterInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ParameterInfo::itemText1, &Engine::itemText1),
+        field(&::ParameterInfo::itemText2, &Engine::itemText2),
+        field(&::ParameterInfo::itemText3, &Engine::itemText3),
+        field(&::ParameterInfo::itemText4, &Engine::itemText4),
+        field(&::ParameterInfo::text1, &Engine::text1),
+        field(&::ParameterInfo::text2, &Engine::text2),
+        field(&::ParameterInfo::text3, &Engine::text3),
+        field(&::ParameterInfo::value1, &Engine::value1),
+        field(&::ParameterInfo::text4, &Engine::text4),
+        field(&::ParameterInfo::children, &::ParameterInfo::childCount, &Engine::children),
+        field(&::ParameterInfo::text5, &Engine::text5),
+        field(&::ParameterInfo::names, &::ParameterInfo::nameCount, &Engine::names, always),
+        field(&::ParameterInfo::flag1, &Engine::flag1),
+        field(&::ParameterInfo::value2, &Engine::value2),
+        field(&::ParameterInfo::error, &Engine::error),
+        field(&::ParameterInfo::flag2, &Engine::flag2),
+        field(&::ParameterInfo::values, &Engine::values),
+        field(&::ParameterInfo::flag3, &Engine::flag3),
+        field(&::ParameterInfo::constraint1, &Engine::constraint1),
+        field(&::ParameterInfo::constraint2, &Engine::constraint2),
+        field(&::ParameterInfo::text6, &Engine::text6),
+        field(&::ParameterInfo::text7, &Engine::text7),
+        field(&::ParameterInfo::flag4, &Engine::flag4),
+        field(&::ParameterInfo::unit, &Engine::unit));
+};
+
+template <>
+struct Record<::ConstraintInfo> {
+    using Engine = Varno::Kel_cpp::ConstraintInfo;
+    static constexpr const char* name = "ConstraintInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ConstraintInfo::text1, &Engine::text1),
+        field(&::ConstraintInfo::text2, &Engine::text2),
+        field(&::ConstraintInfo::flag, &Engine::flag),
+        field(&::ConstraintInfo::scales, &::ConstraintInfo::scaleCount, &Engine::scales));
+};
+
+template <>
+struct Record<::ScaleConstraintInfo> {
+    using Engine = Varno::Kel_cpp::ScaleConstraintInfo;
+    static constexpr const char* name = "ScaleConstraintInfo";
+    static constexpr auto fields =
+        std::make_tuple(field(&::ScaleConstraintInfo::itemText1, &Engine::itemText1),
+                        field(&::ScaleConstraintInfo::itemText2, &Engine::itemText2),
+                        field(&::ScaleConstraintInfo::itemText3, &Engine::itemText3),
+                        field(&::ScaleConstraintInfo::itemText4, &Engine::itemText4),
+                        field(&::ScaleConstraintInfo::text1, &Engine::text1),
+                        field(&::ScaleConstraintInfo::text2, &Engine::text2),
+                        field(&::ScaleConstraintInfo::flag, &Engine::flag),
+                        field(&::ScaleConstraintInfo::value, &Engine::value));
+};
+
+template <>
+struct Record<::UnitInfo> {
+    using Engine = Varno::Kel_cpp::UnitInfo;
+    static constexpr const char* name = "UnitInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::UnitInfo::values, &Engine::values), field(&::UnitInfo::value1, &Engine::value1),
+        field(&::UnitInfo::flag1, &Engine::flag1), field(&::UnitInfo::value2, &Engine::value2),
+        field(&::UnitInfo::flag2, &Engine::flag2));
+};
+
+template <>
 struct Record<::KelEvent> {
     using Engine = Varno::Kel_cpp::KelEvent;
     static constexpr const char* name = "KelEvent";
@@ -209,6 +276,293 @@ struct Record<::EventReport> {
     static constexpr const char* name = "EventReport";
     static constexpr auto fields =
         std::make_tuple(field(&::EventReport::events, &::EventReport::eventCount, &Engine::events));
+};
+
+template <>
+struct Record<::FileFilter> {
+    using Engine = Varno::Kel_cpp::FileFilter;
+    static constexpr const char* name = "FileFilter";
+    static constexpr auto fields = std::make_tuple(field(&::FileFilter::pattern, &Engine::pattern),
+                                                   field(&::FileFilter::flag, &Engine::flag),
+                                                   field(&::FileFilter::value, &Engine::value));
+};
+
+template <>
+struct Record<::TargetConfig> {
+    using Engine = Varno::Kel_cpp::TargetConfig;
+    static constexpr const char* name = "TargetConfig";
+    static constexpr auto fields = std::make_tuple(field(&::TargetConfig::value, &Engine::value),
+                                                   field(&::TargetConfig::text1, &Engine::text1),
+                                                   field(&::TargetConfig::text2, &Engine::text2));
+};
+
+template <>
+struct Record<::ProjectConfig> {
+    using Engine = Varno::Kel_cpp::ProjectConfig;
+    static constexpr const char* name = "ProjectConfig";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ProjectConfig::itemText1, &Engine::itemText1),
+        field(&::ProjectConfig::itemText2, &Engine::itemText2),
+        field(&::ProjectConfig::itemText3, &Engine::itemText3),
+        field(&::ProjectConfig::itemText4, &Engine::itemText4),
+        field(&::ProjectConfig::filters1, &::ProjectConfig::filterCount1, &Engine::filters1),
+        field(&::ProjectConfig::value0, &Engine::value0),
+        field(&::ProjectConfig::targets, &::ProjectConfig::targetCount, &Engine::targets),
+        field(&::ProjectConfig::filters2, &::ProjectConfig::filterCount2, &Engine::filters2),
+        field(&::ProjectConfig::strings1, &::ProjectConfig::stringCount1, &Engine::strings1,
+              always),
+        field(&::ProjectConfig::text1, &Engine::text1),
+        field(&::ProjectConfig::value1, &Engine::value1),
+        field(&::ProjectConfig::text2, &Engine::text2),
+        field(&::ProjectConfig::strings2, &::ProjectConfig::stringCount2, &Engine::strings2,
+              always),
+        field(&::ProjectConfig::text3, &Engine::text3),
+        field(&::ProjectConfig::value2, &Engine::value2),
+        field(&::ProjectConfig::value3, &Engine::value3),
+        field(&::ProjectConfig::flags, &Engine::flags));
+};
+
+template <>
+struct Record<::ProjectDetails> {
+    using Engine = Varno::Kel_cpp::ProjectDetails;
+    static constexpr const char* name = "ProjectDetails";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ProjectDetails::dbFiles1, &::ProjectDetails::dbFileCount1, &Engine::dbFiles1),
+        field(&::ProjectDetails::dbFiles2, &::ProjectDetails::dbFileCount2, &Engine::dbFiles2),
+        field(&::ProjectDetails::text1, &Engine::text1),
+        field(&::ProjectDetails::value1, &Engine::value1),
+        field(&::ProjectDetails::text2, &Engine::text2),
+        field(&::ProjectDetails::value2, &Engine::value2),
+        field(&::ProjectDetails::users, &::ProjectDetails::userCount, &Engine::users));
+};
+
+template <>
+struct Record<::DbFileInfo> {
+    using Engine = Varno::Kel_cpp::DbFileInfo;
+    static constexpr const char* name = "DbFileInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::DbFileInfo::name, &Engine::name), field(&::DbFileInfo::path, &Engine::path),
+        field(&::DbFileInfo::size, &Engine::size), field(&::DbFileInfo::loaded, &Engine::loaded),
+        field(&::DbFileInfo::error, &Engine::error));
+};
+
+template <>
+struct Record<::SystemInfo> {
+    using Engine = Varno::Kel_cpp::SystemInfo;
+    static constexpr const char* name = "SystemInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::SystemInfo::value1, &Engine::value1),
+        field(&::SystemInfo::value2, &Engine::value2), field(&::SystemInfo::text1, &Engine::text1),
+        field(&::SystemInfo::value3, &Engine::value3), field(&::SystemInfo::text2, &Engine::text2),
+        field(&::SystemInfo::text3, &Engine::text3), field(&::SystemInfo::text4, &Engine::text4));
+};
+
+template <>
+struct Record<::SystemProperty> {
+    using Engine = Varno::Kel_cpp::SystemProperty;
+    static constexpr const char* name = "SystemProperty";
+    static constexpr auto fields = std::make_tuple(
+        field(&::SystemProperty::itemText1, &Engine::itemText1),
+        field(&::SystemProperty::itemText2, &Engine::itemText2),
+        field(&::SystemProperty::itemText3, &Engine::itemText3),
+        field(&::SystemProperty::itemText4, &Engine::itemText4),
+        field(&::SystemProperty::text1, &Engine::text1),
+        field(&::SystemProperty::text2, &Engine::text2),
+        field(&::SystemProperty::value1, &Engine::value1),
+        field(&::SystemProperty::children, &::SystemProperty::childCount, &Engine::children),
+        field(&::SystemProperty::text3, &Engine::text3),
+        field(&::SystemProperty::error, &Engine::error),
+        field(&::SystemProperty::text4, &Engine::text4),
+        field(&::SystemProperty::value2, &Engine::value2),
+        field(&::SystemProperty::data, &::SystemProperty::dataLength, &Engine::data),
+        field(&::SystemProperty::value3, &Engine::value3),
+        field(&::SystemProperty::flag, &Engine::flag),
+        field(&::SystemProperty::value4, &Engine::value4));
+};
+
+template <>
+struct Record<::TarnApiConfig> {
+    using Engine = Varno::Kel_cpp::TarnApiConfig;
+    static constexpr const char* name = "TarnApiConfig";
+    static constexpr auto fields =
+        std::make_tuple(field(&::TarnApiConfig::value1, &Engine::value1),
+                        field(&::TarnApiConfig::flag1, &Engine::flag1),
+                        field(&::TarnApiConfig::flag2, &Engine::flag2),
+                        field(&::TarnApiConfig::value2, &Engine::value2),
+                        field(&::TarnApiConfig::server, &Engine::server),
+                        field(&::TarnApiConfig::value3, &Engine::value3),
+                        field(&::TarnApiConfig::value4, &Engine::value4),
+                        field(&::TarnApiConfig::value5, &Engine::value5),
+                        field(&::TarnApiConfig::flag3, &Engine::flag3),
+                        field(&::TarnApiConfig::value6, &Engine::value6),
+                        field(&::TarnApiConfig::value7, &Engine::value7),
+                        field(&::TarnApiConfig::oauth2Configs, &::TarnApiConfig::oauth2ConfigCount,
+                              &Engine::oauth2Configs),
+                        field(&::TarnApiConfig::text, &Engine::text));
+};
+
+template <>
+struct Record<::ServerConfig> {
+    using Engine = Varno::Kel_cpp::ServerConfig;
+    static constexpr const char* name = "ServerConfig";
+    static constexpr auto fields =
+        std::make_tuple(field(&::ServerConfig::address, &Engine::address),
+                        field(&::ServerConfig::port, &Engine::port),
+                        field(&::ServerConfig::enabled, &Engine::enabled),
+                        field(&::ServerConfig::name, &Engine::name));
+};
+
+template <>
+struct Record<::Oauth2Config> {
+    using Engine = Varno::Kel_cpp::Oauth2Config;
+    static constexpr const char* name = "Oauth2Config";
+    static constexpr auto fields = std::make_tuple(
+        field(&::Oauth2Config::issuer, &Engine::issuer),
+        field(&::Oauth2Config::clientId, &Engine::clientId),
+        field(&::Oauth2Config::scopes, &::Oauth2Config::scopeCount, &Engine::scopes),
+        field(&::Oauth2Config::redirectUrl, &Engine::redirectUrl));
+};
+
+template <>
+struct Record<::MoxConfig> {
+    using Engine = Varno::Kel_cpp::MoxConfig;
+    static constexpr const char* name = "MoxConfig";
+    static constexpr auto fields = std::make_tuple(
+        field(&::MoxConfig::text1, &Engine::text1), field(&::MoxConfig::text2, &Engine::text2),
+        field(&::MoxConfig::text3, &Engine::text3), field(&::MoxConfig::text4, &Engine::text4),
+        field(&::MoxConfig::text5, &Engine::text5), field(&::MoxConfig::flag1, &Engine::flag1),
+        field(&::MoxConfig::flag2, &Engine::flag2), field(&::MoxConfig::flag3, &Engine::flag3),
+        field(&::MoxConfig::value, &Engine::value), field(&::MoxConfig::flag4, &Engine::flag4),
+        field(&::MoxConfig::flag5, &Engine::flag5), field(&::MoxConfig::flag6, &Engine::flag6),
+        field(&::MoxConfig::text6, &Engine::text6), field(&::MoxConfig::text7, &Engine::text7),
+        field(&::MoxConfig::tcp, &Engine::tcp));
+};
+
+template <>
+struct Record<::TcpInfo> {
+    using Engine = Varno::Kel_cpp::TcpInfo;
+    static constexpr const char* name = "TcpInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::TcpInfo::value1, &Engine::value1), field(&::TcpInfo::value2, &Engine::value2),
+        field(&::TcpInfo::value3, &Engine::value3), field(&::TcpInfo::value4, &Engine::value4),
+        field(&::TcpInfo::value5, &Engine::value5), field(&::TcpInfo::value6, &Engine::value6));
+};
+
+template <>
+struct Record<::StatusInfo> {
+    using Engine = Varno::Kel_cpp::StatusInfo;
+    static constexpr const char* name = "StatusInfo";
+    static constexpr auto fields = std::make_tuple(field(&::StatusInfo::value1, &Engine::value1),
+                                                   field(&::StatusInfo::value2, &Engine::value2),
+                                                   field(&::StatusInfo::value3, &Engine::value3),
+                                                   field(&::StatusInfo::value4, &Engine::value4),
+                                                   field(&::StatusInfo::value5, &Engine::value5),
+                                                   field(&::StatusInfo::value6, &Engine::value6),
+                                                   field(&::StatusInfo::value7, &Engine::value7),
+                                                   field(&::StatusInfo::value8, &Engine::value8));
+};
+
+template <>
+struct Record<::TransmissionInfo> {
+    using Engine = Varno::Kel_cpp::TransmissionInfo;
+    static constexpr const char* name = "TransmissionInfo";
+    static constexpr auto fields =
+        std::make_tuple(field(&::TransmissionInfo::value1, &Engine::value1),
+                        field(&::TransmissionInfo::value2, &Engine::value2),
+                        field(&::TransmissionInfo::value3, &Engine::value3),
+                        field(&::TransmissionInfo::value4, &Engine::value4));
+};
+
+template <>
+struct Record<::ProcessInfo> {
+    using Engine = Varno::Kel_cpp::ProcessInfo;
+    static constexpr const char* name = "ProcessInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ProcessInfo::processes, &::ProcessInfo::processCount, &Engine::processes),
+        field(&::ProcessInfo::flag1, &Engine::flag1), field(&::ProcessInfo::flag2, &Engine::flag2),
+        field(&::ProcessInfo::text, &Engine::text));
+};
+
+template <>
+struct Record<::ProcessEntry> {
+    using Engine = Varno::Kel_cpp::ProcessEntry;
+    static constexpr const char* name = "ProcessEntry";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ProcessEntry::value, &Engine::value),
+        field(&::ProcessEntry::items1, &::ProcessEntry::itemCount1, &Engine::items1),
+        field(&::ProcessEntry::text, &Engine::text),
+        field(&::ProcessEntry::items2, &::ProcessEntry::itemCount2, &Engine::items2));
+};
+
+template <>
+struct Record<::ProcessThread> {
+    using Engine = Varno::Kel_cpp::ProcessThread;
+    static constexpr const char* name = "ProcessThread";
+    static constexpr auto fields = std::make_tuple(field(&::ProcessThread::id, &Engine::id),
+                                                   field(&::ProcessThread::name, &Engine::name));
+};
+
+template <>
+struct Record<::ProcessMemory> {
+    using Engine = Varno::Kel_cpp::ProcessMemory;
+    static constexpr const char* name = "ProcessMemory";
+    static constexpr auto fields = std::make_tuple(field(&::ProcessMemory::name, &Engine::name),
+                                                   field(&::ProcessMemory::bytes, &Engine::bytes));
+};
+
+template <>
+struct Record<::GlobalProtocolParameterSet> {
+    using Engine = Varno::Kel_cpp::GlobalProtocolParameterSet;
+    static constexpr const char* name = "GlobalProtocolParameterSet";
+    static constexpr auto fields =
+        std::make_tuple(field(&::GlobalProtocolParameterSet::text1, &Engine::text1),
+                        field(&::GlobalProtocolParameterSet::text2, &Engine::text2),
+                        field(&::GlobalProtocolParameterSet::text3, &Engine::text3),
+                        field(&::GlobalProtocolParameterSet::text4, &Engine::text4),
+                        field(&::GlobalProtocolParameterSet::parameters,
+                              &::GlobalProtocolParameterSet::parameterCount, &Engine::parameters));
+};
+
+template <>
+struct Record<::GlobalProtocolParameter> {
+    using Engine = Varno::Kel_cpp::GlobalProtocolParameter;
+    static constexpr const char* name = "GlobalProtocolParameter";
+    static constexpr auto fields =
+        std::make_tuple(field(&::GlobalProtocolParameter::itemText1, &Engine::itemText1),
+                        field(&::GlobalProtocolParameter::itemText2, &Engine::itemText2),
+                        field(&::GlobalProtocolParameter::itemText3, &Engine::itemText3),
+                        field(&::GlobalProtocolParameter::itemText4, &Engine::itemText4),
+                        field(&::GlobalProtocolParameter::value, &Engine::value),
+                        field(&::GlobalProtocolParameter::defaultValue, &Engine::defaultValue),
+                        field(&::GlobalProtocolParameter::infos,
+                              &::GlobalProtocolParameter::infoCount, &Engine::infos),
+                        field(&::GlobalProtocolParameter::choices,
+                              &::GlobalProtocolParameter::choiceCount, &Engine::choices, always),
+                        field(&::GlobalProtocolParameter::error, &Engine::error),
+                        field(&::GlobalProtocolParameter::constraints,
+                              &::GlobalProtocolParameter::constraintCount, &Engine::constraints),
+                        field(&::GlobalProtocolParameter::tcp, &Engine::tcp),
+                        field(&::GlobalProtocolParameter::value1, &Engine::value1),
+                        field(&::GlobalProtocolParameter::flag, &Engine::flag));
+};
+
+template <>
+struct Record<::LoadDatabaseResult> {
+    using Engine = Varno::Kel_cpp::LoadDatabaseResult;
+    static constexpr const char* name = "LoadDatabaseResult";
+    static constexpr auto fields =
+        std::make_tuple(field(&::LoadDatabaseResult::text, &Engine::text),
+                        field(&::LoadDatabaseResult::flag, &Engine::flag),
+                        field(&::LoadDatabaseResult::error, &Engine::error));
+};
+
+template <>
+struct Record<::UserInfo> {
+    using Engine = Varno::Kel_cpp::UserInfo;
+    static constexpr const char* name = "UserInfo";
+    static constexpr auto fields = std::make_tuple(field(&::UserInfo::name, &Engine::name),
+                                                   field(&::UserInfo::text, &Engine::text),
+                                                   field(&::UserInfo::value, &Engine::value));
 };
 
 template <>
@@ -229,6 +583,13 @@ struct Alias<::NamedItem, Varno::Kel_cpp::SpecialData> {
                         field(&::NamedItem::itemText2, &Engine::itemText2),
                         field(&::NamedItem::itemText3, &Engine::itemText3),
                         field(&::NamedItem::itemText4, &Engine::itemText4));
+};
+
+template <>
+struct Alias<::FileFilter, Varno::Kel_cpp::FilterPattern> {
+    using Engine = Varno::Kel_cpp::FilterPattern;
+    static constexpr auto fields = std::make_tuple(field(&::FileFilter::pattern, &Engine::pattern),
+                                                   field(&::FileFilter::flag, &Engine::flag));
 };
 
 } // namespace kel

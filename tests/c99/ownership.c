@@ -106,6 +106,7 @@ static void outputsAreWrittenOnlyOnSuccess(TarnApi* api) {
     KelError* error = NULL;
     wchar_t canaryText[] = L"canary";
     wchar_t* version = canaryText;
+    kelsim_failNext("getVersion", 1, 4712, 0, NULL, NULL);
     kel_getVersion(api, &error, &version);
     expect(error != NULL && version == canaryText, "a failed call leaves its text output alone");
     release_KelError(error);

@@ -64,6 +64,8 @@ std::wstring eventName(int32_t kind) {
         return L"ClientDisconnected";
     case EventKind::EventsLost:
         return L"EventsLost";
+    case EventKind::StatusText:
+        return L"StatusText";
     case EventKind::Scripted:
         return L"Scripted";
     }

@@ -36,6 +36,7 @@ enum class EventKind : int32_t {
     ClientConnected = 11,    // code: remote clients connected now; detail: the client
     ClientDisconnected = 12, // code: remote clients connected now; detail: the client
     EventsLost = 13,         // code: events dropped because the channel was full
+    StatusText = 14,         // text: the engine's new status text (setStatusText)
     Scripted = 100,          // posted by tests through kelsim_postEvent (any kind >= 100)
 };
 

@@ -99,6 +99,22 @@ const kc::Case kGetProjectConfigurationCases[] = {
      "00", 0},
 };
 
+struct GetProjectConfigurationExport {
+    static constexpr const char* operation = "getProjectConfiguration";
+    using Result = kc::RecordResult<ProjectConfig, release_ProjectConfig>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kel_getProjectConfiguration(api, a0.get(), error, &out.data);
+    }
+};
+
+TEST_F(Projects, getProjectConfiguration_Exchange) {
+    kc::exchange<GetProjectConfigurationExport>(api, kGetProjectConfigurationCases);
+}
+TEST_F(Projects, getProjectConfiguration_Failure) {
+    kc::failure<GetProjectConfigurationExport>(api, kGetProjectConfigurationCases);
+}
+
 const kc::Number kNumber7{7, "getProjectConfiguration", kGetProjectConfigurationCases};
 
 TEST_F(ProjectsByNumber, n7_getProjectConfiguration_KelCall) { kc::kelCall(api, kNumber7); }
@@ -207,6 +223,23 @@ const kc::Case kSetProjectConfigurationCases[] = {
      "gs\":[false,false,false,false]}]",
      "[\"\",null]", "01", "", 0},
 };
+
+struct SetProjectConfigurationExport {
+    static constexpr const char* operation = "setProjectConfiguration";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        static_cast<void>(out);
+        kel_setProjectConfiguration(api, a0.get(), kc::record<ProjectConfig>(in[1]), error);
+    }
+};
+
+TEST_F(Projects, setProjectConfiguration_Exchange) {
+    kc::exchange<SetProjectConfigurationExport>(api, kSetProjectConfigurationCases);
+}
+TEST_F(Projects, setProjectConfiguration_Failure) {
+    kc::failure<SetProjectConfigurationExport>(api, kSetProjectConfigurationCases);
+}
 
 const kc::Number kNumber8{8, "setProjectConfiguration", kSetProjectConfigurationCases};
 
@@ -410,9 +443,141 @@ TEST_F(ProjectsByNumber, n102_saveMoxConfiguration_KelCall) { kc::kelCall(api, k
 TEST_F(ProjectsByNumber, n102_saveMoxConfiguration_PyCall) { kc::pyCall(api, kNumber102); }
 TEST_F(ProjectsByNumber, n102_saveMoxConfiguration_Failure) { kc::numberFailure(api, kNumber102); }
 
-TEST_F(ProjectsByNumber, n106_getProjectDetails_NotAvailable) {
-    kc::notAvailable(api, 106, "getProjectDetails");
+// ---- getProjectDetails (position 81, number 106) ----
+
+const kc::Case kGetProjectDetailsCases[] = {
+    {"full", "[]", "[]",
+     "{\"dbFiles1\":[{\"name\":\"Pr\303\274fstand \342\202\254 81.1\",\"path\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 81.2\",\"size\":9223372036854775809,\"loaded\""
+     ":true,\"error\":{\"code\":-2147483648,\"message\":\"K\303\274hler\\u0009\360\237\224\247"
+     " 81.3\",\"details\":\"say \\\"\303\251\\\" 81.4\",\"subCode\":2147483647,\"mvciError\":{"
+     "\"code\":-1,\"codeText\":\"back\\\\slash \303\237 81.5\",\"vendorCode\":-65536,\"vendorC"
+     "odeText\":\"Z\303\274ndung \360\237\232\227 81.6\",\"extraText\":\"Pr\303\274fstand \342"
+     "\202\254 81.7\",\"extraCode\":2031089199},\"negativeResponse\":{\"code\":-390557667,\"te"
+     "xt\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 81.8\",\"value1\":184467440"
+     "73709551615,\"value2\":4294967296,\"bytes\":[0,255,255,128]}}},{\"name\":\"K\303\274hler"
+     "\\u0009\360\237\224\247 81.9\",\"path\":\"say \\\"\303\251\\\" 81.10\",\"size\":15241370"
+     "85,\"loaded\":false,\"error\":null}],\"dbFiles2\":[{\"name\":\"back\\\\slash \303\237 81"
+     ".11\",\"path\":\"Z\303\274ndung \360\237\232\227 81.12\",\"size\":2031089199,\"loaded\":"
+     "true,\"error\":{\"code\":897509781,\"message\":\"Pr\303\274fstand \342\202\254 81.13\","
+     "\"details\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 81.14\",\"subCode\":"
+     "-1404461895,\"mvciError\":{\"code\":1911414009,\"codeText\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 81.15\",\"vendorCode\":-270882475,\"vendorCodeText\":\"say \\\"\303\251\\\""
+     " 81.16\",\"extraText\":\"back\\\\slash \303\237 81.17\",\"extraCode\":777834589},\"negat"
+     "iveResponse\":{\"code\":-1284786703,\"text\":\"Z\303\274ndung \360\237\232\227 81.18\","
+     "\"value1\":390557667,\"value2\":897509781,\"bytes\":[0,255,127,1]}}},{\"name\":\"Pr\303"
+     "\274fstand \342\202\254 81.19\",\"path\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 81.20\",\"size\":1404461895,\"loaded\":false,\"error\":null}],\"text1\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 81.21\",\"value1\":4294967295,\"text2\":\"say \\\"\303"
+     "\251\\\" 81.22\",\"value2\":2147483648,\"users\":[{\"name\":\"back\\\\slash \303\237 81."
+     "23\",\"text\":\"Z\303\274ndung \360\237\232\227 81.24\",\"value\":2147483647},{\"name\":"
+     "\"Pr\303\274fstand \342\202\254 81.25\",\"text\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 81.26\",\"value\":1524137085}]}",
+     "{\"dbFiles1\":[{\"name\":\"Pr\303\274fstand \342\202\254 81.1\",\"path\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 81.2\",\"size\":9223372036854775809,\"loaded\""
+     ":1,\"error\":{\"code\":-2147483648,\"message\":\"K\303\274hler\\u0009\360\237\224\247 81"
+     ".3\",\"details\":\"say \\\"\303\251\\\" 81.4\",\"subCode\":2147483647,\"mvciError\":{\"c"
+     "ode\":-1,\"codeText\":\"back\\\\slash \303\237 81.5\",\"vendorCode\":-65536,\"vendorCode"
+     "Text\":\"Z\303\274ndung \360\237\232\227 81.6\",\"extraText\":\"Pr\303\274fstand \342"
+     "\202\254 81.7\",\"extraCode\":2031089199},\"negativeResponse\":{\"code\":-390557667,\"te"
+     "xt\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 81.8\",\"value1\":184467440"
+     "73709551615,\"value2\":4294967296,\"bytes\":[0,255,255,128],\"byteCount\":4}}},{\"name\""
+     ":\"K\303\274hler\\u0009\360\237\224\247 81.9\",\"path\":\"say \\\"\303\251\\\" 81.10\","
+     "\"size\":1524137085,\"loaded\":0,\"error\":null}],\"dbFileCount1\":2,\"dbFiles2\":[{\"na"
+     "me\":\"back\\\\slash \303\237 81.11\",\"path\":\"Z\303\274ndung \360\237\232\227 81.12\""
+     ",\"size\":2031089199,\"loaded\":1,\"error\":{\"code\":897509781,\"message\":\"Pr\303\274"
+     "fstand \342\202\254 81.13\",\"details\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 81.14\",\"subCode\":-1404461895,\"mvciError\":{\"code\":1911414009,\"codeText\""
+     ":\"K\303\274hler\\u0009\360\237\224\247 81.15\",\"vendorCode\":-270882475,\"vendorCodeTe"
+     "xt\":\"say \\\"\303\251\\\" 81.16\",\"extraText\":\"back\\\\slash \303\237 81.17\",\"ext"
+     "raCode\":777834589},\"negativeResponse\":{\"code\":-1284786703,\"text\":\"Z\303\274ndung"
+     " \360\237\232\227 81.18\",\"value1\":390557667,\"value2\":897509781,\"bytes\":[0,255,127"
+     ",1],\"byteCount\":4}}},{\"name\":\"Pr\303\274fstand \342\202\254 81.19\",\"path\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 81.20\",\"size\":1404461895,\"loaded\""
+     ":0,\"error\":null}],\"dbFileCount2\":2,\"text1\":\"K\303\274hler\\u0009\360\237\224\247 "
+     "81.21\",\"value1\":4294967295,\"text2\":\"say \\\"\303\251\\\" 81.22\",\"value2\":214748"
+     "3648,\"users\":[{\"name\":\"back\\\\slash \303\237 81.23\",\"text\":\"Z\303\274ndung "
+     "\360\237\232\227 81.24\",\"value\":2147483647},{\"name\":\"Pr\303\274fstand \342\202\254"
+     " 81.25\",\"text\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 81.26\",\"valu"
+     "e\":1524137085}],\"userCount\":2}",
+     "", "", "[]", "[]",
+     "01010200000001130000005072c3bc667374616e6420e282ac2038312e3113000000e697a5e69cace8aa9e20"
+     "f09d849e2038312e320100000000000080010100000080110000004bc3bc686c657209f09f94a72038312e33"
+     "0d0000007361792022c3a9222038312e34ffffff7f01ffffffff120000006261636b5c736c61736820c39f20"
+     "38312e350000ffff120000005ac3bc6e64756e6720f09f9a972038312e36130000005072c3bc667374616e64"
+     "20e282ac2038312e372ff60f79011d90b8e813000000e697a5e69cace8aa9e20f09d849e2038312e38ffffff"
+     "ffffffffff00000000010000000400000000ffff8001110000004bc3bc686c657209f09f94a72038312e390e"
+     "0000007361792022c3a9222038312e31307d7cd85a0000000000000200000001130000006261636b5c736c61"
+     "736820c39f2038312e3131130000005ac3bc6e64756e6720f09f9a972038312e31322ff60f79000000000101"
+     "95e97e35140000005072c3bc667374616e6420e282ac2038312e313314000000e697a5e69cace8aa9e20f09d"
+     "849e2038312e3134b99c49ac01f9dced71120000004bc3bc686c657209f09f94a72038312e313555a9daef0e"
+     "0000007361792022c3a9222038312e3136130000006261636b5c736c61736820c39f2038312e31375dd05c2e"
+     "01f1b56bb3130000005ac3bc6e64756e6720f09f9a972038312e3138e36f47170000000095e97e3500000000"
+     "0400000000ff7f0101140000005072c3bc667374616e6420e282ac2038312e313914000000e697a5e69cace8"
+     "aa9e20f09d849e2038312e32304763b653000000000000120000004bc3bc686c657209f09f94a72038312e32"
+     "31ffffffff0e0000007361792022c3a9222038312e3232000000800200000001130000006261636b5c736c61"
+     "736820c39f2038312e3233130000005ac3bc6e64756e6720f09f9a972038312e3234ffffff7f011400000050"
+     "72c3bc667374616e6420e282ac2038312e323514000000e697a5e69cace8aa9e20f09d849e2038312e32367d"
+     "7cd85a",
+     "010200000001130000005072c3bc667374616e6420e282ac2038312e3113000000e697a5e69cace8aa9e20f0"
+     "9d849e2038312e320100000000000080010100000080110000004bc3bc686c657209f09f94a72038312e330d"
+     "0000007361792022c3a9222038312e34ffffff7f01ffffffff120000006261636b5c736c61736820c39f2038"
+     "312e350000ffff120000005ac3bc6e64756e6720f09f9a972038312e36130000005072c3bc667374616e6420"
+     "e282ac2038312e372ff60f79011d90b8e813000000e697a5e69cace8aa9e20f09d849e2038312e38ffffffff"
+     "ffffffff00000000010000000400000000ffff8001110000004bc3bc686c657209f09f94a72038312e390e00"
+     "00007361792022c3a9222038312e31307d7cd85a0000000000000200000001130000006261636b5c736c6173"
+     "6820c39f2038312e3131130000005ac3bc6e64756e6720f09f9a972038312e31322ff60f7900000000010195"
+     "e97e35140000005072c3bc667374616e6420e282ac2038312e313314000000e697a5e69cace8aa9e20f09d84"
+     "9e2038312e3134b99c49ac01f9dced71120000004bc3bc686c657209f09f94a72038312e313555a9daef0e00"
+     "00007361792022c3a9222038312e3136130000006261636b5c736c61736820c39f2038312e31375dd05c2e01"
+     "f1b56bb3130000005ac3bc6e64756e6720f09f9a972038312e3138e36f47170000000095e97e350000000004"
+     "00000000ff7f0101140000005072c3bc667374616e6420e282ac2038312e313914000000e697a5e69cace8aa"
+     "9e20f09d849e2038312e32304763b653000000000000120000004bc3bc686c657209f09f94a72038312e3231"
+     "ffffffff0e0000007361792022c3a9222038312e3232000000800200000001130000006261636b5c736c6173"
+     "6820c39f2038312e3233130000005ac3bc6e64756e6720f09f9a972038312e3234ffffff7f01140000005072"
+     "c3bc667374616e6420e282ac2038312e323514000000e697a5e69cace8aa9e20f09d849e2038312e32367d7c"
+     "d85a",
+     0},
+    {"sparse", "[]", "[]",
+     "{\"dbFiles1\":[{\"name\":\"\",\"path\":\"\",\"size\":9223372036854775809,\"loaded\":true"
+     ",\"error\":null}],\"dbFiles2\":[{\"name\":\"\",\"path\":\"\",\"size\":184467440737095516"
+     "15,\"loaded\":false,\"error\":null}],\"text1\":\"\",\"value1\":4294967295,\"text2\":\"\""
+     ",\"value2\":2147483648,\"users\":[{\"name\":\"\",\"text\":\"\",\"value\":2147483647}]}",
+     "{\"dbFiles1\":[{\"name\":\"\",\"path\":\"\",\"size\":9223372036854775809,\"loaded\":1,\""
+     "error\":null}],\"dbFileCount1\":1,\"dbFiles2\":[{\"name\":\"\",\"path\":\"\",\"size\":18"
+     "446744073709551615,\"loaded\":0,\"error\":null}],\"dbFileCount2\":1,\"text1\":\"\",\"val"
+     "ue1\":4294967295,\"text2\":\"\",\"value2\":2147483648,\"users\":[{\"name\":\"\",\"text\""
+     ":\"\",\"value\":2147483647}],\"userCount\":1}",
+     "", "", "[]", "[]",
+     "0101010000000100000000000000000100000000000080010001000000010000000000000000ffffffffffff"
+     "ffff000000000000ffffffff000000000000008001000000010000000000000000ffffff7f",
+     "01010000000100000000000000000100000000000080010001000000010000000000000000ffffffffffffff"
+     "ff000000000000ffffffff000000000000008001000000010000000000000000ffffff7f",
+     0},
+    {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
+};
+
+struct GetProjectDetailsExport {
+    static constexpr const char* operation = "getProjectDetails";
+    using Result = kc::RecordResult<ProjectDetails, release_ProjectDetails>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getProjectDetails(api, error, &out.data);
+    }
+};
+
+TEST_F(Projects, getProjectDetails_Exchange) {
+    kc::exchange<GetProjectDetailsExport>(api, kGetProjectDetailsCases);
 }
+TEST_F(Projects, getProjectDetails_Failure) {
+    kc::failure<GetProjectDetailsExport>(api, kGetProjectDetailsCases);
+}
+
+const kc::Number kNumber106{106, "getProjectDetails", kGetProjectDetailsCases};
+
+TEST_F(ProjectsByNumber, n106_getProjectDetails_KelCall) { kc::kelCall(api, kNumber106); }
+TEST_F(ProjectsByNumber, n106_getProjectDetails_PyCall) { kc::pyCall(api, kNumber106); }
+TEST_F(ProjectsByNumber, n106_getProjectDetails_Failure) { kc::numberFailure(api, kNumber106); }
 
 // ---- getSystemProperty (position 87, number 114) ----
 
@@ -637,6 +802,22 @@ const kc::Case kGetSystemPropertyCases[] = {
     {"empty", "[\"\"]", "[\"\"]", "null", "null", "00000000", "00", "[\"\"]", "[\"\"]", "0100",
      "00", 0},
 };
+
+struct GetSystemPropertyExport {
+    static constexpr const char* operation = "getSystemProperty";
+    using Result = kc::RecordResult<SystemProperty, release_SystemProperty>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kel_getSystemProperty(api, a0.get(), error, &out.data);
+    }
+};
+
+TEST_F(Projects, getSystemProperty_Exchange) {
+    kc::exchange<GetSystemPropertyExport>(api, kGetSystemPropertyCases);
+}
+TEST_F(Projects, getSystemProperty_Failure) {
+    kc::failure<GetSystemPropertyExport>(api, kGetSystemPropertyCases);
+}
 
 const kc::Number kNumber114{114, "getSystemProperty", kGetSystemPropertyCases};
 
@@ -994,6 +1175,22 @@ const kc::Case kSetSystemPropertyCases[] = {
      "[null]", "01", "", 0},
 };
 
+struct SetSystemPropertyExport {
+    static constexpr const char* operation = "setSystemProperty";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_setSystemProperty(api, kc::record<SystemProperty>(in[0]), error);
+    }
+};
+
+TEST_F(Projects, setSystemProperty_Exchange) {
+    kc::exchange<SetSystemPropertyExport>(api, kSetSystemPropertyCases);
+}
+TEST_F(Projects, setSystemProperty_Failure) {
+    kc::failure<SetSystemPropertyExport>(api, kSetSystemPropertyCases);
+}
+
 const kc::Number kNumber116{116, "setSystemProperty", kSetSystemPropertyCases};
 
 TEST_F(ProjectsByNumber, n116_setSystemProperty_KelCall) { kc::kelCall(api, kNumber116); }
@@ -1092,6 +1289,22 @@ const kc::Case kGetSystemInfoCases[] = {
     {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
 };
 
+struct GetSystemInfoExport {
+    static constexpr const char* operation = "getSystemInfo";
+    using Result = kc::RecordResult<SystemInfo, release_SystemInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getSystemInfo(api, error, &out.data);
+    }
+};
+
+TEST_F(Projects, getSystemInfo_Exchange) {
+    kc::exchange<GetSystemInfoExport>(api, kGetSystemInfoCases);
+}
+TEST_F(Projects, getSystemInfo_Failure) {
+    kc::failure<GetSystemInfoExport>(api, kGetSystemInfoCases);
+}
+
 const kc::Number kNumber183{183, "getSystemInfo", kGetSystemInfoCases};
 
 TEST_F(ProjectsByNumber, n183_getSystemInfo_KelCall) { kc::kelCall(api, kNumber183); }
@@ -1156,6 +1369,22 @@ const kc::Case kLoadDatabaseFileCases[] = {
     {"empty", "[[]]", "[[]]", "[]", "null", "00000000", "00000000", "[[]]", "[[]]", "0100000000",
      "00000000", 0},
 };
+
+struct LoadDatabaseFileExport {
+    static constexpr const char* operation = "loadDatabaseFile";
+    using Result = kc::ListResult<LoadDatabaseResult, release_LoadDatabaseResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kc::Texts a0(in[0]);
+        kel_loadDatabaseFile(api, a0.data(), a0.count(), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Projects, loadDatabaseFile_Exchange) {
+    kc::exchange<LoadDatabaseFileExport>(api, kLoadDatabaseFileCases);
+}
+TEST_F(Projects, loadDatabaseFile_Failure) {
+    kc::failure<LoadDatabaseFileExport>(api, kLoadDatabaseFileCases);
+}
 
 const kc::Number kNumber198{198, "loadDatabaseFile", kLoadDatabaseFileCases};
 
@@ -1223,6 +1452,22 @@ const kc::Case kUnloadDatabaseFileCases[] = {
      "00000000", 0},
 };
 
+struct UnloadDatabaseFileExport {
+    static constexpr const char* operation = "unloadDatabaseFile";
+    using Result = kc::ListResult<LoadDatabaseResult, release_LoadDatabaseResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kc::Texts a0(in[0]);
+        kel_unloadDatabaseFile(api, a0.data(), a0.count(), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Projects, unloadDatabaseFile_Exchange) {
+    kc::exchange<UnloadDatabaseFileExport>(api, kUnloadDatabaseFileCases);
+}
+TEST_F(Projects, unloadDatabaseFile_Failure) {
+    kc::failure<UnloadDatabaseFileExport>(api, kUnloadDatabaseFileCases);
+}
+
 const kc::Number kNumber206{206, "unloadDatabaseFile", kUnloadDatabaseFileCases};
 
 TEST_F(ProjectsByNumber, n206_unloadDatabaseFile_KelCall) { kc::kelCall(api, kNumber206); }
@@ -1230,9 +1475,164 @@ TEST_F(ProjectsByNumber, n206_unloadDatabaseFile_PyCall) { kc::pyCall(api, kNumb
 TEST_F(ProjectsByNumber, n206_unloadDatabaseFile_Failure) { kc::numberFailure(api, kNumber206); }
 TEST_F(ProjectsByNumber, n206_unloadDatabaseFile_ShortInput) { kc::shortInput(api, kNumber206); }
 
-TEST_F(ProjectsByNumber, n203_getProjectsDetails_NotAvailable) {
-    kc::notAvailable(api, 203, "getProjectsDetails");
+// ---- getProjectsDetails (position 192, number 203) ----
+
+const kc::Case kGetProjectsDetailsCases[] = {
+    {"full",
+     "[[\"Pr\303\274fstand \342\202\254 192.1\",\"\",\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 192.2\"]]",
+     "[[\"Pr\303\274fstand \342\202\254 192.1\",\"\",\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 192.2\"]]",
+     "[{\"dbFiles1\":[{\"name\":\"K\303\274hler\\u0009\360\237\224\247 192.3\",\"path\":\"say "
+     "\\\"\303\251\\\" 192.4\",\"size\":9223372036854775809,\"loaded\":true,\"error\":{\"code"
+     "\":-2147483648,\"message\":\"back\\\\slash \303\237 192.5\",\"details\":\"Z\303\274ndung"
+     " \360\237\232\227 192.6\",\"subCode\":2147483647,\"mvciError\":{\"code\":-1,\"codeText\""
+     ":\"Pr\303\274fstand \342\202\254 192.7\",\"vendorCode\":-65536,\"vendorCodeText\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 192.8\",\"extraText\":\"K\303\274hler"
+     "\\u0009\360\237\224\247 192.9\",\"extraCode\":2035585033},\"negativeResponse\":{\"code\""
+     ":-395053499,\"text\":\"say \\\"\303\251\\\" 192.10\",\"value1\":18446744073709551615,\"v"
+     "alue2\":4294967296,\"bytes\":[0,255,255,128]}}},{\"name\":\"back\\\\slash \303\237 192.1"
+     "1\",\"path\":\"Z\303\274ndung \360\237\232\227 192.12\",\"size\":1528632919,\"loaded\":f"
+     "alse,\"error\":null}],\"dbFiles2\":[{\"name\":\"Pr\303\274fstand \342\202\254 192.13\","
+     "\"path\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 192.14\",\"size\":20355"
+     "85033,\"loaded\":true,\"error\":{\"code\":902005613,\"message\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 192.15\",\"details\":\"say \\\"\303\251\\\" 192.16\",\"subCode\":-14089"
+     "57727,\"mvciError\":{\"code\":1915909841,\"codeText\":\"back\\\\slash \303\237 192.17\","
+     "\"vendorCode\":-275378309,\"vendorCodeText\":\"Z\303\274ndung \360\237\232\227 192.18\","
+     "\"extraText\":\"Pr\303\274fstand \342\202\254 192.19\",\"extraCode\":782330423},\"negati"
+     "veResponse\":{\"code\":-1289282537,\"text\":\"\346\227\245\346\234\254\350\252\236 \360"
+     "\235\204\236 192.20\",\"value1\":395053499,\"value2\":902005613,\"bytes\":[0,255,127,1]}"
+     "}},{\"name\":\"K\303\274hler\\u0009\360\237\224\247 192.21\",\"path\":\"say \\\"\303\251"
+     "\\\" 192.22\",\"size\":1408957727,\"loaded\":false,\"error\":null}],\"text1\":\"back\\\\"
+     "slash \303\237 192.23\",\"value1\":4294967295,\"text2\":\"Z\303\274ndung \360\237\232"
+     "\227 192.24\",\"value2\":2147483648,\"users\":[{\"name\":\"Pr\303\274fstand \342\202\254"
+     " 192.25\",\"text\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 192.26\",\"va"
+     "lue\":2147483647},{\"name\":\"K\303\274hler\\u0009\360\237\224\247 192.27\",\"text\":\"s"
+     "ay \\\"\303\251\\\" 192.28\",\"value\":1528632919}]},{\"dbFiles1\":[],\"dbFiles2\":[],\""
+     "text1\":\"back\\\\slash \303\237 192.29\",\"value1\":2035585033,\"text2\":\"Z\303\274ndu"
+     "ng \360\237\232\227 192.30\",\"value2\":395053499,\"users\":[]}]",
+     "[{\"dbFiles1\":[{\"name\":\"K\303\274hler\\u0009\360\237\224\247 192.3\",\"path\":\"say "
+     "\\\"\303\251\\\" 192.4\",\"size\":9223372036854775809,\"loaded\":1,\"error\":{\"code\":-"
+     "2147483648,\"message\":\"back\\\\slash \303\237 192.5\",\"details\":\"Z\303\274ndung "
+     "\360\237\232\227 192.6\",\"subCode\":2147483647,\"mvciError\":{\"code\":-1,\"codeText\":"
+     "\"Pr\303\274fstand \342\202\254 192.7\",\"vendorCode\":-65536,\"vendorCodeText\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 192.8\",\"extraText\":\"K\303\274hler"
+     "\\u0009\360\237\224\247 192.9\",\"extraCode\":2035585033},\"negativeResponse\":{\"code\""
+     ":-395053499,\"text\":\"say \\\"\303\251\\\" 192.10\",\"value1\":18446744073709551615,\"v"
+     "alue2\":4294967296,\"bytes\":[0,255,255,128],\"byteCount\":4}}},{\"name\":\"back\\\\slas"
+     "h \303\237 192.11\",\"path\":\"Z\303\274ndung \360\237\232\227 192.12\",\"size\":1528632"
+     "919,\"loaded\":0,\"error\":null}],\"dbFileCount1\":2,\"dbFiles2\":[{\"name\":\"Pr\303"
+     "\274fstand \342\202\254 192.13\",\"path\":\"\346\227\245\346\234\254\350\252\236 \360"
+     "\235\204\236 192.14\",\"size\":2035585033,\"loaded\":1,\"error\":{\"code\":902005613,\"m"
+     "essage\":\"K\303\274hler\\u0009\360\237\224\247 192.15\",\"details\":\"say \\\"\303\251"
+     "\\\" 192.16\",\"subCode\":-1408957727,\"mvciError\":{\"code\":1915909841,\"codeText\":\""
+     "back\\\\slash \303\237 192.17\",\"vendorCode\":-275378309,\"vendorCodeText\":\"Z\303\274"
+     "ndung \360\237\232\227 192.18\",\"extraText\":\"Pr\303\274fstand \342\202\254 192.19\","
+     "\"extraCode\":782330423},\"negativeResponse\":{\"code\":-1289282537,\"text\":\"\346\227"
+     "\245\346\234\254\350\252\236 \360\235\204\236 192.20\",\"value1\":395053499,\"value2\":9"
+     "02005613,\"bytes\":[0,255,127,1],\"byteCount\":4}}},{\"name\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 192.21\",\"path\":\"say \\\"\303\251\\\" 192.22\",\"size\":1408957727,\"loa"
+     "ded\":0,\"error\":null}],\"dbFileCount2\":2,\"text1\":\"back\\\\slash \303\237 192.23\","
+     "\"value1\":4294967295,\"text2\":\"Z\303\274ndung \360\237\232\227 192.24\",\"value2\":21"
+     "47483648,\"users\":[{\"name\":\"Pr\303\274fstand \342\202\254 192.25\",\"text\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 192.26\",\"value\":2147483647},{\"name"
+     "\":\"K\303\274hler\\u0009\360\237\224\247 192.27\",\"text\":\"say \\\"\303\251\\\" 192.2"
+     "8\",\"value\":1528632919}],\"userCount\":2},{\"dbFiles1\":null,\"dbFileCount1\":0,\"dbFi"
+     "les2\":null,\"dbFileCount2\":0,\"text1\":\"back\\\\slash \303\237 192.29\",\"value1\":20"
+     "35585033,\"text2\":\"Z\303\274ndung \360\237\232\227 192.30\",\"value2\":395053499,\"use"
+     "rs\":null,\"userCount\":0}]",
+     "03000000140000005072c3bc667374616e6420e282ac203139322e310000000014000000e697a5e69cace8aa"
+     "9e20f09d849e203139322e32",
+     "030000005072c3bc667374616e6420e282ac203139322e310000e697a5e69cace8aa9e20f09d849e20313932"
+     "2e3200",
+     "[[\"Pr\303\274fstand \342\202\254 192.1\",\"\",\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 192.2\"]]",
+     "[[\"Pr\303\274fstand \342\202\254 192.1\",\"\",\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 192.2\"]]",
+     "0102000000010200000001120000004bc3bc686c657209f09f94a7203139322e330e0000007361792022c3a9"
+     "22203139322e340100000000000080010100000080130000006261636b5c736c61736820c39f203139322e35"
+     "130000005ac3bc6e64756e6720f09f9a97203139322e36ffffff7f01ffffffff140000005072c3bc66737461"
+     "6e6420e282ac203139322e370000ffff14000000e697a5e69cace8aa9e20f09d849e203139322e3812000000"
+     "4bc3bc686c657209f09f94a7203139322e39099054790145f673e80f0000007361792022c3a922203139322e"
+     "3130ffffffffffffffff00000000010000000400000000ffff8001140000006261636b5c736c61736820c39f"
+     "203139322e3131140000005ac3bc6e64756e6720f09f9a97203139322e313257161d5b000000000000020000"
+     "0001150000005072c3bc667374616e6420e282ac203139322e313315000000e697a5e69cace8aa9e20f09d84"
+     "9e203139322e3134099054790000000001016d83c335130000004bc3bc686c657209f09f94a7203139322e31"
+     "350f0000007361792022c3a922203139322e3136e10205ac01d1763272140000006261636b5c736c61736820"
+     "c39f203139322e31377b0f96ef140000005ac3bc6e64756e6720f09f9a97203139322e3138150000005072c3"
+     "bc667374616e6420e282ac203139322e3139376aa12e01171c27b315000000e697a5e69cace8aa9e20f09d84"
+     "9e203139322e3230bb098c17000000006d83c335000000000400000000ff7f0101130000004bc3bc686c6572"
+     "09f09f94a7203139322e32310f0000007361792022c3a922203139322e32321ffdfa53000000000000140000"
+     "006261636b5c736c61736820c39f203139322e3233ffffffff140000005ac3bc6e64756e6720f09f9a972031"
+     "39322e3234000000800200000001150000005072c3bc667374616e6420e282ac203139322e323515000000e6"
+     "97a5e69cace8aa9e20f09d849e203139322e3236ffffff7f01130000004bc3bc686c657209f09f94a7203139"
+     "322e32370f0000007361792022c3a922203139322e323857161d5b010000000000000000140000006261636b"
+     "5c736c61736820c39f203139322e323909905479140000005ac3bc6e64756e6720f09f9a97203139322e3330"
+     "bb098c1700000000",
+     "02000000010200000001120000004bc3bc686c657209f09f94a7203139322e330e0000007361792022c3a922"
+     "203139322e340100000000000080010100000080130000006261636b5c736c61736820c39f203139322e3513"
+     "0000005ac3bc6e64756e6720f09f9a97203139322e36ffffff7f01ffffffff140000005072c3bc667374616e"
+     "6420e282ac203139322e370000ffff14000000e697a5e69cace8aa9e20f09d849e203139322e38120000004b"
+     "c3bc686c657209f09f94a7203139322e39099054790145f673e80f0000007361792022c3a922203139322e31"
+     "30ffffffffffffffff00000000010000000400000000ffff8001140000006261636b5c736c61736820c39f20"
+     "3139322e3131140000005ac3bc6e64756e6720f09f9a97203139322e313257161d5b00000000000002000000"
+     "01150000005072c3bc667374616e6420e282ac203139322e313315000000e697a5e69cace8aa9e20f09d849e"
+     "203139322e3134099054790000000001016d83c335130000004bc3bc686c657209f09f94a7203139322e3135"
+     "0f0000007361792022c3a922203139322e3136e10205ac01d1763272140000006261636b5c736c61736820c3"
+     "9f203139322e31377b0f96ef140000005ac3bc6e64756e6720f09f9a97203139322e3138150000005072c3bc"
+     "667374616e6420e282ac203139322e3139376aa12e01171c27b315000000e697a5e69cace8aa9e20f09d849e"
+     "203139322e3230bb098c17000000006d83c335000000000400000000ff7f0101130000004bc3bc686c657209"
+     "f09f94a7203139322e32310f0000007361792022c3a922203139322e32321ffdfa5300000000000014000000"
+     "6261636b5c736c61736820c39f203139322e3233ffffffff140000005ac3bc6e64756e6720f09f9a97203139"
+     "322e3234000000800200000001150000005072c3bc667374616e6420e282ac203139322e323515000000e697"
+     "a5e69cace8aa9e20f09d849e203139322e3236ffffff7f01130000004bc3bc686c657209f09f94a720313932"
+     "2e32370f0000007361792022c3a922203139322e323857161d5b010000000000000000140000006261636b5c"
+     "736c61736820c39f203139322e323909905479140000005ac3bc6e64756e6720f09f9a97203139322e3330bb"
+     "098c1700000000",
+     0},
+    {"sparse", "[[]]", "[[]]",
+     "[{\"dbFiles1\":[{\"name\":\"\",\"path\":\"\",\"size\":9223372036854775809,\"loaded\":tru"
+     "e,\"error\":null}],\"dbFiles2\":[{\"name\":\"\",\"path\":\"\",\"size\":18446744073709551"
+     "615,\"loaded\":false,\"error\":null}],\"text1\":\"\",\"value1\":4294967295,\"text2\":\""
+     "\",\"value2\":2147483648,\"users\":[{\"name\":\"\",\"text\":\"\",\"value\":2147483647}]}"
+     ",null]",
+     "[{\"dbFiles1\":[{\"name\":\"\",\"path\":\"\",\"size\":9223372036854775809,\"loaded\":1,"
+     "\"error\":null}],\"dbFileCount1\":1,\"dbFiles2\":[{\"name\":\"\",\"path\":\"\",\"size\":"
+     "18446744073709551615,\"loaded\":0,\"error\":null}],\"dbFileCount2\":1,\"text1\":\"\",\"v"
+     "alue1\":4294967295,\"text2\":\"\",\"value2\":2147483648,\"users\":[{\"name\":\"\",\"text"
+     "\":\"\",\"value\":2147483647}],\"userCount\":1},null]",
+     "00000000", "00000000", "[[]]", "[[]]",
+     "010200000001010000000100000000000000000100000000000080010001000000010000000000000000ffff"
+     "ffffffffffff000000000000ffffffff000000000000008001000000010000000000000000ffffff7f00",
+     "0200000001010000000100000000000000000100000000000080010001000000010000000000000000ffffff"
+     "ffffffffff000000000000ffffffff000000000000008001000000010000000000000000ffffff7f00",
+     0},
+    {"empty", "[[]]", "[[]]", "[]", "null", "00000000", "00000000", "[[]]", "[[]]", "0100000000",
+     "00000000", 0},
+};
+
+struct GetProjectsDetailsExport {
+    static constexpr const char* operation = "getProjectsDetails";
+    using Result = kc::ListResult<ProjectDetails, release_ProjectDetails_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kc::Texts a0(in[0]);
+        kel_getProjectsDetails(api, a0.data(), a0.count(), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Projects, getProjectsDetails_Exchange) {
+    kc::exchange<GetProjectsDetailsExport>(api, kGetProjectsDetailsCases);
 }
+TEST_F(Projects, getProjectsDetails_Failure) {
+    kc::failure<GetProjectsDetailsExport>(api, kGetProjectsDetailsCases);
+}
+
+const kc::Number kNumber203{203, "getProjectsDetails", kGetProjectsDetailsCases};
+
+TEST_F(ProjectsByNumber, n203_getProjectsDetails_KelCall) { kc::kelCall(api, kNumber203); }
+TEST_F(ProjectsByNumber, n203_getProjectsDetails_PyCall) { kc::pyCall(api, kNumber203); }
+TEST_F(ProjectsByNumber, n203_getProjectsDetails_Failure) { kc::numberFailure(api, kNumber203); }
+TEST_F(ProjectsByNumber, n203_getProjectsDetails_ShortInput) { kc::shortInput(api, kNumber203); }
 
 // ---- selectDynamicProject (position 216, number 246) ----
 
@@ -1402,6 +1802,22 @@ const kc::Case kGetProjectConfigurationsCases[] = {
     {"empty", "[]", "[]", "[]", "null", "", "", "[]", "[]", "0100000000", "00000000", 0},
 };
 
+struct GetProjectConfigurationsExport {
+    static constexpr const char* operation = "getProjectConfigurations";
+    using Result = kc::ListResult<ProjectConfig, release_ProjectConfig_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getProjectConfigurations(api, error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Projects, getProjectConfigurations_Exchange) {
+    kc::exchange<GetProjectConfigurationsExport>(api, kGetProjectConfigurationsCases);
+}
+TEST_F(Projects, getProjectConfigurations_Failure) {
+    kc::failure<GetProjectConfigurationsExport>(api, kGetProjectConfigurationsCases);
+}
+
 const kc::Number kNumber48{48, "getProjectConfigurations", kGetProjectConfigurationsCases};
 
 TEST_F(ProjectsByNumber, n48_getProjectConfigurations_KelCall) { kc::kelCall(api, kNumber48); }
@@ -1506,17 +1922,258 @@ TEST_F(ProjectsByNumber, n52_setSelectedProject_PyCall) { kc::pyCall(api, kNumbe
 TEST_F(ProjectsByNumber, n52_setSelectedProject_Failure) { kc::numberFailure(api, kNumber52); }
 TEST_F(ProjectsByNumber, n52_setSelectedProject_ShortInput) { kc::shortInput(api, kNumber52); }
 
-TEST_F(ProjectsByNumber, n53_getConfiguration_NotAvailable) {
-    kc::notAvailable(api, 53, "getConfiguration");
+// ---- getConfiguration (position 246, number 53) ----
+
+const kc::Case kGetConfigurationCases[] = {
+    {"full", "[]", "[]",
+     "{\"value1\":-2147483648,\"flag1\":true,\"flag2\":false,\"value2\":2147483647,\"server\":"
+     "{\"address\":\"Pr\303\274fstand \342\202\254 246.1\",\"port\":4294967295,\"enabled\":tru"
+     "e,\"name\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 246.2\"},\"value3\":2"
+     "147483648,\"value4\":2147483647,\"value5\":1530820081,\"flag3\":false,\"value6\":2037772"
+     "195,\"value7\":65535,\"oauth2Configs\":[{\"issuer\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 246.3\",\"clientId\":\"say \\\"\303\251\\\" 246.4\",\"scopes\":[\"back\\\\slash "
+     "\303\237 246.5\",\"Z\303\274ndung \360\237\232\227 246.6\"],\"redirectUrl\":\"Pr\303\274"
+     "fstand \342\202\254 246.7\"},{\"issuer\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 246.8\",\"clientId\":\"K\303\274hler\\u0009\360\237\224\247 246.9\",\"scopes\":"
+     "[\"say \\\"\303\251\\\" 246.10\",\"back\\\\slash \303\237 246.11\"],\"redirectUrl\":\"Z"
+     "\303\274ndung \360\237\232\227 246.12\"}],\"text\":\"Pr\303\274fstand \342\202\254 246.1"
+     "3\"}",
+     "{\"value1\":-2147483648,\"flag1\":1,\"flag2\":0,\"value2\":2147483647,\"server\":{\"addr"
+     "ess\":\"Pr\303\274fstand \342\202\254 246.1\",\"port\":4294967295,\"enabled\":1,\"name\""
+     ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 246.2\"},\"value3\":2147483648,"
+     "\"value4\":2147483647,\"value5\":1530820081,\"flag3\":0,\"value6\":2037772195,\"value7\""
+     ":65535,\"oauth2Configs\":[{\"issuer\":\"K\303\274hler\\u0009\360\237\224\247 246.3\",\"c"
+     "lientId\":\"say \\\"\303\251\\\" 246.4\",\"scopes\":[\"back\\\\slash \303\237 246.5\",\""
+     "Z\303\274ndung \360\237\232\227 246.6\"],\"scopeCount\":2,\"redirectUrl\":\"Pr\303\274fs"
+     "tand \342\202\254 246.7\"},{\"issuer\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 246.8\",\"clientId\":\"K\303\274hler\\u0009\360\237\224\247 246.9\",\"scopes\":"
+     "[\"say \\\"\303\251\\\" 246.10\",\"back\\\\slash \303\237 246.11\"],\"scopeCount\":2,\"r"
+     "edirectUrl\":\"Z\303\274ndung \360\237\232\227 246.12\"}],\"oauth2ConfigCount\":2,\"text"
+     "\":\"Pr\303\274fstand \342\202\254 246.13\"}",
+     "", "", "[]", "[]",
+     "0101000000800100ffffff7f01140000005072c3bc667374616e6420e282ac203234362e31ffffffff011400"
+     "0000e697a5e69cace8aa9e20f09d849e203234362e3200000080ffffff7ff1753e5b00a3ef7579ffff020000"
+     "0001120000004bc3bc686c657209f09f94a7203234362e330e0000007361792022c3a922203234362e340200"
+     "0000130000006261636b5c736c61736820c39f203234362e35130000005ac3bc6e64756e6720f09f9a972032"
+     "34362e36140000005072c3bc667374616e6420e282ac203234362e370114000000e697a5e69cace8aa9e20f0"
+     "9d849e203234362e38120000004bc3bc686c657209f09f94a7203234362e39020000000f0000007361792022"
+     "c3a922203234362e3130140000006261636b5c736c61736820c39f203234362e3131140000005ac3bc6e6475"
+     "6e6720f09f9a97203234362e3132150000005072c3bc667374616e6420e282ac203234362e3133",
+     "01000000800100ffffff7f01140000005072c3bc667374616e6420e282ac203234362e31ffffffff01140000"
+     "00e697a5e69cace8aa9e20f09d849e203234362e3200000080ffffff7ff1753e5b00a3ef7579ffff02000000"
+     "01120000004bc3bc686c657209f09f94a7203234362e330e0000007361792022c3a922203234362e34020000"
+     "00130000006261636b5c736c61736820c39f203234362e35130000005ac3bc6e64756e6720f09f9a97203234"
+     "362e36140000005072c3bc667374616e6420e282ac203234362e370114000000e697a5e69cace8aa9e20f09d"
+     "849e203234362e38120000004bc3bc686c657209f09f94a7203234362e39020000000f0000007361792022c3"
+     "a922203234362e3130140000006261636b5c736c61736820c39f203234362e3131140000005ac3bc6e64756e"
+     "6720f09f9a97203234362e3132150000005072c3bc667374616e6420e282ac203234362e3133",
+     0},
+    {"sparse", "[]", "[]",
+     "{\"value1\":-2147483648,\"flag1\":true,\"flag2\":false,\"value2\":2147483647,\"server\":"
+     "{\"address\":\"\",\"port\":4294967295,\"enabled\":true,\"name\":\"\"},\"value3\":2147483"
+     "648,\"value4\":2147483647,\"value5\":1530820081,\"flag3\":false,\"value6\":2037772195,\""
+     "value7\":65535,\"oauth2Configs\":[{\"issuer\":\"\",\"clientId\":\"\",\"scopes\":[],\"red"
+     "irectUrl\":\"\"}],\"text\":\"\"}",
+     "{\"value1\":-2147483648,\"flag1\":1,\"flag2\":0,\"value2\":2147483647,\"server\":{\"addr"
+     "ess\":\"\",\"port\":4294967295,\"enabled\":1,\"name\":\"\"},\"value3\":2147483648,\"valu"
+     "e4\":2147483647,\"value5\":1530820081,\"flag3\":0,\"value6\":2037772195,\"value7\":65535"
+     ",\"oauth2Configs\":[{\"issuer\":\"\",\"clientId\":\"\",\"scopes\":null,\"scopeCount\":0,"
+     "\"redirectUrl\":\"\"}],\"oauth2ConfigCount\":1,\"text\":\"\"}",
+     "", "", "[]", "[]",
+     "0101000000800100ffffff7f0100000000ffffffff010000000000000080ffffff7ff1753e5b00a3ef7579ff"
+     "ff01000000010000000000000000000000000000000000000000",
+     "01000000800100ffffff7f0100000000ffffffff010000000000000080ffffff7ff1753e5b00a3ef7579ffff"
+     "01000000010000000000000000000000000000000000000000",
+     0},
+    {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
+};
+
+struct GetConfigurationExport {
+    static constexpr const char* operation = "getConfiguration";
+    using Result = kc::RecordResult<TarnApiConfig, release_TarnApiConfig>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getConfiguration(api, error, &out.data);
+    }
+};
+
+TEST_F(Projects, getConfiguration_Exchange) {
+    kc::exchange<GetConfigurationExport>(api, kGetConfigurationCases);
+}
+TEST_F(Projects, getConfiguration_Failure) {
+    kc::failure<GetConfigurationExport>(api, kGetConfigurationCases);
 }
 
-TEST_F(ProjectsByNumber, n54_setConfiguration_NotAvailable) {
-    kc::notAvailable(api, 54, "setConfiguration");
+const kc::Number kNumber53{53, "getConfiguration", kGetConfigurationCases};
+
+TEST_F(ProjectsByNumber, n53_getConfiguration_KelCall) { kc::kelCall(api, kNumber53); }
+TEST_F(ProjectsByNumber, n53_getConfiguration_PyCall) { kc::pyCall(api, kNumber53); }
+TEST_F(ProjectsByNumber, n53_getConfiguration_Failure) { kc::numberFailure(api, kNumber53); }
+
+// ---- setConfiguration (position 247, number 54) ----
+
+const kc::Case kSetConfigurationCases[] = {
+    {"full",
+     "[{\"value1\":-2147483648,\"flag1\":128,\"flag2\":0,\"value2\":2147483647,\"server\":{\"a"
+     "ddress\":\"Pr\303\274fstand \342\202\254 247.1\",\"port\":4294967295,\"enabled\":255,\"n"
+     "ame\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 247.2\"},\"value3\":214748"
+     "3648,\"value4\":2147483647,\"value5\":1530860583,\"flag3\":0,\"value6\":2037812697,\"val"
+     "ue7\":65535,\"oauth2Configs\":[{\"issuer\":\"K\303\274hler\\u0009\360\237\224\247 247.3"
+     "\",\"clientId\":\"say \\\"\303\251\\\" 247.4\",\"scopes\":[\"back\\\\slash \303\237 247."
+     "5\",\"Z\303\274ndung \360\237\232\227 247.6\"],\"redirectUrl\":\"Pr\303\274fstand \342"
+     "\202\254 247.7\"},{\"issuer\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 24"
+     "7.8\",\"clientId\":\"K\303\274hler\\u0009\360\237\224\247 247.9\",\"scopes\":[\"say \\\""
+     "\303\251\\\" 247.10\",\"back\\\\slash \303\237 247.11\"],\"redirectUrl\":\"Z\303\274ndun"
+     "g \360\237\232\227 247.12\"}],\"text\":\"Pr\303\274fstand \342\202\254 247.13\"}]",
+     "[{\"value1\":-2147483648,\"flag1\":true,\"flag2\":false,\"value2\":2147483647,\"server\""
+     ":{\"address\":\"Pr\303\274fstand \342\202\254 247.1\",\"port\":4294967295,\"enabled\":tr"
+     "ue,\"name\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 247.2\"},\"value3\":"
+     "2147483648,\"value4\":2147483647,\"value5\":1530860583,\"flag3\":false,\"value6\":203781"
+     "2697,\"value7\":65535,\"oauth2Configs\":[{\"issuer\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 247.3\",\"clientId\":\"say \\\"\303\251\\\" 247.4\",\"scopes\":[\"back\\\\slash "
+     "\303\237 247.5\",\"Z\303\274ndung \360\237\232\227 247.6\"],\"redirectUrl\":\"Pr\303\274"
+     "fstand \342\202\254 247.7\"},{\"issuer\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 247.8\",\"clientId\":\"K\303\274hler\\u0009\360\237\224\247 247.9\",\"scopes\":"
+     "[\"say \\\"\303\251\\\" 247.10\",\"back\\\\slash \303\237 247.11\"],\"redirectUrl\":\"Z"
+     "\303\274ndung \360\237\232\227 247.12\"}],\"text\":\"Pr\303\274fstand \342\202\254 247.1"
+     "3\"}]",
+     "null", nullptr,
+     "000000800100ffffff7f140000005072c3bc667374616e6420e282ac203234372e31ffffffff0114000000e6"
+     "97a5e69cace8aa9e20f09d849e203234372e3200000080ffffff7f27143f5b00d98d7679ffff020000001200"
+     "00004bc3bc686c657209f09f94a7203234372e330e0000007361792022c3a922203234372e34020000001300"
+     "00006261636b5c736c61736820c39f203234372e35130000005ac3bc6e64756e6720f09f9a97203234372e36"
+     "140000005072c3bc667374616e6420e282ac203234372e3714000000e697a5e69cace8aa9e20f09d849e2032"
+     "34372e38120000004bc3bc686c657209f09f94a7203234372e39020000000f0000007361792022c3a9222032"
+     "34372e3130140000006261636b5c736c61736820c39f203234372e3131140000005ac3bc6e64756e6720f09f"
+     "9a97203234372e3132150000005072c3bc667374616e6420e282ac203234372e3133",
+     "01000000800100ffffff7f015072c3bc667374616e6420e282ac203234372e3100ffffffff01e697a5e69cac"
+     "e8aa9e20f09d849e203234372e320000000080ffffff7f27143f5b00d98d7679ffff02000000014bc3bc686c"
+     "657209f09f94a7203234372e33007361792022c3a922203234372e3400020000006261636b5c736c61736820"
+     "c39f203234372e35005ac3bc6e64756e6720f09f9a97203234372e36005072c3bc667374616e6420e282ac20"
+     "3234372e370001e697a5e69cace8aa9e20f09d849e203234372e38004bc3bc686c657209f09f94a720323437"
+     "2e3900020000007361792022c3a922203234372e3130006261636b5c736c61736820c39f203234372e313100"
+     "5ac3bc6e64756e6720f09f9a97203234372e3132005072c3bc667374616e6420e282ac203234372e313300",
+     "[{\"value1\":-2147483648,\"flag1\":true,\"flag2\":false,\"value2\":2147483647,\"server\""
+     ":{\"address\":\"Pr\303\274fstand \342\202\254 247.1\",\"port\":4294967295,\"enabled\":tr"
+     "ue,\"name\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 247.2\"},\"value3\":"
+     "2147483648,\"value4\":2147483647,\"value5\":1530860583,\"flag3\":false,\"value6\":203781"
+     "2697,\"value7\":65535,\"oauth2Configs\":[{\"issuer\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 247.3\",\"clientId\":\"say \\\"\303\251\\\" 247.4\",\"scopes\":[\"back\\\\slash "
+     "\303\237 247.5\",\"Z\303\274ndung \360\237\232\227 247.6\"],\"redirectUrl\":\"Pr\303\274"
+     "fstand \342\202\254 247.7\"},{\"issuer\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 247.8\",\"clientId\":\"K\303\274hler\\u0009\360\237\224\247 247.9\",\"scopes\":"
+     "[\"say \\\"\303\251\\\" 247.10\",\"back\\\\slash \303\237 247.11\"],\"redirectUrl\":\"Z"
+     "\303\274ndung \360\237\232\227 247.12\"}],\"text\":\"Pr\303\274fstand \342\202\254 247.1"
+     "3\"}]",
+     "[{\"value1\":-2147483648,\"flag1\":true,\"flag2\":false,\"value2\":2147483647,\"server\""
+     ":{\"address\":\"Pr\303\274fstand \342\202\254 247.1\",\"port\":4294967295,\"enabled\":tr"
+     "ue,\"name\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 247.2\"},\"value3\":"
+     "2147483648,\"value4\":2147483647,\"value5\":1530860583,\"flag3\":false,\"value6\":203781"
+     "2697,\"value7\":65535,\"oauth2Configs\":[{\"issuer\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 247.3\",\"clientId\":\"say \\\"\303\251\\\" 247.4\",\"scopes\":[\"back\\\\slash "
+     "\303\237 247.5\",\"Z\303\274ndung \360\237\232\227 247.6\"],\"redirectUrl\":\"Pr\303\274"
+     "fstand \342\202\254 247.7\"},{\"issuer\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 247.8\",\"clientId\":\"K\303\274hler\\u0009\360\237\224\247 247.9\",\"scopes\":"
+     "[\"say \\\"\303\251\\\" 247.10\",\"back\\\\slash \303\237 247.11\"],\"redirectUrl\":\"Z"
+     "\303\274ndung \360\237\232\227 247.12\"}],\"text\":\"Pr\303\274fstand \342\202\254 247.1"
+     "3\"}]",
+     "01", "", 0},
+    {"sparse", "[null]", "[null]", "null", nullptr,
+     "0000000000000000000000000000000000000000000000000000000000000000000000000000000000000000"
+     "000000000000",
+     "00",
+     "[{\"value1\":0,\"flag1\":false,\"flag2\":false,\"value2\":0,\"server\":{\"address\":\"\""
+     ",\"port\":0,\"enabled\":false,\"name\":\"\"},\"value3\":0,\"value4\":0,\"value5\":0,\"fl"
+     "ag3\":false,\"value6\":0,\"value7\":0,\"oauth2Configs\":[],\"text\":\"\"}]",
+     "[null]", "01", "", 0},
+};
+
+struct SetConfigurationExport {
+    static constexpr const char* operation = "setConfiguration";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_setConfiguration(api, error, kc::record<TarnApiConfig>(in[0]));
+    }
+};
+
+TEST_F(Projects, setConfiguration_Exchange) {
+    kc::exchange<SetConfigurationExport>(api, kSetConfigurationCases);
+}
+TEST_F(Projects, setConfiguration_Failure) {
+    kc::failure<SetConfigurationExport>(api, kSetConfigurationCases);
 }
 
-TEST_F(ProjectsByNumber, n59_getProcessInfo_NotAvailable) {
-    kc::notAvailable(api, 59, "getProcessInfo");
+const kc::Number kNumber54{54, "setConfiguration", kSetConfigurationCases};
+
+TEST_F(ProjectsByNumber, n54_setConfiguration_KelCall) { kc::kelCall(api, kNumber54); }
+TEST_F(ProjectsByNumber, n54_setConfiguration_PyCall) { kc::pyCall(api, kNumber54); }
+TEST_F(ProjectsByNumber, n54_setConfiguration_Failure) { kc::numberFailure(api, kNumber54); }
+TEST_F(ProjectsByNumber, n54_setConfiguration_ShortInput) { kc::shortInput(api, kNumber54); }
+
+// ---- getProcessInfo (position 252, number 59) ----
+
+const kc::Case kGetProcessInfoCases[] = {
+    {"full", "[]", "[]",
+     "{\"processes\":[{\"value\":4294967295,\"items1\":[{\"id\":2147483648,\"name\":\"Pr\303"
+     "\274fstand \342\202\254 252.1\"},{\"id\":2147483647,\"name\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 252.2\"}],\"text\":\"K\303\274hler\\u0009\360\237\224\247 "
+     "252.3\",\"items2\":[{\"name\":\"say \\\"\303\251\\\" 252.4\",\"bytes\":92233720368547758"
+     "09},{\"name\":\"back\\\\slash \303\237 252.5\",\"bytes\":18446744073709551615}]},{\"valu"
+     "e\":1531063099,\"items1\":[],\"text\":\"Z\303\274ndung \360\237\232\227 252.6\",\"items2"
+     "\":[]}],\"flag1\":true,\"flag2\":false,\"text\":\"Pr\303\274fstand \342\202\254 252.7\"}",
+     "{\"processes\":[{\"value\":4294967295,\"items1\":[{\"id\":2147483648,\"name\":\"Pr\303"
+     "\274fstand \342\202\254 252.1\"},{\"id\":2147483647,\"name\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 252.2\"}],\"itemCount1\":2,\"text\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 252.3\",\"items2\":[{\"name\":\"say \\\"\303\251\\\" 252.4\",\"bytes\":"
+     "9223372036854775809},{\"name\":\"back\\\\slash \303\237 252.5\",\"bytes\":18446744073709"
+     "551615}],\"itemCount2\":2},{\"value\":1531063099,\"items1\":null,\"itemCount1\":0,\"text"
+     "\":\"Z\303\274ndung \360\237\232\227 252.6\",\"items2\":null,\"itemCount2\":0}],\"proces"
+     "sCount\":2,\"flag1\":1,\"flag2\":0,\"text\":\"Pr\303\274fstand \342\202\254 252.7\"}",
+     "", "", "[]", "[]",
+     "01010200000001ffffffff020000000100000080140000005072c3bc667374616e6420e282ac203235322e31"
+     "01ffffff7f14000000e697a5e69cace8aa9e20f09d849e203235322e32120000004bc3bc686c657209f09f94"
+     "a7203235322e3302000000010e0000007361792022c3a922203235322e340100000000000080011300000062"
+     "61636b5c736c61736820c39f203235322e35ffffffffffffffff013b2b425b00000000130000005ac3bc6e64"
+     "756e6720f09f9a97203235322e36000000000100140000005072c3bc667374616e6420e282ac203235322e37",
+     "010200000001ffffffff020000000100000080140000005072c3bc667374616e6420e282ac203235322e3101"
+     "ffffff7f14000000e697a5e69cace8aa9e20f09d849e203235322e32120000004bc3bc686c657209f09f94a7"
+     "203235322e3302000000010e0000007361792022c3a922203235322e34010000000000008001130000006261"
+     "636b5c736c61736820c39f203235322e35ffffffffffffffff013b2b425b00000000130000005ac3bc6e6475"
+     "6e6720f09f9a97203235322e36000000000100140000005072c3bc667374616e6420e282ac203235322e37",
+     0},
+    {"sparse", "[]", "[]",
+     "{\"processes\":[{\"value\":4294967295,\"items1\":[],\"text\":\"\",\"items2\":[]}],\"flag"
+     "1\":true,\"flag2\":false,\"text\":\"\"}",
+     "{\"processes\":[{\"value\":4294967295,\"items1\":null,\"itemCount1\":0,\"text\":\"\",\"i"
+     "tems2\":null,\"itemCount2\":0}],\"processCount\":1,\"flag1\":1,\"flag2\":0,\"text\":\"\""
+     "}",
+     "", "", "[]", "[]", "01010100000001ffffffff000000000000000000000000010000000000",
+     "010100000001ffffffff000000000000000000000000010000000000", 0},
+    {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
+};
+
+struct GetProcessInfoExport {
+    static constexpr const char* operation = "getProcessInfo";
+    using Result = kc::RecordResult<ProcessInfo, release_ProcessInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getProcessInfo(api, error, &out.data);
+    }
+};
+
+TEST_F(Projects, getProcessInfo_Exchange) {
+    kc::exchange<GetProcessInfoExport>(api, kGetProcessInfoCases);
 }
+TEST_F(Projects, getProcessInfo_Failure) {
+    kc::failure<GetProcessInfoExport>(api, kGetProcessInfoCases);
+}
+
+const kc::Number kNumber59{59, "getProcessInfo", kGetProcessInfoCases};
+
+TEST_F(ProjectsByNumber, n59_getProcessInfo_KelCall) { kc::kelCall(api, kNumber59); }
+TEST_F(ProjectsByNumber, n59_getProcessInfo_PyCall) { kc::pyCall(api, kNumber59); }
+TEST_F(ProjectsByNumber, n59_getProcessInfo_Failure) { kc::numberFailure(api, kNumber59); }
 
 // ---- getTransmissionInfo (position 253, number 60) ----
 
@@ -1530,6 +2187,22 @@ const kc::Case kGetTransmissionInfoCases[] = {
      "010100000000000080ffffffffffffffff000000000100000071c9425b00000000", 0},
     {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
 };
+
+struct GetTransmissionInfoExport {
+    static constexpr const char* operation = "getTransmissionInfo";
+    using Result = kc::RecordResult<TransmissionInfo, release_TransmissionInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getTransmissionInfo(api, error, &out.data);
+    }
+};
+
+TEST_F(Projects, getTransmissionInfo_Exchange) {
+    kc::exchange<GetTransmissionInfoExport>(api, kGetTransmissionInfoCases);
+}
+TEST_F(Projects, getTransmissionInfo_Failure) {
+    kc::failure<GetTransmissionInfoExport>(api, kGetTransmissionInfoCases);
+}
 
 const kc::Number kNumber60{60, "getTransmissionInfo", kGetTransmissionInfoCases};
 
@@ -1584,6 +2257,22 @@ const kc::Case kGetMoxConfigurationCases[] = {
      0},
     {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
 };
+
+struct GetMoxConfigurationExport {
+    static constexpr const char* operation = "getMoxConfiguration";
+    using Result = kc::RecordResult<MoxConfig, release_MoxConfig>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getMoxConfiguration(api, error, &out.data);
+    }
+};
+
+TEST_F(Projects, getMoxConfiguration_Exchange) {
+    kc::exchange<GetMoxConfigurationExport>(api, kGetMoxConfigurationCases);
+}
+TEST_F(Projects, getMoxConfiguration_Failure) {
+    kc::failure<GetMoxConfigurationExport>(api, kGetMoxConfigurationCases);
+}
 
 const kc::Number kNumber62{62, "getMoxConfiguration", kGetMoxConfigurationCases};
 
@@ -1645,6 +2334,22 @@ const kc::Case kSetMoxConfigurationCases[] = {
      "[null]", "01", "", 0},
 };
 
+struct SetMoxConfigurationExport {
+    static constexpr const char* operation = "setMoxConfiguration";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_setMoxConfiguration(api, error, kc::record<MoxConfig>(in[0]));
+    }
+};
+
+TEST_F(Projects, setMoxConfiguration_Exchange) {
+    kc::exchange<SetMoxConfigurationExport>(api, kSetMoxConfigurationCases);
+}
+TEST_F(Projects, setMoxConfiguration_Failure) {
+    kc::failure<SetMoxConfigurationExport>(api, kSetMoxConfigurationCases);
+}
+
 const kc::Number kNumber101{101, "setMoxConfiguration", kSetMoxConfigurationCases};
 
 TEST_F(ProjectsByNumber, n101_setMoxConfiguration_KelCall) { kc::kelCall(api, kNumber101); }
@@ -1652,12 +2357,1407 @@ TEST_F(ProjectsByNumber, n101_setMoxConfiguration_PyCall) { kc::pyCall(api, kNum
 TEST_F(ProjectsByNumber, n101_setMoxConfiguration_Failure) { kc::numberFailure(api, kNumber101); }
 TEST_F(ProjectsByNumber, n101_setMoxConfiguration_ShortInput) { kc::shortInput(api, kNumber101); }
 
-TEST_F(ProjectsByNumber, n78_getGlobalProtocolParameterSets_NotAvailable) {
-    kc::notAvailable(api, 78, "getGlobalProtocolParameterSets");
+// ---- getGlobalProtocolParameterSets (position 260, number 78) ----
+
+const kc::Case kGetGlobalProtocolParameterSetsCases[] = {
+    {"full", "[]", "[]",
+     "[{\"text1\":\"Pr\303\274fstand \342\202\254 260.1\",\"text2\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 260.2\",\"text3\":\"K\303\274hler\\u0009\360\237\224\247 2"
+     "60.3\",\"text4\":\"say \\\"\303\251\\\" 260.4\",\"parameters\":[{\"itemText1\":\"back\\"
+     "\\slash \303\237 260.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 260.6\",\"itemT"
+     "ext3\":\"Pr\303\274fstand \342\202\254 260.7\",\"itemText4\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 260.8\",\"value\":\"K\303\274hler\\u0009\360\237\224\247 2"
+     "60.9\",\"defaultValue\":\"say \\\"\303\251\\\" 260.10\",\"infos\":[{\"itemText1\":\"back"
+     "\\\\slash \303\237 260.11\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 260.12\",\"i"
+     "temText3\":\"Pr\303\274fstand \342\202\254 260.13\",\"itemText4\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 260.14\",\"text1\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 260.15\",\"text2\":\"say \\\"\303\251\\\" 260.16\",\"text3\":\"back\\\\slash \303"
+     "\237 260.17\",\"value1\":-2147483648,\"text4\":\"Z\303\274ndung \360\237\232\227 260.18"
+     "\",\"children\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 260.19\",\"itemText2\":"
+     "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.20\",\"itemText3\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 260.21\",\"itemText4\":\"say \\\"\303\251\\\" 260.22\","
+     "\"text1\":\"back\\\\slash \303\237 260.23\",\"text2\":\"Z\303\274ndung \360\237\232\227 "
+     "260.24\",\"text3\":\"Pr\303\274fstand \342\202\254 260.25\",\"value1\":2147483647,\"text"
+     "4\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.26\",\"children\":[{\"it"
+     "emText1\":\"K\303\274hler\\u0009\360\237\224\247 260.27\",\"itemText2\":\"say \\\"\303"
+     "\251\\\" 260.28\",\"itemText3\":\"back\\\\slash \303\237 260.29\",\"itemText4\":\"Z\303"
+     "\274ndung \360\237\232\227 260.30\",\"text1\":\"Pr\303\274fstand \342\202\254 260.31\","
+     "\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.32\",\"text3\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 260.33\",\"value1\":-1,\"text4\":\"say \\\"\303\251"
+     "\\\" 260.34\",\"children\":[],\"text5\":\"back\\\\slash \303\237 260.35\",\"names\":[\"Z"
+     "\303\274ndung \360\237\232\227 260.36\",\"Pr\303\274fstand \342\202\254 260.37\"],\"flag"
+     "1\":true,\"value2\":-65536,\"error\":null,\"flag2\":false,\"values\":[4294967295,2147483"
+     "648,2147483647,1531387123,2038339237,397807703,904759817,1411711931],\"flag3\":true,\"co"
+     "nstraint1\":null,\"constraint2\":null,\"text6\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 260.38\",\"text7\":\"K\303\274hler\\u0009\360\237\224\247 260.39\",\"fl"
+     "ag4\":false,\"unit\":null},{\"itemText1\":\"say \\\"\303\251\\\" 260.40\",\"itemText2\":"
+     "\"back\\\\slash \303\237 260.41\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 260.42"
+     "\",\"itemText4\":\"Pr\303\274fstand \342\202\254 260.43\",\"text1\":\"\346\227\245\346"
+     "\234\254\350\252\236 \360\235\204\236 260.44\",\"text2\":\"K\303\274hler\\u0009\360\237"
+     "\224\247 260.45\",\"text3\":\"say \\\"\303\251\\\" 260.46\",\"value1\":2038339237,\"text"
+     "4\":\"back\\\\slash \303\237 260.47\",\"children\":[],\"text5\":\"Z\303\274ndung \360"
+     "\237\232\227 260.48\",\"names\":[\"Pr\303\274fstand \342\202\254 260.49\",\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 260.50\"],\"flag1\":true,\"value2\":-397807703"
+     ",\"error\":null,\"flag2\":false,\"values\":[1918664045,278132513,785084627,1292036741,17"
+     "98988855,158457321,665409435,1172361549],\"flag3\":true,\"constraint1\":null,\"constrain"
+     "t2\":null,\"text6\":\"K\303\274hler\\u0009\360\237\224\247 260.51\",\"text7\":\"say \\\""
+     "\303\251\\\" 260.52\",\"flag4\":false,\"unit\":null}],\"text5\":\"back\\\\slash \303\237"
+     " 260.53\",\"names\":[\"Z\303\274ndung \360\237\232\227 260.54\",\"Pr\303\274fstand \342"
+     "\202\254 260.55\"],\"flag1\":true,\"value2\":904759817,\"error\":{\"code\":-1411711931,"
+     "\"message\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.56\",\"details\""
+     ":\"K\303\274hler\\u0009\360\237\224\247 260.57\",\"subCode\":1918664045,\"mvciError\":nu"
+     "ll,\"negativeResponse\":null},\"flag2\":false,\"values\":[1679313663,38782131,545734245,"
+     "1052686359,1559638473,2066590587,426059053,933011167],\"flag3\":true,\"constraint1\":{\""
+     "text1\":\"say \\\"\303\251\\\" 260.58\",\"text2\":\"back\\\\slash \303\237 260.59\",\"fl"
+     "ag\":false,\"scales\":[]},\"constraint2\":{\"text1\":\"Z\303\274ndung \360\237\232\227 2"
+     "60.60\",\"text2\":\"Pr\303\274fstand \342\202\254 260.61\",\"flag\":true,\"scales\":[]},"
+     "\"text6\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.62\",\"text7\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 260.63\",\"flag4\":false,\"unit\":{\"values\":[14399"
+     "63281,1946915395,306383863,813335977,1320288091,1827240205,186708671],\"value1\":9223372"
+     "036854775809,\"flag1\":true,\"value2\":18446744073709551615,\"flag2\":false}},{\"itemTex"
+     "t1\":\"say \\\"\303\251\\\" 260.64\",\"itemText2\":\"back\\\\slash \303\237 260.65\",\"i"
+     "temText3\":\"Z\303\274ndung \360\237\232\227 260.66\",\"itemText4\":\"Pr\303\274fstand "
+     "\342\202\254 260.67\",\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 "
+     "260.68\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 260.69\",\"text3\":\"say \\\""
+     "\303\251\\\" 260.70\",\"value1\":-278132513,\"text4\":\"back\\\\slash \303\237 260.71\","
+     "\"children\":[],\"text5\":\"Z\303\274ndung \360\237\232\227 260.72\",\"names\":[\"Pr\303"
+     "\274fstand \342\202\254 260.73\",\"\346\227\245\346\234\254\350\252\236 \360\235\204\236"
+     " 260.74\"],\"flag1\":true,\"value2\":785084627,\"error\":null,\"flag2\":false,\"values\""
+     ":[693660785,1200612899,1707565013,67033481,573985595,1080937709,1587889823,2094841937],"
+     "\"flag3\":true,\"constraint1\":null,\"constraint2\":null,\"text6\":\"K\303\274hler\\u000"
+     "9\360\237\224\247 260.75\",\"text7\":\"say \\\"\303\251\\\" 260.76\",\"flag4\":false,\"u"
+     "nit\":null}],\"text5\":\"back\\\\slash \303\237 260.77\",\"names\":[\"Z\303\274ndung "
+     "\360\237\232\227 260.78\",\"Pr\303\274fstand \342\202\254 260.79\"],\"flag1\":true,\"val"
+     "ue2\":-1292036741,\"error\":{\"code\":1798988855,\"message\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 260.80\",\"details\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 260.81\",\"subCode\":-158457321,\"mvciError\":{\"code\":665409435,\"codeText\":\"sa"
+     "y \\\"\303\251\\\" 260.82\",\"vendorCode\":-1172361549,\"vendorCodeText\":\"back\\\\slas"
+     "h \303\237 260.83\",\"extraText\":\"Z\303\274ndung \360\237\232\227 260.84\",\"extraCode"
+     "\":1679313663},\"negativeResponse\":{\"code\":-38782131,\"text\":\"Pr\303\274fstand \342"
+     "\202\254 260.85\",\"value1\":4294967296,\"value2\":1531387123,\"bytes\":[0,255,255,128]}"
+     "},\"flag2\":false,\"values\":[454310403,961262517,1468214631,1975166745,334635213,841587"
+     "327,1348539441,1855491555],\"flag3\":true,\"constraint1\":{\"text1\":\"\346\227\245\346"
+     "\234\254\350\252\236 \360\235\204\236 260.86\",\"text2\":\"K\303\274hler\\u0009\360\237"
+     "\224\247 260.87\",\"flag\":false,\"scales\":[{\"itemText1\":\"say \\\"\303\251\\\" 260.8"
+     "8\",\"itemText2\":\"back\\\\slash \303\237 260.89\",\"itemText3\":\"Z\303\274ndung \360"
+     "\237\232\227 260.90\",\"itemText4\":\"Pr\303\274fstand \342\202\254 260.91\",\"text1\":"
+     "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.92\",\"text2\":\"K\303\274hl"
+     "er\\u0009\360\237\224\247 260.93\",\"flag\":true,\"value\":545734245},{\"itemText1\":\"s"
+     "ay \\\"\303\251\\\" 260.94\",\"itemText2\":\"back\\\\slash \303\237 260.95\",\"itemText3"
+     "\":\"Z\303\274ndung \360\237\232\227 260.96\",\"itemText4\":\"Pr\303\274fstand \342\202"
+     "\254 260.97\",\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.98\""
+     ",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 260.99\",\"flag\":false,\"value\":-105"
+     "2686359}]},\"constraint2\":{\"text1\":\"say \\\"\303\251\\\" 260.100\",\"text2\":\"back"
+     "\\\\slash \303\237 260.101\",\"flag\":true,\"scales\":[{\"itemText1\":\"Z\303\274ndung "
+     "\360\237\232\227 260.102\",\"itemText2\":\"Pr\303\274fstand \342\202\254 260.103\",\"ite"
+     "mText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.104\",\"itemText4\""
+     ":\"K\303\274hler\\u0009\360\237\224\247 260.105\",\"text1\":\"say \\\"\303\251\\\" 260.1"
+     "06\",\"text2\":\"back\\\\slash \303\237 260.107\",\"flag\":false,\"value\":1559638473},{"
+     "\"itemText1\":\"Z\303\274ndung \360\237\232\227 260.108\",\"itemText2\":\"Pr\303\274fsta"
+     "nd \342\202\254 260.109\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 260.110\",\"itemText4\":\"K\303\274hler\\u0009\360\237\224\247 260.111\",\"text"
+     "1\":\"say \\\"\303\251\\\" 260.112\",\"text2\":\"back\\\\slash \303\237 260.113\",\"flag"
+     "\":true,\"value\":-2066590587}]},\"text6\":\"Z\303\274ndung \360\237\232\227 260.114\","
+     "\"text7\":\"Pr\303\274fstand \342\202\254 260.115\",\"flag4\":false,\"unit\":{\"values\""
+     ":[214960021,721912135,1228864249,1735816363,95284831,602236945,1109189059],\"value1\":20"
+     "38339237,\"flag1\":true,\"value2\":397807703,\"flag2\":false}},{\"itemText1\":\"\346\227"
+     "\245\346\234\254\350\252\236 \360\235\204\236 260.116\",\"itemText2\":\"K\303\274hler\\u"
+     "0009\360\237\224\247 260.117\",\"itemText3\":\"say \\\"\303\251\\\" 260.118\",\"itemText"
+     "4\":\"back\\\\slash \303\237 260.119\",\"text1\":\"Z\303\274ndung \360\237\232\227 260.1"
+     "20\",\"text2\":\"Pr\303\274fstand \342\202\254 260.121\",\"text3\":\"\346\227\245\346"
+     "\234\254\350\252\236 \360\235\204\236 260.122\",\"value1\":426059053,\"text4\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 260.123\",\"children\":[],\"text5\":\"say \\\"\303\251\\"
+     "\" 260.124\",\"names\":[\"back\\\\slash \303\237 260.125\",\"Z\303\274ndung \360\237\232"
+     "\227 260.126\"],\"flag1\":true,\"value2\":-933011167,\"error\":null,\"flag2\":false,\"va"
+     "lues\":[1616141173,2123093287,482561753,989513867,1496465981,2003418095,362886563,869838"
+     "677],\"flag3\":true,\"constraint1\":null,\"constraint2\":null,\"text6\":\"Pr\303\274fsta"
+     "nd \342\202\254 260.127\",\"text7\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+     "\236 260.128\",\"flag4\":false,\"unit\":null}],\"choices\":[\"K\303\274hler\\u0009\360"
+     "\237\224\247 260.129\",\"say \\\"\303\251\\\" 260.130\"],\"error\":{\"code\":1439963281,"
+     "\"message\":\"back\\\\slash \303\237 260.131\",\"details\":\"Z\303\274ndung \360\237\232"
+     "\227 260.132\",\"subCode\":-1946915395,\"mvciError\":{\"code\":306383863,\"codeText\":\""
+     "Pr\303\274fstand \342\202\254 260.133\",\"vendorCode\":-813335977,\"vendorCodeText\":\""
+     "\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.134\",\"extraText\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 260.135\",\"extraCode\":1320288091},\"negativeResponse\""
+     ":{\"code\":-1827240205,\"text\":\"say \\\"\303\251\\\" 260.136\",\"value1\":904759817,\""
+     "value2\":1411711931,\"bytes\":[0,255,127,1]}},\"constraints\":[{\"text1\":\"back\\\\slas"
+     "h \303\237 260.137\",\"text2\":\"Z\303\274ndung \360\237\232\227 260.138\",\"flag\":true"
+     ",\"scales\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 260.139\",\"itemText2\":\""
+     "\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.140\",\"itemText3\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 260.141\",\"itemText4\":\"say \\\"\303\251\\\" 260.142\""
+     ",\"text1\":\"back\\\\slash \303\237 260.143\",\"text2\":\"Z\303\274ndung \360\237\232"
+     "\227 260.144\",\"flag\":false,\"value\":186708671},{\"itemText1\":\"Pr\303\274fstand "
+     "\342\202\254 260.145\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+     "\236 260.146\",\"itemText3\":\"K\303\274hler\\u0009\360\237\224\247 260.147\",\"itemText"
+     "4\":\"say \\\"\303\251\\\" 260.148\",\"text1\":\"back\\\\slash \303\237 260.149\",\"text"
+     "2\":\"Z\303\274ndung \360\237\232\227 260.150\",\"flag\":true,\"value\":-693660785}]},{"
+     "\"text1\":\"Pr\303\274fstand \342\202\254 260.151\",\"text2\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 260.152\",\"flag\":false,\"scales\":[]}],\"tcp\":{\"value1"
+     "\":49,\"value2\":51,\"value3\":34,\"value4\":1376790791,\"value5\":1883742905,\"value6\""
+     ":243211371},\"value1\":750163485,\"flag\":true},{\"itemText1\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 260.153\",\"itemText2\":\"say \\\"\303\251\\\" 260.154\",\"itemText3\":"
+     "\"back\\\\slash \303\237 260.155\",\"itemText4\":\"Z\303\274ndung \360\237\232\227 260.1"
+     "56\",\"value\":\"Pr\303\274fstand \342\202\254 260.157\",\"defaultValue\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 260.158\",\"infos\":[],\"choices\":[\"K\303"
+     "\274hler\\u0009\360\237\224\247 260.159\",\"say \\\"\303\251\\\" 260.160\"],\"error\":nu"
+     "ll,\"constraints\":[],\"tcp\":null,\"value1\":1257115599,\"flag\":false}]},{\"text1\":\""
+     "back\\\\slash \303\237 260.161\",\"text2\":\"Z\303\274ndung \360\237\232\227 260.162\","
+     "\"text3\":\"Pr\303\274fstand \342\202\254 260.163\",\"text4\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 260.164\",\"parameters\":[]}]",
+     "[{\"text1\":\"Pr\303\274fstand \342\202\254 260.1\",\"text2\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 260.2\",\"text3\":\"K\303\274hler\\u0009\360\237\224\247 2"
+     "60.3\",\"text4\":\"say \\\"\303\251\\\" 260.4\",\"parameters\":[{\"itemText1\":\"back\\"
+     "\\slash \303\237 260.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 260.6\",\"itemT"
+     "ext3\":\"Pr\303\274fstand \342\202\254 260.7\",\"itemText4\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 260.8\",\"value\":\"K\303\274hler\\u0009\360\237\224\247 2"
+     "60.9\",\"defaultValue\":\"say \\\"\303\251\\\" 260.10\",\"infos\":[{\"itemText1\":\"back"
+     "\\\\slash \303\237 260.11\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 260.12\",\"i"
+     "temText3\":\"Pr\303\274fstand \342\202\254 260.13\",\"itemText4\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 260.14\",\"text1\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 260.15\",\"text2\":\"say \\\"\303\251\\\" 260.16\",\"text3\":\"back\\\\slash \303"
+     "\237 260.17\",\"value1\":-2147483648,\"text4\":\"Z\303\274ndung \360\237\232\227 260.18"
+     "\",\"children\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 260.19\",\"itemText2\":"
+     "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.20\",\"itemText3\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 260.21\",\"itemText4\":\"say \\\"\303\251\\\" 260.22\","
+     "\"text1\":\"back\\\\slash \303\237 260.23\",\"text2\":\"Z\303\274ndung \360\237\232\227 "
+     "260.24\",\"text3\":\"Pr\303\274fstand \342\202\254 260.25\",\"value1\":2147483647,\"text"
+     "4\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.26\",\"children\":[{\"it"
+     "emText1\":\"K\303\274hler\\u0009\360\237\224\247 260.27\",\"itemText2\":\"say \\\"\303"
+     "\251\\\" 260.28\",\"itemText3\":\"back\\\\slash \303\237 260.29\",\"itemText4\":\"Z\303"
+     "\274ndung \360\237\232\227 260.30\",\"text1\":\"Pr\303\274fstand \342\202\254 260.31\","
+     "\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.32\",\"text3\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 260.33\",\"value1\":-1,\"text4\":\"say \\\"\303\251"
+     "\\\" 260.34\",\"children\":null,\"childCount\":0,\"text5\":\"back\\\\slash \303\237 260."
+     "35\",\"names\":[\"Z\303\274ndung \360\237\232\227 260.36\",\"Pr\303\274fstand \342\202"
+     "\254 260.37\"],\"nameCount\":2,\"flag1\":1,\"value2\":-65536,\"error\":null,\"flag2\":0,"
+     "\"values\":[4294967295,2147483648,2147483647,1531387123,2038339237,397807703,904759817,1"
+     "411711931],\"flag3\":1,\"constraint1\":null,\"constraint2\":null,\"text6\":\"\346\227"
+     "\245\346\234\254\350\252\236 \360\235\204\236 260.38\",\"text7\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 260.39\",\"flag4\":0,\"unit\":null},{\"itemText1\":\"say \\\"\303\251\\"
+     "\" 260.40\",\"itemText2\":\"back\\\\slash \303\237 260.41\",\"itemText3\":\"Z\303\274ndu"
+     "ng \360\237\232\227 260.42\",\"itemText4\":\"Pr\303\274fstand \342\202\254 260.43\",\"te"
+     "xt1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.44\",\"text2\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 260.45\",\"text3\":\"say \\\"\303\251\\\" 260.46\",\"val"
+     "ue1\":2038339237,\"text4\":\"back\\\\slash \303\237 260.47\",\"children\":null,\"childCo"
+     "unt\":0,\"text5\":\"Z\303\274ndung \360\237\232\227 260.48\",\"names\":[\"Pr\303\274fsta"
+     "nd \342\202\254 260.49\",\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.50"
+     "\"],\"nameCount\":2,\"flag1\":1,\"value2\":-397807703,\"error\":null,\"flag2\":0,\"value"
+     "s\":[1918664045,278132513,785084627,1292036741,1798988855,158457321,665409435,1172361549"
+     "],\"flag3\":1,\"constraint1\":null,\"constraint2\":null,\"text6\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 260.51\",\"text7\":\"say \\\"\303\251\\\" 260.52\",\"flag4\":0,\"unit\""
+     ":null}],\"childCount\":2,\"text5\":\"back\\\\slash \303\237 260.53\",\"names\":[\"Z\303"
+     "\274ndung \360\237\232\227 260.54\",\"Pr\303\274fstand \342\202\254 260.55\"],\"nameCoun"
+     "t\":2,\"flag1\":1,\"value2\":904759817,\"error\":{\"code\":-1411711931,\"message\":\""
+     "\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.56\",\"details\":\"K\303\274hl"
+     "er\\u0009\360\237\224\247 260.57\",\"subCode\":1918664045,\"mvciError\":null,\"negativeR"
+     "esponse\":null},\"flag2\":0,\"values\":[1679313663,38782131,545734245,1052686359,1559638"
+     "473,2066590587,426059053,933011167],\"flag3\":1,\"constraint1\":{\"text1\":\"say \\\""
+     "\303\251\\\" 260.58\",\"text2\":\"back\\\\slash \303\237 260.59\",\"flag\":0,\"scales\":"
+     "null,\"scaleCount\":0},\"constraint2\":{\"text1\":\"Z\303\274ndung \360\237\232\227 260."
+     "60\",\"text2\":\"Pr\303\274fstand \342\202\254 260.61\",\"flag\":1,\"scales\":null,\"sca"
+     "leCount\":0},\"text6\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.62\","
+     "\"text7\":\"K\303\274hler\\u0009\360\237\224\247 260.63\",\"flag4\":0,\"unit\":{\"values"
+     "\":[1439963281,1946915395,306383863,813335977,1320288091,1827240205,186708671],\"value1"
+     "\":9223372036854775809,\"flag1\":1,\"value2\":18446744073709551615,\"flag2\":0}},{\"item"
+     "Text1\":\"say \\\"\303\251\\\" 260.64\",\"itemText2\":\"back\\\\slash \303\237 260.65\","
+     "\"itemText3\":\"Z\303\274ndung \360\237\232\227 260.66\",\"itemText4\":\"Pr\303\274fstan"
+     "d \342\202\254 260.67\",\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+     "\236 260.68\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 260.69\",\"text3\":\"say "
+     "\\\"\303\251\\\" 260.70\",\"value1\":-278132513,\"text4\":\"back\\\\slash \303\237 260.7"
+     "1\",\"children\":null,\"childCount\":0,\"text5\":\"Z\303\274ndung \360\237\232\227 260.7"
+     "2\",\"names\":[\"Pr\303\274fstand \342\202\254 260.73\",\"\346\227\245\346\234\254\350"
+     "\252\236 \360\235\204\236 260.74\"],\"nameCount\":2,\"flag1\":1,\"value2\":785084627,\"e"
+     "rror\":null,\"flag2\":0,\"values\":[693660785,1200612899,1707565013,67033481,573985595,1"
+     "080937709,1587889823,2094841937],\"flag3\":1,\"constraint1\":null,\"constraint2\":null,"
+     "\"text6\":\"K\303\274hler\\u0009\360\237\224\247 260.75\",\"text7\":\"say \\\"\303\251\\"
+     "\" 260.76\",\"flag4\":0,\"unit\":null}],\"childCount\":2,\"text5\":\"back\\\\slash \303"
+     "\237 260.77\",\"names\":[\"Z\303\274ndung \360\237\232\227 260.78\",\"Pr\303\274fstand "
+     "\342\202\254 260.79\"],\"nameCount\":2,\"flag1\":1,\"value2\":-1292036741,\"error\":{\"c"
+     "ode\":1798988855,\"message\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260"
+     ".80\",\"details\":\"K\303\274hler\\u0009\360\237\224\247 260.81\",\"subCode\":-158457321"
+     ",\"mvciError\":{\"code\":665409435,\"codeText\":\"say \\\"\303\251\\\" 260.82\",\"vendor"
+     "Code\":-1172361549,\"vendorCodeText\":\"back\\\\slash \303\237 260.83\",\"extraText\":\""
+     "Z\303\274ndung \360\237\232\227 260.84\",\"extraCode\":1679313663},\"negativeResponse\":"
+     "{\"code\":-38782131,\"text\":\"Pr\303\274fstand \342\202\254 260.85\",\"value1\":4294967"
+     "296,\"value2\":1531387123,\"bytes\":[0,255,255,128],\"byteCount\":4}},\"flag2\":0,\"valu"
+     "es\":[454310403,961262517,1468214631,1975166745,334635213,841587327,1348539441,185549155"
+     "5],\"flag3\":1,\"constraint1\":{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360"
+     "\235\204\236 260.86\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 260.87\",\"flag\""
+     ":0,\"scales\":[{\"itemText1\":\"say \\\"\303\251\\\" 260.88\",\"itemText2\":\"back\\\\sl"
+     "ash \303\237 260.89\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 260.90\",\"itemTex"
+     "t4\":\"Pr\303\274fstand \342\202\254 260.91\",\"text1\":\"\346\227\245\346\234\254\350"
+     "\252\236 \360\235\204\236 260.92\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 260."
+     "93\",\"flag\":1,\"value\":545734245},{\"itemText1\":\"say \\\"\303\251\\\" 260.94\",\"it"
+     "emText2\":\"back\\\\slash \303\237 260.95\",\"itemText3\":\"Z\303\274ndung \360\237\232"
+     "\227 260.96\",\"itemText4\":\"Pr\303\274fstand \342\202\254 260.97\",\"text1\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 260.98\",\"text2\":\"K\303\274hler\\u0"
+     "009\360\237\224\247 260.99\",\"flag\":0,\"value\":-1052686359}],\"scaleCount\":2},\"cons"
+     "traint2\":{\"text1\":\"say \\\"\303\251\\\" 260.100\",\"text2\":\"back\\\\slash \303\237"
+     " 260.101\",\"flag\":1,\"scales\":[{\"itemText1\":\"Z\303\274ndung \360\237\232\227 260.1"
+     "02\",\"itemText2\":\"Pr\303\274fstand \342\202\254 260.103\",\"itemText3\":\"\346\227"
+     "\245\346\234\254\350\252\236 \360\235\204\236 260.104\",\"itemText4\":\"K\303\274hler\\u"
+     "0009\360\237\224\247 260.105\",\"text1\":\"say \\\"\303\251\\\" 260.106\",\"text2\":\"ba"
+     "ck\\\\slash \303\237 260.107\",\"flag\":0,\"value\":1559638473},{\"itemText1\":\"Z\303"
+     "\274ndung \360\237\232\227 260.108\",\"itemText2\":\"Pr\303\274fstand \342\202\254 260.1"
+     "09\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.110\",\"i"
+     "temText4\":\"K\303\274hler\\u0009\360\237\224\247 260.111\",\"text1\":\"say \\\"\303\251"
+     "\\\" 260.112\",\"text2\":\"back\\\\slash \303\237 260.113\",\"flag\":1,\"value\":-206659"
+     "0587}],\"scaleCount\":2},\"text6\":\"Z\303\274ndung \360\237\232\227 260.114\",\"text7\""
+     ":\"Pr\303\274fstand \342\202\254 260.115\",\"flag4\":0,\"unit\":{\"values\":[214960021,7"
+     "21912135,1228864249,1735816363,95284831,602236945,1109189059],\"value1\":2038339237,\"fl"
+     "ag1\":1,\"value2\":397807703,\"flag2\":0}},{\"itemText1\":\"\346\227\245\346\234\254\350"
+     "\252\236 \360\235\204\236 260.116\",\"itemText2\":\"K\303\274hler\\u0009\360\237\224\247"
+     " 260.117\",\"itemText3\":\"say \\\"\303\251\\\" 260.118\",\"itemText4\":\"back\\\\slash "
+     "\303\237 260.119\",\"text1\":\"Z\303\274ndung \360\237\232\227 260.120\",\"text2\":\"Pr"
+     "\303\274fstand \342\202\254 260.121\",\"text3\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 260.122\",\"value1\":426059053,\"text4\":\"K\303\274hler\\u0009\360\237"
+     "\224\247 260.123\",\"children\":null,\"childCount\":0,\"text5\":\"say \\\"\303\251\\\" 2"
+     "60.124\",\"names\":[\"back\\\\slash \303\237 260.125\",\"Z\303\274ndung \360\237\232\227"
+     " 260.126\"],\"nameCount\":2,\"flag1\":1,\"value2\":-933011167,\"error\":null,\"flag2\":0"
+     ",\"values\":[1616141173,2123093287,482561753,989513867,1496465981,2003418095,362886563,8"
+     "69838677],\"flag3\":1,\"constraint1\":null,\"constraint2\":null,\"text6\":\"Pr\303\274fs"
+     "tand \342\202\254 260.127\",\"text7\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 260.128\",\"flag4\":0,\"unit\":null}],\"infoCount\":2,\"choices\":[\"K\303\274h"
+     "ler\\u0009\360\237\224\247 260.129\",\"say \\\"\303\251\\\" 260.130\"],\"choiceCount\":2"
+     ",\"error\":{\"code\":1439963281,\"message\":\"back\\\\slash \303\237 260.131\",\"details"
+     "\":\"Z\303\274ndung \360\237\232\227 260.132\",\"subCode\":-1946915395,\"mvciError\":{\""
+     "code\":306383863,\"codeText\":\"Pr\303\274fstand \342\202\254 260.133\",\"vendorCode\":-"
+     "813335977,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260"
+     ".134\",\"extraText\":\"K\303\274hler\\u0009\360\237\224\247 260.135\",\"extraCode\":1320"
+     "288091},\"negativeResponse\":{\"code\":-1827240205,\"text\":\"say \\\"\303\251\\\" 260.1"
+     "36\",\"value1\":904759817,\"value2\":1411711931,\"bytes\":[0,255,127,1],\"byteCount\":4}"
+     "},\"constraints\":[{\"text1\":\"back\\\\slash \303\237 260.137\",\"text2\":\"Z\303\274nd"
+     "ung \360\237\232\227 260.138\",\"flag\":1,\"scales\":[{\"itemText1\":\"Pr\303\274fstand "
+     "\342\202\254 260.139\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+     "\236 260.140\",\"itemText3\":\"K\303\274hler\\u0009\360\237\224\247 260.141\",\"itemText"
+     "4\":\"say \\\"\303\251\\\" 260.142\",\"text1\":\"back\\\\slash \303\237 260.143\",\"text"
+     "2\":\"Z\303\274ndung \360\237\232\227 260.144\",\"flag\":0,\"value\":186708671},{\"itemT"
+     "ext1\":\"Pr\303\274fstand \342\202\254 260.145\",\"itemText2\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 260.146\",\"itemText3\":\"K\303\274hler\\u0009\360\237"
+     "\224\247 260.147\",\"itemText4\":\"say \\\"\303\251\\\" 260.148\",\"text1\":\"back\\\\sl"
+     "ash \303\237 260.149\",\"text2\":\"Z\303\274ndung \360\237\232\227 260.150\",\"flag\":1,"
+     "\"value\":-693660785}],\"scaleCount\":2},{\"text1\":\"Pr\303\274fstand \342\202\254 260."
+     "151\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 260.152\",\"flag"
+     "\":0,\"scales\":null,\"scaleCount\":0}],\"constraintCount\":2,\"tcp\":{\"value1\":49,\"v"
+     "alue2\":51,\"value3\":34,\"value4\":1376790791,\"value5\":1883742905,\"value6\":24321137"
+     "1},\"value1\":750163485,\"flag\":1},{\"itemText1\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 260.153\",\"itemText2\":\"say \\\"\303\251\\\" 260.154\",\"itemText3\":\"back\\\\sl"
+     "ash \303\237 260.155\",\"itemText4\":\"Z\303\274ndung \360\237\232\227 260.156\",\"value"
+     "\":\"Pr\303\274fstand \342\202\254 260.157\",\"defaultValue\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 260.158\",\"infos\":null,\"infoCount\":0,\"choices\":[\"K"
+     "\303\274hler\\u0009\360\237\224\247 260.159\",\"say \\\"\303\251\\\" 260.160\"],\"choice"
+     "Count\":2,\"error\":null,\"constraints\":null,\"constraintCount\":0,\"tcp\":null,\"value"
+     "1\":1257115599,\"flag\":0}],\"parameterCount\":2},{\"text1\":\"back\\\\slash \303\237 26"
+     "0.161\",\"text2\":\"Z\303\274ndung \360\237\232\227 260.162\",\"text3\":\"Pr\303\274fsta"
+     "nd \342\202\254 260.163\",\"text4\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+     "\236 260.164\",\"parameters\":null,\"parameterCount\":0}]",
+     "", "", "[]", "[]",
+     "010200000001140000005072c3bc667374616e6420e282ac203236302e3114000000e697a5e69cace8aa9e20"
+     "f09d849e203236302e32120000004bc3bc686c657209f09f94a7203236302e330e0000007361792022c3a922"
+     "203236302e340200000001130000006261636b5c736c61736820c39f203236302e35130000005ac3bc6e6475"
+     "6e6720f09f9a97203236302e36140000005072c3bc667374616e6420e282ac203236302e3714000000e697a5"
+     "e69cace8aa9e20f09d849e203236302e38120000004bc3bc686c657209f09f94a7203236302e390f00000073"
+     "61792022c3a922203236302e31300200000001140000006261636b5c736c61736820c39f203236302e313114"
+     "0000005ac3bc6e64756e6720f09f9a97203236302e3132150000005072c3bc667374616e6420e282ac203236"
+     "302e313315000000e697a5e69cace8aa9e20f09d849e203236302e3134130000004bc3bc686c657209f09f94"
+     "a7203236302e31350f0000007361792022c3a922203236302e3136140000006261636b5c736c61736820c39f"
+     "203236302e313700000080140000005ac3bc6e64756e6720f09f9a97203236302e3138020000000115000000"
+     "5072c3bc667374616e6420e282ac203236302e313915000000e697a5e69cace8aa9e20f09d849e203236302e"
+     "3230130000004bc3bc686c657209f09f94a7203236302e32310f0000007361792022c3a922203236302e3232"
+     "140000006261636b5c736c61736820c39f203236302e3233140000005ac3bc6e64756e6720f09f9a97203236"
+     "302e3234150000005072c3bc667374616e6420e282ac203236302e3235ffffff7f15000000e697a5e69cace8"
+     "aa9e20f09d849e203236302e32360200000001130000004bc3bc686c657209f09f94a7203236302e32370f00"
+     "00007361792022c3a922203236302e3238140000006261636b5c736c61736820c39f203236302e3239140000"
+     "005ac3bc6e64756e6720f09f9a97203236302e3330150000005072c3bc667374616e6420e282ac203236302e"
+     "333115000000e697a5e69cace8aa9e20f09d849e203236302e3332130000004bc3bc686c657209f09f94a720"
+     "3236302e3333ffffffff0f0000007361792022c3a922203236302e333400000000140000006261636b5c736c"
+     "61736820c39f203236302e333502000000140000005ac3bc6e64756e6720f09f9a97203236302e3336150000"
+     "005072c3bc667374616e6420e282ac203236302e3337010000ffff0000ffffffff00000080ffffff7ff31c47"
+     "5ba5967e795710b617098aed35bb03255401000015000000e697a5e69cace8aa9e20f09d849e203236302e33"
+     "38130000004bc3bc686c657209f09f94a7203236302e33390000010f0000007361792022c3a922203236302e"
+     "3430140000006261636b5c736c61736820c39f203236302e3431140000005ac3bc6e64756e6720f09f9a9720"
+     "3236302e3432150000005072c3bc667374616e6420e282ac203236302e343315000000e697a5e69cace8aa9e"
+     "20f09d849e203236302e3434130000004bc3bc686c657209f09f94a7203236302e34350f0000007361792022"
+     "c3a922203236302e3436a5967e79140000006261636b5c736c61736820c39f203236302e3437000000001400"
+     "00005ac3bc6e64756e6720f09f9a97203236302e343802000000150000005072c3bc667374616e6420e282ac"
+     "203236302e343915000000e697a5e69cace8aa9e20f09d849e203236302e353001a9ef49e800006d7d5c7221"
+     "f79310d370cb2e85ea024d37643a6be9dd71099b57a9274dd1e045010000130000004bc3bc686c657209f09f"
+     "94a7203236302e35310f0000007361792022c3a922203236302e35320000140000006261636b5c736c617368"
+     "20c39f203236302e353302000000140000005ac3bc6e64756e6720f09f9a97203236302e3534150000005072"
+     "c3bc667374616e6420e282ac203236302e353501098aed350145fcdaab15000000e697a5e69cace8aa9e20f0"
+     "9d849e203236302e3536130000004bc3bc686c657209f09f94a7203236302e35376d7d5c72000000ff4a1864"
+     "b3c44f02653e872017b8be3ec931f65c7bab2d7b2d256519df9e9c3701010f0000007361792022c3a9222032"
+     "36302e3538140000006261636b5c736c61736820c39f203236302e3539000000000001140000005ac3bc6e64"
+     "756e6720f09f9a97203236302e3630150000005072c3bc667374616e6420e282ac203236302e363101000000"
+     "0015000000e697a5e69cace8aa9e20f09d849e203236302e3632130000004bc3bc686c657209f09f94a72032"
+     "36302e363300019118d45543920b74f70b4312a9857a305bffb14e0d79e96cbff2200b010000000000008001"
+     "ffffffffffffffff00010f0000007361792022c3a922203236302e3634140000006261636b5c736c61736820"
+     "c39f203236302e3635140000005ac3bc6e64756e6720f09f9a97203236302e3636150000005072c3bc667374"
+     "616e6420e282ac203236302e363715000000e697a5e69cace8aa9e20f09d849e203236302e3638130000004b"
+     "c3bc686c657209f09f94a7203236302e36390f0000007361792022c3a922203236302e3730df086cef140000"
+     "006261636b5c736c61736820c39f203236302e373100000000140000005ac3bc6e64756e6720f09f9a972032"
+     "36302e373202000000150000005072c3bc667374616e6420e282ac203236302e373315000000e697a5e69cac"
+     "e8aa9e20f09d849e203236302e373401d370cb2e0000716c582923e68f47d55fc76589d9fe033b533622edcc"
+     "6d409f46a55e51c0dc7c010000130000004bc3bc686c657209f09f94a7203236302e37350f00000073617920"
+     "22c3a922203236302e37360000140000006261636b5c736c61736820c39f203236302e373702000000140000"
+     "005ac3bc6e64756e6720f09f9a97203236302e3738150000005072c3bc667374616e6420e282ac203236302e"
+     "3739017b15fdb20137643a6b15000000e697a5e69cace8aa9e20f09d849e203236302e3830130000004bc3bc"
+     "686c657209f09f94a7203236302e383117228ef6019b57a9270f0000007361792022c3a922203236302e3832"
+     "b32e1fba140000006261636b5c736c61736820c39f203236302e3833140000005ac3bc6e64756e6720f09f9a"
+     "97203236302e3834ff4a1864014d3bb0fd150000005072c3bc667374616e6420e282ac203236302e38350000"
+     "000001000000f31c475b000000000400000000ffff8000033a141bb5b34b39672d835719a7ba75cd20f2137f"
+     "9a293231146150e38d986e010115000000e697a5e69cace8aa9e20f09d849e203236302e3836130000004bc3"
+     "bc686c657209f09f94a7203236302e38370002000000010f0000007361792022c3a922203236302e38381400"
+     "00006261636b5c736c61736820c39f203236302e3839140000005ac3bc6e64756e6720f09f9a97203236302e"
+     "3930150000005072c3bc667374616e6420e282ac203236302e393115000000e697a5e69cace8aa9e20f09d84"
+     "9e203236302e3932130000004bc3bc686c657209f09f94a7203236302e393301653e8720010f000000736179"
+     "2022c3a922203236302e3934140000006261636b5c736c61736820c39f203236302e3935140000005ac3bc6e"
+     "64756e6720f09f9a97203236302e3936150000005072c3bc667374616e6420e282ac203236302e3937150000"
+     "00e697a5e69cace8aa9e20f09d849e203236302e3938130000004bc3bc686c657209f09f94a7203236302e39"
+     "3900e94741c101100000007361792022c3a922203236302e313030150000006261636b5c736c61736820c39f"
+     "203236302e313031010200000001150000005ac3bc6e64756e6720f09f9a97203236302e3130321600000050"
+     "72c3bc667374616e6420e282ac203236302e31303316000000e697a5e69cace8aa9e20f09d849e203236302e"
+     "313034140000004bc3bc686c657209f09f94a7203236302e313035100000007361792022c3a922203236302e"
+     "313036150000006261636b5c736c61736820c39f203236302e31303700c931f65c01150000005ac3bc6e6475"
+     "6e6720f09f9a97203236302e313038160000005072c3bc667374616e6420e282ac203236302e313039160000"
+     "00e697a5e69cace8aa9e20f09d849e203236302e313130140000004bc3bc686c657209f09f94a7203236302e"
+     "313131100000007361792022c3a922203236302e313132150000006261636b5c736c61736820c39f20323630"
+     "2e313133018554d284150000005ac3bc6e64756e6720f09f9a97203236302e313134160000005072c3bc6673"
+     "74616e6420e282ac203236302e31313500019507d00c4781072bf9fa3e49ab7476675feead051168e523c3e1"
+     "1c42a5967e7900000000015710b61700000000000116000000e697a5e69cace8aa9e20f09d849e203236302e"
+     "313136140000004bc3bc686c657209f09f94a7203236302e313137100000007361792022c3a922203236302e"
+     "313138150000006261636b5c736c61736820c39f203236302e313139150000005ac3bc6e64756e6720f09f9a"
+     "97203236302e313230160000005072c3bc667374616e6420e282ac203236302e31323116000000e697a5e69c"
+     "ace8aa9e20f09d849e203236302e3132322d256519140000004bc3bc686c657209f09f94a7203236302e3132"
+     "3300000000100000007361792022c3a922203236302e31323402000000150000006261636b5c736c61736820"
+     "c39f203236302e313235150000005ac3bc6e64756e6720f09f9a97203236302e31323601216163c80000755b"
+     "546027d58b7ed94ec31c8bc8fa3a3d423259efbb6977a335a11555afd833010000160000005072c3bc667374"
+     "616e6420e282ac203236302e31323716000000e697a5e69cace8aa9e20f09d849e203236302e313238000002"
+     "000000140000004bc3bc686c657209f09f94a7203236302e313239100000007361792022c3a922203236302e"
+     "313330019118d455150000006261636b5c736c61736820c39f203236302e313331150000005ac3bc6e64756e"
+     "6720f09f9a97203236302e313332bd6df48b01f70b4312160000005072c3bc667374616e6420e282ac203236"
+     "302e313333577a85cf16000000e697a5e69cace8aa9e20f09d849e203236302e313334140000004bc3bc686c"
+     "657209f09f94a7203236302e3133355bffb14e01f3861693100000007361792022c3a922203236302e313336"
+     "098aed3500000000bb032554000000000400000000ff7f010200000001150000006261636b5c736c61736820"
+     "c39f203236302e313337150000005ac3bc6e64756e6720f09f9a97203236302e313338010200000001160000"
+     "005072c3bc667374616e6420e282ac203236302e31333916000000e697a5e69cace8aa9e20f09d849e203236"
+     "302e313430140000004bc3bc686c657209f09f94a7203236302e313431100000007361792022c3a922203236"
+     "302e313432150000006261636b5c736c61736820c39f203236302e313433150000005ac3bc6e64756e6720f0"
+     "9f9a97203236302e31343400bff2200b01160000005072c3bc667374616e6420e282ac203236302e31343516"
+     "000000e697a5e69cace8aa9e20f09d849e203236302e313436140000004bc3bc686c657209f09f94a7203236"
+     "302e313437100000007361792022c3a922203236302e313438150000006261636b5c736c61736820c39f2032"
+     "36302e313439150000005ac3bc6e64756e6720f09f9a97203236302e313530018f93a7d601160000005072c3"
+     "bc667374616e6420e282ac203236302e31353116000000e697a5e69cace8aa9e20f09d849e203236302e3135"
+     "3200000000000131332207291052b9a247706b1c7f0e1d96b62c0101140000004bc3bc686c657209f09f94a7"
+     "203236302e313533100000007361792022c3a922203236302e313534150000006261636b5c736c61736820c3"
+     "9f203236302e313535150000005ac3bc6e64756e6720f09f9a97203236302e313536160000005072c3bc6673"
+     "74616e6420e282ac203236302e31353716000000e697a5e69cace8aa9e20f09d849e203236302e3135380000"
+     "000002000000140000004bc3bc686c657209f09f94a7203236302e313539100000007361792022c3a9222032"
+     "36302e313630000000000000cf0fee4a0001150000006261636b5c736c61736820c39f203236302e31363115"
+     "0000005ac3bc6e64756e6720f09f9a97203236302e313632160000005072c3bc667374616e6420e282ac2032"
+     "36302e31363316000000e697a5e69cace8aa9e20f09d849e203236302e31363400000000",
+     "0200000001140000005072c3bc667374616e6420e282ac203236302e3114000000e697a5e69cace8aa9e20f0"
+     "9d849e203236302e32120000004bc3bc686c657209f09f94a7203236302e330e0000007361792022c3a92220"
+     "3236302e340200000001130000006261636b5c736c61736820c39f203236302e35130000005ac3bc6e64756e"
+     "6720f09f9a97203236302e36140000005072c3bc667374616e6420e282ac203236302e3714000000e697a5e6"
+     "9cace8aa9e20f09d849e203236302e38120000004bc3bc686c657209f09f94a7203236302e390f0000007361"
+     "792022c3a922203236302e31300200000001140000006261636b5c736c61736820c39f203236302e31311400"
+     "00005ac3bc6e64756e6720f09f9a97203236302e3132150000005072c3bc667374616e6420e282ac20323630"
+     "2e313315000000e697a5e69cace8aa9e20f09d849e203236302e3134130000004bc3bc686c657209f09f94a7"
+     "203236302e31350f0000007361792022c3a922203236302e3136140000006261636b5c736c61736820c39f20"
+     "3236302e313700000080140000005ac3bc6e64756e6720f09f9a97203236302e313802000000011500000050"
+     "72c3bc667374616e6420e282ac203236302e313915000000e697a5e69cace8aa9e20f09d849e203236302e32"
+     "30130000004bc3bc686c657209f09f94a7203236302e32310f0000007361792022c3a922203236302e323214"
+     "0000006261636b5c736c61736820c39f203236302e3233140000005ac3bc6e64756e6720f09f9a9720323630"
+     "2e3234150000005072c3bc667374616e6420e282ac203236302e3235ffffff7f15000000e697a5e69cace8aa"
+     "9e20f09d849e203236302e32360200000001130000004bc3bc686c657209f09f94a7203236302e32370f0000"
+     "007361792022c3a922203236302e3238140000006261636b5c736c61736820c39f203236302e323914000000"
+     "5ac3bc6e64756e6720f09f9a97203236302e3330150000005072c3bc667374616e6420e282ac203236302e33"
+     "3115000000e697a5e69cace8aa9e20f09d849e203236302e3332130000004bc3bc686c657209f09f94a72032"
+     "36302e3333ffffffff0f0000007361792022c3a922203236302e333400000000140000006261636b5c736c61"
+     "736820c39f203236302e333502000000140000005ac3bc6e64756e6720f09f9a97203236302e333615000000"
+     "5072c3bc667374616e6420e282ac203236302e3337010000ffff0000ffffffff00000080ffffff7ff31c475b"
+     "a5967e795710b617098aed35bb03255401000015000000e697a5e69cace8aa9e20f09d849e203236302e3338"
+     "130000004bc3bc686c657209f09f94a7203236302e33390000010f0000007361792022c3a922203236302e34"
+     "30140000006261636b5c736c61736820c39f203236302e3431140000005ac3bc6e64756e6720f09f9a972032"
+     "36302e3432150000005072c3bc667374616e6420e282ac203236302e343315000000e697a5e69cace8aa9e20"
+     "f09d849e203236302e3434130000004bc3bc686c657209f09f94a7203236302e34350f0000007361792022c3"
+     "a922203236302e3436a5967e79140000006261636b5c736c61736820c39f203236302e343700000000140000"
+     "005ac3bc6e64756e6720f09f9a97203236302e343802000000150000005072c3bc667374616e6420e282ac20"
+     "3236302e343915000000e697a5e69cace8aa9e20f09d849e203236302e353001a9ef49e800006d7d5c7221f7"
+     "9310d370cb2e85ea024d37643a6be9dd71099b57a9274dd1e045010000130000004bc3bc686c657209f09f94"
+     "a7203236302e35310f0000007361792022c3a922203236302e35320000140000006261636b5c736c61736820"
+     "c39f203236302e353302000000140000005ac3bc6e64756e6720f09f9a97203236302e3534150000005072c3"
+     "bc667374616e6420e282ac203236302e353501098aed350145fcdaab15000000e697a5e69cace8aa9e20f09d"
+     "849e203236302e3536130000004bc3bc686c657209f09f94a7203236302e35376d7d5c72000000ff4a1864b3"
+     "c44f02653e872017b8be3ec931f65c7bab2d7b2d256519df9e9c3701010f0000007361792022c3a922203236"
+     "302e3538140000006261636b5c736c61736820c39f203236302e3539000000000001140000005ac3bc6e6475"
+     "6e6720f09f9a97203236302e3630150000005072c3bc667374616e6420e282ac203236302e36310100000000"
+     "15000000e697a5e69cace8aa9e20f09d849e203236302e3632130000004bc3bc686c657209f09f94a7203236"
+     "302e363300019118d45543920b74f70b4312a9857a305bffb14e0d79e96cbff2200b010000000000008001ff"
+     "ffffffffffffff00010f0000007361792022c3a922203236302e3634140000006261636b5c736c61736820c3"
+     "9f203236302e3635140000005ac3bc6e64756e6720f09f9a97203236302e3636150000005072c3bc66737461"
+     "6e6420e282ac203236302e363715000000e697a5e69cace8aa9e20f09d849e203236302e3638130000004bc3"
+     "bc686c657209f09f94a7203236302e36390f0000007361792022c3a922203236302e3730df086cef14000000"
+     "6261636b5c736c61736820c39f203236302e373100000000140000005ac3bc6e64756e6720f09f9a97203236"
+     "302e373202000000150000005072c3bc667374616e6420e282ac203236302e373315000000e697a5e69cace8"
+     "aa9e20f09d849e203236302e373401d370cb2e0000716c582923e68f47d55fc76589d9fe033b533622edcc6d"
+     "409f46a55e51c0dc7c010000130000004bc3bc686c657209f09f94a7203236302e37350f0000007361792022"
+     "c3a922203236302e37360000140000006261636b5c736c61736820c39f203236302e37370200000014000000"
+     "5ac3bc6e64756e6720f09f9a97203236302e3738150000005072c3bc667374616e6420e282ac203236302e37"
+     "39017b15fdb20137643a6b15000000e697a5e69cace8aa9e20f09d849e203236302e3830130000004bc3bc68"
+     "6c657209f09f94a7203236302e383117228ef6019b57a9270f0000007361792022c3a922203236302e3832b3"
+     "2e1fba140000006261636b5c736c61736820c39f203236302e3833140000005ac3bc6e64756e6720f09f9a97"
+     "203236302e3834ff4a1864014d3bb0fd150000005072c3bc667374616e6420e282ac203236302e3835000000"
+     "0001000000f31c475b000000000400000000ffff8000033a141bb5b34b39672d835719a7ba75cd20f2137f9a"
+     "293231146150e38d986e010115000000e697a5e69cace8aa9e20f09d849e203236302e3836130000004bc3bc"
+     "686c657209f09f94a7203236302e38370002000000010f0000007361792022c3a922203236302e3838140000"
+     "006261636b5c736c61736820c39f203236302e3839140000005ac3bc6e64756e6720f09f9a97203236302e39"
+     "30150000005072c3bc667374616e6420e282ac203236302e393115000000e697a5e69cace8aa9e20f09d849e"
+     "203236302e3932130000004bc3bc686c657209f09f94a7203236302e393301653e8720010f00000073617920"
+     "22c3a922203236302e3934140000006261636b5c736c61736820c39f203236302e3935140000005ac3bc6e64"
+     "756e6720f09f9a97203236302e3936150000005072c3bc667374616e6420e282ac203236302e393715000000"
+     "e697a5e69cace8aa9e20f09d849e203236302e3938130000004bc3bc686c657209f09f94a7203236302e3939"
+     "00e94741c101100000007361792022c3a922203236302e313030150000006261636b5c736c61736820c39f20"
+     "3236302e313031010200000001150000005ac3bc6e64756e6720f09f9a97203236302e313032160000005072"
+     "c3bc667374616e6420e282ac203236302e31303316000000e697a5e69cace8aa9e20f09d849e203236302e31"
+     "3034140000004bc3bc686c657209f09f94a7203236302e313035100000007361792022c3a922203236302e31"
+     "3036150000006261636b5c736c61736820c39f203236302e31303700c931f65c01150000005ac3bc6e64756e"
+     "6720f09f9a97203236302e313038160000005072c3bc667374616e6420e282ac203236302e31303916000000"
+     "e697a5e69cace8aa9e20f09d849e203236302e313130140000004bc3bc686c657209f09f94a7203236302e31"
+     "3131100000007361792022c3a922203236302e313132150000006261636b5c736c61736820c39f203236302e"
+     "313133018554d284150000005ac3bc6e64756e6720f09f9a97203236302e313134160000005072c3bc667374"
+     "616e6420e282ac203236302e31313500019507d00c4781072bf9fa3e49ab7476675feead051168e523c3e11c"
+     "42a5967e7900000000015710b61700000000000116000000e697a5e69cace8aa9e20f09d849e203236302e31"
+     "3136140000004bc3bc686c657209f09f94a7203236302e313137100000007361792022c3a922203236302e31"
+     "3138150000006261636b5c736c61736820c39f203236302e313139150000005ac3bc6e64756e6720f09f9a97"
+     "203236302e313230160000005072c3bc667374616e6420e282ac203236302e31323116000000e697a5e69cac"
+     "e8aa9e20f09d849e203236302e3132322d256519140000004bc3bc686c657209f09f94a7203236302e313233"
+     "00000000100000007361792022c3a922203236302e31323402000000150000006261636b5c736c61736820c3"
+     "9f203236302e313235150000005ac3bc6e64756e6720f09f9a97203236302e31323601216163c80000755b54"
+     "6027d58b7ed94ec31c8bc8fa3a3d423259efbb6977a335a11555afd833010000160000005072c3bc66737461"
+     "6e6420e282ac203236302e31323716000000e697a5e69cace8aa9e20f09d849e203236302e31323800000200"
+     "0000140000004bc3bc686c657209f09f94a7203236302e313239100000007361792022c3a922203236302e31"
+     "3330019118d455150000006261636b5c736c61736820c39f203236302e313331150000005ac3bc6e64756e67"
+     "20f09f9a97203236302e313332bd6df48b01f70b4312160000005072c3bc667374616e6420e282ac20323630"
+     "2e313333577a85cf16000000e697a5e69cace8aa9e20f09d849e203236302e313334140000004bc3bc686c65"
+     "7209f09f94a7203236302e3133355bffb14e01f3861693100000007361792022c3a922203236302e31333609"
+     "8aed3500000000bb032554000000000400000000ff7f010200000001150000006261636b5c736c61736820c3"
+     "9f203236302e313337150000005ac3bc6e64756e6720f09f9a97203236302e31333801020000000116000000"
+     "5072c3bc667374616e6420e282ac203236302e31333916000000e697a5e69cace8aa9e20f09d849e20323630"
+     "2e313430140000004bc3bc686c657209f09f94a7203236302e313431100000007361792022c3a92220323630"
+     "2e313432150000006261636b5c736c61736820c39f203236302e313433150000005ac3bc6e64756e6720f09f"
+     "9a97203236302e31343400bff2200b01160000005072c3bc667374616e6420e282ac203236302e3134351600"
+     "0000e697a5e69cace8aa9e20f09d849e203236302e313436140000004bc3bc686c657209f09f94a720323630"
+     "2e313437100000007361792022c3a922203236302e313438150000006261636b5c736c61736820c39f203236"
+     "302e313439150000005ac3bc6e64756e6720f09f9a97203236302e313530018f93a7d601160000005072c3bc"
+     "667374616e6420e282ac203236302e31353116000000e697a5e69cace8aa9e20f09d849e203236302e313532"
+     "00000000000131332207291052b9a247706b1c7f0e1d96b62c0101140000004bc3bc686c657209f09f94a720"
+     "3236302e313533100000007361792022c3a922203236302e313534150000006261636b5c736c61736820c39f"
+     "203236302e313535150000005ac3bc6e64756e6720f09f9a97203236302e313536160000005072c3bc667374"
+     "616e6420e282ac203236302e31353716000000e697a5e69cace8aa9e20f09d849e203236302e313538000000"
+     "0002000000140000004bc3bc686c657209f09f94a7203236302e313539100000007361792022c3a922203236"
+     "302e313630000000000000cf0fee4a0001150000006261636b5c736c61736820c39f203236302e3136311500"
+     "00005ac3bc6e64756e6720f09f9a97203236302e313632160000005072c3bc667374616e6420e282ac203236"
+     "302e31363316000000e697a5e69cace8aa9e20f09d849e203236302e31363400000000",
+     0},
+    {"sparse", "[]", "[]",
+     "[{\"text1\":\"\",\"text2\":\"\",\"text3\":\"\",\"text4\":\"\",\"parameters\":[{\"itemTex"
+     "t1\":\"\",\"itemText2\":\"\",\"itemText3\":\"\",\"itemText4\":\"\",\"value\":\"\",\"defa"
+     "ultValue\":\"\",\"infos\":[],\"choices\":[],\"error\":null,\"constraints\":[],\"tcp\":nu"
+     "ll,\"value1\":4294967295,\"flag\":true}]},null]",
+     "[{\"text1\":\"\",\"text2\":\"\",\"text3\":\"\",\"text4\":\"\",\"parameters\":[{\"itemTex"
+     "t1\":\"\",\"itemText2\":\"\",\"itemText3\":\"\",\"itemText4\":\"\",\"value\":\"\",\"defa"
+     "ultValue\":\"\",\"infos\":null,\"infoCount\":0,\"choices\":[],\"choiceCount\":0,\"error"
+     "\":null,\"constraints\":null,\"constraintCount\":0,\"tcp\":null,\"value1\":4294967295,\""
+     "flag\":1}],\"parameterCount\":1},null]",
+     "", "", "[]", "[]",
+     "0102000000010000000000000000000000000000000001000000010000000000000000000000000000000000"
+     "000000000000000000000000000000000000000000ffffffff0100",
+     "0200000001000000000000000000000000000000000100000001000000000000000000000000000000000000"
+     "0000000000000000000000000000000000000000ffffffff0100",
+     0},
+    {"empty", "[]", "[]", "[]", "null", "", "", "[]", "[]", "0100000000", "00000000", 0},
+};
+
+struct GetGlobalProtocolParameterSetsExport {
+    static constexpr const char* operation = "getGlobalProtocolParameterSets";
+    using Result =
+        kc::ListResult<GlobalProtocolParameterSet, release_GlobalProtocolParameterSet_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getGlobalProtocolParameterSets(api, error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Projects, getGlobalProtocolParameterSets_Exchange) {
+    kc::exchange<GetGlobalProtocolParameterSetsExport>(api, kGetGlobalProtocolParameterSetsCases);
+}
+TEST_F(Projects, getGlobalProtocolParameterSets_Failure) {
+    kc::failure<GetGlobalProtocolParameterSetsExport>(api, kGetGlobalProtocolParameterSetsCases);
 }
 
-TEST_F(ProjectsByNumber, n79_setGlobalProtocolParameterSets_NotAvailable) {
-    kc::notAvailable(api, 79, "setGlobalProtocolParameterSets");
+const kc::Number kNumber78{78, "getGlobalProtocolParameterSets",
+                           kGetGlobalProtocolParameterSetsCases};
+
+TEST_F(ProjectsByNumber, n78_getGlobalProtocolParameterSets_KelCall) {
+    kc::kelCall(api, kNumber78);
+}
+TEST_F(ProjectsByNumber, n78_getGlobalProtocolParameterSets_PyCall) { kc::pyCall(api, kNumber78); }
+TEST_F(ProjectsByNumber, n78_getGlobalProtocolParameterSets_Failure) {
+    kc::numberFailure(api, kNumber78);
+}
+
+// ---- setGlobalProtocolParameterSets (position 261, number 79) ----
+
+const kc::Case kSetGlobalProtocolParameterSetsCases[] = {
+    {"full",
+     "[[{\"text1\":\"Pr\303\274fstand \342\202\254 261.1\",\"text2\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.2\",\"text3\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 261.3\",\"text4\":\"say \\\"\303\251\\\" 261.4\",\"parameters\":[{\"itemText1\":\"b"
+     "ack\\\\slash \303\237 261.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 261.6\",\""
+     "itemText3\":\"Pr\303\274fstand \342\202\254 261.7\",\"itemText4\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.8\",\"value\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 261.9\",\"defaultValue\":\"say \\\"\303\251\\\" 261.10\",\"infos\":[{\"itemText1\":"
+     "\"back\\\\slash \303\237 261.11\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 261.12"
+     "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 261.13\",\"itemText4\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.14\",\"text1\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.15\",\"text2\":\"say \\\"\303\251\\\" 261.16\",\"text3\":\"back\\\\slas"
+     "h \303\237 261.17\",\"value1\":-2147483648,\"text4\":\"Z\303\274ndung \360\237\232\227 2"
+     "61.18\",\"children\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 261.19\",\"itemText"
+     "2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.20\",\"itemText3\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 261.21\",\"itemText4\":\"say \\\"\303\251\\\" 261.22"
+     "\",\"text1\":\"back\\\\slash \303\237 261.23\",\"text2\":\"Z\303\274ndung \360\237\232"
+     "\227 261.24\",\"text3\":\"Pr\303\274fstand \342\202\254 261.25\",\"value1\":2147483647,"
+     "\"text4\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.26\",\"children\":"
+     "[{\"itemText1\":\"K\303\274hler\\u0009\360\237\224\247 261.27\",\"itemText2\":\"say \\\""
+     "\303\251\\\" 261.28\",\"itemText3\":\"back\\\\slash \303\237 261.29\",\"itemText4\":\"Z"
+     "\303\274ndung \360\237\232\227 261.30\",\"text1\":\"Pr\303\274fstand \342\202\254 261.31"
+     "\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.32\",\"text3\":"
+     "\"K\303\274hler\\u0009\360\237\224\247 261.33\",\"value1\":-1,\"text4\":\"say \\\"\303"
+     "\251\\\" 261.34\",\"children\":[],\"text5\":\"back\\\\slash \303\237 261.35\",\"names\":"
+     "[\"Z\303\274ndung \360\237\232\227 261.36\",\"Pr\303\274fstand \342\202\254 261.37\"],\""
+     "flag1\":128,\"value2\":-65536,\"error\":null,\"flag2\":0,\"values\":[4294967295,21474836"
+     "48,2147483647,1531427625,2038379739,397848207,904800321,1411752435],\"flag3\":255,\"cons"
+     "traint1\":null,\"constraint2\":null,\"text6\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 261.38\",\"text7\":\"K\303\274hler\\u0009\360\237\224\247 261.39\",\"fl"
+     "ag4\":0,\"unit\":null},{\"itemText1\":\"say \\\"\303\251\\\" 261.40\",\"itemText2\":\"ba"
+     "ck\\\\slash \303\237 261.41\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 261.42\","
+     "\"itemText4\":\"Pr\303\274fstand \342\202\254 261.43\",\"text1\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.44\",\"text2\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 261.45\",\"text3\":\"say \\\"\303\251\\\" 261.46\",\"value1\":2038379739,\"text4\":"
+     "\"back\\\\slash \303\237 261.47\",\"children\":[],\"text5\":\"Z\303\274ndung \360\237"
+     "\232\227 261.48\",\"names\":[\"Pr\303\274fstand \342\202\254 261.49\",\"\346\227\245\346"
+     "\234\254\350\252\236 \360\235\204\236 261.50\"],\"flag1\":2,\"value2\":-397848207,\"erro"
+     "r\":null,\"flag2\":0,\"values\":[1918704549,278173015,785125129,1292077243,1799029357,15"
+     "8497825,665449939,1172402053],\"flag3\":1,\"constraint1\":null,\"constraint2\":null,\"te"
+     "xt6\":\"K\303\274hler\\u0009\360\237\224\247 261.51\",\"text7\":\"say \\\"\303\251\\\" 2"
+     "61.52\",\"flag4\":0,\"unit\":null}],\"text5\":\"back\\\\slash \303\237 261.53\",\"names"
+     "\":[\"Z\303\274ndung \360\237\232\227 261.54\",\"Pr\303\274fstand \342\202\254 261.55\"]"
+     ",\"flag1\":128,\"value2\":904800321,\"error\":{\"code\":-1411752435,\"message\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 261.56\",\"details\":\"K\303\274hler\\"
+     "u0009\360\237\224\247 261.57\",\"subCode\":1918704549,\"mvciError\":null,\"negativeRespo"
+     "nse\":null},\"flag2\":0,\"values\":[1679354167,38822633,545774747,1052726861,1559678975,"
+     "2066631089,426099557,933051671],\"flag3\":255,\"constraint1\":{\"text1\":\"say \\\"\303"
+     "\251\\\" 261.58\",\"text2\":\"back\\\\slash \303\237 261.59\",\"flag\":0,\"scales\":[]},"
+     "\"constraint2\":{\"text1\":\"Z\303\274ndung \360\237\232\227 261.60\",\"text2\":\"Pr\303"
+     "\274fstand \342\202\254 261.61\",\"flag\":2,\"scales\":[]},\"text6\":\"\346\227\245\346"
+     "\234\254\350\252\236 \360\235\204\236 261.62\",\"text7\":\"K\303\274hler\\u0009\360\237"
+     "\224\247 261.63\",\"flag4\":0,\"unit\":{\"values\":[1440003785,1946955899,306424365,8133"
+     "76479,1320328593,1827280707,186749175],\"value1\":9223372036854775809,\"flag1\":1,\"valu"
+     "e2\":18446744073709551615,\"flag2\":0}},{\"itemText1\":\"say \\\"\303\251\\\" 261.64\","
+     "\"itemText2\":\"back\\\\slash \303\237 261.65\",\"itemText3\":\"Z\303\274ndung \360\237"
+     "\232\227 261.66\",\"itemText4\":\"Pr\303\274fstand \342\202\254 261.67\",\"text1\":\""
+     "\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.68\",\"text2\":\"K\303\274hler"
+     "\\u0009\360\237\224\247 261.69\",\"text3\":\"say \\\"\303\251\\\" 261.70\",\"value1\":-2"
+     "78173015,\"text4\":\"back\\\\slash \303\237 261.71\",\"children\":[],\"text5\":\"Z\303"
+     "\274ndung \360\237\232\227 261.72\",\"names\":[\"Pr\303\274fstand \342\202\254 261.73\","
+     "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.74\"],\"flag1\":128,\"value2"
+     "\":785125129,\"error\":null,\"flag2\":0,\"values\":[693701289,1200653403,1707605517,6707"
+     "3983,574026097,1080978211,1587930325,2094882439],\"flag3\":255,\"constraint1\":null,\"co"
+     "nstraint2\":null,\"text6\":\"K\303\274hler\\u0009\360\237\224\247 261.75\",\"text7\":\"s"
+     "ay \\\"\303\251\\\" 261.76\",\"flag4\":0,\"unit\":null}],\"text5\":\"back\\\\slash \303"
+     "\237 261.77\",\"names\":[\"Z\303\274ndung \360\237\232\227 261.78\",\"Pr\303\274fstand "
+     "\342\202\254 261.79\"],\"flag1\":2,\"value2\":-1292077243,\"error\":{\"code\":1799029357"
+     ",\"message\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.80\",\"details"
+     "\":\"K\303\274hler\\u0009\360\237\224\247 261.81\",\"subCode\":-158497825,\"mvciError\":"
+     "{\"code\":665449939,\"codeText\":\"say \\\"\303\251\\\" 261.82\",\"vendorCode\":-1172402"
+     "053,\"vendorCodeText\":\"back\\\\slash \303\237 261.83\",\"extraText\":\"Z\303\274ndung "
+     "\360\237\232\227 261.84\",\"extraCode\":1679354167},\"negativeResponse\":{\"code\":-3882"
+     "2633,\"text\":\"Pr\303\274fstand \342\202\254 261.85\",\"value1\":4294967296,\"value2\":"
+     "1531427625,\"bytes\":[0,255,255,128]}},\"flag2\":0,\"values\":[454350907,961303021,14682"
+     "55135,1975207249,334675715,841627829,1348579943,1855532057],\"flag3\":1,\"constraint1\":"
+     "{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.86\",\"text2\":\""
+     "K\303\274hler\\u0009\360\237\224\247 261.87\",\"flag\":0,\"scales\":[{\"itemText1\":\"sa"
+     "y \\\"\303\251\\\" 261.88\",\"itemText2\":\"back\\\\slash \303\237 261.89\",\"itemText3"
+     "\":\"Z\303\274ndung \360\237\232\227 261.90\",\"itemText4\":\"Pr\303\274fstand \342\202"
+     "\254 261.91\",\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.92\""
+     ",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 261.93\",\"flag\":128,\"value\":545774"
+     "747},{\"itemText1\":\"say \\\"\303\251\\\" 261.94\",\"itemText2\":\"back\\\\slash \303"
+     "\237 261.95\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 261.96\",\"itemText4\":\"P"
+     "r\303\274fstand \342\202\254 261.97\",\"text1\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 261.98\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 261.99\",\"fl"
+     "ag\":0,\"value\":-1052726861}]},\"constraint2\":{\"text1\":\"say \\\"\303\251\\\" 261.10"
+     "0\",\"text2\":\"back\\\\slash \303\237 261.101\",\"flag\":255,\"scales\":[{\"itemText1\""
+     ":\"Z\303\274ndung \360\237\232\227 261.102\",\"itemText2\":\"Pr\303\274fstand \342\202"
+     "\254 261.103\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261"
+     ".104\",\"itemText4\":\"K\303\274hler\\u0009\360\237\224\247 261.105\",\"text1\":\"say \\"
+     "\"\303\251\\\" 261.106\",\"text2\":\"back\\\\slash \303\237 261.107\",\"flag\":0,\"value"
+     "\":1559678975},{\"itemText1\":\"Z\303\274ndung \360\237\232\227 261.108\",\"itemText2\":"
+     "\"Pr\303\274fstand \342\202\254 261.109\",\"itemText3\":\"\346\227\245\346\234\254\350"
+     "\252\236 \360\235\204\236 261.110\",\"itemText4\":\"K\303\274hler\\u0009\360\237\224\247"
+     " 261.111\",\"text1\":\"say \\\"\303\251\\\" 261.112\",\"text2\":\"back\\\\slash \303\237"
+     " 261.113\",\"flag\":2,\"value\":-2066631089}]},\"text6\":\"Z\303\274ndung \360\237\232"
+     "\227 261.114\",\"text7\":\"Pr\303\274fstand \342\202\254 261.115\",\"flag4\":0,\"unit\":"
+     "{\"values\":[215000525,721952639,1228904753,1735856867,95325333,602277447,1109229561],\""
+     "value1\":2038379739,\"flag1\":1,\"value2\":397848207,\"flag2\":0}},{\"itemText1\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 261.116\",\"itemText2\":\"K\303\274hle"
+     "r\\u0009\360\237\224\247 261.117\",\"itemText3\":\"say \\\"\303\251\\\" 261.118\",\"item"
+     "Text4\":\"back\\\\slash \303\237 261.119\",\"text1\":\"Z\303\274ndung \360\237\232\227 2"
+     "61.120\",\"text2\":\"Pr\303\274fstand \342\202\254 261.121\",\"text3\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.122\",\"value1\":426099557,\"text4\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 261.123\",\"children\":[],\"text5\":\"say \\\"\303"
+     "\251\\\" 261.124\",\"names\":[\"back\\\\slash \303\237 261.125\",\"Z\303\274ndung \360"
+     "\237\232\227 261.126\"],\"flag1\":128,\"value2\":-933051671,\"error\":null,\"flag2\":0,"
+     "\"values\":[1616181675,2123133789,482602257,989554371,1496506485,2003458599,362927065,86"
+     "9879179],\"flag3\":255,\"constraint1\":null,\"constraint2\":null,\"text6\":\"Pr\303\274f"
+     "stand \342\202\254 261.127\",\"text7\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.128\",\"flag4\":0,\"unit\":null}],\"choices\":[\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.129\",\"say \\\"\303\251\\\" 261.130\"],\"error\":{\"code\":1440003785,"
+     "\"message\":\"back\\\\slash \303\237 261.131\",\"details\":\"Z\303\274ndung \360\237\232"
+     "\227 261.132\",\"subCode\":-1946955899,\"mvciError\":{\"code\":306424365,\"codeText\":\""
+     "Pr\303\274fstand \342\202\254 261.133\",\"vendorCode\":-813376479,\"vendorCodeText\":\""
+     "\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.134\",\"extraText\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 261.135\",\"extraCode\":1320328593},\"negativeResponse\""
+     ":{\"code\":-1827280707,\"text\":\"say \\\"\303\251\\\" 261.136\",\"value1\":904800321,\""
+     "value2\":1411752435,\"bytes\":[0,255,127,1]}},\"constraints\":[{\"text1\":\"back\\\\slas"
+     "h \303\237 261.137\",\"text2\":\"Z\303\274ndung \360\237\232\227 261.138\",\"flag\":2,\""
+     "scales\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 261.139\",\"itemText2\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 261.140\",\"itemText3\":\"K\303\274hle"
+     "r\\u0009\360\237\224\247 261.141\",\"itemText4\":\"say \\\"\303\251\\\" 261.142\",\"text"
+     "1\":\"back\\\\slash \303\237 261.143\",\"text2\":\"Z\303\274ndung \360\237\232\227 261.1"
+     "44\",\"flag\":0,\"value\":186749175},{\"itemText1\":\"Pr\303\274fstand \342\202\254 261."
+     "145\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.146\",\""
+     "itemText3\":\"K\303\274hler\\u0009\360\237\224\247 261.147\",\"itemText4\":\"say \\\""
+     "\303\251\\\" 261.148\",\"text1\":\"back\\\\slash \303\237 261.149\",\"text2\":\"Z\303"
+     "\274ndung \360\237\232\227 261.150\",\"flag\":1,\"value\":-693701289}]},{\"text1\":\"Pr"
+     "\303\274fstand \342\202\254 261.151\",\"text2\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 261.152\",\"flag\":0,\"scales\":[]}],\"tcp\":{\"value1\":7,\"value2\":9"
+     ",\"value3\":248,\"value4\":1376831293,\"value5\":1883783407,\"value6\":243251875},\"valu"
+     "e1\":750203989,\"flag\":128},{\"itemText1\":\"K\303\274hler\\u0009\360\237\224\247 261.1"
+     "53\",\"itemText2\":\"say \\\"\303\251\\\" 261.154\",\"itemText3\":\"back\\\\slash \303"
+     "\237 261.155\",\"itemText4\":\"Z\303\274ndung \360\237\232\227 261.156\",\"value\":\"Pr"
+     "\303\274fstand \342\202\254 261.157\",\"defaultValue\":\"\346\227\245\346\234\254\350"
+     "\252\236 \360\235\204\236 261.158\",\"infos\":[],\"choices\":[\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.159\",\"say \\\"\303\251\\\" 261.160\"],\"error\":null,\"constraints\":"
+     "[],\"tcp\":null,\"value1\":1257156103,\"flag\":0}]},{\"text1\":\"back\\\\slash \303\237 "
+     "261.161\",\"text2\":\"Z\303\274ndung \360\237\232\227 261.162\",\"text3\":\"Pr\303\274fs"
+     "tand \342\202\254 261.163\",\"text4\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.164\",\"parameters\":[]}]]",
+     "[[{\"text1\":\"Pr\303\274fstand \342\202\254 261.1\",\"text2\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.2\",\"text3\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 261.3\",\"text4\":\"say \\\"\303\251\\\" 261.4\",\"parameters\":[{\"itemText1\":\"b"
+     "ack\\\\slash \303\237 261.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 261.6\",\""
+     "itemText3\":\"Pr\303\274fstand \342\202\254 261.7\",\"itemText4\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.8\",\"value\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 261.9\",\"defaultValue\":\"say \\\"\303\251\\\" 261.10\",\"infos\":[{\"itemText1\":"
+     "\"back\\\\slash \303\237 261.11\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 261.12"
+     "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 261.13\",\"itemText4\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.14\",\"text1\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.15\",\"text2\":\"say \\\"\303\251\\\" 261.16\",\"text3\":\"back\\\\slas"
+     "h \303\237 261.17\",\"value1\":-2147483648,\"text4\":\"Z\303\274ndung \360\237\232\227 2"
+     "61.18\",\"children\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 261.19\",\"itemText"
+     "2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.20\",\"itemText3\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 261.21\",\"itemText4\":\"say \\\"\303\251\\\" 261.22"
+     "\",\"text1\":\"back\\\\slash \303\237 261.23\",\"text2\":\"Z\303\274ndung \360\237\232"
+     "\227 261.24\",\"text3\":\"Pr\303\274fstand \342\202\254 261.25\",\"value1\":2147483647,"
+     "\"text4\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.26\",\"children\":"
+     "[{\"itemText1\":\"K\303\274hler\\u0009\360\237\224\247 261.27\",\"itemText2\":\"say \\\""
+     "\303\251\\\" 261.28\",\"itemText3\":\"back\\\\slash \303\237 261.29\",\"itemText4\":\"Z"
+     "\303\274ndung \360\237\232\227 261.30\",\"text1\":\"Pr\303\274fstand \342\202\254 261.31"
+     "\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.32\",\"text3\":"
+     "\"K\303\274hler\\u0009\360\237\224\247 261.33\",\"value1\":-1,\"text4\":\"say \\\"\303"
+     "\251\\\" 261.34\",\"children\":[],\"text5\":\"back\\\\slash \303\237 261.35\",\"names\":"
+     "[\"Z\303\274ndung \360\237\232\227 261.36\",\"Pr\303\274fstand \342\202\254 261.37\"],\""
+     "flag1\":true,\"value2\":-65536,\"error\":null,\"flag2\":false,\"values\":[4294967295,214"
+     "7483648,2147483647,1531427625,2038379739,397848207,904800321,1411752435],\"flag3\":true,"
+     "\"constraint1\":null,\"constraint2\":null,\"text6\":\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 261.38\",\"text7\":\"K\303\274hler\\u0009\360\237\224\247 261.39\""
+     ",\"flag4\":false,\"unit\":null},{\"itemText1\":\"say \\\"\303\251\\\" 261.40\",\"itemTex"
+     "t2\":\"back\\\\slash \303\237 261.41\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 2"
+     "61.42\",\"itemText4\":\"Pr\303\274fstand \342\202\254 261.43\",\"text1\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.44\",\"text2\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.45\",\"text3\":\"say \\\"\303\251\\\" 261.46\",\"value1\":2038379739,\""
+     "text4\":\"back\\\\slash \303\237 261.47\",\"children\":[],\"text5\":\"Z\303\274ndung "
+     "\360\237\232\227 261.48\",\"names\":[\"Pr\303\274fstand \342\202\254 261.49\",\"\346\227"
+     "\245\346\234\254\350\252\236 \360\235\204\236 261.50\"],\"flag1\":true,\"value2\":-39784"
+     "8207,\"error\":null,\"flag2\":false,\"values\":[1918704549,278173015,785125129,129207724"
+     "3,1799029357,158497825,665449939,1172402053],\"flag3\":true,\"constraint1\":null,\"const"
+     "raint2\":null,\"text6\":\"K\303\274hler\\u0009\360\237\224\247 261.51\",\"text7\":\"say "
+     "\\\"\303\251\\\" 261.52\",\"flag4\":false,\"unit\":null}],\"text5\":\"back\\\\slash \303"
+     "\237 261.53\",\"names\":[\"Z\303\274ndung \360\237\232\227 261.54\",\"Pr\303\274fstand "
+     "\342\202\254 261.55\"],\"flag1\":true,\"value2\":904800321,\"error\":{\"code\":-14117524"
+     "35,\"message\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.56\",\"detail"
+     "s\":\"K\303\274hler\\u0009\360\237\224\247 261.57\",\"subCode\":1918704549,\"mvciError\""
+     ":null,\"negativeResponse\":null},\"flag2\":false,\"values\":[1679354167,38822633,5457747"
+     "47,1052726861,1559678975,2066631089,426099557,933051671],\"flag3\":true,\"constraint1\":"
+     "{\"text1\":\"say \\\"\303\251\\\" 261.58\",\"text2\":\"back\\\\slash \303\237 261.59\","
+     "\"flag\":false,\"scales\":[]},\"constraint2\":{\"text1\":\"Z\303\274ndung \360\237\232"
+     "\227 261.60\",\"text2\":\"Pr\303\274fstand \342\202\254 261.61\",\"flag\":true,\"scales"
+     "\":[]},\"text6\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.62\",\"text"
+     "7\":\"K\303\274hler\\u0009\360\237\224\247 261.63\",\"flag4\":false,\"unit\":{\"values\""
+     ":[1440003785,1946955899,306424365,813376479,1320328593,1827280707,186749175],\"value1\":"
+     "9223372036854775809,\"flag1\":true,\"value2\":18446744073709551615,\"flag2\":false}},{\""
+     "itemText1\":\"say \\\"\303\251\\\" 261.64\",\"itemText2\":\"back\\\\slash \303\237 261.6"
+     "5\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 261.66\",\"itemText4\":\"Pr\303\274f"
+     "stand \342\202\254 261.67\",\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.68\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 261.69\",\"text3\":\""
+     "say \\\"\303\251\\\" 261.70\",\"value1\":-278173015,\"text4\":\"back\\\\slash \303\237 2"
+     "61.71\",\"children\":[],\"text5\":\"Z\303\274ndung \360\237\232\227 261.72\",\"names\":["
+     "\"Pr\303\274fstand \342\202\254 261.73\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.74\"],\"flag1\":true,\"value2\":785125129,\"error\":null,\"flag2\":false,\""
+     "values\":[693701289,1200653403,1707605517,67073983,574026097,1080978211,1587930325,20948"
+     "82439],\"flag3\":true,\"constraint1\":null,\"constraint2\":null,\"text6\":\"K\303\274hle"
+     "r\\u0009\360\237\224\247 261.75\",\"text7\":\"say \\\"\303\251\\\" 261.76\",\"flag4\":fa"
+     "lse,\"unit\":null}],\"text5\":\"back\\\\slash \303\237 261.77\",\"names\":[\"Z\303\274nd"
+     "ung \360\237\232\227 261.78\",\"Pr\303\274fstand \342\202\254 261.79\"],\"flag1\":true,"
+     "\"value2\":-1292077243,\"error\":{\"code\":1799029357,\"message\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.80\",\"details\":\"K\303\274hler\\u0009\360\237"
+     "\224\247 261.81\",\"subCode\":-158497825,\"mvciError\":{\"code\":665449939,\"codeText\":"
+     "\"say \\\"\303\251\\\" 261.82\",\"vendorCode\":-1172402053,\"vendorCodeText\":\"back\\\\"
+     "slash \303\237 261.83\",\"extraText\":\"Z\303\274ndung \360\237\232\227 261.84\",\"extra"
+     "Code\":1679354167},\"negativeResponse\":{\"code\":-38822633,\"text\":\"Pr\303\274fstand "
+     "\342\202\254 261.85\",\"value1\":4294967296,\"value2\":1531427625,\"bytes\":[0,255,255,1"
+     "28]}},\"flag2\":false,\"values\":[454350907,961303021,1468255135,1975207249,334675715,84"
+     "1627829,1348579943,1855532057],\"flag3\":true,\"constraint1\":{\"text1\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.86\",\"text2\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.87\",\"flag\":false,\"scales\":[{\"itemText1\":\"say \\\"\303\251\\\" 2"
+     "61.88\",\"itemText2\":\"back\\\\slash \303\237 261.89\",\"itemText3\":\"Z\303\274ndung "
+     "\360\237\232\227 261.90\",\"itemText4\":\"Pr\303\274fstand \342\202\254 261.91\",\"text1"
+     "\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.92\",\"text2\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 261.93\",\"flag\":true,\"value\":545774747},{\"itemText1"
+     "\":\"say \\\"\303\251\\\" 261.94\",\"itemText2\":\"back\\\\slash \303\237 261.95\",\"ite"
+     "mText3\":\"Z\303\274ndung \360\237\232\227 261.96\",\"itemText4\":\"Pr\303\274fstand "
+     "\342\202\254 261.97\",\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 "
+     "261.98\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 261.99\",\"flag\":false,\"valu"
+     "e\":-1052726861}]},\"constraint2\":{\"text1\":\"say \\\"\303\251\\\" 261.100\",\"text2\""
+     ":\"back\\\\slash \303\237 261.101\",\"flag\":true,\"scales\":[{\"itemText1\":\"Z\303\274"
+     "ndung \360\237\232\227 261.102\",\"itemText2\":\"Pr\303\274fstand \342\202\254 261.103\""
+     ",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.104\",\"itemT"
+     "ext4\":\"K\303\274hler\\u0009\360\237\224\247 261.105\",\"text1\":\"say \\\"\303\251\\\""
+     " 261.106\",\"text2\":\"back\\\\slash \303\237 261.107\",\"flag\":false,\"value\":1559678"
+     "975},{\"itemText1\":\"Z\303\274ndung \360\237\232\227 261.108\",\"itemText2\":\"Pr\303"
+     "\274fstand \342\202\254 261.109\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 261.110\",\"itemText4\":\"K\303\274hler\\u0009\360\237\224\247 261.111"
+     "\",\"text1\":\"say \\\"\303\251\\\" 261.112\",\"text2\":\"back\\\\slash \303\237 261.113"
+     "\",\"flag\":true,\"value\":-2066631089}]},\"text6\":\"Z\303\274ndung \360\237\232\227 26"
+     "1.114\",\"text7\":\"Pr\303\274fstand \342\202\254 261.115\",\"flag4\":false,\"unit\":{\""
+     "values\":[215000525,721952639,1228904753,1735856867,95325333,602277447,1109229561],\"val"
+     "ue1\":2038379739,\"flag1\":true,\"value2\":397848207,\"flag2\":false}},{\"itemText1\":\""
+     "\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.116\",\"itemText2\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 261.117\",\"itemText3\":\"say \\\"\303\251\\\" 261.118\""
+     ",\"itemText4\":\"back\\\\slash \303\237 261.119\",\"text1\":\"Z\303\274ndung \360\237"
+     "\232\227 261.120\",\"text2\":\"Pr\303\274fstand \342\202\254 261.121\",\"text3\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 261.122\",\"value1\":426099557,\"text4"
+     "\":\"K\303\274hler\\u0009\360\237\224\247 261.123\",\"children\":[],\"text5\":\"say \\\""
+     "\303\251\\\" 261.124\",\"names\":[\"back\\\\slash \303\237 261.125\",\"Z\303\274ndung "
+     "\360\237\232\227 261.126\"],\"flag1\":true,\"value2\":-933051671,\"error\":null,\"flag2"
+     "\":false,\"values\":[1616181675,2123133789,482602257,989554371,1496506485,2003458599,362"
+     "927065,869879179],\"flag3\":true,\"constraint1\":null,\"constraint2\":null,\"text6\":\"P"
+     "r\303\274fstand \342\202\254 261.127\",\"text7\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 261.128\",\"flag4\":false,\"unit\":null}],\"choices\":[\"K\303\274hler"
+     "\\u0009\360\237\224\247 261.129\",\"say \\\"\303\251\\\" 261.130\"],\"error\":{\"code\":"
+     "1440003785,\"message\":\"back\\\\slash \303\237 261.131\",\"details\":\"Z\303\274ndung "
+     "\360\237\232\227 261.132\",\"subCode\":-1946955899,\"mvciError\":{\"code\":306424365,\"c"
+     "odeText\":\"Pr\303\274fstand \342\202\254 261.133\",\"vendorCode\":-813376479,\"vendorCo"
+     "deText\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.134\",\"extraText\""
+     ":\"K\303\274hler\\u0009\360\237\224\247 261.135\",\"extraCode\":1320328593},\"negativeRe"
+     "sponse\":{\"code\":-1827280707,\"text\":\"say \\\"\303\251\\\" 261.136\",\"value1\":9048"
+     "00321,\"value2\":1411752435,\"bytes\":[0,255,127,1]}},\"constraints\":[{\"text1\":\"back"
+     "\\\\slash \303\237 261.137\",\"text2\":\"Z\303\274ndung \360\237\232\227 261.138\",\"fla"
+     "g\":true,\"scales\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 261.139\",\"itemText"
+     "2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.140\",\"itemText3\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 261.141\",\"itemText4\":\"say \\\"\303\251\\\" 261.1"
+     "42\",\"text1\":\"back\\\\slash \303\237 261.143\",\"text2\":\"Z\303\274ndung \360\237"
+     "\232\227 261.144\",\"flag\":false,\"value\":186749175},{\"itemText1\":\"Pr\303\274fstand"
+     " \342\202\254 261.145\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.146\",\"itemText3\":\"K\303\274hler\\u0009\360\237\224\247 261.147\",\"item"
+     "Text4\":\"say \\\"\303\251\\\" 261.148\",\"text1\":\"back\\\\slash \303\237 261.149\",\""
+     "text2\":\"Z\303\274ndung \360\237\232\227 261.150\",\"flag\":true,\"value\":-693701289}]"
+     "},{\"text1\":\"Pr\303\274fstand \342\202\254 261.151\",\"text2\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.152\",\"flag\":false,\"scales\":[]}],\"tcp\":{\"va"
+     "lue1\":7,\"value2\":9,\"value3\":248,\"value4\":1376831293,\"value5\":1883783407,\"value"
+     "6\":243251875},\"value1\":750203989,\"flag\":true},{\"itemText1\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 261.153\",\"itemText2\":\"say \\\"\303\251\\\" 261.154\",\"itemText3\":"
+     "\"back\\\\slash \303\237 261.155\",\"itemText4\":\"Z\303\274ndung \360\237\232\227 261.1"
+     "56\",\"value\":\"Pr\303\274fstand \342\202\254 261.157\",\"defaultValue\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.158\",\"infos\":[],\"choices\":[\"K\303"
+     "\274hler\\u0009\360\237\224\247 261.159\",\"say \\\"\303\251\\\" 261.160\"],\"error\":nu"
+     "ll,\"constraints\":[],\"tcp\":null,\"value1\":1257156103,\"flag\":false}]},{\"text1\":\""
+     "back\\\\slash \303\237 261.161\",\"text2\":\"Z\303\274ndung \360\237\232\227 261.162\","
+     "\"text3\":\"Pr\303\274fstand \342\202\254 261.163\",\"text4\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 261.164\",\"parameters\":[]}]]",
+     "null", nullptr,
+     "02000000140000005072c3bc667374616e6420e282ac203236312e3114000000e697a5e69cace8aa9e20f09d"
+     "849e203236312e32120000004bc3bc686c657209f09f94a7203236312e330e0000007361792022c3a9222032"
+     "36312e3402000000130000006261636b5c736c61736820c39f203236312e35130000005ac3bc6e64756e6720"
+     "f09f9a97203236312e36140000005072c3bc667374616e6420e282ac203236312e3714000000e697a5e69cac"
+     "e8aa9e20f09d849e203236312e38120000004bc3bc686c657209f09f94a7203236312e390f00000073617920"
+     "22c3a922203236312e313002000000140000006261636b5c736c61736820c39f203236312e3131140000005a"
+     "c3bc6e64756e6720f09f9a97203236312e3132150000005072c3bc667374616e6420e282ac203236312e3133"
+     "15000000e697a5e69cace8aa9e20f09d849e203236312e3134130000004bc3bc686c657209f09f94a7203236"
+     "312e31350f0000007361792022c3a922203236312e3136140000006261636b5c736c61736820c39f20323631"
+     "2e313700000080140000005ac3bc6e64756e6720f09f9a97203236312e313802000000150000005072c3bc66"
+     "7374616e6420e282ac203236312e313915000000e697a5e69cace8aa9e20f09d849e203236312e3230130000"
+     "004bc3bc686c657209f09f94a7203236312e32310f0000007361792022c3a922203236312e32321400000062"
+     "61636b5c736c61736820c39f203236312e3233140000005ac3bc6e64756e6720f09f9a97203236312e323415"
+     "0000005072c3bc667374616e6420e282ac203236312e3235ffffff7f15000000e697a5e69cace8aa9e20f09d"
+     "849e203236312e323602000000130000004bc3bc686c657209f09f94a7203236312e32370f00000073617920"
+     "22c3a922203236312e3238140000006261636b5c736c61736820c39f203236312e3239140000005ac3bc6e64"
+     "756e6720f09f9a97203236312e3330150000005072c3bc667374616e6420e282ac203236312e333115000000"
+     "e697a5e69cace8aa9e20f09d849e203236312e3332130000004bc3bc686c657209f09f94a7203236312e3333"
+     "ffffffff0f0000007361792022c3a922203236312e333400000000140000006261636b5c736c61736820c39f"
+     "203236312e333502000000140000005ac3bc6e64756e6720f09f9a97203236312e3336150000005072c3bc66"
+     "7374616e6420e282ac203236312e3337010000ffff0000000000000000000000000000000000000000000000"
+     "0000000000000000000000000000000000000000000000000000000000000000000000000000000000000000"
+     "0000ffffffff00000080ffffff7f29bb475bdb347f798faeb6174128ee35f3a1255401000000000000000000"
+     "000000000000000000000000000000000015000000e697a5e69cace8aa9e20f09d849e203236312e33381300"
+     "00004bc3bc686c657209f09f94a7203236312e33390000000000000000000000000000000000000000000000"
+     "0000000000000000000000000000000000000000000000000f0000007361792022c3a922203236312e343014"
+     "0000006261636b5c736c61736820c39f203236312e3431140000005ac3bc6e64756e6720f09f9a9720323631"
+     "2e3432150000005072c3bc667374616e6420e282ac203236312e343315000000e697a5e69cace8aa9e20f09d"
+     "849e203236312e3434130000004bc3bc686c657209f09f94a7203236312e34350f0000007361792022c3a922"
+     "203236312e3436db347f79140000006261636b5c736c61736820c39f203236312e343700000000140000005a"
+     "c3bc6e64756e6720f09f9a97203236312e343802000000150000005072c3bc667374616e6420e282ac203236"
+     "312e343915000000e697a5e69cace8aa9e20f09d849e203236312e353001715149e800000000000000000000"
+     "0000000000000000000000000000000000000000000000000000000000000000000000000000000000000000"
+     "000000000000000000000000000000a51b5d7257959410090fcc2ebb88034d6d023b6b217c7209d3f5a92785"
+     "6fe145010000000000000000000000000000000000000000000000000000130000004bc3bc686c657209f09f"
+     "94a7203236312e35310f0000007361792022c3a922203236312e353200000000000000000000000000000000"
+     "00000000000000000000000000000000000000000000000000000000000000140000006261636b5c736c6173"
+     "6820c39f203236312e353302000000140000005ac3bc6e64756e6720f09f9a97203236312e35341500000050"
+     "72c3bc667374616e6420e282ac203236312e3535014128ee350d5edaab15000000e697a5e69cace8aa9e20f0"
+     "9d849e203236312e3536130000004bc3bc686c657209f09f94a7203236312e3537a51b5d7200000000000000"
+     "0000000000000000000000000000000000000000000000000000000000000000000000000000000000000000"
+     "000037e91864e96250029bdc87204d56bf3effcff65cb1492e7b65c36519173d9d37010f0000007361792022"
+     "c3a922203236312e3538140000006261636b5c736c61736820c39f203236312e35390000000000140000005a"
+     "c3bc6e64756e6720f09f9a97203236312e3630150000005072c3bc667374616e6420e282ac203236312e3631"
+     "010000000015000000e697a5e69cace8aa9e20f09d849e203236312e3632130000004bc3bc686c657209f09f"
+     "94a7203236312e363300c9b6d4557b300c742daa4312df237b30919db24e4317ea6cf790210b010000000000"
+     "008001ffffffffffffffff000f0000007361792022c3a922203236312e3634140000006261636b5c736c6173"
+     "6820c39f203236312e3635140000005ac3bc6e64756e6720f09f9a97203236312e3636150000005072c3bc66"
+     "7374616e6420e282ac203236312e363715000000e697a5e69cace8aa9e20f09d849e203236312e3638130000"
+     "004bc3bc686c657209f09f94a7203236312e36390f0000007361792022c3a922203236312e3730a96a6bef14"
+     "0000006261636b5c736c61736820c39f203236312e373100000000140000005ac3bc6e64756e6720f09f9a97"
+     "203236312e373202000000150000005072c3bc667374616e6420e282ac203236312e373315000000e697a5e6"
+     "9cace8aa9e20f09d849e203236312e373401090fcc2e00000000000000000000000000000000000000000000"
+     "0000000000000000000000000000000000000000000000000000000000000000000000000000000000000000"
+     "000000a90a59295b8490470dfec765bf77ff0371f13622236b6e40d5e4a55e875edd7c010000000000000000"
+     "000000000000000000000000000000000000130000004bc3bc686c657209f09f94a7203236312e37350f0000"
+     "007361792022c3a922203236312e373600000000000000000000000000000000000000000000000000000000"
+     "00000000000000000000000000000000000000140000006261636b5c736c61736820c39f203236312e373702"
+     "000000140000005ac3bc6e64756e6720f09f9a97203236312e3738150000005072c3bc667374616e6420e282"
+     "ac203236312e3739014577fcb26d023b6b15000000e697a5e69cace8aa9e20f09d849e203236312e38301300"
+     "00004bc3bc686c657209f09f94a7203236312e3831df838df6d3f5a9270f0000007361792022c3a922203236"
+     "312e38327b901eba140000006261636b5c736c61736820c39f203236312e3833140000005ac3bc6e64756e67"
+     "20f09f9a97203236312e383437e91864179daffd150000005072c3bc667374616e6420e282ac203236312e38"
+     "35000000000100000029bb475b000000000400000000ffff80003bd8141bed514c399fcb83575145bb7503bf"
+     "f213b5382a3267b26150192c996e0115000000e697a5e69cace8aa9e20f09d849e203236312e383613000000"
+     "4bc3bc686c657209f09f94a7203236312e383700020000000f0000007361792022c3a922203236312e383814"
+     "0000006261636b5c736c61736820c39f203236312e3839140000005ac3bc6e64756e6720f09f9a9720323631"
+     "2e3930150000005072c3bc667374616e6420e282ac203236312e393115000000e697a5e69cace8aa9e20f09d"
+     "849e203236312e3932130000004bc3bc686c657209f09f94a7203236312e3933019bdc87200f000000736179"
+     "2022c3a922203236312e3934140000006261636b5c736c61736820c39f203236312e3935140000005ac3bc6e"
+     "64756e6720f09f9a97203236312e3936150000005072c3bc667374616e6420e282ac203236312e3937150000"
+     "00e697a5e69cace8aa9e20f09d849e203236312e3938130000004bc3bc686c657209f09f94a7203236312e39"
+     "3900b3a940c1100000007361792022c3a922203236312e313030150000006261636b5c736c61736820c39f20"
+     "3236312e3130310102000000150000005ac3bc6e64756e6720f09f9a97203236312e313032160000005072c3"
+     "bc667374616e6420e282ac203236312e31303316000000e697a5e69cace8aa9e20f09d849e203236312e3130"
+     "34140000004bc3bc686c657209f09f94a7203236312e313035100000007361792022c3a922203236312e3130"
+     "36150000006261636b5c736c61736820c39f203236312e31303700ffcff65c150000005ac3bc6e64756e6720"
+     "f09f9a97203236312e313038160000005072c3bc667374616e6420e282ac203236312e31303916000000e697"
+     "a5e69cace8aa9e20f09d849e203236312e313130140000004bc3bc686c657209f09f94a7203236312e313131"
+     "100000007361792022c3a922203236312e313132150000006261636b5c736c61736820c39f203236312e3131"
+     "33014fb6d184150000005ac3bc6e64756e6720f09f9a97203236312e313134160000005072c3bc667374616e"
+     "6420e282ac203236312e31313500cda5d00c7f1f082b31993f49e3127767958cae054706e623f97f1d42db34"
+     "7f7900000000018faeb617000000000016000000e697a5e69cace8aa9e20f09d849e203236312e3131361400"
+     "00004bc3bc686c657209f09f94a7203236312e313137100000007361792022c3a922203236312e3131381500"
+     "00006261636b5c736c61736820c39f203236312e313139150000005ac3bc6e64756e6720f09f9a9720323631"
+     "2e313230160000005072c3bc667374616e6420e282ac203236312e31323116000000e697a5e69cace8aa9e20"
+     "f09d849e203236312e31323265c36519140000004bc3bc686c657209f09f94a7203236312e31323300000000"
+     "100000007361792022c3a922203236312e31323402000000150000006261636b5c736c61736820c39f203236"
+     "312e313235150000005ac3bc6e64756e6720f09f9a97203236312e31323601e9c262c8000000000000000000"
+     "0000000000000000000000000000000000000000000000000000000000000000000000000000000000000000"
+     "00000000000000000000000000000000abf954605d738c7e11edc31cc366fb3a75e03259275a6a77d9d3a115"
+     "8b4dd933010000000000000000000000000000000000000000000000000000160000005072c3bc667374616e"
+     "6420e282ac203236312e31323716000000e697a5e69cace8aa9e20f09d849e203236312e3132380000000000"
+     "0000000000000000000000000000000000000000000000000000000000000000000000000000000000000200"
+     "0000140000004bc3bc686c657209f09f94a7203236312e313239100000007361792022c3a922203236312e31"
+     "3330c9b6d455150000006261636b5c736c61736820c39f203236312e313331150000005ac3bc6e64756e6720"
+     "f09f9a97203236312e31333285cff38b2daa4312160000005072c3bc667374616e6420e282ac203236312e31"
+     "333321dc84cf16000000e697a5e69cace8aa9e20f09d849e203236312e313334140000004bc3bc686c657209"
+     "f09f94a7203236312e313335919db24ebde81593100000007361792022c3a922203236312e3133364128ee35"
+     "00000000f3a12554000000000400000000ff7f0102000000150000006261636b5c736c61736820c39f203236"
+     "312e313337150000005ac3bc6e64756e6720f09f9a97203236312e3133380102000000160000005072c3bc66"
+     "7374616e6420e282ac203236312e31333916000000e697a5e69cace8aa9e20f09d849e203236312e31343014"
+     "0000004bc3bc686c657209f09f94a7203236312e313431100000007361792022c3a922203236312e31343215"
+     "0000006261636b5c736c61736820c39f203236312e313433150000005ac3bc6e64756e6720f09f9a97203236"
+     "312e31343400f790210b160000005072c3bc667374616e6420e282ac203236312e31343516000000e697a5e6"
+     "9cace8aa9e20f09d849e203236312e313436140000004bc3bc686c657209f09f94a7203236312e3134371000"
+     "00007361792022c3a922203236312e313438150000006261636b5c736c61736820c39f203236312e31343915"
+     "0000005ac3bc6e64756e6720f09f9a97203236312e3135300157f5a6d6160000005072c3bc667374616e6420"
+     "e282ac203236312e31353116000000e697a5e69cace8aa9e20f09d849e203236312e31353200000000000709"
+     "f83dc71052ef404870a3ba7f0e5534b72c01140000004bc3bc686c657209f09f94a7203236312e3135331000"
+     "00007361792022c3a922203236312e313534150000006261636b5c736c61736820c39f203236312e31353515"
+     "0000005ac3bc6e64756e6720f09f9a97203236312e313536160000005072c3bc667374616e6420e282ac2032"
+     "36312e31353716000000e697a5e69cace8aa9e20f09d849e203236312e313538000000000200000014000000"
+     "4bc3bc686c657209f09f94a7203236312e313539100000007361792022c3a922203236312e31363000000000"
+     "0000000000000000000000000000000000000000000000000000000000000000000000000000000000000000"
+     "00000000000000000000000000000000000000000000000000000000000000000000000000000007aeee4a00"
+     "150000006261636b5c736c61736820c39f203236312e313631150000005ac3bc6e64756e6720f09f9a972032"
+     "36312e313632160000005072c3bc667374616e6420e282ac203236312e31363316000000e697a5e69cace8aa"
+     "9e20f09d849e203236312e31363400000000",
+     "02000000015072c3bc667374616e6420e282ac203236312e3100e697a5e69cace8aa9e20f09d849e20323631"
+     "2e32004bc3bc686c657209f09f94a7203236312e33007361792022c3a922203236312e340002000000016261"
+     "636b5c736c61736820c39f203236312e35005ac3bc6e64756e6720f09f9a97203236312e36005072c3bc6673"
+     "74616e6420e282ac203236312e3700e697a5e69cace8aa9e20f09d849e203236312e38004bc3bc686c657209"
+     "f09f94a7203236312e39007361792022c3a922203236312e31300002000000016261636b5c736c61736820c3"
+     "9f203236312e3131005ac3bc6e64756e6720f09f9a97203236312e3132005072c3bc667374616e6420e282ac"
+     "203236312e313300e697a5e69cace8aa9e20f09d849e203236312e3134004bc3bc686c657209f09f94a72032"
+     "36312e3135007361792022c3a922203236312e3136006261636b5c736c61736820c39f203236312e31370000"
+     "0000805ac3bc6e64756e6720f09f9a97203236312e31380002000000015072c3bc667374616e6420e282ac20"
+     "3236312e313900e697a5e69cace8aa9e20f09d849e203236312e3230004bc3bc686c657209f09f94a7203236"
+     "312e3231007361792022c3a922203236312e3232006261636b5c736c61736820c39f203236312e3233005ac3"
+     "bc6e64756e6720f09f9a97203236312e3234005072c3bc667374616e6420e282ac203236312e323500ffffff"
+     "7fe697a5e69cace8aa9e20f09d849e203236312e32360002000000014bc3bc686c657209f09f94a720323631"
+     "2e3237007361792022c3a922203236312e3238006261636b5c736c61736820c39f203236312e3239005ac3bc"
+     "6e64756e6720f09f9a97203236312e3330005072c3bc667374616e6420e282ac203236312e333100e697a5e6"
+     "9cace8aa9e20f09d849e203236312e3332004bc3bc686c657209f09f94a7203236312e333300ffffffff7361"
+     "792022c3a922203236312e333400000000006261636b5c736c61736820c39f203236312e333500020000005a"
+     "c3bc6e64756e6720f09f9a97203236312e3336005072c3bc667374616e6420e282ac203236312e3337000100"
+     "00ffff0000ffffffff00000080ffffff7f29bb475bdb347f798faeb6174128ee35f3a12554010000e697a5e6"
+     "9cace8aa9e20f09d849e203236312e3338004bc3bc686c657209f09f94a7203236312e333900000001736179"
+     "2022c3a922203236312e3430006261636b5c736c61736820c39f203236312e3431005ac3bc6e64756e6720f0"
+     "9f9a97203236312e3432005072c3bc667374616e6420e282ac203236312e343300e697a5e69cace8aa9e20f0"
+     "9d849e203236312e3434004bc3bc686c657209f09f94a7203236312e3435007361792022c3a922203236312e"
+     "343600db347f796261636b5c736c61736820c39f203236312e343700000000005ac3bc6e64756e6720f09f9a"
+     "97203236312e343800020000005072c3bc667374616e6420e282ac203236312e343900e697a5e69cace8aa9e"
+     "20f09d849e203236312e35300001715149e80000a51b5d7257959410090fcc2ebb88034d6d023b6b217c7209"
+     "d3f5a927856fe1450100004bc3bc686c657209f09f94a7203236312e3531007361792022c3a922203236312e"
+     "35320000006261636b5c736c61736820c39f203236312e353300020000005ac3bc6e64756e6720f09f9a9720"
+     "3236312e3534005072c3bc667374616e6420e282ac203236312e353500014128ee35010d5edaabe697a5e69c"
+     "ace8aa9e20f09d849e203236312e3536004bc3bc686c657209f09f94a7203236312e353700a51b5d72000000"
+     "37e91864e96250029bdc87204d56bf3effcff65cb1492e7b65c36519173d9d3701017361792022c3a9222032"
+     "36312e3538006261636b5c736c61736820c39f203236312e3539000000000000015ac3bc6e64756e6720f09f"
+     "9a97203236312e3630005072c3bc667374616e6420e282ac203236312e3631000100000000e697a5e69cace8"
+     "aa9e20f09d849e203236312e3632004bc3bc686c657209f09f94a7203236312e3633000001c9b6d4557b300c"
+     "742daa4312df237b30919db24e4317ea6cf790210b010000000000008001ffffffffffffffff000173617920"
+     "22c3a922203236312e3634006261636b5c736c61736820c39f203236312e3635005ac3bc6e64756e6720f09f"
+     "9a97203236312e3636005072c3bc667374616e6420e282ac203236312e363700e697a5e69cace8aa9e20f09d"
+     "849e203236312e3638004bc3bc686c657209f09f94a7203236312e3639007361792022c3a922203236312e37"
+     "3000a96a6bef6261636b5c736c61736820c39f203236312e373100000000005ac3bc6e64756e6720f09f9a97"
+     "203236312e373200020000005072c3bc667374616e6420e282ac203236312e373300e697a5e69cace8aa9e20"
+     "f09d849e203236312e37340001090fcc2e0000a90a59295b8490470dfec765bf77ff0371f13622236b6e40d5"
+     "e4a55e875edd7c0100004bc3bc686c657209f09f94a7203236312e3735007361792022c3a922203236312e37"
+     "360000006261636b5c736c61736820c39f203236312e373700020000005ac3bc6e64756e6720f09f9a972032"
+     "36312e3738005072c3bc667374616e6420e282ac203236312e373900014577fcb2016d023b6be697a5e69cac"
+     "e8aa9e20f09d849e203236312e3830004bc3bc686c657209f09f94a7203236312e383100df838df601d3f5a9"
+     "277361792022c3a922203236312e3832007b901eba6261636b5c736c61736820c39f203236312e3833005ac3"
+     "bc6e64756e6720f09f9a97203236312e38340037e9186401179daffd5072c3bc667374616e6420e282ac2032"
+     "36312e383500000000000100000029bb475b000000000400000000ffff80003bd8141bed514c399fcb835751"
+     "45bb7503bff213b5382a3267b26150192c996e0101e697a5e69cace8aa9e20f09d849e203236312e3836004b"
+     "c3bc686c657209f09f94a7203236312e3837000002000000017361792022c3a922203236312e383800626163"
+     "6b5c736c61736820c39f203236312e3839005ac3bc6e64756e6720f09f9a97203236312e3930005072c3bc66"
+     "7374616e6420e282ac203236312e393100e697a5e69cace8aa9e20f09d849e203236312e3932004bc3bc686c"
+     "657209f09f94a7203236312e393300019bdc8720017361792022c3a922203236312e3934006261636b5c736c"
+     "61736820c39f203236312e3935005ac3bc6e64756e6720f09f9a97203236312e3936005072c3bc667374616e"
+     "6420e282ac203236312e393700e697a5e69cace8aa9e20f09d849e203236312e3938004bc3bc686c657209f0"
+     "9f94a7203236312e39390000b3a940c1017361792022c3a922203236312e313030006261636b5c736c617368"
+     "20c39f203236312e313031000102000000015ac3bc6e64756e6720f09f9a97203236312e313032005072c3bc"
+     "667374616e6420e282ac203236312e31303300e697a5e69cace8aa9e20f09d849e203236312e313034004bc3"
+     "bc686c657209f09f94a7203236312e313035007361792022c3a922203236312e313036006261636b5c736c61"
+     "736820c39f203236312e3130370000ffcff65c015ac3bc6e64756e6720f09f9a97203236312e313038005072"
+     "c3bc667374616e6420e282ac203236312e31303900e697a5e69cace8aa9e20f09d849e203236312e31313000"
+     "4bc3bc686c657209f09f94a7203236312e313131007361792022c3a922203236312e313132006261636b5c73"
+     "6c61736820c39f203236312e31313300014fb6d1845ac3bc6e64756e6720f09f9a97203236312e3131340050"
+     "72c3bc667374616e6420e282ac203236312e313135000001cda5d00c7f1f082b31993f49e3127767958cae05"
+     "4706e623f97f1d42db347f7900000000018faeb617000000000001e697a5e69cace8aa9e20f09d849e203236"
+     "312e313136004bc3bc686c657209f09f94a7203236312e313137007361792022c3a922203236312e31313800"
+     "6261636b5c736c61736820c39f203236312e313139005ac3bc6e64756e6720f09f9a97203236312e31323000"
+     "5072c3bc667374616e6420e282ac203236312e31323100e697a5e69cace8aa9e20f09d849e203236312e3132"
+     "320065c365194bc3bc686c657209f09f94a7203236312e31323300000000007361792022c3a922203236312e"
+     "31323400020000006261636b5c736c61736820c39f203236312e313235005ac3bc6e64756e6720f09f9a9720"
+     "3236312e3132360001e9c262c80000abf954605d738c7e11edc31cc366fb3a75e03259275a6a77d9d3a1158b"
+     "4dd9330100005072c3bc667374616e6420e282ac203236312e31323700e697a5e69cace8aa9e20f09d849e20"
+     "3236312e313238000000020000004bc3bc686c657209f09f94a7203236312e313239007361792022c3a92220"
+     "3236312e3133300001c9b6d4556261636b5c736c61736820c39f203236312e313331005ac3bc6e64756e6720"
+     "f09f9a97203236312e3133320085cff38b012daa43125072c3bc667374616e6420e282ac203236312e313333"
+     "0021dc84cfe697a5e69cace8aa9e20f09d849e203236312e313334004bc3bc686c657209f09f94a720323631"
+     "2e31333500919db24e01bde815937361792022c3a922203236312e313336004128ee3500000000f3a1255400"
+     "0000000400000000ff7f0102000000016261636b5c736c61736820c39f203236312e313337005ac3bc6e6475"
+     "6e6720f09f9a97203236312e313338000102000000015072c3bc667374616e6420e282ac203236312e313339"
+     "00e697a5e69cace8aa9e20f09d849e203236312e313430004bc3bc686c657209f09f94a7203236312e313431"
+     "007361792022c3a922203236312e313432006261636b5c736c61736820c39f203236312e313433005ac3bc6e"
+     "64756e6720f09f9a97203236312e3134340000f790210b015072c3bc667374616e6420e282ac203236312e31"
+     "343500e697a5e69cace8aa9e20f09d849e203236312e313436004bc3bc686c657209f09f94a7203236312e31"
+     "3437007361792022c3a922203236312e313438006261636b5c736c61736820c39f203236312e313439005ac3"
+     "bc6e64756e6720f09f9a97203236312e313530000157f5a6d6015072c3bc667374616e6420e282ac20323631"
+     "2e31353100e697a5e69cace8aa9e20f09d849e203236312e313532000000000000010709f83dc71052ef4048"
+     "70a3ba7f0e5534b72c01014bc3bc686c657209f09f94a7203236312e313533007361792022c3a92220323631"
+     "2e313534006261636b5c736c61736820c39f203236312e313535005ac3bc6e64756e6720f09f9a9720323631"
+     "2e313536005072c3bc667374616e6420e282ac203236312e31353700e697a5e69cace8aa9e20f09d849e2032"
+     "36312e3135380000000000020000004bc3bc686c657209f09f94a7203236312e313539007361792022c3a922"
+     "203236312e3136300000000000000007aeee4a00016261636b5c736c61736820c39f203236312e313631005a"
+     "c3bc6e64756e6720f09f9a97203236312e313632005072c3bc667374616e6420e282ac203236312e31363300"
+     "e697a5e69cace8aa9e20f09d849e203236312e3136340000000000",
+     "[[{\"text1\":\"Pr\303\274fstand \342\202\254 261.1\",\"text2\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.2\",\"text3\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 261.3\",\"text4\":\"say \\\"\303\251\\\" 261.4\",\"parameters\":[{\"itemText1\":\"b"
+     "ack\\\\slash \303\237 261.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 261.6\",\""
+     "itemText3\":\"Pr\303\274fstand \342\202\254 261.7\",\"itemText4\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.8\",\"value\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 261.9\",\"defaultValue\":\"say \\\"\303\251\\\" 261.10\",\"infos\":[{\"itemText1\":"
+     "\"back\\\\slash \303\237 261.11\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 261.12"
+     "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 261.13\",\"itemText4\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.14\",\"text1\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.15\",\"text2\":\"say \\\"\303\251\\\" 261.16\",\"text3\":\"back\\\\slas"
+     "h \303\237 261.17\",\"value1\":-2147483648,\"text4\":\"Z\303\274ndung \360\237\232\227 2"
+     "61.18\",\"children\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 261.19\",\"itemText"
+     "2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.20\",\"itemText3\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 261.21\",\"itemText4\":\"say \\\"\303\251\\\" 261.22"
+     "\",\"text1\":\"back\\\\slash \303\237 261.23\",\"text2\":\"Z\303\274ndung \360\237\232"
+     "\227 261.24\",\"text3\":\"Pr\303\274fstand \342\202\254 261.25\",\"value1\":2147483647,"
+     "\"text4\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.26\",\"children\":"
+     "[{\"itemText1\":\"K\303\274hler\\u0009\360\237\224\247 261.27\",\"itemText2\":\"say \\\""
+     "\303\251\\\" 261.28\",\"itemText3\":\"back\\\\slash \303\237 261.29\",\"itemText4\":\"Z"
+     "\303\274ndung \360\237\232\227 261.30\",\"text1\":\"Pr\303\274fstand \342\202\254 261.31"
+     "\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.32\",\"text3\":"
+     "\"K\303\274hler\\u0009\360\237\224\247 261.33\",\"value1\":-1,\"text4\":\"say \\\"\303"
+     "\251\\\" 261.34\",\"children\":[],\"text5\":\"back\\\\slash \303\237 261.35\",\"names\":"
+     "[\"Z\303\274ndung \360\237\232\227 261.36\",\"Pr\303\274fstand \342\202\254 261.37\"],\""
+     "flag1\":true,\"value2\":-65536,\"error\":{\"code\":0,\"message\":\"\",\"details\":\"\","
+     "\"subCode\":0,\"mvciError\":{\"code\":0,\"codeText\":\"\",\"vendorCode\":0,\"vendorCodeT"
+     "ext\":\"\",\"extraText\":\"\",\"extraCode\":0},\"negativeResponse\":{\"code\":0,\"text\""
+     ":\"\",\"value1\":0,\"value2\":0,\"bytes\":[]}},\"flag2\":false,\"values\":[4294967295,21"
+     "47483648,2147483647,1531427625,2038379739,397848207,904800321,1411752435],\"flag3\":true"
+     ",\"constraint1\":{\"text1\":\"\",\"text2\":\"\",\"flag\":false,\"scales\":[]},\"constrai"
+     "nt2\":{\"text1\":\"\",\"text2\":\"\",\"flag\":false,\"scales\":[]},\"text6\":\"\346\227"
+     "\245\346\234\254\350\252\236 \360\235\204\236 261.38\",\"text7\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 261.39\",\"flag4\":false,\"unit\":{\"values\":[0,0,0,0,0,0,0],\"value1"
+     "\":0,\"flag1\":false,\"value2\":0,\"flag2\":false}},{\"itemText1\":\"say \\\"\303\251\\"
+     "\" 261.40\",\"itemText2\":\"back\\\\slash \303\237 261.41\",\"itemText3\":\"Z\303\274ndu"
+     "ng \360\237\232\227 261.42\",\"itemText4\":\"Pr\303\274fstand \342\202\254 261.43\",\"te"
+     "xt1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.44\",\"text2\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 261.45\",\"text3\":\"say \\\"\303\251\\\" 261.46\",\"val"
+     "ue1\":2038379739,\"text4\":\"back\\\\slash \303\237 261.47\",\"children\":[],\"text5\":"
+     "\"Z\303\274ndung \360\237\232\227 261.48\",\"names\":[\"Pr\303\274fstand \342\202\254 26"
+     "1.49\",\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.50\"],\"flag1\":true,"
+     "\"value2\":-397848207,\"error\":{\"code\":0,\"message\":\"\",\"details\":\"\",\"subCode"
+     "\":0,\"mvciError\":{\"code\":0,\"codeText\":\"\",\"vendorCode\":0,\"vendorCodeText\":\""
+     "\",\"extraText\":\"\",\"extraCode\":0},\"negativeResponse\":{\"code\":0,\"text\":\"\",\""
+     "value1\":0,\"value2\":0,\"bytes\":[]}},\"flag2\":false,\"values\":[1918704549,278173015,"
+     "785125129,1292077243,1799029357,158497825,665449939,1172402053],\"flag3\":true,\"constra"
+     "int1\":{\"text1\":\"\",\"text2\":\"\",\"flag\":false,\"scales\":[]},\"constraint2\":{\"t"
+     "ext1\":\"\",\"text2\":\"\",\"flag\":false,\"scales\":[]},\"text6\":\"K\303\274hler\\u000"
+     "9\360\237\224\247 261.51\",\"text7\":\"say \\\"\303\251\\\" 261.52\",\"flag4\":false,\"u"
+     "nit\":{\"values\":[0,0,0,0,0,0,0],\"value1\":0,\"flag1\":false,\"value2\":0,\"flag2\":fa"
+     "lse}}],\"text5\":\"back\\\\slash \303\237 261.53\",\"names\":[\"Z\303\274ndung \360\237"
+     "\232\227 261.54\",\"Pr\303\274fstand \342\202\254 261.55\"],\"flag1\":true,\"value2\":90"
+     "4800321,\"error\":{\"code\":-1411752435,\"message\":\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 261.56\",\"details\":\"K\303\274hler\\u0009\360\237\224\247 261.57"
+     "\",\"subCode\":1918704549,\"mvciError\":{\"code\":0,\"codeText\":\"\",\"vendorCode\":0,"
+     "\"vendorCodeText\":\"\",\"extraText\":\"\",\"extraCode\":0},\"negativeResponse\":{\"code"
+     "\":0,\"text\":\"\",\"value1\":0,\"value2\":0,\"bytes\":[]}},\"flag2\":false,\"values\":["
+     "1679354167,38822633,545774747,1052726861,1559678975,2066631089,426099557,933051671],\"fl"
+     "ag3\":true,\"constraint1\":{\"text1\":\"say \\\"\303\251\\\" 261.58\",\"text2\":\"back\\"
+     "\\slash \303\237 261.59\",\"flag\":false,\"scales\":[]},\"constraint2\":{\"text1\":\"Z"
+     "\303\274ndung \360\237\232\227 261.60\",\"text2\":\"Pr\303\274fstand \342\202\254 261.61"
+     "\",\"flag\":true,\"scales\":[]},\"text6\":\"\346\227\245\346\234\254\350\252\236 \360"
+     "\235\204\236 261.62\",\"text7\":\"K\303\274hler\\u0009\360\237\224\247 261.63\",\"flag4"
+     "\":false,\"unit\":{\"values\":[1440003785,1946955899,306424365,813376479,1320328593,1827"
+     "280707,186749175],\"value1\":9223372036854775809,\"flag1\":true,\"value2\":1844674407370"
+     "9551615,\"flag2\":false}},{\"itemText1\":\"say \\\"\303\251\\\" 261.64\",\"itemText2\":"
+     "\"back\\\\slash \303\237 261.65\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 261.66"
+     "\",\"itemText4\":\"Pr\303\274fstand \342\202\254 261.67\",\"text1\":\"\346\227\245\346"
+     "\234\254\350\252\236 \360\235\204\236 261.68\",\"text2\":\"K\303\274hler\\u0009\360\237"
+     "\224\247 261.69\",\"text3\":\"say \\\"\303\251\\\" 261.70\",\"value1\":-278173015,\"text"
+     "4\":\"back\\\\slash \303\237 261.71\",\"children\":[],\"text5\":\"Z\303\274ndung \360"
+     "\237\232\227 261.72\",\"names\":[\"Pr\303\274fstand \342\202\254 261.73\",\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.74\"],\"flag1\":true,\"value2\":785125129,"
+     "\"error\":{\"code\":0,\"message\":\"\",\"details\":\"\",\"subCode\":0,\"mvciError\":{\"c"
+     "ode\":0,\"codeText\":\"\",\"vendorCode\":0,\"vendorCodeText\":\"\",\"extraText\":\"\",\""
+     "extraCode\":0},\"negativeResponse\":{\"code\":0,\"text\":\"\",\"value1\":0,\"value2\":0,"
+     "\"bytes\":[]}},\"flag2\":false,\"values\":[693701289,1200653403,1707605517,67073983,5740"
+     "26097,1080978211,1587930325,2094882439],\"flag3\":true,\"constraint1\":{\"text1\":\"\","
+     "\"text2\":\"\",\"flag\":false,\"scales\":[]},\"constraint2\":{\"text1\":\"\",\"text2\":"
+     "\"\",\"flag\":false,\"scales\":[]},\"text6\":\"K\303\274hler\\u0009\360\237\224\247 261."
+     "75\",\"text7\":\"say \\\"\303\251\\\" 261.76\",\"flag4\":false,\"unit\":{\"values\":[0,0"
+     ",0,0,0,0,0],\"value1\":0,\"flag1\":false,\"value2\":0,\"flag2\":false}}],\"text5\":\"bac"
+     "k\\\\slash \303\237 261.77\",\"names\":[\"Z\303\274ndung \360\237\232\227 261.78\",\"Pr"
+     "\303\274fstand \342\202\254 261.79\"],\"flag1\":true,\"value2\":-1292077243,\"error\":{"
+     "\"code\":1799029357,\"message\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 "
+     "261.80\",\"details\":\"K\303\274hler\\u0009\360\237\224\247 261.81\",\"subCode\":-158497"
+     "825,\"mvciError\":{\"code\":665449939,\"codeText\":\"say \\\"\303\251\\\" 261.82\",\"ven"
+     "dorCode\":-1172402053,\"vendorCodeText\":\"back\\\\slash \303\237 261.83\",\"extraText\""
+     ":\"Z\303\274ndung \360\237\232\227 261.84\",\"extraCode\":1679354167},\"negativeResponse"
+     "\":{\"code\":-38822633,\"text\":\"Pr\303\274fstand \342\202\254 261.85\",\"value1\":4294"
+     "967296,\"value2\":1531427625,\"bytes\":[0,255,255,128]}},\"flag2\":false,\"values\":[454"
+     "350907,961303021,1468255135,1975207249,334675715,841627829,1348579943,1855532057],\"flag"
+     "3\":true,\"constraint1\":{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+     "\236 261.86\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 261.87\",\"flag\":false,"
+     "\"scales\":[{\"itemText1\":\"say \\\"\303\251\\\" 261.88\",\"itemText2\":\"back\\\\slash"
+     " \303\237 261.89\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 261.90\",\"itemText4"
+     "\":\"Pr\303\274fstand \342\202\254 261.91\",\"text1\":\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 261.92\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 261.93\""
+     ",\"flag\":true,\"value\":545774747},{\"itemText1\":\"say \\\"\303\251\\\" 261.94\",\"ite"
+     "mText2\":\"back\\\\slash \303\237 261.95\",\"itemText3\":\"Z\303\274ndung \360\237\232"
+     "\227 261.96\",\"itemText4\":\"Pr\303\274fstand \342\202\254 261.97\",\"text1\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 261.98\",\"text2\":\"K\303\274hler\\u0"
+     "009\360\237\224\247 261.99\",\"flag\":false,\"value\":-1052726861}]},\"constraint2\":{\""
+     "text1\":\"say \\\"\303\251\\\" 261.100\",\"text2\":\"back\\\\slash \303\237 261.101\",\""
+     "flag\":true,\"scales\":[{\"itemText1\":\"Z\303\274ndung \360\237\232\227 261.102\",\"ite"
+     "mText2\":\"Pr\303\274fstand \342\202\254 261.103\",\"itemText3\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.104\",\"itemText4\":\"K\303\274hler\\u0009\360\237"
+     "\224\247 261.105\",\"text1\":\"say \\\"\303\251\\\" 261.106\",\"text2\":\"back\\\\slash "
+     "\303\237 261.107\",\"flag\":false,\"value\":1559678975},{\"itemText1\":\"Z\303\274ndung "
+     "\360\237\232\227 261.108\",\"itemText2\":\"Pr\303\274fstand \342\202\254 261.109\",\"ite"
+     "mText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.110\",\"itemText4\""
+     ":\"K\303\274hler\\u0009\360\237\224\247 261.111\",\"text1\":\"say \\\"\303\251\\\" 261.1"
+     "12\",\"text2\":\"back\\\\slash \303\237 261.113\",\"flag\":true,\"value\":-2066631089}]}"
+     ",\"text6\":\"Z\303\274ndung \360\237\232\227 261.114\",\"text7\":\"Pr\303\274fstand \342"
+     "\202\254 261.115\",\"flag4\":false,\"unit\":{\"values\":[215000525,721952639,1228904753,"
+     "1735856867,95325333,602277447,1109229561],\"value1\":2038379739,\"flag1\":true,\"value2"
+     "\":397848207,\"flag2\":false}},{\"itemText1\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 261.116\",\"itemText2\":\"K\303\274hler\\u0009\360\237\224\247 261.117"
+     "\",\"itemText3\":\"say \\\"\303\251\\\" 261.118\",\"itemText4\":\"back\\\\slash \303\237"
+     " 261.119\",\"text1\":\"Z\303\274ndung \360\237\232\227 261.120\",\"text2\":\"Pr\303\274f"
+     "stand \342\202\254 261.121\",\"text3\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.122\",\"value1\":426099557,\"text4\":\"K\303\274hler\\u0009\360\237\224\247"
+     " 261.123\",\"children\":[],\"text5\":\"say \\\"\303\251\\\" 261.124\",\"names\":[\"back"
+     "\\\\slash \303\237 261.125\",\"Z\303\274ndung \360\237\232\227 261.126\"],\"flag1\":true"
+     ",\"value2\":-933051671,\"error\":{\"code\":0,\"message\":\"\",\"details\":\"\",\"subCode"
+     "\":0,\"mvciError\":{\"code\":0,\"codeText\":\"\",\"vendorCode\":0,\"vendorCodeText\":\""
+     "\",\"extraText\":\"\",\"extraCode\":0},\"negativeResponse\":{\"code\":0,\"text\":\"\",\""
+     "value1\":0,\"value2\":0,\"bytes\":[]}},\"flag2\":false,\"values\":[1616181675,2123133789"
+     ",482602257,989554371,1496506485,2003458599,362927065,869879179],\"flag3\":true,\"constra"
+     "int1\":{\"text1\":\"\",\"text2\":\"\",\"flag\":false,\"scales\":[]},\"constraint2\":{\"t"
+     "ext1\":\"\",\"text2\":\"\",\"flag\":false,\"scales\":[]},\"text6\":\"Pr\303\274fstand "
+     "\342\202\254 261.127\",\"text7\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236"
+     " 261.128\",\"flag4\":false,\"unit\":{\"values\":[0,0,0,0,0,0,0],\"value1\":0,\"flag1\":f"
+     "alse,\"value2\":0,\"flag2\":false}}],\"choices\":[\"K\303\274hler\\u0009\360\237\224\247"
+     " 261.129\",\"say \\\"\303\251\\\" 261.130\"],\"error\":{\"code\":1440003785,\"message\":"
+     "\"back\\\\slash \303\237 261.131\",\"details\":\"Z\303\274ndung \360\237\232\227 261.132"
+     "\",\"subCode\":-1946955899,\"mvciError\":{\"code\":306424365,\"codeText\":\"Pr\303\274fs"
+     "tand \342\202\254 261.133\",\"vendorCode\":-813376479,\"vendorCodeText\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.134\",\"extraText\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 261.135\",\"extraCode\":1320328593},\"negativeResponse\":{\"code\":-182"
+     "7280707,\"text\":\"say \\\"\303\251\\\" 261.136\",\"value1\":904800321,\"value2\":141175"
+     "2435,\"bytes\":[0,255,127,1]}},\"constraints\":[{\"text1\":\"back\\\\slash \303\237 261."
+     "137\",\"text2\":\"Z\303\274ndung \360\237\232\227 261.138\",\"flag\":true,\"scales\":[{"
+     "\"itemText1\":\"Pr\303\274fstand \342\202\254 261.139\",\"itemText2\":\"\346\227\245\346"
+     "\234\254\350\252\236 \360\235\204\236 261.140\",\"itemText3\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.141\",\"itemText4\":\"say \\\"\303\251\\\" 261.142\",\"text1\":\"back\\"
+     "\\slash \303\237 261.143\",\"text2\":\"Z\303\274ndung \360\237\232\227 261.144\",\"flag"
+     "\":false,\"value\":186749175},{\"itemText1\":\"Pr\303\274fstand \342\202\254 261.145\","
+     "\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.146\",\"itemTe"
+     "xt3\":\"K\303\274hler\\u0009\360\237\224\247 261.147\",\"itemText4\":\"say \\\"\303\251"
+     "\\\" 261.148\",\"text1\":\"back\\\\slash \303\237 261.149\",\"text2\":\"Z\303\274ndung "
+     "\360\237\232\227 261.150\",\"flag\":true,\"value\":-693701289}]},{\"text1\":\"Pr\303\274"
+     "fstand \342\202\254 261.151\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.152\",\"flag\":false,\"scales\":[]}],\"tcp\":{\"value1\":7,\"value2\":9,\"v"
+     "alue3\":248,\"value4\":1376831293,\"value5\":1883783407,\"value6\":243251875},\"value1\""
+     ":750203989,\"flag\":true},{\"itemText1\":\"K\303\274hler\\u0009\360\237\224\247 261.153"
+     "\",\"itemText2\":\"say \\\"\303\251\\\" 261.154\",\"itemText3\":\"back\\\\slash \303\237"
+     " 261.155\",\"itemText4\":\"Z\303\274ndung \360\237\232\227 261.156\",\"value\":\"Pr\303"
+     "\274fstand \342\202\254 261.157\",\"defaultValue\":\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 261.158\",\"infos\":[],\"choices\":[\"K\303\274hler\\u0009\360\237"
+     "\224\247 261.159\",\"say \\\"\303\251\\\" 261.160\"],\"error\":{\"code\":0,\"message\":"
+     "\"\",\"details\":\"\",\"subCode\":0,\"mvciError\":{\"code\":0,\"codeText\":\"\",\"vendor"
+     "Code\":0,\"vendorCodeText\":\"\",\"extraText\":\"\",\"extraCode\":0},\"negativeResponse"
+     "\":{\"code\":0,\"text\":\"\",\"value1\":0,\"value2\":0,\"bytes\":[]}},\"constraints\":[]"
+     ",\"tcp\":{\"value1\":0,\"value2\":0,\"value3\":0,\"value4\":0,\"value5\":0,\"value6\":0}"
+     ",\"value1\":1257156103,\"flag\":false}]},{\"text1\":\"back\\\\slash \303\237 261.161\","
+     "\"text2\":\"Z\303\274ndung \360\237\232\227 261.162\",\"text3\":\"Pr\303\274fstand \342"
+     "\202\254 261.163\",\"text4\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261"
+     ".164\",\"parameters\":[]}]]",
+     "[[{\"text1\":\"Pr\303\274fstand \342\202\254 261.1\",\"text2\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.2\",\"text3\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 261.3\",\"text4\":\"say \\\"\303\251\\\" 261.4\",\"parameters\":[{\"itemText1\":\"b"
+     "ack\\\\slash \303\237 261.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 261.6\",\""
+     "itemText3\":\"Pr\303\274fstand \342\202\254 261.7\",\"itemText4\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.8\",\"value\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 261.9\",\"defaultValue\":\"say \\\"\303\251\\\" 261.10\",\"infos\":[{\"itemText1\":"
+     "\"back\\\\slash \303\237 261.11\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 261.12"
+     "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 261.13\",\"itemText4\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.14\",\"text1\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.15\",\"text2\":\"say \\\"\303\251\\\" 261.16\",\"text3\":\"back\\\\slas"
+     "h \303\237 261.17\",\"value1\":-2147483648,\"text4\":\"Z\303\274ndung \360\237\232\227 2"
+     "61.18\",\"children\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 261.19\",\"itemText"
+     "2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.20\",\"itemText3\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 261.21\",\"itemText4\":\"say \\\"\303\251\\\" 261.22"
+     "\",\"text1\":\"back\\\\slash \303\237 261.23\",\"text2\":\"Z\303\274ndung \360\237\232"
+     "\227 261.24\",\"text3\":\"Pr\303\274fstand \342\202\254 261.25\",\"value1\":2147483647,"
+     "\"text4\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.26\",\"children\":"
+     "[{\"itemText1\":\"K\303\274hler\\u0009\360\237\224\247 261.27\",\"itemText2\":\"say \\\""
+     "\303\251\\\" 261.28\",\"itemText3\":\"back\\\\slash \303\237 261.29\",\"itemText4\":\"Z"
+     "\303\274ndung \360\237\232\227 261.30\",\"text1\":\"Pr\303\274fstand \342\202\254 261.31"
+     "\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.32\",\"text3\":"
+     "\"K\303\274hler\\u0009\360\237\224\247 261.33\",\"value1\":-1,\"text4\":\"say \\\"\303"
+     "\251\\\" 261.34\",\"children\":[],\"text5\":\"back\\\\slash \303\237 261.35\",\"names\":"
+     "[\"Z\303\274ndung \360\237\232\227 261.36\",\"Pr\303\274fstand \342\202\254 261.37\"],\""
+     "flag1\":true,\"value2\":-65536,\"error\":null,\"flag2\":false,\"values\":[4294967295,214"
+     "7483648,2147483647,1531427625,2038379739,397848207,904800321,1411752435],\"flag3\":true,"
+     "\"constraint1\":null,\"constraint2\":null,\"text6\":\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 261.38\",\"text7\":\"K\303\274hler\\u0009\360\237\224\247 261.39\""
+     ",\"flag4\":false,\"unit\":null},{\"itemText1\":\"say \\\"\303\251\\\" 261.40\",\"itemTex"
+     "t2\":\"back\\\\slash \303\237 261.41\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 2"
+     "61.42\",\"itemText4\":\"Pr\303\274fstand \342\202\254 261.43\",\"text1\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.44\",\"text2\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.45\",\"text3\":\"say \\\"\303\251\\\" 261.46\",\"value1\":2038379739,\""
+     "text4\":\"back\\\\slash \303\237 261.47\",\"children\":[],\"text5\":\"Z\303\274ndung "
+     "\360\237\232\227 261.48\",\"names\":[\"Pr\303\274fstand \342\202\254 261.49\",\"\346\227"
+     "\245\346\234\254\350\252\236 \360\235\204\236 261.50\"],\"flag1\":true,\"value2\":-39784"
+     "8207,\"error\":null,\"flag2\":false,\"values\":[1918704549,278173015,785125129,129207724"
+     "3,1799029357,158497825,665449939,1172402053],\"flag3\":true,\"constraint1\":null,\"const"
+     "raint2\":null,\"text6\":\"K\303\274hler\\u0009\360\237\224\247 261.51\",\"text7\":\"say "
+     "\\\"\303\251\\\" 261.52\",\"flag4\":false,\"unit\":null}],\"text5\":\"back\\\\slash \303"
+     "\237 261.53\",\"names\":[\"Z\303\274ndung \360\237\232\227 261.54\",\"Pr\303\274fstand "
+     "\342\202\254 261.55\"],\"flag1\":true,\"value2\":904800321,\"error\":{\"code\":-14117524"
+     "35,\"message\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.56\",\"detail"
+     "s\":\"K\303\274hler\\u0009\360\237\224\247 261.57\",\"subCode\":1918704549,\"mvciError\""
+     ":null,\"negativeResponse\":null},\"flag2\":false,\"values\":[1679354167,38822633,5457747"
+     "47,1052726861,1559678975,2066631089,426099557,933051671],\"flag3\":true,\"constraint1\":"
+     "{\"text1\":\"say \\\"\303\251\\\" 261.58\",\"text2\":\"back\\\\slash \303\237 261.59\","
+     "\"flag\":false,\"scales\":[]},\"constraint2\":{\"text1\":\"Z\303\274ndung \360\237\232"
+     "\227 261.60\",\"text2\":\"Pr\303\274fstand \342\202\254 261.61\",\"flag\":true,\"scales"
+     "\":[]},\"text6\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.62\",\"text"
+     "7\":\"K\303\274hler\\u0009\360\237\224\247 261.63\",\"flag4\":false,\"unit\":{\"values\""
+     ":[1440003785,1946955899,306424365,813376479,1320328593,1827280707,186749175],\"value1\":"
+     "9223372036854775809,\"flag1\":true,\"value2\":18446744073709551615,\"flag2\":false}},{\""
+     "itemText1\":\"say \\\"\303\251\\\" 261.64\",\"itemText2\":\"back\\\\slash \303\237 261.6"
+     "5\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 261.66\",\"itemText4\":\"Pr\303\274f"
+     "stand \342\202\254 261.67\",\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.68\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 261.69\",\"text3\":\""
+     "say \\\"\303\251\\\" 261.70\",\"value1\":-278173015,\"text4\":\"back\\\\slash \303\237 2"
+     "61.71\",\"children\":[],\"text5\":\"Z\303\274ndung \360\237\232\227 261.72\",\"names\":["
+     "\"Pr\303\274fstand \342\202\254 261.73\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.74\"],\"flag1\":true,\"value2\":785125129,\"error\":null,\"flag2\":false,\""
+     "values\":[693701289,1200653403,1707605517,67073983,574026097,1080978211,1587930325,20948"
+     "82439],\"flag3\":true,\"constraint1\":null,\"constraint2\":null,\"text6\":\"K\303\274hle"
+     "r\\u0009\360\237\224\247 261.75\",\"text7\":\"say \\\"\303\251\\\" 261.76\",\"flag4\":fa"
+     "lse,\"unit\":null}],\"text5\":\"back\\\\slash \303\237 261.77\",\"names\":[\"Z\303\274nd"
+     "ung \360\237\232\227 261.78\",\"Pr\303\274fstand \342\202\254 261.79\"],\"flag1\":true,"
+     "\"value2\":-1292077243,\"error\":{\"code\":1799029357,\"message\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.80\",\"details\":\"K\303\274hler\\u0009\360\237"
+     "\224\247 261.81\",\"subCode\":-158497825,\"mvciError\":{\"code\":665449939,\"codeText\":"
+     "\"say \\\"\303\251\\\" 261.82\",\"vendorCode\":-1172402053,\"vendorCodeText\":\"back\\\\"
+     "slash \303\237 261.83\",\"extraText\":\"Z\303\274ndung \360\237\232\227 261.84\",\"extra"
+     "Code\":1679354167},\"negativeResponse\":{\"code\":-38822633,\"text\":\"Pr\303\274fstand "
+     "\342\202\254 261.85\",\"value1\":4294967296,\"value2\":1531427625,\"bytes\":[0,255,255,1"
+     "28]}},\"flag2\":false,\"values\":[454350907,961303021,1468255135,1975207249,334675715,84"
+     "1627829,1348579943,1855532057],\"flag3\":true,\"constraint1\":{\"text1\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.86\",\"text2\":\"K\303\274hler\\u0009\360"
+     "\237\224\247 261.87\",\"flag\":false,\"scales\":[{\"itemText1\":\"say \\\"\303\251\\\" 2"
+     "61.88\",\"itemText2\":\"back\\\\slash \303\237 261.89\",\"itemText3\":\"Z\303\274ndung "
+     "\360\237\232\227 261.90\",\"itemText4\":\"Pr\303\274fstand \342\202\254 261.91\",\"text1"
+     "\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.92\",\"text2\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 261.93\",\"flag\":true,\"value\":545774747},{\"itemText1"
+     "\":\"say \\\"\303\251\\\" 261.94\",\"itemText2\":\"back\\\\slash \303\237 261.95\",\"ite"
+     "mText3\":\"Z\303\274ndung \360\237\232\227 261.96\",\"itemText4\":\"Pr\303\274fstand "
+     "\342\202\254 261.97\",\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 "
+     "261.98\",\"text2\":\"K\303\274hler\\u0009\360\237\224\247 261.99\",\"flag\":false,\"valu"
+     "e\":-1052726861}]},\"constraint2\":{\"text1\":\"say \\\"\303\251\\\" 261.100\",\"text2\""
+     ":\"back\\\\slash \303\237 261.101\",\"flag\":true,\"scales\":[{\"itemText1\":\"Z\303\274"
+     "ndung \360\237\232\227 261.102\",\"itemText2\":\"Pr\303\274fstand \342\202\254 261.103\""
+     ",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.104\",\"itemT"
+     "ext4\":\"K\303\274hler\\u0009\360\237\224\247 261.105\",\"text1\":\"say \\\"\303\251\\\""
+     " 261.106\",\"text2\":\"back\\\\slash \303\237 261.107\",\"flag\":false,\"value\":1559678"
+     "975},{\"itemText1\":\"Z\303\274ndung \360\237\232\227 261.108\",\"itemText2\":\"Pr\303"
+     "\274fstand \342\202\254 261.109\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 261.110\",\"itemText4\":\"K\303\274hler\\u0009\360\237\224\247 261.111"
+     "\",\"text1\":\"say \\\"\303\251\\\" 261.112\",\"text2\":\"back\\\\slash \303\237 261.113"
+     "\",\"flag\":true,\"value\":-2066631089}]},\"text6\":\"Z\303\274ndung \360\237\232\227 26"
+     "1.114\",\"text7\":\"Pr\303\274fstand \342\202\254 261.115\",\"flag4\":false,\"unit\":{\""
+     "values\":[215000525,721952639,1228904753,1735856867,95325333,602277447,1109229561],\"val"
+     "ue1\":2038379739,\"flag1\":true,\"value2\":397848207,\"flag2\":false}},{\"itemText1\":\""
+     "\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.116\",\"itemText2\":\"K\303"
+     "\274hler\\u0009\360\237\224\247 261.117\",\"itemText3\":\"say \\\"\303\251\\\" 261.118\""
+     ",\"itemText4\":\"back\\\\slash \303\237 261.119\",\"text1\":\"Z\303\274ndung \360\237"
+     "\232\227 261.120\",\"text2\":\"Pr\303\274fstand \342\202\254 261.121\",\"text3\":\"\346"
+     "\227\245\346\234\254\350\252\236 \360\235\204\236 261.122\",\"value1\":426099557,\"text4"
+     "\":\"K\303\274hler\\u0009\360\237\224\247 261.123\",\"children\":[],\"text5\":\"say \\\""
+     "\303\251\\\" 261.124\",\"names\":[\"back\\\\slash \303\237 261.125\",\"Z\303\274ndung "
+     "\360\237\232\227 261.126\"],\"flag1\":true,\"value2\":-933051671,\"error\":null,\"flag2"
+     "\":false,\"values\":[1616181675,2123133789,482602257,989554371,1496506485,2003458599,362"
+     "927065,869879179],\"flag3\":true,\"constraint1\":null,\"constraint2\":null,\"text6\":\"P"
+     "r\303\274fstand \342\202\254 261.127\",\"text7\":\"\346\227\245\346\234\254\350\252\236 "
+     "\360\235\204\236 261.128\",\"flag4\":false,\"unit\":null}],\"choices\":[\"K\303\274hler"
+     "\\u0009\360\237\224\247 261.129\",\"say \\\"\303\251\\\" 261.130\"],\"error\":{\"code\":"
+     "1440003785,\"message\":\"back\\\\slash \303\237 261.131\",\"details\":\"Z\303\274ndung "
+     "\360\237\232\227 261.132\",\"subCode\":-1946955899,\"mvciError\":{\"code\":306424365,\"c"
+     "odeText\":\"Pr\303\274fstand \342\202\254 261.133\",\"vendorCode\":-813376479,\"vendorCo"
+     "deText\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.134\",\"extraText\""
+     ":\"K\303\274hler\\u0009\360\237\224\247 261.135\",\"extraCode\":1320328593},\"negativeRe"
+     "sponse\":{\"code\":-1827280707,\"text\":\"say \\\"\303\251\\\" 261.136\",\"value1\":9048"
+     "00321,\"value2\":1411752435,\"bytes\":[0,255,127,1]}},\"constraints\":[{\"text1\":\"back"
+     "\\\\slash \303\237 261.137\",\"text2\":\"Z\303\274ndung \360\237\232\227 261.138\",\"fla"
+     "g\":true,\"scales\":[{\"itemText1\":\"Pr\303\274fstand \342\202\254 261.139\",\"itemText"
+     "2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 261.140\",\"itemText3\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 261.141\",\"itemText4\":\"say \\\"\303\251\\\" 261.1"
+     "42\",\"text1\":\"back\\\\slash \303\237 261.143\",\"text2\":\"Z\303\274ndung \360\237"
+     "\232\227 261.144\",\"flag\":false,\"value\":186749175},{\"itemText1\":\"Pr\303\274fstand"
+     " \342\202\254 261.145\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 261.146\",\"itemText3\":\"K\303\274hler\\u0009\360\237\224\247 261.147\",\"item"
+     "Text4\":\"say \\\"\303\251\\\" 261.148\",\"text1\":\"back\\\\slash \303\237 261.149\",\""
+     "text2\":\"Z\303\274ndung \360\237\232\227 261.150\",\"flag\":true,\"value\":-693701289}]"
+     "},{\"text1\":\"Pr\303\274fstand \342\202\254 261.151\",\"text2\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 261.152\",\"flag\":false,\"scales\":[]}],\"tcp\":{\"va"
+     "lue1\":7,\"value2\":9,\"value3\":248,\"value4\":1376831293,\"value5\":1883783407,\"value"
+     "6\":243251875},\"value1\":750203989,\"flag\":true},{\"itemText1\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 261.153\",\"itemText2\":\"say \\\"\303\251\\\" 261.154\",\"itemText3\":"
+     "\"back\\\\slash \303\237 261.155\",\"itemText4\":\"Z\303\274ndung \360\237\232\227 261.1"
+     "56\",\"value\":\"Pr\303\274fstand \342\202\254 261.157\",\"defaultValue\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 261.158\",\"infos\":[],\"choices\":[\"K\303"
+     "\274hler\\u0009\360\237\224\247 261.159\",\"say \\\"\303\251\\\" 261.160\"],\"error\":nu"
+     "ll,\"constraints\":[],\"tcp\":null,\"value1\":1257156103,\"flag\":false}]},{\"text1\":\""
+     "back\\\\slash \303\237 261.161\",\"text2\":\"Z\303\274ndung \360\237\232\227 261.162\","
+     "\"text3\":\"Pr\303\274fstand \342\202\254 261.163\",\"text4\":\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 261.164\",\"parameters\":[]}]]",
+     "01", "", 0},
+    {"sparse", "[[]]", "[[]]", "null", nullptr, "00000000", "00000000", "[[]]", "[[]]", "01", "",
+     0},
+};
+
+struct SetGlobalProtocolParameterSetsExport {
+    static constexpr const char* operation = "setGlobalProtocolParameterSets";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kc::RecordList<GlobalProtocolParameterSet, release_GlobalProtocolParameterSet_array> a0(
+            in[0]);
+        static_cast<void>(out);
+        kel_setGlobalProtocolParameterSets(api, error, a0.data(), a0.count());
+    }
+};
+
+TEST_F(Projects, setGlobalProtocolParameterSets_Exchange) {
+    kc::exchange<SetGlobalProtocolParameterSetsExport>(api, kSetGlobalProtocolParameterSetsCases);
+}
+TEST_F(Projects, setGlobalProtocolParameterSets_Failure) {
+    kc::failure<SetGlobalProtocolParameterSetsExport>(api, kSetGlobalProtocolParameterSetsCases);
+}
+
+const kc::Number kNumber79{79, "setGlobalProtocolParameterSets",
+                           kSetGlobalProtocolParameterSetsCases};
+
+TEST_F(ProjectsByNumber, n79_setGlobalProtocolParameterSets_KelCall) {
+    kc::kelCall(api, kNumber79);
+}
+TEST_F(ProjectsByNumber, n79_setGlobalProtocolParameterSets_PyCall) { kc::pyCall(api, kNumber79); }
+TEST_F(ProjectsByNumber, n79_setGlobalProtocolParameterSets_Failure) {
+    kc::numberFailure(api, kNumber79);
+}
+TEST_F(ProjectsByNumber, n79_setGlobalProtocolParameterSets_ShortInput) {
+    kc::shortInput(api, kNumber79);
 }
 
 // ---- getStatusInfo (position 262, number 88) ----
@@ -1678,6 +3778,22 @@ const kc::Case kGetStatusInfoCases[] = {
      0},
     {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
 };
+
+struct GetStatusInfoExport {
+    static constexpr const char* operation = "getStatusInfo";
+    using Result = kc::RecordResult<StatusInfo, release_StatusInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getStatusInfo(api, error, &out.data);
+    }
+};
+
+TEST_F(Projects, getStatusInfo_Exchange) {
+    kc::exchange<GetStatusInfoExport>(api, kGetStatusInfoCases);
+}
+TEST_F(Projects, getStatusInfo_Failure) {
+    kc::failure<GetStatusInfoExport>(api, kGetStatusInfoCases);
+}
 
 const kc::Number kNumber88{88, "getStatusInfo", kGetStatusInfoCases};
 

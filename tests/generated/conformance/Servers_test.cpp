@@ -261,6 +261,18 @@ const kc::Case kGetUsersCases[] = {
     {"empty", "[]", "[]", "[]", "null", "", "", "[]", "[]", "0100000000", "00000000", 0},
 };
 
+struct GetUsersExport {
+    static constexpr const char* operation = "getUsers";
+    using Result = kc::ListResult<UserInfo, release_UserInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getUsers(api, error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Servers, getUsers_Exchange) { kc::exchange<GetUsersExport>(api, kGetUsersCases); }
+TEST_F(Servers, getUsers_Failure) { kc::failure<GetUsersExport>(api, kGetUsersCases); }
+
 const kc::Number kNumber160{160, "getUsers", kGetUsersCases};
 
 TEST_F(ServersByNumber, n160_getUsers_KelCall) { kc::kelCall(api, kNumber160); }

@@ -1589,6 +1589,22 @@ const kc::Case kGetIdentificationValueInfosCases[] = {
      "00000000", 0},
 };
 
+struct GetIdentificationValueInfosExport {
+    static constexpr const char* operation = "getIdentificationValueInfos";
+    using Result = kc::ListResult<ParameterInfo, release_ParameterInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kel_getIdentificationValueInfos(api, a0.get(), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Services, getIdentificationValueInfos_Exchange) {
+    kc::exchange<GetIdentificationValueInfosExport>(api, kGetIdentificationValueInfosCases);
+}
+TEST_F(Services, getIdentificationValueInfos_Failure) {
+    kc::failure<GetIdentificationValueInfosExport>(api, kGetIdentificationValueInfosCases);
+}
+
 const kc::Number kNumber41{41, "getIdentificationValueInfos", kGetIdentificationValueInfosCases};
 
 TEST_F(ServicesByNumber, n41_getIdentificationValueInfos_KelCall) { kc::kelCall(api, kNumber41); }
@@ -2259,6 +2275,23 @@ const kc::Case kGetActuatorServiceInfosCases[] = {
     {"empty", "[\"\",\"\"]", "[\"\",\"\"]", "[]", "null", "0000000000000000", "0000", "[\"\",\"\"]",
      "[\"\",\"\"]", "0100000000", "00000000", 0},
 };
+
+struct GetActuatorServiceInfosExport {
+    static constexpr const char* operation = "getActuatorServiceInfos";
+    using Result = kc::ListResult<ParameterInfo, release_ParameterInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        const kc::Text a1(in[1]);
+        kel_getActuatorServiceInfos(api, a0.get(), a1.get(), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Services, getActuatorServiceInfos_Exchange) {
+    kc::exchange<GetActuatorServiceInfosExport>(api, kGetActuatorServiceInfosCases);
+}
+TEST_F(Services, getActuatorServiceInfos_Failure) {
+    kc::failure<GetActuatorServiceInfosExport>(api, kGetActuatorServiceInfosCases);
+}
 
 const kc::Number kNumber89{89, "getActuatorServiceInfos", kGetActuatorServiceInfosCases};
 

@@ -38,10 +38,62 @@ inline void describe(Out& o, const TargetStatus& r);
 inline void build(const Json& j, TargetStatus& r);
 inline void describe(Out& o, const TargetFilter& r);
 inline void build(const Json& j, TargetFilter& r);
+inline void describe(Out& o, const ParameterInfo& r);
+inline void build(const Json& j, ParameterInfo& r);
+inline void describe(Out& o, const ConstraintInfo& r);
+inline void build(const Json& j, ConstraintInfo& r);
+inline void describe(Out& o, const ScaleConstraintInfo& r);
+inline void build(const Json& j, ScaleConstraintInfo& r);
+inline void describe(Out& o, const UnitInfo& r);
+inline void build(const Json& j, UnitInfo& r);
 inline void describe(Out& o, const KelEvent& r);
 inline void build(const Json& j, KelEvent& r);
 inline void describe(Out& o, const EventReport& r);
 inline void build(const Json& j, EventReport& r);
+inline void describe(Out& o, const FileFilter& r);
+inline void build(const Json& j, FileFilter& r);
+inline void describe(Out& o, const TargetConfig& r);
+inline void build(const Json& j, TargetConfig& r);
+inline void describe(Out& o, const ProjectConfig& r);
+inline void build(const Json& j, ProjectConfig& r);
+inline void describe(Out& o, const ProjectDetails& r);
+inline void build(const Json& j, ProjectDetails& r);
+inline void describe(Out& o, const DbFileInfo& r);
+inline void build(const Json& j, DbFileInfo& r);
+inline void describe(Out& o, const SystemInfo& r);
+inline void build(const Json& j, SystemInfo& r);
+inline void describe(Out& o, const SystemProperty& r);
+inline void build(const Json& j, SystemProperty& r);
+inline void describe(Out& o, const TarnApiConfig& r);
+inline void build(const Json& j, TarnApiConfig& r);
+inline void describe(Out& o, const ServerConfig& r);
+inline void build(const Json& j, ServerConfig& r);
+inline void describe(Out& o, const Oauth2Config& r);
+inline void build(const Json& j, Oauth2Config& r);
+inline void describe(Out& o, const MoxConfig& r);
+inline void build(const Json& j, MoxConfig& r);
+inline void describe(Out& o, const TcpInfo& r);
+inline void build(const Json& j, TcpInfo& r);
+inline void describe(Out& o, const StatusInfo& r);
+inline void build(const Json& j, StatusInfo& r);
+inline void describe(Out& o, const TransmissionInfo& r);
+inline void build(const Json& j, TransmissionInfo& r);
+inline void describe(Out& o, const ProcessInfo& r);
+inline void build(const Json& j, ProcessInfo& r);
+inline void describe(Out& o, const ProcessEntry& r);
+inline void build(const Json& j, ProcessEntry& r);
+inline void describe(Out& o, const ProcessThread& r);
+inline void build(const Json& j, ProcessThread& r);
+inline void describe(Out& o, const ProcessMemory& r);
+inline void build(const Json& j, ProcessMemory& r);
+inline void describe(Out& o, const GlobalProtocolParameterSet& r);
+inline void build(const Json& j, GlobalProtocolParameterSet& r);
+inline void describe(Out& o, const GlobalProtocolParameter& r);
+inline void build(const Json& j, GlobalProtocolParameter& r);
+inline void describe(Out& o, const LoadDatabaseResult& r);
+inline void build(const Json& j, LoadDatabaseResult& r);
+inline void describe(Out& o, const UserInfo& r);
+inline void build(const Json& j, UserInfo& r);
 
 inline void describe(Out& o, const MvciServerError& r) {
     o.member("code", r.code);
@@ -337,6 +389,119 @@ inline void build(const Json& j, TargetFilter& r) {
     set(j.at("value"), r.value);
 }
 
+inline void describe(Out& o, const ParameterInfo& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("text3", r.text3);
+    o.member("value1", r.value1);
+    o.member("text4", r.text4);
+    o.member("children", r.children, r.childCount);
+    o.member("childCount", r.childCount);
+    o.member("text5", r.text5);
+    o.member("names", r.names, r.nameCount);
+    o.member("nameCount", r.nameCount);
+    o.member("flag1", r.flag1);
+    o.member("value2", r.value2);
+    o.member("error", r.error);
+    o.member("flag2", r.flag2);
+    o.member("values", r.values);
+    o.member("flag3", r.flag3);
+    o.member("constraint1", r.constraint1);
+    o.member("constraint2", r.constraint2);
+    o.member("text6", r.text6);
+    o.member("text7", r.text7);
+    o.member("flag4", r.flag4);
+    o.member("unit", r.unit);
+    o.end();
+}
+
+inline void build(const Json& j, ParameterInfo& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("text3"), r.text3);
+    set(j.at("value1"), r.value1);
+    set(j.at("text4"), r.text4);
+    set(j.at("children"), r.children, r.childCount);
+    set(j.at("text5"), r.text5);
+    set(j.at("names"), r.names, r.nameCount);
+    set(j.at("flag1"), r.flag1);
+    set(j.at("value2"), r.value2);
+    set(j.at("error"), r.error);
+    set(j.at("flag2"), r.flag2);
+    set(j.at("values"), r.values);
+    set(j.at("flag3"), r.flag3);
+    set(j.at("constraint1"), r.constraint1);
+    set(j.at("constraint2"), r.constraint2);
+    set(j.at("text6"), r.text6);
+    set(j.at("text7"), r.text7);
+    set(j.at("flag4"), r.flag4);
+    set(j.at("unit"), r.unit);
+}
+
+inline void describe(Out& o, const ConstraintInfo& r) {
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("flag", r.flag);
+    o.member("scales", r.scales, r.scaleCount);
+    o.member("scaleCount", r.scaleCount);
+    o.end();
+}
+
+inline void build(const Json& j, ConstraintInfo& r) {
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("flag"), r.flag);
+    set(j.at("scales"), r.scales, r.scaleCount);
+}
+
+inline void describe(Out& o, const ScaleConstraintInfo& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("flag", r.flag);
+    o.member("value", r.value);
+    o.end();
+}
+
+inline void build(const Json& j, ScaleConstraintInfo& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("flag"), r.flag);
+    set(j.at("value"), r.value);
+}
+
+inline void describe(Out& o, const UnitInfo& r) {
+    o.member("values", r.values);
+    o.member("value1", r.value1);
+    o.member("flag1", r.flag1);
+    o.member("value2", r.value2);
+    o.member("flag2", r.flag2);
+    o.end();
+}
+
+inline void build(const Json& j, UnitInfo& r) {
+    set(j.at("values"), r.values);
+    set(j.at("value1"), r.value1);
+    set(j.at("flag1"), r.flag1);
+    set(j.at("value2"), r.value2);
+    set(j.at("flag2"), r.flag2);
+}
+
 inline void describe(Out& o, const KelEvent& r) {
     o.member("name", r.name);
     o.member("kind", r.kind);
@@ -363,6 +528,475 @@ inline void describe(Out& o, const EventReport& r) {
 }
 
 inline void build(const Json& j, EventReport& r) { set(j.at("events"), r.events, r.eventCount); }
+
+inline void describe(Out& o, const FileFilter& r) {
+    o.member("pattern", r.pattern);
+    o.member("flag", r.flag);
+    o.member("value", r.value);
+    o.end();
+}
+
+inline void build(const Json& j, FileFilter& r) {
+    set(j.at("pattern"), r.pattern);
+    set(j.at("flag"), r.flag);
+    set(j.at("value"), r.value);
+}
+
+inline void describe(Out& o, const TargetConfig& r) {
+    o.member("value", r.value);
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.end();
+}
+
+inline void build(const Json& j, TargetConfig& r) {
+    set(j.at("value"), r.value);
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+}
+
+inline void describe(Out& o, const ProjectConfig& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("filters1", r.filters1, r.filterCount1);
+    o.member("filterCount1", r.filterCount1);
+    o.member("value0", r.value0);
+    o.member("targets", r.targets, r.targetCount);
+    o.member("targetCount", r.targetCount);
+    o.member("filters2", r.filters2, r.filterCount2);
+    o.member("filterCount2", r.filterCount2);
+    o.member("strings1", r.strings1, r.stringCount1);
+    o.member("stringCount1", r.stringCount1);
+    o.member("text1", r.text1);
+    o.member("value1", r.value1);
+    o.member("text2", r.text2);
+    o.member("strings2", r.strings2, r.stringCount2);
+    o.member("stringCount2", r.stringCount2);
+    o.member("text3", r.text3);
+    o.member("value2", r.value2);
+    o.member("value3", r.value3);
+    o.member("flags", r.flags);
+    o.end();
+}
+
+inline void build(const Json& j, ProjectConfig& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("filters1"), r.filters1, r.filterCount1);
+    set(j.at("value0"), r.value0);
+    set(j.at("targets"), r.targets, r.targetCount);
+    set(j.at("filters2"), r.filters2, r.filterCount2);
+    set(j.at("strings1"), r.strings1, r.stringCount1);
+    set(j.at("text1"), r.text1);
+    set(j.at("value1"), r.value1);
+    set(j.at("text2"), r.text2);
+    set(j.at("strings2"), r.strings2, r.stringCount2);
+    set(j.at("text3"), r.text3);
+    set(j.at("value2"), r.value2);
+    set(j.at("value3"), r.value3);
+    set(j.at("flags"), r.flags);
+}
+
+inline void describe(Out& o, const ProjectDetails& r) {
+    o.member("dbFiles1", r.dbFiles1, r.dbFileCount1);
+    o.member("dbFileCount1", r.dbFileCount1);
+    o.member("dbFiles2", r.dbFiles2, r.dbFileCount2);
+    o.member("dbFileCount2", r.dbFileCount2);
+    o.member("text1", r.text1);
+    o.member("value1", r.value1);
+    o.member("text2", r.text2);
+    o.member("value2", r.value2);
+    o.member("users", r.users, r.userCount);
+    o.member("userCount", r.userCount);
+    o.end();
+}
+
+inline void build(const Json& j, ProjectDetails& r) {
+    set(j.at("dbFiles1"), r.dbFiles1, r.dbFileCount1);
+    set(j.at("dbFiles2"), r.dbFiles2, r.dbFileCount2);
+    set(j.at("text1"), r.text1);
+    set(j.at("value1"), r.value1);
+    set(j.at("text2"), r.text2);
+    set(j.at("value2"), r.value2);
+    set(j.at("users"), r.users, r.userCount);
+}
+
+inline void describe(Out& o, const DbFileInfo& r) {
+    o.member("name", r.name);
+    o.member("path", r.path);
+    o.member("size", r.size);
+    o.member("loaded", r.loaded);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, DbFileInfo& r) {
+    set(j.at("name"), r.name);
+    set(j.at("path"), r.path);
+    set(j.at("size"), r.size);
+    set(j.at("loaded"), r.loaded);
+    set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const SystemInfo& r) {
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("text1", r.text1);
+    o.member("value3", r.value3);
+    o.member("text2", r.text2);
+    o.member("text3", r.text3);
+    o.member("text4", r.text4);
+    o.end();
+}
+
+inline void build(const Json& j, SystemInfo& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("text1"), r.text1);
+    set(j.at("value3"), r.value3);
+    set(j.at("text2"), r.text2);
+    set(j.at("text3"), r.text3);
+    set(j.at("text4"), r.text4);
+}
+
+inline void describe(Out& o, const SystemProperty& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("value1", r.value1);
+    o.member("children", r.children, r.childCount);
+    o.member("childCount", r.childCount);
+    o.member("text3", r.text3);
+    o.member("error", r.error);
+    o.member("text4", r.text4);
+    o.member("value2", r.value2);
+    o.member("data", r.data, r.dataLength);
+    o.member("dataLength", r.dataLength);
+    o.member("value3", r.value3);
+    o.member("flag", r.flag);
+    o.member("value4", r.value4);
+    o.end();
+}
+
+inline void build(const Json& j, SystemProperty& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("value1"), r.value1);
+    set(j.at("children"), r.children, r.childCount);
+    set(j.at("text3"), r.text3);
+    set(j.at("error"), r.error);
+    set(j.at("text4"), r.text4);
+    set(j.at("value2"), r.value2);
+    set(j.at("data"), r.data, r.dataLength);
+    set(j.at("value3"), r.value3);
+    set(j.at("flag"), r.flag);
+    set(j.at("value4"), r.value4);
+}
+
+inline void describe(Out& o, const TarnApiConfig& r) {
+    o.member("value1", r.value1);
+    o.member("flag1", r.flag1);
+    o.member("flag2", r.flag2);
+    o.member("value2", r.value2);
+    o.member("server", r.server);
+    o.member("value3", r.value3);
+    o.member("value4", r.value4);
+    o.member("value5", r.value5);
+    o.member("flag3", r.flag3);
+    o.member("value6", r.value6);
+    o.member("value7", r.value7);
+    o.member("oauth2Configs", r.oauth2Configs, r.oauth2ConfigCount);
+    o.member("oauth2ConfigCount", r.oauth2ConfigCount);
+    o.member("text", r.text);
+    o.end();
+}
+
+inline void build(const Json& j, TarnApiConfig& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("flag1"), r.flag1);
+    set(j.at("flag2"), r.flag2);
+    set(j.at("value2"), r.value2);
+    set(j.at("server"), r.server);
+    set(j.at("value3"), r.value3);
+    set(j.at("value4"), r.value4);
+    set(j.at("value5"), r.value5);
+    set(j.at("flag3"), r.flag3);
+    set(j.at("value6"), r.value6);
+    set(j.at("value7"), r.value7);
+    set(j.at("oauth2Configs"), r.oauth2Configs, r.oauth2ConfigCount);
+    set(j.at("text"), r.text);
+}
+
+inline void describe(Out& o, const ServerConfig& r) {
+    o.member("address", r.address);
+    o.member("port", r.port);
+    o.member("enabled", r.enabled);
+    o.member("name", r.name);
+    o.end();
+}
+
+inline void build(const Json& j, ServerConfig& r) {
+    set(j.at("address"), r.address);
+    set(j.at("port"), r.port);
+    set(j.at("enabled"), r.enabled);
+    set(j.at("name"), r.name);
+}
+
+inline void describe(Out& o, const Oauth2Config& r) {
+    o.member("issuer", r.issuer);
+    o.member("clientId", r.clientId);
+    o.member("scopes", r.scopes, r.scopeCount);
+    o.member("scopeCount", r.scopeCount);
+    o.member("redirectUrl", r.redirectUrl);
+    o.end();
+}
+
+inline void build(const Json& j, Oauth2Config& r) {
+    set(j.at("issuer"), r.issuer);
+    set(j.at("clientId"), r.clientId);
+    set(j.at("scopes"), r.scopes, r.scopeCount);
+    set(j.at("redirectUrl"), r.redirectUrl);
+}
+
+inline void describe(Out& o, const MoxConfig& r) {
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("text3", r.text3);
+    o.member("text4", r.text4);
+    o.member("text5", r.text5);
+    o.member("flag1", r.flag1);
+    o.member("flag2", r.flag2);
+    o.member("flag3", r.flag3);
+    o.member("value", r.value);
+    o.member("flag4", r.flag4);
+    o.member("flag5", r.flag5);
+    o.member("flag6", r.flag6);
+    o.member("text6", r.text6);
+    o.member("text7", r.text7);
+    o.member("tcp", r.tcp);
+    o.end();
+}
+
+inline void build(const Json& j, MoxConfig& r) {
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("text3"), r.text3);
+    set(j.at("text4"), r.text4);
+    set(j.at("text5"), r.text5);
+    set(j.at("flag1"), r.flag1);
+    set(j.at("flag2"), r.flag2);
+    set(j.at("flag3"), r.flag3);
+    set(j.at("value"), r.value);
+    set(j.at("flag4"), r.flag4);
+    set(j.at("flag5"), r.flag5);
+    set(j.at("flag6"), r.flag6);
+    set(j.at("text6"), r.text6);
+    set(j.at("text7"), r.text7);
+    set(j.at("tcp"), r.tcp);
+}
+
+inline void describe(Out& o, const TcpInfo& r) {
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("value3", r.value3);
+    o.member("value4", r.value4);
+    o.member("value5", r.value5);
+    o.member("value6", r.value6);
+    o.end();
+}
+
+inline void build(const Json& j, TcpInfo& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("value3"), r.value3);
+    set(j.at("value4"), r.value4);
+    set(j.at("value5"), r.value5);
+    set(j.at("value6"), r.value6);
+}
+
+inline void describe(Out& o, const StatusInfo& r) {
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("value3", r.value3);
+    o.member("value4", r.value4);
+    o.member("value5", r.value5);
+    o.member("value6", r.value6);
+    o.member("value7", r.value7);
+    o.member("value8", r.value8);
+    o.end();
+}
+
+inline void build(const Json& j, StatusInfo& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("value3"), r.value3);
+    set(j.at("value4"), r.value4);
+    set(j.at("value5"), r.value5);
+    set(j.at("value6"), r.value6);
+    set(j.at("value7"), r.value7);
+    set(j.at("value8"), r.value8);
+}
+
+inline void describe(Out& o, const TransmissionInfo& r) {
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("value3", r.value3);
+    o.member("value4", r.value4);
+    o.end();
+}
+
+inline void build(const Json& j, TransmissionInfo& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("value3"), r.value3);
+    set(j.at("value4"), r.value4);
+}
+
+inline void describe(Out& o, const ProcessInfo& r) {
+    o.member("processes", r.processes, r.processCount);
+    o.member("processCount", r.processCount);
+    o.member("flag1", r.flag1);
+    o.member("flag2", r.flag2);
+    o.member("text", r.text);
+    o.end();
+}
+
+inline void build(const Json& j, ProcessInfo& r) {
+    set(j.at("processes"), r.processes, r.processCount);
+    set(j.at("flag1"), r.flag1);
+    set(j.at("flag2"), r.flag2);
+    set(j.at("text"), r.text);
+}
+
+inline void describe(Out& o, const ProcessEntry& r) {
+    o.member("value", r.value);
+    o.member("items1", r.items1, r.itemCount1);
+    o.member("itemCount1", r.itemCount1);
+    o.member("text", r.text);
+    o.member("items2", r.items2, r.itemCount2);
+    o.member("itemCount2", r.itemCount2);
+    o.end();
+}
+
+inline void build(const Json& j, ProcessEntry& r) {
+    set(j.at("value"), r.value);
+    set(j.at("items1"), r.items1, r.itemCount1);
+    set(j.at("text"), r.text);
+    set(j.at("items2"), r.items2, r.itemCount2);
+}
+
+inline void describe(Out& o, const ProcessThread& r) {
+    o.member("id", r.id);
+    o.member("name", r.name);
+    o.end();
+}
+
+inline void build(const Json& j, ProcessThread& r) {
+    set(j.at("id"), r.id);
+    set(j.at("name"), r.name);
+}
+
+inline void describe(Out& o, const ProcessMemory& r) {
+    o.member("name", r.name);
+    o.member("bytes", r.bytes);
+    o.end();
+}
+
+inline void build(const Json& j, ProcessMemory& r) {
+    set(j.at("name"), r.name);
+    set(j.at("bytes"), r.bytes);
+}
+
+inline void describe(Out& o, const GlobalProtocolParameterSet& r) {
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("text3", r.text3);
+    o.member("text4", r.text4);
+    o.member("parameters", r.parameters, r.parameterCount);
+    o.member("parameterCount", r.parameterCount);
+    o.end();
+}
+
+inline void build(const Json& j, GlobalProtocolParameterSet& r) {
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("text3"), r.text3);
+    set(j.at("text4"), r.text4);
+    set(j.at("parameters"), r.parameters, r.parameterCount);
+}
+
+inline void describe(Out& o, const GlobalProtocolParameter& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("value", r.value);
+    o.member("defaultValue", r.defaultValue);
+    o.member("infos", r.infos, r.infoCount);
+    o.member("infoCount", r.infoCount);
+    o.member("choices", r.choices, r.choiceCount);
+    o.member("choiceCount", r.choiceCount);
+    o.member("error", r.error);
+    o.member("constraints", r.constraints, r.constraintCount);
+    o.member("constraintCount", r.constraintCount);
+    o.member("tcp", r.tcp);
+    o.member("value1", r.value1);
+    o.member("flag", r.flag);
+    o.end();
+}
+
+inline void build(const Json& j, GlobalProtocolParameter& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("value"), r.value);
+    set(j.at("defaultValue"), r.defaultValue);
+    set(j.at("infos"), r.infos, r.infoCount);
+    set(j.at("choices"), r.choices, r.choiceCount);
+    set(j.at("error"), r.error);
+    set(j.at("constraints"), r.constraints, r.constraintCount);
+    set(j.at("tcp"), r.tcp);
+    set(j.at("value1"), r.value1);
+    set(j.at("flag"), r.flag);
+}
+
+inline void describe(Out& o, const LoadDatabaseResult& r) {
+    o.member("text", r.text);
+    o.member("flag", r.flag);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, LoadDatabaseResult& r) {
+    set(j.at("text"), r.text);
+    set(j.at("flag"), r.flag);
+    set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const UserInfo& r) {
+    o.member("name", r.name);
+    o.member("text", r.text);
+    o.member("value", r.value);
+    o.end();
+}
+
+inline void build(const Json& j, UserInfo& r) {
+    set(j.at("name"), r.name);
+    set(j.at("text"), r.text);
+    set(j.at("value"), r.value);
+}
 
 // The scripted engine failures and what each must give.
 inline std::span<const Failure> scriptedFailures() {
