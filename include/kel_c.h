@@ -470,8 +470,8 @@ struct SystemInfo {
 };
 
 /* One system property of the engine; a property may hold child properties, so the properties
- * form a tree. release_SystemProperty frees a whole tree: the children, the error and the
- * bytes.
+ * form a tree, which release_SystemProperty frees whole. itemText1 is the property's full
+ * name, itemText2 its label, itemText4 its unit.
  * Freed with release_SystemProperty, which frees everything it points to; a list of them with
  * release_SystemProperty_array. */
 struct SystemProperty {

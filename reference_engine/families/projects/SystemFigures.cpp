@@ -49,8 +49,9 @@ HostFigures hostFigures() {
     // the truth.
     using RtlGetVersionFunction = LONG(WINAPI*)(OSVERSIONINFOW*);
     if (HMODULE ntdll = GetModuleHandleW(L"ntdll.dll")) {
+        // Through void (*)(), the one cast between function types that GCC takes as meant.
         auto rtlGetVersion = reinterpret_cast<RtlGetVersionFunction>(
-            reinterpret_cast<void*>(GetProcAddress(ntdll, "RtlGetVersion")));
+            reinterpret_cast<void (*)()>(GetProcAddress(ntdll, "RtlGetVersion")));
         OSVERSIONINFOW version{};
         version.dwOSVersionInfoSize = sizeof version;
         if (rtlGetVersion != nullptr && rtlGetVersion(&version) == 0) {
