@@ -13,11 +13,10 @@ using Records2 =
                      Varno::Kel_cpp::DynInterfaceDetection, Varno::Kel_cpp::ModuleDyn,
                      Varno::Kel_cpp::DeviceInfo, Varno::Kel_cpp::PhysicalLinksOnModule,
                      Varno::Kel_cpp::PhysicalLink, Varno::Kel_cpp::InterfaceConfiguration,
-                     Varno::Kel_cpp::InterfaceConfigurationEntry,
-                     Varno::Kel_cpp::InterfaceConfigurationItem, Varno::Kel_cpp::InterfaceProvider,
+                     Varno::Kel_cpp::InterfaceConfigurationEntry, Varno::Kel_cpp::InterfaceProvider,
                      Varno::Kel_cpp::InterfaceProviderDyn, Varno::Kel_cpp::DoIPParameter,
                      Varno::Kel_cpp::WLanSignalData, Varno::Kel_cpp::SupportedInterface,
-                     Varno::Kel_cpp::MonitoringItem>;
+                     Varno::Kel_cpp::MonitoringItem, Varno::Kel_cpp::MonitoringItemDetail>;
 INSTANTIATE_TYPED_TEST_SUITE_P(Records2, EveryRecordClass, Records2);
 
 } // namespace kel_test::record_classes
