@@ -14,6 +14,7 @@
 #include "VehicleDescription.h"
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
+#include "families/interfaces/Interfaces.h"
 #include "families/lifecycle/Lifecycle.h"
 
 #include <cstdint>
@@ -55,6 +56,8 @@ public:
     LifecycleState lifecycle;
     EventsState events;
     DiagnosticsState diagnostics;
+    // Shared with the asynchronous scans and detections, which may outlive the vehicle.
+    const std::shared_ptr<InterfacesState> interfaces = std::make_shared<InterfacesState>();
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};
