@@ -1184,8 +1184,7 @@ KEL_C_API void kel_addInterface(TarnApi* api, KEL_CONSUMED InterfaceInformation*
  * name1, name2: kept by the caller, read only during the call. */
 KEL_C_API void kel_removeResource(TarnApi* api, KEL_KEPT const wchar_t* name1,
                                   KEL_KEPT const wchar_t* name2, KelError** error);
-/* Lists the vendor module names of an interface: the interface that the record's itemText1
- * names. Position 90.
+/* Lists the vendor module names of an interface. Position 90.
  * interfaceInfo: consumed: the library frees it with release_InterfaceInformation, also when
  * the call fails; NULL passes no record.
  * On success *names and *nameCount receive a string list, NULL and 0 when empty; free it with
@@ -1194,9 +1193,7 @@ KEL_C_API void kel_getVendorModuleNames(TarnApi* api,
                                         KEL_CONSUMED InterfaceInformation* interfaceInfo,
                                         KelError** error, KEL_OUT wchar_t*** names,
                                         KEL_OUT uint32_t* nameCount);
-/* Lists the vendor module names of every interface whose name matches text, where * stands for
- * any text and ? for one character; an empty text matches every interface. Each name once.
- * Position 91.
+/* Lists vendor module names; text selects them as the engine defines. Position 91.
  * text: kept by the caller, read only during the call.
  * On success *names and *nameCount receive a string list, NULL and 0 when empty; free it with
  * release_StringArray(names, nameCount). */
