@@ -95,6 +95,21 @@ typedef struct ProcessMemory ProcessMemory;
 typedef struct GlobalProtocolParameterSet GlobalProtocolParameterSet;
 typedef struct GlobalProtocolParameter GlobalProtocolParameter;
 typedef struct LoadDatabaseResult LoadDatabaseResult;
+typedef struct InterfaceInformation InterfaceInformation;
+typedef struct ResourceInformation ResourceInformation;
+typedef struct InterfaceInformationItem InterfaceInformationItem;
+typedef struct ScanInterfaceResult ScanInterfaceResult;
+typedef struct DynInterfaceDetection DynInterfaceDetection;
+typedef struct ModuleDyn ModuleDyn;
+typedef struct DeviceInfo DeviceInfo;
+typedef struct PhysicalLinksOnModule PhysicalLinksOnModule;
+typedef struct PhysicalLink PhysicalLink;
+typedef struct InterfaceConfiguration InterfaceConfiguration;
+typedef struct InterfaceConfigurationEntry InterfaceConfigurationEntry;
+typedef struct InterfaceProvider InterfaceProvider;
+typedef struct DoIPParameter DoIPParameter;
+typedef struct WLanSignalData WLanSignalData;
+typedef struct SupportedInterface SupportedInterface;
 typedef struct UserInfo UserInfo;
 
 /* The MVCI (ISO 22900) server error beneath an engine error.
@@ -675,6 +690,232 @@ struct LoadDatabaseResult {
     KelError* error; /* the file's own error; NULL when none */
 };
 
+/* A diagnostic interface (a vehicle communication interface) with its resources and vendor
+ * modules. itemText1 is its name, itemText2 its long name, itemText3 its vendor and itemText4
+ * a description.
+ * Freed with release_InterfaceInformation, which frees everything it points to; a list of them
+ * with release_InterfaceInformation_array. */
+struct InterfaceInformation {
+    wchar_t* itemText1;              /* the item's first text, usually its name */
+    wchar_t* itemText2;              /* second text */
+    wchar_t* itemText3;              /* third text */
+    wchar_t* itemText4;              /* fourth text */
+    ResourceInformation** resources; /* the resources on the interface */
+    uint32_t resourceCount;
+    uint8_t flag1; /* 1 while the interface is connected */
+    uint8_t flag2; /* 1 for a dynamic interface, one found on the network by detection */
+    wchar_t*
+        text1; /* the kind of interface, as kel_getSupportedInterfaces names it ("D-PDU", "DoIP") */
+    wchar_t* text2; /* its address: a host name or IP address, or a serial port */
+    uint8_t flag3;  /* 1 while the interface is plugged in (reachable); a scan reports an error for
+                       one that is not */
+    InterfaceInformationItem** items; /* its vendor modules */
+    uint32_t itemCount;
+    uint64_t value; /* the engine's handle of the interface, never 0 once the engine knows it;
+                       ignored on input */
+};
+
+/* One resource on a diagnostic interface (a protocol on a physical link); also the input of
+ * kel_addResource. itemText1 is its name, itemText2 a description, itemText3 its protocol and
+ * itemText4 the physical link it uses.
+ * Freed with release_ResourceInformation, which frees everything it points to; a list of them
+ * with release_ResourceInformation_array. */
+struct ResourceInformation {
+    wchar_t* itemText1; /* the item's first text, usually its name */
+    wchar_t* itemText2; /* second text */
+    wchar_t* itemText3; /* third text */
+    wchar_t* itemText4; /* fourth text */
+    uint32_t
+        id; /* the engine's number of the resource on its interface, from 1; ignored on input */
+    uint32_t
+        pin; /* the vehicle connector pin it uses; kel_addResource sets it from its 16-bit value */
+    uint8_t inUse; /* 1 while a connection uses the resource */
+};
+
+/* A vendor module of an interface (the vendor's D-PDU API module that drives it). itemText1 is
+ * the module's name, itemText2 its vendor, itemText3 its version and itemText4 a description.
+ * Freed with release_InterfaceInformationItem, which frees everything it points to; a list of
+ * them with release_InterfaceInformationItem_array. */
+struct InterfaceInformationItem {
+    wchar_t* itemText1; /* the item's first text, usually its name */
+    wchar_t* itemText2; /* second text */
+    wchar_t* itemText3; /* third text */
+    wchar_t* itemText4; /* fourth text */
+};
+
+/* The outcome of scanning the connection of one interface.
+ * Freed with release_ScanInterfaceResult, which frees everything it points to; a list of them
+ * with release_ScanInterfaceResult_array. */
+struct ScanInterfaceResult {
+    InterfaceInformation*
+        interfaceInfo; /* the interface; NULL when the engine knows no interface of that name */
+    KelError* error;   /* the scan's error for this interface; NULL when it succeeded */
+};
+
+/* What a dynamic interface detection looks for.
+ * Freed with release_DynInterfaceDetection, which frees everything it points to; a list of
+ * them with release_DynInterfaceDetection_array. */
+struct DynInterfaceDetection {
+    wchar_t* namePattern; /* the module names to find, * standing for any text and ? for one
+                             character; empty finds every module */
+    wchar_t* kind;        /* only modules of this kind ("DoIP"); empty finds every kind */
+    uint8_t onlyFree;     /* 1 leaves out modules that are already connected */
+};
+
+/* A dynamically detected interface module.
+ * Freed with release_ModuleDyn, which frees everything it points to; a list of them with
+ * release_ModuleDyn_array. */
+struct ModuleDyn {
+    wchar_t* name;     /* the module's name, by which kel_connectDynInterface connects it */
+    wchar_t* longName; /* its long name */
+    wchar_t* vendor;   /* its vendor */
+    wchar_t* kind;     /* the kind of interface ("DoIP") */
+    wchar_t* address;  /* its network address */
+    InterfaceInformationItem*
+        vendorModule;                /* the vendor module that drives it; NULL when it has none */
+    uint8_t connected;               /* 1 while it is connected */
+    wchar_t* serialNumber;           /* its serial number */
+    wchar_t* firmware;               /* its firmware version */
+    wchar_t* network;                /* the network it was found on */
+    ResourceInformation** resources; /* its resources */
+    uint32_t resourceCount;
+    uint32_t port;     /* the TCP port it listens on */
+    uint8_t exclusive; /* 1 when it was connected for exclusive use */
+    uint64_t handle;   /* the engine's handle of the module, never 0 */
+};
+
+/* A device registered with the engine: one per interface the engine knows.
+ * Freed with release_DeviceInfo, which frees everything it points to; a list of them with
+ * release_DeviceInfo_array. */
+struct DeviceInfo {
+    wchar_t* text1;      /* the interface's name */
+    uint32_t value1;     /* the vendor's number (USB vendor id style); 0 when unknown */
+    uint32_t value2;     /* the product's number; 0 when unknown */
+    wchar_t* text2;      /* the vendor */
+    wchar_t* text3;      /* the serial number */
+    uint32_t value3;     /* the number of resources */
+    wchar_t* text4;      /* the firmware version */
+    wchar_t* text5;      /* the kind of interface */
+    uint32_t value4;     /* the Ethernet pin state */
+    uint32_t value5;     /* the number of physical links */
+    wchar_t* text6;      /* the address */
+    wchar_t** protocols; /* the protocols of its resources, each once, in resource order */
+    uint32_t protocolCount;
+    wchar_t* text7;    /* the long name */
+    wchar_t** modules; /* the names of its vendor modules */
+    uint32_t moduleCount;
+    wchar_t* text8;   /* a description */
+    uint8_t flag;     /* 1 while connected */
+    uint64_t value6;  /* the engine's handle of the interface */
+    uint32_t value7;  /* 1 for a dynamic interface, 0 for a configured one */
+    uint64_t value8;  /* reserved, 0 */
+    uint64_t value9;  /* reserved, 0 */
+    uint64_t value10; /* reserved, 0 */
+};
+
+/* The physical links on one interface module.
+ * Freed with release_PhysicalLinksOnModule, which frees everything it points to; a list of
+ * them with release_PhysicalLinksOnModule_array. */
+struct PhysicalLinksOnModule {
+    wchar_t* module;      /* the module's name: the name of an interface */
+    PhysicalLink** links; /* the module's physical links */
+    uint32_t linkCount;
+};
+
+/* One physical link of a module (a bus line of the vehicle connector). itemText1 is its name,
+ * itemText2 its type ("ISO_11898_2_DWCAN"), itemText3 the connector pins it uses and itemText4
+ * a description.
+ * Freed with release_PhysicalLink, which frees everything it points to; a list of them with
+ * release_PhysicalLink_array. */
+struct PhysicalLink {
+    wchar_t* itemText1; /* the item's first text, usually its name */
+    wchar_t* itemText2; /* second text */
+    wchar_t* itemText3; /* third text */
+    wchar_t* itemText4; /* fourth text */
+    uint32_t baudrate;  /* its speed in bits per second */
+    uint8_t enabled;    /* 1 when the engine may use the link */
+};
+
+/* The engine's configuration of its interfaces.
+ * Freed with release_InterfaceConfiguration, which frees everything it points to; a list of
+ * them with release_InterfaceConfiguration_array. */
+struct InterfaceConfiguration {
+    InterfaceConfigurationEntry** entries; /* one entry per configured interface */
+    uint32_t entryCount;
+};
+
+/* One entry of the interface configuration: one interface.
+ * Freed with release_InterfaceConfigurationEntry, which frees everything it points to; a list
+ * of them with release_InterfaceConfigurationEntry_array. */
+struct InterfaceConfigurationEntry {
+    wchar_t* text1;              /* the interface's name; must not be empty */
+    wchar_t* text2;              /* its long name */
+    wchar_t* text3;              /* its vendor */
+    wchar_t* text4;              /* the kind of interface */
+    wchar_t* text5;              /* its address */
+    uint32_t value;              /* its Ethernet pin state */
+    uint8_t flag;                /* 1 when kel_connectInterfaces connects it */
+    ResourceInformation** items; /* its resources */
+    uint32_t itemCount;
+};
+
+/* A provider of diagnostic interfaces. itemText1 is its name, itemText2 a description,
+ * itemText3 its vendor and itemText4 its version.
+ * Freed with release_InterfaceProvider, which frees everything it points to; a list of them
+ * with release_InterfaceProvider_array. */
+struct InterfaceProvider {
+    wchar_t* itemText1; /* the item's first text, usually its name */
+    wchar_t* itemText2; /* second text */
+    wchar_t* itemText3; /* third text */
+    wchar_t* itemText4; /* fourth text */
+    wchar_t* text;      /* the library through which the engine reaches the provider */
+    uint32_t value;     /* its priority: lower numbers are asked first */
+    uint8_t flag;       /* 1 when the provider is enabled */
+};
+
+/* The engine's default DoIP parameters.
+ * Freed with release_DoIPParameter, which frees everything it points to; a list of them with
+ * release_DoIPParameter_array. */
+struct DoIPParameter {
+    uint32_t value1;   /* the UDP port of vehicle discovery (13400) */
+    uint32_t value2;   /* how long a broadcast waits for vehicle announcements, in milliseconds */
+    wchar_t* text;     /* the broadcast address */
+    uint32_t value3;   /* the TCP port of diagnostic connections (13400) */
+    wchar_t** strings; /* the network adapters the broadcast goes out on */
+    uint32_t stringCount;
+};
+
+/* The WLAN signal of an interface.
+ * Freed with release_WLanSignalData, which frees everything it points to; a list of them with
+ * release_WLanSignalData_array. */
+struct WLanSignalData {
+    uint32_t value1;  /* the signal quality in percent */
+    uint32_t value2;  /* the signal strength, in dBm below 0 (60 means -60 dBm) */
+    uint32_t value3;  /* the noise, in dBm below 0 */
+    uint32_t value4;  /* the channel */
+    uint32_t value5;  /* the frequency in MHz */
+    uint64_t value6;  /* the bytes received since the interface connected */
+    uint32_t value7;  /* the transmit rate in Mbit/s */
+    uint32_t value8;  /* the receive rate in Mbit/s */
+    uint32_t value9;  /* the retransmissions */
+    uint32_t value10; /* the lost beacons */
+    uint16_t value11; /* the channel width in MHz; 16 bits wide, as the engine's */
+    wchar_t* text;    /* the network name (SSID) */
+};
+
+/* A kind of interface the engine supports.
+ * Freed with release_SupportedInterface, which frees everything it points to; a list of them
+ * with release_SupportedInterface_array. */
+struct SupportedInterface {
+    wchar_t*
+        text1; /* the kind's name ("D-PDU", "DoIP"), as InterfaceInformation.text1 carries it */
+    wchar_t* text2;  /* a description */
+    wchar_t** names; /* the protocols it carries */
+    uint32_t nameCount;
+    uint32_t value; /* how many interfaces of the kind the engine takes at most */
+    wchar_t* text3; /* the vendor module that usually drives it */
+};
+
 /* A user of the engine's server.
  * Freed with release_UserInfo, which frees everything it points to; a list of them with
  * release_UserInfo_array. */
@@ -844,6 +1085,47 @@ KEL_C_API void release_GlobalProtocolParameter_array(KEL_CONSUMED GlobalProtocol
 KEL_C_API void release_LoadDatabaseResult(KEL_CONSUMED LoadDatabaseResult* ptr);
 KEL_C_API void release_LoadDatabaseResult_array(KEL_CONSUMED LoadDatabaseResult** ptr,
                                                 uint64_t count);
+KEL_C_API void release_InterfaceInformation(KEL_CONSUMED InterfaceInformation* ptr);
+KEL_C_API void release_InterfaceInformation_array(KEL_CONSUMED InterfaceInformation** ptr,
+                                                  uint64_t count);
+KEL_C_API void release_ResourceInformation(KEL_CONSUMED ResourceInformation* ptr);
+KEL_C_API void release_ResourceInformation_array(KEL_CONSUMED ResourceInformation** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_InterfaceInformationItem(KEL_CONSUMED InterfaceInformationItem* ptr);
+KEL_C_API void release_InterfaceInformationItem_array(KEL_CONSUMED InterfaceInformationItem** ptr,
+                                                      uint64_t count);
+KEL_C_API void release_ScanInterfaceResult(KEL_CONSUMED ScanInterfaceResult* ptr);
+KEL_C_API void release_ScanInterfaceResult_array(KEL_CONSUMED ScanInterfaceResult** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_DynInterfaceDetection(KEL_CONSUMED DynInterfaceDetection* ptr);
+KEL_C_API void release_DynInterfaceDetection_array(KEL_CONSUMED DynInterfaceDetection** ptr,
+                                                   uint64_t count);
+KEL_C_API void release_ModuleDyn(KEL_CONSUMED ModuleDyn* ptr);
+KEL_C_API void release_ModuleDyn_array(KEL_CONSUMED ModuleDyn** ptr, uint64_t count);
+KEL_C_API void release_DeviceInfo(KEL_CONSUMED DeviceInfo* ptr);
+KEL_C_API void release_DeviceInfo_array(KEL_CONSUMED DeviceInfo** ptr, uint64_t count);
+KEL_C_API void release_PhysicalLinksOnModule(KEL_CONSUMED PhysicalLinksOnModule* ptr);
+KEL_C_API void release_PhysicalLinksOnModule_array(KEL_CONSUMED PhysicalLinksOnModule** ptr,
+                                                   uint64_t count);
+KEL_C_API void release_PhysicalLink(KEL_CONSUMED PhysicalLink* ptr);
+KEL_C_API void release_PhysicalLink_array(KEL_CONSUMED PhysicalLink** ptr, uint64_t count);
+KEL_C_API void release_InterfaceConfiguration(KEL_CONSUMED InterfaceConfiguration* ptr);
+KEL_C_API void release_InterfaceConfiguration_array(KEL_CONSUMED InterfaceConfiguration** ptr,
+                                                    uint64_t count);
+KEL_C_API void release_InterfaceConfigurationEntry(KEL_CONSUMED InterfaceConfigurationEntry* ptr);
+KEL_C_API void
+release_InterfaceConfigurationEntry_array(KEL_CONSUMED InterfaceConfigurationEntry** ptr,
+                                          uint64_t count);
+KEL_C_API void release_InterfaceProvider(KEL_CONSUMED InterfaceProvider* ptr);
+KEL_C_API void release_InterfaceProvider_array(KEL_CONSUMED InterfaceProvider** ptr,
+                                               uint64_t count);
+KEL_C_API void release_DoIPParameter(KEL_CONSUMED DoIPParameter* ptr);
+KEL_C_API void release_DoIPParameter_array(KEL_CONSUMED DoIPParameter** ptr, uint64_t count);
+KEL_C_API void release_WLanSignalData(KEL_CONSUMED WLanSignalData* ptr);
+KEL_C_API void release_WLanSignalData_array(KEL_CONSUMED WLanSignalData** ptr, uint64_t count);
+KEL_C_API void release_SupportedInterface(KEL_CONSUMED SupportedInterface* ptr);
+KEL_C_API void release_SupportedInterface_array(KEL_CONSUMED SupportedInterface** ptr,
+                                                uint64_t count);
 KEL_C_API void release_UserInfo(KEL_CONSUMED UserInfo* ptr);
 KEL_C_API void release_UserInfo_array(KEL_CONSUMED UserInfo** ptr, uint64_t count);
 
@@ -874,6 +1156,12 @@ typedef void (*ReadSupportedDtcsCallbackFunction)(ReadDtcResult** results, uint3
 typedef void (*ClearAllDtcsCallbackFunction)(ClearDtcResult** results, uint32_t resultCount,
                                              bool isFinal, uint64_t callId, KelError* error,
                                              void* context);
+/* Reports of kel_scanInterfaceConnectionAsync: free results with
+ * release_ScanInterfaceResult_array. */
+typedef void (*ScanInterfaceConnectionCallbackFunction)(ScanInterfaceResult** results,
+                                                        uint32_t resultCount, bool isFinal,
+                                                        uint64_t callId, KelError* error,
+                                                        void* context);
 /* Reports of kel_readMeasurementValuesAsync: free results with release_ReadDataResult_array. */
 typedef void (*ReadMeasurementValuesCallbackFunction)(ReadDataResult** results,
                                                       uint32_t resultCount, bool isFinal,
@@ -883,6 +1171,14 @@ typedef void (*ReadMeasurementValuesCallbackFunction)(ReadDataResult** results,
 typedef void (*IdentifyTargetsCallbackFunction)(VariantIdentResult** results, uint32_t resultCount,
                                                 bool isFinal, uint64_t callId, KelError* error,
                                                 void* context);
+/* Reports of kel_detectDynInterfacesAsync: free results with release_ModuleDyn_array. */
+typedef void (*DetectDynInterfacesCallbackFunction)(ModuleDyn** results, uint32_t resultCount,
+                                                    bool isFinal, uint64_t callId, KelError* error,
+                                                    void* context);
+/* Reports of kel_detectDynInterfacesExAsync: free results with release_ModuleDyn_array. */
+typedef void (*DetectDynInterfacesExCallbackFunction)(ModuleDyn** results, uint32_t resultCount,
+                                                      bool isFinal, uint64_t callId,
+                                                      KelError* error, void* context);
 /* Reports of kel_clearSpecificDtcsAsync: free results with release_ClearDtcResult_array. */
 typedef void (*ClearSpecificDtcsCallbackFunction)(ClearDtcResult** results, uint32_t resultCount,
                                                   bool isFinal, uint64_t callId, KelError* error,
@@ -1214,13 +1510,6 @@ KEL_C_API void kel_resetSystemProperty(TarnApi* api, KEL_KEPT const wchar_t* nam
  * fails; NULL passes no record. */
 KEL_C_API void kel_setSystemProperty(TarnApi* api, KEL_CONSUMED SystemProperty* property,
                                      KelError** error);
-/* Lists vendor module names; text selects them as the engine defines. Position 91.
- * text: kept by the caller, read only during the call.
- * On success *names and *nameCount receive a string list, NULL and 0 when empty; free it with
- * release_StringArray(names, nameCount). */
-KEL_C_API void kel_getVendorModuleNamesEx(TarnApi* api, KEL_KEPT const wchar_t* text,
-                                          KelError** error, KEL_OUT wchar_t*** names,
-                                          KEL_OUT uint32_t* nameCount);
 /* Reads information about the system that the engine runs on. Position 150.
  * On success *info receives a SystemInfo record, or NULL when the engine gives none; free it
  * with release_SystemInfo. */
@@ -1413,6 +1702,23 @@ KEL_C_API void kel_stopSOVDServer(TarnApi* api, KelError** error);
  * terminal */
 /* Saves the interface configuration. Position 53. */
 KEL_C_API void kel_saveInterfaceConfiguration(TarnApi* api, KelError** error);
+/* Scans the connection of the given interfaces; one result per interface. Position 54.
+ * interfaces: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a ScanInterfaceResult list, NULL and 0 when
+ * empty; free it with release_ScanInterfaceResult_array(results, resultCount). */
+KEL_C_API void kel_scanInterfaceConnection(TarnApi* api, KEL_KEPT wchar_t** interfaces,
+                                           uint32_t interfaceCount, KelError** error,
+                                           KEL_OUT ScanInterfaceResult*** results,
+                                           KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_scanInterfaceConnection. Position 55.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * interfaces: kept by the caller, read only during the call.
+ * callback receives ScanInterfaceResult lists, once or several times until isFinal, on a
+ * thread of the engine; each list and error belong to it, to free with
+ * release_ScanInterfaceResult_array and release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_scanInterfaceConnectionAsync(
+    TarnApi* api, KEL_KEPT wchar_t** interfaces, uint32_t interfaceCount, KelError** error,
+    ScanInterfaceConnectionCallbackFunction callback, void* context);
 /* Reads the long name of an interface. Position 57.
  * name: kept by the caller, read only during the call.
  * On success *longName receives a new string; free it with release_Memory. */
@@ -1433,13 +1739,75 @@ KEL_C_API void kel_createSocketBridge(TarnApi* api, uint32_t value1, uint32_t va
                                       KelError** error, KEL_OUT uint64_t* bridge);
 /* Clears the engine's cache of links. Position 82. */
 KEL_C_API void kel_clearLinkCache(TarnApi* api, KelError** error);
+/* Adds a resource to an interface; value is passed to the engine unchanged. Position 83.
+ * resource: consumed: the library frees it with release_ResourceInformation, also when the
+ * call fails; NULL passes no record.
+ * name: kept by the caller, read only during the call. */
+KEL_C_API void kel_addResource(TarnApi* api, KEL_KEPT const wchar_t* name,
+                               KEL_CONSUMED ResourceInformation* resource, uint16_t value,
+                               KelError** error);
 /* Removes an interface. Position 84.
  * name: kept by the caller, read only during the call. */
 KEL_C_API void kel_removeInterface(TarnApi* api, KEL_KEPT const wchar_t* name, KelError** error);
+/* Adds an interface and returns it as the engine completed it. Position 85.
+ * interfaceInfo: consumed: the library frees it with release_InterfaceInformation, also when
+ * the call fails; NULL passes no record.
+ * text1, text2, text3: kept by the caller, read only during the call.
+ * On success *result receives an InterfaceInformation record, or NULL when the engine gives
+ * none; free it with release_InterfaceInformation. */
+KEL_C_API void kel_addInterface(TarnApi* api, KEL_CONSUMED InterfaceInformation* interfaceInfo,
+                                KEL_KEPT const wchar_t* text1, KEL_KEPT const wchar_t* text2,
+                                KEL_KEPT const wchar_t* text3, KelError** error,
+                                KEL_OUT InterfaceInformation** result);
 /* Removes a resource from an interface. Position 86.
  * name1, name2: kept by the caller, read only during the call. */
 KEL_C_API void kel_removeResource(TarnApi* api, KEL_KEPT const wchar_t* name1,
                                   KEL_KEPT const wchar_t* name2, KelError** error);
+/* Lists the vendor module names of an interface. Position 90.
+ * interfaceInfo: consumed: the library frees it with release_InterfaceInformation, also when
+ * the call fails; NULL passes no record.
+ * On success *names and *nameCount receive a string list, NULL and 0 when empty; free it with
+ * release_StringArray(names, nameCount). */
+KEL_C_API void kel_getVendorModuleNames(TarnApi* api,
+                                        KEL_CONSUMED InterfaceInformation* interfaceInfo,
+                                        KelError** error, KEL_OUT wchar_t*** names,
+                                        KEL_OUT uint32_t* nameCount);
+/* Lists vendor module names; text selects them as the engine defines. Position 91.
+ * text: kept by the caller, read only during the call.
+ * On success *names and *nameCount receive a string list, NULL and 0 when empty; free it with
+ * release_StringArray(names, nameCount). */
+KEL_C_API void kel_getVendorModuleNamesEx(TarnApi* api, KEL_KEPT const wchar_t* text,
+                                          KelError** error, KEL_OUT wchar_t*** names,
+                                          KEL_OUT uint32_t* nameCount);
+/* Detects dynamic interfaces as the detection record says; returns the modules found.
+ * Position 94.
+ * detection: consumed: the library frees it with release_DynInterfaceDetection, also when the
+ * call fails; NULL passes no record.
+ * On success *modules and *moduleCount receive a ModuleDyn list, NULL and 0 when empty; free
+ * it with release_ModuleDyn_array(modules, moduleCount). */
+KEL_C_API void kel_detectDynInterfaces(TarnApi* api, uint32_t value,
+                                       KEL_CONSUMED DynInterfaceDetection* detection,
+                                       KelError** error, KEL_OUT ModuleDyn*** modules,
+                                       KEL_OUT uint32_t* moduleCount);
+/* Asynchronous form of kel_detectDynInterfaces. Position 95.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * detection: consumed: the library frees it with release_DynInterfaceDetection, also when the
+ * call fails; NULL passes no record.
+ * callback receives ModuleDyn lists, once or several times until isFinal, on a thread of the
+ * engine; each list and error belong to it, to free with release_ModuleDyn_array and
+ * release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_detectDynInterfacesAsync(TarnApi* api, uint32_t value,
+                                                KEL_CONSUMED DynInterfaceDetection* detection,
+                                                KelError** error,
+                                                DetectDynInterfacesCallbackFunction callback,
+                                                void* context);
+/* Connects a dynamically detected interface. Position 96.
+ * detection: consumed: the library frees it with release_DynInterfaceDetection, also when the
+ * call fails; NULL passes no record.
+ * name: kept by the caller, read only during the call. */
+KEL_C_API void kel_connectDynInterface(TarnApi* api, KEL_KEPT const wchar_t* name, uint8_t flag,
+                                       KEL_CONSUMED DynInterfaceDetection* detection,
+                                       KelError** error);
 /* Disconnects the given dynamically detected interfaces. Position 97.
  * names: kept by the caller, read only during the call. */
 KEL_C_API void kel_disconnectDynInterfaces(TarnApi* api, KEL_KEPT wchar_t** names,
@@ -1453,6 +1821,21 @@ KEL_C_API void kel_setEthernetPinState(TarnApi* api, uint8_t state, KEL_KEPT wch
  * On success *state receives the result. */
 KEL_C_API void kel_getEthernetPinState(TarnApi* api, KEL_KEPT const wchar_t* interfaceName,
                                        KelError** error, KEL_OUT uint32_t* state);
+/* Detects dynamic interfaces without a detection record; returns the modules found.
+ * Position 121.
+ * On success *modules and *moduleCount receive a ModuleDyn list, NULL and 0 when empty; free
+ * it with release_ModuleDyn_array(modules, moduleCount). */
+KEL_C_API void kel_detectDynInterfacesEx(TarnApi* api, uint32_t value, KelError** error,
+                                         KEL_OUT ModuleDyn*** modules,
+                                         KEL_OUT uint32_t* moduleCount);
+/* Asynchronous form of kel_detectDynInterfacesEx. Position 122.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * callback receives ModuleDyn lists, once or several times until isFinal, on a thread of the
+ * engine; each list and error belong to it, to free with release_ModuleDyn_array and
+ * release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_detectDynInterfacesExAsync(TarnApi* api, uint32_t value, KelError** error,
+                                                  DetectDynInterfacesExCallbackFunction callback,
+                                                  void* context);
 /* Connects a dynamically detected interface without a detection record. Position 123.
  * name: kept by the caller, read only during the call. */
 KEL_C_API void kel_connectDynInterfaceEx(TarnApi* api, KEL_KEPT const wchar_t* name, uint8_t flag,
@@ -1461,17 +1844,76 @@ KEL_C_API void kel_connectDynInterfaceEx(TarnApi* api, KEL_KEPT const wchar_t* n
  * On success *result receives the result. */
 KEL_C_API void kel_testSocketBridge(TarnApi* api, uint64_t bridge, KelError** error,
                                     KEL_OUT uint8_t* result);
+/* Lists the registered devices. Position 149.
+ * On success *devices and *deviceCount receive a DeviceInfo list, NULL and 0 when empty; free
+ * it with release_DeviceInfo_array(devices, deviceCount). */
+KEL_C_API void kel_getRegisteredDevices(TarnApi* api, KelError** error,
+                                        KEL_OUT DeviceInfo*** devices,
+                                        KEL_OUT uint32_t* deviceCount);
+/* Reads the physical links of the given modules. Position 182.
+ * modules: kept by the caller, read only during the call.
+ * On success *links and *linkCount receive a PhysicalLinksOnModule list, NULL and 0 when
+ * empty; free it with release_PhysicalLinksOnModule_array(links, linkCount). */
+KEL_C_API void kel_getPhysicalLinks(TarnApi* api, KEL_KEPT wchar_t** modules, uint32_t moduleCount,
+                                    KelError** error, KEL_OUT PhysicalLinksOnModule*** links,
+                                    KEL_OUT uint32_t* linkCount);
+/* Sets the physical links of modules and returns them as the engine keeps them. Position 183.
+ * links: kept by the caller, read only during the call.
+ * On success *updated and *updatedCount receive a PhysicalLinksOnModule list, NULL and 0 when
+ * empty; free it with release_PhysicalLinksOnModule_array(updated, updatedCount). */
+KEL_C_API void kel_setPhysicalLinks(TarnApi* api, KEL_KEPT PhysicalLinksOnModule** links,
+                                    uint32_t linkCount, KelError** error,
+                                    KEL_OUT PhysicalLinksOnModule*** updated,
+                                    KEL_OUT uint32_t* updatedCount);
 /* Opens the terminal; tells whether it opened. Position 196.
  * On success *opened receives the result. */
 KEL_C_API void kel_openTerminal(TarnApi* api, KelError** error, KEL_OUT uint8_t* opened);
 /* Closes the terminal. Position 197. */
 KEL_C_API void kel_closeTerminal(TarnApi* api, KelError** error);
+/* Reads the WLAN signal data of an interface. Position 204.
+ * interfaceName: kept by the caller, read only during the call.
+ * On success *data receives a WLanSignalData record, or NULL when the engine gives none; free
+ * it with release_WLanSignalData. */
+KEL_C_API void kel_getWLanSignalData(TarnApi* api, KEL_KEPT const wchar_t* interfaceName,
+                                     KelError** error, KEL_OUT WLanSignalData** data);
 /* Clears the collection of ECUs found over DoIP; returns an error record for each entry that
  * the engine reports. Position 205.
  * On success *errors and *errorCount receive a KelError list, NULL and 0 when empty; free it
  * with release_KelError_array(errors, errorCount). */
 KEL_C_API void kel_clearDoIPEcuCollection(TarnApi* api, KelError** error,
                                           KEL_OUT KelError*** errors, KEL_OUT uint32_t* errorCount);
+/* Reads the interface configuration. Position 257.
+ * On success *config receives an InterfaceConfiguration record, or NULL when the engine gives
+ * none; free it with release_InterfaceConfiguration. */
+KEL_C_API void kel_getInterfaceConfiguration(TarnApi* api, KelError** error,
+                                             KEL_OUT InterfaceConfiguration** config);
+/* Sets the interface configuration. Position 258.
+ * config: consumed: the library frees it with release_InterfaceConfiguration, also when the
+ * call fails; NULL passes no record. */
+KEL_C_API void kel_setInterfaceConfiguration(TarnApi* api, KelError** error,
+                                             KEL_CONSUMED InterfaceConfiguration* config);
+/* Lists the supported kinds of interface. Position 265.
+ * On success *interfaces and *interfaceCount receive a SupportedInterface list, NULL and 0
+ * when empty; free it with release_SupportedInterface_array(interfaces, interfaceCount). */
+KEL_C_API void kel_getSupportedInterfaces(TarnApi* api, KelError** error,
+                                          KEL_OUT SupportedInterface*** interfaces,
+                                          KEL_OUT uint32_t* interfaceCount);
+/* Lists the interface providers. Position 266.
+ * On success *providers and *providerCount receive an InterfaceProvider list, NULL and 0 when
+ * empty; free it with release_InterfaceProvider_array(providers, providerCount). */
+KEL_C_API void kel_getInterfaceProviders(TarnApi* api, KelError** error,
+                                         KEL_OUT InterfaceProvider*** providers,
+                                         KEL_OUT uint32_t* providerCount);
+/* Sets the interface providers. Position 267.
+ * providers: kept by the caller, read only during the call. */
+KEL_C_API void kel_setInterfaceProviders(TarnApi* api, KelError** error,
+                                         KEL_KEPT InterfaceProvider** providers,
+                                         uint32_t providerCount);
+/* Reads the default DoIP parameters. Position 272.
+ * On success *parameter receives a DoIPParameter record, or NULL when the engine gives none;
+ * free it with release_DoIPParameter. */
+KEL_C_API void kel_getDefaultDoIPParameter(TarnApi* api, KelError** error,
+                                           KEL_OUT DoIPParameter** parameter);
 
 /* ---- Monitoring ----
  * Monitoring links, PDU monitors, trace-file monitoring and the API trace */

@@ -48,6 +48,19 @@ enum ErrorCode : int32_t {
     // Servers: 1300-1399.
 
     // Interfaces: 1400-1499.
+    UnknownInterface = 1400,
+    UnknownResource = 1401,
+    NameTaken = 1402, // an interface or resource of that name exists already
+    InterfaceUnplugged = 1403,
+    NoInterfaceConnected = 1404, // diagnostic calls need a connected interface
+    NoWLan = 1405,
+    UnknownSocketBridge = 1406,
+    DoIPEntityInUse = 1407, // per-entry error of clearDoIPEcuCollection
+    BadInterfaceArgument = 1408,
+    UnknownDoIPEntity = 1409,
+    TerminalNotOpen = 1410,
+    NotDynamicInterface = 1411,  // or not found by the detection given
+    ConfigurationUnsaved = 1412, // the interface configuration cannot be written
 
     // Monitoring: 1500-1599.
 

@@ -14,6 +14,7 @@ struct Parts {
     LifecycleSettings lifecycle;
     EventsSettings events;
     DiagnosticsSettings diagnostics;
+    InterfacesSettings interfaces;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -22,6 +23,7 @@ Parts parseParts(const VehicleDescription& description) {
     parts.lifecycle = LifecycleSettings::parse(description.section("lifecycle"));
     parts.events = EventsSettings::parse(description.section("events"));
     parts.diagnostics = DiagnosticsSettings::parse(description.section("diagnostics"));
+    parts.interfaces = InterfacesSettings::parse(description.section("interfaces"));
     return parts;
 }
 
@@ -86,6 +88,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     lifecycle.load(parts.lifecycle);
     events.load(parts.events);
     diagnostics.load(parts.diagnostics);
+    interfaces->load(parts.interfaces);
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -95,6 +98,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.events = std::make_shared<Events>(vehicle, object);
     families.diagnostics = std::make_shared<Diagnostics>(vehicle);
     families.projects = std::make_shared<Projects>(vehicle, object);
+    families.interfaces = std::make_shared<Interfaces>(vehicle);
     return families;
 }
 

@@ -14,6 +14,7 @@
 #include "VehicleDescription.h"
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
+#include "families/interfaces/Interfaces.h"
 #include "families/lifecycle/Lifecycle.h"
 #include "families/projects/Projects.h"
 
@@ -57,6 +58,8 @@ public:
     EventsState events;
     DiagnosticsState diagnostics;
     ProjectsState projects;
+    // Shared with the asynchronous scans and detections, which may outlive the vehicle.
+    const std::shared_ptr<InterfacesState> interfaces = std::make_shared<InterfacesState>();
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};

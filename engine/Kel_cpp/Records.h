@@ -76,7 +76,6 @@ class PhysicalLinksOnModule;
 class PhysicalLink;
 class InterfaceConfiguration;
 class InterfaceConfigurationEntry;
-class InterfaceConfigurationItem;
 class InterfaceProvider;
 class InterfaceProviderDyn;
 class DoIPParameter;
@@ -702,14 +701,17 @@ public:
     uint64_t value = 0;
 };
 
-class ResourceInformation { // fields come with its family
+class ResourceInformation : public virtual NamedItem {
 public:
-    virtual ~ResourceInformation() = default;
+    ~ResourceInformation() override = default;
+    uint32_t id = 0;
+    uint32_t pin = 0;
+    bool inUse = false;
 };
 
-class InterfaceInformationItem { // fields come with its family
+class InterfaceInformationItem : public virtual NamedItem {
 public:
-    virtual ~InterfaceInformationItem() = default;
+    ~InterfaceInformationItem() override = default;
 };
 
 class ScanInterfaceResult {
@@ -719,19 +721,57 @@ public:
     std::shared_ptr<KelError> error;
 };
 
-class DynInterfaceDetection { // fields come with its family
+class DynInterfaceDetection {
 public:
     virtual ~DynInterfaceDetection() = default;
+    std::wstring namePattern;
+    std::wstring kind;
+    bool onlyFree = false;
 };
 
-class ModuleDyn { // fields come with its family
+class ModuleDyn {
 public:
     virtual ~ModuleDyn() = default;
+    std::wstring name;
+    std::wstring longName;
+    std::wstring vendor;
+    std::wstring kind;
+    std::wstring address;
+    std::shared_ptr<InterfaceInformationItem> vendorModule;
+    bool connected = false;
+    std::wstring serialNumber;
+    std::wstring firmware;
+    std::wstring network;
+    std::vector<std::shared_ptr<ResourceInformation>> resources;
+    uint32_t port = 0;
+    bool exclusive = false;
+    uint64_t handle = 0;
 };
 
-class DeviceInfo { // fields come with its family
+class DeviceInfo {
 public:
     virtual ~DeviceInfo() = default;
+    std::wstring text1;
+    uint32_t value1 = 0;
+    uint32_t value2 = 0;
+    std::wstring text2;
+    std::wstring text3;
+    uint32_t value3 = 0;
+    std::wstring text4;
+    std::wstring text5;
+    uint32_t value4 = 0;
+    uint32_t value5 = 0;
+    std::wstring text6;
+    std::vector<std::wstring> protocols;
+    std::wstring text7;
+    std::vector<std::wstring> modules;
+    std::wstring text8;
+    bool flag = false;
+    uint64_t value6 = 0;
+    uint32_t value7 = 0;
+    uint64_t value8 = 0;
+    uint64_t value9 = 0;
+    uint64_t value10 = 0;
 };
 
 class PhysicalLinksOnModule {
@@ -741,9 +781,11 @@ public:
     std::vector<std::shared_ptr<PhysicalLink>> links;
 };
 
-class PhysicalLink { // fields come with its family
+class PhysicalLink : public virtual NamedItem {
 public:
-    virtual ~PhysicalLink() = default;
+    ~PhysicalLink() override = default;
+    uint32_t baudrate = 0;
+    bool enabled = false;
 };
 
 class InterfaceConfiguration {
@@ -762,12 +804,7 @@ public:
     std::wstring text5;
     uint32_t value = 0;
     bool flag = false;
-    std::vector<std::shared_ptr<InterfaceConfigurationItem>> items;
-};
-
-class InterfaceConfigurationItem { // fields come with its family
-public:
-    virtual ~InterfaceConfigurationItem() = default;
+    std::vector<std::shared_ptr<ResourceInformation>> items;
 };
 
 class InterfaceProvider : public virtual NamedItem {

@@ -534,12 +534,22 @@ struct Of<InterfaceInformation> {
 
 template <>
 struct Of<ResourceInformation> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("itemText1", &ResourceInformation::itemText1),
+        member("itemText2", &ResourceInformation::itemText2),
+        member("itemText3", &ResourceInformation::itemText3),
+        member("itemText4", &ResourceInformation::itemText4),
+        member("id", &ResourceInformation::id), member("pin", &ResourceInformation::pin),
+        member("inUse", &ResourceInformation::inUse));
 };
 
 template <>
 struct Of<InterfaceInformationItem> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("itemText1", &InterfaceInformationItem::itemText1),
+                        member("itemText2", &InterfaceInformationItem::itemText2),
+                        member("itemText3", &InterfaceInformationItem::itemText3),
+                        member("itemText4", &InterfaceInformationItem::itemText4));
 };
 
 template <>
@@ -551,17 +561,39 @@ struct Of<ScanInterfaceResult> {
 
 template <>
 struct Of<DynInterfaceDetection> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("namePattern", &DynInterfaceDetection::namePattern),
+                        member("kind", &DynInterfaceDetection::kind),
+                        member("onlyFree", &DynInterfaceDetection::onlyFree));
 };
 
 template <>
 struct Of<ModuleDyn> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("name", &ModuleDyn::name), member("longName", &ModuleDyn::longName),
+        member("vendor", &ModuleDyn::vendor), member("kind", &ModuleDyn::kind),
+        member("address", &ModuleDyn::address), member("vendorModule", &ModuleDyn::vendorModule),
+        member("connected", &ModuleDyn::connected),
+        member("serialNumber", &ModuleDyn::serialNumber), member("firmware", &ModuleDyn::firmware),
+        member("network", &ModuleDyn::network), member("resources", &ModuleDyn::resources),
+        member("port", &ModuleDyn::port), member("exclusive", &ModuleDyn::exclusive),
+        member("handle", &ModuleDyn::handle));
 };
 
 template <>
 struct Of<DeviceInfo> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("text1", &DeviceInfo::text1), member("value1", &DeviceInfo::value1),
+        member("value2", &DeviceInfo::value2), member("text2", &DeviceInfo::text2),
+        member("text3", &DeviceInfo::text3), member("value3", &DeviceInfo::value3),
+        member("text4", &DeviceInfo::text4), member("text5", &DeviceInfo::text5),
+        member("value4", &DeviceInfo::value4), member("value5", &DeviceInfo::value5),
+        member("text6", &DeviceInfo::text6), member("protocols", &DeviceInfo::protocols),
+        member("text7", &DeviceInfo::text7), member("modules", &DeviceInfo::modules),
+        member("text8", &DeviceInfo::text8), member("flag", &DeviceInfo::flag),
+        member("value6", &DeviceInfo::value6), member("value7", &DeviceInfo::value7),
+        member("value8", &DeviceInfo::value8), member("value9", &DeviceInfo::value9),
+        member("value10", &DeviceInfo::value10));
 };
 
 template <>
@@ -572,7 +604,12 @@ struct Of<PhysicalLinksOnModule> {
 
 template <>
 struct Of<PhysicalLink> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(member("itemText1", &PhysicalLink::itemText1),
+                                                 member("itemText2", &PhysicalLink::itemText2),
+                                                 member("itemText3", &PhysicalLink::itemText3),
+                                                 member("itemText4", &PhysicalLink::itemText4),
+                                                 member("baudrate", &PhysicalLink::baudrate),
+                                                 member("enabled", &PhysicalLink::enabled));
 };
 
 template <>
@@ -592,11 +629,6 @@ struct Of<InterfaceConfigurationEntry> {
                         member("value", &InterfaceConfigurationEntry::value),
                         member("flag", &InterfaceConfigurationEntry::flag),
                         member("items", &InterfaceConfigurationEntry::items));
-};
-
-template <>
-struct Of<InterfaceConfigurationItem> {
-    static constexpr auto list = std::make_tuple();
 };
 
 template <>

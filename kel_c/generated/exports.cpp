@@ -146,6 +146,62 @@ void release_LoadDatabaseResult(LoadDatabaseResult* ptr) { kel::release(ptr); }
 void release_LoadDatabaseResult_array(LoadDatabaseResult** ptr, uint64_t count) {
     kel::releaseArray(ptr, count);
 }
+void release_InterfaceInformation(InterfaceInformation* ptr) { kel::release(ptr); }
+void release_InterfaceInformation_array(InterfaceInformation** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ResourceInformation(ResourceInformation* ptr) { kel::release(ptr); }
+void release_ResourceInformation_array(ResourceInformation** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_InterfaceInformationItem(InterfaceInformationItem* ptr) { kel::release(ptr); }
+void release_InterfaceInformationItem_array(InterfaceInformationItem** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ScanInterfaceResult(ScanInterfaceResult* ptr) { kel::release(ptr); }
+void release_ScanInterfaceResult_array(ScanInterfaceResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_DynInterfaceDetection(DynInterfaceDetection* ptr) { kel::release(ptr); }
+void release_DynInterfaceDetection_array(DynInterfaceDetection** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ModuleDyn(ModuleDyn* ptr) { kel::release(ptr); }
+void release_ModuleDyn_array(ModuleDyn** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_DeviceInfo(DeviceInfo* ptr) { kel::release(ptr); }
+void release_DeviceInfo_array(DeviceInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_PhysicalLinksOnModule(PhysicalLinksOnModule* ptr) { kel::release(ptr); }
+void release_PhysicalLinksOnModule_array(PhysicalLinksOnModule** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_PhysicalLink(PhysicalLink* ptr) { kel::release(ptr); }
+void release_PhysicalLink_array(PhysicalLink** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_InterfaceConfiguration(InterfaceConfiguration* ptr) { kel::release(ptr); }
+void release_InterfaceConfiguration_array(InterfaceConfiguration** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_InterfaceConfigurationEntry(InterfaceConfigurationEntry* ptr) { kel::release(ptr); }
+void release_InterfaceConfigurationEntry_array(InterfaceConfigurationEntry** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_InterfaceProvider(InterfaceProvider* ptr) { kel::release(ptr); }
+void release_InterfaceProvider_array(InterfaceProvider** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_DoIPParameter(DoIPParameter* ptr) { kel::release(ptr); }
+void release_DoIPParameter_array(DoIPParameter** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_WLanSignalData(WLanSignalData* ptr) { kel::release(ptr); }
+void release_WLanSignalData_array(WLanSignalData** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_SupportedInterface(SupportedInterface* ptr) { kel::release(ptr); }
+void release_SupportedInterface_array(SupportedInterface** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
 void release_UserInfo(UserInfo* ptr) { kel::release(ptr); }
 void release_UserInfo_array(UserInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
 
@@ -370,6 +426,24 @@ void kel_closeTraceFileMonitoringLink(TarnApi* api, uint64_t handle, KelError** 
 void kel_saveInterfaceConfiguration(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->saveInterfaceConfiguration(); });
 }
+void kel_scanInterfaceConnection(TarnApi* api, wchar_t** interfaces, uint32_t interfaceCount,
+                                 KelError** error, ScanInterfaceResult*** results,
+                                 uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] { return api->scanInterfaceConnection(kel::in::texts(interfaces, interfaceCount)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_scanInterfaceConnectionAsync(TarnApi* api, wchar_t** interfaces,
+                                          uint32_t interfaceCount, KelError** error,
+                                          ScanInterfaceConnectionCallbackFunction callback,
+                                          void* context) {
+    return kel::start<ScanInterfaceConnectionCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->scanInterfaceConnectionAsync(kel::in::texts(interfaces, interfaceCount),
+                                                     handler);
+        });
+}
 void kel_disconnect(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->disconnect(); });
 }
@@ -485,8 +559,24 @@ void kel_getProjectDetails(TarnApi* api, KelError** error, ProjectDetails** deta
 void kel_clearLinkCache(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->clearLinkCache(); });
 }
+void kel_addResource(TarnApi* api, const wchar_t* name, ResourceInformation* resource,
+                     uint16_t value, KelError** error) {
+    kel::invoke(error,
+                [&] { api->addResource(kel::in::text(name), kel::in::record(resource), value); });
+}
 void kel_removeInterface(TarnApi* api, const wchar_t* name, KelError** error) {
     kel::invoke(error, [&] { api->removeInterface(kel::in::text(name)); });
+}
+void kel_addInterface(TarnApi* api, InterfaceInformation* interfaceInfo, const wchar_t* text1,
+                      const wchar_t* text2, const wchar_t* text3, KelError** error,
+                      InterfaceInformation** result) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->addInterface(kel::in::record(interfaceInfo), kel::in::text(text1),
+                                     kel::in::text(text2), kel::in::text(text3));
+        },
+        kel::out::record(result));
 }
 void kel_removeResource(TarnApi* api, const wchar_t* name1, const wchar_t* name2,
                         KelError** error) {
@@ -504,11 +594,37 @@ void kel_resetSystemProperty(TarnApi* api, const wchar_t* name, KelError** error
 void kel_setSystemProperty(TarnApi* api, SystemProperty* property, KelError** error) {
     kel::invoke(error, [&] { api->setSystemProperty(kel::in::record(property)); });
 }
+void kel_getVendorModuleNames(TarnApi* api, InterfaceInformation* interfaceInfo, KelError** error,
+                              wchar_t*** names, uint32_t* nameCount) {
+    kel::invoke(
+        error, [&] { return api->getVendorModuleNames(kel::in::record(interfaceInfo)); },
+        kel::out::texts(names, nameCount));
+}
 void kel_getVendorModuleNamesEx(TarnApi* api, const wchar_t* text, KelError** error,
                                 wchar_t*** names, uint32_t* nameCount) {
     kel::invoke(
         error, [&] { return api->getVendorModuleNamesEx(kel::in::text(text)); },
         kel::out::texts(names, nameCount));
+}
+void kel_detectDynInterfaces(TarnApi* api, uint32_t value, DynInterfaceDetection* detection,
+                             KelError** error, ModuleDyn*** modules, uint32_t* moduleCount) {
+    kel::invoke(
+        error, [&] { return api->detectDynInterfaces(value, kel::in::record(detection)); },
+        kel::out::records(modules, moduleCount));
+}
+uint64_t kel_detectDynInterfacesAsync(TarnApi* api, uint32_t value,
+                                      DynInterfaceDetection* detection, KelError** error,
+                                      DetectDynInterfacesCallbackFunction callback, void* context) {
+    return kel::start<DetectDynInterfacesCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->detectDynInterfacesAsync(value, kel::in::record(detection), handler);
+        });
+}
+void kel_connectDynInterface(TarnApi* api, const wchar_t* name, uint8_t flag,
+                             DynInterfaceDetection* detection, KelError** error) {
+    kel::invoke(error, [&] {
+        api->connectDynInterface(kel::in::text(name), flag != 0, kel::in::record(detection));
+    });
 }
 void kel_disconnectDynInterfaces(TarnApi* api, wchar_t** names, uint32_t nameCount,
                                  KelError** error) {
@@ -557,6 +673,19 @@ void kel_getEthernetPinState(TarnApi* api, const wchar_t* interfaceName, KelErro
     kel::invoke(
         error, [&] { return api->getEthernetPinState(kel::in::text(interfaceName)); },
         kel::out::value(state));
+}
+void kel_detectDynInterfacesEx(TarnApi* api, uint32_t value, KelError** error, ModuleDyn*** modules,
+                               uint32_t* moduleCount) {
+    kel::invoke(
+        error, [&] { return api->detectDynInterfacesEx(value); },
+        kel::out::records(modules, moduleCount));
+}
+uint64_t kel_detectDynInterfacesExAsync(TarnApi* api, uint32_t value, KelError** error,
+                                        DetectDynInterfacesExCallbackFunction callback,
+                                        void* context) {
+    return kel::start<DetectDynInterfacesExCallbackHandler>(
+        error, callback, context,
+        [&](auto* handler) { return api->detectDynInterfacesExAsync(value, handler); });
 }
 void kel_connectDynInterfaceEx(TarnApi* api, const wchar_t* name, uint8_t flag, KelError** error) {
     kel::invoke(error, [&] { api->connectDynInterfaceEx(kel::in::text(name), flag != 0); });
@@ -616,6 +745,12 @@ void kel_releaseVehicleUnlock(TarnApi* api, uint64_t value, KelError** error) {
 }
 void kel_cancelSequence(TarnApi* api, uint64_t run, KelError** error) {
     kel::invoke(error, [&] { api->cancelSequence(run); });
+}
+void kel_getRegisteredDevices(TarnApi* api, KelError** error, DeviceInfo*** devices,
+                              uint32_t* deviceCount) {
+    kel::invoke(
+        error, [&] { return api->getRegisteredDevices(); },
+        kel::out::records(devices, deviceCount));
 }
 void kel_getSystemInfo(TarnApi* api, KelError** error, SystemInfo** info) {
     kel::invoke(
@@ -696,6 +831,19 @@ void kel_getTargetStatus(TarnApi* api, wchar_t** targets, uint32_t targetCount, 
         error, [&] { return api->getTargetStatus(kel::in::texts(targets, targetCount)); },
         kel::out::records(statuses, statusCount));
 }
+void kel_getPhysicalLinks(TarnApi* api, wchar_t** modules, uint32_t moduleCount, KelError** error,
+                          PhysicalLinksOnModule*** links, uint32_t* linkCount) {
+    kel::invoke(
+        error, [&] { return api->getPhysicalLinks(kel::in::texts(modules, moduleCount)); },
+        kel::out::records(links, linkCount));
+}
+void kel_setPhysicalLinks(TarnApi* api, PhysicalLinksOnModule** links, uint32_t linkCount,
+                          KelError** error, PhysicalLinksOnModule*** updated,
+                          uint32_t* updatedCount) {
+    kel::invoke(
+        error, [&] { return api->setPhysicalLinks(kel::in::records(links, linkCount)); },
+        kel::out::records(updated, updatedCount));
+}
 void kel_moveFile(TarnApi* api, const wchar_t* source, const wchar_t* target, KelError** error,
                   uint8_t* moved) {
     kel::invoke(
@@ -740,6 +888,12 @@ void kel_isDirectory(TarnApi* api, const wchar_t* path, KelError** error, uint8_
 void kel_isFile(TarnApi* api, const wchar_t* path, KelError** error, uint8_t* result) {
     kel::invoke(
         error, [&] { return api->isFile(kel::in::text(path)); }, kel::out::value(result));
+}
+void kel_getWLanSignalData(TarnApi* api, const wchar_t* interfaceName, KelError** error,
+                           WLanSignalData** data) {
+    kel::invoke(
+        error, [&] { return api->getWLanSignalData(kel::in::text(interfaceName)); },
+        kel::out::record(data));
 }
 void kel_clearDoIPEcuCollection(TarnApi* api, KelError** error, KelError*** errors,
                                 uint32_t* errorCount) {
@@ -891,6 +1045,14 @@ void kel_getMoxConfiguration(TarnApi* api, KelError** error, MoxConfig** config)
 void kel_setMoxConfiguration(TarnApi* api, KelError** error, MoxConfig* config) {
     kel::invoke(error, [&] { api->setMoxConfiguration(kel::in::record(config)); });
 }
+void kel_getInterfaceConfiguration(TarnApi* api, KelError** error,
+                                   InterfaceConfiguration** config) {
+    kel::invoke(
+        error, [&] { return api->getInterfaceConfiguration(); }, kel::out::record(config));
+}
+void kel_setInterfaceConfiguration(TarnApi* api, KelError** error, InterfaceConfiguration* config) {
+    kel::invoke(error, [&] { api->setInterfaceConfiguration(kel::in::record(config)); });
+}
 void kel_getMonitoringLinks(TarnApi* api, KelError** error, wchar_t*** links, uint32_t* linkCount) {
     kel::invoke(
         error, [&] { return api->getMonitoringLinks(); }, kel::out::texts(links, linkCount));
@@ -921,6 +1083,26 @@ void kel_setSessionTargetFilters(TarnApi* api, KelError** error, TargetFilter** 
     kel::invoke(error,
                 [&] { api->setSessionTargetFilters(kel::in::records(filters, filterCount)); });
 }
+void kel_getSupportedInterfaces(TarnApi* api, KelError** error, SupportedInterface*** interfaces,
+                                uint32_t* interfaceCount) {
+    kel::invoke(
+        error, [&] { return api->getSupportedInterfaces(); },
+        kel::out::records(interfaces, interfaceCount));
+}
+void kel_getInterfaceProviders(TarnApi* api, KelError** error, InterfaceProvider*** providers,
+                               uint32_t* providerCount) {
+    kel::invoke(
+        error, [&] { return api->getInterfaceProviders(); },
+        kel::out::records(providers, providerCount));
+}
+void kel_setInterfaceProviders(TarnApi* api, KelError** error, InterfaceProvider** providers,
+                               uint32_t providerCount) {
+    kel::invoke(error, [&] {
+        api->setInterfaceProviders(
+            kel::in::records<::InterfaceProvider, Varno::Kel_cpp::InterfaceProviderDyn>(
+                providers, providerCount));
+    });
+}
 void kel_getCurrentDebugTraceDirectory(TarnApi* api, KelError** error, wchar_t** directory) {
     kel::invoke(
         error, [&] { return api->getCurrentDebugTraceDirectory(); }, kel::out::text(directory));
@@ -931,6 +1113,10 @@ void kel_getCallDuration(TarnApi* api, KelError** error, uint64_t* duration) {
 }
 void kel_setStatusText(TarnApi* api, KelError** error, const wchar_t* text) {
     kel::invoke(error, [&] { api->setStatusText(kel::in::text(text)); });
+}
+void kel_getDefaultDoIPParameter(TarnApi* api, KelError** error, DoIPParameter** parameter) {
+    kel::invoke(
+        error, [&] { return api->getDefaultDoIPParameter(); }, kel::out::record(parameter));
 }
 
 } // extern "C"

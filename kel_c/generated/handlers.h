@@ -42,6 +42,14 @@ class ClearAllDtcsCallbackHandler final
     using Handler::Handler;
 };
 
+class ScanInterfaceConnectionCallbackHandler final
+    : public kel::Handler<ScanInterfaceConnectionCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ScanInterfaceConnectionCallback,
+                          ::ScanInterfaceResult, Varno::Kel_cpp::ScanInterfaceResult,
+                          ScanInterfaceConnectionCallbackFunction> {
+    using Handler::Handler;
+};
+
 class ReadMeasurementValuesCallbackHandler final
     : public kel::Handler<ReadMeasurementValuesCallbackHandler,
                           Varno::Kel_cpp::TarnApi::ReadMeasurementValuesCallback, ::ReadDataResult,
@@ -53,6 +61,20 @@ class IdentifyTargetsCallbackHandler final
     : public kel::Handler<IdentifyTargetsCallbackHandler,
                           Varno::Kel_cpp::TarnApi::IdentifyTargetsCallback, ::VariantIdentResult,
                           Varno::Kel_cpp::VariantIdentResult, IdentifyTargetsCallbackFunction> {
+    using Handler::Handler;
+};
+
+class DetectDynInterfacesCallbackHandler final
+    : public kel::Handler<DetectDynInterfacesCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::DetectDynInterfacesCallback, ::ModuleDyn,
+                          Varno::Kel_cpp::ModuleDyn, DetectDynInterfacesCallbackFunction> {
+    using Handler::Handler;
+};
+
+class DetectDynInterfacesExCallbackHandler final
+    : public kel::Handler<DetectDynInterfacesExCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::DetectDynInterfacesExCallback, ::ModuleDyn,
+                          Varno::Kel_cpp::ModuleDyn, DetectDynInterfacesExCallbackFunction> {
     using Handler::Handler;
 };
 

@@ -557,6 +557,216 @@ struct Record<::LoadDatabaseResult> {
 };
 
 template <>
+struct Record<::InterfaceInformation> {
+    using Engine = Varno::Kel_cpp::InterfaceInformation;
+    static constexpr const char* name = "InterfaceInformation";
+    static constexpr auto fields = std::make_tuple(
+        field(&::InterfaceInformation::itemText1, &Engine::itemText1),
+        field(&::InterfaceInformation::itemText2, &Engine::itemText2),
+        field(&::InterfaceInformation::itemText3, &Engine::itemText3),
+        field(&::InterfaceInformation::itemText4, &Engine::itemText4),
+        field(&::InterfaceInformation::resources, &::InterfaceInformation::resourceCount,
+              &Engine::resources),
+        field(&::InterfaceInformation::flag1, &Engine::flag1),
+        field(&::InterfaceInformation::flag2, &Engine::flag2),
+        field(&::InterfaceInformation::text1, &Engine::text1),
+        field(&::InterfaceInformation::text2, &Engine::text2),
+        field(&::InterfaceInformation::flag3, &Engine::flag3),
+        field(&::InterfaceInformation::items, &::InterfaceInformation::itemCount, &Engine::items),
+        field(&::InterfaceInformation::value, &Engine::value));
+};
+
+template <>
+struct Record<::ResourceInformation> {
+    using Engine = Varno::Kel_cpp::ResourceInformation;
+    static constexpr const char* name = "ResourceInformation";
+    static constexpr auto fields =
+        std::make_tuple(field(&::ResourceInformation::itemText1, &Engine::itemText1),
+                        field(&::ResourceInformation::itemText2, &Engine::itemText2),
+                        field(&::ResourceInformation::itemText3, &Engine::itemText3),
+                        field(&::ResourceInformation::itemText4, &Engine::itemText4),
+                        field(&::ResourceInformation::id, &Engine::id),
+                        field(&::ResourceInformation::pin, &Engine::pin),
+                        field(&::ResourceInformation::inUse, &Engine::inUse));
+};
+
+template <>
+struct Record<::InterfaceInformationItem> {
+    using Engine = Varno::Kel_cpp::InterfaceInformationItem;
+    static constexpr const char* name = "InterfaceInformationItem";
+    static constexpr auto fields =
+        std::make_tuple(field(&::InterfaceInformationItem::itemText1, &Engine::itemText1),
+                        field(&::InterfaceInformationItem::itemText2, &Engine::itemText2),
+                        field(&::InterfaceInformationItem::itemText3, &Engine::itemText3),
+                        field(&::InterfaceInformationItem::itemText4, &Engine::itemText4));
+};
+
+template <>
+struct Record<::ScanInterfaceResult> {
+    using Engine = Varno::Kel_cpp::ScanInterfaceResult;
+    static constexpr const char* name = "ScanInterfaceResult";
+    static constexpr auto fields =
+        std::make_tuple(field(&::ScanInterfaceResult::interfaceInfo, &Engine::interfaceInfo),
+                        field(&::ScanInterfaceResult::error, &Engine::error));
+};
+
+template <>
+struct Record<::DynInterfaceDetection> {
+    using Engine = Varno::Kel_cpp::DynInterfaceDetection;
+    static constexpr const char* name = "DynInterfaceDetection";
+    static constexpr auto fields =
+        std::make_tuple(field(&::DynInterfaceDetection::namePattern, &Engine::namePattern),
+                        field(&::DynInterfaceDetection::kind, &Engine::kind),
+                        field(&::DynInterfaceDetection::onlyFree, &Engine::onlyFree));
+};
+
+template <>
+struct Record<::ModuleDyn> {
+    using Engine = Varno::Kel_cpp::ModuleDyn;
+    static constexpr const char* name = "ModuleDyn";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ModuleDyn::name, &Engine::name), field(&::ModuleDyn::longName, &Engine::longName),
+        field(&::ModuleDyn::vendor, &Engine::vendor), field(&::ModuleDyn::kind, &Engine::kind),
+        field(&::ModuleDyn::address, &Engine::address),
+        field(&::ModuleDyn::vendorModule, &Engine::vendorModule),
+        field(&::ModuleDyn::connected, &Engine::connected),
+        field(&::ModuleDyn::serialNumber, &Engine::serialNumber),
+        field(&::ModuleDyn::firmware, &Engine::firmware),
+        field(&::ModuleDyn::network, &Engine::network),
+        field(&::ModuleDyn::resources, &::ModuleDyn::resourceCount, &Engine::resources),
+        field(&::ModuleDyn::port, &Engine::port),
+        field(&::ModuleDyn::exclusive, &Engine::exclusive),
+        field(&::ModuleDyn::handle, &Engine::handle));
+};
+
+template <>
+struct Record<::DeviceInfo> {
+    using Engine = Varno::Kel_cpp::DeviceInfo;
+    static constexpr const char* name = "DeviceInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::DeviceInfo::text1, &Engine::text1), field(&::DeviceInfo::value1, &Engine::value1),
+        field(&::DeviceInfo::value2, &Engine::value2), field(&::DeviceInfo::text2, &Engine::text2),
+        field(&::DeviceInfo::text3, &Engine::text3), field(&::DeviceInfo::value3, &Engine::value3),
+        field(&::DeviceInfo::text4, &Engine::text4), field(&::DeviceInfo::text5, &Engine::text5),
+        field(&::DeviceInfo::value4, &Engine::value4),
+        field(&::DeviceInfo::value5, &Engine::value5), field(&::DeviceInfo::text6, &Engine::text6),
+        field(&::DeviceInfo::protocols, &::DeviceInfo::protocolCount, &Engine::protocols),
+        field(&::DeviceInfo::text7, &Engine::text7),
+        field(&::DeviceInfo::modules, &::DeviceInfo::moduleCount, &Engine::modules),
+        field(&::DeviceInfo::text8, &Engine::text8), field(&::DeviceInfo::flag, &Engine::flag),
+        field(&::DeviceInfo::value6, &Engine::value6),
+        field(&::DeviceInfo::value7, &Engine::value7),
+        field(&::DeviceInfo::value8, &Engine::value8),
+        field(&::DeviceInfo::value9, &Engine::value9),
+        field(&::DeviceInfo::value10, &Engine::value10));
+};
+
+template <>
+struct Record<::PhysicalLinksOnModule> {
+    using Engine = Varno::Kel_cpp::PhysicalLinksOnModule;
+    static constexpr const char* name = "PhysicalLinksOnModule";
+    static constexpr auto fields =
+        std::make_tuple(field(&::PhysicalLinksOnModule::module, &Engine::module),
+                        field(&::PhysicalLinksOnModule::links, &::PhysicalLinksOnModule::linkCount,
+                              &Engine::links));
+};
+
+template <>
+struct Record<::PhysicalLink> {
+    using Engine = Varno::Kel_cpp::PhysicalLink;
+    static constexpr const char* name = "PhysicalLink";
+    static constexpr auto fields =
+        std::make_tuple(field(&::PhysicalLink::itemText1, &Engine::itemText1),
+                        field(&::PhysicalLink::itemText2, &Engine::itemText2),
+                        field(&::PhysicalLink::itemText3, &Engine::itemText3),
+                        field(&::PhysicalLink::itemText4, &Engine::itemText4),
+                        field(&::PhysicalLink::baudrate, &Engine::baudrate),
+                        field(&::PhysicalLink::enabled, &Engine::enabled));
+};
+
+template <>
+struct Record<::InterfaceConfiguration> {
+    using Engine = Varno::Kel_cpp::InterfaceConfiguration;
+    static constexpr const char* name = "InterfaceConfiguration";
+    static constexpr auto fields =
+        std::make_tuple(field(&::InterfaceConfiguration::entries,
+                              &::InterfaceConfiguration::entryCount, &Engine::entries));
+};
+
+template <>
+struct Record<::InterfaceConfigurationEntry> {
+    using Engine = Varno::Kel_cpp::InterfaceConfigurationEntry;
+    static constexpr const char* name = "InterfaceConfigurationEntry";
+    static constexpr auto fields =
+        std::make_tuple(field(&::InterfaceConfigurationEntry::text1, &Engine::text1),
+                        field(&::InterfaceConfigurationEntry::text2, &Engine::text2),
+                        field(&::InterfaceConfigurationEntry::text3, &Engine::text3),
+                        field(&::InterfaceConfigurationEntry::text4, &Engine::text4),
+                        field(&::InterfaceConfigurationEntry::text5, &Engine::text5),
+                        field(&::InterfaceConfigurationEntry::value, &Engine::value),
+                        field(&::InterfaceConfigurationEntry::flag, &Engine::flag),
+                        field(&::InterfaceConfigurationEntry::items,
+                              &::InterfaceConfigurationEntry::itemCount, &Engine::items));
+};
+
+template <>
+struct Record<::InterfaceProvider> {
+    using Engine = Varno::Kel_cpp::InterfaceProvider;
+    static constexpr const char* name = "InterfaceProvider";
+    static constexpr auto fields =
+        std::make_tuple(field(&::InterfaceProvider::itemText1, &Engine::itemText1),
+                        field(&::InterfaceProvider::itemText2, &Engine::itemText2),
+                        field(&::InterfaceProvider::itemText3, &Engine::itemText3),
+                        field(&::InterfaceProvider::itemText4, &Engine::itemText4),
+                        field(&::InterfaceProvider::text, &Engine::text),
+                        field(&::InterfaceProvider::value, &Engine::value),
+                        field(&::InterfaceProvider::flag, &Engine::flag));
+};
+
+template <>
+struct Record<::DoIPParameter> {
+    using Engine = Varno::Kel_cpp::DoIPParameter;
+    static constexpr const char* name = "DoIPParameter";
+    static constexpr auto fields = std::make_tuple(
+        field(&::DoIPParameter::value1, &Engine::value1),
+        field(&::DoIPParameter::value2, &Engine::value2),
+        field(&::DoIPParameter::text, &Engine::text),
+        field(&::DoIPParameter::value3, &Engine::value3),
+        field(&::DoIPParameter::strings, &::DoIPParameter::stringCount, &Engine::strings));
+};
+
+template <>
+struct Record<::WLanSignalData> {
+    using Engine = Varno::Kel_cpp::WLanSignalData;
+    static constexpr const char* name = "WLanSignalData";
+    static constexpr auto fields =
+        std::make_tuple(field(&::WLanSignalData::value1, &Engine::value1),
+                        field(&::WLanSignalData::value2, &Engine::value2),
+                        field(&::WLanSignalData::value3, &Engine::value3),
+                        field(&::WLanSignalData::value4, &Engine::value4),
+                        field(&::WLanSignalData::value5, &Engine::value5),
+                        field(&::WLanSignalData::value6, &Engine::value6),
+                        field(&::WLanSignalData::value7, &Engine::value7),
+                        field(&::WLanSignalData::value8, &Engine::value8),
+                        field(&::WLanSignalData::value9, &Engine::value9),
+                        field(&::WLanSignalData::value10, &Engine::value10),
+                        field(&::WLanSignalData::value11, &Engine::value11),
+                        field(&::WLanSignalData::text, &Engine::text));
+};
+
+template <>
+struct Record<::SupportedInterface> {
+    using Engine = Varno::Kel_cpp::SupportedInterface;
+    static constexpr const char* name = "SupportedInterface";
+    static constexpr auto fields = std::make_tuple(
+        field(&::SupportedInterface::text1, &Engine::text1),
+        field(&::SupportedInterface::text2, &Engine::text2),
+        field(&::SupportedInterface::names, &::SupportedInterface::nameCount, &Engine::names),
+        field(&::SupportedInterface::value, &Engine::value),
+        field(&::SupportedInterface::text3, &Engine::text3));
+};
+
+template <>
 struct Record<::UserInfo> {
     using Engine = Varno::Kel_cpp::UserInfo;
     static constexpr const char* name = "UserInfo";
@@ -590,6 +800,19 @@ struct Alias<::FileFilter, Varno::Kel_cpp::FilterPattern> {
     using Engine = Varno::Kel_cpp::FilterPattern;
     static constexpr auto fields = std::make_tuple(field(&::FileFilter::pattern, &Engine::pattern),
                                                    field(&::FileFilter::flag, &Engine::flag));
+};
+
+template <>
+struct Alias<::InterfaceProvider, Varno::Kel_cpp::InterfaceProviderDyn> {
+    using Engine = Varno::Kel_cpp::InterfaceProviderDyn;
+    static constexpr auto fields =
+        std::make_tuple(field(&::InterfaceProvider::itemText1, &Engine::itemText1),
+                        field(&::InterfaceProvider::itemText2, &Engine::itemText2),
+                        field(&::InterfaceProvider::itemText3, &Engine::itemText3),
+                        field(&::InterfaceProvider::itemText4, &Engine::itemText4),
+                        field(&::InterfaceProvider::text, &Engine::text),
+                        field(&::InterfaceProvider::value, &Engine::value),
+                        field(&::InterfaceProvider::flag, &Engine::flag));
 };
 
 } // namespace kel

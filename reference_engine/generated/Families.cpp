@@ -217,13 +217,6 @@ void ProjectsFamily::resetSystemProperty(const std::wstring&) {
 void ProjectsFamily::setSystemProperty(std::shared_ptr<SystemProperty>) {
     throw unsupported("setSystemProperty");
 }
-std::vector<std::wstring>
-ProjectsFamily::getVendorModuleNames(std::shared_ptr<InterfaceInformation>) {
-    throw unsupported("getVendorModuleNames");
-}
-std::vector<std::wstring> ProjectsFamily::getVendorModuleNamesEx(const std::wstring&) {
-    throw unsupported("getVendorModuleNamesEx");
-}
 std::shared_ptr<SystemInfo> ProjectsFamily::getSystemInfo() { throw unsupported("getSystemInfo"); }
 std::vector<std::shared_ptr<LoadDatabaseResult>>
 ProjectsFamily::loadDatabaseFile(const std::vector<std::wstring>&) {
@@ -365,6 +358,13 @@ InterfacesFamily::addInterface(std::shared_ptr<InterfaceInformation>, const std:
 }
 void InterfacesFamily::removeResource(const std::wstring&, const std::wstring&) {
     throw unsupported("removeResource");
+}
+std::vector<std::wstring>
+InterfacesFamily::getVendorModuleNames(std::shared_ptr<InterfaceInformation>) {
+    throw unsupported("getVendorModuleNames");
+}
+std::vector<std::wstring> InterfacesFamily::getVendorModuleNamesEx(const std::wstring&) {
+    throw unsupported("getVendorModuleNamesEx");
 }
 std::vector<std::shared_ptr<ModuleDyn>>
 InterfacesFamily::detectDynInterfaces(uint32_t, std::shared_ptr<DynInterfaceDetection>) {
@@ -1045,10 +1045,10 @@ void FamilyRouter::setSystemProperty(std::shared_ptr<SystemProperty> property) {
 }
 std::vector<std::wstring>
 FamilyRouter::getVendorModuleNames(std::shared_ptr<InterfaceInformation> interfaceInfo) {
-    return families_.projects->getVendorModuleNames(std::move(interfaceInfo));
+    return families_.interfaces->getVendorModuleNames(std::move(interfaceInfo));
 }
 std::vector<std::wstring> FamilyRouter::getVendorModuleNamesEx(const std::wstring& text) {
-    return families_.projects->getVendorModuleNamesEx(text);
+    return families_.interfaces->getVendorModuleNamesEx(text);
 }
 std::vector<std::shared_ptr<ServiceResult>>
 FamilyRouter::executeService(const std::wstring& target,

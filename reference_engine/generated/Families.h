@@ -180,9 +180,6 @@ public:
     virtual std::shared_ptr<SystemProperty> getSystemProperty(const std::wstring& name);
     virtual void resetSystemProperty(const std::wstring& name);
     virtual void setSystemProperty(std::shared_ptr<SystemProperty> property);
-    virtual std::vector<std::wstring>
-    getVendorModuleNames(std::shared_ptr<InterfaceInformation> interfaceInfo);
-    virtual std::vector<std::wstring> getVendorModuleNamesEx(const std::wstring& text);
     virtual std::shared_ptr<SystemInfo> getSystemInfo();
     virtual std::vector<std::shared_ptr<LoadDatabaseResult>>
     loadDatabaseFile(const std::vector<std::wstring>& files);
@@ -283,6 +280,9 @@ public:
     addInterface(std::shared_ptr<InterfaceInformation> interfaceInfo, const std::wstring& text1,
                  const std::wstring& text2, const std::wstring& text3);
     virtual void removeResource(const std::wstring& name1, const std::wstring& name2);
+    virtual std::vector<std::wstring>
+    getVendorModuleNames(std::shared_ptr<InterfaceInformation> interfaceInfo);
+    virtual std::vector<std::wstring> getVendorModuleNamesEx(const std::wstring& text);
     virtual std::vector<std::shared_ptr<ModuleDyn>>
     detectDynInterfaces(uint32_t value, std::shared_ptr<DynInterfaceDetection> detection);
     virtual uint64_t detectDynInterfacesAsync(uint32_t value,

@@ -72,25 +72,32 @@ const std::shared_ptr<ControlUnits>& Diagnostics::ready() const {
     return vehicle_->units;
 }
 
+const std::shared_ptr<ControlUnits>& Diagnostics::connected() const {
+    const auto& units = ready();
+    vehicle_->interfaces->requireConnected();
+    return units;
+}
+
 std::vector<std::shared_ptr<VariantIdentResult>> Diagnostics::identifyAllTargets() {
-    return ready()->update([](Units& ecus) { return Answers::identify(ecus, {}); });
+    return connected()->update([](Units& ecus) { return Answers::identify(ecus, {}); });
 }
 
 uint64_t Diagnostics::identifyAllTargetsAsync(IdentifyAllTargetsCallback* callback) {
-    return vehicle_->async.start("identifyAllTargetsAsync", callback, [units = ready()] {
+    return vehicle_->async.start("identifyAllTargetsAsync", callback, [units = connected()] {
         return units->update([](Units& ecus) { return Answers::identify(ecus, {}); });
     });
 }
 
 std::vector<std::shared_ptr<ReadDataResult>>
 Diagnostics::readIdentificationValues(const std::vector<std::wstring>& targets) {
-    return ready()->read([&](const Units& ecus) { return Answers::identification(ecus, targets); });
+    return connected()->read(
+        [&](const Units& ecus) { return Answers::identification(ecus, targets); });
 }
 
 uint64_t Diagnostics::readIdentificationValuesAsync(const std::vector<std::wstring>& targets,
                                                     ReadIdentificationValuesCallback* callback) {
     return vehicle_->async.start("readIdentificationValuesAsync", callback,
-                                 [units = ready(), targets] {
+                                 [units = connected(), targets] {
                                      return units->read([&](const Units& ecus) {
                                          return Answers::identification(ecus, targets);
                                      });
@@ -100,20 +107,21 @@ uint64_t Diagnostics::readIdentificationValuesAsync(const std::vector<std::wstri
 std::vector<std::shared_ptr<ReadDataResult>>
 Diagnostics::readDataByIdentifiers(const std::wstring& target,
                                    const std::vector<std::wstring>& identifiers) {
-    return ready()->read(
+    return connected()->read(
         [&](const Units& ecus) { return Answers::readData(ecus, target, identifiers); });
 }
 
 // The vehicle has nothing to say about a name it does not know.
 std::shared_ptr<VariantIdentResult> Diagnostics::identifyTarget(const std::wstring& target) {
-    auto results = ready()->update([&](Units& ecus) { return Answers::identify(ecus, {target}); });
+    auto results =
+        connected()->update([&](Units& ecus) { return Answers::identify(ecus, {target}); });
     return results.front()->status == 2 ? nullptr : results.front();
 }
 
 std::vector<std::shared_ptr<ReadDtcResult>>
 Diagnostics::readDtcs(const std::vector<std::wstring>& targets,
                       std::shared_ptr<DtcReadConfig> config) {
-    return ready()->read(
+    return connected()->read(
         [&](const Units& ecus) { return Answers::readDtcs(ecus, targets, config.get()); });
 }
 
@@ -121,7 +129,7 @@ uint64_t Diagnostics::readDtcsAsync(const std::vector<std::wstring>& targets,
                                     std::shared_ptr<DtcReadConfig> config,
                                     ReadDtcsCallback* callback) {
     return vehicle_->async.start("readDtcsAsync", callback,
-                                 [units = ready(), targets, config = std::move(config)] {
+                                 [units = connected(), targets, config = std::move(config)] {
                                      return units->read([&](const Units& ecus) {
                                          return Answers::readDtcs(ecus, targets, config.get());
                                      });
@@ -131,26 +139,27 @@ uint64_t Diagnostics::readDtcsAsync(const std::vector<std::wstring>& targets,
 std::vector<std::shared_ptr<SupportedDtcResult>>
 Diagnostics::readSupportedDtcs(const std::vector<std::wstring>& targets,
                                std::shared_ptr<DtcReadConfig> config) {
-    return ready()->read(
+    return connected()->read(
         [&](const Units& ecus) { return Answers::readSupportedDtcs(ecus, targets, config.get()); });
 }
 
 uint64_t Diagnostics::readSupportedDtcsAsync(const std::vector<std::wstring>& targets,
                                              std::shared_ptr<DtcReadConfig> config,
                                              ReadSupportedDtcsCallback* callback) {
-    return vehicle_->async.start(
-        "readSupportedDtcsAsync", callback, [units = ready(), targets, config = std::move(config)] {
-            return units->read([&](const Units& ecus) {
-                return Answers::readSupportedDtcs(ecus, targets, config.get());
-            });
-        });
+    return vehicle_->async.start("readSupportedDtcsAsync", callback,
+                                 [units = connected(), targets, config = std::move(config)] {
+                                     return units->read([&](const Units& ecus) {
+                                         return Answers::readSupportedDtcs(ecus, targets,
+                                                                           config.get());
+                                     });
+                                 });
 }
 
 std::vector<std::shared_ptr<ClearDtcResult>>
 Diagnostics::clearAllDtcs(const std::vector<std::wstring>& targets) {
     int32_t cleared = 0;
     auto results =
-        ready()->update([&](Units& ecus) { return Answers::clearAll(ecus, targets, cleared); });
+        connected()->update([&](Units& ecus) { return Answers::clearAll(ecus, targets, cleared); });
     postCleared(*vehicle_, cleared);
     return results;
 }
@@ -159,7 +168,7 @@ Diagnostics::clearAllDtcs(const std::vector<std::wstring>& targets) {
 // and a worker must not reach the vehicle after the engine may have ended.
 uint64_t Diagnostics::clearAllDtcsAsync(const std::vector<std::wstring>& targets,
                                         ClearAllDtcsCallback* callback) {
-    return vehicle_->async.start("clearAllDtcsAsync", callback, [units = ready(), targets] {
+    return vehicle_->async.start("clearAllDtcsAsync", callback, [units = connected(), targets] {
         int32_t cleared = 0;
         return units->update(
             [&](Units& ecus) { return Answers::clearAll(ecus, targets, cleared); });
@@ -168,12 +177,12 @@ uint64_t Diagnostics::clearAllDtcsAsync(const std::vector<std::wstring>& targets
 
 std::vector<std::shared_ptr<VariantIdentResult>>
 Diagnostics::identifyTargets(const std::vector<std::wstring>& targets) {
-    return ready()->update([&](Units& ecus) { return Answers::identify(ecus, targets); });
+    return connected()->update([&](Units& ecus) { return Answers::identify(ecus, targets); });
 }
 
 uint64_t Diagnostics::identifyTargetsAsync(const std::vector<std::wstring>& targets,
                                            IdentifyTargetsCallback* callback) {
-    return vehicle_->async.start("identifyTargetsAsync", callback, [units = ready(), targets] {
+    return vehicle_->async.start("identifyTargetsAsync", callback, [units = connected(), targets] {
         return units->update([&](Units& ecus) { return Answers::identify(ecus, targets); });
     });
 }
@@ -197,7 +206,7 @@ Diagnostics::getTargetStatus(const std::vector<std::wstring>& targets) {
 std::vector<std::shared_ptr<ClearDtcResult>>
 Diagnostics::clearSpecificDtcs(const std::wstring& target, const std::vector<uint32_t>& dtcCodes) {
     int32_t cleared = 0;
-    auto results = ready()->update(
+    auto results = connected()->update(
         [&](Units& ecus) { return Answers::clearSpecific(ecus, target, dtcCodes, cleared); });
     postCleared(*vehicle_, cleared);
     return results;
@@ -207,7 +216,7 @@ uint64_t Diagnostics::clearSpecificDtcsAsync(const std::wstring& target,
                                              const std::vector<uint32_t>& dtcCodes,
                                              ClearSpecificDtcsCallback* callback) {
     return vehicle_->async.start(
-        "clearSpecificDtcsAsync", callback, [units = ready(), target, dtcCodes] {
+        "clearSpecificDtcsAsync", callback, [units = connected(), target, dtcCodes] {
             int32_t cleared = 0;
             return units->update([&](Units& ecus) {
                 return Answers::clearSpecific(ecus, target, dtcCodes, cleared);

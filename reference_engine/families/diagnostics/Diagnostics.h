@@ -88,6 +88,8 @@ public:
 private:
     // Throws NotInitialized unless the engine is initialised; returns the control units.
     const std::shared_ptr<ControlUnits>& ready() const;
+    // ready(), and throws NoInterfaceConnected unless an interface carries the calls.
+    const std::shared_ptr<ControlUnits>& connected() const;
 
     std::shared_ptr<SimulatedVehicle> vehicle_;
 };

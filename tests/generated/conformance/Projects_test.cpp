@@ -1198,67 +1198,6 @@ TEST_F(ProjectsByNumber, n116_setSystemProperty_PyCall) { kc::pyCall(api, kNumbe
 TEST_F(ProjectsByNumber, n116_setSystemProperty_Failure) { kc::numberFailure(api, kNumber116); }
 TEST_F(ProjectsByNumber, n116_setSystemProperty_ShortInput) { kc::shortInput(api, kNumber116); }
 
-TEST_F(ProjectsByNumber, n120_getVendorModuleNames_NotAvailable) {
-    kc::notAvailable(api, 120, "getVendorModuleNames");
-}
-
-// ---- getVendorModuleNamesEx (position 91, number 121) ----
-
-const kc::Case kGetVendorModuleNamesExCases[] = {
-    {"full", "[\"Pr\303\274fstand \342\202\254 91.1\"]", "[\"Pr\303\274fstand \342\202\254 91.1\"]",
-     "[\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 91.2\",\"\",\"K\303\274hler\\u0"
-     "009\360\237\224\247 91.3\"]",
-     "[\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 91.2\",\"\",\"K\303\274hler\\u0"
-     "009\360\237\224\247 91.3\"]",
-     "130000005072c3bc667374616e6420e282ac2039312e31", "5072c3bc667374616e6420e282ac2039312e3100",
-     "[\"Pr\303\274fstand \342\202\254 91.1\"]", "[\"Pr\303\274fstand \342\202\254 91.1\"]",
-     "010300000013000000e697a5e69cace8aa9e20f09d849e2039312e3200000000110000004bc3bc686c657209"
-     "f09f94a72039312e33",
-     "0300000013000000e697a5e69cace8aa9e20f09d849e2039312e3200000000110000004bc3bc686c657209f0"
-     "9f94a72039312e33",
-     0},
-    {"sparse", "[\"\"]", "[\"\"]",
-     "[\"Pr\303\274fstand \342\202\254 91.1\",\"\",\"\346\227\245\346\234\254\350\252\236 \360"
-     "\235\204\236 91.2\"]",
-     "[\"Pr\303\274fstand \342\202\254 91.1\",\"\",\"\346\227\245\346\234\254\350\252\236 \360"
-     "\235\204\236 91.2\"]",
-     "00000000", "00", "[\"\"]", "[\"\"]",
-     "0103000000130000005072c3bc667374616e6420e282ac2039312e310000000013000000e697a5e69cace8aa"
-     "9e20f09d849e2039312e32",
-     "03000000130000005072c3bc667374616e6420e282ac2039312e310000000013000000e697a5e69cace8aa9e"
-     "20f09d849e2039312e32",
-     0},
-    {"empty", "[\"\"]", "[\"\"]", "[]", "null", "00000000", "00", "[\"\"]", "[\"\"]", "0100000000",
-     "00000000", 0},
-};
-
-struct GetVendorModuleNamesExExport {
-    static constexpr const char* operation = "getVendorModuleNamesEx";
-    using Result = kc::TextsResult;
-    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
-        const kc::Text a0(in[0]);
-        kel_getVendorModuleNamesEx(api, a0.get(), error, &out.data, &out.count);
-    }
-};
-
-TEST_F(Projects, getVendorModuleNamesEx_Exchange) {
-    kc::exchange<GetVendorModuleNamesExExport>(api, kGetVendorModuleNamesExCases);
-}
-TEST_F(Projects, getVendorModuleNamesEx_Failure) {
-    kc::failure<GetVendorModuleNamesExExport>(api, kGetVendorModuleNamesExCases);
-}
-
-const kc::Number kNumber121{121, "getVendorModuleNamesEx", kGetVendorModuleNamesExCases};
-
-TEST_F(ProjectsByNumber, n121_getVendorModuleNamesEx_KelCall) { kc::kelCall(api, kNumber121); }
-TEST_F(ProjectsByNumber, n121_getVendorModuleNamesEx_PyCall) { kc::pyCall(api, kNumber121); }
-TEST_F(ProjectsByNumber, n121_getVendorModuleNamesEx_Failure) {
-    kc::numberFailure(api, kNumber121);
-}
-TEST_F(ProjectsByNumber, n121_getVendorModuleNamesEx_ShortInput) {
-    kc::shortInput(api, kNumber121);
-}
-
 // ---- getSystemInfo (position 150, number 183) ----
 
 const kc::Case kGetSystemInfoCases[] = {

@@ -92,6 +92,36 @@ inline void describe(Out& o, const GlobalProtocolParameter& r);
 inline void build(const Json& j, GlobalProtocolParameter& r);
 inline void describe(Out& o, const LoadDatabaseResult& r);
 inline void build(const Json& j, LoadDatabaseResult& r);
+inline void describe(Out& o, const InterfaceInformation& r);
+inline void build(const Json& j, InterfaceInformation& r);
+inline void describe(Out& o, const ResourceInformation& r);
+inline void build(const Json& j, ResourceInformation& r);
+inline void describe(Out& o, const InterfaceInformationItem& r);
+inline void build(const Json& j, InterfaceInformationItem& r);
+inline void describe(Out& o, const ScanInterfaceResult& r);
+inline void build(const Json& j, ScanInterfaceResult& r);
+inline void describe(Out& o, const DynInterfaceDetection& r);
+inline void build(const Json& j, DynInterfaceDetection& r);
+inline void describe(Out& o, const ModuleDyn& r);
+inline void build(const Json& j, ModuleDyn& r);
+inline void describe(Out& o, const DeviceInfo& r);
+inline void build(const Json& j, DeviceInfo& r);
+inline void describe(Out& o, const PhysicalLinksOnModule& r);
+inline void build(const Json& j, PhysicalLinksOnModule& r);
+inline void describe(Out& o, const PhysicalLink& r);
+inline void build(const Json& j, PhysicalLink& r);
+inline void describe(Out& o, const InterfaceConfiguration& r);
+inline void build(const Json& j, InterfaceConfiguration& r);
+inline void describe(Out& o, const InterfaceConfigurationEntry& r);
+inline void build(const Json& j, InterfaceConfigurationEntry& r);
+inline void describe(Out& o, const InterfaceProvider& r);
+inline void build(const Json& j, InterfaceProvider& r);
+inline void describe(Out& o, const DoIPParameter& r);
+inline void build(const Json& j, DoIPParameter& r);
+inline void describe(Out& o, const WLanSignalData& r);
+inline void build(const Json& j, WLanSignalData& r);
+inline void describe(Out& o, const SupportedInterface& r);
+inline void build(const Json& j, SupportedInterface& r);
 inline void describe(Out& o, const UserInfo& r);
 inline void build(const Json& j, UserInfo& r);
 
@@ -983,6 +1013,339 @@ inline void build(const Json& j, LoadDatabaseResult& r) {
     set(j.at("text"), r.text);
     set(j.at("flag"), r.flag);
     set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const InterfaceInformation& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("resources", r.resources, r.resourceCount);
+    o.member("resourceCount", r.resourceCount);
+    o.member("flag1", r.flag1);
+    o.member("flag2", r.flag2);
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("flag3", r.flag3);
+    o.member("items", r.items, r.itemCount);
+    o.member("itemCount", r.itemCount);
+    o.member("value", r.value);
+    o.end();
+}
+
+inline void build(const Json& j, InterfaceInformation& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("resources"), r.resources, r.resourceCount);
+    set(j.at("flag1"), r.flag1);
+    set(j.at("flag2"), r.flag2);
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("flag3"), r.flag3);
+    set(j.at("items"), r.items, r.itemCount);
+    set(j.at("value"), r.value);
+}
+
+inline void describe(Out& o, const ResourceInformation& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("id", r.id);
+    o.member("pin", r.pin);
+    o.member("inUse", r.inUse);
+    o.end();
+}
+
+inline void build(const Json& j, ResourceInformation& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("id"), r.id);
+    set(j.at("pin"), r.pin);
+    set(j.at("inUse"), r.inUse);
+}
+
+inline void describe(Out& o, const InterfaceInformationItem& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.end();
+}
+
+inline void build(const Json& j, InterfaceInformationItem& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+}
+
+inline void describe(Out& o, const ScanInterfaceResult& r) {
+    o.member("interfaceInfo", r.interfaceInfo);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, ScanInterfaceResult& r) {
+    set(j.at("interfaceInfo"), r.interfaceInfo);
+    set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const DynInterfaceDetection& r) {
+    o.member("namePattern", r.namePattern);
+    o.member("kind", r.kind);
+    o.member("onlyFree", r.onlyFree);
+    o.end();
+}
+
+inline void build(const Json& j, DynInterfaceDetection& r) {
+    set(j.at("namePattern"), r.namePattern);
+    set(j.at("kind"), r.kind);
+    set(j.at("onlyFree"), r.onlyFree);
+}
+
+inline void describe(Out& o, const ModuleDyn& r) {
+    o.member("name", r.name);
+    o.member("longName", r.longName);
+    o.member("vendor", r.vendor);
+    o.member("kind", r.kind);
+    o.member("address", r.address);
+    o.member("vendorModule", r.vendorModule);
+    o.member("connected", r.connected);
+    o.member("serialNumber", r.serialNumber);
+    o.member("firmware", r.firmware);
+    o.member("network", r.network);
+    o.member("resources", r.resources, r.resourceCount);
+    o.member("resourceCount", r.resourceCount);
+    o.member("port", r.port);
+    o.member("exclusive", r.exclusive);
+    o.member("handle", r.handle);
+    o.end();
+}
+
+inline void build(const Json& j, ModuleDyn& r) {
+    set(j.at("name"), r.name);
+    set(j.at("longName"), r.longName);
+    set(j.at("vendor"), r.vendor);
+    set(j.at("kind"), r.kind);
+    set(j.at("address"), r.address);
+    set(j.at("vendorModule"), r.vendorModule);
+    set(j.at("connected"), r.connected);
+    set(j.at("serialNumber"), r.serialNumber);
+    set(j.at("firmware"), r.firmware);
+    set(j.at("network"), r.network);
+    set(j.at("resources"), r.resources, r.resourceCount);
+    set(j.at("port"), r.port);
+    set(j.at("exclusive"), r.exclusive);
+    set(j.at("handle"), r.handle);
+}
+
+inline void describe(Out& o, const DeviceInfo& r) {
+    o.member("text1", r.text1);
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("text2", r.text2);
+    o.member("text3", r.text3);
+    o.member("value3", r.value3);
+    o.member("text4", r.text4);
+    o.member("text5", r.text5);
+    o.member("value4", r.value4);
+    o.member("value5", r.value5);
+    o.member("text6", r.text6);
+    o.member("protocols", r.protocols, r.protocolCount);
+    o.member("protocolCount", r.protocolCount);
+    o.member("text7", r.text7);
+    o.member("modules", r.modules, r.moduleCount);
+    o.member("moduleCount", r.moduleCount);
+    o.member("text8", r.text8);
+    o.member("flag", r.flag);
+    o.member("value6", r.value6);
+    o.member("value7", r.value7);
+    o.member("value8", r.value8);
+    o.member("value9", r.value9);
+    o.member("value10", r.value10);
+    o.end();
+}
+
+inline void build(const Json& j, DeviceInfo& r) {
+    set(j.at("text1"), r.text1);
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("text2"), r.text2);
+    set(j.at("text3"), r.text3);
+    set(j.at("value3"), r.value3);
+    set(j.at("text4"), r.text4);
+    set(j.at("text5"), r.text5);
+    set(j.at("value4"), r.value4);
+    set(j.at("value5"), r.value5);
+    set(j.at("text6"), r.text6);
+    set(j.at("protocols"), r.protocols, r.protocolCount);
+    set(j.at("text7"), r.text7);
+    set(j.at("modules"), r.modules, r.moduleCount);
+    set(j.at("text8"), r.text8);
+    set(j.at("flag"), r.flag);
+    set(j.at("value6"), r.value6);
+    set(j.at("value7"), r.value7);
+    set(j.at("value8"), r.value8);
+    set(j.at("value9"), r.value9);
+    set(j.at("value10"), r.value10);
+}
+
+inline void describe(Out& o, const PhysicalLinksOnModule& r) {
+    o.member("module", r.module);
+    o.member("links", r.links, r.linkCount);
+    o.member("linkCount", r.linkCount);
+    o.end();
+}
+
+inline void build(const Json& j, PhysicalLinksOnModule& r) {
+    set(j.at("module"), r.module);
+    set(j.at("links"), r.links, r.linkCount);
+}
+
+inline void describe(Out& o, const PhysicalLink& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("baudrate", r.baudrate);
+    o.member("enabled", r.enabled);
+    o.end();
+}
+
+inline void build(const Json& j, PhysicalLink& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("baudrate"), r.baudrate);
+    set(j.at("enabled"), r.enabled);
+}
+
+inline void describe(Out& o, const InterfaceConfiguration& r) {
+    o.member("entries", r.entries, r.entryCount);
+    o.member("entryCount", r.entryCount);
+    o.end();
+}
+
+inline void build(const Json& j, InterfaceConfiguration& r) {
+    set(j.at("entries"), r.entries, r.entryCount);
+}
+
+inline void describe(Out& o, const InterfaceConfigurationEntry& r) {
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("text3", r.text3);
+    o.member("text4", r.text4);
+    o.member("text5", r.text5);
+    o.member("value", r.value);
+    o.member("flag", r.flag);
+    o.member("items", r.items, r.itemCount);
+    o.member("itemCount", r.itemCount);
+    o.end();
+}
+
+inline void build(const Json& j, InterfaceConfigurationEntry& r) {
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("text3"), r.text3);
+    set(j.at("text4"), r.text4);
+    set(j.at("text5"), r.text5);
+    set(j.at("value"), r.value);
+    set(j.at("flag"), r.flag);
+    set(j.at("items"), r.items, r.itemCount);
+}
+
+inline void describe(Out& o, const InterfaceProvider& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("text", r.text);
+    o.member("value", r.value);
+    o.member("flag", r.flag);
+    o.end();
+}
+
+inline void build(const Json& j, InterfaceProvider& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("text"), r.text);
+    set(j.at("value"), r.value);
+    set(j.at("flag"), r.flag);
+}
+
+inline void describe(Out& o, const DoIPParameter& r) {
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("text", r.text);
+    o.member("value3", r.value3);
+    o.member("strings", r.strings, r.stringCount);
+    o.member("stringCount", r.stringCount);
+    o.end();
+}
+
+inline void build(const Json& j, DoIPParameter& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("text"), r.text);
+    set(j.at("value3"), r.value3);
+    set(j.at("strings"), r.strings, r.stringCount);
+}
+
+inline void describe(Out& o, const WLanSignalData& r) {
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("value3", r.value3);
+    o.member("value4", r.value4);
+    o.member("value5", r.value5);
+    o.member("value6", r.value6);
+    o.member("value7", r.value7);
+    o.member("value8", r.value8);
+    o.member("value9", r.value9);
+    o.member("value10", r.value10);
+    o.member("value11", r.value11);
+    o.member("text", r.text);
+    o.end();
+}
+
+inline void build(const Json& j, WLanSignalData& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("value3"), r.value3);
+    set(j.at("value4"), r.value4);
+    set(j.at("value5"), r.value5);
+    set(j.at("value6"), r.value6);
+    set(j.at("value7"), r.value7);
+    set(j.at("value8"), r.value8);
+    set(j.at("value9"), r.value9);
+    set(j.at("value10"), r.value10);
+    set(j.at("value11"), r.value11);
+    set(j.at("text"), r.text);
+}
+
+inline void describe(Out& o, const SupportedInterface& r) {
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("names", r.names, r.nameCount);
+    o.member("nameCount", r.nameCount);
+    o.member("value", r.value);
+    o.member("text3", r.text3);
+    o.end();
+}
+
+inline void build(const Json& j, SupportedInterface& r) {
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("names"), r.names, r.nameCount);
+    set(j.at("value"), r.value);
+    set(j.at("text3"), r.text3);
 }
 
 inline void describe(Out& o, const UserInfo& r) {

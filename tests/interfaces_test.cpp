@@ -1,0 +1,619 @@
+// The bench's interfaces through the C exports, as a user sets up the path to the vehicle:
+// connecting and what it allows, scans, resources, physical links, dynamic detection
+// (also asynchronous, with cancel), DoIP, socket bridges, the terminal and the saved
+// configuration. The default vehicle has VCI1 (connected), VCI2 (unplugged) and two
+// dynamic interfaces, WVCI-7 and WVCI-9. Named *Concurrency* where threads are involved,
+// so that they also run under ThreadSanitizer.
+#include "support.h"
+
+#include <chrono>
+#include <condition_variable>
+#include <cstring>
+#include <filesystem>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::List;
+using namespace std::chrono_literals;
+
+using Interfaces = EngineTest;
+using InterfacesConcurrency = EngineTest;
+
+wchar_t* dup(const wchar_t* text) { return duplicate_WString(text); }
+
+// A record on the library's heap, every member 0/NULL, as a caller builds an input.
+template <class R>
+R* zeroed() {
+    return static_cast<R*>(std::memset(allocate_Memory(sizeof(R)), 0, sizeof(R)));
+}
+
+ResourceInformation* resource(const wchar_t* name) {
+    auto* r = zeroed<ResourceInformation>();
+    r->itemText1 = dup(name);
+    r->itemText2 = dup(L"added by the test");
+    r->itemText3 = dup(L"ISO_15765_3_on_ISO_15765_2");
+    r->itemText4 = dup(L"HS-CAN");
+    r->pin = 1; // the 16-bit value of kel_addResource wins
+    return r;
+}
+
+int32_t readDtcsError(TarnApi* api) {
+    ErrorSlot error;
+    List<ReadDtcResult, release_ReadDtcResult_array> results;
+    kel_readDtcs(api, nullptr, 0, nullptr, &error, &results.items, &results.count);
+    return error ? error->code : 0;
+}
+
+struct Scan {
+    std::wstring name; // empty: no interface record
+    bool connected = false;
+    int32_t errorCode = 0;
+    std::vector<std::wstring> resources;
+};
+
+std::vector<Scan> scan(TarnApi* api, std::vector<const wchar_t*> names) {
+    ErrorSlot error;
+    List<ScanInterfaceResult, release_ScanInterfaceResult_array> results;
+    kel_scanInterfaceConnection(api, const_cast<wchar_t**>(names.data()),
+                                static_cast<uint32_t>(names.size()), &error, &results.items,
+                                &results.count);
+    EXPECT_FALSE(error) << (error ? error->code : 0);
+    std::vector<Scan> out;
+    for (uint32_t i = 0; i < results.count; ++i) {
+        const auto* r = results.items[i];
+        Scan s;
+        if (r->interfaceInfo != nullptr) {
+            s.name = r->interfaceInfo->itemText1;
+            s.connected = r->interfaceInfo->flag1 != 0;
+            for (uint32_t k = 0; k < r->interfaceInfo->resourceCount; ++k) {
+                s.resources.emplace_back(r->interfaceInfo->resources[k]->itemText1);
+            }
+        }
+        s.errorCode = r->error != nullptr ? r->error->code : 0;
+        out.push_back(std::move(s));
+    }
+    return out;
+}
+
+std::vector<std::wstring> names(ModuleDyn** modules, uint32_t count) {
+    std::vector<std::wstring> out;
+    for (uint32_t i = 0; i < count; ++i) {
+        out.emplace_back(modules[i]->name);
+    }
+    return out;
+}
+
+DynInterfaceDetection* detection(const wchar_t* pattern, bool onlyFree) {
+    auto* d = zeroed<DynInterfaceDetection>();
+    d->namePattern = dup(pattern);
+    d->kind = dup(L"");
+    d->onlyFree = onlyFree ? 1 : 0;
+    return d;
+}
+
+TEST_F(Interfaces, DisconnectedInterfacesStopDiagnosticCallsUntilConnectedAgain) {
+    ASSERT_EQ(readDtcsError(api), 0);
+
+    ErrorSlot error;
+    kel_disconnectInterfaces(api, &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(readDtcsError(api), 1404);
+    ErrorSlot asyncError;
+    EXPECT_EQ(kel_readDtcsAsync(api, nullptr, 0, nullptr, &asyncError, nullptr, nullptr), 0u);
+    ASSERT_TRUE(asyncError);
+    EXPECT_EQ(asyncError->code, 1404);
+    // Reading the project's targets needs no communication.
+    ErrorSlot targetsError;
+    List<Target, release_Target_array> targets;
+    kel_getTargets(api, &targetsError, &targets.items, &targets.count);
+    EXPECT_FALSE(targetsError);
+
+    EXPECT_FALSE(scan(api, {L"VCI1"}).front().connected);
+    ErrorSlot connectError;
+    kel_connectInterfaces(api, &connectError);
+    ASSERT_FALSE(connectError);
+    const auto after = scan(api, {L"VCI1", L"VCI2"});
+    EXPECT_TRUE(after[0].connected);
+    EXPECT_FALSE(after[1].connected) << "VCI2 is not plugged in";
+    EXPECT_EQ(readDtcsError(api), 0);
+}
+
+TEST_F(Interfaces, ConnectingFailsWhenNoConfiguredInterfaceIsPluggedIn) {
+    ErrorSlot removeError;
+    kel_removeInterface(api, L"VCI1", &removeError);
+    ASSERT_FALSE(removeError);
+    EXPECT_EQ(readDtcsError(api), 1404) << "the connected interface went with it";
+    ErrorSlot error;
+    kel_connectInterfaces(api, &error);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1404);
+    EXPECT_NE(std::wstring(error->details).find(L"VCI2 is not plugged in"), std::wstring::npos);
+}
+
+TEST_F(Interfaces, ScanReportsEachInterfaceWithItsOwnError) {
+    const auto results = scan(api, {L"VCI1", L"VCI2", L"NOPE"});
+    ASSERT_EQ(results.size(), 3u);
+    EXPECT_EQ(results[0].name, L"VCI1");
+    EXPECT_EQ(results[0].errorCode, 0);
+    EXPECT_EQ(results[0].resources, (std::vector<std::wstring>{L"UDS_CAN_HS", L"KWP_KLINE"}));
+    EXPECT_EQ(results[1].name, L"VCI2");
+    EXPECT_EQ(results[1].errorCode, 1403);
+    EXPECT_EQ(results[2].name, L"");
+    EXPECT_EQ(results[2].errorCode, 1400);
+
+    const auto all = scan(api, {});
+    ASSERT_EQ(all.size(), 4u);
+    EXPECT_EQ(all[3].name, L"WVCI-9");
+}
+
+TEST_F(Interfaces, ResourcesAreAddedWithTheirPinAndRemovedByName) {
+    ErrorSlot error;
+    kel_addResource(api, L"VCI1", resource(L"UDS_CAN_MS"), 0xABCD, &error);
+    ASSERT_FALSE(error);
+    ErrorSlot getError;
+    List<DeviceInfo, release_DeviceInfo_array> devices;
+    kel_getRegisteredDevices(api, &getError, &devices.items, &devices.count);
+    ASSERT_FALSE(getError);
+    ASSERT_EQ(devices.count, 4u);
+    EXPECT_EQ(devices.items[0]->value3, 3u) << "VCI1 now has three resources";
+
+    ErrorSlot scanError;
+    List<ScanInterfaceResult, release_ScanInterfaceResult_array> results;
+    const wchar_t* vci1[] = {L"VCI1"};
+    kel_scanInterfaceConnection(api, const_cast<wchar_t**>(vci1), 1, &scanError, &results.items,
+                                &results.count);
+    ASSERT_EQ(results.count, 1u);
+    const auto* info = results.items[0]->interfaceInfo;
+    ASSERT_EQ(info->resourceCount, 3u);
+    EXPECT_STREQ(info->resources[2]->itemText1, L"UDS_CAN_MS");
+    EXPECT_EQ(info->resources[2]->pin, 0xABCDu);
+    EXPECT_EQ(info->resources[2]->id, 3u);
+
+    ErrorSlot duplicate;
+    kel_addResource(api, L"VCI1", resource(L"UDS_CAN_MS"), 1, &duplicate);
+    ASSERT_TRUE(duplicate);
+    EXPECT_EQ(duplicate->code, 1402);
+    ErrorSlot unknownInterface;
+    kel_addResource(api, L"NOPE", resource(L"X"), 1, &unknownInterface);
+    ASSERT_TRUE(unknownInterface);
+    EXPECT_EQ(unknownInterface->code, 1400);
+
+    ErrorSlot removeError;
+    kel_removeResource(api, L"VCI1", L"UDS_CAN_MS", &removeError);
+    EXPECT_FALSE(removeError);
+    EXPECT_EQ(scan(api, {L"VCI1"}).front().resources.size(), 2u);
+    ErrorSlot again;
+    kel_removeResource(api, L"VCI1", L"UDS_CAN_MS", &again);
+    ASSERT_TRUE(again);
+    EXPECT_EQ(again->code, 1401);
+}
+
+TEST_F(Interfaces, AddedInterfaceIsCompletedAndCarriesItsVendorModule) {
+    auto* info = zeroed<InterfaceInformation>();
+    info->itemText1 = dup(L"VCI3");
+    info->itemText2 = dup(L"");
+    info->itemText3 = dup(L"Bench vendor");
+    info->itemText4 = dup(L"");
+    info->text1 = dup(L"D-PDU");
+    info->text2 = dup(L"");
+    info->flag3 = 1;
+    ErrorSlot error;
+    InterfaceInformation* added = nullptr;
+    kel_addInterface(api, info, L"BENCH_DPDU", L"", L"192.168.10.30", &error, &added);
+    ASSERT_FALSE(error);
+    ASSERT_NE(added, nullptr);
+    EXPECT_STREQ(added->itemText2, L"VCI3") << "the long name defaults to the name";
+    EXPECT_STREQ(added->text2, L"192.168.10.30");
+    EXPECT_NE(added->value, 0u);
+    EXPECT_EQ(added->flag1, 0) << "added, not connected";
+    ASSERT_EQ(added->itemCount, 1u);
+    EXPECT_STREQ(added->items[0]->itemText1, L"BENCH_DPDU");
+
+    ErrorSlot namesError;
+    wchar_t** moduleNames = nullptr;
+    uint32_t moduleCount = 0;
+    auto* byName = zeroed<InterfaceInformation>();
+    byName->itemText1 = dup(L"VCI3");
+    byName->itemText2 = dup(L"");
+    byName->itemText3 = dup(L"");
+    byName->itemText4 = dup(L"");
+    byName->text1 = dup(L"");
+    byName->text2 = dup(L"");
+    kel_getVendorModuleNames(api, byName, &namesError, &moduleNames, &moduleCount);
+    ASSERT_FALSE(namesError);
+    ASSERT_EQ(moduleCount, 1u);
+    EXPECT_STREQ(moduleNames[0], L"BENCH_DPDU");
+    release_StringArray(moduleNames, moduleCount);
+
+    // Every interface's modules, each once; a pattern selects interfaces by name.
+    ErrorSlot exError;
+    kel_getVendorModuleNamesEx(api, L"", &exError, &moduleNames, &moduleCount);
+    ASSERT_FALSE(exError);
+    ASSERT_EQ(moduleCount, 3u);
+    EXPECT_STREQ(moduleNames[0], L"SIM_VCI_DPDU");
+    EXPECT_STREQ(moduleNames[1], L"SIM_WVCI_DOIP");
+    EXPECT_STREQ(moduleNames[2], L"BENCH_DPDU");
+    release_StringArray(moduleNames, moduleCount);
+    kel_getVendorModuleNamesEx(api, L"WVCI-?", &exError, &moduleNames, &moduleCount);
+    ASSERT_EQ(moduleCount, 1u);
+    EXPECT_STREQ(moduleNames[0], L"SIM_WVCI_DOIP");
+    release_StringArray(moduleNames, moduleCount);
+
+    ErrorSlot twice;
+    InterfaceInformation* again = nullptr;
+    auto* same = zeroed<InterfaceInformation>();
+    same->itemText1 = dup(L"VCI3");
+    same->itemText2 = dup(L"");
+    same->itemText3 = dup(L"");
+    same->itemText4 = dup(L"");
+    same->text1 = dup(L"");
+    same->text2 = dup(L"");
+    kel_addInterface(api, same, L"", L"", L"", &twice, &again);
+    ASSERT_TRUE(twice);
+    EXPECT_EQ(twice->code, 1402);
+    EXPECT_EQ(again, nullptr);
+
+    ErrorSlot removeError;
+    kel_removeInterface(api, L"VCI3", &removeError);
+    EXPECT_FALSE(removeError);
+    ErrorSlot longNameError;
+    wchar_t* longName = nullptr;
+    kel_getInterfaceLongName(api, L"VCI3", &longNameError, &longName);
+    ASSERT_TRUE(longNameError);
+    EXPECT_EQ(longNameError->code, 1400);
+    release_InterfaceInformation(added);
+}
+
+TEST_F(Interfaces, PhysicalLinksRoundTripAsFreshRecords) {
+    ErrorSlot error;
+    List<PhysicalLinksOnModule, release_PhysicalLinksOnModule_array> current;
+    const wchar_t* vci1[] = {L"VCI1"};
+    kel_getPhysicalLinks(api, const_cast<wchar_t**>(vci1), 1, &error, &current.items,
+                         &current.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(current.count, 1u);
+    ASSERT_EQ(current.items[0]->linkCount, 2u);
+    EXPECT_STREQ(current.items[0]->links[1]->itemText1, L"K-Line");
+
+    // Drop the K-line and slow the CAN down.
+    auto* entry = current.items[0];
+    release_PhysicalLink(entry->links[1]);
+    entry->linkCount = 1;
+    entry->links[0]->baudrate = 250000;
+    ErrorSlot setError;
+    List<PhysicalLinksOnModule, release_PhysicalLinksOnModule_array> updated;
+    kel_setPhysicalLinks(api, current.items, current.count, &setError, &updated.items,
+                         &updated.count);
+    ASSERT_FALSE(setError);
+    ASSERT_EQ(updated.count, 1u);
+    EXPECT_NE(updated.items[0], current.items[0]);
+    EXPECT_NE(updated.items[0]->links[0], current.items[0]->links[0]);
+    ASSERT_EQ(updated.items[0]->linkCount, 1u);
+    EXPECT_EQ(updated.items[0]->links[0]->baudrate, 250000u);
+
+    ErrorSlot againError;
+    List<PhysicalLinksOnModule, release_PhysicalLinksOnModule_array> again;
+    kel_getPhysicalLinks(api, const_cast<wchar_t**>(vci1), 1, &againError, &again.items,
+                         &again.count);
+    ASSERT_EQ(again.count, 1u);
+    ASSERT_EQ(again.items[0]->linkCount, 1u);
+    EXPECT_STREQ(again.items[0]->links[0]->itemText1, L"HS-CAN");
+    EXPECT_EQ(again.items[0]->links[0]->baudrate, 250000u);
+
+    // One unknown module: nothing changes.
+    std::wstring unknown = L"NOPE";
+    auto* saved = current.items[0]->module;
+    current.items[0]->module = unknown.data();
+    ErrorSlot unknownError;
+    List<PhysicalLinksOnModule, release_PhysicalLinksOnModule_array> none;
+    kel_setPhysicalLinks(api, current.items, current.count, &unknownError, &none.items,
+                         &none.count);
+    current.items[0]->module = saved;
+    ASSERT_TRUE(unknownError);
+    EXPECT_EQ(unknownError->code, 1400);
+    EXPECT_EQ(none.count, 0u);
+}
+
+TEST_F(Interfaces, DetectionFindsTheDynamicInterfacesAndConnectsThem) {
+    ErrorSlot error;
+    List<ModuleDyn, release_ModuleDyn_array> all;
+    kel_detectDynInterfacesEx(api, 0, &error, &all.items, &all.count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(names(all.items, all.count), (std::vector<std::wstring>{L"WVCI-7", L"WVCI-9"}));
+    ASSERT_NE(all.items[0]->vendorModule, nullptr);
+    EXPECT_STREQ(all.items[0]->vendorModule->itemText1, L"SIM_WVCI_DOIP");
+
+    List<ModuleDyn, release_ModuleDyn_array> one;
+    kel_detectDynInterfaces(api, 0, detection(L"*7", false), &error, &one.items, &one.count);
+    EXPECT_EQ(names(one.items, one.count), (std::vector<std::wstring>{L"WVCI-7"}));
+    List<ModuleDyn, release_ModuleDyn_array> limited;
+    kel_detectDynInterfacesEx(api, 1, &error, &limited.items, &limited.count);
+    EXPECT_EQ(limited.count, 1u);
+
+    kel_connectDynInterface(api, L"WVCI-7", 1, detection(L"WVCI-*", false), &error);
+    ASSERT_FALSE(error);
+    List<ModuleDyn, release_ModuleDyn_array> free;
+    kel_detectDynInterfaces(api, 0, detection(L"", true), &error, &free.items, &free.count);
+    EXPECT_EQ(names(free.items, free.count), (std::vector<std::wstring>{L"WVCI-9"}));
+    List<ModuleDyn, release_ModuleDyn_array> again;
+    kel_detectDynInterfacesEx(api, 0, &error, &again.items, &again.count);
+    EXPECT_EQ(again.items[0]->connected, 1);
+    EXPECT_EQ(again.items[0]->exclusive, 1);
+
+    // The dynamic interface alone carries diagnostic calls.
+    kel_disconnectInterfaces(api, &error);
+    kel_connectDynInterfaceEx(api, L"WVCI-9", 0, &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(readDtcsError(api), 0);
+    const wchar_t* dynamic[] = {L"WVCI-9"};
+    kel_disconnectDynInterfaces(api, const_cast<wchar_t**>(dynamic), 1, &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(readDtcsError(api), 1404);
+
+    ErrorSlot configured;
+    kel_connectDynInterfaceEx(api, L"VCI1", 0, &configured);
+    ASSERT_TRUE(configured);
+    EXPECT_EQ(configured->code, 1411);
+    ErrorSlot notFound;
+    kel_connectDynInterface(api, L"WVCI-9", 0, detection(L"*7", false), &notFound);
+    ASSERT_TRUE(notFound);
+    EXPECT_EQ(notFound->code, 1411);
+}
+
+struct Reports {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<std::vector<std::wstring>> modules;
+    std::vector<bool> finals;
+    int32_t finalError = -1;
+
+    static void callback(ModuleDyn** results, uint32_t count, bool isFinal, uint64_t /*callId*/,
+                         KelError* error, void* context) {
+        auto* self = static_cast<Reports*>(context);
+        auto found = names(results, count);
+        const int32_t code = error != nullptr ? error->code : 0;
+        release_ModuleDyn_array(results, count);
+        release_KelError(error);
+        const std::lock_guard lock(self->mutex);
+        self->modules.push_back(std::move(found));
+        self->finals.push_back(isFinal);
+        if (isFinal) {
+            self->finalError = code;
+        }
+        self->changed.notify_all();
+    }
+    bool waitForFinal() {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, 10s, [&] { return finalError >= 0; });
+    }
+};
+
+TEST_F(InterfacesConcurrency, AsynchronousDetectionReportsEachModuleAsItIsFound) {
+    Reports reports;
+    ErrorSlot error;
+    const auto id = kel_detectDynInterfacesAsync(api, 0, detection(L"", false), &error,
+                                                 Reports::callback, &reports);
+    ASSERT_FALSE(error);
+    ASSERT_NE(id, 0u);
+    ASSERT_TRUE(reports.waitForFinal());
+    const std::lock_guard lock(reports.mutex);
+    EXPECT_EQ(reports.modules, (std::vector<std::vector<std::wstring>>{{L"WVCI-7"}, {L"WVCI-9"}}));
+    EXPECT_EQ(reports.finals, (std::vector<bool>{false, true}));
+    EXPECT_EQ(reports.finalError, 0);
+}
+
+TEST_F(InterfacesConcurrency, CancelledDetectionEndsWithTheCancelError) {
+    kelsim_setAsyncInterval("detectDynInterfacesExAsync", 5000);
+    Reports reports;
+    ErrorSlot error;
+    const auto id = kel_detectDynInterfacesExAsync(api, 0, &error, Reports::callback, &reports);
+    ASSERT_NE(id, 0u);
+    const auto started = std::chrono::steady_clock::now();
+    kel_cancelAsyncCalls(api, &id, 1, &error);
+    ASSERT_FALSE(error);
+    ASSERT_TRUE(reports.waitForFinal());
+    EXPECT_LT(std::chrono::steady_clock::now() - started, 4s) << "not the 5 s report";
+    const std::lock_guard lock(reports.mutex);
+    EXPECT_EQ(reports.finalError, 1012);
+    ASSERT_EQ(reports.modules.size(), 1u);
+    EXPECT_TRUE(reports.modules[0].empty());
+}
+
+TEST_F(InterfacesConcurrency, AsynchronousScanCarriesThePerInterfaceErrors) {
+    struct ScanReports {
+        std::mutex mutex;
+        std::condition_variable changed;
+        std::vector<int32_t> codes;
+        bool done = false;
+    } reports;
+    auto callback = [](ScanInterfaceResult** results, uint32_t count, bool isFinal, uint64_t,
+                       KelError* error, void* context) {
+        auto* self = static_cast<ScanReports*>(context);
+        const std::lock_guard lock(self->mutex);
+        for (uint32_t i = 0; i < count; ++i) {
+            self->codes.push_back(results[i]->error != nullptr ? results[i]->error->code : 0);
+        }
+        release_ScanInterfaceResult_array(results, count);
+        release_KelError(error);
+        self->done = self->done || isFinal;
+        self->changed.notify_all();
+    };
+    const wchar_t* selected[] = {L"VCI2", L"VCI1"};
+    ErrorSlot error;
+    ASSERT_NE(kel_scanInterfaceConnectionAsync(api, const_cast<wchar_t**>(selected), 2, &error,
+                                               callback, &reports),
+              0u);
+    std::unique_lock lock(reports.mutex);
+    ASSERT_TRUE(reports.changed.wait_for(lock, 10s, [&] { return reports.done; }));
+    EXPECT_EQ(reports.codes, (std::vector<int32_t>{1403, 0}));
+}
+
+std::vector<std::wstring> clearCollection(TarnApi* api) {
+    ErrorSlot error;
+    List<KelError, release_KelError_array> errors;
+    kel_clearDoIPEcuCollection(api, &error, &errors.items, &errors.count);
+    EXPECT_FALSE(error);
+    std::vector<std::wstring> out;
+    for (uint32_t i = 0; i < errors.count; ++i) {
+        EXPECT_EQ(errors.items[i]->code, 1407);
+        out.emplace_back(errors.items[i]->details);
+    }
+    return out;
+}
+
+TEST_F(Interfaces, DoIPCollectionKeepsTheEntityInUseWithItsError) {
+    EXPECT_TRUE(clearCollection(api).empty()) << "nothing collected before a broadcast";
+    ErrorSlot error;
+    kel_executeDoIPBroadcast(api, &error);
+    ASSERT_FALSE(error);
+    const auto first = clearCollection(api);
+    ASSERT_EQ(first.size(), 1u);
+    EXPECT_NE(first[0].find(L"0x1010"), std::wstring::npos);
+    EXPECT_NE(first[0].find(L"WVWZZZ1KZ8W000417"), std::wstring::npos);
+    EXPECT_EQ(clearCollection(api), first) << "the entity in use stays collected";
+
+    // A bridge reaches only a collected entity.
+    uint64_t bridge = 0;
+    ErrorSlot cleared;
+    kel_createSocketBridge(api, 13400, 0x1000, &cleared, &bridge);
+    ASSERT_TRUE(cleared);
+    EXPECT_EQ(cleared->code, 1409);
+    EXPECT_EQ(bridge, 0u);
+    kel_createSocketBridge(api, 13400, 0x1010, &error, &bridge);
+    ASSERT_FALSE(error);
+    ASSERT_NE(bridge, 0u);
+
+    uint8_t works = 0xAA;
+    kel_testSocketBridge(api, bridge, &error, &works);
+    EXPECT_EQ(works, 1);
+    kel_disconnectInterfaces(api, &error);
+    kel_testSocketBridge(api, bridge, &error, &works);
+    EXPECT_EQ(works, 0) << "no interface carries it";
+
+    kel_releaseSocketBridge(api, bridge, &error);
+    ASSERT_FALSE(error);
+    ErrorSlot twice;
+    kel_releaseSocketBridge(api, bridge, &twice);
+    ASSERT_TRUE(twice);
+    EXPECT_EQ(twice->code, 1406);
+    ErrorSlot released;
+    kel_testSocketBridge(api, bridge, &released, &works);
+    ASSERT_TRUE(released);
+    EXPECT_EQ(released->code, 1406);
+
+    ErrorSlot badPort;
+    kel_createSocketBridge(api, 70000, 0x1010, &badPort, &bridge);
+    ASSERT_TRUE(badPort);
+    EXPECT_EQ(badPort->code, 1408);
+}
+
+TEST_F(Interfaces, TerminalOpensOnceAndClosesOnce) {
+    ErrorSlot error;
+    uint8_t opened = 0xAA;
+    kel_openTerminal(api, &error, &opened);
+    EXPECT_EQ(opened, 1);
+    kel_openTerminal(api, &error, &opened);
+    EXPECT_EQ(opened, 0) << "already open";
+    kel_closeTerminal(api, &error);
+    ASSERT_FALSE(error);
+    ErrorSlot twice;
+    kel_closeTerminal(api, &twice);
+    ASSERT_TRUE(twice);
+    EXPECT_EQ(twice->code, 1410);
+}
+
+TEST_F(Interfaces, PinStateAndWLanBelongToTheirInterface) {
+    const wchar_t* both[] = {L"VCI1", L"WVCI-7"};
+    ErrorSlot error;
+    kel_setEthernetPinState(api, 3, const_cast<wchar_t**>(both), 2, &error);
+    ASSERT_FALSE(error);
+    uint32_t state = 0;
+    kel_getEthernetPinState(api, L"WVCI-7", &error, &state);
+    EXPECT_EQ(state, 3u);
+    // One unknown name: no interface changes.
+    const wchar_t* withUnknown[] = {L"VCI1", L"NOPE"};
+    ErrorSlot unknown;
+    kel_setEthernetPinState(api, 5, const_cast<wchar_t**>(withUnknown), 2, &unknown);
+    ASSERT_TRUE(unknown);
+    kel_getEthernetPinState(api, L"VCI1", &error, &state);
+    EXPECT_EQ(state, 3u);
+
+    WLanSignalData* wlan = nullptr;
+    kel_getWLanSignalData(api, L"WVCI-7", &error, &wlan);
+    ASSERT_NE(wlan, nullptr);
+    EXPECT_EQ(wlan->value11, 80);
+    EXPECT_STREQ(wlan->text, L"Workshop-Diag");
+    release_WLanSignalData(wlan);
+    ErrorSlot noWLan;
+    kel_getWLanSignalData(api, L"VCI1", &noWLan, &wlan);
+    ASSERT_TRUE(noWLan);
+    EXPECT_EQ(noWLan->code, 1405);
+}
+
+TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {
+    ErrorSlot error;
+    InterfaceConfiguration* config = nullptr;
+    kel_getInterfaceConfiguration(api, &error, &config);
+    ASSERT_NE(config, nullptr);
+    ASSERT_EQ(config->entryCount, 2u) << "the configured interfaces, not the dynamic ones";
+    // Keep VCI1 only, under a new long name.
+    release_Memory(config->entries[0]->text2);
+    config->entries[0]->text2 = dup(L"Renamed");
+    release_InterfaceConfigurationEntry(config->entries[1]);
+    config->entryCount = 1;
+    kel_setInterfaceConfiguration(api, &error, config);
+    ASSERT_FALSE(error);
+    const auto all = scan(api, {});
+    ASSERT_EQ(all.size(), 3u);
+    EXPECT_EQ(all[0].name, L"VCI1");
+    EXPECT_TRUE(all[0].connected) << "a kept interface keeps its connection";
+    EXPECT_EQ(all[1].name, L"WVCI-7");
+    wchar_t* longName = nullptr;
+    kel_getInterfaceLongName(api, L"VCI1", &error, &longName);
+    ASSERT_NE(longName, nullptr);
+    EXPECT_STREQ(longName, L"Renamed");
+    release_Memory(longName);
+
+    List<InterfaceProvider, release_InterfaceProvider_array> providers;
+    kel_getInterfaceProviders(api, &error, &providers.items, &providers.count);
+    ASSERT_EQ(providers.count, 2u);
+    providers.items[1]->value = 0;
+    kel_setInterfaceProviders(api, &error, providers.items + 1, 1);
+    ASSERT_FALSE(error);
+    List<InterfaceProvider, release_InterfaceProvider_array> after;
+    kel_getInterfaceProviders(api, &error, &after.items, &after.count);
+    ASSERT_EQ(after.count, 1u);
+    EXPECT_STREQ(after.items[0]->itemText1, L"SimDoIP");
+    EXPECT_EQ(after.items[0]->value, 0u);
+}
+
+TEST_F(Interfaces, SavedConfigurationIsWhatTheNextEngineStartsWith) {
+    const auto root = std::filesystem::temp_directory_path() /
+                      ("kel_interfaces_test_" +
+                       std::to_string(::testing::UnitTest::GetInstance()->random_seed()));
+    std::filesystem::remove_all(root);
+    kelsim_setDataRoot(root.wstring().c_str());
+    ErrorSlot error;
+    kel_removeInterface(api, L"VCI2", &error);
+    kel_saveInterfaceConfiguration(api, &error);
+    ASSERT_FALSE(error);
+
+    releaseTarnApi(api);
+    kelsim_restart();
+    api = kel_getTarnApi();
+    kel_initialize(api, &error);
+    const auto restarted = scan(api, {});
+    ASSERT_EQ(restarted.size(), 3u);
+    EXPECT_EQ(restarted[0].name, L"VCI1");
+    EXPECT_EQ(restarted[1].name, L"WVCI-7");
+
+    kelsim_setDataRoot(L"");
+    std::filesystem::remove_all(root);
+}
+
+} // namespace
