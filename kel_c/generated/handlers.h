@@ -56,6 +56,28 @@ class IdentifyTargetsCallbackHandler final
     using Handler::Handler;
 };
 
+class ExecuteServiceCallbackHandler final
+    : public kel::Handler<ExecuteServiceCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ExecuteServiceCallback, ::ServiceResult,
+                          Varno::Kel_cpp::ServiceResult, ExecuteServiceCallbackFunction> {
+    using Handler::Handler;
+};
+
+class ExecuteServiceInDefaultSessionCallbackHandler final
+    : public kel::Handler<ExecuteServiceInDefaultSessionCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ExecuteServiceInDefaultSessionCallback,
+                          ::ServiceResult, Varno::Kel_cpp::ServiceResult,
+                          ExecuteServiceInDefaultSessionCallbackFunction> {
+    using Handler::Handler;
+};
+
+class ExecuteSequenceCallbackHandler final
+    : public kel::Handler<ExecuteSequenceCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ExecuteSequenceCallback, ::ServiceResult,
+                          Varno::Kel_cpp::ServiceResult, ExecuteSequenceCallbackFunction> {
+    using Handler::Handler;
+};
+
 class ClearSpecificDtcsCallbackHandler final
     : public kel::Handler<ClearSpecificDtcsCallbackHandler,
                           Varno::Kel_cpp::TarnApi::ClearSpecificDtcsCallback, ::ClearDtcResult,

@@ -73,48 +73,44 @@ const std::shared_ptr<ControlUnits>& Diagnostics::ready() const {
 }
 
 std::vector<std::shared_ptr<VariantIdentResult>> Diagnostics::identifyAllTargets() {
-    return ready()->update([](Units& ecus) { return Answers::identify(ecus, {}); });
+    return ready()->talk([](Bus& bus) { return Answers::identify(bus, {}); });
 }
 
 uint64_t Diagnostics::identifyAllTargetsAsync(IdentifyAllTargetsCallback* callback) {
     return vehicle_->async.start("identifyAllTargetsAsync", callback, [units = ready()] {
-        return units->update([](Units& ecus) { return Answers::identify(ecus, {}); });
+        return units->talk([](Bus& bus) { return Answers::identify(bus, {}); });
     });
 }
 
 std::vector<std::shared_ptr<ReadDataResult>>
 Diagnostics::readIdentificationValues(const std::vector<std::wstring>& targets) {
-    return ready()->read([&](const Units& ecus) { return Answers::identification(ecus, targets); });
+    return ready()->talk([&](Bus& bus) { return Answers::identification(bus, targets); });
 }
 
 uint64_t Diagnostics::readIdentificationValuesAsync(const std::vector<std::wstring>& targets,
                                                     ReadIdentificationValuesCallback* callback) {
-    return vehicle_->async.start("readIdentificationValuesAsync", callback,
-                                 [units = ready(), targets] {
-                                     return units->read([&](const Units& ecus) {
-                                         return Answers::identification(ecus, targets);
-                                     });
-                                 });
+    return vehicle_->async.start(
+        "readIdentificationValuesAsync", callback, [units = ready(), targets] {
+            return units->talk([&](Bus& bus) { return Answers::identification(bus, targets); });
+        });
 }
 
 std::vector<std::shared_ptr<ReadDataResult>>
 Diagnostics::readDataByIdentifiers(const std::wstring& target,
                                    const std::vector<std::wstring>& identifiers) {
-    return ready()->read(
-        [&](const Units& ecus) { return Answers::readData(ecus, target, identifiers); });
+    return ready()->talk([&](Bus& bus) { return Answers::readData(bus, target, identifiers); });
 }
 
 // The vehicle has nothing to say about a name it does not know.
 std::shared_ptr<VariantIdentResult> Diagnostics::identifyTarget(const std::wstring& target) {
-    auto results = ready()->update([&](Units& ecus) { return Answers::identify(ecus, {target}); });
+    auto results = ready()->talk([&](Bus& bus) { return Answers::identify(bus, {target}); });
     return results.front()->status == 2 ? nullptr : results.front();
 }
 
 std::vector<std::shared_ptr<ReadDtcResult>>
 Diagnostics::readDtcs(const std::vector<std::wstring>& targets,
                       std::shared_ptr<DtcReadConfig> config) {
-    return ready()->read(
-        [&](const Units& ecus) { return Answers::readDtcs(ecus, targets, config.get()); });
+    return ready()->talk([&](Bus& bus) { return Answers::readDtcs(bus, targets, config.get()); });
 }
 
 uint64_t Diagnostics::readDtcsAsync(const std::vector<std::wstring>& targets,
@@ -122,8 +118,8 @@ uint64_t Diagnostics::readDtcsAsync(const std::vector<std::wstring>& targets,
                                     ReadDtcsCallback* callback) {
     return vehicle_->async.start("readDtcsAsync", callback,
                                  [units = ready(), targets, config = std::move(config)] {
-                                     return units->read([&](const Units& ecus) {
-                                         return Answers::readDtcs(ecus, targets, config.get());
+                                     return units->talk([&](Bus& bus) {
+                                         return Answers::readDtcs(bus, targets, config.get());
                                      });
                                  });
 }
@@ -131,8 +127,8 @@ uint64_t Diagnostics::readDtcsAsync(const std::vector<std::wstring>& targets,
 std::vector<std::shared_ptr<SupportedDtcResult>>
 Diagnostics::readSupportedDtcs(const std::vector<std::wstring>& targets,
                                std::shared_ptr<DtcReadConfig> config) {
-    return ready()->read(
-        [&](const Units& ecus) { return Answers::readSupportedDtcs(ecus, targets, config.get()); });
+    return ready()->talk(
+        [&](Bus& bus) { return Answers::readSupportedDtcs(bus, targets, config.get()); });
 }
 
 uint64_t Diagnostics::readSupportedDtcsAsync(const std::vector<std::wstring>& targets,
@@ -140,9 +136,8 @@ uint64_t Diagnostics::readSupportedDtcsAsync(const std::vector<std::wstring>& ta
                                              ReadSupportedDtcsCallback* callback) {
     return vehicle_->async.start(
         "readSupportedDtcsAsync", callback, [units = ready(), targets, config = std::move(config)] {
-            return units->read([&](const Units& ecus) {
-                return Answers::readSupportedDtcs(ecus, targets, config.get());
-            });
+            return units->talk(
+                [&](Bus& bus) { return Answers::readSupportedDtcs(bus, targets, config.get()); });
         });
 }
 
@@ -150,7 +145,7 @@ std::vector<std::shared_ptr<ClearDtcResult>>
 Diagnostics::clearAllDtcs(const std::vector<std::wstring>& targets) {
     int32_t cleared = 0;
     auto results =
-        ready()->update([&](Units& ecus) { return Answers::clearAll(ecus, targets, cleared); });
+        ready()->talk([&](Bus& bus) { return Answers::clearAll(bus, targets, cleared); });
     postCleared(*vehicle_, cleared);
     return results;
 }
@@ -161,20 +156,19 @@ uint64_t Diagnostics::clearAllDtcsAsync(const std::vector<std::wstring>& targets
                                         ClearAllDtcsCallback* callback) {
     return vehicle_->async.start("clearAllDtcsAsync", callback, [units = ready(), targets] {
         int32_t cleared = 0;
-        return units->update(
-            [&](Units& ecus) { return Answers::clearAll(ecus, targets, cleared); });
+        return units->talk([&](Bus& bus) { return Answers::clearAll(bus, targets, cleared); });
     });
 }
 
 std::vector<std::shared_ptr<VariantIdentResult>>
 Diagnostics::identifyTargets(const std::vector<std::wstring>& targets) {
-    return ready()->update([&](Units& ecus) { return Answers::identify(ecus, targets); });
+    return ready()->talk([&](Bus& bus) { return Answers::identify(bus, targets); });
 }
 
 uint64_t Diagnostics::identifyTargetsAsync(const std::vector<std::wstring>& targets,
                                            IdentifyTargetsCallback* callback) {
     return vehicle_->async.start("identifyTargetsAsync", callback, [units = ready(), targets] {
-        return units->update([&](Units& ecus) { return Answers::identify(ecus, targets); });
+        return units->talk([&](Bus& bus) { return Answers::identify(bus, targets); });
     });
 }
 
@@ -197,8 +191,8 @@ Diagnostics::getTargetStatus(const std::vector<std::wstring>& targets) {
 std::vector<std::shared_ptr<ClearDtcResult>>
 Diagnostics::clearSpecificDtcs(const std::wstring& target, const std::vector<uint32_t>& dtcCodes) {
     int32_t cleared = 0;
-    auto results = ready()->update(
-        [&](Units& ecus) { return Answers::clearSpecific(ecus, target, dtcCodes, cleared); });
+    auto results = ready()->talk(
+        [&](Bus& bus) { return Answers::clearSpecific(bus, target, dtcCodes, cleared); });
     postCleared(*vehicle_, cleared);
     return results;
 }
@@ -209,9 +203,8 @@ uint64_t Diagnostics::clearSpecificDtcsAsync(const std::wstring& target,
     return vehicle_->async.start(
         "clearSpecificDtcsAsync", callback, [units = ready(), target, dtcCodes] {
             int32_t cleared = 0;
-            return units->update([&](Units& ecus) {
-                return Answers::clearSpecific(ecus, target, dtcCodes, cleared);
-            });
+            return units->talk(
+                [&](Bus& bus) { return Answers::clearSpecific(bus, target, dtcCodes, cleared); });
         });
 }
 

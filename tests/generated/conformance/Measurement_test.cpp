@@ -602,6 +602,22 @@ const kc::Case kGetMeasurementValueInfosCases[] = {
      "00000000", 0},
 };
 
+struct GetMeasurementValueInfosExport {
+    static constexpr const char* operation = "getMeasurementValueInfos";
+    using Result = kc::ListResult<ParameterInfo, release_ParameterInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kel_getMeasurementValueInfos(api, a0.get(), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Measurement, getMeasurementValueInfos_Exchange) {
+    kc::exchange<GetMeasurementValueInfosExport>(api, kGetMeasurementValueInfosCases);
+}
+TEST_F(Measurement, getMeasurementValueInfos_Failure) {
+    kc::failure<GetMeasurementValueInfosExport>(api, kGetMeasurementValueInfosCases);
+}
+
 const kc::Number kNumber37{37, "getMeasurementValueInfos", kGetMeasurementValueInfosCases};
 
 TEST_F(MeasurementByNumber, n37_getMeasurementValueInfos_KelCall) { kc::kelCall(api, kNumber37); }
@@ -1900,6 +1916,24 @@ const kc::Case kGetSingleMeasurementValueInfosCases[] = {
     {"empty", "[\"\",[]]", "[\"\",[]]", "[]", "null", "0000000000000000", "0000000000", "[\"\",[]]",
      "[\"\",[]]", "0100000000", "00000000", 0},
 };
+
+struct GetSingleMeasurementValueInfosExport {
+    static constexpr const char* operation = "getSingleMeasurementValueInfos";
+    using Result = kc::ListResult<ParameterInfo, release_ParameterInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kc::Texts a1(in[1]);
+        kel_getSingleMeasurementValueInfos(api, a0.get(), a1.data(), a1.count(), error, &out.data,
+                                           &out.count);
+    }
+};
+
+TEST_F(Measurement, getSingleMeasurementValueInfos_Exchange) {
+    kc::exchange<GetSingleMeasurementValueInfosExport>(api, kGetSingleMeasurementValueInfosCases);
+}
+TEST_F(Measurement, getSingleMeasurementValueInfos_Failure) {
+    kc::failure<GetSingleMeasurementValueInfosExport>(api, kGetSingleMeasurementValueInfosCases);
+}
 
 const kc::Number kNumber96{96, "getSingleMeasurementValueInfos",
                            kGetSingleMeasurementValueInfosCases};
