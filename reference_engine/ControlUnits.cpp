@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <cstdio>
 #include <stdexcept>
 
@@ -826,10 +827,14 @@ const SecurityLevel* Ecu::securityLevel(uint8_t level) const {
     return nullptr;
 }
 
+uint8_t Ecu::currentSession(int64_t nowMs) const {
+    const bool expired = state.keepAlive == 0 &&
+                         nowMs - state.lastRequestMs > static_cast<int64_t>(sessionTimeoutMs);
+    return expired ? uint8_t{1} : state.session;
+}
+
 Bytes Ecu::respond(const Bytes& request, int64_t nowMs) {
-    // A non-default session ends when nothing kept it alive for the session timeout.
-    if (state.session != 1 && state.keepAlive == 0 &&
-        nowMs - state.lastRequestMs > static_cast<int64_t>(sessionTimeoutMs)) {
+    if (currentSession(nowMs) != state.session) {
         state.session = 1;
         state.unlockedLevel = 0;
         state.seedLevel = 0;
@@ -847,11 +852,18 @@ Bytes Ecu::respond(const Bytes& request, int64_t nowMs) {
     }
     const ServiceSpec* spec = serviceFor(request);
     if (spec == nullptr) {
+        // Shorter than every request of this service id: the length is wrong, not the id.
+        std::size_t shortest = SIZE_MAX;
+        for (const auto& s : services) {
+            if (s.sid == sid) {
+                shortest = std::min(shortest, std::max<std::size_t>(s.key().size(), 1));
+            }
+        }
         const bool subFunction =
             sid == 0x10 || sid == 0x11 || sid == 0x19 || sid == 0x27 || sid == 0x3E;
-        return negative(request.size() < 2 ? IncorrectLength
-                        : subFunction      ? SubFunctionNotSupported
-                                           : RequestOutOfRange);
+        return negative(request.size() - 1 < shortest ? IncorrectLength
+                        : subFunction                 ? SubFunctionNotSupported
+                                                      : RequestOutOfRange);
     }
     if (!spec->access.allowsSession(state.session)) {
         return negative(ServiceNotSupportedInActiveSession);

@@ -207,6 +207,10 @@ struct Ecu {
     const Session* session(uint8_t id) const;
     const SecurityLevel* securityLevel(uint8_t level) const;
 
+    // The session the unit is in at vehicle time `nowMs`: a non-default session ends
+    // when nothing kept it alive for the session timeout.
+    uint8_t currentSession(int64_t nowMs) const;
+
     // The unit's answer to `request` at vehicle time `nowMs`: positive, or 7F, the
     // service id and a negative response code.
     Bytes respond(const Bytes& request, int64_t nowMs);
@@ -283,16 +287,17 @@ public:
         std::unique_lock lock(mutex_);
         requireLoaded();
         Bus bus(*this, ecus_);
-        if constexpr (std::is_void_v<decltype(use(bus))>) {
-            std::forward<Use>(use)(bus);
-            lock.unlock();
-            tell(bus.heard_);
-        } else {
-            auto result = std::forward<Use>(use)(bus);
-            lock.unlock();
-            tell(bus.heard_);
-            return result;
-        }
+        // Listeners hear what went over the bus also when the function throws.
+        struct Teller {
+            const ControlUnits& units;
+            Bus& bus;
+            std::unique_lock<std::mutex>& lock;
+            ~Teller() {
+                lock.unlock();
+                units.tell(bus.heard_);
+            }
+        } teller{*this, bus, lock};
+        return std::forward<Use>(use)(bus);
     }
 
     // Counts one request of `requestBytes` and, unless the unit stayed silent

@@ -86,6 +86,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     lifecycle.load(parts.lifecycle);
     events.load(parts.events);
     diagnostics.load(parts.diagnostics);
+    services.load();
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -94,6 +95,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.lifecycle = std::make_shared<Lifecycle>(vehicle, object);
     families.events = std::make_shared<Events>(vehicle, object);
     families.diagnostics = std::make_shared<Diagnostics>(vehicle);
+    families.services = std::make_shared<Services>(vehicle);
     return families;
 }
 

@@ -15,6 +15,7 @@
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
 #include "families/lifecycle/Lifecycle.h"
+#include "families/services/Services.h"
 
 #include <cstdint>
 #include <memory>
@@ -55,6 +56,7 @@ public:
     LifecycleState lifecycle;
     EventsState events;
     DiagnosticsState diagnostics;
+    ServicesState services;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};
