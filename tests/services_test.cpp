@@ -4,6 +4,9 @@
 // state for services and identification, vehicle unlock, descriptions and cancelling.
 #include "support.h"
 
+#include <Kel_cpp/Records.h>
+
+#include <OTXStream.h>
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
@@ -631,6 +634,50 @@ TEST_F(ServicesTest, AsynchronousExecutionReportsPerServiceAndCancels) {
               0U);
     ASSERT_TRUE(unknown);
     EXPECT_EQ(unknown->code, 1011);
+}
+
+// kel_call and py_call reach the same unit as the exports: a session entered through one
+// way in and a level unlocked through another hold for the third.
+TEST_F(ServicesTest, KelCallAndPyCallTalkToTheSameUnit) {
+    // kel_call 30 (executeService): the target, then the services (a count, then each
+    // record's fields: no parameters, no name, raw bytes 10 03, value).
+    kel::OTXStream otx(true, false, true);
+    otx.write(std::wstring(L"ECM")).write(uint32_t{1});
+    otx.write(uint32_t{0}).write(std::wstring()).write(Bytes{0x10, 0x03}).write(uint64_t{0});
+    void* stream = nullptr;
+    uint64_t size = 0;
+    kel_call_checked(0, 30, otx.buffer, otx.position, &stream, &size);
+    Bytes entered(size);
+    kel_call_result(stream, entered.data());
+    ASSERT_FALSE(entered.empty());
+    ASSERT_EQ(entered[0], 1);
+    kel::OTXStream back(entered.data() + 1, true, false, true);
+    std::vector<std::shared_ptr<Varno::Kel_cpp::ServiceResult>> results;
+    back.read(results);
+    ASSERT_EQ(results.size(), 1U);
+    EXPECT_EQ(results[0]->status, 0);
+    EXPECT_EQ(results[0]->itemText4, L"Extended");
+
+    // py_call 43 (createSeed) and 44 (sendKey).
+    kel::OTXStream ask(false, true, false);
+    ask.write(ecmAddress).write(uint32_t{1});
+    uint32_t seedSize = 0;
+    void* buffer = nullptr;
+    ASSERT_EQ(py_call_checked(api, 43, 0, ask.buffer, ask.position, &seedSize, &buffer), 0);
+    Bytes answer(seedSize);
+    py_result(answer.data(), static_cast<int32_t>(seedSize), buffer);
+    kel::OTXStream seedStream(answer.data(), true, false, false);
+    Bytes seed;
+    seedStream.read(seed);
+    ASSERT_EQ(seed.size(), 4U);
+    kel::OTXStream send(false, true, false);
+    send.write(keyFor(seed.data(), ecmKeyMask));
+    uint32_t sentSize = 0;
+    ASSERT_EQ(py_call_checked(api, 44, 0, send.buffer, send.position, &sentSize, &buffer), 0);
+    py_result(nullptr, 0, buffer);
+
+    EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000005")}).first, 0)
+        << "the export finds the session and the level unlocked";
 }
 
 } // namespace
