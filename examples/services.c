@@ -82,8 +82,9 @@ static int run(TarnApi* api, ServiceInput* s, wchar_t* value, size_t valueSize) 
                    response->parameters[i]->text1, response->parameters[i]->text2);
         }
         if (value != NULL && response->parameterCount > 0) {
-            swprintf(value, valueSize, L"%ls",
-                     response->parameters[response->parameterCount - 1]->text1);
+            wcsncpy(value, response->parameters[response->parameterCount - 1]->text1,
+                    valueSize - 1);
+            value[valueSize - 1] = L'\0';
         }
     }
     if (r->error != NULL && r->error->negativeResponse != NULL) {

@@ -384,9 +384,12 @@ TEST_F(ServicesTest, SecurityAccessByServicesUsesTheSameUnit) {
     ASSERT_EQ(r.parameterCount, 2U);
     EXPECT_STREQ(r.parameters[1]->itemText1, L"Seed");
     const Bytes key = keyFor(r.parameters[1]->data, ecmKeyMask);
-    wchar_t hex[16];
-    std::swprintf(hex, 16, L"%02X%02X%02X%02X", key[0], key[1], key[2], key[3]);
-    EXPECT_EQ(one(L"SecurityAccess_SendKey_Level1", {param(L"Key", hex)}).first, 0);
+    std::wstring hex;
+    for (const uint8_t b : key) {
+        hex += L"0123456789ABCDEF"[b >> 4];
+        hex += L"0123456789ABCDEF"[b & 0xF];
+    }
+    EXPECT_EQ(one(L"SecurityAccess_SendKey_Level1", {param(L"Key", hex.c_str())}).first, 0);
     EXPECT_EQ(one(L"RoutineControl_0204").first, 0);
     Inputs run0203;
     run0203.raw({0x31, 0x01, 0x02, 0x03, 0x01, 0x01, 0x00, 0x01, 0x01});
