@@ -1092,7 +1092,10 @@ void ControlUnits::tell(const std::vector<Exchange>& heard) const {
     }
     for (const auto& exchange : heard) {
         for (const auto& l : listeners) {
-            l(exchange);
+            try {
+                l(exchange);
+            } catch (...) { // NOLINT(bugprone-empty-catch): a listener cannot fail a call
+            }
         }
     }
 }

@@ -282,6 +282,15 @@ public:
         return std::forward<Use>(use)(std::as_const(ecus_));
     }
 
+    // Changes the units without anything going over the bus (what a tester would send
+    // goes through talk instead, so that it is counted and heard).
+    template <class Use>
+    decltype(auto) update(Use&& use) {
+        const std::lock_guard lock(mutex_);
+        requireLoaded();
+        return std::forward<Use>(use)(ecus_);
+    }
+
     template <class Use>
     auto talk(Use&& use) {
         std::unique_lock lock(mutex_);
@@ -308,7 +317,8 @@ public:
     BusTraffic traffic() const;
 
     // `listener` hears every later exchange, outside every lock of the units, on the
-    // thread that made it. Returns an id for stopListening (never 0).
+    // thread that made it; what it throws is dropped. Returns an id for stopListening
+    // (never 0).
     using Listener = std::function<void(const Exchange&)>;
     uint64_t listen(Listener listener);
     void stopListening(uint64_t id);
