@@ -68,10 +68,19 @@ typedef struct ReadDataResult ReadDataResult;
 typedef struct Target Target;
 typedef struct TargetStatus TargetStatus;
 typedef struct TargetFilter TargetFilter;
+typedef struct ParameterInput ParameterInput;
+typedef struct ServiceInput ServiceInput;
+typedef struct ServiceResult ServiceResult;
+typedef struct ResponseResult ResponseResult;
+typedef struct RequestResult RequestResult;
+typedef struct UnlockResult UnlockResult;
+typedef struct ServiceInfo ServiceInfo;
+typedef struct ResponseInfo ResponseInfo;
 typedef struct ParameterInfo ParameterInfo;
 typedef struct ConstraintInfo ConstraintInfo;
 typedef struct ScaleConstraintInfo ScaleConstraintInfo;
 typedef struct UnitInfo UnitInfo;
+typedef struct ParameterInfoConfig ParameterInfoConfig;
 typedef struct KelEvent KelEvent;
 typedef struct EventReport EventReport;
 typedef struct FileFilter FileFilter;
@@ -306,6 +315,119 @@ struct TargetFilter {
     int32_t value;    /* copied unchanged from the engine */
 };
 
+/* One parameter value to send with a service. A structured parameter carries its members as
+ * children, so the values form a tree.
+ * Freed with release_ParameterInput, which frees everything it points to; a list of them with
+ * release_ParameterInput_array. */
+struct ParameterInput {
+    wchar_t* name;             /* the parameter's name */
+    ParameterInput** children; /* the member values of a structured parameter */
+    uint32_t childCount;
+    wchar_t* value; /* the value, written as text */
+};
+
+/* One service to execute, with its parameter values or its raw request bytes.
+ * Freed with release_ServiceInput, which frees everything it points to; a list of them with
+ * release_ServiceInput_array. */
+struct ServiceInput {
+    ParameterInput** parameters; /* the parameter values to send */
+    uint32_t parameterCount;
+    wchar_t* service; /* the service's name */
+    uint8_t* data;    /* raw request bytes, sent as given */
+    uint32_t dataLength;
+    uint64_t value; /* copied unchanged to the engine */
+};
+
+/* The result of one executed service: the request as sent and every response received.
+ * Freed with release_ServiceResult, which frees everything it points to; a list of them with
+ * release_ServiceResult_array. */
+struct ServiceResult {
+    wchar_t* itemText1;         /* the item's first text, usually its name */
+    wchar_t* itemText2;         /* second text */
+    wchar_t* itemText3;         /* third text */
+    wchar_t* itemText4;         /* fourth text */
+    ResponseResult** responses; /* the responses received */
+    uint32_t responseCount;
+    int32_t status;         /* the engine's status of the service */
+    wchar_t* text1;         /* copied unchanged from the engine */
+    KelError* error;        /* the service's own error; NULL when it succeeded */
+    RequestResult* request; /* the request as sent; NULL when the engine gives none */
+    int32_t value1;         /* copied unchanged from the engine */
+};
+
+/* One response received for a service, as bytes and as decoded parameters.
+ * Freed with release_ResponseResult, which frees everything it points to; a list of them with
+ * release_ResponseResult_array. */
+struct ResponseResult {
+    wchar_t* itemText1; /* the item's first text, usually its name */
+    wchar_t* itemText2; /* second text */
+    wchar_t* itemText3; /* third text */
+    wchar_t* itemText4; /* fourth text */
+    uint8_t flag;       /* copied unchanged from the engine */
+    KelError* error;    /* the response's own error; NULL when none */
+    uint8_t* data;      /* the response bytes; NULL and 0 when empty */
+    uint32_t dataLength;
+    uint64_t value1;              /* copied unchanged from the engine */
+    uint64_t value2;              /* copied unchanged from the engine */
+    ParameterResult** parameters; /* the decoded response parameters */
+    uint32_t parameterCount;
+};
+
+/* The request of a service as it was sent, as bytes and as decoded parameters.
+ * Freed with release_RequestResult, which frees everything it points to; a list of them with
+ * release_RequestResult_array. */
+struct RequestResult {
+    KelError* error; /* the request's own error; NULL when none */
+    uint8_t* data;   /* the request bytes; NULL and 0 when empty */
+    uint32_t dataLength;
+    uint64_t value1;              /* copied unchanged from the engine */
+    uint64_t value2;              /* copied unchanged from the engine */
+    ParameterResult** parameters; /* the decoded request parameters */
+    uint32_t parameterCount;
+};
+
+/* The result of unlocking a vehicle: the services run for the unlock.
+ * Freed with release_UnlockResult, which frees everything it points to; a list of them with
+ * release_UnlockResult_array. */
+struct UnlockResult {
+    uint64_t value;           /* copied unchanged from the engine; releaseVehicleUnlock takes it */
+    ServiceResult** services; /* the services run for the unlock */
+    uint32_t serviceCount;
+};
+
+/* One service that a target offers: its request parameters and its possible responses.
+ * Freed with release_ServiceInfo, which frees everything it points to; a list of them with
+ * release_ServiceInfo_array. */
+struct ServiceInfo {
+    wchar_t* itemText1;       /* the item's first text, usually its name */
+    wchar_t* itemText2;       /* second text */
+    wchar_t* itemText3;       /* third text */
+    wchar_t* itemText4;       /* fourth text */
+    uint8_t flag;             /* copied unchanged from the engine */
+    ResponseInfo** responses; /* the responses the service can give */
+    uint32_t responseCount;
+    ParameterInfo** parameters; /* the request parameters */
+    uint32_t parameterCount;
+    wchar_t* text1;    /* copied unchanged from the engine */
+    NamedItem** items; /* further named entries of the service */
+    uint32_t itemCount;
+    KelError* error;    /* an error describing this service; NULL when none */
+    uint32_t values[5]; /* five engine values, in order */
+};
+
+/* One response that a service can give, with its parameters.
+ * Freed with release_ResponseInfo, which frees everything it points to; a list of them with
+ * release_ResponseInfo_array. */
+struct ResponseInfo {
+    wchar_t* itemText1;         /* the item's first text, usually its name */
+    wchar_t* itemText2;         /* second text */
+    wchar_t* itemText3;         /* third text */
+    wchar_t* itemText4;         /* fourth text */
+    int32_t status;             /* the engine's kind of response */
+    ParameterInfo** parameters; /* the response parameters */
+    uint32_t parameterCount;
+};
+
 /* The description of one parameter: its texts, limits and unit. Structured parameters describe
  * their members as children.
  * Freed with release_ParameterInfo, which frees everything it points to; a list of them with
@@ -373,6 +495,17 @@ struct UnitInfo {
     uint8_t flag1;      /* copied unchanged from the engine */
     uint64_t value2;    /* copied unchanged from the engine */
     uint8_t flag2;      /* copied unchanged from the engine */
+};
+
+/* Selects the parameter that getParameterInfo describes.
+ * Freed with release_ParameterInfoConfig, which frees everything it points to; a list of them
+ * with release_ParameterInfoConfig_array. */
+struct ParameterInfoConfig {
+    wchar_t* text1; /* passed unchanged to the engine */
+    wchar_t* text2; /* passed unchanged to the engine */
+    int32_t value;  /* passed unchanged to the engine */
+    wchar_t* text3; /* passed unchanged to the engine */
+    wchar_t* text4; /* passed unchanged to the engine */
 };
 
 /* One event of the engine, fetched from an event channel.
@@ -1026,6 +1159,22 @@ KEL_C_API void release_TargetStatus(KEL_CONSUMED TargetStatus* ptr);
 KEL_C_API void release_TargetStatus_array(KEL_CONSUMED TargetStatus** ptr, uint64_t count);
 KEL_C_API void release_TargetFilter(KEL_CONSUMED TargetFilter* ptr);
 KEL_C_API void release_TargetFilter_array(KEL_CONSUMED TargetFilter** ptr, uint64_t count);
+KEL_C_API void release_ParameterInput(KEL_CONSUMED ParameterInput* ptr);
+KEL_C_API void release_ParameterInput_array(KEL_CONSUMED ParameterInput** ptr, uint64_t count);
+KEL_C_API void release_ServiceInput(KEL_CONSUMED ServiceInput* ptr);
+KEL_C_API void release_ServiceInput_array(KEL_CONSUMED ServiceInput** ptr, uint64_t count);
+KEL_C_API void release_ServiceResult(KEL_CONSUMED ServiceResult* ptr);
+KEL_C_API void release_ServiceResult_array(KEL_CONSUMED ServiceResult** ptr, uint64_t count);
+KEL_C_API void release_ResponseResult(KEL_CONSUMED ResponseResult* ptr);
+KEL_C_API void release_ResponseResult_array(KEL_CONSUMED ResponseResult** ptr, uint64_t count);
+KEL_C_API void release_RequestResult(KEL_CONSUMED RequestResult* ptr);
+KEL_C_API void release_RequestResult_array(KEL_CONSUMED RequestResult** ptr, uint64_t count);
+KEL_C_API void release_UnlockResult(KEL_CONSUMED UnlockResult* ptr);
+KEL_C_API void release_UnlockResult_array(KEL_CONSUMED UnlockResult** ptr, uint64_t count);
+KEL_C_API void release_ServiceInfo(KEL_CONSUMED ServiceInfo* ptr);
+KEL_C_API void release_ServiceInfo_array(KEL_CONSUMED ServiceInfo** ptr, uint64_t count);
+KEL_C_API void release_ResponseInfo(KEL_CONSUMED ResponseInfo* ptr);
+KEL_C_API void release_ResponseInfo_array(KEL_CONSUMED ResponseInfo** ptr, uint64_t count);
 KEL_C_API void release_ParameterInfo(KEL_CONSUMED ParameterInfo* ptr);
 KEL_C_API void release_ParameterInfo_array(KEL_CONSUMED ParameterInfo** ptr, uint64_t count);
 KEL_C_API void release_ConstraintInfo(KEL_CONSUMED ConstraintInfo* ptr);
@@ -1035,6 +1184,9 @@ KEL_C_API void release_ScaleConstraintInfo_array(KEL_CONSUMED ScaleConstraintInf
                                                  uint64_t count);
 KEL_C_API void release_UnitInfo(KEL_CONSUMED UnitInfo* ptr);
 KEL_C_API void release_UnitInfo_array(KEL_CONSUMED UnitInfo** ptr, uint64_t count);
+KEL_C_API void release_ParameterInfoConfig(KEL_CONSUMED ParameterInfoConfig* ptr);
+KEL_C_API void release_ParameterInfoConfig_array(KEL_CONSUMED ParameterInfoConfig** ptr,
+                                                 uint64_t count);
 KEL_C_API void release_KelEvent(KEL_CONSUMED KelEvent* ptr);
 KEL_C_API void release_KelEvent_array(KEL_CONSUMED KelEvent** ptr, uint64_t count);
 KEL_C_API void release_EventReport(KEL_CONSUMED EventReport* ptr);
@@ -1171,6 +1323,10 @@ typedef void (*ReadMeasurementValuesCallbackFunction)(ReadDataResult** results,
 typedef void (*IdentifyTargetsCallbackFunction)(VariantIdentResult** results, uint32_t resultCount,
                                                 bool isFinal, uint64_t callId, KelError* error,
                                                 void* context);
+/* Reports of kel_executeServiceAsync: free results with release_ServiceResult_array. */
+typedef void (*ExecuteServiceCallbackFunction)(ServiceResult** results, uint32_t resultCount,
+                                               bool isFinal, uint64_t callId, KelError* error,
+                                               void* context);
 /* Reports of kel_detectDynInterfacesAsync: free results with release_ModuleDyn_array. */
 typedef void (*DetectDynInterfacesCallbackFunction)(ModuleDyn** results, uint32_t resultCount,
                                                     bool isFinal, uint64_t callId, KelError* error,
@@ -1179,6 +1335,16 @@ typedef void (*DetectDynInterfacesCallbackFunction)(ModuleDyn** results, uint32_
 typedef void (*DetectDynInterfacesExCallbackFunction)(ModuleDyn** results, uint32_t resultCount,
                                                       bool isFinal, uint64_t callId,
                                                       KelError* error, void* context);
+/* Reports of kel_executeServiceInDefaultSessionAsync: free results with
+ * release_ServiceResult_array. */
+typedef void (*ExecuteServiceInDefaultSessionCallbackFunction)(ServiceResult** results,
+                                                               uint32_t resultCount, bool isFinal,
+                                                               uint64_t callId, KelError* error,
+                                                               void* context);
+/* Reports of kel_executeSequenceAsync: free results with release_ServiceResult_array. */
+typedef void (*ExecuteSequenceCallbackFunction)(ServiceResult** results, uint32_t resultCount,
+                                                bool isFinal, uint64_t callId, KelError* error,
+                                                void* context);
 /* Reports of kel_clearSpecificDtcsAsync: free results with release_ClearDtcResult_array. */
 typedef void (*ClearSpecificDtcsCallbackFunction)(ClearDtcResult** results, uint32_t resultCount,
                                                   bool isFinal, uint64_t callId, KelError* error,
@@ -1425,6 +1591,15 @@ KEL_C_API void kel_setSessionTargetFilters(TarnApi* api, KelError** error,
 
 /* ---- Services ----
  * Service execution and descriptions, security access, vehicle unlock and cyclic services */
+/* Describes services with their responses and parameters; the texts, names and value select
+ * them as the engine defines. Position 29.
+ * text1, text2, names: kept by the caller, read only during the call.
+ * On success *services and *serviceCount receive a ServiceInfo list, NULL and 0 when empty;
+ * free it with release_ServiceInfo_array(services, serviceCount). */
+KEL_C_API void kel_getServiceInfos(TarnApi* api, KEL_KEPT const wchar_t* text1,
+                                   KEL_KEPT const wchar_t* text2, KEL_KEPT wchar_t** names,
+                                   uint32_t nameCount, int32_t value, KelError** error,
+                                   KEL_OUT ServiceInfo*** services, KEL_OUT uint32_t* serviceCount);
 /* Describes the identification values that one target offers. Position 42.
  * target: kept by the caller, read only during the call.
  * On success *infos and *infoCount receive a ParameterInfo list, NULL and 0 when empty; free
@@ -1451,11 +1626,83 @@ KEL_C_API void kel_getActuatorServiceInfos(TarnApi* api, KEL_KEPT const wchar_t*
                                            KEL_KEPT const wchar_t* text2, KelError** error,
                                            KEL_OUT ParameterInfo*** infos,
                                            KEL_OUT uint32_t* infoCount);
+/* Starts running the given services on one target every cycleTime; returns the cyclic run's
+ * identifier. Position 78.
+ * target, services: kept by the caller, read only during the call.
+ * On success *cyclic receives the result. */
+KEL_C_API void kel_startCyclicServices(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                       KEL_KEPT ServiceInput** services, uint32_t serviceCount,
+                                       uint32_t cycleTime, KelError** error,
+                                       KEL_OUT uint64_t* cyclic);
+/* Fetches the results of a cyclic run started with kel_startCyclicServices. Position 79.
+ * On success *results and *resultCount receive a ServiceResult list, NULL and 0 when empty;
+ * free it with release_ServiceResult_array(results, resultCount). */
+KEL_C_API void kel_getCyclicResults(TarnApi* api, uint64_t cyclic, KelError** error,
+                                    KEL_OUT ServiceResult*** results,
+                                    KEL_OUT uint32_t* resultCount);
 /* Stops a cyclic run started with kel_startCyclicServices. Position 80. */
 KEL_C_API void kel_stopCyclicServices(TarnApi* api, uint64_t cyclic, KelError** error);
+/* Executes diagnostic services on one target with the given parameter values. Position 92.
+ * target, services: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a ServiceResult list, NULL and 0 when empty;
+ * free it with release_ServiceResult_array(results, resultCount). */
+KEL_C_API void kel_executeService(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                  KEL_KEPT ServiceInput** services, uint32_t serviceCount,
+                                  KelError** error, KEL_OUT ServiceResult*** results,
+                                  KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_executeService. Position 93.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * target, services: kept by the caller, read only during the call.
+ * callback receives ServiceResult lists, once or several times until isFinal, on a thread of
+ * the engine; each list and error belong to it, to free with release_ServiceResult_array and
+ * release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_executeServiceAsync(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                           KEL_KEPT ServiceInput** services, uint32_t serviceCount,
+                                           KelError** error,
+                                           ExecuteServiceCallbackFunction callback, void* context);
+/* Changes the services that a cyclic run started with kel_startCyclicServices executes.
+ * Position 98.
+ * services: kept by the caller, read only during the call. */
+KEL_C_API void kel_updateCyclicServices(TarnApi* api, uint64_t cyclic,
+                                        KEL_KEPT ServiceInput** services, uint32_t serviceCount,
+                                        KelError** error);
+/* Unlocks the vehicle by running the given services on one target. Position 146.
+ * target, services: kept by the caller, read only during the call.
+ * On success *result receives an UnlockResult record, or NULL when the engine gives none; free
+ * it with release_UnlockResult. */
+KEL_C_API void kel_unlockVehicle(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                 KEL_KEPT ServiceInput** services, uint32_t serviceCount,
+                                 KelError** error, KEL_OUT UnlockResult** result);
 /* Releases a vehicle unlock; value is passed to the engine unchanged. Position 147.
  * The engine's result is not handed out. */
 KEL_C_API void kel_releaseVehicleUnlock(TarnApi* api, uint64_t value, KelError** error);
+/* Executes diagnostic services on one target, as kel_executeService does, in the default
+ * diagnostic session. Position 179.
+ * target, services: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a ServiceResult list, NULL and 0 when empty;
+ * free it with release_ServiceResult_array(results, resultCount). */
+KEL_C_API void kel_executeServiceInDefaultSession(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                                  KEL_KEPT ServiceInput** services,
+                                                  uint32_t serviceCount, KelError** error,
+                                                  KEL_OUT ServiceResult*** results,
+                                                  KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_executeServiceInDefaultSession. Position 180.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * target, services: kept by the caller, read only during the call.
+ * callback receives ServiceResult lists, once or several times until isFinal, on a thread of
+ * the engine; each list and error belong to it, to free with release_ServiceResult_array and
+ * release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_executeServiceInDefaultSessionAsync(
+    TarnApi* api, KEL_KEPT const wchar_t* target, KEL_KEPT ServiceInput** services,
+    uint32_t serviceCount, KelError** error,
+    ExecuteServiceInDefaultSessionCallbackFunction callback, void* context);
+/* Describes the one parameter that config selects. Position 232.
+ * config: consumed: the library frees it with release_ParameterInfoConfig, also when the call
+ * fails; NULL passes no record.
+ * On success *info receives a ParameterInfo record, or NULL when the engine gives none; free
+ * it with release_ParameterInfo. */
+KEL_C_API void kel_getParameterInfo(TarnApi* api, KEL_CONSUMED ParameterInfoConfig* config,
+                                    KelError** error, KEL_OUT ParameterInfo** info);
 
 /* ---- Projects ----
  * Projects, configuration, system properties, database files and system information */
@@ -2100,6 +2347,27 @@ KEL_C_API void kel_runSequence(TarnApi* api, KEL_KEPT const wchar_t* sequence,
                                KelError** error, KEL_OUT uint64_t* run);
 /* Cancels a run of a sequence started with kel_runSequence. Position 148. */
 KEL_C_API void kel_cancelSequence(TarnApi* api, uint64_t run, KelError** error);
+/* Executes a sequence on one target with the given parameter values. Position 228.
+ * target, sequence, parameters: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a ServiceResult list, NULL and 0 when empty;
+ * free it with release_ServiceResult_array(results, resultCount). */
+KEL_C_API void kel_executeSequence(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                   KEL_KEPT const wchar_t* sequence,
+                                   KEL_KEPT ParameterInput** parameters, uint32_t parameterCount,
+                                   KelError** error, KEL_OUT ServiceResult*** results,
+                                   KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_executeSequence. Position 229.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * target, sequence, parameters: kept by the caller, read only during the call.
+ * callback receives ServiceResult lists, once or several times until isFinal, on a thread of
+ * the engine; each list and error belong to it, to free with release_ServiceResult_array and
+ * release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_executeSequenceAsync(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                            KEL_KEPT const wchar_t* sequence,
+                                            KEL_KEPT ParameterInput** parameters,
+                                            uint32_t parameterCount, KelError** error,
+                                            ExecuteSequenceCallbackFunction callback,
+                                            void* context);
 
 /* ---- EcuOrder ----
  * The ECU order */

@@ -30,7 +30,13 @@ enum ErrorCode : int32_t {
     BadVehicleDescription = 1013,
     UnknownIdentifier = 1014,
 
-    // Services: 1100-1199.
+    // Services: 1100-1199. Mostly per-service errors inside results.
+    UnknownService = 1100,           // the target's catalogue has no service of that name
+    BadParameterValue = 1101,        // a request that cannot be written from the values given
+    NegativeResponseReceived = 1102, // the unit's negative response (its code in subCode)
+    NoSeedRequested = 1103,          // sendKey without a seed asked for first
+    UnknownUnlock = 1104,            // releaseVehicleUnlock of a value no unlock has
+    UnknownParameter = 1105,         // getParameterInfo of a parameter no service has
 
     // Projects: 1200-1299.
     UnknownProject = 1200,          // no project of that name or path in the projects folder

@@ -89,6 +89,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     events.load(parts.events);
     diagnostics.load(parts.diagnostics);
     interfaces->load(parts.interfaces);
+    services.load();
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -99,6 +100,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.diagnostics = std::make_shared<Diagnostics>(vehicle);
     families.projects = std::make_shared<Projects>(vehicle, object);
     families.interfaces = std::make_shared<Interfaces>(vehicle);
+    families.services = std::make_shared<Services>(vehicle);
     return families;
 }
 

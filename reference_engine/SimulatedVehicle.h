@@ -17,6 +17,7 @@
 #include "families/interfaces/Interfaces.h"
 #include "families/lifecycle/Lifecycle.h"
 #include "families/projects/Projects.h"
+#include "families/services/Services.h"
 
 #include <cstdint>
 #include <memory>
@@ -60,6 +61,7 @@ public:
     ProjectsState projects;
     // Shared with the asynchronous scans and detections, which may outlive the vehicle.
     const std::shared_ptr<InterfacesState> interfaces = std::make_shared<InterfacesState>();
+    ServicesState services;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};

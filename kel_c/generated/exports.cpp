@@ -58,6 +58,36 @@ void release_TargetFilter(TargetFilter* ptr) { kel::release(ptr); }
 void release_TargetFilter_array(TargetFilter** ptr, uint64_t count) {
     kel::releaseArray(ptr, count);
 }
+void release_ParameterInput(ParameterInput* ptr) { kel::release(ptr); }
+void release_ParameterInput_array(ParameterInput** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ServiceInput(ServiceInput* ptr) { kel::release(ptr); }
+void release_ServiceInput_array(ServiceInput** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ServiceResult(ServiceResult* ptr) { kel::release(ptr); }
+void release_ServiceResult_array(ServiceResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ResponseResult(ResponseResult* ptr) { kel::release(ptr); }
+void release_ResponseResult_array(ResponseResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_RequestResult(RequestResult* ptr) { kel::release(ptr); }
+void release_RequestResult_array(RequestResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_UnlockResult(UnlockResult* ptr) { kel::release(ptr); }
+void release_UnlockResult_array(UnlockResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ServiceInfo(ServiceInfo* ptr) { kel::release(ptr); }
+void release_ServiceInfo_array(ServiceInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_ResponseInfo(ResponseInfo* ptr) { kel::release(ptr); }
+void release_ResponseInfo_array(ResponseInfo** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
 void release_ParameterInfo(ParameterInfo* ptr) { kel::release(ptr); }
 void release_ParameterInfo_array(ParameterInfo** ptr, uint64_t count) {
     kel::releaseArray(ptr, count);
@@ -72,6 +102,10 @@ void release_ScaleConstraintInfo_array(ScaleConstraintInfo** ptr, uint64_t count
 }
 void release_UnitInfo(UnitInfo* ptr) { kel::release(ptr); }
 void release_UnitInfo_array(UnitInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_ParameterInfoConfig(ParameterInfoConfig* ptr) { kel::release(ptr); }
+void release_ParameterInfoConfig_array(ParameterInfoConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
 void release_KelEvent(KelEvent* ptr) { kel::release(ptr); }
 void release_KelEvent_array(KelEvent** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
 void release_EventReport(EventReport* ptr) { kel::release(ptr); }
@@ -350,6 +384,17 @@ uint64_t kel_clearAllDtcsAsync(TarnApi* api, wchar_t** targets, uint32_t targetC
         return api->clearAllDtcsAsync(kel::in::texts(targets, targetCount), handler);
     });
 }
+void kel_getServiceInfos(TarnApi* api, const wchar_t* text1, const wchar_t* text2, wchar_t** names,
+                         uint32_t nameCount, int32_t value, KelError** error,
+                         ServiceInfo*** services, uint32_t* serviceCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->getServiceInfos(kel::in::text(text1), kel::in::text(text2),
+                                        kel::in::texts(names, nameCount), value);
+        },
+        kel::out::records(services, serviceCount));
+}
 void kel_connectRemoteServer(TarnApi* api, const wchar_t* text, KelError** error,
                              uint64_t* handle) {
     kel::invoke(
@@ -549,6 +594,23 @@ void kel_convertProject(TarnApi* api, const wchar_t* projectPath, KelError** err
 void kel_saveMoxConfiguration(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->saveMoxConfiguration(); });
 }
+void kel_startCyclicServices(TarnApi* api, const wchar_t* target, ServiceInput** services,
+                             uint32_t serviceCount, uint32_t cycleTime, KelError** error,
+                             uint64_t* cyclic) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->startCyclicServices(kel::in::text(target),
+                                            kel::in::records(services, serviceCount), cycleTime);
+        },
+        kel::out::value(cyclic));
+}
+void kel_getCyclicResults(TarnApi* api, uint64_t cyclic, KelError** error, ServiceResult*** results,
+                          uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->getCyclicResults(cyclic); },
+        kel::out::records(results, resultCount));
+}
 void kel_stopCyclicServices(TarnApi* api, uint64_t cyclic, KelError** error) {
     kel::invoke(error, [&] { api->stopCyclicServices(cyclic); });
 }
@@ -606,6 +668,25 @@ void kel_getVendorModuleNamesEx(TarnApi* api, const wchar_t* text, KelError** er
         error, [&] { return api->getVendorModuleNamesEx(kel::in::text(text)); },
         kel::out::texts(names, nameCount));
 }
+void kel_executeService(TarnApi* api, const wchar_t* target, ServiceInput** services,
+                        uint32_t serviceCount, KelError** error, ServiceResult*** results,
+                        uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->executeService(kel::in::text(target),
+                                       kel::in::records(services, serviceCount));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_executeServiceAsync(TarnApi* api, const wchar_t* target, ServiceInput** services,
+                                 uint32_t serviceCount, KelError** error,
+                                 ExecuteServiceCallbackFunction callback, void* context) {
+    return kel::start<ExecuteServiceCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->executeServiceAsync(kel::in::text(target),
+                                        kel::in::records(services, serviceCount), handler);
+    });
+}
 void kel_detectDynInterfaces(TarnApi* api, uint32_t value, DynInterfaceDetection* detection,
                              KelError** error, ModuleDyn*** modules, uint32_t* moduleCount) {
     kel::invoke(
@@ -629,6 +710,12 @@ void kel_connectDynInterface(TarnApi* api, const wchar_t* name, uint8_t flag,
 void kel_disconnectDynInterfaces(TarnApi* api, wchar_t** names, uint32_t nameCount,
                                  KelError** error) {
     kel::invoke(error, [&] { api->disconnectDynInterfaces(kel::in::texts(names, nameCount)); });
+}
+void kel_updateCyclicServices(TarnApi* api, uint64_t cyclic, ServiceInput** services,
+                              uint32_t serviceCount, KelError** error) {
+    kel::invoke(error, [&] {
+        api->updateCyclicServices(cyclic, kel::in::records(services, serviceCount));
+    });
 }
 void kel_cancelAsyncCalls(TarnApi* api, const uint64_t* callIds, uint32_t callIdCount,
                           KelError** error) {
@@ -740,6 +827,16 @@ void kel_runSequence(TarnApi* api, const wchar_t* sequence, wchar_t** arguments,
         },
         kel::out::value(run));
 }
+void kel_unlockVehicle(TarnApi* api, const wchar_t* target, ServiceInput** services,
+                       uint32_t serviceCount, KelError** error, UnlockResult** result) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->unlockVehicle(kel::in::text(target),
+                                      kel::in::records(services, serviceCount));
+        },
+        kel::out::record(result));
+}
 void kel_releaseVehicleUnlock(TarnApi* api, uint64_t value, KelError** error) {
     kel::invoke(error, [&] { api->releaseVehicleUnlock(value); });
 }
@@ -824,6 +921,27 @@ void kel_unloadDatabaseFile(TarnApi* api, wchar_t** files, uint32_t fileCount, K
     kel::invoke(
         error, [&] { return api->unloadDatabaseFile(kel::in::texts(files, fileCount)); },
         kel::out::records(results, resultCount));
+}
+void kel_executeServiceInDefaultSession(TarnApi* api, const wchar_t* target,
+                                        ServiceInput** services, uint32_t serviceCount,
+                                        KelError** error, ServiceResult*** results,
+                                        uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->executeServiceInDefaultSession(kel::in::text(target),
+                                                       kel::in::records(services, serviceCount));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_executeServiceInDefaultSessionAsync(
+    TarnApi* api, const wchar_t* target, ServiceInput** services, uint32_t serviceCount,
+    KelError** error, ExecuteServiceInDefaultSessionCallbackFunction callback, void* context) {
+    return kel::start<ExecuteServiceInDefaultSessionCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->executeServiceInDefaultSessionAsync(
+                kel::in::text(target), kel::in::records(services, serviceCount), handler);
+        });
 }
 void kel_getTargetStatus(TarnApi* api, wchar_t** targets, uint32_t targetCount, KelError** error,
                          TargetStatus*** statuses, uint32_t* statusCount) {
@@ -964,9 +1082,35 @@ void kel_triggerAsyncCancels(TarnApi* api, const uint64_t* callIds, uint32_t cal
                              KelError** error) {
     kel::invoke(error, [&] { api->triggerAsyncCancels(kel::in::values(callIds, callIdCount)); });
 }
+void kel_executeSequence(TarnApi* api, const wchar_t* target, const wchar_t* sequence,
+                         ParameterInput** parameters, uint32_t parameterCount, KelError** error,
+                         ServiceResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->executeSequence(kel::in::text(target), kel::in::text(sequence),
+                                        kel::in::records(parameters, parameterCount));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_executeSequenceAsync(TarnApi* api, const wchar_t* target, const wchar_t* sequence,
+                                  ParameterInput** parameters, uint32_t parameterCount,
+                                  KelError** error, ExecuteSequenceCallbackFunction callback,
+                                  void* context) {
+    return kel::start<ExecuteSequenceCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->executeSequenceAsync(kel::in::text(target), kel::in::text(sequence),
+                                         kel::in::records(parameters, parameterCount), handler);
+    });
+}
 void kel_addPublicDirectory(TarnApi* api, const wchar_t* name, const wchar_t* path,
                             KelError** error) {
     kel::invoke(error, [&] { api->addPublicDirectory(kel::in::text(name), kel::in::text(path)); });
+}
+void kel_getParameterInfo(TarnApi* api, ParameterInfoConfig* config, KelError** error,
+                          ParameterInfo** info) {
+    kel::invoke(
+        error, [&] { return api->getParameterInfo(kel::in::record(config)); },
+        kel::out::record(info));
 }
 void kel_clearSpecificDtcs(TarnApi* api, const wchar_t* target, const uint32_t* dtcCodes,
                            uint32_t dtcCodeCount, KelError** error, ClearDtcResult*** results,

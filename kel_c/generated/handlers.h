@@ -64,6 +64,13 @@ class IdentifyTargetsCallbackHandler final
     using Handler::Handler;
 };
 
+class ExecuteServiceCallbackHandler final
+    : public kel::Handler<ExecuteServiceCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ExecuteServiceCallback, ::ServiceResult,
+                          Varno::Kel_cpp::ServiceResult, ExecuteServiceCallbackFunction> {
+    using Handler::Handler;
+};
+
 class DetectDynInterfacesCallbackHandler final
     : public kel::Handler<DetectDynInterfacesCallbackHandler,
                           Varno::Kel_cpp::TarnApi::DetectDynInterfacesCallback, ::ModuleDyn,
@@ -75,6 +82,21 @@ class DetectDynInterfacesExCallbackHandler final
     : public kel::Handler<DetectDynInterfacesExCallbackHandler,
                           Varno::Kel_cpp::TarnApi::DetectDynInterfacesExCallback, ::ModuleDyn,
                           Varno::Kel_cpp::ModuleDyn, DetectDynInterfacesExCallbackFunction> {
+    using Handler::Handler;
+};
+
+class ExecuteServiceInDefaultSessionCallbackHandler final
+    : public kel::Handler<ExecuteServiceInDefaultSessionCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ExecuteServiceInDefaultSessionCallback,
+                          ::ServiceResult, Varno::Kel_cpp::ServiceResult,
+                          ExecuteServiceInDefaultSessionCallbackFunction> {
+    using Handler::Handler;
+};
+
+class ExecuteSequenceCallbackHandler final
+    : public kel::Handler<ExecuteSequenceCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ExecuteSequenceCallback, ::ServiceResult,
+                          Varno::Kel_cpp::ServiceResult, ExecuteSequenceCallbackFunction> {
     using Handler::Handler;
 };
 

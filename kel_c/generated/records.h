@@ -194,6 +194,114 @@ struct Record<::TargetFilter> {
 };
 
 template <>
+struct Record<::ParameterInput> {
+    using Engine = Varno::Kel_cpp::ParameterInput;
+    static constexpr const char* name = "ParameterInput";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ParameterInput::name, &Engine::name),
+        field(&::ParameterInput::children, &::ParameterInput::childCount, &Engine::children),
+        field(&::ParameterInput::value, &Engine::value));
+};
+
+template <>
+struct Record<::ServiceInput> {
+    using Engine = Varno::Kel_cpp::ServiceInput;
+    static constexpr const char* name = "ServiceInput";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ServiceInput::parameters, &::ServiceInput::parameterCount, &Engine::parameters),
+        field(&::ServiceInput::service, &Engine::service),
+        field(&::ServiceInput::data, &::ServiceInput::dataLength, &Engine::data),
+        field(&::ServiceInput::value, &Engine::value));
+};
+
+template <>
+struct Record<::ServiceResult> {
+    using Engine = Varno::Kel_cpp::ServiceResult;
+    static constexpr const char* name = "ServiceResult";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ServiceResult::itemText1, &Engine::itemText1),
+        field(&::ServiceResult::itemText2, &Engine::itemText2),
+        field(&::ServiceResult::itemText3, &Engine::itemText3),
+        field(&::ServiceResult::itemText4, &Engine::itemText4),
+        field(&::ServiceResult::responses, &::ServiceResult::responseCount, &Engine::responses),
+        field(&::ServiceResult::status, &Engine::status),
+        field(&::ServiceResult::text1, &Engine::text1),
+        field(&::ServiceResult::error, &Engine::error),
+        field(&::ServiceResult::request, &Engine::request),
+        field(&::ServiceResult::value1, &Engine::value1));
+};
+
+template <>
+struct Record<::ResponseResult> {
+    using Engine = Varno::Kel_cpp::ResponseResult;
+    static constexpr const char* name = "ResponseResult";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ResponseResult::itemText1, &Engine::itemText1),
+        field(&::ResponseResult::itemText2, &Engine::itemText2),
+        field(&::ResponseResult::itemText3, &Engine::itemText3),
+        field(&::ResponseResult::itemText4, &Engine::itemText4),
+        field(&::ResponseResult::flag, &Engine::flag),
+        field(&::ResponseResult::error, &Engine::error),
+        field(&::ResponseResult::data, &::ResponseResult::dataLength, &Engine::data),
+        field(&::ResponseResult::value1, &Engine::value1),
+        field(&::ResponseResult::value2, &Engine::value2),
+        field(&::ResponseResult::parameters, &::ResponseResult::parameterCount,
+              &Engine::parameters));
+};
+
+template <>
+struct Record<::RequestResult> {
+    using Engine = Varno::Kel_cpp::RequestResult;
+    static constexpr const char* name = "RequestResult";
+    static constexpr auto fields = std::make_tuple(
+        field(&::RequestResult::error, &Engine::error),
+        field(&::RequestResult::data, &::RequestResult::dataLength, &Engine::data),
+        field(&::RequestResult::value1, &Engine::value1),
+        field(&::RequestResult::value2, &Engine::value2),
+        field(&::RequestResult::parameters, &::RequestResult::parameterCount, &Engine::parameters));
+};
+
+template <>
+struct Record<::UnlockResult> {
+    using Engine = Varno::Kel_cpp::UnlockResult;
+    static constexpr const char* name = "UnlockResult";
+    static constexpr auto fields = std::make_tuple(
+        field(&::UnlockResult::value, &Engine::value),
+        field(&::UnlockResult::services, &::UnlockResult::serviceCount, &Engine::services));
+};
+
+template <>
+struct Record<::ServiceInfo> {
+    using Engine = Varno::Kel_cpp::ServiceInfo;
+    static constexpr const char* name = "ServiceInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ServiceInfo::itemText1, &Engine::itemText1),
+        field(&::ServiceInfo::itemText2, &Engine::itemText2),
+        field(&::ServiceInfo::itemText3, &Engine::itemText3),
+        field(&::ServiceInfo::itemText4, &Engine::itemText4),
+        field(&::ServiceInfo::flag, &Engine::flag),
+        field(&::ServiceInfo::responses, &::ServiceInfo::responseCount, &Engine::responses),
+        field(&::ServiceInfo::parameters, &::ServiceInfo::parameterCount, &Engine::parameters),
+        field(&::ServiceInfo::text1, &Engine::text1),
+        field(&::ServiceInfo::items, &::ServiceInfo::itemCount, &Engine::items),
+        field(&::ServiceInfo::error, &Engine::error),
+        field(&::ServiceInfo::values, &Engine::values));
+};
+
+template <>
+struct Record<::ResponseInfo> {
+    using Engine = Varno::Kel_cpp::ResponseInfo;
+    static constexpr const char* name = "ResponseInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::ResponseInfo::itemText1, &Engine::itemText1),
+        field(&::ResponseInfo::itemText2, &Engine::itemText2),
+        field(&::ResponseInfo::itemText3, &Engine::itemText3),
+        field(&::ResponseInfo::itemText4, &Engine::itemText4),
+        field(&::ResponseInfo::status, &Engine::status),
+        field(&::ResponseInfo::parameters, &::ResponseInfo::parameterCount, &Engine::parameters));
+};
+
+template <>
 struct Record<::ParameterInfo> {
     using Engine = Varno::Kel_cpp::ParameterInfo;
     static constexpr const char* name = "ParameterInfo";
@@ -258,6 +366,18 @@ struct Record<::UnitInfo> {
         field(&::UnitInfo::values, &Engine::values), field(&::UnitInfo::value1, &Engine::value1),
         field(&::UnitInfo::flag1, &Engine::flag1), field(&::UnitInfo::value2, &Engine::value2),
         field(&::UnitInfo::flag2, &Engine::flag2));
+};
+
+template <>
+struct Record<::ParameterInfoConfig> {
+    using Engine = Varno::Kel_cpp::ParameterInfoConfig;
+    static constexpr const char* name = "ParameterInfoConfig";
+    static constexpr auto fields =
+        std::make_tuple(field(&::ParameterInfoConfig::text1, &Engine::text1),
+                        field(&::ParameterInfoConfig::text2, &Engine::text2),
+                        field(&::ParameterInfoConfig::value, &Engine::value),
+                        field(&::ParameterInfoConfig::text3, &Engine::text3),
+                        field(&::ParameterInfoConfig::text4, &Engine::text4));
 };
 
 template <>

@@ -118,6 +118,15 @@ KEL_SIM_API void kelsim_failAsync(const char* operation, uint32_t count, int32_t
  * or -1 when no live engine object has it. */
 KEL_SIM_API int64_t kelsim_runningAsyncCalls(uint64_t handle);
 
+/* ---- vehicle time ----
+ * Every timeout of the simulated vehicle (a diagnostic session falling back to the
+ * default session, a security access lockout) runs on vehicle time: the steady clock
+ * plus what this moved it on by. Tests advance it instead of sleeping. One clock for
+ * the process; it never goes back, and kelsim_reset leaves it as it is. */
+KEL_SIM_API void kelsim_advanceClock(uint64_t milliseconds);
+/* Vehicle time in milliseconds since the engine first read it. */
+KEL_SIM_API int64_t kelsim_clockMs(void);
+
 /* Forgets scripted failures, results, delays, recorded calls, asynchronous scripts, and
  * the vehicle description and data root set above. Scripted reports of asynchronous
  * calls still on their way are delivered first, so none arrives after the test that

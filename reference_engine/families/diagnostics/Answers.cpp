@@ -4,6 +4,7 @@
 #include "ErrorCodes.h"
 
 #include <algorithm>
+#include <cwctype>
 #include <optional>
 #include <utility>
 
@@ -18,24 +19,13 @@ std::shared_ptr<KelError> error(int32_t code, std::wstring message, std::wstring
     return e;
 }
 
-std::shared_ptr<KelError> silent(const Ecu& ecu) {
-    auto e = error(EcuNotResponding, L"The control unit does not respond",
-                   L"no response from " + ecu.name + L" within " +
-                       std::to_wstring(ecu.responseTimeoutMs) + L" ms");
-    e->mvciError = std::make_shared<MvciServerError>();
-    e->mvciError->code = 0x0107;
-    e->mvciError->codeText = L"PDU_ERR_EVT_NOT_RESPONDING";
-    e->mvciError->extraText = ecu.bus;
-    return e;
-}
-
 std::shared_ptr<KelError> unknown(const std::wstring& name) {
     return error(UnknownTarget, L"The vehicle has no such control unit", L"target " + name);
 }
 
-// One result per selected target: an unknown target and a control unit that does not
-// respond get their per-target error (status 2 and 1); `answer` fills the result of a
-// control unit that responds.
+// One result per selected target: an unknown target gets its per-target error (status
+// 2); `answer` fills the result of a known unit from its exchanges and returns false
+// when the unit stayed silent (status 1).
 template <class R, class Unit, class Answer>
 std::vector<std::shared_ptr<R>>
 perTarget(const std::vector<std::pair<std::wstring, Unit*>>& selected, Answer&& answer) {
@@ -46,13 +36,54 @@ perTarget(const std::vector<std::pair<std::wstring, Unit*>>& selected, Answer&& 
         if (ecu == nullptr) {
             r->status = 2;
             r->error = unknown(name);
-        } else if (!ecu->responds) {
+        } else if (!answer(*r, *ecu)) {
+            *r = R{};
+            r->target = name;
             r->status = 1;
             r->error = silent(*ecu);
-        } else {
-            answer(*r, *ecu);
         }
         out.push_back(std::move(r));
+    }
+    return out;
+}
+
+Bytes didRequest(uint8_t sid, uint16_t id) {
+    return {sid, static_cast<uint8_t>(id >> 8), static_cast<uint8_t>(id)};
+}
+
+// Reads one data identifier by ReadDataByIdentifier: its parameter, or one that carries
+// the negative response; null when the unit stayed silent.
+std::shared_ptr<ParameterResult> readIdentifier(Bus& bus, Ecu& ecu, uint16_t id,
+                                                const std::wstring& asked) {
+    const auto response = bus.exchange(ecu, didRequest(0x22, id));
+    if (response.empty()) {
+        return nullptr;
+    }
+    const auto* d = ecu.dataIdentifier(id);
+    if (response[0] == 0x62 && d != nullptr) {
+        return dataParameter(*d, Bytes(response.begin() + 3, response.end()));
+    }
+    auto p = std::make_shared<ParameterResult>();
+    p->itemText2 = asked;
+    const bool unknownId = response.size() == 3 && response[2] == RequestOutOfRange;
+    p->error = negative(response, unknownId ? UnknownIdentifier : NegativeResponseReceived);
+    if (unknownId) {
+        p->error->message = L"The control unit has no such identifier";
+        p->error->details = L"identifier " + asked + L" on " + ecu.name;
+    }
+    return p;
+}
+
+// The DTC records (3-byte number, status) of a positive ReadDTCInformation response.
+std::vector<std::pair<uint32_t, uint8_t>> dtcRecords(const Bytes& response) {
+    std::vector<std::pair<uint32_t, uint8_t>> out;
+    if (response.size() < 3 || response[0] != 0x59) {
+        return out;
+    }
+    for (std::size_t i = 3; i + 4 <= response.size(); i += 4) {
+        out.emplace_back(
+            static_cast<uint32_t>(response[i] << 16 | response[i + 1] << 8 | response[i + 2]),
+            response[i + 3]);
     }
     return out;
 }
@@ -80,24 +111,13 @@ std::vector<std::shared_ptr<ParameterResult>> parameterResults(const std::vector
     return out;
 }
 
-// An identification value as a parameter: name, identifier, text and its ASCII bytes.
-std::shared_ptr<ParameterResult> identParameter(const IdentValue& v) {
-    auto r = std::make_shared<ParameterResult>();
-    r->itemText1 = v.name;
-    r->itemText2 = v.id;
-    r->text1 = v.value;
-    const std::string bytes = toUtf8(v.value);
-    r->data.assign(bytes.begin(), bytes.end());
-    r->value3 = static_cast<uint32_t>(r->data.size());
-    return r;
-}
-
-std::shared_ptr<DtcResult> dtcResult(const Ecu& ecu, const Dtc& d, const DtcReadConfig* config) {
+std::shared_ptr<DtcResult> dtcResult(const Ecu& ecu, const Dtc& d, uint8_t status,
+                                     const DtcReadConfig* config) {
     auto r = std::make_shared<DtcResult>();
     r->code = static_cast<int32_t>(d.code);
     r->text1 = d.display;
     r->text2 = d.text;
-    r->value1 = d.status;
+    r->value1 = status;
     const bool all = config == nullptr;
     if (all || config->flag1 != 0) {
         r->parameters1 = parameterResults(d.snapshot);
@@ -124,24 +144,9 @@ std::shared_ptr<DtcResult> dtcResult(const Ecu& ecu, const Dtc& d, const DtcRead
     return r;
 }
 
-// The status mask of a read: 0 (or no config) takes every DTC.
-bool wanted(const Dtc& d, const DtcReadConfig* config) {
-    const auto mask = config != nullptr ? static_cast<uint32_t>(config->value) : 0U;
-    return mask == 0 || (d.status & mask) != 0;
-}
-
-const IdentValue* identValue(const Ecu& ecu, const std::wstring& key) {
-    for (const auto& v : ecu.identification) {
-        if (v.id == key || v.name == key) {
-            return &v;
-        }
-    }
-    return nullptr;
-}
-
-std::wstring identText(const Ecu& ecu, const wchar_t* id) {
-    const auto* v = identValue(ecu, id);
-    return v != nullptr ? v->value : L"";
+std::wstring dataText(const Ecu& ecu, uint16_t id) {
+    const auto* d = ecu.dataIdentifier(id);
+    return d != nullptr ? d->codec.decode(d->bytes) : L"";
 }
 
 // The ECUs a request names, in request order; an empty list means every ECU. Unknown
@@ -163,15 +168,27 @@ auto select(Units& ecus, const Names& names) {
     return out;
 }
 
+// The DTCs the unit reports to ReadDTCInformation `request`, with the fault memory's
+// data beside each.
 template <class R>
-std::vector<std::shared_ptr<R>> dtcResults(const std::vector<Ecu>& ecus, const Names& targets,
-                                           const DtcReadConfig* config, bool supported) {
-    return perTarget<R>(select(ecus, targets), [&](R& r, const Ecu& ecu) {
-        for (const auto& d : ecu.dtcs) {
-            if ((supported || d.stored) && wanted(d, config)) {
-                r.dtcs.push_back(dtcResult(ecu, d, config));
+std::vector<std::shared_ptr<R>> dtcResults(Bus& bus, const Names& targets, const Bytes& request,
+                                           const DtcReadConfig* config) {
+    return perTarget<R>(select(bus.ecus, targets), [&](R& r, Ecu& ecu) {
+        const auto response = bus.exchange(ecu, request);
+        if (response.empty()) {
+            return false;
+        }
+        if (response[0] != 0x59) {
+            r.error = negative(response, NegativeResponseReceived);
+        }
+        for (const auto& [number, status] : dtcRecords(response)) {
+            for (const auto& d : ecu.dtcs) {
+                if (d.code == number) {
+                    r.dtcs.push_back(dtcResult(ecu, d, status, config));
+                }
             }
         }
+        return true;
     });
 }
 
@@ -212,21 +229,34 @@ std::shared_ptr<Target> target(const Ecu& ecu) {
     t->value1 = ecu.address;
     t->text1 = ecu.protocol;
     t->text2 = ecu.bus;
-    for (const auto& v : ecu.identification) {
-        auto item = std::make_shared<NamedItem>();
-        item->itemText1 = v.name;
-        item->itemText2 = v.id;
-        t->items.push_back(std::move(item));
+    for (const auto& d : ecu.data) {
+        if (d.identification) {
+            auto item = std::make_shared<NamedItem>();
+            item->itemText1 = d.name;
+            item->itemText2 = hexId(d.id);
+            t->items.push_back(std::move(item));
+        }
     }
     t->names = ecu.aliases;
-    t->text3 = identText(ecu, L"F187");
-    t->text4 = identText(ecu, L"F189");
+    t->text3 = dataText(ecu, 0xF187);
+    t->text4 = dataText(ecu, 0xF189);
     t->value2 = ecu.responds ? 1 : 0;
-    t->text5 = identText(ecu, L"F191");
+    t->text5 = dataText(ecu, 0xF191);
     return t;
 }
 
 } // namespace
+
+std::shared_ptr<KelError> silent(const Ecu& ecu) {
+    auto e = error(EcuNotResponding, L"The control unit does not respond",
+                   L"no response from " + ecu.name + L" within " +
+                       std::to_wstring(ecu.responseTimeoutMs) + L" ms");
+    e->mvciError = std::make_shared<MvciServerError>();
+    e->mvciError->code = 0x0107;
+    e->mvciError->codeText = L"PDU_ERR_EVT_NOT_RESPONDING";
+    e->mvciError->extraText = ecu.bus;
+    return e;
+}
 
 bool matchesPattern(std::wstring_view pattern, std::wstring_view text) {
     constexpr auto none = std::wstring_view::npos;
@@ -255,90 +285,150 @@ bool matchesPattern(std::wstring_view pattern, std::wstring_view text) {
     return p == pattern.size();
 }
 
-std::vector<std::shared_ptr<VariantIdentResult>> identify(std::vector<Ecu>& ecus,
-                                                          const Names& targets) {
-    return perTarget<VariantIdentResult>(select(ecus, targets),
-                                         [](VariantIdentResult& r, Ecu& ecu) {
-                                             r.variant = ecu.variant;
-                                             ecu.identified = true;
-                                         });
+std::shared_ptr<KelError> negative(const Bytes& response, int32_t code) {
+    const uint8_t nrc = response.size() >= 3 ? response[2] : 0;
+    auto e = error(code, L"The control unit answered with a negative response",
+                   hexText(response) + L": " + nrcText(nrc));
+    e->subCode = nrc;
+    e->negativeResponse = std::make_shared<NegativeResponse>();
+    e->negativeResponse->code = nrc;
+    e->negativeResponse->text = nrcText(nrc);
+    e->negativeResponse->value1 = response.size() >= 2 ? response[1] : 0;
+    e->negativeResponse->bytes = response;
+    return e;
 }
 
-std::vector<std::shared_ptr<ReadDataResult>> identification(const std::vector<Ecu>& ecus,
-                                                            const Names& targets) {
-    return perTarget<ReadDataResult>(select(ecus, targets), [](ReadDataResult& r, const Ecu& ecu) {
+std::shared_ptr<ParameterResult> dataParameter(const DataIdentifier& d, const Bytes& bytes) {
+    auto r = std::make_shared<ParameterResult>();
+    r->itemText1 = d.name;
+    r->itemText2 = hexId(d.id);
+    r->text1 = d.codec.decode(bytes);
+    r->text2 = d.codec.unit;
+    r->data = bytes;
+    r->value3 = static_cast<uint32_t>(bytes.size());
+    return r;
+}
+
+std::vector<std::shared_ptr<VariantIdentResult>> identify(Bus& bus, const Names& targets) {
+    return perTarget<VariantIdentResult>(
+        select(bus.ecus, targets), [&](VariantIdentResult& r, Ecu& ecu) {
+            const auto variant = readIdentifier(bus, ecu, 0xF19E, L"F19E");
+            if (!variant) {
+                return false;
+            }
+            r.variant = variant->text1;
+            r.error = variant->error;
+            ecu.identified = ecu.identified || !variant->error;
+            return true;
+        });
+}
+
+std::vector<std::shared_ptr<ReadDataResult>> identification(Bus& bus, const Names& targets) {
+    return perTarget<ReadDataResult>(select(bus.ecus, targets), [&](ReadDataResult& r, Ecu& ecu) {
         r.text = ecu.variant;
-        for (const auto& v : ecu.identification) {
-            r.parameters.push_back(identParameter(v));
+        for (const auto& d : ecu.data) {
+            if (!d.identification) {
+                continue;
+            }
+            auto p = readIdentifier(bus, ecu, d.id, hexId(d.id));
+            if (!p) {
+                return false;
+            }
+            r.parameters.push_back(std::move(p));
         }
+        return true;
     });
 }
 
-std::vector<std::shared_ptr<ReadDataResult>>
-readData(const std::vector<Ecu>& ecus, const std::wstring& target, const Names& identifiers) {
+// Identifiers are given by number ("F187") or by name ("Part number").
+std::vector<std::shared_ptr<ReadDataResult>> readData(Bus& bus, const std::wstring& target,
+                                                      const Names& identifiers) {
     return perTarget<ReadDataResult>(
-        select(ecus, Names{target}), [&](ReadDataResult& r, const Ecu& ecu) {
+        select(bus.ecus, Names{target}), [&](ReadDataResult& r, Ecu& ecu) {
             r.text = ecu.variant;
             for (const auto& id : identifiers) {
-                if (const auto* v = identValue(ecu, id)) {
-                    r.parameters.push_back(identParameter(*v));
-                } else {
+                const auto* known = ecu.dataIdentifier(id);
+                std::optional<uint16_t> number;
+                if (known != nullptr) {
+                    number = known->id;
+                } else if (id.size() == 4 && std::all_of(id.begin(), id.end(), [](wchar_t c) {
+                               return std::iswxdigit(static_cast<wint_t>(c)) != 0;
+                           })) {
+                    number = static_cast<uint16_t>(std::stoul(id, nullptr, 16));
+                }
+                if (!number) {
                     auto p = std::make_shared<ParameterResult>();
                     p->itemText2 = id;
                     p->error = error(UnknownIdentifier, L"The control unit has no such identifier",
                                      L"identifier " + id + L" on " + target);
                     r.parameters.push_back(std::move(p));
+                    continue;
                 }
+                auto p = readIdentifier(bus, ecu, *number, id);
+                if (!p) {
+                    return false;
+                }
+                r.parameters.push_back(std::move(p));
             }
+            return true;
         });
 }
 
-std::vector<std::shared_ptr<ReadDtcResult>>
-readDtcs(const std::vector<Ecu>& ecus, const Names& targets, const DtcReadConfig* config) {
-    auto out = dtcResults<ReadDtcResult>(ecus, targets, config, false);
+// A status mask of 0 (or no config) reads every stored DTC: the unit's mask FF.
+std::vector<std::shared_ptr<ReadDtcResult>> readDtcs(Bus& bus, const Names& targets,
+                                                     const DtcReadConfig* config) {
+    const auto mask = config != nullptr && config->value != 0
+                          ? static_cast<uint8_t>(config->value & 0xFF)
+                          : uint8_t{0xFF};
+    auto out = dtcResults<ReadDtcResult>(bus, targets, {0x19, 0x02, mask}, config);
     for (auto& r : out) {
         r->value = static_cast<int32_t>(r->dtcs.size()); // DTCs stored now
     }
     return out;
 }
 
-std::vector<std::shared_ptr<SupportedDtcResult>>
-readSupportedDtcs(const std::vector<Ecu>& ecus, const Names& targets, const DtcReadConfig* config) {
-    // Supported DTCs carry no status in this simulation's masks: the mask is ignored.
-    std::optional<DtcReadConfig> unmasked;
-    if (config != nullptr) {
-        unmasked = *config;
-        unmasked->value = 0;
-    }
-    return dtcResults<SupportedDtcResult>(ecus, targets, unmasked ? &*unmasked : nullptr, true);
+std::vector<std::shared_ptr<SupportedDtcResult>> readSupportedDtcs(Bus& bus, const Names& targets,
+                                                                   const DtcReadConfig* config) {
+    return dtcResults<SupportedDtcResult>(bus, targets, {0x19, 0x0A}, config);
 }
 
-std::vector<std::shared_ptr<ClearDtcResult>> clearAll(std::vector<Ecu>& ecus, const Names& targets,
+std::vector<std::shared_ptr<ClearDtcResult>> clearAll(Bus& bus, const Names& targets,
                                                       int32_t& cleared) {
     cleared = 0;
-    return perTarget<ClearDtcResult>(select(ecus, targets), [&](ClearDtcResult& /*r*/, Ecu& ecu) {
-        for (auto& d : ecu.dtcs) {
-            d.stored = false;
-            d.status = 0;
+    return perTarget<ClearDtcResult>(select(bus.ecus, targets), [&](ClearDtcResult& r, Ecu& ecu) {
+        const auto response = bus.exchange(ecu, {0x14, 0xFF, 0xFF, 0xFF});
+        if (response.empty()) {
+            return false;
         }
-        ++cleared;
+        if (response[0] == 0x54) {
+            ++cleared;
+        } else {
+            r.error = negative(response, NegativeResponseReceived);
+        }
+        return true;
     });
 }
 
-std::vector<std::shared_ptr<ClearDtcResult>> clearSpecific(std::vector<Ecu>& ecus,
-                                                           const std::wstring& target,
+// One ClearDiagnosticInformation per number; the unit refuses numbers it does not
+// know (requestOutOfRange), which the clear ignores.
+std::vector<std::shared_ptr<ClearDtcResult>> clearSpecific(Bus& bus, const std::wstring& target,
                                                            const std::vector<uint32_t>& codes,
                                                            int32_t& cleared) {
     cleared = 0;
     return perTarget<ClearDtcResult>(
-        select(ecus, Names{target}), [&](ClearDtcResult& /*r*/, Ecu& ecu) {
-            for (auto& d : ecu.dtcs) {
-                if (std::find(codes.begin(), codes.end(), d.code) != codes.end()) {
-                    d.stored = false;
-                    d.status = 0;
+        select(bus.ecus, Names{target}), [&](ClearDtcResult& /*r*/, Ecu& ecu) {
+            if (codes.empty() && bus.exchange(ecu, {0x3E, 0x00}).empty()) {
+                return false;
+            }
+            for (const auto code : codes) {
+                if (bus.exchange(ecu, {0x14, static_cast<uint8_t>(code >> 16),
+                                       static_cast<uint8_t>(code >> 8), static_cast<uint8_t>(code)})
+                        .empty()) {
+                    return false;
                 }
             }
             cleared = 1;
+            return true;
         });
 }
 

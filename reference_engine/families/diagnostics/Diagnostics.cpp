@@ -79,50 +79,45 @@ const std::shared_ptr<ControlUnits>& Diagnostics::connected() const {
 }
 
 std::vector<std::shared_ptr<VariantIdentResult>> Diagnostics::identifyAllTargets() {
-    return connected()->update([](Units& ecus) { return Answers::identify(ecus, {}); });
+    return connected()->talk([](Bus& bus) { return Answers::identify(bus, {}); });
 }
 
 uint64_t Diagnostics::identifyAllTargetsAsync(IdentifyAllTargetsCallback* callback) {
     return vehicle_->async.start("identifyAllTargetsAsync", callback, [units = connected()] {
-        return units->update([](Units& ecus) { return Answers::identify(ecus, {}); });
+        return units->talk([](Bus& bus) { return Answers::identify(bus, {}); });
     });
 }
 
 std::vector<std::shared_ptr<ReadDataResult>>
 Diagnostics::readIdentificationValues(const std::vector<std::wstring>& targets) {
-    return connected()->read(
-        [&](const Units& ecus) { return Answers::identification(ecus, targets); });
+    return connected()->talk([&](Bus& bus) { return Answers::identification(bus, targets); });
 }
 
 uint64_t Diagnostics::readIdentificationValuesAsync(const std::vector<std::wstring>& targets,
                                                     ReadIdentificationValuesCallback* callback) {
-    return vehicle_->async.start("readIdentificationValuesAsync", callback,
-                                 [units = connected(), targets] {
-                                     return units->read([&](const Units& ecus) {
-                                         return Answers::identification(ecus, targets);
-                                     });
-                                 });
+    return vehicle_->async.start(
+        "readIdentificationValuesAsync", callback, [units = connected(), targets] {
+            return units->talk([&](Bus& bus) { return Answers::identification(bus, targets); });
+        });
 }
 
 std::vector<std::shared_ptr<ReadDataResult>>
 Diagnostics::readDataByIdentifiers(const std::wstring& target,
                                    const std::vector<std::wstring>& identifiers) {
-    return connected()->read(
-        [&](const Units& ecus) { return Answers::readData(ecus, target, identifiers); });
+    return connected()->talk([&](Bus& bus) { return Answers::readData(bus, target, identifiers); });
 }
 
 // The vehicle has nothing to say about a name it does not know.
 std::shared_ptr<VariantIdentResult> Diagnostics::identifyTarget(const std::wstring& target) {
-    auto results =
-        connected()->update([&](Units& ecus) { return Answers::identify(ecus, {target}); });
+    auto results = connected()->talk([&](Bus& bus) { return Answers::identify(bus, {target}); });
     return results.front()->status == 2 ? nullptr : results.front();
 }
 
 std::vector<std::shared_ptr<ReadDtcResult>>
 Diagnostics::readDtcs(const std::vector<std::wstring>& targets,
                       std::shared_ptr<DtcReadConfig> config) {
-    return connected()->read(
-        [&](const Units& ecus) { return Answers::readDtcs(ecus, targets, config.get()); });
+    return connected()->talk(
+        [&](Bus& bus) { return Answers::readDtcs(bus, targets, config.get()); });
 }
 
 uint64_t Diagnostics::readDtcsAsync(const std::vector<std::wstring>& targets,
@@ -130,8 +125,8 @@ uint64_t Diagnostics::readDtcsAsync(const std::vector<std::wstring>& targets,
                                     ReadDtcsCallback* callback) {
     return vehicle_->async.start("readDtcsAsync", callback,
                                  [units = connected(), targets, config = std::move(config)] {
-                                     return units->read([&](const Units& ecus) {
-                                         return Answers::readDtcs(ecus, targets, config.get());
+                                     return units->talk([&](Bus& bus) {
+                                         return Answers::readDtcs(bus, targets, config.get());
                                      });
                                  });
 }
@@ -139,8 +134,8 @@ uint64_t Diagnostics::readDtcsAsync(const std::vector<std::wstring>& targets,
 std::vector<std::shared_ptr<SupportedDtcResult>>
 Diagnostics::readSupportedDtcs(const std::vector<std::wstring>& targets,
                                std::shared_ptr<DtcReadConfig> config) {
-    return connected()->read(
-        [&](const Units& ecus) { return Answers::readSupportedDtcs(ecus, targets, config.get()); });
+    return connected()->talk(
+        [&](Bus& bus) { return Answers::readSupportedDtcs(bus, targets, config.get()); });
 }
 
 uint64_t Diagnostics::readSupportedDtcsAsync(const std::vector<std::wstring>& targets,
@@ -148,8 +143,8 @@ uint64_t Diagnostics::readSupportedDtcsAsync(const std::vector<std::wstring>& ta
                                              ReadSupportedDtcsCallback* callback) {
     return vehicle_->async.start("readSupportedDtcsAsync", callback,
                                  [units = connected(), targets, config = std::move(config)] {
-                                     return units->read([&](const Units& ecus) {
-                                         return Answers::readSupportedDtcs(ecus, targets,
+                                     return units->talk([&](Bus& bus) {
+                                         return Answers::readSupportedDtcs(bus, targets,
                                                                            config.get());
                                      });
                                  });
@@ -159,7 +154,7 @@ std::vector<std::shared_ptr<ClearDtcResult>>
 Diagnostics::clearAllDtcs(const std::vector<std::wstring>& targets) {
     int32_t cleared = 0;
     auto results =
-        connected()->update([&](Units& ecus) { return Answers::clearAll(ecus, targets, cleared); });
+        connected()->talk([&](Bus& bus) { return Answers::clearAll(bus, targets, cleared); });
     postCleared(*vehicle_, cleared);
     return results;
 }
@@ -170,20 +165,19 @@ uint64_t Diagnostics::clearAllDtcsAsync(const std::vector<std::wstring>& targets
                                         ClearAllDtcsCallback* callback) {
     return vehicle_->async.start("clearAllDtcsAsync", callback, [units = connected(), targets] {
         int32_t cleared = 0;
-        return units->update(
-            [&](Units& ecus) { return Answers::clearAll(ecus, targets, cleared); });
+        return units->talk([&](Bus& bus) { return Answers::clearAll(bus, targets, cleared); });
     });
 }
 
 std::vector<std::shared_ptr<VariantIdentResult>>
 Diagnostics::identifyTargets(const std::vector<std::wstring>& targets) {
-    return connected()->update([&](Units& ecus) { return Answers::identify(ecus, targets); });
+    return connected()->talk([&](Bus& bus) { return Answers::identify(bus, targets); });
 }
 
 uint64_t Diagnostics::identifyTargetsAsync(const std::vector<std::wstring>& targets,
                                            IdentifyTargetsCallback* callback) {
     return vehicle_->async.start("identifyTargetsAsync", callback, [units = connected(), targets] {
-        return units->update([&](Units& ecus) { return Answers::identify(ecus, targets); });
+        return units->talk([&](Bus& bus) { return Answers::identify(bus, targets); });
     });
 }
 
@@ -191,7 +185,7 @@ uint64_t Diagnostics::identifyTargetsAsync(const std::vector<std::wstring>& targ
 // diagnostics lock and the control units' lock are never held together.
 std::vector<std::shared_ptr<Target>>
 Diagnostics::getFilteredTargets(const std::vector<std::shared_ptr<TargetFilter>>& filters) {
-    const auto& units = ready();
+    const auto& units = connected();
     const auto session = filters.empty() ? vehicle_->diagnostics.sessionFilters()
                                          : std::vector<std::shared_ptr<TargetFilter>>{};
     const auto& applied = filters.empty() ? session : filters;
@@ -206,8 +200,8 @@ Diagnostics::getTargetStatus(const std::vector<std::wstring>& targets) {
 std::vector<std::shared_ptr<ClearDtcResult>>
 Diagnostics::clearSpecificDtcs(const std::wstring& target, const std::vector<uint32_t>& dtcCodes) {
     int32_t cleared = 0;
-    auto results = connected()->update(
-        [&](Units& ecus) { return Answers::clearSpecific(ecus, target, dtcCodes, cleared); });
+    auto results = connected()->talk(
+        [&](Bus& bus) { return Answers::clearSpecific(bus, target, dtcCodes, cleared); });
     postCleared(*vehicle_, cleared);
     return results;
 }
@@ -218,9 +212,8 @@ uint64_t Diagnostics::clearSpecificDtcsAsync(const std::wstring& target,
     return vehicle_->async.start(
         "clearSpecificDtcsAsync", callback, [units = connected(), target, dtcCodes] {
             int32_t cleared = 0;
-            return units->update([&](Units& ecus) {
-                return Answers::clearSpecific(ecus, target, dtcCodes, cleared);
-            });
+            return units->talk(
+                [&](Bus& bus) { return Answers::clearSpecific(bus, target, dtcCodes, cleared); });
         });
 }
 

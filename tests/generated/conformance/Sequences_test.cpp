@@ -656,6 +656,44 @@ const kc::Case kExecuteSequenceCases[] = {
      "000000000000", "[\"\",\"\",[]]", "[\"\",\"\",[]]", "0100000000", "00000000", 0},
 };
 
+struct ExecuteSequenceExport {
+    static constexpr const char* operation = "executeSequence";
+    using Result = kc::ListResult<ServiceResult, release_ServiceResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        const kc::Text a1(in[1]);
+        kc::RecordList<ParameterInput, release_ParameterInput_array> a2(in[2]);
+        kel_executeSequence(api, a0.get(), a1.get(), a2.data(), a2.count(), error, &out.data,
+                            &out.count);
+    }
+};
+
+TEST_F(Sequences, executeSequence_Exchange) {
+    kc::exchange<ExecuteSequenceExport>(api, kExecuteSequenceCases);
+}
+TEST_F(Sequences, executeSequence_Failure) {
+    kc::failure<ExecuteSequenceExport>(api, kExecuteSequenceCases);
+}
+
+struct ExecuteSequenceAsyncExport {
+    static constexpr const char* operation = "executeSequenceAsync";
+    using Reports = kc::Reports<ServiceResult, release_ServiceResult_array>;
+    static uint64_t call(TarnApi* api, const kc::Json& in, KelError** error, Reports& reports) {
+        const kc::Text a0(in[0]);
+        const kc::Text a1(in[1]);
+        kc::RecordList<ParameterInput, release_ParameterInput_array> a2(in[2]);
+        return kel_executeSequenceAsync(api, a0.get(), a1.get(), a2.data(), a2.count(), error,
+                                        &Reports::onReport, &reports);
+    }
+};
+
+TEST_F(Sequences, executeSequenceAsync_Exchange) {
+    kc::asyncExchange<ExecuteSequenceAsyncExport>(api, kExecuteSequenceCases);
+}
+TEST_F(Sequences, executeSequenceAsync_Failure) {
+    kc::asyncFailure<ExecuteSequenceAsyncExport>(api, kExecuteSequenceCases);
+}
+
 const kc::Number kNumber262{262, "executeSequence", kExecuteSequenceCases};
 
 TEST_F(SequencesByNumber, n262_executeSequence_KelCall) { kc::kelCall(api, kNumber262); }

@@ -991,6 +991,25 @@ const kc::Case kGetServiceInfosCases[] = {
      "[\"\",\"\",[],-2147483648]", "0100000000", "00000000", 0},
 };
 
+struct GetServiceInfosExport {
+    static constexpr const char* operation = "getServiceInfos";
+    using Result = kc::ListResult<ServiceInfo, release_ServiceInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        const kc::Text a1(in[1]);
+        kc::Texts a2(in[2]);
+        kel_getServiceInfos(api, a0.get(), a1.get(), a2.data(), a2.count(),
+                            kc::number<int32_t>(in[3]), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Services, getServiceInfos_Exchange) {
+    kc::exchange<GetServiceInfosExport>(api, kGetServiceInfosCases);
+}
+TEST_F(Services, getServiceInfos_Failure) {
+    kc::failure<GetServiceInfosExport>(api, kGetServiceInfosCases);
+}
+
 const kc::Number kNumber29{29, "getServiceInfos", kGetServiceInfosCases};
 
 TEST_F(ServicesByNumber, n29_getServiceInfos_KelCall) { kc::kelCall(api, kNumber29); }
@@ -2382,6 +2401,24 @@ const kc::Case kStartCyclicServicesCases[] = {
      "[\"\",[],4294967295]", "[\"\",[],4294967295]", "010100000000000080", "0100000000000080", 0},
 };
 
+struct StartCyclicServicesExport {
+    static constexpr const char* operation = "startCyclicServices";
+    using Result = kc::ValueResult<uint64_t>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kc::RecordList<ServiceInput, release_ServiceInput_array> a1(in[1]);
+        kel_startCyclicServices(api, a0.get(), a1.data(), a1.count(), kc::number<uint32_t>(in[2]),
+                                error, &out.data);
+    }
+};
+
+TEST_F(Services, startCyclicServices_Exchange) {
+    kc::exchange<StartCyclicServicesExport>(api, kStartCyclicServicesCases);
+}
+TEST_F(Services, startCyclicServices_Failure) {
+    kc::failure<StartCyclicServicesExport>(api, kStartCyclicServicesCases);
+}
+
 const kc::Number kNumber103{103, "startCyclicServices", kStartCyclicServicesCases};
 
 TEST_F(ServicesByNumber, n103_startCyclicServices_KelCall) { kc::kelCall(api, kNumber103); }
@@ -2893,6 +2930,21 @@ const kc::Case kGetCyclicResultsCases[] = {
      "0100000000000080", "[9223372036854775809]", "[9223372036854775809]", "0100000000", "00000000",
      0},
 };
+
+struct GetCyclicResultsExport {
+    static constexpr const char* operation = "getCyclicResults";
+    using Result = kc::ListResult<ServiceResult, release_ServiceResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_getCyclicResults(api, kc::number<uint64_t>(in[0]), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Services, getCyclicResults_Exchange) {
+    kc::exchange<GetCyclicResultsExport>(api, kGetCyclicResultsCases);
+}
+TEST_F(Services, getCyclicResults_Failure) {
+    kc::failure<GetCyclicResultsExport>(api, kGetCyclicResultsCases);
+}
 
 const kc::Number kNumber105{105, "getCyclicResults", kGetCyclicResultsCases};
 
@@ -3505,6 +3557,41 @@ const kc::Case kExecuteServiceCases[] = {
      "[\"\",[]]", "0100000000", "00000000", 0},
 };
 
+struct ExecuteServiceExport {
+    static constexpr const char* operation = "executeService";
+    using Result = kc::ListResult<ServiceResult, release_ServiceResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kc::RecordList<ServiceInput, release_ServiceInput_array> a1(in[1]);
+        kel_executeService(api, a0.get(), a1.data(), a1.count(), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Services, executeService_Exchange) {
+    kc::exchange<ExecuteServiceExport>(api, kExecuteServiceCases);
+}
+TEST_F(Services, executeService_Failure) {
+    kc::failure<ExecuteServiceExport>(api, kExecuteServiceCases);
+}
+
+struct ExecuteServiceAsyncExport {
+    static constexpr const char* operation = "executeServiceAsync";
+    using Reports = kc::Reports<ServiceResult, release_ServiceResult_array>;
+    static uint64_t call(TarnApi* api, const kc::Json& in, KelError** error, Reports& reports) {
+        const kc::Text a0(in[0]);
+        kc::RecordList<ServiceInput, release_ServiceInput_array> a1(in[1]);
+        return kel_executeServiceAsync(api, a0.get(), a1.data(), a1.count(), error,
+                                       &Reports::onReport, &reports);
+    }
+};
+
+TEST_F(Services, executeServiceAsync_Exchange) {
+    kc::asyncExchange<ExecuteServiceAsyncExport>(api, kExecuteServiceCases);
+}
+TEST_F(Services, executeServiceAsync_Failure) {
+    kc::asyncFailure<ExecuteServiceAsyncExport>(api, kExecuteServiceCases);
+}
+
 const kc::Number kNumber30{30, "executeService", kExecuteServiceCases};
 
 TEST_F(ServicesByNumber, n30_executeService_KelCall) { kc::kelCall(api, kNumber30); }
@@ -3587,6 +3674,23 @@ const kc::Case kUpdateCyclicServicesCases[] = {
      "010000000000008000000000", "010000000000008000000000", "[9223372036854775809,[]]",
      "[9223372036854775809,[]]", "01", "", 0},
 };
+
+struct UpdateCyclicServicesExport {
+    static constexpr const char* operation = "updateCyclicServices";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kc::RecordList<ServiceInput, release_ServiceInput_array> a1(in[1]);
+        static_cast<void>(out);
+        kel_updateCyclicServices(api, kc::number<uint64_t>(in[0]), a1.data(), a1.count(), error);
+    }
+};
+
+TEST_F(Services, updateCyclicServices_Exchange) {
+    kc::exchange<UpdateCyclicServicesExport>(api, kUpdateCyclicServicesCases);
+}
+TEST_F(Services, updateCyclicServices_Failure) {
+    kc::failure<UpdateCyclicServicesExport>(api, kUpdateCyclicServicesCases);
+}
 
 const kc::Number kNumber127{127, "updateCyclicServices", kUpdateCyclicServicesCases};
 
@@ -4028,6 +4132,23 @@ const kc::Case kUnlockVehicleCases[] = {
     {"empty", "[\"\",[]]", "[\"\",[]]", "null", "null", "0000000000000000", "0000000000",
      "[\"\",[]]", "[\"\",[]]", "0100", "00", 0},
 };
+
+struct UnlockVehicleExport {
+    static constexpr const char* operation = "unlockVehicle";
+    using Result = kc::RecordResult<UnlockResult, release_UnlockResult>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kc::RecordList<ServiceInput, release_ServiceInput_array> a1(in[1]);
+        kel_unlockVehicle(api, a0.get(), a1.data(), a1.count(), error, &out.data);
+    }
+};
+
+TEST_F(Services, unlockVehicle_Exchange) {
+    kc::exchange<UnlockVehicleExport>(api, kUnlockVehicleCases);
+}
+TEST_F(Services, unlockVehicle_Failure) {
+    kc::failure<UnlockVehicleExport>(api, kUnlockVehicleCases);
+}
 
 const kc::Number kNumber178{178, "unlockVehicle", kUnlockVehicleCases};
 
@@ -4653,6 +4774,44 @@ const kc::Case kExecuteServiceInDefaultSessionCases[] = {
      "[\"\",[]]", "0100000000", "00000000", 0},
 };
 
+struct ExecuteServiceInDefaultSessionExport {
+    static constexpr const char* operation = "executeServiceInDefaultSession";
+    using Result = kc::ListResult<ServiceResult, release_ServiceResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kc::RecordList<ServiceInput, release_ServiceInput_array> a1(in[1]);
+        kel_executeServiceInDefaultSession(api, a0.get(), a1.data(), a1.count(), error, &out.data,
+                                           &out.count);
+    }
+};
+
+TEST_F(Services, executeServiceInDefaultSession_Exchange) {
+    kc::exchange<ExecuteServiceInDefaultSessionExport>(api, kExecuteServiceInDefaultSessionCases);
+}
+TEST_F(Services, executeServiceInDefaultSession_Failure) {
+    kc::failure<ExecuteServiceInDefaultSessionExport>(api, kExecuteServiceInDefaultSessionCases);
+}
+
+struct ExecuteServiceInDefaultSessionAsyncExport {
+    static constexpr const char* operation = "executeServiceInDefaultSessionAsync";
+    using Reports = kc::Reports<ServiceResult, release_ServiceResult_array>;
+    static uint64_t call(TarnApi* api, const kc::Json& in, KelError** error, Reports& reports) {
+        const kc::Text a0(in[0]);
+        kc::RecordList<ServiceInput, release_ServiceInput_array> a1(in[1]);
+        return kel_executeServiceInDefaultSessionAsync(api, a0.get(), a1.data(), a1.count(), error,
+                                                       &Reports::onReport, &reports);
+    }
+};
+
+TEST_F(Services, executeServiceInDefaultSessionAsync_Exchange) {
+    kc::asyncExchange<ExecuteServiceInDefaultSessionAsyncExport>(
+        api, kExecuteServiceInDefaultSessionCases);
+}
+TEST_F(Services, executeServiceInDefaultSessionAsync_Failure) {
+    kc::asyncFailure<ExecuteServiceInDefaultSessionAsyncExport>(
+        api, kExecuteServiceInDefaultSessionCases);
+}
+
 const kc::Number kNumber213{213, "executeServiceInDefaultSession",
                             kExecuteServiceInDefaultSessionCases};
 
@@ -5250,6 +5409,21 @@ const kc::Case kGetParameterInfoCases[] = {
      "[{\"text1\":\"\",\"text2\":\"\",\"value\":0,\"text3\":\"\",\"text4\":\"\"}]", "[null]",
      "0100", "00", 0},
 };
+
+struct GetParameterInfoExport {
+    static constexpr const char* operation = "getParameterInfo";
+    using Result = kc::RecordResult<ParameterInfo, release_ParameterInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_getParameterInfo(api, kc::record<ParameterInfoConfig>(in[0]), error, &out.data);
+    }
+};
+
+TEST_F(Services, getParameterInfo_Exchange) {
+    kc::exchange<GetParameterInfoExport>(api, kGetParameterInfoCases);
+}
+TEST_F(Services, getParameterInfo_Failure) {
+    kc::failure<GetParameterInfoExport>(api, kGetParameterInfoCases);
+}
 
 const kc::Number kNumber265{265, "getParameterInfo", kGetParameterInfoCases};
 

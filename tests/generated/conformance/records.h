@@ -38,6 +38,22 @@ inline void describe(Out& o, const TargetStatus& r);
 inline void build(const Json& j, TargetStatus& r);
 inline void describe(Out& o, const TargetFilter& r);
 inline void build(const Json& j, TargetFilter& r);
+inline void describe(Out& o, const ParameterInput& r);
+inline void build(const Json& j, ParameterInput& r);
+inline void describe(Out& o, const ServiceInput& r);
+inline void build(const Json& j, ServiceInput& r);
+inline void describe(Out& o, const ServiceResult& r);
+inline void build(const Json& j, ServiceResult& r);
+inline void describe(Out& o, const ResponseResult& r);
+inline void build(const Json& j, ResponseResult& r);
+inline void describe(Out& o, const RequestResult& r);
+inline void build(const Json& j, RequestResult& r);
+inline void describe(Out& o, const UnlockResult& r);
+inline void build(const Json& j, UnlockResult& r);
+inline void describe(Out& o, const ServiceInfo& r);
+inline void build(const Json& j, ServiceInfo& r);
+inline void describe(Out& o, const ResponseInfo& r);
+inline void build(const Json& j, ResponseInfo& r);
 inline void describe(Out& o, const ParameterInfo& r);
 inline void build(const Json& j, ParameterInfo& r);
 inline void describe(Out& o, const ConstraintInfo& r);
@@ -46,6 +62,8 @@ inline void describe(Out& o, const ScaleConstraintInfo& r);
 inline void build(const Json& j, ScaleConstraintInfo& r);
 inline void describe(Out& o, const UnitInfo& r);
 inline void build(const Json& j, UnitInfo& r);
+inline void describe(Out& o, const ParameterInfoConfig& r);
+inline void build(const Json& j, ParameterInfoConfig& r);
 inline void describe(Out& o, const KelEvent& r);
 inline void build(const Json& j, KelEvent& r);
 inline void describe(Out& o, const EventReport& r);
@@ -419,6 +437,177 @@ inline void build(const Json& j, TargetFilter& r) {
     set(j.at("value"), r.value);
 }
 
+inline void describe(Out& o, const ParameterInput& r) {
+    o.member("name", r.name);
+    o.member("children", r.children, r.childCount);
+    o.member("childCount", r.childCount);
+    o.member("value", r.value);
+    o.end();
+}
+
+inline void build(const Json& j, ParameterInput& r) {
+    set(j.at("name"), r.name);
+    set(j.at("children"), r.children, r.childCount);
+    set(j.at("value"), r.value);
+}
+
+inline void describe(Out& o, const ServiceInput& r) {
+    o.member("parameters", r.parameters, r.parameterCount);
+    o.member("parameterCount", r.parameterCount);
+    o.member("service", r.service);
+    o.member("data", r.data, r.dataLength);
+    o.member("dataLength", r.dataLength);
+    o.member("value", r.value);
+    o.end();
+}
+
+inline void build(const Json& j, ServiceInput& r) {
+    set(j.at("parameters"), r.parameters, r.parameterCount);
+    set(j.at("service"), r.service);
+    set(j.at("data"), r.data, r.dataLength);
+    set(j.at("value"), r.value);
+}
+
+inline void describe(Out& o, const ServiceResult& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("responses", r.responses, r.responseCount);
+    o.member("responseCount", r.responseCount);
+    o.member("status", r.status);
+    o.member("text1", r.text1);
+    o.member("error", r.error);
+    o.member("request", r.request);
+    o.member("value1", r.value1);
+    o.end();
+}
+
+inline void build(const Json& j, ServiceResult& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("responses"), r.responses, r.responseCount);
+    set(j.at("status"), r.status);
+    set(j.at("text1"), r.text1);
+    set(j.at("error"), r.error);
+    set(j.at("request"), r.request);
+    set(j.at("value1"), r.value1);
+}
+
+inline void describe(Out& o, const ResponseResult& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("flag", r.flag);
+    o.member("error", r.error);
+    o.member("data", r.data, r.dataLength);
+    o.member("dataLength", r.dataLength);
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("parameters", r.parameters, r.parameterCount);
+    o.member("parameterCount", r.parameterCount);
+    o.end();
+}
+
+inline void build(const Json& j, ResponseResult& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("flag"), r.flag);
+    set(j.at("error"), r.error);
+    set(j.at("data"), r.data, r.dataLength);
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("parameters"), r.parameters, r.parameterCount);
+}
+
+inline void describe(Out& o, const RequestResult& r) {
+    o.member("error", r.error);
+    o.member("data", r.data, r.dataLength);
+    o.member("dataLength", r.dataLength);
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("parameters", r.parameters, r.parameterCount);
+    o.member("parameterCount", r.parameterCount);
+    o.end();
+}
+
+inline void build(const Json& j, RequestResult& r) {
+    set(j.at("error"), r.error);
+    set(j.at("data"), r.data, r.dataLength);
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("parameters"), r.parameters, r.parameterCount);
+}
+
+inline void describe(Out& o, const UnlockResult& r) {
+    o.member("value", r.value);
+    o.member("services", r.services, r.serviceCount);
+    o.member("serviceCount", r.serviceCount);
+    o.end();
+}
+
+inline void build(const Json& j, UnlockResult& r) {
+    set(j.at("value"), r.value);
+    set(j.at("services"), r.services, r.serviceCount);
+}
+
+inline void describe(Out& o, const ServiceInfo& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("flag", r.flag);
+    o.member("responses", r.responses, r.responseCount);
+    o.member("responseCount", r.responseCount);
+    o.member("parameters", r.parameters, r.parameterCount);
+    o.member("parameterCount", r.parameterCount);
+    o.member("text1", r.text1);
+    o.member("items", r.items, r.itemCount);
+    o.member("itemCount", r.itemCount);
+    o.member("error", r.error);
+    o.member("values", r.values);
+    o.end();
+}
+
+inline void build(const Json& j, ServiceInfo& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("flag"), r.flag);
+    set(j.at("responses"), r.responses, r.responseCount);
+    set(j.at("parameters"), r.parameters, r.parameterCount);
+    set(j.at("text1"), r.text1);
+    set(j.at("items"), r.items, r.itemCount);
+    set(j.at("error"), r.error);
+    set(j.at("values"), r.values);
+}
+
+inline void describe(Out& o, const ResponseInfo& r) {
+    o.member("itemText1", r.itemText1);
+    o.member("itemText2", r.itemText2);
+    o.member("itemText3", r.itemText3);
+    o.member("itemText4", r.itemText4);
+    o.member("status", r.status);
+    o.member("parameters", r.parameters, r.parameterCount);
+    o.member("parameterCount", r.parameterCount);
+    o.end();
+}
+
+inline void build(const Json& j, ResponseInfo& r) {
+    set(j.at("itemText1"), r.itemText1);
+    set(j.at("itemText2"), r.itemText2);
+    set(j.at("itemText3"), r.itemText3);
+    set(j.at("itemText4"), r.itemText4);
+    set(j.at("status"), r.status);
+    set(j.at("parameters"), r.parameters, r.parameterCount);
+}
+
 inline void describe(Out& o, const ParameterInfo& r) {
     o.member("itemText1", r.itemText1);
     o.member("itemText2", r.itemText2);
@@ -530,6 +719,23 @@ inline void build(const Json& j, UnitInfo& r) {
     set(j.at("flag1"), r.flag1);
     set(j.at("value2"), r.value2);
     set(j.at("flag2"), r.flag2);
+}
+
+inline void describe(Out& o, const ParameterInfoConfig& r) {
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("value", r.value);
+    o.member("text3", r.text3);
+    o.member("text4", r.text4);
+    o.end();
+}
+
+inline void build(const Json& j, ParameterInfoConfig& r) {
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("value"), r.value);
+    set(j.at("text3"), r.text3);
+    set(j.at("text4"), r.text4);
 }
 
 inline void describe(Out& o, const KelEvent& r) {

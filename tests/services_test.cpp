@@ -1,0 +1,681 @@
+// Services against the bundled default vehicle's engine control module (ECM): what a
+// tester relies on when developing a diagnostic sequence against the simulated unit.
+// Parameter trees, negative responses, session and security rules, the lockout, one
+// state for services and identification, vehicle unlock, descriptions and cancelling.
+#include "support.h"
+
+#include <Kel_cpp/Records.h>
+
+#include <OTXStream.h>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstring>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::lastArguments;
+using kel_test::List;
+using namespace std::chrono_literals;
+
+using Results = List<ServiceResult, release_ServiceResult_array>;
+using Infos = List<ParameterInfo, release_ParameterInfo_array>;
+using ServiceInfos = List<ServiceInfo, release_ServiceInfo_array>;
+using Bytes = std::vector<uint8_t>;
+
+constexpr uint32_t ecmAddress = 2016;
+constexpr uint32_t ecmKeyMask = 0x5A3C96E1;
+
+// The documented key algorithm, written out again: key = rotate_left_32(seed ^ mask, 3).
+Bytes keyFor(const uint8_t* seed, uint32_t mask) {
+    uint32_t s = 0;
+    for (int i = 0; i < 4; ++i) {
+        s = s << 8 | seed[i];
+    }
+    const uint32_t x = s ^ mask;
+    const uint32_t k = x << 3 | x >> 29;
+    return {static_cast<uint8_t>(k >> 24), static_cast<uint8_t>(k >> 16),
+            static_cast<uint8_t>(k >> 8), static_cast<uint8_t>(k)};
+}
+
+ParameterInput* param(const wchar_t* name, const wchar_t* value,
+                      std::vector<ParameterInput*> children = {}) {
+    auto* p = static_cast<ParameterInput*>(allocate_Memory(sizeof(ParameterInput)));
+    std::memset(p, 0, sizeof *p);
+    p->name = duplicate_WString(name);
+    p->value = duplicate_WString(value);
+    if (!children.empty()) {
+        p->children = static_cast<ParameterInput**>(
+            allocate_Memory(children.size() * sizeof(ParameterInput*)));
+        std::copy(children.begin(), children.end(), p->children);
+        p->childCount = static_cast<uint32_t>(children.size());
+    }
+    return p;
+}
+
+// A list of services to send, freed at the end of the test.
+struct Inputs {
+    std::vector<ServiceInput*> items;
+    Inputs() = default;
+    Inputs(const Inputs&) = delete;
+    Inputs& operator=(const Inputs&) = delete;
+    ~Inputs() {
+        for (auto* s : items) {
+            release_ServiceInput(s);
+        }
+    }
+    Inputs& add(const wchar_t* service, std::vector<ParameterInput*> params = {}) {
+        auto* s = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
+        std::memset(s, 0, sizeof *s);
+        s->service = duplicate_WString(service);
+        if (!params.empty()) {
+            s->parameters = static_cast<ParameterInput**>(
+                allocate_Memory(params.size() * sizeof(ParameterInput*)));
+            std::copy(params.begin(), params.end(), s->parameters);
+            s->parameterCount = static_cast<uint32_t>(params.size());
+        }
+        items.push_back(s);
+        return *this;
+    }
+    Inputs& raw(const Bytes& bytes) {
+        add(L"");
+        items.back()->data = static_cast<uint8_t*>(allocate_Memory(bytes.size()));
+        std::memcpy(items.back()->data, bytes.data(), bytes.size());
+        items.back()->dataLength = static_cast<uint32_t>(bytes.size());
+        return *this;
+    }
+    ServiceInput** list() { return items.data(); }
+    uint32_t count() const { return static_cast<uint32_t>(items.size()); }
+};
+
+Bytes bytesOf(const uint8_t* data, uint32_t length) {
+    return data == nullptr ? Bytes{} : Bytes(data, data + length);
+}
+
+Bytes requestOf(const ServiceResult& r) {
+    return r.request ? bytesOf(r.request->data, r.request->dataLength) : Bytes{};
+}
+
+Bytes responseOf(const ServiceResult& r) {
+    return r.responseCount == 0 ? Bytes{}
+                                : bytesOf(r.responses[0]->data, r.responses[0]->dataLength);
+}
+
+// "name=value" or "name{child,child}" for a decoded parameter tree.
+std::wstring shape(ParameterResult** list, uint32_t count) {
+    std::wstring out;
+    for (uint32_t i = 0; i < count; ++i) {
+        const ParameterResult& p = *list[i];
+        out += (i == 0 ? L"" : L",") + std::wstring(p.itemText1);
+        out += p.childCount > 0 ? L"{" + shape(p.children, p.childCount) + L"}"
+                                : L"=" + std::wstring(p.text1);
+    }
+    return out;
+}
+
+std::wstring responseShape(const ServiceResult& r) {
+    return r.responseCount == 0 ? L"<none>"
+                                : shape(r.responses[0]->parameters, r.responses[0]->parameterCount);
+}
+
+class ServicesTest : public EngineTest {
+protected:
+    // Runs `in` on `target` and returns its results; the call itself must succeed.
+    std::unique_ptr<Results> run(Inputs& in, const wchar_t* target = L"ECM",
+                                 bool inDefaultSession = false) {
+        auto out = std::make_unique<Results>();
+        ErrorSlot error;
+        if (inDefaultSession) {
+            kel_executeServiceInDefaultSession(api, target, in.list(), in.count(), &error,
+                                               &out->items, &out->count);
+        } else {
+            kel_executeService(api, target, in.list(), in.count(), &error, &out->items,
+                               &out->count);
+        }
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        EXPECT_EQ(out->count, in.count()) << "one result per service";
+        return out;
+    }
+    // One service; its result's status (0 positive, 1 negative, 2 silent, 3 not sent) and
+    // its negative response code.
+    std::pair<int32_t, int32_t> one(const wchar_t* service,
+                                    std::vector<ParameterInput*> params = {}) {
+        Inputs in;
+        in.add(service, std::move(params));
+        const auto out = run(in);
+        const ServiceResult& r = *out->items[0];
+        return {r.status, r.error != nullptr ? r.error->subCode : 0};
+    }
+    void enterSession(const wchar_t* session) {
+        ASSERT_EQ(one(L"DiagnosticSessionControl", {param(L"Session", session)}).first, 0);
+    }
+    uint64_t unlock() {
+        ErrorSlot error;
+        UnlockResult* result = nullptr;
+        kel_unlockVehicle(api, L"ECM", nullptr, 0, &error, &result);
+        EXPECT_FALSE(error);
+        const uint64_t value = result != nullptr ? result->value : 0;
+        release_UnlockResult(result);
+        EXPECT_NE(value, 0U);
+        return value;
+    }
+    Bytes seed(ErrorSlot& error, uint32_t level = 1) {
+        uint8_t* bytes = nullptr;
+        uint32_t length = 0;
+        kel_createSeed(api, ecmAddress, level, &error, &bytes, &length);
+        Bytes out = bytesOf(bytes, length);
+        release_Memory(bytes);
+        return out;
+    }
+};
+
+TEST_F(ServicesTest, AParameterTreeReachesTheUnitWithItsShape) {
+    unlock();
+    Inputs in;
+    in.add(L"RoutineControl_0203",
+           {param(L"Settings", L"",
+                  {param(L"Channel", L"", {param(L"Cylinder", L"2"), param(L"Mode", L"Hold")}),
+                   param(L"Duration", L"250")}),
+            param(L"Repeat", L"3")});
+    const auto out = run(in);
+    EXPECT_NE(
+        lastArguments("executeService")
+            .find(R"({"name":"Channel","children":[{"name":"Cylinder","children":[],"value":"2"})"),
+        std::string::npos)
+        << lastArguments("executeService");
+    const ServiceResult& r = *out->items[0];
+    ASSERT_EQ(r.status, 0) << r.text1;
+    EXPECT_EQ(r.value1, 0x31);
+    // The tree flattened in layout order: routine start, id, cylinder, mode, 25 * 10 ms, repeat.
+    EXPECT_EQ(requestOf(r), (Bytes{0x31, 0x01, 0x02, 0x03, 0x02, 0x02, 0x00, 0x19, 0x03}));
+    const std::wstring tree = L"RoutineControlType=01,RoutineIdentifier=0203,"
+                              L"Settings{Channel{Cylinder=2,Mode=Hold},Duration=250},Repeat=3";
+    EXPECT_EQ(shape(r.request->parameters, r.request->parameterCount), tree);
+    // The unit reports the options it ran with, so the response reads back the same tree.
+    EXPECT_EQ(responseShape(r), tree);
+    const ParameterResult& duration = *r.responses[0]->parameters[2]->children[1];
+    EXPECT_STREQ(duration.text2, L"ms");
+    EXPECT_EQ(bytesOf(duration.data, duration.dataLength), (Bytes{0x00, 0x19}));
+
+    // A value left out takes its default; one the layout lacks is refused before sending.
+    Inputs more;
+    more.add(L"RoutineControl_0203",
+             {param(L"Settings", L"",
+                    {param(L"Channel", L"", {param(L"Cylinder", L"1"), param(L"Mode", L"Pulse")}),
+                     param(L"Duration", L"10")})});
+    more.add(L"RoutineControl_0203", {param(L"Settings", L"", {param(L"Speed", L"1")})});
+    more.add(L"RoutineControl_0203",
+             {param(L"Settings", L"", {param(L"Channel", L"", {param(L"Mode", L"Spin")})})});
+    const auto results = run(more);
+    EXPECT_EQ(requestOf(*results->items[0]).back(), 0x01) << "Repeat's default";
+    for (uint32_t i = 1; i < 3; ++i) {
+        const ServiceResult& refused = *results->items[i];
+        EXPECT_EQ(refused.status, 3);
+        ASSERT_NE(refused.error, nullptr);
+        EXPECT_EQ(refused.error->code, 1101);
+        EXPECT_EQ(refused.request, nullptr) << "nothing was sent";
+    }
+    EXPECT_NE(std::wstring(results->items[1]->error->details).find(L"Settings.Speed"),
+              std::wstring::npos);
+}
+
+TEST_F(ServicesTest, NegativeResponsesCarryTheirBytes) {
+    Inputs in;
+    in.add(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000001")});
+    in.raw({0x22, 0x12, 0x34});
+    in.raw({0xAA, 0x01});
+    in.raw({0x22, 0xF1});
+    in.add(L"NoSuchService");
+    const auto out = run(in);
+
+    const ServiceResult& write = *out->items[0];
+    EXPECT_EQ(write.status, 1);
+    EXPECT_STREQ(write.text1, L"serviceNotSupportedInActiveSession");
+    ASSERT_EQ(write.responseCount, 1U);
+    const ResponseResult& response = *write.responses[0];
+    EXPECT_EQ(response.flag, 0);
+    EXPECT_EQ(bytesOf(response.data, response.dataLength), (Bytes{0x7F, 0x2E, 0x7F}));
+    ASSERT_NE(response.error, nullptr);
+    EXPECT_EQ(response.error->code, 1102);
+    EXPECT_EQ(response.error->subCode, 0x7F);
+    ASSERT_NE(response.error->negativeResponse, nullptr);
+    const NegativeResponse& nr = *response.error->negativeResponse;
+    EXPECT_EQ(nr.code, 0x7F);
+    EXPECT_STREQ(nr.text, L"serviceNotSupportedInActiveSession");
+    EXPECT_EQ(nr.value1, 0x2EU) << "the service id";
+    EXPECT_EQ(bytesOf(nr.bytes, nr.byteCount), (Bytes{0x7F, 0x2E, 0x7F}));
+    ASSERT_NE(write.error, nullptr) << "the service's error is its response's";
+    EXPECT_EQ(write.error->negativeResponse->code, 0x7F);
+    EXPECT_EQ(responseShape(write), L"SIDRQ=2E,NRC=serviceNotSupportedInActiveSession");
+
+    EXPECT_EQ(responseOf(*out->items[1]), (Bytes{0x7F, 0x22, 0x31})) << "unknown identifier";
+    EXPECT_EQ(responseOf(*out->items[2]), (Bytes{0x7F, 0xAA, 0x11})) << "unknown service id";
+    EXPECT_EQ(responseOf(*out->items[3]), (Bytes{0x7F, 0x22, 0x13})) << "too short";
+    EXPECT_EQ(out->items[4]->status, 3);
+    EXPECT_EQ(out->items[4]->error->code, 1100);
+
+    // A silent unit answers nothing: its per-target error, no response.
+    Inputs silent;
+    silent.add(L"TesterPresent");
+    const auto acc = run(silent, L"ACC");
+    EXPECT_EQ(acc->items[0]->status, 2);
+    EXPECT_EQ(acc->items[0]->error->code, 1010);
+    EXPECT_EQ(acc->items[0]->responseCount, 0U);
+
+    // An unknown target fails the call.
+    ErrorSlot error;
+    Results none;
+    kel_executeService(api, L"Nope", silent.list(), silent.count(), &error, &none.items,
+                       &none.count);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1011);
+}
+
+TEST_F(ServicesTest, SessionAndSecurityRulesHold) {
+    EXPECT_EQ(one(L"WriteDataByIdentifier_0102", {param(L"DrivingMode", L"Sport")}),
+              std::make_pair(1, 0x7F))
+        << "only in the extended session";
+    enterSession(L"Extended");
+    EXPECT_EQ(one(L"WriteDataByIdentifier_0102", {param(L"DrivingMode", L"Sport")}).first, 0);
+    EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000001")}),
+              std::make_pair(1, 0x33))
+        << "needs security level 1";
+    EXPECT_EQ(one(L"ReadDataByIdentifier_F190").first, 0) << "reading needs nothing";
+
+    // The session falls back to default after 5 s without a request...
+    kelsim_advanceClock(5001);
+    EXPECT_EQ(one(L"WriteDataByIdentifier_0102", {param(L"DrivingMode", L"Eco")}).second, 0x7F);
+    // ... unless something keeps it alive.
+    enterSession(L"Extended");
+    kelsim_advanceClock(4000);
+    EXPECT_EQ(one(L"TesterPresent").first, 0);
+    kelsim_advanceClock(4000);
+    EXPECT_EQ(one(L"WriteDataByIdentifier_0102", {param(L"DrivingMode", L"Eco")}).first, 0);
+
+    // In the default session whatever session the unit was in.
+    Inputs write;
+    write.add(L"WriteDataByIdentifier_0102", {param(L"DrivingMode", L"Off")});
+    const auto inDefault = run(write, L"ECM", true);
+    EXPECT_EQ(inDefault->items[0]->error->subCode, 0x7F);
+    EXPECT_STREQ(inDefault->items[0]->itemText4, L"Default");
+
+    // A reset, too, starts the unit again in the default session and locked.
+    unlock();
+    EXPECT_EQ(one(L"EcuReset", {param(L"ResetType", L"SoftReset")}).first, 0);
+    EXPECT_EQ(one(L"WriteDataByIdentifier_0102", {param(L"DrivingMode", L"Eco")}).second, 0x7F);
+    enterSession(L"Extended");
+    EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000001")}).second,
+              0x33);
+    EXPECT_EQ(one(L"DiagnosticSessionControl", {param(L"Session", L"Sleep")}).first, 3)
+        << "a session the unit does not have is not sent";
+}
+
+TEST_F(ServicesTest, ThreeWrongKeysLockTheLevelForTheDelay) {
+    ErrorSlot error;
+    seed(error);
+    ASSERT_TRUE(error) << "security access needs the extended session";
+    EXPECT_EQ(error->code, 1102);
+    EXPECT_EQ(error->subCode, 0x7F);
+    EXPECT_EQ(error->negativeResponse, nullptr) << "a failed call carries no record of it";
+
+    enterSession(L"Extended");
+    const Bytes wrong = {0, 0, 0, 0};
+    for (const int32_t expected : {0x35, 0x35, 0x36}) {
+        ErrorSlot e;
+        const Bytes s = seed(e);
+        ASSERT_FALSE(e);
+        ASSERT_EQ(s.size(), 4U);
+        ASSERT_NE(s, Bytes(4, 0));
+        ErrorSlot keyError;
+        kel_sendKey(api, wrong.data(), 4, &keyError);
+        ASSERT_TRUE(keyError);
+        EXPECT_EQ(keyError->code, 1102);
+        EXPECT_EQ(keyError->subCode, expected);
+    }
+    ErrorSlot locked;
+    seed(locked);
+    ASSERT_TRUE(locked);
+    EXPECT_EQ(locked->subCode, 0x37) << "requiredTimeDelayNotExpired";
+    kelsim_advanceClock(9000);
+    ErrorSlot stillLocked;
+    enterSession(L"Extended"); // keeps the session: it is not the lockout that ends
+    seed(stillLocked);
+    ASSERT_TRUE(stillLocked);
+    EXPECT_EQ(stillLocked->subCode, 0x37);
+
+    kelsim_advanceClock(1001);
+    ErrorSlot fine;
+    enterSession(L"Extended");
+    const Bytes s = seed(fine);
+    ASSERT_FALSE(fine);
+    const Bytes key = keyFor(s.data(), ecmKeyMask);
+    kel_sendKey(api, key.data(), 4, &fine);
+    ASSERT_FALSE(fine) << fine->message;
+    EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000001")}).first, 0);
+    EXPECT_EQ(seed(fine), Bytes(4, 0)) << "an unlocked level answers the zero seed";
+
+    ErrorSlot noSeed;
+    kel_sendKey(api, key.data(), 4, &noSeed);
+    ASSERT_TRUE(noSeed);
+    EXPECT_EQ(noSeed->code, 1103);
+    ErrorSlot nowhere;
+    uint8_t* bytes = reinterpret_cast<uint8_t*>(0x1);
+    uint32_t length = 7;
+    kel_createSeed(api, 4242, 1, &nowhere, &bytes, &length);
+    ASSERT_TRUE(nowhere);
+    EXPECT_EQ(nowhere->code, 1011);
+    EXPECT_EQ(length, 7U) << "outputs stay as they were";
+}
+
+TEST_F(ServicesTest, SecurityAccessByServicesUsesTheSameUnit) {
+    enterSession(L"Extended");
+    Inputs ask;
+    ask.add(L"SecurityAccess_RequestSeed_Level1");
+    const auto asked = run(ask);
+    ASSERT_EQ(asked->items[0]->status, 0);
+    const ResponseResult& r = *asked->items[0]->responses[0];
+    ASSERT_EQ(r.parameterCount, 2U);
+    EXPECT_STREQ(r.parameters[1]->itemText1, L"Seed");
+    const Bytes key = keyFor(r.parameters[1]->data, ecmKeyMask);
+    std::wstring hex;
+    for (const uint8_t b : key) {
+        hex += L"0123456789ABCDEF"[b >> 4];
+        hex += L"0123456789ABCDEF"[b & 0xF];
+    }
+    EXPECT_EQ(one(L"SecurityAccess_SendKey_Level1", {param(L"Key", hex.c_str())}).first, 0);
+    EXPECT_EQ(one(L"RoutineControl_0204").first, 0);
+    Inputs run0203;
+    run0203.raw({0x31, 0x01, 0x02, 0x03, 0x01, 0x01, 0x00, 0x01, 0x01});
+    EXPECT_EQ(run(run0203)->items[0]->status, 0) << "the level is unlocked for raw requests too";
+}
+
+TEST_F(ServicesTest, AWrittenValueIsReadBackByServiceAndIdentification) {
+    unlock();
+    EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W999999")}).first, 0);
+    Inputs read;
+    read.add(L"ReadDataByIdentifier_F190");
+    const auto byService = run(read);
+    EXPECT_EQ(responseShape(*byService->items[0]), L"Identifier=F190,VIN=WVWZZZ1KZ8W999999");
+
+    ErrorSlot error;
+    List<ReadDataResult, release_ReadDataResult_array> values;
+    const wchar_t* ecm[] = {L"ECM"};
+    kel_readIdentificationValues(api, const_cast<wchar_t**>(ecm), 1, &error, &values.items,
+                                 &values.count);
+    ASSERT_FALSE(error);
+    ASSERT_GE(values.items[0]->parameterCount, 1U);
+    EXPECT_STREQ(values.items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
+    List<ReadDataResult, release_ReadDataResult_array> byName;
+    const wchar_t* ids[] = {L"VIN", L"IdleSpeedTarget"};
+    kel_readDataByIdentifiers(api, L"ECM", const_cast<wchar_t**>(ids), 2, &error, &byName.items,
+                              &byName.count);
+    ASSERT_FALSE(error);
+    EXPECT_STREQ(byName.items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
+    EXPECT_STREQ(byName.items[0]->parameters[1]->text1, L"800");
+    EXPECT_STREQ(byName.items[0]->parameters[1]->text2, L"1/min");
+
+    // A scaled value: 900 1/min at 0.25 per bit is 3600; the unit refuses one out of range.
+    Inputs idle;
+    idle.add(L"WriteDataByIdentifier_0100", {param(L"IdleSpeedTarget", L"900")});
+    idle.add(L"WriteDataByIdentifier_0100", {param(L"IdleSpeedTarget", L"1200")});
+    idle.add(L"WriteDataByIdentifier_0100", {param(L"IdleSpeedTarget", L"fast")});
+    idle.add(L"ReadDataByIdentifier_0100");
+    const auto written = run(idle);
+    EXPECT_EQ(requestOf(*written->items[0]), (Bytes{0x2E, 0x01, 0x00, 0x0E, 0x10}));
+    EXPECT_EQ(responseOf(*written->items[1]), (Bytes{0x7F, 0x2E, 0x31})) << "above 1000";
+    EXPECT_EQ(written->items[2]->error->code, 1101) << "not a number: not sent";
+    EXPECT_EQ(responseShape(*written->items[3]), L"Identifier=0100,IdleSpeedTarget=900");
+
+    // The fault memory is the same too: cleared by service, gone for readDtcs.
+    EXPECT_EQ(one(L"ClearDiagnosticInformation").first, 0);
+    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+    kel_readDtcs(api, const_cast<wchar_t**>(ecm), 1, nullptr, &error, &dtcs.items, &dtcs.count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(dtcs.items[0]->dtcCount, 0U);
+}
+
+TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
+    ErrorSlot error;
+    UnlockResult* result = nullptr;
+    kel_unlockVehicle(api, L"ECM", nullptr, 0, &error, &result);
+    ASSERT_FALSE(error);
+    ASSERT_NE(result, nullptr);
+    const uint64_t value = result->value;
+    EXPECT_NE(value, 0U);
+    ASSERT_EQ(result->serviceCount, 3U) << "session, seed, key";
+    EXPECT_EQ(requestOf(*result->services[0]), (Bytes{0x10, 0x03}));
+    EXPECT_EQ(responseOf(*result->services[2]), (Bytes{0x67, 0x02}));
+    release_UnlockResult(result);
+
+    kelsim_advanceClock(60000);
+    EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000002")}).first, 0)
+        << "no timeout while unlocked";
+    kel_releaseVehicleUnlock(api, value, &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000003")}).second,
+              0x7F)
+        << "released: back in the default session";
+    kel_releaseVehicleUnlock(api, value, &error);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1104);
+
+    // With services given, those run; a failing one gives no unlock.
+    Inputs given;
+    given.add(L"DiagnosticSessionControl", {param(L"Session", L"Extended")});
+    given.add(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000004")});
+    UnlockResult* failed = nullptr;
+    ErrorSlot none;
+    kel_unlockVehicle(api, L"ECM", given.list(), given.count(), &none, &failed);
+    ASSERT_FALSE(none);
+    ASSERT_NE(failed, nullptr);
+    EXPECT_EQ(failed->value, 0U);
+    ASSERT_EQ(failed->serviceCount, 2U);
+    EXPECT_EQ(failed->services[1]->error->subCode, 0x33);
+    release_UnlockResult(failed);
+}
+
+TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
+    ErrorSlot error;
+    ServiceInfos writes;
+    kel_getServiceInfos(api, L"ECM", L"WriteDataByIdentifier_*", nullptr, 0, 0, &error,
+                        &writes.items, &writes.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(writes.count, 3U) << "F190, 0100, 0102";
+    const ServiceInfo& idle = *writes.items[1];
+    EXPECT_STREQ(idle.itemText1, L"WriteDataByIdentifier_0100");
+    EXPECT_STREQ(idle.text1, L"WriteDataByIdentifier");
+    EXPECT_EQ(idle.flag, 0) << "not allowed in the default session";
+    EXPECT_EQ(idle.values[0], 0x2EU);
+    EXPECT_EQ(idle.values[1], 1U) << "security level";
+    ASSERT_EQ(idle.itemCount, 1U);
+    EXPECT_STREQ(idle.items[0]->itemText1, L"Extended");
+    ASSERT_EQ(idle.parameterCount, 2U);
+    const ParameterInfo& speed = *idle.parameters[1];
+    EXPECT_STREQ(speed.itemText1, L"IdleSpeedTarget");
+    EXPECT_STREQ(speed.text2, L"1/min");
+    EXPECT_EQ(speed.value1, 3) << "byte position";
+    EXPECT_EQ(speed.value2, 2) << "byte length";
+    ASSERT_NE(speed.constraint1, nullptr);
+    ASSERT_EQ(speed.constraint1->scaleCount, 1U);
+    EXPECT_STREQ(speed.constraint1->scales[0]->text1, L"600");
+    EXPECT_STREQ(speed.constraint1->scales[0]->text2, L"1000");
+    EXPECT_NE(speed.names, nullptr);
+    EXPECT_EQ(speed.nameCount, 0U);
+    ASSERT_NE(speed.unit, nullptr);
+    EXPECT_EQ(static_cast<int32_t>(speed.unit->values[2]), -1) << "per second";
+    EXPECT_EQ(idle.responseCount, 2U);
+
+    // The described limits are the unit's: within them accepted, beyond refused.
+    unlock();
+    EXPECT_EQ(one(L"WriteDataByIdentifier_0100", {param(L"IdleSpeedTarget", L"1000")}).first, 0);
+    EXPECT_EQ(one(L"WriteDataByIdentifier_0100", {param(L"IdleSpeedTarget", L"1000.25")}).second,
+              0x31);
+
+    ServiceInfos picked;
+    const wchar_t* names[] = {L"TesterPresent", L"Missing"};
+    kel_getServiceInfos(api, L"ECM", L"", const_cast<wchar_t**>(names), 2, 0, &error, &picked.items,
+                        &picked.count);
+    ASSERT_EQ(picked.count, 2U);
+    EXPECT_EQ(picked.items[0]->flag, 1);
+    EXPECT_EQ(picked.items[1]->error->code, 1100);
+    ServiceInfos routines;
+    kel_getServiceInfos(api, L"ECM", L"", nullptr, 0, 0x31, &error, &routines.items,
+                        &routines.count);
+    EXPECT_EQ(routines.count, 2U);
+
+    Infos actuators;
+    kel_getActuatorServiceInfos(api, L"ECM", L"", &error, &actuators.items, &actuators.count);
+    ASSERT_EQ(actuators.count, 1U);
+    EXPECT_STREQ(actuators.items[0]->itemText1, L"RoutineControl_0203");
+    const ParameterInfo& settings = *actuators.items[0]->children[2];
+    ASSERT_EQ(settings.childCount, 2U);
+    EXPECT_EQ(settings.children[0]->childCount, 2U) << "Channel: Cylinder and Mode";
+
+    auto* config = static_cast<ParameterInfoConfig*>(allocate_Memory(sizeof(ParameterInfoConfig)));
+    std::memset(config, 0, sizeof *config);
+    config->text1 = duplicate_WString(L"ECM");
+    config->text2 = duplicate_WString(L"RoutineControl_0203");
+    config->text3 = duplicate_WString(L"Settings.Channel.Mode");
+    config->text4 = duplicate_WString(L"");
+    ParameterInfo* mode = nullptr;
+    kel_getParameterInfo(api, config, &error, &mode);
+    ASSERT_FALSE(error);
+    ASSERT_NE(mode, nullptr);
+    ASSERT_EQ(mode->nameCount, 2U);
+    EXPECT_STREQ(mode->names[1], L"Hold");
+    EXPECT_STREQ(mode->text4, L"Settings.Channel.Mode");
+    release_ParameterInfo(mode);
+    kel_getParameterInfo(api, nullptr, &error, &mode);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1101);
+
+    ErrorSlot identError;
+    Infos ident;
+    kel_getIdentificationValueInfos(api, L"ECM", &identError, &ident.items, &ident.count);
+    ASSERT_FALSE(identError);
+    ASSERT_EQ(ident.count, 5U);
+    EXPECT_STREQ(ident.items[0]->itemText1, L"VIN");
+    EXPECT_STREQ(ident.items[0]->itemText2, L"F190");
+    EXPECT_EQ(ident.items[0]->value2, 17);
+}
+
+// Collects the reports of asynchronous executions.
+struct Reports {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<uint32_t> counts;
+    std::vector<int32_t> statuses;
+    int32_t finalError = -1;
+    bool done = false;
+
+    static void callback(ServiceResult** results, uint32_t count, bool isFinal, uint64_t /*id*/,
+                         KelError* error, void* context) {
+        auto& self = *static_cast<Reports*>(context);
+        const std::lock_guard lock(self.mutex);
+        self.counts.push_back(count);
+        for (uint32_t i = 0; i < count; ++i) {
+            self.statuses.push_back(results[i]->status);
+        }
+        if (isFinal) {
+            self.done = true;
+            self.finalError = error != nullptr ? error->code : 0;
+        }
+        release_ServiceResult_array(results, count);
+        release_KelError(error);
+        self.changed.notify_all();
+    }
+    bool wait(std::chrono::milliseconds limit, std::size_t reports = 0) {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, limit,
+                                [&] { return reports == 0 ? done : counts.size() >= reports; });
+    }
+};
+
+TEST_F(ServicesTest, AsynchronousExecutionReportsPerServiceAndCancels) {
+    Inputs in;
+    in.add(L"TesterPresent")
+        .add(L"ReadDataByIdentifier_F190")
+        .add(L"WriteDataByIdentifier_F190", {param(L"VIN", L"X")});
+    Reports all;
+    ErrorSlot error;
+    const uint64_t id = kel_executeServiceInDefaultSessionAsync(api, L"ECM", in.list(), in.count(),
+                                                                &error, Reports::callback, &all);
+    ASSERT_FALSE(error);
+    ASSERT_NE(id, 0U);
+    ASSERT_TRUE(all.wait(5s));
+    EXPECT_EQ(all.counts, (std::vector<uint32_t>{1, 1, 1})) << "one report per service";
+    EXPECT_EQ(all.statuses, (std::vector<int32_t>{0, 0, 3}));
+    EXPECT_EQ(all.finalError, 0);
+
+    kelsim_setAsyncInterval("executeServiceAsync", 40);
+    Inputs many;
+    for (int i = 0; i < 6; ++i) {
+        many.add(L"TesterPresent");
+    }
+    Reports cancelled;
+    const uint64_t running = kel_executeServiceAsync(api, L"ECM", many.list(), many.count(), &error,
+                                                     Reports::callback, &cancelled);
+    ASSERT_NE(running, 0U);
+    ASSERT_TRUE(cancelled.wait(5s, 1));
+    kel_cancelAsyncCalls(api, &running, 1, &error);
+    ASSERT_FALSE(error);
+    ASSERT_TRUE(cancelled.wait(5s));
+    EXPECT_EQ(cancelled.finalError, 1012);
+    EXPECT_LT(cancelled.statuses.size(), 6U) << "the cancel ended the reports";
+
+    ErrorSlot unknown;
+    Reports never;
+    EXPECT_EQ(kel_executeServiceAsync(api, L"Nope", many.list(), many.count(), &unknown,
+                                      Reports::callback, &never),
+              0U);
+    ASSERT_TRUE(unknown);
+    EXPECT_EQ(unknown->code, 1011);
+}
+
+// kel_call and py_call reach the same unit as the exports: a session entered through one
+// way in and a level unlocked through another hold for the third.
+TEST_F(ServicesTest, KelCallAndPyCallTalkToTheSameUnit) {
+    // kel_call 30 (executeService): the target, then the services (a count, then each
+    // record's fields: no parameters, no name, raw bytes 10 03, value).
+    kel::OTXStream otx(true, false, true);
+    otx.write(std::wstring(L"ECM")).write(uint32_t{1});
+    otx.write(uint32_t{0}).write(std::wstring()).write(Bytes{0x10, 0x03}).write(uint64_t{0});
+    void* stream = nullptr;
+    uint64_t size = 0;
+    kel_call_checked(0, 30, otx.buffer, otx.position, &stream, &size);
+    Bytes entered(size);
+    kel_call_result(stream, entered.data());
+    ASSERT_FALSE(entered.empty());
+    ASSERT_EQ(entered[0], 1);
+    // The session it entered is where the seed below may be asked for.
+
+    // py_call 43 (createSeed) and 44 (sendKey).
+    kel::OTXStream ask(false, true, false);
+    ask.write(ecmAddress).write(uint32_t{1});
+    uint32_t seedSize = 0;
+    void* buffer = nullptr;
+    ASSERT_EQ(py_call_checked(api, 43, 0, ask.buffer, ask.position, &seedSize, &buffer), 0);
+    Bytes answer(seedSize);
+    py_result(answer.data(), static_cast<int32_t>(seedSize), buffer);
+    kel::OTXStream seedStream(answer.data(), true, false, false);
+    Bytes seed;
+    seedStream.read(seed);
+    ASSERT_EQ(seed.size(), 4U);
+    kel::OTXStream send(false, true, false);
+    send.write(keyFor(seed.data(), ecmKeyMask));
+    uint32_t sentSize = 0;
+    ASSERT_EQ(py_call_checked(api, 44, 0, send.buffer, send.position, &sentSize, &buffer), 0);
+    py_result(nullptr, 0, buffer);
+
+    EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000005")}).first, 0)
+        << "the export finds the session and the level unlocked";
+}
+
+} // namespace
