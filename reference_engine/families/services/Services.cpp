@@ -125,6 +125,7 @@ Services::Services(std::shared_ptr<SimulatedVehicle> vehicle) : vehicle_(std::mo
 
 const std::shared_ptr<ControlUnits>& Services::ready(const std::wstring& target) const {
     vehicle_->lifecycle.requireInitialized();
+    vehicle_->interfaces->requireConnected();
     vehicle_->units->read([&](const std::vector<Ecu>& ecus) { find(ecus, target); });
     return vehicle_->units;
 }
@@ -159,6 +160,7 @@ Services::executeServiceInDefaultSessionAsync(const std::wstring& target, const 
 // value1: the unit's diagnostic address (Target.value1); value2: the security level.
 std::vector<uint8_t> Services::createSeed(uint32_t value1, uint32_t value2) {
     vehicle_->lifecycle.requireInitialized();
+    vehicle_->interfaces->requireConnected();
     if (value2 < 1 || value2 > 0x3F) {
         throw TarnApiException(BadParameterValue, L"Security levels are 1 to 63",
                                L"level " + std::to_wstring(value2));
@@ -187,6 +189,7 @@ std::vector<uint8_t> Services::createSeed(uint32_t value1, uint32_t value2) {
 
 void Services::sendKey(const std::vector<uint8_t>& key) {
     vehicle_->lifecycle.requireInitialized();
+    vehicle_->interfaces->requireConnected();
     const auto seed = vehicle_->services.takeSeed();
     if (!seed) {
         throw TarnApiException(NoSeedRequested, L"No seed was asked for",
