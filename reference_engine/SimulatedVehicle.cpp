@@ -94,6 +94,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.lifecycle = std::make_shared<Lifecycle>(vehicle, object);
     families.events = std::make_shared<Events>(vehicle, object);
     families.diagnostics = std::make_shared<Diagnostics>(vehicle);
+    families.files = std::make_shared<Files>(vehicle);
     return families;
 }
 

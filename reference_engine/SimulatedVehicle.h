@@ -14,6 +14,7 @@
 #include "VehicleDescription.h"
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
+#include "families/files/Files.h"
 #include "families/lifecycle/Lifecycle.h"
 
 #include <cstdint>
@@ -55,6 +56,7 @@ public:
     LifecycleState lifecycle;
     EventsState events;
     DiagnosticsState diagnostics;
+    FilesState files;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};
