@@ -33,6 +33,17 @@ enum ErrorCode : int32_t {
     // Services: 1100-1199.
 
     // Projects: 1200-1299.
+    UnknownProject = 1200,          // no project of that name or path in the projects folder
+    ProjectUnreadable = 1201,       // its project file is missing or not valid
+    ProjectNeedsConversion = 1202,  // an older format: convertProject first
+    DatabaseFileMissing = 1203,     // per file, inside load and unload results
+    NotADatabaseFile = 1204,        // per file: the file is not a database file
+    DatabaseFileNotLoaded = 1205,   // per file: unloading a file that is not loaded
+    PathOutsideProject = 1206,      // per file: the path leaves the project's folder
+    MissingInput = 1207,            // a record input that the operation needs is null
+    UnknownSystemProperty = 1208,
+    ConfigurationUnreadable = 1209, // a saved configuration file is not valid
+    CannotWriteFile = 1210,         // saving failed
 
     // Servers: 1300-1399.
 

@@ -95,6 +95,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.events = std::make_shared<Events>(vehicle, object);
     families.diagnostics = std::make_shared<Diagnostics>(vehicle);
     families.files = std::make_shared<Files>(vehicle);
+    families.projects = std::make_shared<Projects>(vehicle, object);
     return families;
 }
 

@@ -16,6 +16,7 @@
 #include "families/events/Events.h"
 #include "families/files/Files.h"
 #include "families/lifecycle/Lifecycle.h"
+#include "families/projects/Projects.h"
 
 #include <cstdint>
 #include <memory>
@@ -57,6 +58,7 @@ public:
     EventsState events;
     DiagnosticsState diagnostics;
     FilesState files;
+    ProjectsState projects;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};
