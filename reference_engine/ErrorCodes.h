@@ -70,8 +70,7 @@ enum ErrorCode : int32_t {
     BadFileArgument = 1614,     // a mode, offset or record the engine cannot use
     FileTooLarge = 1615,        // more than 4 GiB - 1 bytes in one read
     SomeEntriesFailed = 1616,   // a delete or copy outcome: the details name each entry
-    NoProjectSelected = 1617,
-    TargetInsideSource = 1618, // a directory copied or moved into itself
+    TargetInsideSource = 1617, // a directory copied or moved into itself
 
     // Flash: 1700-1799.
 

@@ -472,10 +472,28 @@ std::shared_ptr<DirectoryInfo> Files::getConfigDirectory(bool flag) {
     return tree(L"configuration", flag);
 }
 
+// The Projects family knows which project is selected; it is asked without any lock of
+// this family held.
+Resolved Files::project(const Sandbox& box, const std::wstring& name) const {
+    if (!name.empty()) {
+        checkName(name);
+        Resolved named = box.resolve(L"projects/" + name);
+        requireDirectory(named);
+        return named;
+    }
+    const fs::path folder = realPath(vehicle_->projects.selectedFolder());
+    for (const auto& d : box.directories()) {
+        if (d->name == L"projects" && within(folder, d->folder)) {
+            return Resolved{d, folder, Sandbox::enginePath(*d, folder)};
+        }
+    }
+    throw TarnApiException(OutsideSandbox, L"The selected project lies outside the projects directory",
+                           vehicle_->projects.selectedName());
+}
+
 std::shared_ptr<DirectoryInfo> Files::getSelectedProjectDirectory(bool flag) {
-    ready();
-    (void)flag;
-    throw TarnApiException(NoProjectSelected, L"No project is selected");
+    const Sandbox box = ready();
+    return describeDirectory(box, project(box, L""), true, flag);
 }
 
 std::shared_ptr<DirectoryInfo> Files::getDirectoryInfo(const std::wstring& path, bool flag) {
@@ -782,12 +800,7 @@ Files::copyProjectWithFilters(const std::vector<std::shared_ptr<FileFilter>>& fi
     if (!config) {
         throw TarnApiException(BadFileArgument, L"No copy configuration");
     }
-    if (text.empty()) {
-        throw TarnApiException(NoProjectSelected, L"No project is selected");
-    }
-    checkName(text);
-    const Resolved project = box.resolve(L"projects/" + text);
-    requireDirectory(project);
+    const Resolved project = this->project(box, text);
     const Resolved target = targetDirectory(box, config->target);
     if (within(target.real, project.real)) {
         throw TarnApiException(TargetInsideSource, L"A project cannot be copied into itself",

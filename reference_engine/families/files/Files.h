@@ -91,6 +91,8 @@ private:
     // Throws NotInitialized unless the engine is initialised; returns the sandbox.
     Sandbox ready() const;
     std::shared_ptr<DirectoryInfo> tree(const std::wstring& path, bool recursive);
+    // The project of this name, or the selected one for an empty name.
+    Resolved project(const Sandbox& box, const std::wstring& name) const;
 
     std::shared_ptr<SimulatedVehicle> vehicle_;
 };
