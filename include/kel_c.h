@@ -119,6 +119,17 @@ typedef struct InterfaceProvider InterfaceProvider;
 typedef struct DoIPParameter DoIPParameter;
 typedef struct WLanSignalData WLanSignalData;
 typedef struct SupportedInterface SupportedInterface;
+typedef struct FileInfo FileInfo;
+typedef struct DirectoryInfo DirectoryInfo;
+typedef struct FileCopyResult FileCopyResult;
+typedef struct DirectoryCopyResult DirectoryCopyResult;
+typedef struct DirectoryCopyItem DirectoryCopyItem;
+typedef struct PathCopyResult PathCopyResult;
+typedef struct PathCopyItem PathCopyItem;
+typedef struct FileReferenceResult FileReferenceResult;
+typedef struct FileCopyConfig FileCopyConfig;
+typedef struct DirectoryCopyConfig DirectoryCopyConfig;
+typedef struct PathCopyConfig PathCopyConfig;
 typedef struct UserInfo UserInfo;
 
 /* The MVCI (ISO 22900) server error beneath an engine error.
@@ -1049,6 +1060,131 @@ struct SupportedInterface {
     wchar_t* text3; /* the vendor module that usually drives it */
 };
 
+/* A file in the engine's file system.
+ * Freed with release_FileInfo; a list of them with release_FileInfo_array. */
+struct FileInfo {
+    wchar_t* name;   /* the entry's name */
+    KelError* error; /* the entry's own error; NULL when none */
+    uint8_t flag;    /* copied unchanged from the engine */
+    uint32_t value1; /* copied unchanged from the engine */
+    wchar_t* text1;  /* copied unchanged from the engine */
+    wchar_t* text2;  /* copied unchanged from the engine */
+    uint64_t value2; /* copied unchanged from the engine */
+    uint64_t value3; /* copied unchanged from the engine */
+};
+
+/* A directory with its files and, recursively, its sub-directories. Given as input it carries
+ * its entry members and its files only.
+ * Freed with release_DirectoryInfo, which frees everything it points to; a list of them with
+ * release_DirectoryInfo_array. */
+struct DirectoryInfo {
+    wchar_t* name;    /* the entry's name */
+    KelError* error;  /* the entry's own error; NULL when none */
+    uint8_t flag;     /* copied unchanged from the engine */
+    uint32_t value1;  /* copied unchanged from the engine */
+    wchar_t* text1;   /* copied unchanged from the engine */
+    wchar_t* text2;   /* copied unchanged from the engine */
+    FileInfo** files; /* the directory's files */
+    uint32_t fileCount;
+    DirectoryInfo** directories; /* the sub-directories; not read from input */
+    uint32_t directoryCount;
+    uint8_t flag2; /* copied unchanged from the engine; not read from input */
+};
+
+/* The outcome of copying one file.
+ * Freed with release_FileCopyResult, which frees everything it points to; a list of them with
+ * release_FileCopyResult_array. */
+struct FileCopyResult {
+    int32_t value1;  /* copied unchanged from the engine */
+    wchar_t* text;   /* copied unchanged from the engine */
+    KelError* error; /* the copy's own error; NULL when none */
+    FileInfo* file;  /* the copied file; NULL when none */
+    int32_t value2;  /* copied unchanged from the engine */
+};
+
+/* The outcome of copying one directory.
+ * Freed with release_DirectoryCopyResult, which frees everything it points to; a list of them
+ * with release_DirectoryCopyResult_array. */
+struct DirectoryCopyResult {
+    int32_t value1;               /* copied unchanged from the engine */
+    wchar_t* text;                /* copied unchanged from the engine */
+    KelError* error;              /* the copy's own error; NULL when none */
+    DirectoryCopyItem* directory; /* the nested directory result; NULL when none */
+};
+
+/* What copying one directory did: where from and to, how much, and every file that failed,
+ * each with its own error.
+ * Freed with release_DirectoryCopyItem, which frees everything it points to; a list of them
+ * with release_DirectoryCopyItem_array. */
+struct DirectoryCopyItem {
+    wchar_t* source;           /* the directory copied */
+    wchar_t* target;           /* the copy */
+    uint32_t files;            /* files copied */
+    uint32_t directories;      /* directories created */
+    uint64_t bytes;            /* bytes copied */
+    FileCopyResult** failures; /* one result per file that failed; NULL when none */
+    uint32_t failureCount;
+};
+
+/* The outcome of copying one path.
+ * Freed with release_PathCopyResult, which frees everything it points to; a list of them with
+ * release_PathCopyResult_array. */
+struct PathCopyResult {
+    int32_t value1;     /* copied unchanged from the engine */
+    KelError* error;    /* the copy's own error; NULL when none */
+    int32_t value2;     /* copied unchanged from the engine */
+    PathCopyItem* item; /* the nested record; NULL when none */
+};
+
+/* One entry of a path copy: the source and target of a file or directory and its size.
+ * Freed with release_PathCopyItem, which frees everything it points to; a list of them with
+ * release_PathCopyItem_array. */
+struct PathCopyItem {
+    wchar_t* source; /* the entry copied */
+    wchar_t* target; /* its copy */
+    uint64_t size;   /* the file's size in bytes; 0 for a directory */
+};
+
+/* The references of one file.
+ * Freed with release_FileReferenceResult, which frees everything it points to; a list of them
+ * with release_FileReferenceResult_array. */
+struct FileReferenceResult {
+    wchar_t** references; /* the file's references */
+    uint32_t referenceCount;
+    KelError* error; /* the lookup's own error; NULL when none */
+};
+
+/* What copyFiles and copyProjectWithFilters copy: files into one directory.
+ * Freed with release_FileCopyConfig, which frees everything it points to; a list of them with
+ * release_FileCopyConfig_array. */
+struct FileCopyConfig {
+    wchar_t** files; /* the files to copy; copyProjectWithFilters does not read them */
+    uint32_t fileCount;
+    wchar_t* target;   /* the directory the copies go into */
+    uint8_t overwrite; /* replace files that exist at the target */
+};
+
+/* What copyDirectories copies: directories into one directory.
+ * Freed with release_DirectoryCopyConfig, which frees everything it points to; a list of them
+ * with release_DirectoryCopyConfig_array. */
+struct DirectoryCopyConfig {
+    wchar_t** directories; /* the directories to copy, each into target under its own name */
+    uint32_t directoryCount;
+    wchar_t* target;   /* the directory the copies go into */
+    uint8_t overwrite; /* replace files that exist at the target */
+    uint8_t recursive; /* copy sub-directories too, not only each directory's files */
+    wchar_t* pattern;  /* only files whose names match (* and ?); empty for every file */
+};
+
+/* What copyPath copies: one file or directory tree to a new path.
+ * Freed with release_PathCopyConfig, which frees everything it points to; a list of them with
+ * release_PathCopyConfig_array. */
+struct PathCopyConfig {
+    wchar_t* source;   /* the file or directory to copy */
+    wchar_t* target;   /* the path of the copy itself, not its parent */
+    uint8_t overwrite; /* replace files that exist at the target */
+};
+
 /* A user of the engine's server.
  * Freed with release_UserInfo, which frees everything it points to; a list of them with
  * release_UserInfo_array. */
@@ -1278,6 +1414,32 @@ KEL_C_API void release_WLanSignalData_array(KEL_CONSUMED WLanSignalData** ptr, u
 KEL_C_API void release_SupportedInterface(KEL_CONSUMED SupportedInterface* ptr);
 KEL_C_API void release_SupportedInterface_array(KEL_CONSUMED SupportedInterface** ptr,
                                                 uint64_t count);
+KEL_C_API void release_FileInfo(KEL_CONSUMED FileInfo* ptr);
+KEL_C_API void release_FileInfo_array(KEL_CONSUMED FileInfo** ptr, uint64_t count);
+KEL_C_API void release_DirectoryInfo(KEL_CONSUMED DirectoryInfo* ptr);
+KEL_C_API void release_DirectoryInfo_array(KEL_CONSUMED DirectoryInfo** ptr, uint64_t count);
+KEL_C_API void release_FileCopyResult(KEL_CONSUMED FileCopyResult* ptr);
+KEL_C_API void release_FileCopyResult_array(KEL_CONSUMED FileCopyResult** ptr, uint64_t count);
+KEL_C_API void release_DirectoryCopyResult(KEL_CONSUMED DirectoryCopyResult* ptr);
+KEL_C_API void release_DirectoryCopyResult_array(KEL_CONSUMED DirectoryCopyResult** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_DirectoryCopyItem(KEL_CONSUMED DirectoryCopyItem* ptr);
+KEL_C_API void release_DirectoryCopyItem_array(KEL_CONSUMED DirectoryCopyItem** ptr,
+                                               uint64_t count);
+KEL_C_API void release_PathCopyResult(KEL_CONSUMED PathCopyResult* ptr);
+KEL_C_API void release_PathCopyResult_array(KEL_CONSUMED PathCopyResult** ptr, uint64_t count);
+KEL_C_API void release_PathCopyItem(KEL_CONSUMED PathCopyItem* ptr);
+KEL_C_API void release_PathCopyItem_array(KEL_CONSUMED PathCopyItem** ptr, uint64_t count);
+KEL_C_API void release_FileReferenceResult(KEL_CONSUMED FileReferenceResult* ptr);
+KEL_C_API void release_FileReferenceResult_array(KEL_CONSUMED FileReferenceResult** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_FileCopyConfig(KEL_CONSUMED FileCopyConfig* ptr);
+KEL_C_API void release_FileCopyConfig_array(KEL_CONSUMED FileCopyConfig** ptr, uint64_t count);
+KEL_C_API void release_DirectoryCopyConfig(KEL_CONSUMED DirectoryCopyConfig* ptr);
+KEL_C_API void release_DirectoryCopyConfig_array(KEL_CONSUMED DirectoryCopyConfig** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_PathCopyConfig(KEL_CONSUMED PathCopyConfig* ptr);
+KEL_C_API void release_PathCopyConfig_array(KEL_CONSUMED PathCopyConfig** ptr, uint64_t count);
 KEL_C_API void release_UserInfo(KEL_CONSUMED UserInfo* ptr);
 KEL_C_API void release_UserInfo_array(KEL_CONSUMED UserInfo** ptr, uint64_t count);
 
@@ -1335,12 +1497,24 @@ typedef void (*DetectDynInterfacesCallbackFunction)(ModuleDyn** results, uint32_
 typedef void (*DetectDynInterfacesExCallbackFunction)(ModuleDyn** results, uint32_t resultCount,
                                                       bool isFinal, uint64_t callId,
                                                       KelError* error, void* context);
+/* Reports of kel_copyFilesAsync: free results with release_FileCopyResult_array. */
+typedef void (*CopyFilesCallbackFunction)(FileCopyResult** results, uint32_t resultCount,
+                                          bool isFinal, uint64_t callId, KelError* error,
+                                          void* context);
+/* Reports of kel_copyDirectoriesAsync: free results with release_DirectoryCopyResult_array. */
+typedef void (*CopyDirectoriesCallbackFunction)(DirectoryCopyResult** results, uint32_t resultCount,
+                                                bool isFinal, uint64_t callId, KelError* error,
+                                                void* context);
 /* Reports of kel_executeServiceInDefaultSessionAsync: free results with
  * release_ServiceResult_array. */
 typedef void (*ExecuteServiceInDefaultSessionCallbackFunction)(ServiceResult** results,
                                                                uint32_t resultCount, bool isFinal,
                                                                uint64_t callId, KelError* error,
                                                                void* context);
+/* Reports of kel_copyPathAsync: free results with release_PathCopyResult_array. */
+typedef void (*CopyPathCallbackFunction)(PathCopyResult** results, uint32_t resultCount,
+                                         bool isFinal, uint64_t callId, KelError* error,
+                                         void* context);
 /* Reports of kel_executeSequenceAsync: free results with release_ServiceResult_array. */
 typedef void (*ExecuteSequenceCallbackFunction)(ServiceResult** results, uint32_t resultCount,
                                                 bool isFinal, uint64_t callId, KelError* error,
@@ -2214,12 +2388,72 @@ KEL_C_API void kel_getMonitoringLinks(TarnApi* api, KelError** error, KEL_OUT wc
 KEL_C_API void kel_readFile(TarnApi* api, KEL_KEPT const wchar_t* path, uint64_t value1,
                             uint32_t value2, uint8_t flag, KelError** error, KEL_OUT void** data,
                             KEL_OUT uint32_t* dataLength);
+/* Reads the project directory as a tree. Position 100.
+ * On success *directory receives a DirectoryInfo record, or NULL when the engine gives none;
+ * free it with release_DirectoryInfo. */
+KEL_C_API void kel_getProjectDirectory(TarnApi* api, uint8_t flag, KelError** error,
+                                       KEL_OUT DirectoryInfo** directory);
+/* Reads the selected project's directory as a tree. Position 101.
+ * On success *directory receives a DirectoryInfo record, or NULL when the engine gives none;
+ * free it with release_DirectoryInfo. */
+KEL_C_API void kel_getSelectedProjectDirectory(TarnApi* api, uint8_t flag, KelError** error,
+                                               KEL_OUT DirectoryInfo** directory);
 /* Writes bytes to a file; returns the engine's 32-bit result. Position 102.
  * path, data: kept by the caller, read only during the call.
  * On success *result receives the result. */
 KEL_C_API void kel_writeFile(TarnApi* api, KEL_KEPT const wchar_t* path,
                              KEL_KEPT const uint8_t* data, uint32_t dataLength, uint32_t value,
                              uint8_t flag, KelError** error, KEL_OUT uint32_t* result);
+/* Deletes the given files; the outcome comes back as an error record, NULL when the engine
+ * reports none. Position 103.
+ * files: kept by the caller, read only during the call.
+ * On success *result receives a KelError record, or NULL when the engine gives none; free it
+ * with release_KelError. */
+KEL_C_API void kel_deleteFiles(TarnApi* api, KEL_KEPT FileInfo** files, uint32_t fileCount,
+                               KelError** error, KEL_OUT KelError** result);
+/* Finds the directories below a directory whose names match a pattern. Position 104.
+ * directory: consumed: the library frees it with release_DirectoryInfo, also when the call
+ * fails; NULL passes no record.
+ * pattern: kept by the caller, read only during the call.
+ * On success *directories and *directoryCount receive a DirectoryInfo list, NULL and 0 when
+ * empty; free it with release_DirectoryInfo_array(directories, directoryCount). */
+KEL_C_API void kel_findDirectories(TarnApi* api, KEL_CONSUMED DirectoryInfo* directory,
+                                   KEL_KEPT const wchar_t* pattern, uint8_t flag, KelError** error,
+                                   KEL_OUT DirectoryInfo*** directories,
+                                   KEL_OUT uint32_t* directoryCount);
+/* Finds the files in a directory whose names match a pattern. Position 105.
+ * directory, pattern: kept by the caller, read only during the call.
+ * On success *files and *fileCount receive a FileInfo list, NULL and 0 when empty; free it
+ * with release_FileInfo_array(files, fileCount). */
+KEL_C_API void kel_findFiles(TarnApi* api, KEL_KEPT const wchar_t* directory,
+                             KEL_KEPT const wchar_t* pattern, uint8_t flag, KelError** error,
+                             KEL_OUT FileInfo*** files, KEL_OUT uint32_t* fileCount);
+/* Fills in the files and sub-directories of a directory. Position 106.
+ * directory: consumed: the library frees it with release_DirectoryInfo, also when the call
+ * fails; NULL passes no record.
+ * On success *result receives a DirectoryInfo record, or NULL when the engine gives none; free
+ * it with release_DirectoryInfo. */
+KEL_C_API void kel_initializeDirectoryElements(TarnApi* api, KEL_CONSUMED DirectoryInfo* directory,
+                                               uint8_t flag, KelError** error,
+                                               KEL_OUT DirectoryInfo** result);
+/* Creates a file in a directory. Position 107.
+ * parent: consumed: the library frees it with release_DirectoryInfo, also when the call fails;
+ * NULL passes no record.
+ * name: kept by the caller, read only during the call.
+ * On success *file receives a FileInfo record, or NULL when the engine gives none; free it
+ * with release_FileInfo. */
+KEL_C_API void kel_createFile(TarnApi* api, KEL_CONSUMED DirectoryInfo* parent,
+                              KEL_KEPT const wchar_t* name, KelError** error,
+                              KEL_OUT FileInfo** file);
+/* Creates a directory in a directory. Position 108.
+ * parent: consumed: the library frees it with release_DirectoryInfo, also when the call fails;
+ * NULL passes no record.
+ * name: kept by the caller, read only during the call.
+ * On success *directory receives a DirectoryInfo record, or NULL when the engine gives none;
+ * free it with release_DirectoryInfo. */
+KEL_C_API void kel_createDirectory(TarnApi* api, KEL_CONSUMED DirectoryInfo* parent,
+                                   KEL_KEPT const wchar_t* name, KelError** error,
+                                   KEL_OUT DirectoryInfo** directory);
 /* Deletes a directory; the outcome comes back as an error record, NULL when the engine reports
  * none. Position 109.
  * path: kept by the caller, read only during the call.
@@ -2227,10 +2461,68 @@ KEL_C_API void kel_writeFile(TarnApi* api, KEL_KEPT const wchar_t* path,
  * with release_KelError. */
 KEL_C_API void kel_deleteDirectory(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
                                    KEL_OUT KelError** result);
+/* Reads the trace directory as a tree. Position 110.
+ * On success *directory receives a DirectoryInfo record, or NULL when the engine gives none;
+ * free it with release_DirectoryInfo. */
+KEL_C_API void kel_getTraceDirectory(TarnApi* api, uint8_t flag, KelError** error,
+                                     KEL_OUT DirectoryInfo** directory);
+/* Copies files as config says; one result per file. Position 136.
+ * config: consumed: the library frees it with release_FileCopyConfig, also when the call
+ * fails; NULL passes no record.
+ * On success *results and *resultCount receive a FileCopyResult list, NULL and 0 when empty;
+ * free it with release_FileCopyResult_array(results, resultCount). */
+KEL_C_API void kel_copyFiles(TarnApi* api, KEL_CONSUMED FileCopyConfig* config, KelError** error,
+                             KEL_OUT FileCopyResult*** results, KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_copyFiles. Position 137.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * config: consumed: the library frees it with release_FileCopyConfig, also when the call
+ * fails; NULL passes no record.
+ * callback receives FileCopyResult lists, once or several times until isFinal, on a thread of
+ * the engine; each list and error belong to it, to free with release_FileCopyResult_array and
+ * release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_copyFilesAsync(TarnApi* api, KEL_CONSUMED FileCopyConfig* config,
+                                      KelError** error, CopyFilesCallbackFunction callback,
+                                      void* context);
+/* Copies directories as config says; one result per directory. Position 138.
+ * config: consumed: the library frees it with release_DirectoryCopyConfig, also when the call
+ * fails; NULL passes no record.
+ * On success *results and *resultCount receive a DirectoryCopyResult list, NULL and 0 when
+ * empty; free it with release_DirectoryCopyResult_array(results, resultCount). */
+KEL_C_API void kel_copyDirectories(TarnApi* api, KEL_CONSUMED DirectoryCopyConfig* config,
+                                   KelError** error, KEL_OUT DirectoryCopyResult*** results,
+                                   KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_copyDirectories. Position 139.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * config: consumed: the library frees it with release_DirectoryCopyConfig, also when the call
+ * fails; NULL passes no record.
+ * callback receives DirectoryCopyResult lists, once or several times until isFinal, on a
+ * thread of the engine; each list and error belong to it, to free with
+ * release_DirectoryCopyResult_array and release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_copyDirectoriesAsync(TarnApi* api, KEL_CONSUMED DirectoryCopyConfig* config,
+                                            KelError** error,
+                                            CopyDirectoriesCallbackFunction callback,
+                                            void* context);
 /* Renames a file. Position 152.
  * path, newName: kept by the caller, read only during the call. */
 KEL_C_API void kel_renameFile(TarnApi* api, KEL_KEPT const wchar_t* path,
                               KEL_KEPT const wchar_t* newName, KelError** error);
+/* Reads the configuration directory as a tree. Position 158.
+ * On success *directory receives a DirectoryInfo record, or NULL when the engine gives none;
+ * free it with release_DirectoryInfo. */
+KEL_C_API void kel_getConfigDirectory(TarnApi* api, uint8_t flag, KelError** error,
+                                      KEL_OUT DirectoryInfo** directory);
+/* Copies the files of a project that pass the given file filters, as config says; returns the
+ * files copied. Position 169.
+ * config: consumed: the library frees it with release_FileCopyConfig, also when the call
+ * fails; NULL passes no record.
+ * filters, text: kept by the caller, read only during the call.
+ * On success *files and *fileCount receive a FileInfo list, NULL and 0 when empty; free it
+ * with release_FileInfo_array(files, fileCount). */
+KEL_C_API void kel_copyProjectWithFilters(TarnApi* api, KEL_KEPT FileFilter** filters,
+                                          uint32_t filterCount, uint8_t flag,
+                                          KEL_CONSUMED FileCopyConfig* config,
+                                          KEL_KEPT const wchar_t* text, KelError** error,
+                                          KEL_OUT FileInfo*** files, KEL_OUT uint32_t* fileCount);
 /* Lists the files that pass the given file filters. Position 173.
  * filters, text: kept by the caller, read only during the call.
  * On success *files and *fileCount receive a string list, NULL and 0 when empty; free it with
@@ -2238,6 +2530,12 @@ KEL_C_API void kel_renameFile(TarnApi* api, KEL_KEPT const wchar_t* path,
 KEL_C_API void kel_filterFiles(TarnApi* api, KEL_KEPT FileFilter** filters, uint32_t filterCount,
                                KEL_KEPT const wchar_t* text, KelError** error,
                                KEL_OUT wchar_t*** files, KEL_OUT uint32_t* fileCount);
+/* Lists the engine's public directories. Position 176.
+ * On success *directories and *directoryCount receive a DirectoryInfo list, NULL and 0 when
+ * empty; free it with release_DirectoryInfo_array(directories, directoryCount). */
+KEL_C_API void kel_getPublicDirectories(TarnApi* api, KelError** error,
+                                        KEL_OUT DirectoryInfo*** directories,
+                                        KEL_OUT uint32_t* directoryCount);
 /* Moves a file; tells whether it moved. Position 184.
  * source, target: kept by the caller, read only during the call.
  * On success *moved receives the result. */
@@ -2260,16 +2558,52 @@ KEL_C_API void kel_pathExists(TarnApi* api, KEL_KEPT const wchar_t* path, KelErr
  * On success *resolved receives a new string; free it with release_Memory. */
 KEL_C_API void kel_resolvePath(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
                                KEL_OUT wchar_t** resolved);
+/* Lists the references of the given files; one result per file. Position 194.
+ * files: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a FileReferenceResult list, NULL and 0 when
+ * empty; free it with release_FileReferenceResult_array(results, resultCount). */
+KEL_C_API void kel_getFileReferences(TarnApi* api, KEL_KEPT wchar_t** files, uint32_t fileCount,
+                                     KelError** error, KEL_OUT FileReferenceResult*** results,
+                                     KEL_OUT uint32_t* resultCount);
 /* Tells whether a path is a directory. Position 200.
  * path: kept by the caller, read only during the call.
  * On success *result receives the result. */
 KEL_C_API void kel_isDirectory(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
                                KEL_OUT uint8_t* result);
+/* Reads a directory as a tree. Position 201.
+ * path: kept by the caller, read only during the call.
+ * On success *directory receives a DirectoryInfo record, or NULL when the engine gives none;
+ * free it with release_DirectoryInfo. */
+KEL_C_API void kel_getDirectoryInfo(TarnApi* api, KEL_KEPT const wchar_t* path, uint8_t flag,
+                                    KelError** error, KEL_OUT DirectoryInfo** directory);
+/* Reads the information about one file. Position 202.
+ * path: kept by the caller, read only during the call.
+ * On success *file receives a FileInfo record, or NULL when the engine gives none; free it
+ * with release_FileInfo. */
+KEL_C_API void kel_getFileInfo(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
+                               KEL_OUT FileInfo** file);
 /* Tells whether a path is a file. Position 203.
  * path: kept by the caller, read only during the call.
  * On success *result receives the result. */
 KEL_C_API void kel_isFile(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
                           KEL_OUT uint8_t* result);
+/* Copies a path as config says. Position 207.
+ * config: consumed: the library frees it with release_PathCopyConfig, also when the call
+ * fails; NULL passes no record.
+ * On success *results and *resultCount receive a PathCopyResult list, NULL and 0 when empty;
+ * free it with release_PathCopyResult_array(results, resultCount). */
+KEL_C_API void kel_copyPath(TarnApi* api, KEL_CONSUMED PathCopyConfig* config, KelError** error,
+                            KEL_OUT PathCopyResult*** results, KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_copyPath. Position 208.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * config: consumed: the library frees it with release_PathCopyConfig, also when the call
+ * fails; NULL passes no record.
+ * callback receives PathCopyResult lists, once or several times until isFinal, on a thread of
+ * the engine; each list and error belong to it, to free with release_PathCopyResult_array and
+ * release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_copyPathAsync(TarnApi* api, KEL_CONSUMED PathCopyConfig* config,
+                                     KelError** error, CopyPathCallbackFunction callback,
+                                     void* context);
 /* Adds a public directory under a name. Position 230.
  * name, path: kept by the caller, read only during the call. */
 KEL_C_API void kel_addPublicDirectory(TarnApi* api, KEL_KEPT const wchar_t* name,

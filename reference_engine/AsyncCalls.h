@@ -60,6 +60,19 @@ public:
         return enqueue(operation, std::move(call));
     }
 
+    // Starts a call done in steps: `plan()` (on a worker, at the first report) returns
+    // the steps, each a function giving one result; every report runs its slice of the
+    // steps and hands out their results. A cancel ends the call before its next slice,
+    // so each step is done whole or not at all (a copy leaves no half-copied entry).
+    template <class Callback, class Plan>
+    uint64_t startSteps(const char* operation, Callback* callback, Plan plan) {
+        using Steps = decltype(plan());
+        auto call = std::make_shared<Stepped<Callback, Steps>>();
+        call->callback = callback;
+        call->plan = std::move(plan);
+        return enqueue(operation, std::move(call));
+    }
+
     // Cancels the calls with these ids (unknown ids are ignored): `now` ends them at
     // once, otherwise at their next report.
     void cancel(const std::vector<uint64_t>& ids, bool now);
@@ -99,6 +112,25 @@ private:
                      std::shared_ptr<KelError> error) override {
             Results slice(values.begin() + static_cast<std::ptrdiff_t>(from),
                           values.begin() + static_cast<std::ptrdiff_t>(to));
+            callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
+        }
+    };
+
+    template <class Callback, class Steps>
+    struct Stepped : Call {
+        Callback* callback = nullptr;
+        std::function<Steps()> plan;
+        Steps steps;
+        std::size_t prepare() override {
+            steps = plan();
+            return steps.size();
+        }
+        void deliver(std::size_t from, std::size_t to, bool isFinal,
+                     std::shared_ptr<KelError> error) override {
+            std::vector<decltype(steps.front()())> slice;
+            for (std::size_t i = from; i < to; ++i) {
+                slice.push_back(steps[i]());
+            }
             callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
         }
     };

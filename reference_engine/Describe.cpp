@@ -109,4 +109,17 @@ void describe(std::string& out, const std::shared_ptr<ServerHandler>& handler) {
     out += text;
 }
 
+void describe(std::string& out, const std::vector<uint8_t>& bytes) {
+    if (bytes.size() > maxDescribedBytes) {
+        out += "{\"size\":" + std::to_string(bytes.size()) + "}";
+        return;
+    }
+    out += '[';
+    for (std::size_t i = 0; i < bytes.size(); ++i) {
+        out += i == 0 ? "" : ",";
+        out += std::to_string(bytes[i]);
+    }
+    out += ']';
+}
+
 } // namespace Varno::Kel_cpp::Reference

@@ -22,6 +22,11 @@ void describe(std::string& out, const std::wstring& text);
 void describe(std::string& out, bool value);
 void describe(std::string& out, const std::shared_ptr<ServerHandler>& handler);
 
+// A byte buffer of more than this is recorded by its size alone, {"size":n}: a call that
+// carries a large file must not cost the engine several times the file in text.
+inline constexpr std::size_t maxDescribedBytes = 1 << 20;
+void describe(std::string& out, const std::vector<uint8_t>& bytes);
+
 template <class T>
 void describe(std::string& out, const std::vector<T>& values);
 template <class T, std::size_t N>

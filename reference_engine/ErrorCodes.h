@@ -70,7 +70,26 @@ enum ErrorCode : int32_t {
 
     // Monitoring: 1500-1599.
 
-    // Files: 1600-1699.
+    // Files: 1600-1699. 1600-1608 are the sandbox's refusals: nothing was read, made or
+    // changed.
+    InvalidPath = 1600,            // empty, or a name no file system of the engine holds
+    PathTooLong = 1601,            // over 1024 characters, or a name over 255
+    ControlCharacterInPath = 1602, // NUL or another control character
+    UncPath = 1603,                // \\server\share, //server, \\?\ ...
+    AbsolutePath = 1604,           // begins with a slash
+    DriveLetterPath = 1605,        // C:, C:\ ...
+    ParentSegment = 1606,          // a .. segment
+    UnknownPublicDirectory = 1607, // the first segment names no public directory
+    OutsideSandbox = 1608,         // a link leads outside its public directory, or nowhere
+    PathNotFound = 1609,
+    PathExists = 1610,          // the target exists and the call may not replace it
+    WrongKind = 1611,           // a directory where a file is wanted, or the reverse
+    FileIoFailed = 1612,        // the operating system refused a read or write
+    PublicDirectoryRoot = 1613, // a public directory itself cannot be deleted, moved or renamed
+    BadFileArgument = 1614,     // a mode, offset or record the engine cannot use
+    FileTooLarge = 1615,        // more than 4 GiB - 1 bytes in one read
+    SomeEntriesFailed = 1616,   // a delete or copy outcome: the details name each entry
+    TargetInsideSource = 1617, // a directory copied or moved into itself
 
     // Flash: 1700-1799.
 

@@ -98,6 +98,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.lifecycle = std::make_shared<Lifecycle>(vehicle, object);
     families.events = std::make_shared<Events>(vehicle, object);
     families.diagnostics = std::make_shared<Diagnostics>(vehicle);
+    families.files = std::make_shared<Files>(vehicle);
     families.projects = std::make_shared<Projects>(vehicle, object);
     families.interfaces = std::make_shared<Interfaces>(vehicle);
     families.services = std::make_shared<Services>(vehicle);

@@ -15,6 +15,7 @@
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
 #include "families/interfaces/Interfaces.h"
+#include "families/files/Files.h"
 #include "families/lifecycle/Lifecycle.h"
 #include "families/projects/Projects.h"
 #include "families/services/Services.h"
@@ -58,6 +59,7 @@ public:
     LifecycleState lifecycle;
     EventsState events;
     DiagnosticsState diagnostics;
+    FilesState files;
     ProjectsState projects;
     // Shared with the asynchronous scans and detections, which may outlive the vehicle.
     const std::shared_ptr<InterfacesState> interfaces = std::make_shared<InterfacesState>();

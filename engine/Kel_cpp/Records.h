@@ -943,9 +943,15 @@ public:
     std::shared_ptr<DirectoryCopyItem> directory;
 };
 
-class DirectoryCopyItem { // fields come with its family
+class DirectoryCopyItem {
 public:
     virtual ~DirectoryCopyItem() = default;
+    std::wstring source;
+    std::wstring target;
+    uint32_t files = 0;
+    uint32_t directories = 0;
+    uint64_t bytes = 0;
+    std::vector<std::shared_ptr<FileCopyResult>> failures;
 };
 
 class PathCopyResult {
@@ -957,9 +963,12 @@ public:
     std::shared_ptr<PathCopyItem> item;
 };
 
-class PathCopyItem { // fields come with its family
+class PathCopyItem {
 public:
     virtual ~PathCopyItem() = default;
+    std::wstring source;
+    std::wstring target;
+    uint64_t size = 0;
 };
 
 class FileReferenceResult {
@@ -969,19 +978,30 @@ public:
     std::shared_ptr<KelError> error;
 };
 
-class FileCopyConfig { // fields come with its family
+class FileCopyConfig {
 public:
     virtual ~FileCopyConfig() = default;
+    std::vector<std::wstring> files;
+    std::wstring target;
+    bool overwrite = false;
 };
 
-class DirectoryCopyConfig { // fields come with its family
+class DirectoryCopyConfig {
 public:
     virtual ~DirectoryCopyConfig() = default;
+    std::vector<std::wstring> directories;
+    std::wstring target;
+    bool overwrite = false;
+    bool recursive = false;
+    std::wstring pattern;
 };
 
-class PathCopyConfig { // fields come with its family
+class PathCopyConfig {
 public:
     virtual ~PathCopyConfig() = default;
+    std::wstring source;
+    std::wstring target;
+    bool overwrite = false;
 };
 
 class UserInfo {

@@ -755,7 +755,12 @@ struct Of<DirectoryCopyResult> {
 
 template <>
 struct Of<DirectoryCopyItem> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("source", &DirectoryCopyItem::source), member("target", &DirectoryCopyItem::target),
+        member("files", &DirectoryCopyItem::files),
+        member("directories", &DirectoryCopyItem::directories),
+        member("bytes", &DirectoryCopyItem::bytes),
+        member("failures", &DirectoryCopyItem::failures));
 };
 
 template <>
@@ -767,7 +772,9 @@ struct Of<PathCopyResult> {
 
 template <>
 struct Of<PathCopyItem> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(member("source", &PathCopyItem::source),
+                                                 member("target", &PathCopyItem::target),
+                                                 member("size", &PathCopyItem::size));
 };
 
 template <>
@@ -779,17 +786,26 @@ struct Of<FileReferenceResult> {
 
 template <>
 struct Of<FileCopyConfig> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(member("files", &FileCopyConfig::files),
+                                                 member("target", &FileCopyConfig::target),
+                                                 member("overwrite", &FileCopyConfig::overwrite));
 };
 
 template <>
 struct Of<DirectoryCopyConfig> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("directories", &DirectoryCopyConfig::directories),
+                        member("target", &DirectoryCopyConfig::target),
+                        member("overwrite", &DirectoryCopyConfig::overwrite),
+                        member("recursive", &DirectoryCopyConfig::recursive),
+                        member("pattern", &DirectoryCopyConfig::pattern));
 };
 
 template <>
 struct Of<PathCopyConfig> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(member("source", &PathCopyConfig::source),
+                                                 member("target", &PathCopyConfig::target),
+                                                 member("overwrite", &PathCopyConfig::overwrite));
 };
 
 template <>

@@ -236,6 +236,48 @@ void release_SupportedInterface(SupportedInterface* ptr) { kel::release(ptr); }
 void release_SupportedInterface_array(SupportedInterface** ptr, uint64_t count) {
     kel::releaseArray(ptr, count);
 }
+void release_FileInfo(FileInfo* ptr) { kel::release(ptr); }
+void release_FileInfo_array(FileInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_DirectoryInfo(DirectoryInfo* ptr) { kel::release(ptr); }
+void release_DirectoryInfo_array(DirectoryInfo** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_FileCopyResult(FileCopyResult* ptr) { kel::release(ptr); }
+void release_FileCopyResult_array(FileCopyResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_DirectoryCopyResult(DirectoryCopyResult* ptr) { kel::release(ptr); }
+void release_DirectoryCopyResult_array(DirectoryCopyResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_DirectoryCopyItem(DirectoryCopyItem* ptr) { kel::release(ptr); }
+void release_DirectoryCopyItem_array(DirectoryCopyItem** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_PathCopyResult(PathCopyResult* ptr) { kel::release(ptr); }
+void release_PathCopyResult_array(PathCopyResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_PathCopyItem(PathCopyItem* ptr) { kel::release(ptr); }
+void release_PathCopyItem_array(PathCopyItem** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_FileReferenceResult(FileReferenceResult* ptr) { kel::release(ptr); }
+void release_FileReferenceResult_array(FileReferenceResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_FileCopyConfig(FileCopyConfig* ptr) { kel::release(ptr); }
+void release_FileCopyConfig_array(FileCopyConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_DirectoryCopyConfig(DirectoryCopyConfig* ptr) { kel::release(ptr); }
+void release_DirectoryCopyConfig_array(DirectoryCopyConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_PathCopyConfig(PathCopyConfig* ptr) { kel::release(ptr); }
+void release_PathCopyConfig_array(PathCopyConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
 void release_UserInfo(UserInfo* ptr) { kel::release(ptr); }
 void release_UserInfo_array(UserInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
 
@@ -721,6 +763,17 @@ void kel_cancelAsyncCalls(TarnApi* api, const uint64_t* callIds, uint32_t callId
                           KelError** error) {
     kel::invoke(error, [&] { api->cancelAsyncCalls(kel::in::values(callIds, callIdCount)); });
 }
+void kel_getProjectDirectory(TarnApi* api, uint8_t flag, KelError** error,
+                             DirectoryInfo** directory) {
+    kel::invoke(
+        error, [&] { return api->getProjectDirectory(flag != 0); }, kel::out::record(directory));
+}
+void kel_getSelectedProjectDirectory(TarnApi* api, uint8_t flag, KelError** error,
+                                     DirectoryInfo** directory) {
+    kel::invoke(
+        error, [&] { return api->getSelectedProjectDirectory(flag != 0); },
+        kel::out::record(directory));
+}
 void kel_writeFile(TarnApi* api, const wchar_t* path, const uint8_t* data, uint32_t dataLength,
                    uint32_t value, uint8_t flag, KelError** error, uint32_t* result) {
     kel::invoke(
@@ -731,9 +784,57 @@ void kel_writeFile(TarnApi* api, const wchar_t* path, const uint8_t* data, uint3
         },
         kel::out::value(result));
 }
+void kel_deleteFiles(TarnApi* api, FileInfo** files, uint32_t fileCount, KelError** error,
+                     KelError** result) {
+    kel::invoke(
+        error, [&] { return api->deleteFiles(kel::in::records(files, fileCount)); },
+        kel::out::record(result));
+}
+void kel_findDirectories(TarnApi* api, DirectoryInfo* directory, const wchar_t* pattern,
+                         uint8_t flag, KelError** error, DirectoryInfo*** directories,
+                         uint32_t* directoryCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->findDirectories(kel::in::record(directory), kel::in::text(pattern),
+                                        flag != 0);
+        },
+        kel::out::records(directories, directoryCount));
+}
+void kel_findFiles(TarnApi* api, const wchar_t* directory, const wchar_t* pattern, uint8_t flag,
+                   KelError** error, FileInfo*** files, uint32_t* fileCount) {
+    kel::invoke(
+        error,
+        [&] { return api->findFiles(kel::in::text(directory), kel::in::text(pattern), flag != 0); },
+        kel::out::records(files, fileCount));
+}
+void kel_initializeDirectoryElements(TarnApi* api, DirectoryInfo* directory, uint8_t flag,
+                                     KelError** error, DirectoryInfo** result) {
+    kel::invoke(
+        error,
+        [&] { return api->initializeDirectoryElements(kel::in::record(directory), flag != 0); },
+        kel::out::record(result));
+}
+void kel_createFile(TarnApi* api, DirectoryInfo* parent, const wchar_t* name, KelError** error,
+                    FileInfo** file) {
+    kel::invoke(
+        error, [&] { return api->createFile(kel::in::record(parent), kel::in::text(name)); },
+        kel::out::record(file));
+}
+void kel_createDirectory(TarnApi* api, DirectoryInfo* parent, const wchar_t* name, KelError** error,
+                         DirectoryInfo** directory) {
+    kel::invoke(
+        error, [&] { return api->createDirectory(kel::in::record(parent), kel::in::text(name)); },
+        kel::out::record(directory));
+}
 void kel_deleteDirectory(TarnApi* api, const wchar_t* path, KelError** error, KelError** result) {
     kel::invoke(
         error, [&] { return api->deleteDirectory(kel::in::text(path)); }, kel::out::record(result));
+}
+void kel_getTraceDirectory(TarnApi* api, uint8_t flag, KelError** error,
+                           DirectoryInfo** directory) {
+    kel::invoke(
+        error, [&] { return api->getTraceDirectory(flag != 0); }, kel::out::record(directory));
 }
 void kel_lock(TarnApi* api, KelError** error, uint64_t* lockId) {
     kel::invoke(
@@ -811,6 +912,30 @@ void kel_testSocketBridge(TarnApi* api, uint64_t bridge, KelError** error, uint8
     kel::invoke(
         error, [&] { return api->testSocketBridge(bridge); }, kel::out::value(result));
 }
+void kel_copyFiles(TarnApi* api, FileCopyConfig* config, KelError** error,
+                   FileCopyResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->copyFiles(kel::in::record(config)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_copyFilesAsync(TarnApi* api, FileCopyConfig* config, KelError** error,
+                            CopyFilesCallbackFunction callback, void* context) {
+    return kel::start<CopyFilesCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->copyFilesAsync(kel::in::record(config), handler);
+    });
+}
+void kel_copyDirectories(TarnApi* api, DirectoryCopyConfig* config, KelError** error,
+                         DirectoryCopyResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->copyDirectories(kel::in::record(config)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_copyDirectoriesAsync(TarnApi* api, DirectoryCopyConfig* config, KelError** error,
+                                  CopyDirectoriesCallbackFunction callback, void* context) {
+    return kel::start<CopyDirectoriesCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->copyDirectoriesAsync(kel::in::record(config), handler);
+    });
+}
 void kel_calculateChecksum(TarnApi* api, const wchar_t* path, int32_t algorithm, KelError** error,
                            wchar_t** checksum) {
     kel::invoke(
@@ -870,6 +995,11 @@ void kel_autoUpdate(TarnApi* api, KelError** error, bool* updated) {
     kel::invoke(
         error, [&] { return api->autoUpdate(); }, kel::out::value(updated));
 }
+void kel_getConfigDirectory(TarnApi* api, uint8_t flag, KelError** error,
+                            DirectoryInfo** directory) {
+    kel::invoke(
+        error, [&] { return api->getConfigDirectory(flag != 0); }, kel::out::record(directory));
+}
 void kel_createApiTraceMonitor(TarnApi* api, KelError** error, uint64_t* handle) {
     kel::invoke(
         error, [&] { return api->createApiTraceMonitor(); }, kel::out::value(handle));
@@ -902,6 +1032,17 @@ void kel_loadDatabaseFile(TarnApi* api, wchar_t** files, uint32_t fileCount, Kel
         error, [&] { return api->loadDatabaseFile(kel::in::texts(files, fileCount)); },
         kel::out::records(results, resultCount));
 }
+void kel_copyProjectWithFilters(TarnApi* api, FileFilter** filters, uint32_t filterCount,
+                                uint8_t flag, FileCopyConfig* config, const wchar_t* text,
+                                KelError** error, FileInfo*** files, uint32_t* fileCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->copyProjectWithFilters(kel::in::records(filters, filterCount), flag != 0,
+                                               kel::in::record(config), kel::in::text(text));
+        },
+        kel::out::records(files, fileCount));
+}
 void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error,
                                uint8_t* reconnected) {
     kel::invoke(
@@ -921,6 +1062,12 @@ void kel_unloadDatabaseFile(TarnApi* api, wchar_t** files, uint32_t fileCount, K
     kel::invoke(
         error, [&] { return api->unloadDatabaseFile(kel::in::texts(files, fileCount)); },
         kel::out::records(results, resultCount));
+}
+void kel_getPublicDirectories(TarnApi* api, KelError** error, DirectoryInfo*** directories,
+                              uint32_t* directoryCount) {
+    kel::invoke(
+        error, [&] { return api->getPublicDirectories(); },
+        kel::out::records(directories, directoryCount));
 }
 void kel_executeServiceInDefaultSession(TarnApi* api, const wchar_t* target,
                                         ServiceInput** services, uint32_t serviceCount,
@@ -989,6 +1136,12 @@ void kel_getProjectsDetails(TarnApi* api, wchar_t** projectNames, uint32_t proje
         [&] { return api->getProjectsDetails(kel::in::texts(projectNames, projectNameCount)); },
         kel::out::records(details, detailCount));
 }
+void kel_getFileReferences(TarnApi* api, wchar_t** files, uint32_t fileCount, KelError** error,
+                           FileReferenceResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->getFileReferences(kel::in::texts(files, fileCount)); },
+        kel::out::records(results, resultCount));
+}
 void kel_onConnectionClosed(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->onConnectionClosed(); });
 }
@@ -1002,6 +1155,16 @@ void kel_closeTerminal(TarnApi* api, KelError** error) {
 void kel_isDirectory(TarnApi* api, const wchar_t* path, KelError** error, uint8_t* result) {
     kel::invoke(
         error, [&] { return api->isDirectory(kel::in::text(path)); }, kel::out::value(result));
+}
+void kel_getDirectoryInfo(TarnApi* api, const wchar_t* path, uint8_t flag, KelError** error,
+                          DirectoryInfo** directory) {
+    kel::invoke(
+        error, [&] { return api->getDirectoryInfo(kel::in::text(path), flag != 0); },
+        kel::out::record(directory));
+}
+void kel_getFileInfo(TarnApi* api, const wchar_t* path, KelError** error, FileInfo** file) {
+    kel::invoke(
+        error, [&] { return api->getFileInfo(kel::in::text(path)); }, kel::out::record(file));
 }
 void kel_isFile(TarnApi* api, const wchar_t* path, KelError** error, uint8_t* result) {
     kel::invoke(
@@ -1021,6 +1184,18 @@ void kel_clearDoIPEcuCollection(TarnApi* api, KelError** error, KelError*** erro
 }
 void kel_setBrokerUrl(TarnApi* api, const wchar_t* url, KelError** error) {
     kel::invoke(error, [&] { api->setBrokerUrl(kel::in::text(url)); });
+}
+void kel_copyPath(TarnApi* api, PathCopyConfig* config, KelError** error, PathCopyResult*** results,
+                  uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->copyPath(kel::in::record(config)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_copyPathAsync(TarnApi* api, PathCopyConfig* config, KelError** error,
+                           CopyPathCallbackFunction callback, void* context) {
+    return kel::start<CopyPathCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->copyPathAsync(kel::in::record(config), handler);
+    });
 }
 void kel_thirdPartyLogin(TarnApi* api, const wchar_t* text, KelError** error, uint8_t* result) {
     kel::invoke(

@@ -85,11 +85,32 @@ class DetectDynInterfacesExCallbackHandler final
     using Handler::Handler;
 };
 
+class CopyFilesCallbackHandler final
+    : public kel::Handler<CopyFilesCallbackHandler, Varno::Kel_cpp::TarnApi::CopyFilesCallback,
+                          ::FileCopyResult, Varno::Kel_cpp::FileCopyResult,
+                          CopyFilesCallbackFunction> {
+    using Handler::Handler;
+};
+
+class CopyDirectoriesCallbackHandler final
+    : public kel::Handler<CopyDirectoriesCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::CopyDirectoriesCallback, ::DirectoryCopyResult,
+                          Varno::Kel_cpp::DirectoryCopyResult, CopyDirectoriesCallbackFunction> {
+    using Handler::Handler;
+};
+
 class ExecuteServiceInDefaultSessionCallbackHandler final
     : public kel::Handler<ExecuteServiceInDefaultSessionCallbackHandler,
                           Varno::Kel_cpp::TarnApi::ExecuteServiceInDefaultSessionCallback,
                           ::ServiceResult, Varno::Kel_cpp::ServiceResult,
                           ExecuteServiceInDefaultSessionCallbackFunction> {
+    using Handler::Handler;
+};
+
+class CopyPathCallbackHandler final
+    : public kel::Handler<CopyPathCallbackHandler, Varno::Kel_cpp::TarnApi::CopyPathCallback,
+                          ::PathCopyResult, Varno::Kel_cpp::PathCopyResult,
+                          CopyPathCallbackFunction> {
     using Handler::Handler;
 };
 

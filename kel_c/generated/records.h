@@ -887,6 +887,134 @@ struct Record<::SupportedInterface> {
 };
 
 template <>
+struct Record<::FileInfo> {
+    using Engine = Varno::Kel_cpp::FileInfo;
+    static constexpr const char* name = "FileInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::FileInfo::name, &Engine::name), field(&::FileInfo::error, &Engine::error),
+        field(&::FileInfo::flag, &Engine::flag), field(&::FileInfo::value1, &Engine::value1),
+        field(&::FileInfo::text1, &Engine::text1), field(&::FileInfo::text2, &Engine::text2),
+        field(&::FileInfo::value2, &Engine::value2), field(&::FileInfo::value3, &Engine::value3));
+};
+
+template <>
+struct Record<::DirectoryInfo> {
+    using Engine = Varno::Kel_cpp::DirectoryInfo;
+    static constexpr const char* name = "DirectoryInfo";
+    static constexpr auto fields =
+        std::make_tuple(field(&::DirectoryInfo::name, &Engine::name),
+                        field(&::DirectoryInfo::error, &Engine::error),
+                        field(&::DirectoryInfo::flag, &Engine::flag),
+                        field(&::DirectoryInfo::value1, &Engine::value1),
+                        field(&::DirectoryInfo::text1, &Engine::text1),
+                        field(&::DirectoryInfo::text2, &Engine::text2),
+                        field(&::DirectoryInfo::files, &::DirectoryInfo::fileCount, &Engine::files),
+                        outOnly(field(&::DirectoryInfo::directories,
+                                      &::DirectoryInfo::directoryCount, &Engine::directories)),
+                        outOnly(field(&::DirectoryInfo::flag2, &Engine::flag2)));
+};
+
+template <>
+struct Record<::FileCopyResult> {
+    using Engine = Varno::Kel_cpp::FileCopyResult;
+    static constexpr const char* name = "FileCopyResult";
+    static constexpr auto fields =
+        std::make_tuple(field(&::FileCopyResult::value1, &Engine::value1),
+                        field(&::FileCopyResult::text, &Engine::text),
+                        field(&::FileCopyResult::error, &Engine::error),
+                        field(&::FileCopyResult::file, &Engine::file),
+                        field(&::FileCopyResult::value2, &Engine::value2));
+};
+
+template <>
+struct Record<::DirectoryCopyResult> {
+    using Engine = Varno::Kel_cpp::DirectoryCopyResult;
+    static constexpr const char* name = "DirectoryCopyResult";
+    static constexpr auto fields =
+        std::make_tuple(field(&::DirectoryCopyResult::value1, &Engine::value1),
+                        field(&::DirectoryCopyResult::text, &Engine::text),
+                        field(&::DirectoryCopyResult::error, &Engine::error),
+                        field(&::DirectoryCopyResult::directory, &Engine::directory));
+};
+
+template <>
+struct Record<::DirectoryCopyItem> {
+    using Engine = Varno::Kel_cpp::DirectoryCopyItem;
+    static constexpr const char* name = "DirectoryCopyItem";
+    static constexpr auto fields =
+        std::make_tuple(field(&::DirectoryCopyItem::source, &Engine::source),
+                        field(&::DirectoryCopyItem::target, &Engine::target),
+                        field(&::DirectoryCopyItem::files, &Engine::files),
+                        field(&::DirectoryCopyItem::directories, &Engine::directories),
+                        field(&::DirectoryCopyItem::bytes, &Engine::bytes),
+                        field(&::DirectoryCopyItem::failures, &::DirectoryCopyItem::failureCount,
+                              &Engine::failures));
+};
+
+template <>
+struct Record<::PathCopyResult> {
+    using Engine = Varno::Kel_cpp::PathCopyResult;
+    static constexpr const char* name = "PathCopyResult";
+    static constexpr auto fields =
+        std::make_tuple(field(&::PathCopyResult::value1, &Engine::value1),
+                        field(&::PathCopyResult::error, &Engine::error),
+                        field(&::PathCopyResult::value2, &Engine::value2),
+                        field(&::PathCopyResult::item, &Engine::item));
+};
+
+template <>
+struct Record<::PathCopyItem> {
+    using Engine = Varno::Kel_cpp::PathCopyItem;
+    static constexpr const char* name = "PathCopyItem";
+    static constexpr auto fields = std::make_tuple(field(&::PathCopyItem::source, &Engine::source),
+                                                   field(&::PathCopyItem::target, &Engine::target),
+                                                   field(&::PathCopyItem::size, &Engine::size));
+};
+
+template <>
+struct Record<::FileReferenceResult> {
+    using Engine = Varno::Kel_cpp::FileReferenceResult;
+    static constexpr const char* name = "FileReferenceResult";
+    static constexpr auto fields =
+        std::make_tuple(field(&::FileReferenceResult::references,
+                              &::FileReferenceResult::referenceCount, &Engine::references),
+                        field(&::FileReferenceResult::error, &Engine::error));
+};
+
+template <>
+struct Record<::FileCopyConfig> {
+    using Engine = Varno::Kel_cpp::FileCopyConfig;
+    static constexpr const char* name = "FileCopyConfig";
+    static constexpr auto fields = std::make_tuple(
+        field(&::FileCopyConfig::files, &::FileCopyConfig::fileCount, &Engine::files),
+        field(&::FileCopyConfig::target, &Engine::target),
+        field(&::FileCopyConfig::overwrite, &Engine::overwrite));
+};
+
+template <>
+struct Record<::DirectoryCopyConfig> {
+    using Engine = Varno::Kel_cpp::DirectoryCopyConfig;
+    static constexpr const char* name = "DirectoryCopyConfig";
+    static constexpr auto fields =
+        std::make_tuple(field(&::DirectoryCopyConfig::directories,
+                              &::DirectoryCopyConfig::directoryCount, &Engine::directories),
+                        field(&::DirectoryCopyConfig::target, &Engine::target),
+                        field(&::DirectoryCopyConfig::overwrite, &Engine::overwrite),
+                        field(&::DirectoryCopyConfig::recursive, &Engine::recursive),
+                        field(&::DirectoryCopyConfig::pattern, &Engine::pattern));
+};
+
+template <>
+struct Record<::PathCopyConfig> {
+    using Engine = Varno::Kel_cpp::PathCopyConfig;
+    static constexpr const char* name = "PathCopyConfig";
+    static constexpr auto fields =
+        std::make_tuple(field(&::PathCopyConfig::source, &Engine::source),
+                        field(&::PathCopyConfig::target, &Engine::target),
+                        field(&::PathCopyConfig::overwrite, &Engine::overwrite));
+};
+
+template <>
 struct Record<::UserInfo> {
     using Engine = Varno::Kel_cpp::UserInfo;
     static constexpr const char* name = "UserInfo";

@@ -318,6 +318,21 @@ const kc::Case kGetProjectDirectoryCases[] = {
     {"empty", "[128]", "[true]", "null", "null", "01", "01", "[true]", "[true]", "0100", "00", 0},
 };
 
+struct GetProjectDirectoryExport {
+    static constexpr const char* operation = "getProjectDirectory";
+    using Result = kc::RecordResult<DirectoryInfo, release_DirectoryInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_getProjectDirectory(api, kc::number<uint8_t>(in[0]), error, &out.data);
+    }
+};
+
+TEST_F(Files, getProjectDirectory_Exchange) {
+    kc::exchange<GetProjectDirectoryExport>(api, kGetProjectDirectoryCases);
+}
+TEST_F(Files, getProjectDirectory_Failure) {
+    kc::failure<GetProjectDirectoryExport>(api, kGetProjectDirectoryCases);
+}
+
 const kc::Number kNumber129{129, "getProjectDirectory", kGetProjectDirectoryCases};
 
 TEST_F(FilesByNumber, n129_getProjectDirectory_KelCall) { kc::kelCall(api, kNumber129); }
@@ -589,6 +604,21 @@ const kc::Case kGetSelectedProjectDirectoryCases[] = {
     {"empty", "[128]", "[true]", "null", "null", "01", "01", "[true]", "[true]", "0100", "00", 0},
 };
 
+struct GetSelectedProjectDirectoryExport {
+    static constexpr const char* operation = "getSelectedProjectDirectory";
+    using Result = kc::RecordResult<DirectoryInfo, release_DirectoryInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_getSelectedProjectDirectory(api, kc::number<uint8_t>(in[0]), error, &out.data);
+    }
+};
+
+TEST_F(Files, getSelectedProjectDirectory_Exchange) {
+    kc::exchange<GetSelectedProjectDirectoryExport>(api, kGetSelectedProjectDirectoryCases);
+}
+TEST_F(Files, getSelectedProjectDirectory_Failure) {
+    kc::failure<GetSelectedProjectDirectoryExport>(api, kGetSelectedProjectDirectoryCases);
+}
+
 const kc::Number kNumber130{130, "getSelectedProjectDirectory", kGetSelectedProjectDirectoryCases};
 
 TEST_F(FilesByNumber, n130_getSelectedProjectDirectory_KelCall) { kc::kelCall(api, kNumber130); }
@@ -758,6 +788,18 @@ const kc::Case kDeleteFilesCases[] = {
     {"empty", "[[]]", "[[]]", "null", "null", "00000000", "00000000", "[[]]", "[[]]", "0100", "00",
      0},
 };
+
+struct DeleteFilesExport {
+    static constexpr const char* operation = "deleteFiles";
+    using Result = kc::RecordResult<KelError, release_KelError>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kc::RecordList<FileInfo, release_FileInfo_array> a0(in[0]);
+        kel_deleteFiles(api, a0.data(), a0.count(), error, &out.data);
+    }
+};
+
+TEST_F(Files, deleteFiles_Exchange) { kc::exchange<DeleteFilesExport>(api, kDeleteFilesCases); }
+TEST_F(Files, deleteFiles_Failure) { kc::failure<DeleteFilesExport>(api, kDeleteFilesCases); }
 
 const kc::Number kNumber137{137, "deleteFiles", kDeleteFilesCases};
 
@@ -1184,6 +1226,23 @@ const kc::Case kFindDirectoriesCases[] = {
      "[null,\"\",true]", "0100000000", "00000000", 0},
 };
 
+struct FindDirectoriesExport {
+    static constexpr const char* operation = "findDirectories";
+    using Result = kc::ListResult<DirectoryInfo, release_DirectoryInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a1(in[1]);
+        kel_findDirectories(api, kc::record<DirectoryInfo>(in[0]), a1.get(),
+                            kc::number<uint8_t>(in[2]), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Files, findDirectories_Exchange) {
+    kc::exchange<FindDirectoriesExport>(api, kFindDirectoriesCases);
+}
+TEST_F(Files, findDirectories_Failure) {
+    kc::failure<FindDirectoriesExport>(api, kFindDirectoriesCases);
+}
+
 const kc::Number kNumber139{139, "findDirectories", kFindDirectoriesCases};
 
 TEST_F(FilesByNumber, n139_findDirectories_KelCall) { kc::kelCall(api, kNumber139); }
@@ -1269,6 +1328,20 @@ const kc::Case kFindFilesCases[] = {
     {"empty", "[\"\",\"\",128]", "[\"\",\"\",true]", "[]", "null", "000000000000000001", "000001",
      "[\"\",\"\",true]", "[\"\",\"\",true]", "0100000000", "00000000", 0},
 };
+
+struct FindFilesExport {
+    static constexpr const char* operation = "findFiles";
+    using Result = kc::ListResult<FileInfo, release_FileInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        const kc::Text a1(in[1]);
+        kel_findFiles(api, a0.get(), a1.get(), kc::number<uint8_t>(in[2]), error, &out.data,
+                      &out.count);
+    }
+};
+
+TEST_F(Files, findFiles_Exchange) { kc::exchange<FindFilesExport>(api, kFindFilesCases); }
+TEST_F(Files, findFiles_Failure) { kc::failure<FindFilesExport>(api, kFindFilesCases); }
 
 const kc::Number kNumber140{140, "findFiles", kFindFilesCases};
 
@@ -1685,6 +1758,22 @@ const kc::Case kInitializeDirectoryElementsCases[] = {
      "[null,true]", "0100", "00", 0},
 };
 
+struct InitializeDirectoryElementsExport {
+    static constexpr const char* operation = "initializeDirectoryElements";
+    using Result = kc::RecordResult<DirectoryInfo, release_DirectoryInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_initializeDirectoryElements(api, kc::record<DirectoryInfo>(in[0]),
+                                        kc::number<uint8_t>(in[1]), error, &out.data);
+    }
+};
+
+TEST_F(Files, initializeDirectoryElements_Exchange) {
+    kc::exchange<InitializeDirectoryElementsExport>(api, kInitializeDirectoryElementsCases);
+}
+TEST_F(Files, initializeDirectoryElements_Failure) {
+    kc::failure<InitializeDirectoryElementsExport>(api, kInitializeDirectoryElementsCases);
+}
+
 const kc::Number kNumber141{141, "initializeDirectoryElements", kInitializeDirectoryElementsCases};
 
 TEST_F(FilesByNumber, n141_initializeDirectoryElements_KelCall) { kc::kelCall(api, kNumber141); }
@@ -1897,6 +1986,18 @@ const kc::Case kCreateFileCases[] = {
      ",\"files\":[],\"directories\":[],\"flag2\":false},\"\"]",
      "[null,\"\"]", "0100", "00", 0},
 };
+
+struct CreateFileExport {
+    static constexpr const char* operation = "createFile";
+    using Result = kc::RecordResult<FileInfo, release_FileInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a1(in[1]);
+        kel_createFile(api, kc::record<DirectoryInfo>(in[0]), a1.get(), error, &out.data);
+    }
+};
+
+TEST_F(Files, createFile_Exchange) { kc::exchange<CreateFileExport>(api, kCreateFileCases); }
+TEST_F(Files, createFile_Failure) { kc::failure<CreateFileExport>(api, kCreateFileCases); }
 
 const kc::Number kNumber132{132, "createFile", kCreateFileCases};
 
@@ -2313,6 +2414,22 @@ const kc::Case kCreateDirectoryCases[] = {
      "[null,\"\"]", "0100", "00", 0},
 };
 
+struct CreateDirectoryExport {
+    static constexpr const char* operation = "createDirectory";
+    using Result = kc::RecordResult<DirectoryInfo, release_DirectoryInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a1(in[1]);
+        kel_createDirectory(api, kc::record<DirectoryInfo>(in[0]), a1.get(), error, &out.data);
+    }
+};
+
+TEST_F(Files, createDirectory_Exchange) {
+    kc::exchange<CreateDirectoryExport>(api, kCreateDirectoryCases);
+}
+TEST_F(Files, createDirectory_Failure) {
+    kc::failure<CreateDirectoryExport>(api, kCreateDirectoryCases);
+}
+
 const kc::Number kNumber133{133, "createDirectory", kCreateDirectoryCases};
 
 TEST_F(FilesByNumber, n133_createDirectory_KelCall) { kc::kelCall(api, kNumber133); }
@@ -2660,6 +2777,21 @@ const kc::Case kGetTraceDirectoryCases[] = {
     {"empty", "[128]", "[true]", "null", "null", "01", "01", "[true]", "[true]", "0100", "00", 0},
 };
 
+struct GetTraceDirectoryExport {
+    static constexpr const char* operation = "getTraceDirectory";
+    using Result = kc::RecordResult<DirectoryInfo, release_DirectoryInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_getTraceDirectory(api, kc::number<uint8_t>(in[0]), error, &out.data);
+    }
+};
+
+TEST_F(Files, getTraceDirectory_Exchange) {
+    kc::exchange<GetTraceDirectoryExport>(api, kGetTraceDirectoryCases);
+}
+TEST_F(Files, getTraceDirectory_Failure) {
+    kc::failure<GetTraceDirectoryExport>(api, kGetTraceDirectoryCases);
+}
+
 const kc::Number kNumber136{136, "getTraceDirectory", kGetTraceDirectoryCases};
 
 TEST_F(FilesByNumber, n136_getTraceDirectory_KelCall) { kc::kelCall(api, kNumber136); }
@@ -2667,11 +2799,323 @@ TEST_F(FilesByNumber, n136_getTraceDirectory_PyCall) { kc::pyCall(api, kNumber13
 TEST_F(FilesByNumber, n136_getTraceDirectory_Failure) { kc::numberFailure(api, kNumber136); }
 TEST_F(FilesByNumber, n136_getTraceDirectory_ShortInput) { kc::shortInput(api, kNumber136); }
 
-TEST_F(FilesByNumber, n165_copyFiles_NotAvailable) { kc::notAvailable(api, 165, "copyFiles"); }
+// ---- copyFiles (position 136, number 165) ----
 
-TEST_F(FilesByNumber, n166_copyDirectories_NotAvailable) {
-    kc::notAvailable(api, 166, "copyDirectories");
+const kc::Case kCopyFilesCases[] = {
+    {"full",
+     "[{\"files\":[\"Pr\303\274fstand \342\202\254 136.1\",\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 136.2\"],\"target\":\"K\303\274hler\\u0009\360\237\224\247 136.3\""
+     ",\"overwrite\":128}]",
+     "[{\"files\":[\"Pr\303\274fstand \342\202\254 136.1\",\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 136.2\"],\"target\":\"K\303\274hler\\u0009\360\237\224\247 136.3\""
+     ",\"overwrite\":true}]",
+     "[{\"value1\":-2147483648,\"text\":\"say \\\"\303\251\\\" 136.4\",\"error\":{\"code\":214"
+     "7483647,\"message\":\"back\\\\slash \303\237 136.5\",\"details\":\"Z\303\274ndung \360"
+     "\237\232\227 136.6\",\"subCode\":-1,\"mvciError\":{\"code\":-65536,\"codeText\":\"Pr\303"
+     "\274fstand \342\202\254 136.7\",\"vendorCode\":2033316865,\"vendorCodeText\":\"\346\227"
+     "\245\346\234\254\350\252\236 \360\235\204\236 136.8\",\"extraText\":\"K\303\274hler\\u00"
+     "09\360\237\224\247 136.9\",\"extraCode\":-392785331},\"negativeResponse\":{\"code\":8997"
+     "37445,\"text\":\"say \\\"\303\251\\\" 136.10\",\"value1\":9223372036854775809,\"value2\""
+     ":18446744073709551615,\"bytes\":[0,255,255,128]}},\"file\":{\"name\":\"back\\\\slash "
+     "\303\237 136.11\",\"error\":{\"code\":-1406689559,\"message\":\"Z\303\274ndung \360\237"
+     "\232\227 136.12\",\"details\":\"Pr\303\274fstand \342\202\254 136.13\",\"subCode\":19136"
+     "41673,\"mvciError\":{\"code\":-273110141,\"codeText\":\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 136.14\",\"vendorCode\":780062255,\"vendorCodeText\":\"K\303\274hl"
+     "er\\u0009\360\237\224\247 136.15\",\"extraText\":\"say \\\"\303\251\\\" 136.16\",\"extra"
+     "Code\":-1287014369},\"negativeResponse\":{\"code\":1793966483,\"text\":\"back\\\\slash "
+     "\303\237 136.17\",\"value1\":4294967296,\"value2\":1526364751,\"bytes\":[0,255,127,1]}},"
+     "\"flag\":false,\"value1\":4294967295,\"text1\":\"Z\303\274ndung \360\237\232\227 136.18"
+     "\",\"text2\":\"Pr\303\274fstand \342\202\254 136.19\",\"value2\":2033316865,\"value3\":3"
+     "92785331},\"value2\":-153434949},{\"value1\":660387063,\"text\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 136.20\",\"error\":null,\"file\":null,\"value2\":-1167"
+     "339177}]",
+     "[{\"value1\":-2147483648,\"text\":\"say \\\"\303\251\\\" 136.4\",\"error\":{\"code\":214"
+     "7483647,\"message\":\"back\\\\slash \303\237 136.5\",\"details\":\"Z\303\274ndung \360"
+     "\237\232\227 136.6\",\"subCode\":-1,\"mvciError\":{\"code\":-65536,\"codeText\":\"Pr\303"
+     "\274fstand \342\202\254 136.7\",\"vendorCode\":2033316865,\"vendorCodeText\":\"\346\227"
+     "\245\346\234\254\350\252\236 \360\235\204\236 136.8\",\"extraText\":\"K\303\274hler\\u00"
+     "09\360\237\224\247 136.9\",\"extraCode\":-392785331},\"negativeResponse\":{\"code\":8997"
+     "37445,\"text\":\"say \\\"\303\251\\\" 136.10\",\"value1\":9223372036854775809,\"value2\""
+     ":18446744073709551615,\"bytes\":[0,255,255,128],\"byteCount\":4}},\"file\":{\"name\":\"b"
+     "ack\\\\slash \303\237 136.11\",\"error\":{\"code\":-1406689559,\"message\":\"Z\303\274nd"
+     "ung \360\237\232\227 136.12\",\"details\":\"Pr\303\274fstand \342\202\254 136.13\",\"sub"
+     "Code\":1913641673,\"mvciError\":{\"code\":-273110141,\"codeText\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 136.14\",\"vendorCode\":780062255,\"vendorCodeText\":"
+     "\"K\303\274hler\\u0009\360\237\224\247 136.15\",\"extraText\":\"say \\\"\303\251\\\" 136"
+     ".16\",\"extraCode\":-1287014369},\"negativeResponse\":{\"code\":1793966483,\"text\":\"ba"
+     "ck\\\\slash \303\237 136.17\",\"value1\":4294967296,\"value2\":1526364751,\"bytes\":[0,2"
+     "55,127,1],\"byteCount\":4}},\"flag\":0,\"value1\":4294967295,\"text1\":\"Z\303\274ndung "
+     "\360\237\232\227 136.18\",\"text2\":\"Pr\303\274fstand \342\202\254 136.19\",\"value2\":"
+     "2033316865,\"value3\":392785331},\"value2\":-153434949},{\"value1\":660387063,\"text\":"
+     "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 136.20\",\"error\":null,\"file\""
+     ":null,\"value2\":-1167339177}]",
+     "02000000140000005072c3bc667374616e6420e282ac203133362e3114000000e697a5e69cace8aa9e20f09d"
+     "849e203133362e32120000004bc3bc686c657209f09f94a7203133362e3301",
+     "01020000005072c3bc667374616e6420e282ac203133362e3100e697a5e69cace8aa9e20f09d849e20313336"
+     "2e32004bc3bc686c657209f09f94a7203133362e330001",
+     "[{\"files\":[\"Pr\303\274fstand \342\202\254 136.1\",\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 136.2\"],\"target\":\"K\303\274hler\\u0009\360\237\224\247 136.3\""
+     ",\"overwrite\":true}]",
+     "[{\"files\":[\"Pr\303\274fstand \342\202\254 136.1\",\"\346\227\245\346\234\254\350\252"
+     "\236 \360\235\204\236 136.2\"],\"target\":\"K\303\274hler\\u0009\360\237\224\247 136.3\""
+     ",\"overwrite\":true}]",
+     "010200000001000000800e0000007361792022c3a922203133362e3401ffffff7f130000006261636b5c736c"
+     "61736820c39f203133362e35130000005ac3bc6e64756e6720f09f9a97203133362e36ffffffff010000ffff"
+     "140000005072c3bc667374616e6420e282ac203133362e3701f4317914000000e697a5e69cace8aa9e20f09d"
+     "849e203133362e38120000004bc3bc686c657209f09f94a7203133362e394d9296e80165e7a0350f00000073"
+     "61792022c3a922203133362e31300100000000000080ffffffffffffffff0400000000ffff80011400000062"
+     "61636b5c736c61736820c39f203133362e313101e99e27ac140000005ac3bc6e64756e6720f09f9a97203133"
+     "362e3132150000005072c3bc667374616e6420e282ac203133362e3133c9da0f720183abb8ef15000000e697"
+     "a5e69cace8aa9e20f09d849e203133362e31342fce7e2e130000004bc3bc686c657209f09f94a7203133362e"
+     "31350f0000007361792022c3a922203133362e31361fb849b30193c1ed6a140000006261636b5c736c617368"
+     "20c39f203133362e313700000000010000004f7afa5a000000000400000000ff7f0100ffffffff140000005a"
+     "c3bc6e64756e6720f09f9a97203133362e3138150000005072c3bc667374616e6420e282ac203133362e3139"
+     "01f4317900000000b36d691700000000bbc4daf601f7b45c2715000000e697a5e69cace8aa9e20f09d849e20"
+     "3133362e3230000057d16bba",
+     "0200000001000000800e0000007361792022c3a922203133362e3401ffffff7f130000006261636b5c736c61"
+     "736820c39f203133362e35130000005ac3bc6e64756e6720f09f9a97203133362e36ffffffff010000ffff14"
+     "0000005072c3bc667374616e6420e282ac203133362e3701f4317914000000e697a5e69cace8aa9e20f09d84"
+     "9e203133362e38120000004bc3bc686c657209f09f94a7203133362e394d9296e80165e7a0350f0000007361"
+     "792022c3a922203133362e31300100000000000080ffffffffffffffff0400000000ffff8001140000006261"
+     "636b5c736c61736820c39f203133362e313101e99e27ac140000005ac3bc6e64756e6720f09f9a9720313336"
+     "2e3132150000005072c3bc667374616e6420e282ac203133362e3133c9da0f720183abb8ef15000000e697a5"
+     "e69cace8aa9e20f09d849e203133362e31342fce7e2e130000004bc3bc686c657209f09f94a7203133362e31"
+     "350f0000007361792022c3a922203133362e31361fb849b30193c1ed6a140000006261636b5c736c61736820"
+     "c39f203133362e313700000000010000004f7afa5a000000000400000000ff7f0100ffffffff140000005ac3"
+     "bc6e64756e6720f09f9a97203133362e3138150000005072c3bc667374616e6420e282ac203133362e313901"
+     "f4317900000000b36d691700000000bbc4daf601f7b45c2715000000e697a5e69cace8aa9e20f09d849e2031"
+     "33362e3230000057d16bba",
+     0},
+    {"sparse", "[null]", "[null]",
+     "[{\"value1\":-2147483648,\"text\":\"\",\"error\":{\"code\":2147483647,\"message\":\"\","
+     "\"details\":\"\",\"subCode\":-1,\"mvciError\":null,\"negativeResponse\":null},\"file\":{"
+     "\"name\":\"\",\"error\":null,\"flag\":true,\"value1\":4294967295,\"text1\":\"\",\"text2"
+     "\":\"\",\"value2\":9223372036854775809,\"value3\":18446744073709551615},\"value2\":-6553"
+     "6},null]",
+     "[{\"value1\":-2147483648,\"text\":\"\",\"error\":{\"code\":2147483647,\"message\":\"\","
+     "\"details\":\"\",\"subCode\":-1,\"mvciError\":null,\"negativeResponse\":null},\"file\":{"
+     "\"name\":\"\",\"error\":null,\"flag\":1,\"value1\":4294967295,\"text1\":\"\",\"text2\":"
+     "\"\",\"value2\":9223372036854775809,\"value3\":18446744073709551615},\"value2\":-65536},"
+     "null]",
+     "000000000000000000", "00", "[{\"files\":[],\"target\":\"\",\"overwrite\":false}]", "[null]",
+     "010200000001000000800000000001ffffff7f0000000000000000ffffffff000001000000000001ffffffff"
+     "00000000000000000100000000000080ffffffffffffffff0000ffff00",
+     "0200000001000000800000000001ffffff7f0000000000000000ffffffff000001000000000001ffffffff00"
+     "000000000000000100000000000080ffffffffffffffff0000ffff00",
+     0},
+    {"empty", "[null]", "[null]", "[]", "null", "000000000000000000", "00",
+     "[{\"files\":[],\"target\":\"\",\"overwrite\":false}]", "[null]", "0100000000", "00000000", 0},
+};
+
+struct CopyFilesExport {
+    static constexpr const char* operation = "copyFiles";
+    using Result = kc::ListResult<FileCopyResult, release_FileCopyResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_copyFiles(api, kc::record<FileCopyConfig>(in[0]), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Files, copyFiles_Exchange) { kc::exchange<CopyFilesExport>(api, kCopyFilesCases); }
+TEST_F(Files, copyFiles_Failure) { kc::failure<CopyFilesExport>(api, kCopyFilesCases); }
+
+struct CopyFilesAsyncExport {
+    static constexpr const char* operation = "copyFilesAsync";
+    using Reports = kc::Reports<FileCopyResult, release_FileCopyResult_array>;
+    static uint64_t call(TarnApi* api, const kc::Json& in, KelError** error, Reports& reports) {
+        return kel_copyFilesAsync(api, kc::record<FileCopyConfig>(in[0]), error, &Reports::onReport,
+                                  &reports);
+    }
+};
+
+TEST_F(Files, copyFilesAsync_Exchange) {
+    kc::asyncExchange<CopyFilesAsyncExport>(api, kCopyFilesCases);
 }
+TEST_F(Files, copyFilesAsync_Failure) {
+    kc::asyncFailure<CopyFilesAsyncExport>(api, kCopyFilesCases);
+}
+
+const kc::Number kNumber165{165, "copyFiles", kCopyFilesCases};
+
+TEST_F(FilesByNumber, n165_copyFiles_KelCall) { kc::kelCall(api, kNumber165); }
+TEST_F(FilesByNumber, n165_copyFiles_PyCall) { kc::pyCall(api, kNumber165); }
+TEST_F(FilesByNumber, n165_copyFiles_Failure) { kc::numberFailure(api, kNumber165); }
+TEST_F(FilesByNumber, n165_copyFiles_ShortInput) { kc::shortInput(api, kNumber165); }
+
+// ---- copyDirectories (position 138, number 166) ----
+
+const kc::Case kCopyDirectoriesCases[] = {
+    {"full",
+     "[{\"directories\":[\"Pr\303\274fstand \342\202\254 138.1\",\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 138.2\"],\"target\":\"K\303\274hler\\u0009\360\237\224\247"
+     " 138.3\",\"overwrite\":128,\"recursive\":0,\"pattern\":\"say \\\"\303\251\\\" 138.4\"}]",
+     "[{\"directories\":[\"Pr\303\274fstand \342\202\254 138.1\",\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 138.2\"],\"target\":\"K\303\274hler\\u0009\360\237\224\247"
+     " 138.3\",\"overwrite\":true,\"recursive\":false,\"pattern\":\"say \\\"\303\251\\\" 138.4"
+     "\"}]",
+     "[{\"value1\":-2147483648,\"text\":\"back\\\\slash \303\237 138.5\",\"error\":{\"code\":2"
+     "147483647,\"message\":\"Z\303\274ndung \360\237\232\227 138.6\",\"details\":\"Pr\303\274"
+     "fstand \342\202\254 138.7\",\"subCode\":-1,\"mvciError\":{\"code\":-65536,\"codeText\":"
+     "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 138.8\",\"vendorCode\":203339787"
+     "1,\"vendorCodeText\":\"K\303\274hler\\u0009\360\237\224\247 138.9\",\"extraText\":\"say "
+     "\\\"\303\251\\\" 138.10\",\"extraCode\":-392866337},\"negativeResponse\":{\"code\":89981"
+     "8451,\"text\":\"back\\\\slash \303\237 138.11\",\"value1\":9223372036854775809,\"value2"
+     "\":18446744073709551615,\"bytes\":[0,255,255,128]}},\"directory\":{\"source\":\"Z\303"
+     "\274ndung \360\237\232\227 138.12\",\"target\":\"Pr\303\274fstand \342\202\254 138.13\","
+     "\"files\":4294967295,\"directories\":2147483648,\"bytes\":4294967296,\"failures\":[{\"va"
+     "lue1\":-1406770565,\"text\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 138."
+     "14\",\"error\":{\"code\":1913722679,\"message\":\"K\303\274hler\\u0009\360\237\224\247 1"
+     "38.15\",\"details\":\"say \\\"\303\251\\\" 138.16\",\"subCode\":-273191147,\"mvciError\""
+     ":{\"code\":780143261,\"codeText\":\"back\\\\slash \303\237 138.17\",\"vendorCode\":-1287"
+     "095375,\"vendorCodeText\":\"Z\303\274ndung \360\237\232\227 138.18\",\"extraText\":\"Pr"
+     "\303\274fstand \342\202\254 138.19\",\"extraCode\":1794047489},\"negativeResponse\":{\"c"
+     "ode\":-153515955,\"text\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 138.20"
+     "\",\"value1\":1526445757,\"value2\":2033397871,\"bytes\":[0,255,127,1]}},\"file\":{\"nam"
+     "e\":\"K\303\274hler\\u0009\360\237\224\247 138.21\",\"error\":{\"code\":660468069,\"mess"
+     "age\":\"say \\\"\303\251\\\" 138.22\",\"details\":\"back\\\\slash \303\237 138.23\",\"su"
+     "bCode\":-1167420183,\"mvciError\":null,\"negativeResponse\":null},\"flag\":true,\"value1"
+     "\":2147483647,\"text1\":\"Z\303\274ndung \360\237\232\227 138.24\",\"text2\":\"Pr\303"
+     "\274fstand \342\202\254 138.25\",\"value2\":392866337,\"value3\":899818451},\"value2\":1"
+     "674372297},{\"value1\":-33840765,\"text\":\"\346\227\245\346\234\254\350\252\236 \360"
+     "\235\204\236 138.26\",\"error\":null,\"file\":null,\"value2\":540792879}]}},{\"value1\":"
+     "-1047744993,\"text\":\"K\303\274hler\\u0009\360\237\224\247 138.27\",\"error\":null,\"di"
+     "rectory\":null}]",
+     "[{\"value1\":-2147483648,\"text\":\"back\\\\slash \303\237 138.5\",\"error\":{\"code\":2"
+     "147483647,\"message\":\"Z\303\274ndung \360\237\232\227 138.6\",\"details\":\"Pr\303\274"
+     "fstand \342\202\254 138.7\",\"subCode\":-1,\"mvciError\":{\"code\":-65536,\"codeText\":"
+     "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 138.8\",\"vendorCode\":203339787"
+     "1,\"vendorCodeText\":\"K\303\274hler\\u0009\360\237\224\247 138.9\",\"extraText\":\"say "
+     "\\\"\303\251\\\" 138.10\",\"extraCode\":-392866337},\"negativeResponse\":{\"code\":89981"
+     "8451,\"text\":\"back\\\\slash \303\237 138.11\",\"value1\":9223372036854775809,\"value2"
+     "\":18446744073709551615,\"bytes\":[0,255,255,128],\"byteCount\":4}},\"directory\":{\"sou"
+     "rce\":\"Z\303\274ndung \360\237\232\227 138.12\",\"target\":\"Pr\303\274fstand \342\202"
+     "\254 138.13\",\"files\":4294967295,\"directories\":2147483648,\"bytes\":4294967296,\"fai"
+     "lures\":[{\"value1\":-1406770565,\"text\":\"\346\227\245\346\234\254\350\252\236 \360"
+     "\235\204\236 138.14\",\"error\":{\"code\":1913722679,\"message\":\"K\303\274hler\\u0009"
+     "\360\237\224\247 138.15\",\"details\":\"say \\\"\303\251\\\" 138.16\",\"subCode\":-27319"
+     "1147,\"mvciError\":{\"code\":780143261,\"codeText\":\"back\\\\slash \303\237 138.17\",\""
+     "vendorCode\":-1287095375,\"vendorCodeText\":\"Z\303\274ndung \360\237\232\227 138.18\","
+     "\"extraText\":\"Pr\303\274fstand \342\202\254 138.19\",\"extraCode\":1794047489},\"negat"
+     "iveResponse\":{\"code\":-153515955,\"text\":\"\346\227\245\346\234\254\350\252\236 \360"
+     "\235\204\236 138.20\",\"value1\":1526445757,\"value2\":2033397871,\"bytes\":[0,255,127,1"
+     "],\"byteCount\":4}},\"file\":{\"name\":\"K\303\274hler\\u0009\360\237\224\247 138.21\","
+     "\"error\":{\"code\":660468069,\"message\":\"say \\\"\303\251\\\" 138.22\",\"details\":\""
+     "back\\\\slash \303\237 138.23\",\"subCode\":-1167420183,\"mvciError\":null,\"negativeRes"
+     "ponse\":null},\"flag\":1,\"value1\":2147483647,\"text1\":\"Z\303\274ndung \360\237\232"
+     "\227 138.24\",\"text2\":\"Pr\303\274fstand \342\202\254 138.25\",\"value2\":392866337,\""
+     "value3\":899818451},\"value2\":1674372297},{\"value1\":-33840765,\"text\":\"\346\227\245"
+     "\346\234\254\350\252\236 \360\235\204\236 138.26\",\"error\":null,\"file\":null,\"value2"
+     "\":540792879}],\"failureCount\":2}},{\"value1\":-1047744993,\"text\":\"K\303\274hler\\u0"
+     "009\360\237\224\247 138.27\",\"error\":null,\"directory\":null}]",
+     "02000000140000005072c3bc667374616e6420e282ac203133382e3114000000e697a5e69cace8aa9e20f09d"
+     "849e203133382e32120000004bc3bc686c657209f09f94a7203133382e3301000e0000007361792022c3a922"
+     "203133382e34",
+     "01020000005072c3bc667374616e6420e282ac203133382e3100e697a5e69cace8aa9e20f09d849e20313338"
+     "2e32004bc3bc686c657209f09f94a7203133382e330001007361792022c3a922203133382e3400",
+     "[{\"directories\":[\"Pr\303\274fstand \342\202\254 138.1\",\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 138.2\"],\"target\":\"K\303\274hler\\u0009\360\237\224\247"
+     " 138.3\",\"overwrite\":true,\"recursive\":false,\"pattern\":\"say \\\"\303\251\\\" 138.4"
+     "\"}]",
+     "[{\"directories\":[\"Pr\303\274fstand \342\202\254 138.1\",\"\346\227\245\346\234\254"
+     "\350\252\236 \360\235\204\236 138.2\"],\"target\":\"K\303\274hler\\u0009\360\237\224\247"
+     " 138.3\",\"overwrite\":true,\"recursive\":false,\"pattern\":\"say \\\"\303\251\\\" 138.4"
+     "\"}]",
+     "01020000000100000080130000006261636b5c736c61736820c39f203133382e3501ffffff7f130000005ac3"
+     "bc6e64756e6720f09f9a97203133382e36140000005072c3bc667374616e6420e282ac203133382e37ffffff"
+     "ff010000ffff14000000e697a5e69cace8aa9e20f09d849e203133382e386f303379120000004bc3bc686c65"
+     "7209f09f94a7203133382e390f0000007361792022c3a922203133382e3130df5595e801d323a23514000000"
+     "6261636b5c736c61736820c39f203133382e31310100000000000080ffffffffffffffff0400000000ffff80"
+     "01140000005ac3bc6e64756e6720f09f9a97203133382e3132150000005072c3bc667374616e6420e282ac20"
+     "3133382e3133ffffffff00000080000000000100000002000000017b6226ac15000000e697a5e69cace8aa9e"
+     "20f09d849e203133382e31340137171172130000004bc3bc686c657209f09f94a7203133382e31350f000000"
+     "7361792022c3a922203133382e3136156fb7ef019d0a802e140000006261636b5c736c61736820c39f203133"
+     "382e3137b17b48b3140000005ac3bc6e64756e6720f09f9a97203133382e3138150000005072c3bc66737461"
+     "6e6420e282ac203133382e313901feee6a014d88d9f615000000e697a5e69cace8aa9e20f09d849e20313338"
+     "2e3230bdb6fb5a000000006f303379000000000400000000ff7f0101130000004bc3bc686c657209f09f94a7"
+     "203133382e32310165f15d270f0000007361792022c3a922203133382e3232140000006261636b5c736c6173"
+     "6820c39f203133382e3233e9946aba000001ffffff7f140000005ac3bc6e64756e6720f09f9a97203133382e"
+     "3234150000005072c3bc667374616e6420e282ac203133382e323521aa6a1700000000d323a23500000000c9"
+     "e4cc630183a1fbfd15000000e697a5e69cace8aa9e20f09d849e203133382e323600002fd83b20011fae8cc1"
+     "130000004bc3bc686c657209f09f94a7203133382e32370000",
+     "020000000100000080130000006261636b5c736c61736820c39f203133382e3501ffffff7f130000005ac3bc"
+     "6e64756e6720f09f9a97203133382e36140000005072c3bc667374616e6420e282ac203133382e37ffffffff"
+     "010000ffff14000000e697a5e69cace8aa9e20f09d849e203133382e386f303379120000004bc3bc686c6572"
+     "09f09f94a7203133382e390f0000007361792022c3a922203133382e3130df5595e801d323a2351400000062"
+     "61636b5c736c61736820c39f203133382e31310100000000000080ffffffffffffffff0400000000ffff8001"
+     "140000005ac3bc6e64756e6720f09f9a97203133382e3132150000005072c3bc667374616e6420e282ac2031"
+     "33382e3133ffffffff00000080000000000100000002000000017b6226ac15000000e697a5e69cace8aa9e20"
+     "f09d849e203133382e31340137171172130000004bc3bc686c657209f09f94a7203133382e31350f00000073"
+     "61792022c3a922203133382e3136156fb7ef019d0a802e140000006261636b5c736c61736820c39f20313338"
+     "2e3137b17b48b3140000005ac3bc6e64756e6720f09f9a97203133382e3138150000005072c3bc667374616e"
+     "6420e282ac203133382e313901feee6a014d88d9f615000000e697a5e69cace8aa9e20f09d849e203133382e"
+     "3230bdb6fb5a000000006f303379000000000400000000ff7f0101130000004bc3bc686c657209f09f94a720"
+     "3133382e32310165f15d270f0000007361792022c3a922203133382e3232140000006261636b5c736c617368"
+     "20c39f203133382e3233e9946aba000001ffffff7f140000005ac3bc6e64756e6720f09f9a97203133382e32"
+     "34150000005072c3bc667374616e6420e282ac203133382e323521aa6a1700000000d323a23500000000c9e4"
+     "cc630183a1fbfd15000000e697a5e69cace8aa9e20f09d849e203133382e323600002fd83b20011fae8cc113"
+     "0000004bc3bc686c657209f09f94a7203133382e32370000",
+     0},
+    {"sparse", "[null]", "[null]",
+     "[{\"value1\":-2147483648,\"text\":\"\",\"error\":{\"code\":2147483647,\"message\":\"\","
+     "\"details\":\"\",\"subCode\":-1,\"mvciError\":null,\"negativeResponse\":null},\"director"
+     "y\":{\"source\":\"\",\"target\":\"\",\"files\":4294967295,\"directories\":2147483648,\"b"
+     "ytes\":9223372036854775809,\"failures\":[]}},null]",
+     "[{\"value1\":-2147483648,\"text\":\"\",\"error\":{\"code\":2147483647,\"message\":\"\","
+     "\"details\":\"\",\"subCode\":-1,\"mvciError\":null,\"negativeResponse\":null},\"director"
+     "y\":{\"source\":\"\",\"target\":\"\",\"files\":4294967295,\"directories\":2147483648,\"b"
+     "ytes\":9223372036854775809,\"failures\":null,\"failureCount\":0}},null]",
+     "0000000000000000000000000000", "00",
+     "[{\"directories\":[],\"target\":\"\",\"overwrite\":false,\"recursive\":false,\"pattern\""
+     ":\"\"}]",
+     "[null]",
+     "010200000001000000800000000001ffffff7f0000000000000000ffffffff0000010000000000000000ffff"
+     "ffff0000008001000000000000800000000000",
+     "0200000001000000800000000001ffffff7f0000000000000000ffffffff0000010000000000000000ffffff"
+     "ff0000008001000000000000800000000000",
+     0},
+    {"empty", "[null]", "[null]", "[]", "null", "0000000000000000000000000000", "00",
+     "[{\"directories\":[],\"target\":\"\",\"overwrite\":false,\"recursive\":false,\"pattern\""
+     ":\"\"}]",
+     "[null]", "0100000000", "00000000", 0},
+};
+
+struct CopyDirectoriesExport {
+    static constexpr const char* operation = "copyDirectories";
+    using Result = kc::ListResult<DirectoryCopyResult, release_DirectoryCopyResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_copyDirectories(api, kc::record<DirectoryCopyConfig>(in[0]), error, &out.data,
+                            &out.count);
+    }
+};
+
+TEST_F(Files, copyDirectories_Exchange) {
+    kc::exchange<CopyDirectoriesExport>(api, kCopyDirectoriesCases);
+}
+TEST_F(Files, copyDirectories_Failure) {
+    kc::failure<CopyDirectoriesExport>(api, kCopyDirectoriesCases);
+}
+
+struct CopyDirectoriesAsyncExport {
+    static constexpr const char* operation = "copyDirectoriesAsync";
+    using Reports = kc::Reports<DirectoryCopyResult, release_DirectoryCopyResult_array>;
+    static uint64_t call(TarnApi* api, const kc::Json& in, KelError** error, Reports& reports) {
+        return kel_copyDirectoriesAsync(api, kc::record<DirectoryCopyConfig>(in[0]), error,
+                                        &Reports::onReport, &reports);
+    }
+};
+
+TEST_F(Files, copyDirectoriesAsync_Exchange) {
+    kc::asyncExchange<CopyDirectoriesAsyncExport>(api, kCopyDirectoriesCases);
+}
+TEST_F(Files, copyDirectoriesAsync_Failure) {
+    kc::asyncFailure<CopyDirectoriesAsyncExport>(api, kCopyDirectoriesCases);
+}
+
+const kc::Number kNumber166{166, "copyDirectories", kCopyDirectoriesCases};
+
+TEST_F(FilesByNumber, n166_copyDirectories_KelCall) { kc::kelCall(api, kNumber166); }
+TEST_F(FilesByNumber, n166_copyDirectories_PyCall) { kc::pyCall(api, kNumber166); }
+TEST_F(FilesByNumber, n166_copyDirectories_Failure) { kc::numberFailure(api, kNumber166); }
+TEST_F(FilesByNumber, n166_copyDirectories_ShortInput) { kc::shortInput(api, kNumber166); }
 
 // ---- renameFile (position 152, number 186) ----
 
@@ -2979,6 +3423,21 @@ const kc::Case kGetConfigDirectoryCases[] = {
     {"empty", "[128]", "[true]", "null", "null", "01", "01", "[true]", "[true]", "0100", "00", 0},
 };
 
+struct GetConfigDirectoryExport {
+    static constexpr const char* operation = "getConfigDirectory";
+    using Result = kc::RecordResult<DirectoryInfo, release_DirectoryInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_getConfigDirectory(api, kc::number<uint8_t>(in[0]), error, &out.data);
+    }
+};
+
+TEST_F(Files, getConfigDirectory_Exchange) {
+    kc::exchange<GetConfigDirectoryExport>(api, kGetConfigDirectoryCases);
+}
+TEST_F(Files, getConfigDirectory_Failure) {
+    kc::failure<GetConfigDirectoryExport>(api, kGetConfigDirectoryCases);
+}
+
 const kc::Number kNumber131{131, "getConfigDirectory", kGetConfigDirectoryCases};
 
 TEST_F(FilesByNumber, n131_getConfigDirectory_KelCall) { kc::kelCall(api, kNumber131); }
@@ -2986,9 +3445,130 @@ TEST_F(FilesByNumber, n131_getConfigDirectory_PyCall) { kc::pyCall(api, kNumber1
 TEST_F(FilesByNumber, n131_getConfigDirectory_Failure) { kc::numberFailure(api, kNumber131); }
 TEST_F(FilesByNumber, n131_getConfigDirectory_ShortInput) { kc::shortInput(api, kNumber131); }
 
-TEST_F(FilesByNumber, n201_copyProjectWithFilters_NotAvailable) {
-    kc::notAvailable(api, 201, "copyProjectWithFilters");
+// ---- copyProjectWithFilters (position 169, number 201) ----
+
+const kc::Case kCopyProjectWithFiltersCases[] = {
+    {"full",
+     "[[{\"pattern\":\"Pr\303\274fstand \342\202\254 169.1\",\"flag\":128,\"value\":4294967295"
+     "},{\"pattern\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 169.2\",\"flag\":"
+     "0,\"value\":2147483648}],255,{\"files\":[\"K\303\274hler\\u0009\360\237\224\247 169.3\","
+     "\"say \\\"\303\251\\\" 169.4\"],\"target\":\"back\\\\slash \303\237 169.5\",\"overwrite"
+     "\":0},\"Z\303\274ndung \360\237\232\227 169.6\"]",
+     "[[{\"pattern\":\"Pr\303\274fstand \342\202\254 169.1\",\"flag\":true,\"value\":429496729"
+     "5},{\"pattern\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 169.2\",\"flag\""
+     ":false,\"value\":2147483648}],true,{\"files\":[\"K\303\274hler\\u0009\360\237\224\247 16"
+     "9.3\",\"say \\\"\303\251\\\" 169.4\"],\"target\":\"back\\\\slash \303\237 169.5\",\"over"
+     "write\":false},\"Z\303\274ndung \360\237\232\227 169.6\"]",
+     "[{\"name\":\"Pr\303\274fstand \342\202\254 169.7\",\"error\":{\"code\":-2147483648,\"mes"
+     "sage\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 169.8\",\"details\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 169.9\",\"subCode\":2147483647,\"mvciError\":{\"code"
+     "\":-1,\"codeText\":\"say \\\"\303\251\\\" 169.10\",\"vendorCode\":-65536,\"vendorCodeTex"
+     "t\":\"back\\\\slash \303\237 169.11\",\"extraText\":\"Z\303\274ndung \360\237\232\227 16"
+     "9.12\",\"extraCode\":2034653463},\"negativeResponse\":{\"code\":-394121931,\"text\":\"Pr"
+     "\303\274fstand \342\202\254 169.13\",\"value1\":9223372036854775809,\"value2\":184467440"
+     "73709551615,\"bytes\":[0,255,255,128]}},\"flag\":true,\"value1\":2147483647,\"text1\":\""
+     "\346\227\245\346\234\254\350\252\236 \360\235\204\236 169.14\",\"text2\":\"K\303\274hler"
+     "\\u0009\360\237\224\247 169.15\",\"value2\":4294967296,\"value3\":1527701349},{\"name\":"
+     "\"say \\\"\303\251\\\" 169.16\",\"error\":null,\"flag\":false,\"value1\":1527701349,\"te"
+     "xt1\":\"back\\\\slash \303\237 169.17\",\"text2\":\"Z\303\274ndung \360\237\232\227 169."
+     "18\",\"value2\":2034653463,\"value3\":394121931}]",
+     "[{\"name\":\"Pr\303\274fstand \342\202\254 169.7\",\"error\":{\"code\":-2147483648,\"mes"
+     "sage\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 169.8\",\"details\":\"K"
+     "\303\274hler\\u0009\360\237\224\247 169.9\",\"subCode\":2147483647,\"mvciError\":{\"code"
+     "\":-1,\"codeText\":\"say \\\"\303\251\\\" 169.10\",\"vendorCode\":-65536,\"vendorCodeTex"
+     "t\":\"back\\\\slash \303\237 169.11\",\"extraText\":\"Z\303\274ndung \360\237\232\227 16"
+     "9.12\",\"extraCode\":2034653463},\"negativeResponse\":{\"code\":-394121931,\"text\":\"Pr"
+     "\303\274fstand \342\202\254 169.13\",\"value1\":9223372036854775809,\"value2\":184467440"
+     "73709551615,\"bytes\":[0,255,255,128],\"byteCount\":4}},\"flag\":1,\"value1\":2147483647"
+     ",\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 169.14\",\"text2\":\""
+     "K\303\274hler\\u0009\360\237\224\247 169.15\",\"value2\":4294967296,\"value3\":152770134"
+     "9},{\"name\":\"say \\\"\303\251\\\" 169.16\",\"error\":null,\"flag\":0,\"value1\":152770"
+     "1349,\"text1\":\"back\\\\slash \303\237 169.17\",\"text2\":\"Z\303\274ndung \360\237\232"
+     "\227 169.18\",\"value2\":2034653463,\"value3\":394121931}]",
+     "02000000140000005072c3bc667374616e6420e282ac203136392e3101ffffffff14000000e697a5e69cace8"
+     "aa9e20f09d849e203136392e3200000000800102000000120000004bc3bc686c657209f09f94a7203136392e"
+     "330e0000007361792022c3a922203136392e34130000006261636b5c736c61736820c39f203136392e350013"
+     "0000005ac3bc6e64756e6720f09f9a97203136392e36",
+     "02000000015072c3bc667374616e6420e282ac203136392e310001ffffffff01e697a5e69cace8aa9e20f09d"
+     "849e203136392e320000000000800101020000004bc3bc686c657209f09f94a7203136392e33007361792022"
+     "c3a922203136392e34006261636b5c736c61736820c39f203136392e3500005ac3bc6e64756e6720f09f9a97"
+     "203136392e3600",
+     "[[{\"pattern\":\"Pr\303\274fstand \342\202\254 169.1\",\"flag\":true,\"value\":429496729"
+     "5},{\"pattern\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 169.2\",\"flag\""
+     ":false,\"value\":2147483648}],true,{\"files\":[\"K\303\274hler\\u0009\360\237\224\247 16"
+     "9.3\",\"say \\\"\303\251\\\" 169.4\"],\"target\":\"back\\\\slash \303\237 169.5\",\"over"
+     "write\":false},\"Z\303\274ndung \360\237\232\227 169.6\"]",
+     "[[{\"pattern\":\"Pr\303\274fstand \342\202\254 169.1\",\"flag\":true,\"value\":429496729"
+     "5},{\"pattern\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 169.2\",\"flag\""
+     ":false,\"value\":2147483648}],true,{\"files\":[\"K\303\274hler\\u0009\360\237\224\247 16"
+     "9.3\",\"say \\\"\303\251\\\" 169.4\"],\"target\":\"back\\\\slash \303\237 169.5\",\"over"
+     "write\":false},\"Z\303\274ndung \360\237\232\227 169.6\"]",
+     "010200000001140000005072c3bc667374616e6420e282ac203136392e37010000008014000000e697a5e69c"
+     "ace8aa9e20f09d849e203136392e38120000004bc3bc686c657209f09f94a7203136392e39ffffff7f01ffff"
+     "ffff0f0000007361792022c3a922203136392e31300000ffff140000006261636b5c736c61736820c39f2031"
+     "36392e3131140000005ac3bc6e64756e6720f09f9a97203136392e31321759467901352d82e8150000005072"
+     "c3bc667374616e6420e282ac203136392e31330100000000000080ffffffffffffffff0400000000ffff8001"
+     "ffffff7f15000000e697a5e69cace8aa9e20f09d849e203136392e3134130000004bc3bc686c657209f09f94"
+     "a7203136392e3135000000000100000065df0e5b00000000010f0000007361792022c3a922203136392e3136"
+     "000065df0e5b140000006261636b5c736c61736820c39f203136392e3137140000005ac3bc6e64756e6720f0"
+     "9f9a97203136392e31381759467900000000cbd27d1700000000",
+     "0200000001140000005072c3bc667374616e6420e282ac203136392e37010000008014000000e697a5e69cac"
+     "e8aa9e20f09d849e203136392e38120000004bc3bc686c657209f09f94a7203136392e39ffffff7f01ffffff"
+     "ff0f0000007361792022c3a922203136392e31300000ffff140000006261636b5c736c61736820c39f203136"
+     "392e3131140000005ac3bc6e64756e6720f09f9a97203136392e31321759467901352d82e8150000005072c3"
+     "bc667374616e6420e282ac203136392e31330100000000000080ffffffffffffffff0400000000ffff8001ff"
+     "ffff7f15000000e697a5e69cace8aa9e20f09d849e203136392e3134130000004bc3bc686c657209f09f94a7"
+     "203136392e3135000000000100000065df0e5b00000000010f0000007361792022c3a922203136392e313600"
+     "0065df0e5b140000006261636b5c736c61736820c39f203136392e3137140000005ac3bc6e64756e6720f09f"
+     "9a97203136392e31381759467900000000cbd27d1700000000",
+     0},
+    {"sparse", "[[],128,null,\"\"]", "[[],true,null,\"\"]",
+     "[{\"name\":\"\",\"error\":{\"code\":-2147483648,\"message\":\"\",\"details\":\"\",\"subC"
+     "ode\":2147483647,\"mvciError\":null,\"negativeResponse\":null},\"flag\":false,\"value1\""
+     ":4294967295,\"text1\":\"\",\"text2\":\"\",\"value2\":9223372036854775809,\"value3\":1844"
+     "6744073709551615},null]",
+     "[{\"name\":\"\",\"error\":{\"code\":-2147483648,\"message\":\"\",\"details\":\"\",\"subC"
+     "ode\":2147483647,\"mvciError\":null,\"negativeResponse\":null},\"flag\":0,\"value1\":429"
+     "4967295,\"text1\":\"\",\"text2\":\"\",\"value2\":9223372036854775809,\"value3\":18446744"
+     "073709551615},null]",
+     "000000000100000000000000000000000000", "00000000010000",
+     "[[],true,{\"files\":[],\"target\":\"\",\"overwrite\":false},\"\"]", "[[],true,null,\"\"]",
+     "0102000000010000000001000000800000000000000000ffffff7f000000ffffffff00000000000000000100"
+     "000000000080ffffffffffffffff00",
+     "02000000010000000001000000800000000000000000ffffff7f000000ffffffff0000000000000000010000"
+     "0000000080ffffffffffffffff00",
+     0},
+    {"empty", "[[],128,null,\"\"]", "[[],true,null,\"\"]", "[]", "null",
+     "000000000100000000000000000000000000", "00000000010000",
+     "[[],true,{\"files\":[],\"target\":\"\",\"overwrite\":false},\"\"]", "[[],true,null,\"\"]",
+     "0100000000", "00000000", 0},
+};
+
+struct CopyProjectWithFiltersExport {
+    static constexpr const char* operation = "copyProjectWithFilters";
+    using Result = kc::ListResult<FileInfo, release_FileInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kc::RecordList<FileFilter, release_FileFilter_array> a0(in[0]);
+        const kc::Text a3(in[3]);
+        kel_copyProjectWithFilters(api, a0.data(), a0.count(), kc::number<uint8_t>(in[1]),
+                                   kc::record<FileCopyConfig>(in[2]), a3.get(), error, &out.data,
+                                   &out.count);
+    }
+};
+
+TEST_F(Files, copyProjectWithFilters_Exchange) {
+    kc::exchange<CopyProjectWithFiltersExport>(api, kCopyProjectWithFiltersCases);
 }
+TEST_F(Files, copyProjectWithFilters_Failure) {
+    kc::failure<CopyProjectWithFiltersExport>(api, kCopyProjectWithFiltersCases);
+}
+
+const kc::Number kNumber201{201, "copyProjectWithFilters", kCopyProjectWithFiltersCases};
+
+TEST_F(FilesByNumber, n201_copyProjectWithFilters_KelCall) { kc::kelCall(api, kNumber201); }
+TEST_F(FilesByNumber, n201_copyProjectWithFilters_PyCall) { kc::pyCall(api, kNumber201); }
+TEST_F(FilesByNumber, n201_copyProjectWithFilters_Failure) { kc::numberFailure(api, kNumber201); }
+TEST_F(FilesByNumber, n201_copyProjectWithFilters_ShortInput) { kc::shortInput(api, kNumber201); }
 
 // ---- filterFiles (position 173, number 204) ----
 
@@ -3327,6 +3907,22 @@ const kc::Case kGetPublicDirectoriesCases[] = {
     {"empty", "[]", "[]", "[]", "null", "", "", "[]", "[]", "0100000000", "00000000", 0},
 };
 
+struct GetPublicDirectoriesExport {
+    static constexpr const char* operation = "getPublicDirectories";
+    using Result = kc::ListResult<DirectoryInfo, release_DirectoryInfo_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getPublicDirectories(api, error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Files, getPublicDirectories_Exchange) {
+    kc::exchange<GetPublicDirectoriesExport>(api, kGetPublicDirectoriesCases);
+}
+TEST_F(Files, getPublicDirectories_Failure) {
+    kc::failure<GetPublicDirectoriesExport>(api, kGetPublicDirectoriesCases);
+}
+
 const kc::Number kNumber210{210, "getPublicDirectories", kGetPublicDirectoriesCases};
 
 TEST_F(FilesByNumber, n210_getPublicDirectories_KelCall) { kc::kelCall(api, kNumber210); }
@@ -3546,6 +4142,22 @@ const kc::Case kGetFileReferencesCases[] = {
     {"empty", "[[]]", "[[]]", "[]", "null", "00000000", "00000000", "[[]]", "[[]]", "0100000000",
      "00000000", 0},
 };
+
+struct GetFileReferencesExport {
+    static constexpr const char* operation = "getFileReferences";
+    using Result = kc::ListResult<FileReferenceResult, release_FileReferenceResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kc::Texts a0(in[0]);
+        kel_getFileReferences(api, a0.data(), a0.count(), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Files, getFileReferences_Exchange) {
+    kc::exchange<GetFileReferencesExport>(api, kGetFileReferencesCases);
+}
+TEST_F(Files, getFileReferences_Failure) {
+    kc::failure<GetFileReferencesExport>(api, kGetFileReferencesCases);
+}
 
 const kc::Number kNumber224{224, "getFileReferences", kGetFileReferencesCases};
 
@@ -3854,6 +4466,22 @@ const kc::Case kGetDirectoryInfoCases[] = {
      "[\"\",true]", "0100", "00", 0},
 };
 
+struct GetDirectoryInfoExport {
+    static constexpr const char* operation = "getDirectoryInfo";
+    using Result = kc::RecordResult<DirectoryInfo, release_DirectoryInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kel_getDirectoryInfo(api, a0.get(), kc::number<uint8_t>(in[1]), error, &out.data);
+    }
+};
+
+TEST_F(Files, getDirectoryInfo_Exchange) {
+    kc::exchange<GetDirectoryInfoExport>(api, kGetDirectoryInfoCases);
+}
+TEST_F(Files, getDirectoryInfo_Failure) {
+    kc::failure<GetDirectoryInfoExport>(api, kGetDirectoryInfoCases);
+}
+
 const kc::Number kNumber232{232, "getDirectoryInfo", kGetDirectoryInfoCases};
 
 TEST_F(FilesByNumber, n232_getDirectoryInfo_KelCall) { kc::kelCall(api, kNumber232); }
@@ -3923,6 +4551,18 @@ const kc::Case kGetFileInfoCases[] = {
      "00", 0},
 };
 
+struct GetFileInfoExport {
+    static constexpr const char* operation = "getFileInfo";
+    using Result = kc::RecordResult<FileInfo, release_FileInfo>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        const kc::Text a0(in[0]);
+        kel_getFileInfo(api, a0.get(), error, &out.data);
+    }
+};
+
+TEST_F(Files, getFileInfo_Exchange) { kc::exchange<GetFileInfoExport>(api, kGetFileInfoCases); }
+TEST_F(Files, getFileInfo_Failure) { kc::failure<GetFileInfoExport>(api, kGetFileInfoCases); }
+
 const kc::Number kNumber233{233, "getFileInfo", kGetFileInfoCases};
 
 TEST_F(FilesByNumber, n233_getFileInfo_KelCall) { kc::kelCall(api, kNumber233); }
@@ -3961,7 +4601,104 @@ TEST_F(FilesByNumber, n234_isFile_PyCall) { kc::pyCall(api, kNumber234); }
 TEST_F(FilesByNumber, n234_isFile_Failure) { kc::numberFailure(api, kNumber234); }
 TEST_F(FilesByNumber, n234_isFile_ShortInput) { kc::shortInput(api, kNumber234); }
 
-TEST_F(FilesByNumber, n238_copyPath_NotAvailable) { kc::notAvailable(api, 238, "copyPath"); }
+// ---- copyPath (position 207, number 238) ----
+
+const kc::Case kCopyPathCases[] = {
+    {"full",
+     "[{\"source\":\"Pr\303\274fstand \342\202\254 207.1\",\"target\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 207.2\",\"overwrite\":128}]",
+     "[{\"source\":\"Pr\303\274fstand \342\202\254 207.1\",\"target\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 207.2\",\"overwrite\":true}]",
+     "[{\"value1\":-2147483648,\"error\":{\"code\":2147483647,\"message\":\"K\303\274hler\\u00"
+     "09\360\237\224\247 207.3\",\"details\":\"say \\\"\303\251\\\" 207.4\",\"subCode\":-1,\"m"
+     "vciError\":{\"code\":-65536,\"codeText\":\"back\\\\slash \303\237 207.5\",\"vendorCode\""
+     ":2036192577,\"vendorCodeText\":\"Z\303\274ndung \360\237\232\227 207.6\",\"extraText\":"
+     "\"Pr\303\274fstand \342\202\254 207.7\",\"extraCode\":-395661045},\"negativeResponse\":{"
+     "\"code\":902613159,\"text\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 207."
+     "8\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,255,"
+     "128]}},\"value2\":-1409565273,\"item\":{\"source\":\"K\303\274hler\\u0009\360\237\224"
+     "\247 207.9\",\"target\":\"say \\\"\303\251\\\" 207.10\",\"size\":4294967296}},{\"value1"
+     "\":1916517387,\"error\":null,\"value2\":-275985853,\"item\":null}]",
+     "[{\"value1\":-2147483648,\"error\":{\"code\":2147483647,\"message\":\"K\303\274hler\\u00"
+     "09\360\237\224\247 207.3\",\"details\":\"say \\\"\303\251\\\" 207.4\",\"subCode\":-1,\"m"
+     "vciError\":{\"code\":-65536,\"codeText\":\"back\\\\slash \303\237 207.5\",\"vendorCode\""
+     ":2036192577,\"vendorCodeText\":\"Z\303\274ndung \360\237\232\227 207.6\",\"extraText\":"
+     "\"Pr\303\274fstand \342\202\254 207.7\",\"extraCode\":-395661045},\"negativeResponse\":{"
+     "\"code\":902613159,\"text\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 207."
+     "8\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,255,"
+     "128],\"byteCount\":4}},\"value2\":-1409565273,\"item\":{\"source\":\"K\303\274hler\\u000"
+     "9\360\237\224\247 207.9\",\"target\":\"say \\\"\303\251\\\" 207.10\",\"size\":4294967296"
+     "}},{\"value1\":1916517387,\"error\":null,\"value2\":-275985853,\"item\":null}]",
+     "140000005072c3bc667374616e6420e282ac203230372e3114000000e697a5e69cace8aa9e20f09d849e2032"
+     "30372e3201",
+     "015072c3bc667374616e6420e282ac203230372e3100e697a5e69cace8aa9e20f09d849e203230372e320001",
+     "[{\"source\":\"Pr\303\274fstand \342\202\254 207.1\",\"target\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 207.2\",\"overwrite\":true}]",
+     "[{\"source\":\"Pr\303\274fstand \342\202\254 207.1\",\"target\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 207.2\",\"overwrite\":true}]",
+     "0102000000010000008001ffffff7f120000004bc3bc686c657209f09f94a7203230372e330e000000736179"
+     "2022c3a922203230372e34ffffffff010000ffff130000006261636b5c736c61736820c39f203230372e3541"
+     "d55d79130000005ac3bc6e64756e6720f09f9a97203230372e36140000005072c3bc667374616e6420e282ac"
+     "203230372e370bb16ae801a7c8cc3514000000e697a5e69cace8aa9e20f09d849e203230372e380100000000"
+     "000080ffffffffffffffff0400000000ffff80a7bdfbab01120000004bc3bc686c657209f09f94a720323037"
+     "2e390f0000007361792022c3a922203230372e31300000000001000000010bbc3b720043ca8cef00",
+     "02000000010000008001ffffff7f120000004bc3bc686c657209f09f94a7203230372e330e00000073617920"
+     "22c3a922203230372e34ffffffff010000ffff130000006261636b5c736c61736820c39f203230372e3541d5"
+     "5d79130000005ac3bc6e64756e6720f09f9a97203230372e36140000005072c3bc667374616e6420e282ac20"
+     "3230372e370bb16ae801a7c8cc3514000000e697a5e69cace8aa9e20f09d849e203230372e38010000000000"
+     "0080ffffffffffffffff0400000000ffff80a7bdfbab01120000004bc3bc686c657209f09f94a7203230372e"
+     "390f0000007361792022c3a922203230372e31300000000001000000010bbc3b720043ca8cef00",
+     0},
+    {"sparse", "[null]", "[null]",
+     "[{\"value1\":-2147483648,\"error\":{\"code\":2147483647,\"message\":\"\",\"details\":\""
+     "\",\"subCode\":-1,\"mvciError\":null,\"negativeResponse\":null},\"value2\":-65536,\"item"
+     "\":{\"source\":\"\",\"target\":\"\",\"size\":9223372036854775809}},null]",
+     "[{\"value1\":-2147483648,\"error\":{\"code\":2147483647,\"message\":\"\",\"details\":\""
+     "\",\"subCode\":-1,\"mvciError\":null,\"negativeResponse\":null},\"value2\":-65536,\"item"
+     "\":{\"source\":\"\",\"target\":\"\",\"size\":9223372036854775809}},null]",
+     "000000000000000000", "00", "[{\"source\":\"\",\"target\":\"\",\"overwrite\":false}]",
+     "[null]",
+     "0102000000010000008001ffffff7f0000000000000000ffffffff00000000ffff0100000000000000000100"
+     "00000000008000",
+     "02000000010000008001ffffff7f0000000000000000ffffffff00000000ffff010000000000000000010000"
+     "000000008000",
+     0},
+    {"empty", "[null]", "[null]", "[]", "null", "000000000000000000", "00",
+     "[{\"source\":\"\",\"target\":\"\",\"overwrite\":false}]", "[null]", "0100000000", "00000000",
+     0},
+};
+
+struct CopyPathExport {
+    static constexpr const char* operation = "copyPath";
+    using Result = kc::ListResult<PathCopyResult, release_PathCopyResult_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_copyPath(api, kc::record<PathCopyConfig>(in[0]), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Files, copyPath_Exchange) { kc::exchange<CopyPathExport>(api, kCopyPathCases); }
+TEST_F(Files, copyPath_Failure) { kc::failure<CopyPathExport>(api, kCopyPathCases); }
+
+struct CopyPathAsyncExport {
+    static constexpr const char* operation = "copyPathAsync";
+    using Reports = kc::Reports<PathCopyResult, release_PathCopyResult_array>;
+    static uint64_t call(TarnApi* api, const kc::Json& in, KelError** error, Reports& reports) {
+        return kel_copyPathAsync(api, kc::record<PathCopyConfig>(in[0]), error, &Reports::onReport,
+                                 &reports);
+    }
+};
+
+TEST_F(Files, copyPathAsync_Exchange) {
+    kc::asyncExchange<CopyPathAsyncExport>(api, kCopyPathCases);
+}
+TEST_F(Files, copyPathAsync_Failure) { kc::asyncFailure<CopyPathAsyncExport>(api, kCopyPathCases); }
+
+const kc::Number kNumber238{238, "copyPath", kCopyPathCases};
+
+TEST_F(FilesByNumber, n238_copyPath_KelCall) { kc::kelCall(api, kNumber238); }
+TEST_F(FilesByNumber, n238_copyPath_PyCall) { kc::pyCall(api, kNumber238); }
+TEST_F(FilesByNumber, n238_copyPath_Failure) { kc::numberFailure(api, kNumber238); }
+TEST_F(FilesByNumber, n238_copyPath_ShortInput) { kc::shortInput(api, kNumber238); }
 
 // ---- addPublicDirectory (position 230, number 261) ----
 

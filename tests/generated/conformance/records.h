@@ -140,6 +140,28 @@ inline void describe(Out& o, const WLanSignalData& r);
 inline void build(const Json& j, WLanSignalData& r);
 inline void describe(Out& o, const SupportedInterface& r);
 inline void build(const Json& j, SupportedInterface& r);
+inline void describe(Out& o, const FileInfo& r);
+inline void build(const Json& j, FileInfo& r);
+inline void describe(Out& o, const DirectoryInfo& r);
+inline void build(const Json& j, DirectoryInfo& r);
+inline void describe(Out& o, const FileCopyResult& r);
+inline void build(const Json& j, FileCopyResult& r);
+inline void describe(Out& o, const DirectoryCopyResult& r);
+inline void build(const Json& j, DirectoryCopyResult& r);
+inline void describe(Out& o, const DirectoryCopyItem& r);
+inline void build(const Json& j, DirectoryCopyItem& r);
+inline void describe(Out& o, const PathCopyResult& r);
+inline void build(const Json& j, PathCopyResult& r);
+inline void describe(Out& o, const PathCopyItem& r);
+inline void build(const Json& j, PathCopyItem& r);
+inline void describe(Out& o, const FileReferenceResult& r);
+inline void build(const Json& j, FileReferenceResult& r);
+inline void describe(Out& o, const FileCopyConfig& r);
+inline void build(const Json& j, FileCopyConfig& r);
+inline void describe(Out& o, const DirectoryCopyConfig& r);
+inline void build(const Json& j, DirectoryCopyConfig& r);
+inline void describe(Out& o, const PathCopyConfig& r);
+inline void build(const Json& j, PathCopyConfig& r);
 inline void describe(Out& o, const UserInfo& r);
 inline void build(const Json& j, UserInfo& r);
 
@@ -1552,6 +1574,193 @@ inline void build(const Json& j, SupportedInterface& r) {
     set(j.at("names"), r.names, r.nameCount);
     set(j.at("value"), r.value);
     set(j.at("text3"), r.text3);
+}
+
+inline void describe(Out& o, const FileInfo& r) {
+    o.member("name", r.name);
+    o.member("error", r.error);
+    o.member("flag", r.flag);
+    o.member("value1", r.value1);
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("value2", r.value2);
+    o.member("value3", r.value3);
+    o.end();
+}
+
+inline void build(const Json& j, FileInfo& r) {
+    set(j.at("name"), r.name);
+    set(j.at("error"), r.error);
+    set(j.at("flag"), r.flag);
+    set(j.at("value1"), r.value1);
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("value2"), r.value2);
+    set(j.at("value3"), r.value3);
+}
+
+inline void describe(Out& o, const DirectoryInfo& r) {
+    o.member("name", r.name);
+    o.member("error", r.error);
+    o.member("flag", r.flag);
+    o.member("value1", r.value1);
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("files", r.files, r.fileCount);
+    o.member("fileCount", r.fileCount);
+    o.member("directories", r.directories, r.directoryCount);
+    o.member("directoryCount", r.directoryCount);
+    o.member("flag2", r.flag2);
+    o.end();
+}
+
+inline void build(const Json& j, DirectoryInfo& r) {
+    set(j.at("name"), r.name);
+    set(j.at("error"), r.error);
+    set(j.at("flag"), r.flag);
+    set(j.at("value1"), r.value1);
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("files"), r.files, r.fileCount);
+    set(j.at("directories"), r.directories, r.directoryCount);
+    set(j.at("flag2"), r.flag2);
+}
+
+inline void describe(Out& o, const FileCopyResult& r) {
+    o.member("value1", r.value1);
+    o.member("text", r.text);
+    o.member("error", r.error);
+    o.member("file", r.file);
+    o.member("value2", r.value2);
+    o.end();
+}
+
+inline void build(const Json& j, FileCopyResult& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("text"), r.text);
+    set(j.at("error"), r.error);
+    set(j.at("file"), r.file);
+    set(j.at("value2"), r.value2);
+}
+
+inline void describe(Out& o, const DirectoryCopyResult& r) {
+    o.member("value1", r.value1);
+    o.member("text", r.text);
+    o.member("error", r.error);
+    o.member("directory", r.directory);
+    o.end();
+}
+
+inline void build(const Json& j, DirectoryCopyResult& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("text"), r.text);
+    set(j.at("error"), r.error);
+    set(j.at("directory"), r.directory);
+}
+
+inline void describe(Out& o, const DirectoryCopyItem& r) {
+    o.member("source", r.source);
+    o.member("target", r.target);
+    o.member("files", r.files);
+    o.member("directories", r.directories);
+    o.member("bytes", r.bytes);
+    o.member("failures", r.failures, r.failureCount);
+    o.member("failureCount", r.failureCount);
+    o.end();
+}
+
+inline void build(const Json& j, DirectoryCopyItem& r) {
+    set(j.at("source"), r.source);
+    set(j.at("target"), r.target);
+    set(j.at("files"), r.files);
+    set(j.at("directories"), r.directories);
+    set(j.at("bytes"), r.bytes);
+    set(j.at("failures"), r.failures, r.failureCount);
+}
+
+inline void describe(Out& o, const PathCopyResult& r) {
+    o.member("value1", r.value1);
+    o.member("error", r.error);
+    o.member("value2", r.value2);
+    o.member("item", r.item);
+    o.end();
+}
+
+inline void build(const Json& j, PathCopyResult& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("error"), r.error);
+    set(j.at("value2"), r.value2);
+    set(j.at("item"), r.item);
+}
+
+inline void describe(Out& o, const PathCopyItem& r) {
+    o.member("source", r.source);
+    o.member("target", r.target);
+    o.member("size", r.size);
+    o.end();
+}
+
+inline void build(const Json& j, PathCopyItem& r) {
+    set(j.at("source"), r.source);
+    set(j.at("target"), r.target);
+    set(j.at("size"), r.size);
+}
+
+inline void describe(Out& o, const FileReferenceResult& r) {
+    o.member("references", r.references, r.referenceCount);
+    o.member("referenceCount", r.referenceCount);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, FileReferenceResult& r) {
+    set(j.at("references"), r.references, r.referenceCount);
+    set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const FileCopyConfig& r) {
+    o.member("files", r.files, r.fileCount);
+    o.member("fileCount", r.fileCount);
+    o.member("target", r.target);
+    o.member("overwrite", r.overwrite);
+    o.end();
+}
+
+inline void build(const Json& j, FileCopyConfig& r) {
+    set(j.at("files"), r.files, r.fileCount);
+    set(j.at("target"), r.target);
+    set(j.at("overwrite"), r.overwrite);
+}
+
+inline void describe(Out& o, const DirectoryCopyConfig& r) {
+    o.member("directories", r.directories, r.directoryCount);
+    o.member("directoryCount", r.directoryCount);
+    o.member("target", r.target);
+    o.member("overwrite", r.overwrite);
+    o.member("recursive", r.recursive);
+    o.member("pattern", r.pattern);
+    o.end();
+}
+
+inline void build(const Json& j, DirectoryCopyConfig& r) {
+    set(j.at("directories"), r.directories, r.directoryCount);
+    set(j.at("target"), r.target);
+    set(j.at("overwrite"), r.overwrite);
+    set(j.at("recursive"), r.recursive);
+    set(j.at("pattern"), r.pattern);
+}
+
+inline void describe(Out& o, const PathCopyConfig& r) {
+    o.member("source", r.source);
+    o.member("target", r.target);
+    o.member("overwrite", r.overwrite);
+    o.end();
+}
+
+inline void build(const Json& j, PathCopyConfig& r) {
+    set(j.at("source"), r.source);
+    set(j.at("target"), r.target);
+    set(j.at("overwrite"), r.overwrite);
 }
 
 inline void describe(Out& o, const UserInfo& r) {

@@ -1,0 +1,1220 @@
+// The file system: real files under a fresh data root per test, the sandbox against
+// every way out we know of (through the C exports and through kel_call), per-entry
+// errors of copies and deletes, a cancelled asynchronous copy, whole trees, and names
+// beyond ASCII.
+#include "support.h"
+
+#include <OTXStream.h>
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iostream>
+#include <mutex>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using kel_test::ErrorSlot;
+using kel_test::List;
+
+// The engine's error codes the tests expect (reference_engine/ErrorCodes.h).
+enum : int32_t {
+    InvalidPath = 1600,
+    PathTooLong = 1601,
+    ControlCharacter = 1602,
+    Unc = 1603,
+    Absolute = 1604,
+    DriveLetter = 1605,
+    Parent = 1606,
+    UnknownPublic = 1607,
+    Outside = 1608,
+    NotFound = 1609,
+    Exists = 1610,
+    PublicRoot = 1613,
+    SomeFailed = 1616,
+    Cancelled = 1012,
+};
+
+fs::path fromWide(const std::wstring& text) {
+#if defined(_WIN32)
+    return fs::path(text);
+#else
+    std::string utf8;
+    for (const wchar_t c : text) { // UTF-32 to UTF-8
+        const auto u = static_cast<uint32_t>(c);
+        if (u < 0x80) {
+            utf8 += static_cast<char>(u);
+        } else if (u < 0x800) {
+            utf8 += static_cast<char>(0xC0 | (u >> 6));
+            utf8 += static_cast<char>(0x80 | (u & 0x3F));
+        } else if (u < 0x10000) {
+            utf8 += static_cast<char>(0xE0 | (u >> 12));
+            utf8 += static_cast<char>(0x80 | ((u >> 6) & 0x3F));
+            utf8 += static_cast<char>(0x80 | (u & 0x3F));
+        } else {
+            utf8 += static_cast<char>(0xF0 | (u >> 18));
+            utf8 += static_cast<char>(0x80 | ((u >> 12) & 0x3F));
+            utf8 += static_cast<char>(0x80 | ((u >> 6) & 0x3F));
+            utf8 += static_cast<char>(0x80 | (u & 0x3F));
+        }
+    }
+    return fs::path(std::u8string(utf8.begin(), utf8.end()));
+#endif
+}
+
+std::string contents(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+void put(const fs::path& file, const std::string& text) {
+    fs::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+// Every entry below `folder`, relative, with the contents of the files: a snapshot
+// that shows any change.
+std::vector<std::string> snapshot(const fs::path& folder) {
+    std::vector<std::string> out;
+    for (const auto& e : fs::recursive_directory_iterator(folder)) {
+        const auto relative = e.path().lexically_relative(folder).generic_u8string();
+        out.push_back(std::string(relative.begin(), relative.end()) + "=" +
+                      (e.is_regular_file() ? contents(e.path()) : "<dir>"));
+    }
+    std::sort(out.begin(), out.end());
+    return out;
+}
+
+// Entries whose names show a copy that never finished.
+int partFiles(const fs::path& folder) {
+    int n = 0;
+    for (const auto& e : fs::recursive_directory_iterator(folder)) {
+        n += e.path().filename().string().starts_with(".kel-part-") ? 1 : 0;
+    }
+    return n;
+}
+
+DirectoryInfo* directoryRecord(const wchar_t* enginePath) {
+    auto* d = static_cast<DirectoryInfo*>(allocate_Memory(sizeof(DirectoryInfo)));
+    std::memset(d, 0, sizeof *d);
+    d->name = duplicate_WString(L"");
+    d->text1 = duplicate_WString(enginePath);
+    d->text2 = duplicate_WString(L"");
+    return d;
+}
+
+FileInfo* fileRecord(const wchar_t* enginePath) {
+    auto* f = static_cast<FileInfo*>(allocate_Memory(sizeof(FileInfo)));
+    std::memset(f, 0, sizeof *f);
+    f->name = duplicate_WString(L"");
+    f->text1 = duplicate_WString(enginePath);
+    f->text2 = duplicate_WString(L"");
+    return f;
+}
+
+wchar_t** strings(std::vector<std::wstring>& values, std::vector<wchar_t*>& pointers) {
+    pointers.clear();
+    for (auto& v : values) {
+        pointers.push_back(v.data());
+    }
+    return pointers.data();
+}
+
+// A fresh data root per test, and a folder beside it that nothing may reach: the
+// "outside" a sandbox escape would read or change.
+class FilesTest : public kel_test::EngineTest {
+protected:
+    void SetUp() override {
+        static std::atomic<int> counter{0};
+        base = fs::temp_directory_path() /
+               ("kel_files_test-" +
+                std::to_string(std::chrono::steady_clock::now().time_since_epoch().count() %
+                               100000000) +
+                "-" + std::to_string(counter++));
+        root = base / "root";
+        outside = base / "outside";
+        fs::create_directories(root);
+        put(outside / "secret.txt", "outside secret");
+        EngineTest::SetUp();
+        kelsim_setDataRoot(root.wstring().c_str());
+        releaseTarnApi(api);
+        kelsim_restart();
+        api = kel_getTarnApi();
+        ErrorSlot error;
+        kel_initialize(api, &error);
+        ASSERT_FALSE(error);
+        before = snapshot(outside);
+    }
+    void TearDown() override {
+        EXPECT_EQ(snapshot(outside), before) << "something outside the data root changed";
+        EngineTest::TearDown();
+        kelsim_restart();
+        std::error_code ignored;
+        fs::remove_all(base, ignored);
+    }
+
+    fs::path real(const std::wstring& enginePath) const { return root / fromWide(enginePath); }
+
+    // Links are made where the platform lets a test make them.
+    bool link(const fs::path& target, const fs::path& at, bool directory) const {
+        std::error_code e;
+        if (directory) {
+            fs::create_directory_symlink(target, at, e);
+        } else {
+            fs::create_symlink(target, at, e);
+        }
+        return !e;
+    }
+
+    std::vector<uint8_t> read(const wchar_t* path, uint64_t offset = 0, uint32_t length = 0) {
+        ErrorSlot error;
+        void* data = nullptr;
+        uint32_t size = 0;
+        kel_readFile(api, path, offset, length, 0, &error, &data, &size);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        std::vector<uint8_t> out(static_cast<uint8_t*>(data), static_cast<uint8_t*>(data) + size);
+        release_Memory(data);
+        return out;
+    }
+
+    uint32_t write(const wchar_t* path, const std::string& text, uint32_t mode = 0,
+                   uint8_t parents = 1) {
+        ErrorSlot error;
+        uint32_t written = 0;
+        kel_writeFile(api, path, reinterpret_cast<const uint8_t*>(text.data()),
+                      static_cast<uint32_t>(text.size()), mode, parents, &error, &written);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        return written;
+    }
+
+    fs::path base, root, outside;
+    std::vector<std::string> before;
+};
+
+// ---- the sandbox ----------------------------------------------------------------------
+
+struct Escape {
+    std::wstring path;
+    int32_t code;
+};
+
+std::vector<Escape> escapes() {
+    return {
+        {L"", InvalidPath},
+        {L"projects/a\x01z", ControlCharacter},
+        {L"projects/a\x1f", ControlCharacter},
+        {L"projects/" + std::wstring(1100, L'a'), PathTooLong},
+        {L"projects/" + std::wstring(300, L'b') + L"/x", PathTooLong},
+        {L"\\\\server\\share\\secret.txt", Unc},
+        {L"//server/share/secret.txt", Unc},
+        {L"\\\\?\\C:\\secret.txt", Unc},
+        {L"\\/server/share", Unc},
+        {L"/etc/passwd", Absolute},
+        {L"\\Windows\\win.ini", Absolute},
+        {L"C:\\Windows\\win.ini", DriveLetter},
+        {L"c:relative.txt", DriveLetter},
+        {L"Z:/tmp/x", DriveLetter},
+        {L"../outside/secret.txt", Parent},
+        {L"projects/../../outside/secret.txt", Parent},
+        {L"projects\\..\\..\\outside\\secret.txt", Parent},
+        {L"projects/./../reports", Parent},
+        {L"..", Parent},
+        {L"outside/secret.txt", UnknownPublic},
+        {L"root/projects", UnknownPublic},
+        {L"projects/file.txt:stream", InvalidPath},
+        {L"projects/CON", InvalidPath},
+        {L"projects/nul.txt", InvalidPath},
+        {L"projects/LPT1", InvalidPath},
+        {L"projects/trailing.", InvalidPath},
+        {L"projects/trailing ", InvalidPath},
+        {L"projects/a<b", InvalidPath},
+        {L"projects/a|b", InvalidPath},
+        {L"projects/a*b", InvalidPath},
+        {L"./.", InvalidPath},
+    };
+}
+
+// One way to hand a path to the engine through an export; returns the error code the
+// engine answered with (0 for none).
+using Attempt = std::function<int32_t(TarnApi*, const std::wstring&)>;
+
+int32_t codeOf(KelError* error) {
+    const int32_t code = error ? error->code : 0;
+    release_KelError(error);
+    return code;
+}
+
+std::vector<std::pair<const char*, Attempt>> attempts() {
+    return {
+        {"readFile",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             void* data = reinterpret_cast<void*>(1);
+             uint32_t size = 7;
+             kel_readFile(api, p.c_str(), 0, 0, 0, &e, &data, &size);
+             EXPECT_TRUE(e == nullptr || (data == reinterpret_cast<void*>(1) && size == 7));
+             return codeOf(e);
+         }},
+        {"writeFile",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             const uint8_t bytes[] = {1, 2, 3};
+             uint32_t out = 0;
+             kel_writeFile(api, p.c_str(), bytes, 3, 0, 1, &e, &out);
+             return codeOf(e);
+         }},
+        {"getFileInfo",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             FileInfo* out = nullptr;
+             kel_getFileInfo(api, p.c_str(), &e, &out);
+             release_FileInfo(out);
+             return codeOf(e);
+         }},
+        {"getDirectoryInfo",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             DirectoryInfo* out = nullptr;
+             kel_getDirectoryInfo(api, p.c_str(), 1, &e, &out);
+             release_DirectoryInfo(out);
+             return codeOf(e);
+         }},
+        {"findFiles",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             FileInfo** out = nullptr;
+             uint32_t count = 0;
+             kel_findFiles(api, p.c_str(), L"*", 1, &e, &out, &count);
+             release_FileInfo_array(out, count);
+             return codeOf(e);
+         }},
+        {"findDirectories",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             DirectoryInfo** out = nullptr;
+             uint32_t count = 0;
+             kel_findDirectories(api, directoryRecord(p.c_str()), L"*", 1, &e, &out, &count);
+             release_DirectoryInfo_array(out, count);
+             return codeOf(e);
+         }},
+        {"createFile in",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             FileInfo* out = nullptr;
+             kel_createFile(api, directoryRecord(p.c_str()), L"new.txt", &e, &out);
+             release_FileInfo(out);
+             return codeOf(e);
+         }},
+        {"pathExists",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             uint8_t out = 9;
+             kel_pathExists(api, p.c_str(), &e, &out);
+             return codeOf(e);
+         }},
+        {"isFile",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             uint8_t out = 9;
+             kel_isFile(api, p.c_str(), &e, &out);
+             return codeOf(e);
+         }},
+        {"isDirectory",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             uint8_t out = 9;
+             kel_isDirectory(api, p.c_str(), &e, &out);
+             return codeOf(e);
+         }},
+        {"resolvePath",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             wchar_t* out = nullptr;
+             kel_resolvePath(api, p.c_str(), &e, &out);
+             release_Memory(out);
+             return codeOf(e);
+         }},
+        {"renameFile from",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             kel_renameFile(api, p.c_str(), L"renamed.txt", &e);
+             return codeOf(e);
+         }},
+        {"moveFile to",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             uint8_t out = 9;
+             kel_moveFile(api, L"exchange/bait.txt", p.c_str(), &e, &out);
+             return codeOf(e);
+         }},
+        {"moveFile from",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             uint8_t out = 9;
+             kel_moveFile(api, p.c_str(), L"exchange/moved.txt", &e, &out);
+             return codeOf(e);
+         }},
+        {"moveDirectory to",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             uint8_t out = 9;
+             kel_moveDirectory(api, L"exchange/baitdir", p.c_str(), &e, &out);
+             return codeOf(e);
+         }},
+        {"copyPath to",
+         [](TarnApi* api, const std::wstring& p) {
+             auto* config = static_cast<PathCopyConfig*>(allocate_Memory(sizeof(PathCopyConfig)));
+             config->source = duplicate_WString(L"exchange/bait.txt");
+             config->target = duplicate_WString(p.c_str());
+             config->overwrite = 1;
+             KelError* e = nullptr;
+             PathCopyResult** out = nullptr;
+             uint32_t count = 0;
+             kel_copyPath(api, config, &e, &out, &count);
+             release_PathCopyResult_array(out, count);
+             return codeOf(e);
+         }},
+        {"copyPath from",
+         [](TarnApi* api, const std::wstring& p) {
+             auto* config = static_cast<PathCopyConfig*>(allocate_Memory(sizeof(PathCopyConfig)));
+             config->source = duplicate_WString(p.c_str());
+             config->target = duplicate_WString(L"exchange/copied");
+             config->overwrite = 1;
+             KelError* e = nullptr;
+             PathCopyResult** out = nullptr;
+             uint32_t count = 0;
+             kel_copyPath(api, config, &e, &out, &count);
+             release_PathCopyResult_array(out, count);
+             return codeOf(e);
+         }},
+        {"copyFiles to",
+         [](TarnApi* api, const std::wstring& p) {
+             auto* config = static_cast<FileCopyConfig*>(allocate_Memory(sizeof(FileCopyConfig)));
+             config->files = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*)));
+             config->files[0] = duplicate_WString(L"exchange/bait.txt");
+             config->fileCount = 1;
+             config->target = duplicate_WString(p.c_str());
+             config->overwrite = 1;
+             KelError* e = nullptr;
+             FileCopyResult** out = nullptr;
+             uint32_t count = 0;
+             kel_copyFiles(api, config, &e, &out, &count);
+             release_FileCopyResult_array(out, count);
+             return codeOf(e);
+         }},
+        {"copyFiles from (per entry)",
+         [](TarnApi* api, const std::wstring& p) {
+             auto* config = static_cast<FileCopyConfig*>(allocate_Memory(sizeof(FileCopyConfig)));
+             config->files = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*)));
+             config->files[0] = duplicate_WString(p.c_str());
+             config->fileCount = 1;
+             config->target = duplicate_WString(L"exchange");
+             config->overwrite = 1;
+             KelError* e = nullptr;
+             FileCopyResult** out = nullptr;
+             uint32_t count = 0;
+             kel_copyFiles(api, config, &e, &out, &count);
+             EXPECT_EQ(e, nullptr);
+             const int32_t code = count == 1 && out[0]->error ? out[0]->error->code : 0;
+             release_FileCopyResult_array(out, count);
+             release_KelError(e);
+             return code;
+         }},
+        {"copyDirectories from (per entry)",
+         [](TarnApi* api, const std::wstring& p) {
+             auto* config =
+                 static_cast<DirectoryCopyConfig*>(allocate_Memory(sizeof(DirectoryCopyConfig)));
+             std::memset(config, 0, sizeof *config);
+             config->directories = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*)));
+             config->directories[0] = duplicate_WString(p.c_str());
+             config->directoryCount = 1;
+             config->target = duplicate_WString(L"exchange");
+             config->pattern = duplicate_WString(L"");
+             config->recursive = 1;
+             KelError* e = nullptr;
+             DirectoryCopyResult** out = nullptr;
+             uint32_t count = 0;
+             kel_copyDirectories(api, config, &e, &out, &count);
+             EXPECT_EQ(e, nullptr);
+             const int32_t code = count == 1 && out[0]->error ? out[0]->error->code : 0;
+             release_DirectoryCopyResult_array(out, count);
+             release_KelError(e);
+             return code;
+         }},
+        {"deleteDirectory (outcome)",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             KelError* outcome = nullptr;
+             kel_deleteDirectory(api, p.c_str(), &e, &outcome);
+             EXPECT_EQ(e, nullptr);
+             release_KelError(e);
+             return codeOf(outcome);
+         }},
+        {"deleteFiles (outcome)",
+         [](TarnApi* api, const std::wstring& p) {
+             FileInfo* files[] = {fileRecord(p.c_str())};
+             KelError* e = nullptr;
+             KelError* outcome = nullptr;
+             kel_deleteFiles(api, files, 1, &e, &outcome);
+             release_FileInfo(files[0]);
+             EXPECT_EQ(e, nullptr);
+             release_KelError(e);
+             // The summary names the entry's own code in its details.
+             int32_t code = 0;
+             if (outcome != nullptr) {
+                 const std::wstring details = outcome->details;
+                 const auto colon = details.rfind(L": ");
+                 code = colon == std::wstring::npos ? 0 : std::stoi(details.substr(colon + 2, 4));
+             }
+             release_KelError(outcome);
+             return code;
+         }},
+        {"getFileReferences (per entry)",
+         [](TarnApi* api, const std::wstring& p) {
+             std::vector<std::wstring> paths{p};
+             std::vector<wchar_t*> pointers;
+             KelError* e = nullptr;
+             FileReferenceResult** out = nullptr;
+             uint32_t count = 0;
+             kel_getFileReferences(api, strings(paths, pointers), 1, &e, &out, &count);
+             const int32_t code = count == 1 && out[0]->error ? out[0]->error->code : 0;
+             release_FileReferenceResult_array(out, count);
+             release_KelError(e);
+             return code;
+         }},
+        {"filterFiles",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             wchar_t** out = nullptr;
+             uint32_t count = 0;
+             kel_filterFiles(api, nullptr, 0, p.c_str(), &e, &out, &count);
+             release_StringArray(out, count);
+             return codeOf(e);
+         }},
+        {"addPublicDirectory",
+         [](TarnApi* api, const std::wstring& p) {
+             KelError* e = nullptr;
+             kel_addPublicDirectory(api, L"escape", p.c_str(), &e);
+             return codeOf(e);
+         }},
+    };
+}
+
+using FileSandbox = FilesTest;
+
+// Every escape attempt through every export that takes a path: refused with the code
+// that names the reason, and nothing outside touched (TearDown compares the outside
+// folder with its snapshot; the data root must hold nothing but what the test made).
+TEST_F(FileSandbox, EveryEscapeAttemptThroughTheExportsIsRefused) {
+    write(L"exchange/bait.txt", "bait");
+    fs::create_directories(real(L"exchange/baitdir"));
+    std::vector<Escape> cases = escapes();
+    // Links that lead out, or nowhere, where links can be made.
+    const bool links = link(outside, real(L"projects/out"), true) &&
+                       link(outside / "secret.txt", real(L"projects/secret-link.txt"), false) &&
+                       link(outside / "missing.txt", real(L"projects/dangling.txt"), false);
+    if (links) {
+        cases.push_back({L"projects/out/secret.txt", Outside});
+        cases.push_back({L"projects/out", Outside});
+        cases.push_back({L"projects/secret-link.txt", Outside});
+        cases.push_back({L"projects/dangling.txt", Outside});
+        cases.push_back({L"projects/out/new.txt", Outside});
+    } else {
+        std::cout << "[ note ] links cannot be made here: the link cases are skipped\n";
+    }
+    const auto rootBefore = snapshot(root);
+    int tried = 0;
+    for (const auto& [name, attempt] : attempts()) {
+        for (const auto& escape : cases) {
+            if (std::string(name) == "addPublicDirectory" && escape.code == UnknownPublic) {
+                continue; // its folder is relative to the data root, not a public directory
+            }
+            EXPECT_EQ(attempt(api, escape.path), escape.code)
+                << name << " with \""
+                << std::string(escape.path.begin(),
+                               escape.path.begin() + std::min<std::size_t>(escape.path.size(), 60))
+                << "\"";
+            ++tried;
+        }
+    }
+    EXPECT_EQ(snapshot(root), rootBefore) << "a refused call changed the data root";
+    EXPECT_EQ(partFiles(root), 0);
+    std::cout << "[ note ] escape attempts through the C exports: " << tried << " (" << cases.size()
+              << " paths x " << attempts().size() << " exports)\n";
+    RecordProperty("escapeAttemptsExports", tried);
+}
+
+// The same refusals reach a caller of kel_call and py_call as the error record of the
+// result stream; the dispatchers' strings may even hold a NUL, which a C string cannot.
+TEST_F(FileSandbox, EveryEscapeAttemptThroughKelCallIsRefused) {
+    std::vector<Escape> cases = escapes();
+    cases.push_back(
+        {std::wstring(L"projects/a") + L'\0' + L"/../../outside/secret.txt", ControlCharacter});
+    cases.push_back({std::wstring(L"exchange/x") + L'\0', ControlCharacter});
+    struct Numbered {
+        int32_t number;
+        std::function<void(kel::OTXStream&, const std::wstring&)> arguments;
+    };
+    const std::vector<Numbered> operations = {
+        {77,
+         [](kel::OTXStream& s, const std::wstring& p) {
+             s.write(p).write(uint64_t{0}).write(uint32_t{0}).write(uint8_t{0});
+         }},
+        {135,
+         [](kel::OTXStream& s, const std::wstring& p) {
+             s.write(p).write(std::vector<uint8_t>{1, 2}).write(uint32_t{0}).write(uint8_t{1});
+         }},
+        {220, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // pathExists
+        {225, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // resolvePath
+        {231, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // isDirectory
+        {232, [](kel::OTXStream& s, const std::wstring& p) { s.write(p).write(uint8_t{1}); }},
+        {233, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // getFileInfo
+        {234, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // isFile
+        {140,
+         [](kel::OTXStream& s, const std::wstring& p) {
+             s.write(p).write(std::wstring(L"*")).write(uint8_t{1});
+         }},
+        {186, [](kel::OTXStream& s,
+                 const std::wstring& p) { s.write(p).write(std::wstring(L"x.txt")); }},
+        {209, [](kel::OTXStream& s,
+                 const std::wstring& p) { s.write(std::wstring(L"exchange/bait.txt")).write(p); }},
+        {261, [](kel::OTXStream& s,
+                 const std::wstring& p) { s.write(std::wstring(L"escape")).write(p); }},
+    };
+    write(L"exchange/bait.txt", "bait");
+    const auto rootBefore = snapshot(root);
+    int tried = 0;
+    for (const auto& op : operations) {
+        for (const auto& escape : cases) {
+            if (op.number == 261 && escape.code == UnknownPublic) {
+                continue; // addPublicDirectory's folder is relative to the data root
+            }
+            kel::OTXStream in(true, false, true);
+            op.arguments(in, escape.path);
+            void* stream = nullptr;
+            uint64_t size = 0;
+            kel_call_checked(0, op.number, in.buffer, in.position, &stream, &size);
+            std::vector<uint8_t> result(size);
+            kel_call_result(stream, result.data());
+            ASSERT_FALSE(result.empty());
+            EXPECT_EQ(result[0], 0) << "kel_call " << op.number << " succeeded";
+            if (result[0] == 0) {
+                kel::OTXStream out(result.data() + 1, true, true, true);
+                std::shared_ptr<Varno::Kel_cpp::KelError> error;
+                out.read(error);
+                ASSERT_TRUE(error);
+                EXPECT_EQ(error->code, escape.code) << "kel_call " << op.number;
+            }
+            ++tried;
+        }
+    }
+    // py_call: NUL-terminated strings, so no NUL inside; -1 tells of an engine error.
+    for (const auto& escape : escapes()) {
+        std::vector<uint8_t> input;
+        const std::string utf8(escape.path.begin(), escape.path.end()); // the cases are ASCII
+        input.insert(input.end(), utf8.begin(), utf8.end());
+        input.push_back(0);
+        uint32_t size = 0;
+        void* buffer = nullptr;
+        EXPECT_EQ(py_call_checked(api, 220, 0, input.data(), input.size(), &size, &buffer), -1);
+        std::vector<uint8_t> bytes(size);
+        py_result(bytes.data(), static_cast<int32_t>(size), buffer);
+        ++tried;
+    }
+    EXPECT_EQ(snapshot(root), rootBefore);
+    std::cout << "[ note ] escape attempts through kel_call and py_call: " << tried << "\n";
+    RecordProperty("escapeAttemptsDispatchers", tried);
+}
+
+// Names that are harmless stay usable: dots inside names, "." segments, doubled and
+// mixed slashes, and the public directory's name in any case.
+TEST_F(FileSandbox, HarmlessPathsAreNotRefused) {
+    write(L"exchange/a.b..c/file.tar.gz", "x");
+    for (const wchar_t* path :
+         {L"exchange/a.b..c/file.tar.gz", L"./exchange//a.b..c\\.\\file.tar.gz",
+          L"EXCHANGE/a.b..c/file.tar.gz", L"exchange\\a.b..c\\file.tar.gz"}) {
+        ErrorSlot error;
+        uint8_t isFile = 0;
+        kel_isFile(api, path, &error, &isFile);
+        EXPECT_FALSE(error);
+        EXPECT_EQ(isFile, 1);
+    }
+    // A link that stays inside its public directory is followed; one into another public
+    // directory is not (its entries would have two homes).
+    if (link(real(L"exchange/a.b..c"), real(L"exchange/inside"), true) &&
+        link(real(L"exchange/a.b..c"), real(L"projects/elsewhere"), true)) {
+        EXPECT_EQ(read(L"exchange/inside/file.tar.gz"), std::vector<uint8_t>{'x'});
+        ErrorSlot across;
+        uint8_t found = 9;
+        kel_isFile(api, L"projects/elsewhere/file.tar.gz", &across, &found);
+        ASSERT_TRUE(across);
+        EXPECT_EQ(across->code, Outside);
+    }
+    // File names follow the platform: one file for any case on Windows only.
+    ErrorSlot error;
+    uint8_t found = 9;
+    kel_isFile(api, L"exchange/A.B..C/FILE.TAR.GZ", &error, &found);
+    ASSERT_FALSE(error);
+#if defined(_WIN32)
+    EXPECT_EQ(found, 1);
+#else
+    EXPECT_EQ(found, 0);
+#endif
+}
+
+TEST_F(FileSandbox, PublicDirectoriesThemselvesCannotBeDeletedMovedOrReplaced) {
+    ErrorSlot error;
+    KelError* outcome = nullptr;
+    kel_deleteDirectory(api, L"projects", &error, &outcome);
+    EXPECT_FALSE(error);
+    ASSERT_NE(outcome, nullptr);
+    EXPECT_EQ(outcome->code, PublicRoot);
+    release_KelError(outcome);
+    uint8_t moved = 9;
+    kel_moveDirectory(api, L"traces", L"exchange/traces", &error, &moved);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, PublicRoot);
+    EXPECT_EQ(moved, 9);
+    EXPECT_TRUE(fs::is_directory(real(L"traces")));
+}
+
+// ---- reading and writing ----------------------------------------------------------------
+
+TEST_F(FilesTest, ReadAndWriteRealFilesWithOffsetsModesAndNonAsciiNames) {
+    const wchar_t* name = L"exchange/Pr\u00fcfstand \u65e5\u672c/\u00d6l \U0001F697.bin";
+    EXPECT_EQ(write(name, "0123456789"), 10U);
+    EXPECT_EQ(contents(real(name)), "0123456789");
+    EXPECT_EQ(read(name), std::vector<uint8_t>({'0', '1', '2', '3', '4', '5', '6', '7', '8', '9'}));
+    EXPECT_EQ(read(name, 3, 4), std::vector<uint8_t>({'3', '4', '5', '6'}));
+    EXPECT_EQ(read(name, 8, 100), std::vector<uint8_t>({'8', '9'}));
+    write(name, "AB", 1); // append
+    EXPECT_EQ(contents(real(name)), "0123456789AB");
+    write(name, "new", 0); // replace
+    EXPECT_EQ(contents(real(name)), "new");
+
+    ErrorSlot error;
+    uint32_t out = 0;
+    const uint8_t byte = 1;
+    kel_writeFile(api, name, &byte, 1, 2, 0, &error, &out); // create only
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, Exists);
+    EXPECT_EQ(contents(real(name)), "new");
+
+    // "exact": asking for more than is there fails instead of giving less.
+    ErrorSlot short_;
+    void* data = reinterpret_cast<void*>(1);
+    uint32_t size = 5;
+    kel_readFile(api, name, 1, 10, 1, &short_, &data, &size);
+    ASSERT_TRUE(short_);
+    EXPECT_EQ(data, reinterpret_cast<void*>(1));
+
+    // Without `flag` a missing directory is not made.
+    ErrorSlot noParent;
+    kel_writeFile(api, L"exchange/none/x.txt", &byte, 1, 0, 0, &noParent, &out);
+    ASSERT_TRUE(noParent);
+    EXPECT_EQ(noParent->code, NotFound);
+    EXPECT_FALSE(fs::exists(real(L"exchange/none")));
+
+    // The name comes back as it was written, through the file's record.
+    ErrorSlot infoError;
+    FileInfo* info = nullptr;
+    kel_getFileInfo(api, name, &infoError, &info);
+    ASSERT_FALSE(infoError);
+    EXPECT_EQ(std::wstring(info->name), L"\u00d6l \U0001F697.bin");
+    EXPECT_EQ(std::wstring(info->text1), name);
+    EXPECT_EQ(info->value2, 3U);
+    EXPECT_GT(info->value3, 1600000000000ULL);        // milliseconds since 1970
+    EXPECT_EQ(std::wstring(info->text2).size(), 20U); // 2026-11-22T07:42:00Z
+    release_FileInfo(info);
+}
+
+TEST_F(FilesTest, AnEmptyFileIsReadIntoAnAllocatedBuffer) {
+    write(L"reports/empty.txt", "");
+    ErrorSlot error;
+    void* data = nullptr;
+    uint32_t size = 99;
+    kel_readFile(api, L"reports/empty.txt", 0, 0, 0, &error, &data, &size);
+    ASSERT_FALSE(error);
+    EXPECT_NE(data, nullptr);
+    EXPECT_EQ(size, 0U);
+    release_Memory(data);
+}
+
+// ---- trees ------------------------------------------------------------------------------
+
+TEST_F(FilesTest, DirectoryTreesDescribeRealEntriesAndAreReleasedWhole) {
+    put(real(L"traces/2026/11/run1.trc"), "12345");
+    put(real(L"traces/2026/11/run2.trc"), "1");
+    put(real(L"traces/2026/readme.txt"), "r");
+    put(real(L"traces/top.trc"), "");
+    ErrorSlot error;
+    DirectoryInfo* tree = nullptr;
+    kel_getTraceDirectory(api, 1, &error, &tree);
+    ASSERT_FALSE(error);
+    ASSERT_NE(tree, nullptr);
+    EXPECT_EQ(std::wstring(tree->name), L"traces");
+    EXPECT_EQ(tree->flag2, 1);
+    ASSERT_EQ(tree->fileCount, 1U);
+    ASSERT_EQ(tree->directoryCount, 1U);
+    const DirectoryInfo* year = tree->directories[0];
+    EXPECT_EQ(std::wstring(year->text1), L"traces/2026");
+    EXPECT_EQ(year->value1 & 0x10U, 0x10U);
+    ASSERT_EQ(year->fileCount, 1U);
+    ASSERT_EQ(year->directoryCount, 1U);
+    const DirectoryInfo* month = year->directories[0];
+    ASSERT_EQ(month->fileCount, 2U);
+    EXPECT_EQ(std::wstring(month->files[0]->name), L"run1.trc");
+    EXPECT_EQ(month->files[0]->value2, 5U);
+    EXPECT_EQ(month->directoryCount, 0U);
+    release_DirectoryInfo(tree); // the whole tree; LeakSanitizer holds us to it
+
+    // One level only: the sub-directory is named, its contents unread.
+    DirectoryInfo* flat = nullptr;
+    kel_getDirectoryInfo(api, L"traces", 0, &error, &flat);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(flat->directoryCount, 1U);
+    EXPECT_EQ(flat->directories[0]->flag2, 0);
+    EXPECT_EQ(flat->directories[0]->fileCount, 0U);
+    // ... and filled in on request, from a record given back as input.
+    DirectoryInfo* filled = nullptr;
+    kel_initializeDirectoryElements(api, directoryRecord(flat->directories[0]->text1), 1, &error,
+                                    &filled);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(filled->fileCount, 1U);
+    EXPECT_EQ(filled->directoryCount, 1U);
+    EXPECT_EQ(filled->directories[0]->fileCount, 2U);
+    release_DirectoryInfo(filled);
+    release_DirectoryInfo(flat);
+
+    List<FileInfo, release_FileInfo_array> found;
+    kel_findFiles(api, L"traces", L"*.trc", 1, &error, &found.items, &found.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(found.count, 3U);
+    EXPECT_EQ(std::wstring(found.items[0]->text1), L"traces/2026/11/run1.trc");
+    EXPECT_EQ(std::wstring(found.items[2]->text1), L"traces/top.trc");
+
+    List<DirectoryInfo, release_DirectoryInfo_array> dirs;
+    kel_findDirectories(api, directoryRecord(L"traces"), L"1?", 1, &error, &dirs.items,
+                        &dirs.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(dirs.count, 1U);
+    EXPECT_EQ(std::wstring(dirs.items[0]->text1), L"traces/2026/11");
+}
+
+TEST_F(FilesTest, PublicDirectoriesAreRealFoldersAndMoreCanBeAdded) {
+    ErrorSlot error;
+    List<DirectoryInfo, release_DirectoryInfo_array> publics;
+    kel_getPublicDirectories(api, &error, &publics.items, &publics.count);
+    ASSERT_FALSE(error);
+    std::vector<std::wstring> names;
+    for (uint32_t i = 0; i < publics.count; ++i) {
+        names.emplace_back(publics.items[i]->name);
+        EXPECT_TRUE(fs::is_directory(root / fromWide(publics.items[i]->name)));
+    }
+    EXPECT_EQ(names, (std::vector<std::wstring>{L"configuration", L"exchange", L"projects",
+                                                L"reports", L"traces"}));
+
+    kel_addPublicDirectory(api, L"Archive", L"reports/2026/archive", &error);
+    ASSERT_FALSE(error);
+    write(L"archive/a.txt", "a");
+    EXPECT_EQ(contents(root / "reports/2026/archive/a.txt"), "a");
+    // The same file under both names.
+    std::vector<std::wstring> paths{L"ARCHIVE/a.txt", L"reports/missing.txt"};
+    std::vector<wchar_t*> pointers;
+    List<FileReferenceResult, release_FileReferenceResult_array> refs;
+    kel_getFileReferences(api, strings(paths, pointers), 2, &error, &refs.items, &refs.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(refs.count, 2U);
+    ASSERT_EQ(refs.items[0]->referenceCount, 2U);
+    EXPECT_EQ(std::wstring(refs.items[0]->references[0]), L"Archive/a.txt");
+    EXPECT_EQ(std::wstring(refs.items[0]->references[1]), L"reports/2026/archive/a.txt");
+    EXPECT_EQ(refs.items[0]->error, nullptr);
+    ASSERT_NE(refs.items[1]->error, nullptr);
+    EXPECT_EQ(refs.items[1]->error->code, NotFound);
+
+    // A taken name is refused; the same name for the same folder again is not.
+    kel_addPublicDirectory(api, L"archive", L"reports/2026/archive", &error);
+    EXPECT_FALSE(error);
+    kel_addPublicDirectory(api, L"archive", L"reports", &error);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, Exists);
+}
+
+// ---- per-entry outcomes -------------------------------------------------------------------
+
+TEST_F(FilesTest, DeletesReportEveryFailingEntryAndDoTheRest) {
+    write(L"exchange/a.txt", "a");
+    write(L"exchange/b.txt", "b");
+    FileInfo* files[] = {fileRecord(L"exchange/a.txt"), fileRecord(L"exchange/missing.txt"),
+                         fileRecord(L"exchange/../../outside/secret.txt"), nullptr,
+                         fileRecord(L"exchange/b.txt")};
+    ErrorSlot error;
+    KelError* outcome = nullptr;
+    kel_deleteFiles(api, files, 5, &error, &outcome);
+    for (FileInfo* f : files) {
+        release_FileInfo(f);
+    }
+    EXPECT_FALSE(error);
+    ASSERT_NE(outcome, nullptr);
+    EXPECT_EQ(outcome->code, SomeFailed);
+    EXPECT_EQ(outcome->subCode, 3);
+    EXPECT_EQ(std::wstring(outcome->message), L"3 of 5 files were not deleted");
+    const std::wstring details = outcome->details;
+    EXPECT_NE(details.find(L"exchange/missing.txt: 1609"), std::wstring::npos);
+    EXPECT_NE(details.find(L": 1606"), std::wstring::npos);
+    EXPECT_NE(details.find(L": 1614"), std::wstring::npos); // the NULL entry
+    release_KelError(outcome);
+    EXPECT_FALSE(fs::exists(real(L"exchange/a.txt")));
+    EXPECT_FALSE(fs::exists(real(L"exchange/b.txt")));
+
+    // A directory goes whole; its outcome is NULL on success, the error stays untouched.
+    write(L"exchange/tree/x/y/z.txt", "z");
+    KelError* done = reinterpret_cast<KelError*>(1);
+    kel_deleteDirectory(api, L"exchange/tree", &error, &done);
+    EXPECT_FALSE(error);
+    EXPECT_EQ(done, nullptr);
+    EXPECT_FALSE(fs::exists(real(L"exchange/tree")));
+}
+
+TEST_F(FilesTest, CopiesReportEveryFailingEntryAndCopyTheRest) {
+    write(L"projects/p/one.odx", "one");
+    write(L"projects/p/two.odx", "two");
+    write(L"exchange/out/two.odx", "old");
+    std::vector<std::wstring> sources{L"projects/p/one.odx", L"projects/p/missing.odx",
+                                      L"../outside/secret.txt", L"projects/p/two.odx",
+                                      L"projects/p"};
+    std::vector<wchar_t*> pointers;
+    auto* config = static_cast<FileCopyConfig*>(allocate_Memory(sizeof(FileCopyConfig)));
+    config->files = static_cast<wchar_t**>(allocate_Memory(sources.size() * sizeof(wchar_t*)));
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        config->files[i] = duplicate_WString(sources[i].c_str());
+    }
+    config->fileCount = static_cast<uint32_t>(sources.size());
+    config->target = duplicate_WString(L"exchange/out");
+    config->overwrite = 0;
+    ErrorSlot error;
+    List<FileCopyResult, release_FileCopyResult_array> results;
+    kel_copyFiles(api, config, &error, &results.items, &results.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(results.count, 5U);
+    const int32_t expected[] = {0, NotFound, Parent, Exists, 1611};
+    for (uint32_t i = 0; i < 5; ++i) {
+        EXPECT_EQ(results.items[i]->value2, static_cast<int32_t>(i));
+        EXPECT_EQ(results.items[i]->value1, expected[i] == 0 ? 0 : 1);
+        EXPECT_EQ(results.items[i]->error ? results.items[i]->error->code : 0, expected[i]) << i;
+        EXPECT_EQ(results.items[i]->file != nullptr, expected[i] == 0);
+    }
+    EXPECT_EQ(contents(real(L"exchange/out/one.odx")), "one");
+    EXPECT_EQ(contents(real(L"exchange/out/two.odx")), "old"); // not replaced
+    EXPECT_EQ(partFiles(root), 0);
+
+    // A directory copy lists the entries it could not copy and copies the rest.
+    write(L"projects/p/sub/three.odx", "three");
+    write(L"projects/p/sub/skip.txt", "skip");
+    link(outside, real(L"projects/p/sub/out"), true);
+    auto* dirs = static_cast<DirectoryCopyConfig*>(allocate_Memory(sizeof(DirectoryCopyConfig)));
+    dirs->directories = static_cast<wchar_t**>(allocate_Memory(2 * sizeof(wchar_t*)));
+    dirs->directories[0] = duplicate_WString(L"projects/p");
+    dirs->directories[1] = duplicate_WString(L"projects/none");
+    dirs->directoryCount = 2;
+    dirs->target = duplicate_WString(L"exchange");
+    dirs->overwrite = 0;
+    dirs->recursive = 1;
+    dirs->pattern = duplicate_WString(L"*.odx");
+    List<DirectoryCopyResult, release_DirectoryCopyResult_array> copied;
+    kel_copyDirectories(api, dirs, &error, &copied.items, &copied.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(copied.count, 2U);
+    EXPECT_EQ(copied.items[1]->value1, 2);
+    ASSERT_NE(copied.items[1]->error, nullptr);
+    EXPECT_EQ(copied.items[1]->error->code, NotFound);
+    const DirectoryCopyItem* item = copied.items[0]->directory;
+    ASSERT_NE(item, nullptr);
+    EXPECT_EQ(std::wstring(item->target), L"exchange/p");
+    EXPECT_EQ(item->files, 3U); // one, two, three
+    EXPECT_EQ(item->bytes, 11U);
+    EXPECT_EQ(contents(real(L"exchange/p/sub/three.odx")), "three");
+    EXPECT_FALSE(fs::exists(real(L"exchange/p/sub/skip.txt")));
+    if (fs::is_symlink(real(L"projects/p/sub/out"))) {
+        ASSERT_EQ(item->failureCount, 1U);
+        EXPECT_EQ(item->failures[0]->error->code, Outside);
+        EXPECT_EQ(copied.items[0]->value1, 1);
+        EXPECT_EQ(copied.items[0]->error->code, SomeFailed);
+        EXPECT_FALSE(fs::exists(real(L"exchange/p/sub/out")));
+    }
+}
+
+TEST_F(FilesTest, ARefusedCopyLeavesNoFileBehind) {
+    write(L"exchange/big.bin", std::string(1 << 20, 'x'));
+    const auto before = snapshot(root);
+    auto* config = static_cast<PathCopyConfig*>(allocate_Memory(sizeof(PathCopyConfig)));
+    config->source = duplicate_WString(L"exchange/big.bin");
+    config->target = duplicate_WString(L"exchange/new/../../../outside/big.bin");
+    config->overwrite = 1;
+    ErrorSlot error;
+    PathCopyResult** results = nullptr;
+    uint32_t count = 0;
+    kel_copyPath(api, config, &error, &results, &count);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, Parent);
+    EXPECT_EQ(results, nullptr);
+    EXPECT_EQ(snapshot(root), before);
+    EXPECT_FALSE(fs::exists(outside / "big.bin"));
+
+    // A directory into itself would never end.
+    ErrorSlot inside;
+    auto* loop = static_cast<PathCopyConfig*>(allocate_Memory(sizeof(PathCopyConfig)));
+    loop->source = duplicate_WString(L"exchange");
+    loop->target = duplicate_WString(L"exchange/again");
+    loop->overwrite = 0;
+    kel_copyPath(api, loop, &inside, &results, &count);
+    ASSERT_TRUE(inside);
+    EXPECT_EQ(inside->code, 1617);
+    EXPECT_EQ(snapshot(root), before);
+}
+
+// ---- asynchronous copies ------------------------------------------------------------------
+
+struct Reports {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<std::wstring> targets; // copied entries, in report order
+    int reports = 0;
+    int failedEntries = 0;
+    bool final = false;
+    int32_t finalCode = 0;
+    uint64_t callId = 0;
+
+    static void onPath(PathCopyResult** results, uint32_t count, bool isFinal, uint64_t callId,
+                       KelError* error, void* context) {
+        auto* self = static_cast<Reports*>(context);
+        {
+            const std::lock_guard lock(self->mutex);
+            for (uint32_t i = 0; i < count; ++i) {
+                if (results[i]->error == nullptr) {
+                    self->targets.emplace_back(results[i]->item->target);
+                } else {
+                    ++self->failedEntries;
+                }
+            }
+            ++self->reports;
+            self->callId = callId;
+            if (isFinal) {
+                self->final = true;
+                self->finalCode = error ? error->code : 0;
+            }
+        }
+        release_PathCopyResult_array(results, count);
+        release_KelError(error);
+        self->changed.notify_all();
+    }
+    bool waitFor(const std::function<bool()>& done) {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, std::chrono::seconds(20), done);
+    }
+};
+
+TEST_F(FilesTest, ACancelledAsynchronousCopyLeavesAConsistentTree) {
+    for (int d = 0; d < 4; ++d) {
+        for (int f = 0; f < 10; ++f) {
+            put(real(L"projects/big/d" + std::to_wstring(d) + L"/f" + std::to_wstring(f) + L".bin"),
+                std::string(200000 + 1000 * f, static_cast<char>('a' + d)));
+        }
+    }
+    kelsim_setAsyncInterval("copyPathAsync", 15); // one entry per report, 15 ms apart
+    auto* config = static_cast<PathCopyConfig*>(allocate_Memory(sizeof(PathCopyConfig)));
+    config->source = duplicate_WString(L"projects/big");
+    config->target = duplicate_WString(L"exchange/big");
+    config->overwrite = 0;
+    Reports reports;
+    ErrorSlot error;
+    const uint64_t id = kel_copyPathAsync(api, config, &error, Reports::onPath, &reports);
+    ASSERT_FALSE(error);
+    ASSERT_NE(id, 0U);
+    ASSERT_TRUE(reports.waitFor([&] { return reports.reports >= 8 || reports.final; }));
+    kel_cancelAsyncCalls(api, &id, 1, &error);
+    ASSERT_FALSE(error);
+    ASSERT_TRUE(reports.waitFor([&] { return reports.final; }));
+    EXPECT_EQ(reports.finalCode, Cancelled);
+    EXPECT_EQ(reports.callId, id);
+    EXPECT_EQ(reports.failedEntries, 0);
+
+    // What was reported copied is there whole; nothing else is, not even a part file.
+    const std::size_t total = 1 + 4 + 40;
+    ASSERT_LT(reports.targets.size(), total) << "the copy ended before the cancel";
+    std::size_t onDisk = 0;
+    for (const auto& e : fs::recursive_directory_iterator(real(L"exchange/big"))) {
+        (void)e;
+        ++onDisk;
+    }
+    EXPECT_EQ(onDisk + 1, reports.targets.size());
+    for (const auto& target : reports.targets) {
+        const fs::path copy = real(target);
+        ASSERT_TRUE(fs::exists(copy)) << std::string(target.begin(), target.end());
+        if (fs::is_regular_file(copy)) {
+            const std::wstring source =
+                L"projects/big" + target.substr(std::wstring(L"exchange/big").size());
+            EXPECT_EQ(contents(copy), contents(real(source)));
+        }
+    }
+    EXPECT_EQ(partFiles(root), 0);
+}
+
+TEST_F(FilesTest, AnAsynchronousFileCopyReportsInSlicesWithPerEntryErrors) {
+    write(L"exchange/a.txt", "a");
+    write(L"exchange/b.txt", "b");
+    fs::create_directories(real(L"reports/in"));
+    kelsim_setAsyncReports("copyFilesAsync", 2);
+    auto* config = static_cast<FileCopyConfig*>(allocate_Memory(sizeof(FileCopyConfig)));
+    config->files = static_cast<wchar_t**>(allocate_Memory(3 * sizeof(wchar_t*)));
+    config->files[0] = duplicate_WString(L"exchange/a.txt");
+    config->files[1] = duplicate_WString(L"/etc/passwd");
+    config->files[2] = duplicate_WString(L"exchange/b.txt");
+    config->fileCount = 3;
+    config->target = duplicate_WString(L"reports/in");
+    config->overwrite = 1;
+    struct Seen {
+        std::mutex mutex;
+        std::condition_variable done;
+        std::vector<std::pair<uint32_t, bool>> reports; // count, isFinal
+        std::vector<int32_t> codes;
+        bool final = false;
+    } seen;
+    ErrorSlot error;
+    kel_copyFilesAsync(
+        api, config, &error,
+        [](FileCopyResult** results, uint32_t count, bool isFinal, uint64_t, KelError* e,
+           void* context) {
+            auto* s = static_cast<Seen*>(context);
+            {
+                const std::lock_guard lock(s->mutex);
+                s->reports.emplace_back(count, isFinal);
+                for (uint32_t i = 0; i < count; ++i) {
+                    s->codes.push_back(results[i]->error ? results[i]->error->code : 0);
+                }
+                s->final = isFinal;
+            }
+            release_FileCopyResult_array(results, count);
+            release_KelError(e);
+            s->done.notify_all();
+        },
+        &seen);
+    ASSERT_FALSE(error);
+    std::unique_lock lock(seen.mutex);
+    ASSERT_TRUE(seen.done.wait_for(lock, std::chrono::seconds(20), [&] { return seen.final; }));
+    EXPECT_EQ(seen.reports, (std::vector<std::pair<uint32_t, bool>>{{1, false}, {2, true}}));
+    EXPECT_EQ(seen.codes, (std::vector<int32_t>{0, Absolute, 0}));
+    EXPECT_EQ(contents(real(L"reports/in/b.txt")), "b");
+}
+
+// ---- filters and projects ---------------------------------------------------------------
+
+TEST_F(FilesTest, FiltersSelectFilesAndCopyTheSelectedProject) {
+    ErrorSlot error;
+    wchar_t* selected = nullptr;
+    kel_getSelectedProject(api, &error, &selected);
+    ASSERT_FALSE(error);
+    const std::wstring project = L"projects/" + std::wstring(selected);
+    release_Memory(selected);
+    write((project + L"/ecu/engine.odx").c_str(), "odx");
+    write((project + L"/ecu/skip_me.odx").c_str(), "no");
+    write((project + L"/notes.txt").c_str(), "txt");
+
+    FileFilter include{duplicate_WString(L"*.odx"), 0, 0};
+    FileFilter exclude{duplicate_WString(L"ecu/skip*"), 1, 0};
+    FileFilter* filters[] = {&include, &exclude};
+    wchar_t** names = nullptr;
+    uint32_t count = 0;
+    kel_filterFiles(api, filters, 2, project.c_str(), &error, &names, &count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(count, 1U);
+    EXPECT_EQ(std::wstring(names[0]), project + L"/ecu/engine.odx");
+    release_StringArray(names, count);
+
+    FileFilter none{duplicate_WString(L"*.nothing"), 0, 0};
+    FileFilter* noMatch[] = {&none};
+    names = reinterpret_cast<wchar_t**>(1);
+    count = 7;
+    kel_filterFiles(api, noMatch, 1, project.c_str(), &error, &names, &count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(names, nullptr);
+    EXPECT_EQ(count, 0U);
+
+    DirectoryInfo* tree = nullptr;
+    kel_getSelectedProjectDirectory(api, 1, &error, &tree);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(std::wstring(tree->text1), project);
+    release_DirectoryInfo(tree);
+
+    fs::create_directories(real(L"exchange/copy"));
+    auto* config = static_cast<FileCopyConfig*>(allocate_Memory(sizeof(FileCopyConfig)));
+    std::memset(config, 0, sizeof *config);
+    config->target = duplicate_WString(L"exchange/copy");
+    List<FileInfo, release_FileInfo_array> copied;
+    kel_copyProjectWithFilters(api, filters, 2, 1, config, L"", &error, &copied.items,
+                               &copied.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(copied.count, 1U);
+    EXPECT_EQ(std::wstring(copied.items[0]->text1), L"exchange/copy/ecu/engine.odx");
+    EXPECT_EQ(contents(real(L"exchange/copy/ecu/engine.odx")), "odx");
+    EXPECT_FALSE(fs::exists(real(L"exchange/copy/notes.txt")));
+    release_Memory(include.pattern);
+    release_Memory(exclude.pattern);
+    release_Memory(none.pattern);
+}
+
+TEST_F(FilesTest, CreateRenameAndMoveWorkOnRealEntries) {
+    ErrorSlot error;
+    DirectoryInfo* made = nullptr;
+    kel_createDirectory(api, directoryRecord(L"exchange"), L"\u00e9t\u00e9", &error, &made);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(std::wstring(made->text1), L"exchange/\u00e9t\u00e9");
+    release_DirectoryInfo(made);
+    FileInfo* file = nullptr;
+    kel_createFile(api, directoryRecord(L"exchange/\u00e9t\u00e9"), L"a.txt", &error, &file);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(file->value2, 0U);
+    release_FileInfo(file);
+    kel_createFile(api, directoryRecord(L"exchange/\u00e9t\u00e9"), L"a.txt", &error, &file);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, Exists);
+    release_KelError(error.error);
+    error.error = nullptr;
+
+    kel_renameFile(api, L"exchange/\u00e9t\u00e9/a.txt", L"b.txt", &error);
+    ASSERT_FALSE(error);
+    kel_renameFile(api, L"exchange/\u00e9t\u00e9/b.txt", L"../b.txt", &error);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, InvalidPath); // a new name is one name, never a path
+    release_KelError(error.error);
+    error.error = nullptr;
+
+    uint8_t moved = 9;
+    kel_moveFile(api, L"exchange/\u00e9t\u00e9/b.txt", L"reports/deep/c.txt", &error, &moved);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(moved, 1);
+    EXPECT_TRUE(fs::exists(real(L"reports/deep/c.txt")));
+    kel_moveFile(api, L"exchange/\u00e9t\u00e9/b.txt", L"reports/x.txt", &error, &moved);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(moved, 0); // nothing to move
+    kel_moveDirectory(api, L"exchange/\u00e9t\u00e9", L"reports/summer", &error, &moved);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(moved, 1);
+    EXPECT_TRUE(fs::is_directory(real(L"reports/summer")));
+
+    wchar_t* resolved = nullptr;
+    kel_resolvePath(api, L"reports/summer", &error, &resolved);
+    ASSERT_FALSE(error);
+    EXPECT_TRUE(fs::equivalent(fs::path(resolved), real(L"reports/summer")));
+    release_Memory(resolved);
+}
+
+} // namespace
