@@ -3032,6 +3032,19 @@ const kc::Case kFilterFilesCases[] = {
      "[[],\"\"]", "0100000000", "00000000", 0},
 };
 
+struct FilterFilesExport {
+    static constexpr const char* operation = "filterFiles";
+    using Result = kc::TextsResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kc::RecordList<FileFilter, release_FileFilter_array> a0(in[0]);
+        const kc::Text a1(in[1]);
+        kel_filterFiles(api, a0.data(), a0.count(), a1.get(), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Files, filterFiles_Exchange) { kc::exchange<FilterFilesExport>(api, kFilterFilesCases); }
+TEST_F(Files, filterFiles_Failure) { kc::failure<FilterFilesExport>(api, kFilterFilesCases); }
+
 const kc::Number kNumber204{204, "filterFiles", kFilterFilesCases};
 
 TEST_F(FilesByNumber, n204_filterFiles_KelCall) { kc::kelCall(api, kNumber204); }
