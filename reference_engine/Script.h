@@ -44,9 +44,15 @@ void deliverLater(std::function<void()> report);
 // from a report itself).
 void deliverNow();
 
-// Duration of the calls made through one engine object, in microseconds.
+// What every call through one engine object passes: the duration of its calls, in
+// microseconds, and the check whether the object may make a call at all.
 class CallClock {
 public:
+    // Throws TarnApiException to refuse `operation` (a remote client's connection that
+    // has not logged in, or that the server ended). Set before the object is handed
+    // out and never changed afterwards; empty for an object that may make every call.
+    std::function<void(std::string_view operation)> admit;
+
     void finished(uint64_t micros) { last_.store(micros); }
     // Read by getCallDuration while it runs, so it sees the call before it.
     uint64_t previous() const { return last_.load(); }

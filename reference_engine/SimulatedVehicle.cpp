@@ -14,6 +14,7 @@ struct Parts {
     LifecycleSettings lifecycle;
     EventsSettings events;
     DiagnosticsSettings diagnostics;
+    ServersSettings servers;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -22,6 +23,7 @@ Parts parseParts(const VehicleDescription& description) {
     parts.lifecycle = LifecycleSettings::parse(description.section("lifecycle"));
     parts.events = EventsSettings::parse(description.section("events"));
     parts.diagnostics = DiagnosticsSettings::parse(description.section("diagnostics"));
+    parts.servers = ServersSettings::parse(description.section("servers"));
     return parts;
 }
 
@@ -86,6 +88,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     lifecycle.load(parts.lifecycle);
     events.load(parts.events);
     diagnostics.load(parts.diagnostics);
+    servers.load(parts.servers);
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -94,6 +97,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.lifecycle = std::make_shared<Lifecycle>(vehicle, object);
     families.events = std::make_shared<Events>(vehicle, object);
     families.diagnostics = std::make_shared<Diagnostics>(vehicle);
+    families.servers = std::make_shared<Servers>(vehicle, object);
     return families;
 }
 
