@@ -11,9 +11,11 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <mutex>
 #include <sstream>
 #include <string>
+#include <thread>
 #include <vector>
 
 #include <families/servers/PasswordHash.h>
@@ -719,6 +721,87 @@ TEST_F(Servers, CertificatesComeFromTheStoreAndNoneIsMadeUp) {
     std::ofstream(root_ / "certificates" / "broken.pem") << "-----BEGIN CERTIFICATE-----\nAAAA\n";
     kel_getCertificateChainById(api, L"broken", L"", L"", &error, &chain, &count);
     EXPECT_EQ(count, 0U);
+}
+
+using ServersConcurrency = Servers;
+
+// Remote clients call, log in and renew their connections while the server ends them,
+// restarts and turns user management on and off: every call either works or is refused
+// for a reason of the moment, and each client's connections and disconnections reach
+// the handler in turn, once each.
+TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
+    RecordingHandler handler;
+    ErrorSlot error;
+    kel_registerServerHandler(reinterpret_cast<uint64_t>(api), &handler, &error);
+    ASSERT_EQ(addUser(api, L"anna", password, Administrator), 0);
+    wchar_t* address = nullptr;
+    kel_startServer(api, L"race", &error, &address);
+    ASSERT_FALSE(error);
+    const std::wstring where = address;
+    release_Memory(address);
+
+    std::atomic<bool> stop{false};
+    std::atomic<int> unexpected{0};
+    std::vector<std::thread> clients;
+    for (int t = 0; t < 4; ++t) {
+        clients.emplace_back([&] {
+            ErrorSlot connectError;
+            uint64_t registered = 0;
+            kel_connectRemoteServer(api, where.c_str(), &connectError, &registered);
+            auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT
+            uint64_t own = 0;
+            kel_getHandle(client, &connectError, &own);
+            if (connectError) {
+                ++unexpected;
+                return;
+            }
+            for (int i = 0; i < 60; ++i) {
+                switch (getState(client)) {
+                case 0:
+                    break;
+                case NotLoggedIn:
+                    if (const int32_t c = logIn(client, L"anna", password);
+                        c != 0 && c != ConnectionEnded) {
+                        ++unexpected;
+                    }
+                    break;
+                case ConnectionEnded: {
+                    uint8_t renewed = 0;
+                    if (code([&](KelError** e) {
+                            kel_reconnectRemoteServer(client, own, e, &renewed);
+                        }) != 0) {
+                        ++unexpected;
+                    }
+                    break;
+                }
+                default:
+                    ++unexpected;
+                }
+            }
+            releaseTarnApi(client);
+        });
+    }
+    for (int i = 0; i < 30; ++i) {
+        EXPECT_EQ(userManagement(api, i % 2 == 0), 0);
+        EXPECT_EQ(code([&](KelError** e) { kel_disconnectAllClients(api, e); }), 0);
+        EXPECT_EQ(code([&](KelError** e) { kel_restartServer(api, i % 3, e); }), 0);
+    }
+    for (auto& client : clients) {
+        client.join();
+    }
+    EXPECT_EQ(unexpected.load(), 0);
+
+    std::map<std::wstring, std::vector<wchar_t>> byClient;
+    for (const auto& heard : handler.heard()) {
+        byClient[heard.substr(1)].push_back(heard[0]);
+    }
+    EXPECT_EQ(byClient.size(), 4U);
+    for (const auto& [client, signs] : byClient) {
+        for (std::size_t i = 0; i < signs.size(); ++i) {
+            EXPECT_EQ(signs[i], i % 2 == 0 ? L'+' : L'-') << "client " << i;
+        }
+        EXPECT_EQ(signs.size() % 2, 0U) << "every connection ended once";
+    }
 }
 
 } // namespace

@@ -17,11 +17,12 @@ namespace {
 
 std::atomic<int64_t> loginClockOffsetMs{0};
 
-// What a connection that has not logged in may still do: log in, and find out that it
-// must.
+// What a connection that has not logged in may still do: log in, find out that it
+// must, and read its own handle (which reconnectRemoteServer takes).
 bool opensALogin(std::string_view operation) {
     return operation == "logIn" || operation == "thirdPartyLogin" ||
-           operation == "getThirdPartyLoginUrl" || operation == "getServerUserManagement";
+           operation == "getThirdPartyLoginUrl" || operation == "getServerUserManagement" ||
+           operation == "getHandle";
 }
 
 // The addresses of the running servers of every vehicle: connectRemoteServer finds a
@@ -113,7 +114,7 @@ void ServersState::admit(uint64_t handle, std::string_view operation) {
         return;
     }
     if (session->second.ended) {
-        if (operation == "reconnectRemoteServer") {
+        if (operation == "reconnectRemoteServer" || operation == "getHandle") {
             return;
         }
         throw TarnApiException(ConnectionEnded, L"This remote connection has ended",
