@@ -110,16 +110,12 @@ void ServersState::load(const ServersSettings& settings) {
 void ServersState::admit(uint64_t handle, std::string_view operation) {
     const std::lock_guard lock(mutex_);
     const auto session = sessions_.find(handle);
-    if (session == sessions_.end()) {
-        return;
-    }
-    if (session->second.ended) {
+    if (session == sessions_.end() || session->second.ended) {
         if (operation == "reconnectRemoteServer" || operation == "getHandle") {
             return;
         }
         throw TarnApiException(ConnectionEnded, L"This remote connection has ended",
-                               session->second.client +
-                                   L"; reconnectRemoteServer renews it while the server runs");
+                               L"reconnectRemoteServer renews it while the server runs");
     }
     if (!session->second.user.empty() || opensALogin(operation)) {
         return;
@@ -389,6 +385,7 @@ bool Servers::reconnectRemoteServer(uint64_t handle) {
             return true;
         }
         session->second.ended = false;
+        session->second.user.clear(); // a renewed connection logs in again
         client = session->second.client;
     }
     clientConnected(*vehicle_, client);
@@ -527,6 +524,10 @@ void Servers::setServerUserManagement(bool enabled) {
 
 void Servers::loggedIn(const std::wstring& user, const std::wstring& how) {
     auto& session = state_.sessions_[handle_];
+    if (session.ended) { // ended by the server while the password was checked
+        throw TarnApiException(ConnectionEnded, L"This remote connection has ended",
+                               L"reconnectRemoteServer renews it while the server runs");
+    }
     session.user = user;
     post(*vehicle_, EventKind::UserLoggedIn, static_cast<int32_t>(state_.users_.at(user).role), how,
          user);
