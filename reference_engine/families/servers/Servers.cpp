@@ -237,16 +237,33 @@ std::vector<std::wstring> Servers::endSessionsLocked(Which which) {
             session.ended = true;
             session.user.clear();
             ended.push_back(session.client);
+            state_.announcements_.emplace_back(session.client, false);
         }
     }
     return ended;
 }
 
-// Outside the state's lock: the handlers may call the engine.
-void Servers::clientsLeft(const std::vector<std::wstring>& clients) {
-    for (const auto& client : clients) {
-        clientDisconnected(*vehicle_, client);
+// Outside the state's lock, as the handlers may call the engine; in the order of the
+// changes, which one thread at a time announces (a thread that finds another at it
+// leaves its own to that one), so that a renewal never overtakes the end before it.
+void Servers::announce() {
+    std::unique_lock lock(state_.mutex_);
+    if (state_.announcing_) {
+        return;
     }
+    state_.announcing_ = true;
+    while (!state_.announcements_.empty()) {
+        const auto [client, connected] = std::move(state_.announcements_.front());
+        state_.announcements_.pop_front();
+        lock.unlock();
+        if (connected) {
+            clientConnected(*vehicle_, client);
+        } else {
+            clientDisconnected(*vehicle_, client);
+        }
+        lock.lock();
+    }
+    state_.announcing_ = false;
 }
 
 std::wstring Servers::startServer(const std::wstring& name) {
@@ -302,7 +319,7 @@ void Servers::stopServer(const std::wstring& reason) {
         post(*vehicle_, EventKind::ServerStopped, static_cast<int32_t>(ended.size()),
              L"The server stopped", reason);
     }
-    clientsLeft(ended);
+    announce();
 }
 
 void Servers::restartServer(int32_t endClients) {
@@ -321,7 +338,7 @@ void Servers::restartServer(int32_t endClients) {
              L"The server stopped", L"restart");
         post(*vehicle_, EventKind::ServerStarted, 0, L"The server started", state_.serverAddress_);
     }
-    clientsLeft(ended);
+    announce();
 }
 
 std::shared_ptr<TarnApi> Servers::connectRemoteServer(const std::wstring& address) {
@@ -354,7 +371,7 @@ void Servers::disconnect() {
         const std::lock_guard lock(state_.mutex_);
         ended = endSessionsLocked([this](uint64_t handle) { return handle == handle_; });
     }
-    clientsLeft(ended);
+    announce();
 }
 
 void Servers::disconnectAllClients() {
@@ -365,12 +382,11 @@ void Servers::disconnectAllClients() {
         requireAdministratorLocked();
         ended = endSessionsLocked([](uint64_t) { return true; });
     }
-    clientsLeft(ended);
+    announce();
 }
 
 bool Servers::reconnectRemoteServer(uint64_t handle) {
     vehicle_->lifecycle.requireInitialized();
-    std::wstring client;
     {
         const std::lock_guard lock(state_.mutex_);
         const auto session = state_.sessions_.find(handle);
@@ -386,9 +402,9 @@ bool Servers::reconnectRemoteServer(uint64_t handle) {
         }
         session->second.ended = false;
         session->second.user.clear(); // a renewed connection logs in again
-        client = session->second.client;
+        state_.announcements_.emplace_back(session->second.client, true);
     }
-    clientConnected(*vehicle_, client);
+    announce();
     return true;
 }
 

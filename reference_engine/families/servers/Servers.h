@@ -9,6 +9,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <deque>
 #include <filesystem>
 #include <map>
 #include <memory>
@@ -84,6 +85,9 @@ private:
     std::map<std::wstring, Failures> failures_; // by user name, known or not
     std::wstring serverAddress_;                // empty while the server is stopped
     std::wstring sovdAddress_;                  // empty while the SOVD server is stopped
+    // Connections ended (false) and renewed (true), in order, for the handlers.
+    std::deque<std::pair<std::wstring, bool>> announcements_;
+    bool announcing_ = false;
 };
 
 class Servers final : public ServersFamily {
@@ -132,11 +136,11 @@ private:
     // the local engine object, or a remote client logged in as an administrator (any
     // remote client while user management is off).
     void requireAdministratorLocked() const;
-    // Ends the sessions `which` selects; the caller tells their clients once the lock is
-    // let go (clientsLeft).
+    // Ends the sessions `which` selects and queues their announcement, which the caller
+    // makes once the lock is let go (announce).
     template <class Which>
     std::vector<std::wstring> endSessionsLocked(Which which);
-    void clientsLeft(const std::vector<std::wstring>& clients);
+    void announce();
     void loggedIn(const std::wstring& user, const std::wstring& how);
 
     std::shared_ptr<SimulatedVehicle> vehicle_;
