@@ -131,6 +131,9 @@ typedef struct FileCopyConfig FileCopyConfig;
 typedef struct DirectoryCopyConfig DirectoryCopyConfig;
 typedef struct PathCopyConfig PathCopyConfig;
 typedef struct UserInfo UserInfo;
+typedef struct LogInOutConfig LogInOutConfig;
+typedef struct TarnApiServerConfig TarnApiServerConfig;
+typedef struct ServerSettings ServerSettings;
 
 /* The MVCI (ISO 22900) server error beneath an engine error.
  * Freed with release_MvciServerError, which frees everything it points to; a list of them with
@@ -1185,13 +1188,53 @@ struct PathCopyConfig {
     uint8_t overwrite; /* replace files that exist at the target */
 };
 
-/* A user of the engine's server.
+/* A user of the engine's server. The password is never handed out; the engine keeps only a
+ * salted hash of it.
  * Freed with release_UserInfo, which frees everything it points to; a list of them with
  * release_UserInfo_array. */
 struct UserInfo {
     wchar_t* name;  /* the user's name */
-    wchar_t* text;  /* copied unchanged from the engine */
-    uint32_t value; /* copied unchanged from the engine */
+    wchar_t* text;  /* the name of the user's role ("operator", "administrator") */
+    uint32_t value; /* the user's role: 1 operator, 2 administrator */
+};
+
+/* What logIn and logOut pass to the engine: who logs in or out, and for logIn the password.
+ * The password never comes back, is never recorded and never traced.
+ * Freed with release_LogInOutConfig, which frees everything it points to; a list of them with
+ * release_LogInOutConfig_array. */
+struct LogInOutConfig {
+    wchar_t* user;     /* the user's name; for logOut, empty means whoever is logged in */
+    wchar_t* password; /* the user's password (logIn); logOut does not read it */
+};
+
+/* The configuration of the engine's server.
+ * Freed with release_TarnApiServerConfig, which frees everything it points to; a list of them
+ * with release_TarnApiServerConfig_array. */
+struct TarnApiServerConfig {
+    UserInfo** users; /* the server's users, by name */
+    uint32_t userCount;
+    uint8_t flag;    /* 1 while the server's user management is on */
+    uint32_t value1; /* the number of remote connections now */
+    wchar_t* text1;  /* where the server listens; empty while it is stopped */
+    wchar_t* text2;  /* where the SOVD server listens; empty while it is stopped */
+    FileFilter**
+        filters; /* the file filters of the server's clients; the simulated server has none */
+    uint32_t filterCount;
+    wchar_t* text3;    /* the name of the outside identity provider */
+    wchar_t* text4;    /* the identity provider's login address, without a login's state */
+    UserInfo** users2; /* the users logged in now, one entry per login */
+    uint32_t userCount2;
+    uint16_t value2; /* failed logins of one user before the engine throttles; 16 bits wide, as the
+                        engine's */
+};
+
+/* The settings of the engine's server; plain data that owns no memory.
+ * Freed with release_ServerSettings; a list of them with release_ServerSettings_array. */
+struct ServerSettings {
+    uint8_t flag;    /* 1 while the server runs */
+    uint32_t value1; /* the number of remote connections now */
+    uint32_t value2; /* the number of users */
+    uint32_t value3; /* 1 while the SOVD server runs */
 };
 
 /* ---- engine objects ---- */
@@ -1442,6 +1485,13 @@ KEL_C_API void release_PathCopyConfig(KEL_CONSUMED PathCopyConfig* ptr);
 KEL_C_API void release_PathCopyConfig_array(KEL_CONSUMED PathCopyConfig** ptr, uint64_t count);
 KEL_C_API void release_UserInfo(KEL_CONSUMED UserInfo* ptr);
 KEL_C_API void release_UserInfo_array(KEL_CONSUMED UserInfo** ptr, uint64_t count);
+KEL_C_API void release_LogInOutConfig(KEL_CONSUMED LogInOutConfig* ptr);
+KEL_C_API void release_LogInOutConfig_array(KEL_CONSUMED LogInOutConfig** ptr, uint64_t count);
+KEL_C_API void release_TarnApiServerConfig(KEL_CONSUMED TarnApiServerConfig* ptr);
+KEL_C_API void release_TarnApiServerConfig_array(KEL_CONSUMED TarnApiServerConfig** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_ServerSettings(KEL_CONSUMED ServerSettings* ptr);
+KEL_C_API void release_ServerSettings_array(KEL_CONSUMED ServerSettings** ptr, uint64_t count);
 
 /* ---- callbacks of the asynchronous operations ----
  * Called once or several times per call, on a thread of the engine; isFinal marks
@@ -2031,69 +2081,82 @@ KEL_C_API void kel_setStatusText(TarnApi* api, KelError** error, KEL_KEPT const 
 
 /* ---- Servers ----
  * The engine's servers, remote connections, users, logins and certificates */
-/* Starts the engine's server for remote clients; the text and the result are the engine's.
- * Position 4.
- * text: kept by the caller, read only during the call.
- * On success *result receives a new string; free it with release_Memory. */
-KEL_C_API void kel_startServer(TarnApi* api, KEL_KEPT const wchar_t* text, KelError** error,
-                               KEL_OUT wchar_t** result);
-/* Stops the engine's server. Position 5.
- * text: kept by the caller, read only during the call. */
-KEL_C_API void kel_stopServer(TarnApi* api, KEL_KEPT const wchar_t* text, KelError** error);
-/* Restarts the engine's server; value is passed to the engine unchanged. Position 6. */
-KEL_C_API void kel_restartServer(TarnApi* api, int32_t value, KelError** error);
-/* Connects to a remote engine and hands out its engine object. Position 37.
- * text: kept by the caller, read only during the call.
+/* Starts the engine's server for remote clients under the given name (empty: "server") and
+ * returns the address where it listens, which connectRemoteServer takes. Position 4.
+ * name: kept by the caller, read only during the call.
+ * On success *address receives a new string; free it with release_Memory. */
+KEL_C_API void kel_startServer(TarnApi* api, KEL_KEPT const wchar_t* name, KelError** error,
+                               KEL_OUT wchar_t** address);
+/* Stops the engine's server; its remote connections end. The reason is passed on to the
+ * server's clients in the ServerStopped event. Position 5.
+ * reason: kept by the caller, read only during the call. */
+KEL_C_API void kel_stopServer(TarnApi* api, KEL_KEPT const wchar_t* reason, KelError** error);
+/* Restarts the engine's server at the same address; with endClients not 0 its remote
+ * connections end, otherwise they stay. Position 6. */
+KEL_C_API void kel_restartServer(TarnApi* api, int32_t endClients, KelError** error);
+/* Connects to the engine's server at the given address and hands out the remote engine object.
+ * Position 37.
+ * address: kept by the caller, read only during the call.
  * On success *handle receives the address of the new engine object as a 64-bit value: use it
  * as (TarnApi*)(uintptr_t)handle, and give it back with releaseTarnApi. */
-KEL_C_API void kel_connectRemoteServer(TarnApi* api, KEL_KEPT const wchar_t* text, KelError** error,
-                                       KEL_OUT uint64_t* handle);
-/* Ends the connection to the remote engine. Position 56. */
+KEL_C_API void kel_connectRemoteServer(TarnApi* api, KEL_KEPT const wchar_t* address,
+                                       KelError** error, KEL_OUT uint64_t* handle);
+/* Ends this remote connection; the server's handlers hear that its client left. Position 56. */
 KEL_C_API void kel_disconnect(TarnApi* api, KelError** error);
-/* Adds a user to the server's user management. Position 124.
- * text1, text2: kept by the caller, read only during the call. */
-KEL_C_API void kel_addUser(TarnApi* api, KEL_KEPT const wchar_t* text1,
-                           KEL_KEPT const wchar_t* text2, uint32_t value, KelError** error);
-/* Removes a user from the server's user management. Position 125.
- * text: kept by the caller, read only during the call. */
-KEL_C_API void kel_removeUser(TarnApi* api, KEL_KEPT const wchar_t* text, KelError** error);
-/* Lists the server's users. Position 126.
+/* Adds a user with a password and a role (1 operator, 2 administrator) to the server's user
+ * management. Position 124.
+ * name, password: kept by the caller, read only during the call. */
+KEL_C_API void kel_addUser(TarnApi* api, KEL_KEPT const wchar_t* name,
+                           KEL_KEPT const wchar_t* password, uint32_t role, KelError** error);
+/* Removes a user from the server's user management; its logins end. Position 125.
+ * name: kept by the caller, read only during the call. */
+KEL_C_API void kel_removeUser(TarnApi* api, KEL_KEPT const wchar_t* name, KelError** error);
+/* Lists the server's users by name, without their passwords. Position 126.
  * On success *users and *userCount receive an UserInfo list, NULL and 0 when empty; free it
  * with release_UserInfo_array(users, userCount). */
 KEL_C_API void kel_getUsers(TarnApi* api, KelError** error, KEL_OUT UserInfo*** users,
                             KEL_OUT uint32_t* userCount);
-/* Changes a user of the server's user management. Position 128.
- * text1, text2, text3: kept by the caller, read only during the call. */
-KEL_C_API void kel_updateUser(TarnApi* api, KEL_KEPT const wchar_t* text1,
-                              KEL_KEPT const wchar_t* text2, KEL_KEPT const wchar_t* text3,
-                              uint32_t value, KelError** error);
+/* Logs the user of this engine object out of the server. Position 127.
+ * config: consumed: the library frees it with release_LogInOutConfig, also when the call
+ * fails; NULL passes no record. */
+KEL_C_API void kel_logOut(TarnApi* api, KEL_CONSUMED LogInOutConfig* config, KelError** error);
+/* Changes a user: a new name (empty keeps the name), a new password (empty keeps the password)
+ * and the role. Position 128.
+ * name, newName, newPassword: kept by the caller, read only during the call. */
+KEL_C_API void kel_updateUser(TarnApi* api, KEL_KEPT const wchar_t* name,
+                              KEL_KEPT const wchar_t* newName, KEL_KEPT const wchar_t* newPassword,
+                              uint32_t role, KelError** error);
 /* Tells whether the server's user management is on. Position 129.
  * On success *enabled receives the result. */
 KEL_C_API void kel_getServerUserManagement(TarnApi* api, KelError** error,
                                            KEL_OUT uint8_t* enabled);
-/* Turns the server's user management on or off. Position 130. */
+/* Turns the server's user management on or off. While it is on, a remote connection must log
+ * in before any other call. Position 130. */
 KEL_C_API void kel_setServerUserManagement(TarnApi* api, uint8_t enabled, KelError** error);
-/* Disconnects every remote client from the engine's server. Position 133. */
+/* Ends every remote connection to the engine. Position 133. */
 KEL_C_API void kel_disconnectAllClients(TarnApi* api, KelError** error);
-/* Connects the remote engine with the given handle again; tells whether that worked.
- * Position 172.
+/* Renews the remote connection whose engine handle is given (kel_getHandle); tells whether it
+ * is connected again (not while the server is stopped). Position 172.
  * On success *reconnected receives the result. */
 KEL_C_API void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error,
                                          KEL_OUT uint8_t* reconnected);
-/* Logs in through an outside identity provider; tells whether that worked. Position 213.
- * text: kept by the caller, read only during the call.
+/* Logs this engine object in with an authorization code of the outside identity provider;
+ * tells whether the provider accepted the code for a user of the server. Position 213.
+ * code: kept by the caller, read only during the call.
  * On success *result receives the result. */
-KEL_C_API void kel_thirdPartyLogin(TarnApi* api, KEL_KEPT const wchar_t* text, KelError** error,
+KEL_C_API void kel_thirdPartyLogin(TarnApi* api, KEL_KEPT const wchar_t* code, KelError** error,
                                    KEL_OUT uint8_t* result);
-/* Reads the address of the outside identity provider's login. Position 215.
- * text: kept by the caller, read only during the call.
+/* The address at which a user logs in to the named outside identity provider (empty: the
+ * engine's own); each address carries a login state of its own. Position 215.
+ * provider: kept by the caller, read only during the call.
  * On success *url receives a new string; free it with release_Memory. */
-KEL_C_API void kel_getThirdPartyLoginUrl(TarnApi* api, KEL_KEPT const wchar_t* text,
+KEL_C_API void kel_getThirdPartyLoginUrl(TarnApi* api, KEL_KEPT const wchar_t* provider,
                                          KelError** error, KEL_OUT wchar_t** url);
-/* Looks up a certificate by its public key. Position 217.
- * text1, text2, text3, text4: kept by the caller, read only during the call.
+/* Looks up a certificate of the engine's certificate store by its public key (a PEM "PUBLIC
+ * KEY" block or its Base64 text); returns it as PEM text. Position 217.
+ * publicKey, text2, text3, text4: kept by the caller, read only during the call.
  * On success *certificate receives a new string; free it with release_Memory. */
-KEL_C_API void kel_getCertificateByPublicKey(TarnApi* api, KEL_KEPT const wchar_t* text1,
+KEL_C_API void kel_getCertificateByPublicKey(TarnApi* api, KEL_KEPT const wchar_t* publicKey,
                                              KEL_KEPT const wchar_t* text2,
                                              KEL_KEPT const wchar_t* text3,
                                              KEL_KEPT const wchar_t* text4, KelError** error,
@@ -2105,11 +2168,12 @@ KEL_C_API void kel_createCertificateFromCSR(
     TarnApi* api, KEL_KEPT const wchar_t* text1, KEL_KEPT const wchar_t* text2,
     KEL_KEPT const wchar_t* text3, KEL_KEPT const wchar_t* text4, KEL_KEPT const wchar_t* text5,
     KEL_KEPT const wchar_t* text6, KelError** error, KEL_OUT wchar_t** certificate);
-/* Reads a certificate chain by its identifier. Position 219.
- * text1, text2, text3: kept by the caller, read only during the call.
+/* Reads the chain of the certificate with the given identifier from the engine's certificate
+ * store: the certificate first, then each issuer, as PEM texts. Position 219.
+ * id, text2, text3: kept by the caller, read only during the call.
  * On success *chain and *chainCount receive a string list, NULL and 0 when empty; free it with
  * release_StringArray(chain, chainCount). */
-KEL_C_API void kel_getCertificateChainById(TarnApi* api, KEL_KEPT const wchar_t* text1,
+KEL_C_API void kel_getCertificateChainById(TarnApi* api, KEL_KEPT const wchar_t* id,
                                            KEL_KEPT const wchar_t* text2,
                                            KEL_KEPT const wchar_t* text3, KelError** error,
                                            KEL_OUT wchar_t*** chain, KEL_OUT uint32_t* chainCount);
@@ -2117,6 +2181,21 @@ KEL_C_API void kel_getCertificateChainById(TarnApi* api, KEL_KEPT const wchar_t*
 KEL_C_API void kel_startSOVDServer(TarnApi* api, KelError** error);
 /* Stops the SOVD server. Position 238. */
 KEL_C_API void kel_stopSOVDServer(TarnApi* api, KelError** error);
+/* Logs this engine object in to the server with a user's name and password. Position 239.
+ * config: consumed: the library frees it with release_LogInOutConfig, also when the call
+ * fails; NULL passes no record. */
+KEL_C_API void kel_logIn(TarnApi* api, KEL_CONSUMED LogInOutConfig* config, KelError** error);
+/* Reads the server's settings. Position 248.
+ * On success *settings receives a ServerSettings record, or NULL when the engine gives none;
+ * free it with release_ServerSettings. */
+KEL_C_API void kel_getServerSettings(TarnApi* api, KelError** error,
+                                     KEL_OUT ServerSettings** settings);
+/* Reads the server's configuration: its users, logins, file filters and addresses.
+ * Position 269.
+ * On success *config receives a TarnApiServerConfig record, or NULL when the engine gives
+ * none; free it with release_TarnApiServerConfig. */
+KEL_C_API void kel_getServerConfiguration(TarnApi* api, KelError** error,
+                                          KEL_OUT TarnApiServerConfig** config);
 
 /* ---- Interfaces ----
  * Interfaces, resources, dynamic detection, devices, physical links, DoIP, socket bridge and

@@ -101,6 +101,8 @@ void describe(std::string& out, const std::wstring& text) {
     out += '"';
 }
 
+void describe(std::string& out, const Secret& /*secret*/) { out += "\"***\""; }
+
 void describe(std::string& out, bool value) { out += value ? "true" : "false"; }
 
 void describe(std::string& out, const std::shared_ptr<ServerHandler>& handler) {

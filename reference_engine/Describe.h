@@ -18,7 +18,14 @@ namespace Varno::Kel_cpp::Reference {
 std::string toUtf8(const std::wstring& text);
 std::wstring fromUtf8(const std::string& text);
 
+// A password among the arguments (`secret` in the interface description): recorded as
+// "***", so that no password is ever kept or shown in clear.
+struct Secret {
+    const std::wstring& text;
+};
+
 void describe(std::string& out, const std::wstring& text);
+void describe(std::string& out, const Secret& secret);
 void describe(std::string& out, bool value);
 void describe(std::string& out, const std::shared_ptr<ServerHandler>& handler);
 
@@ -67,13 +74,18 @@ void describe(std::string& out, const std::shared_ptr<E>& record) {
     }
     out += '{';
     bool first = true;
-    std::apply(
-        [&](const auto&... field) {
-            ((out += first ? "\"" : ",\"", first = false, out += field.name,
-              out += "\":", describe(out, (*record).*(field.pointer))),
-             ...);
-        },
-        Fields::Of<E>::list);
+    const auto member = [&](const auto& field) {
+        out += first ? "\"" : ",\"";
+        first = false;
+        out += field.name;
+        out += "\":";
+        if constexpr (std::remove_cvref_t<decltype(field)>::secret) {
+            describe(out, Secret{(*record).*(field.pointer)});
+        } else {
+            describe(out, (*record).*(field.pointer));
+        }
+    };
+    std::apply([&](const auto&... field) { (member(field), ...); }, Fields::Of<E>::list);
     out += '}';
 }
 

@@ -95,6 +95,18 @@ std::shared_ptr<SimulatedVehicle> vehicleByHandle(uint64_t handle) {
     return found.second;
 }
 
+std::shared_ptr<TarnApi> connectRemoteClient(const std::shared_ptr<SimulatedVehicle>& vehicle) {
+    auto& h = handles();
+    std::shared_ptr<EngineFront> created;
+    std::wstring client;
+    {
+        const std::lock_guard lock(h.mutex);
+        created = makeEngineLocked(h, vehicle, &client);
+    }
+    clientConnected(*vehicle, client);
+    return created;
+}
+
 void restartLocalEngine() {
     std::shared_ptr<EngineFront> dropped;
     {

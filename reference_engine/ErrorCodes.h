@@ -52,6 +52,25 @@ enum ErrorCode : int32_t {
     CannotWriteFile = 1210,         // saving failed
 
     // Servers: 1300-1399.
+    NotLoggedIn = 1300,     // user management is on and this connection has not logged in
+    ConnectionEnded = 1301, // the server or the client ended this remote connection
+    UnknownRole = 1302,
+    UnknownUser = 1303,
+    BadServersArgument = 1304, // an empty or unusable user name, password or server name
+    UserExists = 1305,
+    LoginFailed = 1306,    // the user name or the password is wrong
+    LoginThrottled = 1307, // too many failed logins of this user in a row
+    NeedsAdministrator = 1308,
+    ServerNotRunning = 1309, // also: no server listens at the address
+    ServerRunning = 1310,    // started already, or another server has the address
+    NotARemoteConnection = 1311,
+    UnknownIdentityProvider = 1312,
+    UnknownCertificate = 1313,
+    NotAPublicKey = 1314,
+    NeedsCryptography = 1315, // what needs a cryptographic library the engine does not have
+    UsersUnreadable = 1316,   // the users file in the data root cannot be read or written
+    SovdServerRunning = 1317,
+    SovdServerNotRunning = 1318,
 
     // Interfaces: 1400-1499.
     UnknownInterface = 1400,

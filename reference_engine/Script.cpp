@@ -23,6 +23,9 @@ Script::Call::Call(CallClock& clock, Script& script, const char* operation, std:
     : clock_(clock), start_(std::chrono::steady_clock::now()) {
     try {
         script.record(operation, std::move(arguments));
+        if (clock.admit) {
+            clock.admit(operation);
+        }
     } catch (...) {
         finish(true); // a failed call is still the previous call
         throw;

@@ -45,10 +45,16 @@ void deliverLater(std::function<void()> report);
 // from a report itself).
 void deliverNow();
 
-// Duration of the calls made through one engine object, in microseconds, and how many
-// were made and failed (getStatusInfo).
+// What every call through one engine object passes: the check whether the object may
+// make a call at all, and the duration of its calls in microseconds, with how many were
+// made and failed (getStatusInfo).
 class CallClock {
 public:
+    // Throws TarnApiException to refuse `operation` (a remote client's connection that
+    // has not logged in, or that the server ended). Set before the object is handed
+    // out and never changed afterwards; empty for an object that may make every call.
+    std::function<void(std::string_view operation)> admit;
+
     void finished(uint64_t micros, bool failed) {
         last_.store(micros);
         calls_.fetch_add(1);

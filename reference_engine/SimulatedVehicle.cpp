@@ -15,6 +15,7 @@ struct Parts {
     EventsSettings events;
     DiagnosticsSettings diagnostics;
     InterfacesSettings interfaces;
+    ServersSettings servers;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -24,6 +25,7 @@ Parts parseParts(const VehicleDescription& description) {
     parts.events = EventsSettings::parse(description.section("events"));
     parts.diagnostics = DiagnosticsSettings::parse(description.section("diagnostics"));
     parts.interfaces = InterfacesSettings::parse(description.section("interfaces"));
+    parts.servers = ServersSettings::parse(description.section("servers"));
     return parts;
 }
 
@@ -90,6 +92,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     diagnostics.load(parts.diagnostics);
     interfaces->load(parts.interfaces);
     services.load();
+    servers.load(parts.servers);
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -102,6 +105,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.projects = std::make_shared<Projects>(vehicle, object);
     families.interfaces = std::make_shared<Interfaces>(vehicle);
     families.services = std::make_shared<Services>(vehicle);
+    families.servers = std::make_shared<Servers>(vehicle, object);
     return families;
 }
 

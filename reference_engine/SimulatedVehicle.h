@@ -19,6 +19,7 @@
 #include "families/lifecycle/Lifecycle.h"
 #include "families/projects/Projects.h"
 #include "families/services/Services.h"
+#include "families/servers/Servers.h"
 
 #include <cstdint>
 #include <memory>
@@ -64,6 +65,7 @@ public:
     // Shared with the asynchronous scans and detections, which may outlive the vehicle.
     const std::shared_ptr<InterfacesState> interfaces = std::make_shared<InterfacesState>();
     ServicesState services;
+    ServersState servers;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};
@@ -80,6 +82,10 @@ void post(SimulatedVehicle& vehicle, int32_t kind, int32_t code, std::wstring te
 
 // The vehicle of the live engine object with `handle`, or null.
 std::shared_ptr<SimulatedVehicle> vehicleByHandle(uint64_t handle);
+
+// A new remote client's connection to `vehicle` (connectRemoteServer: each call makes
+// one); the vehicle's server handlers hear of it.
+std::shared_ptr<TarnApi> connectRemoteClient(const std::shared_ptr<SimulatedVehicle>& vehicle);
 
 // Lets go of the engine's own reference to its local engine object: once nobody else
 // holds it, the next getTarnApi() starts afresh on a fresh vehicle.

@@ -90,6 +90,34 @@ class Members(unittest.TestCase):
         self.assertEqual(fields["marker"].kind, "flag")
 
 
+class Secrets(unittest.TestCase):
+    def setUp(self):
+        self.iface = parsed("""
+            record Login
+                wstr user
+                wstr password secret in
+            """, "op 2 logIn (rec Login login, wstr pin secret, u32 role)\n")
+
+    def test_secret_fields_and_parameters_are_masked_where_the_engine_records_them(self):
+        fields = {f.name: f for f in self.iface.record("Login").fields}
+        self.assertTrue(fields["password"].secret)
+        self.assertEqual(fields["password"].direction, "in")
+        self.assertFalse(fields["user"].secret)
+        self.assertIn('secret("password", &Login::password)', generate.engine_fields_h(self.iface))
+        self.assertIn('member("user", &Login::user)', generate.engine_fields_h(self.iface))
+        self.assertIn('script_->enter(*clock_, "logIn", login, Secret{pin}, role);',
+                      generate.engine_front_cpp(self.iface))
+        self.assertIn("return vehicle_->logIn(login, pin, role);", generate.engine_front_cpp(self.iface),
+                      "the engine itself receives the password")
+
+    def test_only_a_wide_string_input_is_secret(self):
+        for records, operations in (("record A\n    u32 pin secret\n", ""),
+                                    ("", "op 2 get () -> wstr pin secret\n"),
+                                    ("", "op 2 put (u32 pin secret)\n")):
+            with self.assertRaises(kelidl.DescriptionError):
+                parsed(records, operations)
+
+
 class Rejected(unittest.TestCase):
     def assertRejected(self, records: str, operations: str = "", message: str = ""):
         with self.assertRaises(kelidl.DescriptionError) as caught:

@@ -320,6 +320,18 @@ def engine_json(value) -> str:
     raise TypeError(type(value))
 
 
+def recorded(iface: kelidl.Interface, value, secret: bool = False):
+    """A value as the engine records it: passwords (`secret`) as "***", also inside records."""
+    if secret:
+        return "***"
+    if isinstance(value, list):
+        return [recorded(iface, v) for v in value]
+    if isinstance(value, Rec) and value.name in iface.records:
+        secrets = {f.name for f in members(iface, value.name) if getattr(f, "secret", False)}
+        return Rec(value.name, {k: recorded(iface, v, k in secrets) for k, v in value.values.items()})
+    return value
+
+
 # ---- the C view --------------------------------------------------------------------------
 
 def c_zero(f) -> list[tuple[str, str]]:
@@ -723,7 +735,7 @@ def build_cases(iface: kelidl.Interface, op: kelidl.Operation, salt: int) -> lis
         value = model.result(result) if result else None
         c_source = model.source  # strays continue the sequence, so they never repeat a value
         c_inputs = "[" + ",".join(c_param_json(iface, p, x, c_source) for p, x in zip(op.params, params)) + "]"
-        arguments = "[" + ",".join(engine_json(x) for x in params) + "]"
+        arguments = "[" + ",".join(engine_json(recorded(iface, x, p.secret)) for p, x in zip(op.params, params)) + "]"
         script = None
         c_view = None
         if scriptable(result):
@@ -756,8 +768,8 @@ def stream_case(iface: kelidl.Interface, op: kelidl.Operation, case: Case, param
             otx_value = [created(iface, e, p.record) for e in x]
         otx_in.value(p, otx_value)
         py_in.value(p, x)
-        otx_args.append(engine_json(otx_value))
-        py_args.append(engine_json(x))
+        otx_args.append(engine_json(recorded(iface, otx_value, p.secret)))
+        py_args.append(engine_json(recorded(iface, x, p.secret)))
     case.otx_in, case.py_in = bytes(otx_in.out), bytes(py_in.out)
     case.otx_arguments = "[" + ",".join(otx_args) + "]"
     case.py_arguments = "[" + ",".join(py_args) + "]"

@@ -710,9 +710,11 @@ def engine_front_cpp(iface: kelidl.Interface) -> str:
         sig = engine_signature(op)
         ret, rest = sig.split(f" {op.name}(", 1)
         names = [p.name for p in op.inputs] + (["callback"] if op.is_async else [])
+        recorded = [f"Secret{{{p.name}}}" if p.secret else p.name for p in op.inputs]
+        recorded += ["callback"] if op.is_async else []
         out.append(f"{ret} EngineFront::{op.name}({rest} {{")
         out.append(f'    const auto call = script_->enter(*clock_, "{op.name}"' +
-                   "".join(f", {n}" for n in names) + ");")
+                   "".join(f", {n}" for n in recorded) + ");")
         out += scripted_return(op)
         out.append(f"    return vehicle_->{op.name}({', '.join(names)});")
         out.append("}")
@@ -839,8 +841,9 @@ def engine_fields_h(iface: kelidl.Interface) -> str:
            "// a record is streamed and described.",
            "#pragma once", "", "#include <Kel_cpp/Records.h>", "", "#include <tuple>", "",
            f"namespace {ENGINE_NS}::Fields {{", "",
-           "template <class C, class M, bool Bits = false> struct Member {",
+           "template <class C, class M, bool Bits = false, bool Secret = false> struct Member {",
            "    static constexpr bool bits = Bits; // a bit set, streamed as a list of bits",
+           "    static constexpr bool secret = Secret; // a password: never described in clear",
            "    const char* name;",
            "    M C::*pointer;",
            "};",
@@ -848,6 +851,9 @@ def engine_fields_h(iface: kelidl.Interface) -> str:
            "    return {name, pointer};",
            "}",
            "template <class C, class M> constexpr Member<C, M, true> bitset(const char* name, M C::*pointer) {",
+           "    return {name, pointer};",
+           "}",
+           "template <class C, class M> constexpr Member<C, M, false, true> secret(const char* name, M C::*pointer) {",
            "    return {name, pointer};",
            "}", "",
            "// Specialised for every engine record class.",
@@ -863,7 +869,8 @@ def fields_of(records: list[kelidl.Record], engine_ns: str, iface: kelidl.Interf
     out = []
     for rec in records:
         cls = f"{engine_ns}{rec.name}"
-        names = [("bitset" if f.kind == "bits" else "member", f.name) for f in iface.members(rec.name)]
+        names = [("bitset" if f.kind == "bits" else "secret" if f.secret else "member", f.name)
+                 for f in iface.members(rec.name)]
         out.append(f"template <> struct Of<{cls}> {{")
         if names:
             out.append("    static constexpr auto list = std::make_tuple(")

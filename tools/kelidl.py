@@ -53,6 +53,7 @@ class Field:
     length: int = 0  # array length
     c_record: str | None = None  # the C record of `record` when that is an `as=` class
     direction: str = "both"  # "in": C to engine only; "out": engine to C only
+    secret: bool = False  # a password: never recorded or shown in clear
     doc: str = ""  # the trailing `#:` text of its line
 
     @property
@@ -87,6 +88,7 @@ class Value:
     record: str | None = None
     count: str | None = None
     c_record: str | None = None  # the C record of `record` when that is an `as=` class
+    secret: bool = False  # a password: never recorded or shown in clear
 
     @property
     def c_name(self) -> str | None:
@@ -237,12 +239,24 @@ class _Docs:
             raise DescriptionError(f"{self.where}: a #: doc must stand directly above its {what}")
 
 
+def _secret(words: list[str], where: str) -> bool:
+    """Takes a trailing `secret` off `words`: allowed on a wide string only."""
+    if len(words) < 3 or words[-1] != "secret":
+        return False
+    if words[0] != "wstr":
+        raise DescriptionError(f"{where}: only a 'wstr' can be secret")
+    words.pop()
+    return True
+
+
 def _parse_field(words: list[str], where: str) -> Field:
     direction = "both"
     if len(words) > 2 and words[-1] in DIRECTIONS[1:]:
         direction = words.pop()
+    secret = _secret(words, where)
     field = _parse_field_kind(words, where)
     field.direction = direction
+    field.secret = secret
     return field
 
 
@@ -278,6 +292,9 @@ def _parse_value(text: str, kinds: set[str], counted: set[str], where: str) -> V
     words = text.split()
     if not words:
         raise DescriptionError(f"{where}: empty parameter")
+    secret = _secret(words, where)
+    if secret and kinds is not PARAM_KINDS:
+        raise DescriptionError(f"{where}: a result cannot be secret")
     kind = words[0]
     if kind not in kinds:
         raise DescriptionError(f"{where}: unknown kind '{kind}'")
@@ -289,7 +306,7 @@ def _parse_value(text: str, kinds: set[str], counted: set[str], where: str) -> V
     want = 3 if kind in counted else 2
     if len(words) != want:
         raise DescriptionError(f"{where}: '{text}' needs a name{' and a count' if want == 3 else ''}")
-    return Value(kind, words[1], count=words[2] if want == 3 else None)
+    return Value(kind, words[1], count=words[2] if want == 3 else None, secret=secret)
 
 
 ATTRIBUTES = ("remote", "discard", "api64", "pyreturn", "custom")

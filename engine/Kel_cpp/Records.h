@@ -1012,9 +1012,11 @@ public:
     uint32_t value = 0;
 };
 
-class LogInOutConfig { // fields come with its family
+class LogInOutConfig {
 public:
     virtual ~LogInOutConfig() = default;
+    std::wstring user;
+    std::wstring password;
 };
 
 class TarnApiServerConfig {

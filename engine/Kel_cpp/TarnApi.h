@@ -356,9 +356,9 @@ public:
 
     virtual void initialize() = 0;                                  // 2
     virtual void end() = 0;                                         // 3
-    virtual std::wstring startServer(const std::wstring& text) = 0; // 4
-    virtual void stopServer(const std::wstring& text) = 0;          // 5
-    virtual void restartServer(int32_t value) = 0;                  // 6
+    virtual std::wstring startServer(const std::wstring& name) = 0; // 4
+    virtual void stopServer(const std::wstring& reason) = 0;        // 5
+    virtual void restartServer(int32_t endClients) = 0;             // 6
     virtual std::shared_ptr<ProjectConfig>
     getProjectConfiguration(const std::wstring& projectName) = 0; // 7
     virtual void setProjectConfiguration(const std::wstring& projectName,
@@ -421,8 +421,8 @@ public:
                      std::shared_ptr<DtcReadConfig> config) = 0; // 35
     virtual uint64_t performQuickTestAsync(const std::vector<std::wstring>& targets,
                                            std::shared_ptr<DtcReadConfig> config,
-                                           PerformQuickTestCallback* callback) = 0;     // 36
-    virtual std::shared_ptr<TarnApi> connectRemoteServer(const std::wstring& text) = 0; // 37
+                                           PerformQuickTestCallback* callback) = 0;        // 36
+    virtual std::shared_ptr<TarnApi> connectRemoteServer(const std::wstring& address) = 0; // 37
     virtual std::vector<std::shared_ptr<ParameterInfo>>
     getMeasurementValueInfos(const std::wstring& target) = 0; // 38
     virtual uint64_t registerMeasurementValues(const std::wstring& target,
@@ -562,13 +562,13 @@ public:
     virtual uint64_t detectDynInterfacesExAsync(uint32_t value,
                                                 DetectDynInterfacesExCallback* callback) = 0; // 122
     virtual void connectDynInterfaceEx(const std::wstring& name, bool flag) = 0;              // 123
-    virtual void addUser(const std::wstring& text1, const std::wstring& text2,
-                         uint32_t value) = 0;                        // 124
-    virtual void removeUser(const std::wstring& text) = 0;           // 125
+    virtual void addUser(const std::wstring& name, const std::wstring& password,
+                         uint32_t role) = 0;                         // 124
+    virtual void removeUser(const std::wstring& name) = 0;           // 125
     virtual std::vector<std::shared_ptr<UserInfo>> getUsers() = 0;   // 126
     virtual void logOut(std::shared_ptr<LogInOutConfig> config) = 0; // 127
-    virtual void updateUser(const std::wstring& text1, const std::wstring& text2,
-                            const std::wstring& text3, uint32_t value) = 0;         // 128
+    virtual void updateUser(const std::wstring& name, const std::wstring& newName,
+                            const std::wstring& newPassword, uint32_t role) = 0;    // 128
     virtual bool getServerUserManagement() = 0;                                     // 129
     virtual void setServerUserManagement(bool enabled) = 0;                         // 130
     virtual void registerServerHandler(std::shared_ptr<ServerHandler> handler) = 0; // 131
@@ -681,17 +681,17 @@ public:
     virtual std::vector<std::shared_ptr<PathCopyResult>>
     copyPath(std::shared_ptr<PathCopyConfig> config) = 0; // 207
     virtual uint64_t copyPathAsync(std::shared_ptr<PathCopyConfig> config,
-                                   CopyPathCallback* callback) = 0;           // 208
-    virtual void reserved209() = 0;                                           // 209
-    virtual void reserved210() = 0;                                           // 210
-    virtual void reserved211() = 0;                                           // 211
-    virtual void reserved212() = 0;                                           // 212
-    virtual bool thirdPartyLogin(const std::wstring& text) = 0;               // 213
-    virtual void clearUpdatePackages() = 0;                                   // 214
-    virtual std::wstring getThirdPartyLoginUrl(const std::wstring& text) = 0; // 215
+                                   CopyPathCallback* callback) = 0;               // 208
+    virtual void reserved209() = 0;                                               // 209
+    virtual void reserved210() = 0;                                               // 210
+    virtual void reserved211() = 0;                                               // 211
+    virtual void reserved212() = 0;                                               // 212
+    virtual bool thirdPartyLogin(const std::wstring& code) = 0;                   // 213
+    virtual void clearUpdatePackages() = 0;                                       // 214
+    virtual std::wstring getThirdPartyLoginUrl(const std::wstring& provider) = 0; // 215
     virtual void selectDynamicProject(const std::wstring& projectName,
                                       const std::vector<std::wstring>& items) = 0; // 216
-    virtual std::wstring getCertificateByPublicKey(const std::wstring& text1,
+    virtual std::wstring getCertificateByPublicKey(const std::wstring& publicKey,
                                                    const std::wstring& text2,
                                                    const std::wstring& text3,
                                                    const std::wstring& text4) = 0; // 217
@@ -699,7 +699,7 @@ public:
     createCertificateFromCSR(const std::wstring& text1, const std::wstring& text2,
                              const std::wstring& text3, const std::wstring& text4,
                              const std::wstring& text5, const std::wstring& text6) = 0; // 218
-    virtual std::vector<std::wstring> getCertificateChainById(const std::wstring& text1,
+    virtual std::vector<std::wstring> getCertificateChainById(const std::wstring& id,
                                                               const std::wstring& text2,
                                                               const std::wstring& text3) = 0; // 219
     virtual std::vector<std::shared_ptr<EcuOrderEntry>> createDefaultECUOrder() = 0;          // 220

@@ -9,9 +9,10 @@
 
 namespace Varno::Kel_cpp::Fields {
 
-template <class C, class M, bool Bits = false>
+template <class C, class M, bool Bits = false, bool Secret = false>
 struct Member {
-    static constexpr bool bits = Bits; // a bit set, streamed as a list of bits
+    static constexpr bool bits = Bits;     // a bit set, streamed as a list of bits
+    static constexpr bool secret = Secret; // a password: never described in clear
     const char* name;
     M C::*pointer;
 };
@@ -21,6 +22,10 @@ constexpr Member<C, M> member(const char* name, M C::*pointer) {
 }
 template <class C, class M>
 constexpr Member<C, M, true> bitset(const char* name, M C::*pointer) {
+    return {name, pointer};
+}
+template <class C, class M>
+constexpr Member<C, M, false, true> secret(const char* name, M C::*pointer) {
     return {name, pointer};
 }
 
@@ -817,7 +822,8 @@ struct Of<UserInfo> {
 
 template <>
 struct Of<LogInOutConfig> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(member("user", &LogInOutConfig::user),
+                                                 secret("password", &LogInOutConfig::password));
 };
 
 template <>

@@ -280,6 +280,18 @@ void release_PathCopyConfig_array(PathCopyConfig** ptr, uint64_t count) {
 }
 void release_UserInfo(UserInfo* ptr) { kel::release(ptr); }
 void release_UserInfo_array(UserInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
+void release_LogInOutConfig(LogInOutConfig* ptr) { kel::release(ptr); }
+void release_LogInOutConfig_array(LogInOutConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_TarnApiServerConfig(TarnApiServerConfig* ptr) { kel::release(ptr); }
+void release_TarnApiServerConfig_array(TarnApiServerConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_ServerSettings(ServerSettings* ptr) { kel::release(ptr); }
+void release_ServerSettings_array(ServerSettings** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
 
 void kel_initialize(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->initialize(); });
@@ -287,15 +299,15 @@ void kel_initialize(TarnApi* api, KelError** error) {
 void kel_end(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->end(); });
 }
-void kel_startServer(TarnApi* api, const wchar_t* text, KelError** error, wchar_t** result) {
+void kel_startServer(TarnApi* api, const wchar_t* name, KelError** error, wchar_t** address) {
     kel::invoke(
-        error, [&] { return api->startServer(kel::in::text(text)); }, kel::out::text(result));
+        error, [&] { return api->startServer(kel::in::text(name)); }, kel::out::text(address));
 }
-void kel_stopServer(TarnApi* api, const wchar_t* text, KelError** error) {
-    kel::invoke(error, [&] { api->stopServer(kel::in::text(text)); });
+void kel_stopServer(TarnApi* api, const wchar_t* reason, KelError** error) {
+    kel::invoke(error, [&] { api->stopServer(kel::in::text(reason)); });
 }
-void kel_restartServer(TarnApi* api, int32_t value, KelError** error) {
-    kel::invoke(error, [&] { api->restartServer(value); });
+void kel_restartServer(TarnApi* api, int32_t endClients, KelError** error) {
+    kel::invoke(error, [&] { api->restartServer(endClients); });
 }
 void kel_getProjectConfiguration(TarnApi* api, const wchar_t* projectName, KelError** error,
                                  ProjectConfig** config) {
@@ -437,10 +449,10 @@ void kel_getServiceInfos(TarnApi* api, const wchar_t* text1, const wchar_t* text
         },
         kel::out::records(services, serviceCount));
 }
-void kel_connectRemoteServer(TarnApi* api, const wchar_t* text, KelError** error,
+void kel_connectRemoteServer(TarnApi* api, const wchar_t* address, KelError** error,
                              uint64_t* handle) {
     kel::invoke(
-        error, [&] { return api->connectRemoteServer(kel::in::text(text)); },
+        error, [&] { return api->connectRemoteServer(kel::in::text(address)); },
         kel::out::engine(handle));
 }
 void kel_getMeasurementValueInfos(TarnApi* api, const wchar_t* target, KelError** error,
@@ -878,21 +890,25 @@ uint64_t kel_detectDynInterfacesExAsync(TarnApi* api, uint32_t value, KelError**
 void kel_connectDynInterfaceEx(TarnApi* api, const wchar_t* name, uint8_t flag, KelError** error) {
     kel::invoke(error, [&] { api->connectDynInterfaceEx(kel::in::text(name), flag != 0); });
 }
-void kel_addUser(TarnApi* api, const wchar_t* text1, const wchar_t* text2, uint32_t value,
+void kel_addUser(TarnApi* api, const wchar_t* name, const wchar_t* password, uint32_t role,
                  KelError** error) {
-    kel::invoke(error, [&] { api->addUser(kel::in::text(text1), kel::in::text(text2), value); });
+    kel::invoke(error, [&] { api->addUser(kel::in::text(name), kel::in::text(password), role); });
 }
-void kel_removeUser(TarnApi* api, const wchar_t* text, KelError** error) {
-    kel::invoke(error, [&] { api->removeUser(kel::in::text(text)); });
+void kel_removeUser(TarnApi* api, const wchar_t* name, KelError** error) {
+    kel::invoke(error, [&] { api->removeUser(kel::in::text(name)); });
 }
 void kel_getUsers(TarnApi* api, KelError** error, UserInfo*** users, uint32_t* userCount) {
     kel::invoke(
         error, [&] { return api->getUsers(); }, kel::out::records(users, userCount));
 }
-void kel_updateUser(TarnApi* api, const wchar_t* text1, const wchar_t* text2, const wchar_t* text3,
-                    uint32_t value, KelError** error) {
+void kel_logOut(TarnApi* api, LogInOutConfig* config, KelError** error) {
+    kel::invoke(error, [&] { api->logOut(kel::in::record(config)); });
+}
+void kel_updateUser(TarnApi* api, const wchar_t* name, const wchar_t* newName,
+                    const wchar_t* newPassword, uint32_t role, KelError** error) {
     kel::invoke(error, [&] {
-        api->updateUser(kel::in::text(text1), kel::in::text(text2), kel::in::text(text3), value);
+        api->updateUser(kel::in::text(name), kel::in::text(newName), kel::in::text(newPassword),
+                        role);
     });
 }
 void kel_getServerUserManagement(TarnApi* api, KelError** error, uint8_t* enabled) {
@@ -1197,16 +1213,17 @@ uint64_t kel_copyPathAsync(TarnApi* api, PathCopyConfig* config, KelError** erro
         return api->copyPathAsync(kel::in::record(config), handler);
     });
 }
-void kel_thirdPartyLogin(TarnApi* api, const wchar_t* text, KelError** error, uint8_t* result) {
+void kel_thirdPartyLogin(TarnApi* api, const wchar_t* code, KelError** error, uint8_t* result) {
     kel::invoke(
-        error, [&] { return api->thirdPartyLogin(kel::in::text(text)); }, kel::out::value(result));
+        error, [&] { return api->thirdPartyLogin(kel::in::text(code)); }, kel::out::value(result));
 }
 void kel_clearUpdatePackages(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->clearUpdatePackages(); });
 }
-void kel_getThirdPartyLoginUrl(TarnApi* api, const wchar_t* text, KelError** error, wchar_t** url) {
+void kel_getThirdPartyLoginUrl(TarnApi* api, const wchar_t* provider, KelError** error,
+                               wchar_t** url) {
     kel::invoke(
-        error, [&] { return api->getThirdPartyLoginUrl(kel::in::text(text)); },
+        error, [&] { return api->getThirdPartyLoginUrl(kel::in::text(provider)); },
         kel::out::text(url));
 }
 void kel_selectDynamicProject(TarnApi* api, const wchar_t* projectName, wchar_t** items,
@@ -1215,13 +1232,13 @@ void kel_selectDynamicProject(TarnApi* api, const wchar_t* projectName, wchar_t*
         api->selectDynamicProject(kel::in::text(projectName), kel::in::texts(items, itemCount));
     });
 }
-void kel_getCertificateByPublicKey(TarnApi* api, const wchar_t* text1, const wchar_t* text2,
+void kel_getCertificateByPublicKey(TarnApi* api, const wchar_t* publicKey, const wchar_t* text2,
                                    const wchar_t* text3, const wchar_t* text4, KelError** error,
                                    wchar_t** certificate) {
     kel::invoke(
         error,
         [&] {
-            return api->getCertificateByPublicKey(kel::in::text(text1), kel::in::text(text2),
+            return api->getCertificateByPublicKey(kel::in::text(publicKey), kel::in::text(text2),
                                                   kel::in::text(text3), kel::in::text(text4));
         },
         kel::out::text(certificate));
@@ -1238,13 +1255,13 @@ void kel_createCertificateFromCSR(TarnApi* api, const wchar_t* text1, const wcha
         },
         kel::out::text(certificate));
 }
-void kel_getCertificateChainById(TarnApi* api, const wchar_t* text1, const wchar_t* text2,
+void kel_getCertificateChainById(TarnApi* api, const wchar_t* id, const wchar_t* text2,
                                  const wchar_t* text3, KelError** error, wchar_t*** chain,
                                  uint32_t* chainCount) {
     kel::invoke(
         error,
         [&] {
-            return api->getCertificateChainById(kel::in::text(text1), kel::in::text(text2),
+            return api->getCertificateChainById(kel::in::text(id), kel::in::text(text2),
                                                 kel::in::text(text3));
         },
         kel::out::texts(chain, chainCount));
@@ -1313,6 +1330,9 @@ void kel_startSOVDServer(TarnApi* api, KelError** error) {
 void kel_stopSOVDServer(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->stopSOVDServer(); });
 }
+void kel_logIn(TarnApi* api, LogInOutConfig* config, KelError** error) {
+    kel::invoke(error, [&] { api->logIn(kel::in::record(config)); });
+}
 void kel_getProjectConfigurations(TarnApi* api, KelError** error, ProjectConfig*** configs,
                                   uint32_t* configCount) {
     kel::invoke(
@@ -1340,6 +1360,10 @@ void kel_getConfiguration(TarnApi* api, KelError** error, TarnApiConfig** config
 }
 void kel_setConfiguration(TarnApi* api, KelError** error, TarnApiConfig* config) {
     kel::invoke(error, [&] { api->setConfiguration(kel::in::record(config)); });
+}
+void kel_getServerSettings(TarnApi* api, KelError** error, ServerSettings** settings) {
+    kel::invoke(
+        error, [&] { return api->getServerSettings(); }, kel::out::record(settings));
 }
 void kel_getTargets(TarnApi* api, KelError** error, Target*** targets, uint32_t* targetCount) {
     kel::invoke(
@@ -1425,6 +1449,10 @@ void kel_setInterfaceProviders(TarnApi* api, KelError** error, InterfaceProvider
 void kel_getCurrentDebugTraceDirectory(TarnApi* api, KelError** error, wchar_t** directory) {
     kel::invoke(
         error, [&] { return api->getCurrentDebugTraceDirectory(); }, kel::out::text(directory));
+}
+void kel_getServerConfiguration(TarnApi* api, KelError** error, TarnApiServerConfig** config) {
+    kel::invoke(
+        error, [&] { return api->getServerConfiguration(); }, kel::out::record(config));
 }
 void kel_getCallDuration(TarnApi* api, KelError** error, uint64_t* duration) {
     kel::invoke(

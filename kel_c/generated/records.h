@@ -1024,6 +1024,44 @@ struct Record<::UserInfo> {
 };
 
 template <>
+struct Record<::LogInOutConfig> {
+    using Engine = Varno::Kel_cpp::LogInOutConfig;
+    static constexpr const char* name = "LogInOutConfig";
+    static constexpr auto fields =
+        std::make_tuple(field(&::LogInOutConfig::user, &Engine::user),
+                        field(&::LogInOutConfig::password, &Engine::password));
+};
+
+template <>
+struct Record<::TarnApiServerConfig> {
+    using Engine = Varno::Kel_cpp::TarnApiServerConfig;
+    static constexpr const char* name = "TarnApiServerConfig";
+    static constexpr auto fields = std::make_tuple(
+        field(&::TarnApiServerConfig::users, &::TarnApiServerConfig::userCount, &Engine::users),
+        field(&::TarnApiServerConfig::flag, &Engine::flag),
+        field(&::TarnApiServerConfig::value1, &Engine::value1),
+        field(&::TarnApiServerConfig::text1, &Engine::text1),
+        field(&::TarnApiServerConfig::text2, &Engine::text2),
+        field(&::TarnApiServerConfig::filters, &::TarnApiServerConfig::filterCount,
+              &Engine::filters),
+        field(&::TarnApiServerConfig::text3, &Engine::text3),
+        field(&::TarnApiServerConfig::text4, &Engine::text4),
+        field(&::TarnApiServerConfig::users2, &::TarnApiServerConfig::userCount2, &Engine::users2),
+        field(&::TarnApiServerConfig::value2, &Engine::value2));
+};
+
+template <>
+struct Record<::ServerSettings> {
+    using Engine = Varno::Kel_cpp::ServerSettings;
+    static constexpr const char* name = "ServerSettings";
+    static constexpr auto fields =
+        std::make_tuple(field(&::ServerSettings::flag, &Engine::flag),
+                        field(&::ServerSettings::value1, &Engine::value1),
+                        field(&::ServerSettings::value2, &Engine::value2),
+                        field(&::ServerSettings::value3, &Engine::value3));
+};
+
+template <>
 struct Alias<::ReadDtcResult, Varno::Kel_cpp::SupportedDtcResult> {
     using Engine = Varno::Kel_cpp::SupportedDtcResult;
     static constexpr auto fields =

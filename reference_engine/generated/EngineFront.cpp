@@ -24,26 +24,26 @@ void EngineFront::end() {
     }
     return vehicle_->end();
 }
-std::wstring EngineFront::startServer(const std::wstring& text) {
-    const auto call = script_->enter(*clock_, "startServer", text);
+std::wstring EngineFront::startServer(const std::wstring& name) {
+    const auto call = script_->enter(*clock_, "startServer", name);
     if (auto scripted = script_->scripted<std::wstring>("startServer")) {
         return std::move(*scripted);
     }
-    return vehicle_->startServer(text);
+    return vehicle_->startServer(name);
 }
-void EngineFront::stopServer(const std::wstring& text) {
-    const auto call = script_->enter(*clock_, "stopServer", text);
+void EngineFront::stopServer(const std::wstring& reason) {
+    const auto call = script_->enter(*clock_, "stopServer", reason);
     if (script_->scriptedVoid("stopServer")) {
         return;
     }
-    return vehicle_->stopServer(text);
+    return vehicle_->stopServer(reason);
 }
-void EngineFront::restartServer(int32_t value) {
-    const auto call = script_->enter(*clock_, "restartServer", value);
+void EngineFront::restartServer(int32_t endClients) {
+    const auto call = script_->enter(*clock_, "restartServer", endClients);
     if (script_->scriptedVoid("restartServer")) {
         return;
     }
-    return vehicle_->restartServer(value);
+    return vehicle_->restartServer(endClients);
 }
 std::shared_ptr<ProjectConfig>
 EngineFront::getProjectConfiguration(const std::wstring& projectName) {
@@ -309,9 +309,9 @@ uint64_t EngineFront::performQuickTestAsync(const std::vector<std::wstring>& tar
     }
     return vehicle_->performQuickTestAsync(targets, config, callback);
 }
-std::shared_ptr<TarnApi> EngineFront::connectRemoteServer(const std::wstring& text) {
-    const auto call = script_->enter(*clock_, "connectRemoteServer", text);
-    return vehicle_->connectRemoteServer(text);
+std::shared_ptr<TarnApi> EngineFront::connectRemoteServer(const std::wstring& address) {
+    const auto call = script_->enter(*clock_, "connectRemoteServer", address);
+    return vehicle_->connectRemoteServer(address);
 }
 std::vector<std::shared_ptr<ParameterInfo>>
 EngineFront::getMeasurementValueInfos(const std::wstring& target) {
@@ -989,19 +989,19 @@ void EngineFront::connectDynInterfaceEx(const std::wstring& name, bool flag) {
     }
     return vehicle_->connectDynInterfaceEx(name, flag);
 }
-void EngineFront::addUser(const std::wstring& text1, const std::wstring& text2, uint32_t value) {
-    const auto call = script_->enter(*clock_, "addUser", text1, text2, value);
+void EngineFront::addUser(const std::wstring& name, const std::wstring& password, uint32_t role) {
+    const auto call = script_->enter(*clock_, "addUser", name, Secret{password}, role);
     if (script_->scriptedVoid("addUser")) {
         return;
     }
-    return vehicle_->addUser(text1, text2, value);
+    return vehicle_->addUser(name, password, role);
 }
-void EngineFront::removeUser(const std::wstring& text) {
-    const auto call = script_->enter(*clock_, "removeUser", text);
+void EngineFront::removeUser(const std::wstring& name) {
+    const auto call = script_->enter(*clock_, "removeUser", name);
     if (script_->scriptedVoid("removeUser")) {
         return;
     }
-    return vehicle_->removeUser(text);
+    return vehicle_->removeUser(name);
 }
 std::vector<std::shared_ptr<UserInfo>> EngineFront::getUsers() {
     const auto call = script_->enter(*clock_, "getUsers");
@@ -1017,13 +1017,14 @@ void EngineFront::logOut(std::shared_ptr<LogInOutConfig> config) {
     }
     return vehicle_->logOut(config);
 }
-void EngineFront::updateUser(const std::wstring& text1, const std::wstring& text2,
-                             const std::wstring& text3, uint32_t value) {
-    const auto call = script_->enter(*clock_, "updateUser", text1, text2, text3, value);
+void EngineFront::updateUser(const std::wstring& name, const std::wstring& newName,
+                             const std::wstring& newPassword, uint32_t role) {
+    const auto call =
+        script_->enter(*clock_, "updateUser", name, newName, Secret{newPassword}, role);
     if (script_->scriptedVoid("updateUser")) {
         return;
     }
-    return vehicle_->updateUser(text1, text2, text3, value);
+    return vehicle_->updateUser(name, newName, newPassword, role);
 }
 bool EngineFront::getServerUserManagement() {
     const auto call = script_->enter(*clock_, "getServerUserManagement");
@@ -1672,12 +1673,12 @@ void EngineFront::reserved212() {
     }
     return vehicle_->reserved212();
 }
-bool EngineFront::thirdPartyLogin(const std::wstring& text) {
-    const auto call = script_->enter(*clock_, "thirdPartyLogin", text);
+bool EngineFront::thirdPartyLogin(const std::wstring& code) {
+    const auto call = script_->enter(*clock_, "thirdPartyLogin", Secret{code});
     if (auto scripted = script_->scripted<bool>("thirdPartyLogin")) {
         return std::move(*scripted);
     }
-    return vehicle_->thirdPartyLogin(text);
+    return vehicle_->thirdPartyLogin(code);
 }
 void EngineFront::clearUpdatePackages() {
     const auto call = script_->enter(*clock_, "clearUpdatePackages");
@@ -1686,12 +1687,12 @@ void EngineFront::clearUpdatePackages() {
     }
     return vehicle_->clearUpdatePackages();
 }
-std::wstring EngineFront::getThirdPartyLoginUrl(const std::wstring& text) {
-    const auto call = script_->enter(*clock_, "getThirdPartyLoginUrl", text);
+std::wstring EngineFront::getThirdPartyLoginUrl(const std::wstring& provider) {
+    const auto call = script_->enter(*clock_, "getThirdPartyLoginUrl", provider);
     if (auto scripted = script_->scripted<std::wstring>("getThirdPartyLoginUrl")) {
         return std::move(*scripted);
     }
-    return vehicle_->getThirdPartyLoginUrl(text);
+    return vehicle_->getThirdPartyLoginUrl(provider);
 }
 void EngineFront::selectDynamicProject(const std::wstring& projectName,
                                        const std::vector<std::wstring>& items) {
@@ -1701,16 +1702,16 @@ void EngineFront::selectDynamicProject(const std::wstring& projectName,
     }
     return vehicle_->selectDynamicProject(projectName, items);
 }
-std::wstring EngineFront::getCertificateByPublicKey(const std::wstring& text1,
+std::wstring EngineFront::getCertificateByPublicKey(const std::wstring& publicKey,
                                                     const std::wstring& text2,
                                                     const std::wstring& text3,
                                                     const std::wstring& text4) {
     const auto call =
-        script_->enter(*clock_, "getCertificateByPublicKey", text1, text2, text3, text4);
+        script_->enter(*clock_, "getCertificateByPublicKey", publicKey, text2, text3, text4);
     if (auto scripted = script_->scripted<std::wstring>("getCertificateByPublicKey")) {
         return std::move(*scripted);
     }
-    return vehicle_->getCertificateByPublicKey(text1, text2, text3, text4);
+    return vehicle_->getCertificateByPublicKey(publicKey, text2, text3, text4);
 }
 std::wstring
 EngineFront::createCertificateFromCSR(const std::wstring& text1, const std::wstring& text2,
@@ -1723,14 +1724,14 @@ EngineFront::createCertificateFromCSR(const std::wstring& text1, const std::wstr
     }
     return vehicle_->createCertificateFromCSR(text1, text2, text3, text4, text5, text6);
 }
-std::vector<std::wstring> EngineFront::getCertificateChainById(const std::wstring& text1,
+std::vector<std::wstring> EngineFront::getCertificateChainById(const std::wstring& id,
                                                                const std::wstring& text2,
                                                                const std::wstring& text3) {
-    const auto call = script_->enter(*clock_, "getCertificateChainById", text1, text2, text3);
+    const auto call = script_->enter(*clock_, "getCertificateChainById", id, text2, text3);
     if (auto scripted = script_->scripted<std::vector<std::wstring>>("getCertificateChainById")) {
         return std::move(*scripted);
     }
-    return vehicle_->getCertificateChainById(text1, text2, text3);
+    return vehicle_->getCertificateChainById(id, text2, text3);
 }
 std::vector<std::shared_ptr<EcuOrderEntry>> EngineFront::createDefaultECUOrder() {
     const auto call = script_->enter(*clock_, "createDefaultECUOrder");

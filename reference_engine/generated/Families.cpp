@@ -760,13 +760,15 @@ void VehicleUpdateFamily::setSelectedVehicleInformation(std::shared_ptr<VehicleI
 
 void FamilyRouter::initialize() { return families_.lifecycle->initialize(); }
 void FamilyRouter::end() { return families_.lifecycle->end(); }
-std::wstring FamilyRouter::startServer(const std::wstring& text) {
-    return families_.servers->startServer(text);
+std::wstring FamilyRouter::startServer(const std::wstring& name) {
+    return families_.servers->startServer(name);
 }
-void FamilyRouter::stopServer(const std::wstring& text) {
-    return families_.servers->stopServer(text);
+void FamilyRouter::stopServer(const std::wstring& reason) {
+    return families_.servers->stopServer(reason);
 }
-void FamilyRouter::restartServer(int32_t value) { return families_.servers->restartServer(value); }
+void FamilyRouter::restartServer(int32_t endClients) {
+    return families_.servers->restartServer(endClients);
+}
 std::shared_ptr<ProjectConfig>
 FamilyRouter::getProjectConfiguration(const std::wstring& projectName) {
     return families_.projects->getProjectConfiguration(projectName);
@@ -884,8 +886,8 @@ uint64_t FamilyRouter::performQuickTestAsync(const std::vector<std::wstring>& ta
                                              PerformQuickTestCallback* callback) {
     return families_.diagnostics->performQuickTestAsync(targets, std::move(config), callback);
 }
-std::shared_ptr<TarnApi> FamilyRouter::connectRemoteServer(const std::wstring& text) {
-    return families_.servers->connectRemoteServer(text);
+std::shared_ptr<TarnApi> FamilyRouter::connectRemoteServer(const std::wstring& address) {
+    return families_.servers->connectRemoteServer(address);
 }
 std::vector<std::shared_ptr<ParameterInfo>>
 FamilyRouter::getMeasurementValueInfos(const std::wstring& target) {
@@ -1161,11 +1163,11 @@ uint64_t FamilyRouter::detectDynInterfacesExAsync(uint32_t value,
 void FamilyRouter::connectDynInterfaceEx(const std::wstring& name, bool flag) {
     return families_.interfaces->connectDynInterfaceEx(name, flag);
 }
-void FamilyRouter::addUser(const std::wstring& text1, const std::wstring& text2, uint32_t value) {
-    return families_.servers->addUser(text1, text2, value);
+void FamilyRouter::addUser(const std::wstring& name, const std::wstring& password, uint32_t role) {
+    return families_.servers->addUser(name, password, role);
 }
-void FamilyRouter::removeUser(const std::wstring& text) {
-    return families_.servers->removeUser(text);
+void FamilyRouter::removeUser(const std::wstring& name) {
+    return families_.servers->removeUser(name);
 }
 std::vector<std::shared_ptr<UserInfo>> FamilyRouter::getUsers() {
     return families_.servers->getUsers();
@@ -1173,9 +1175,9 @@ std::vector<std::shared_ptr<UserInfo>> FamilyRouter::getUsers() {
 void FamilyRouter::logOut(std::shared_ptr<LogInOutConfig> config) {
     return families_.servers->logOut(std::move(config));
 }
-void FamilyRouter::updateUser(const std::wstring& text1, const std::wstring& text2,
-                              const std::wstring& text3, uint32_t value) {
-    return families_.servers->updateUser(text1, text2, text3, value);
+void FamilyRouter::updateUser(const std::wstring& name, const std::wstring& newName,
+                              const std::wstring& newPassword, uint32_t role) {
+    return families_.servers->updateUser(name, newName, newPassword, role);
 }
 bool FamilyRouter::getServerUserManagement() {
     return families_.servers->getServerUserManagement();
@@ -1401,22 +1403,22 @@ void FamilyRouter::reserved209() { throw unsupported("reserved209"); }
 void FamilyRouter::reserved210() { throw unsupported("reserved210"); }
 void FamilyRouter::reserved211() { throw unsupported("reserved211"); }
 void FamilyRouter::reserved212() { throw unsupported("reserved212"); }
-bool FamilyRouter::thirdPartyLogin(const std::wstring& text) {
-    return families_.servers->thirdPartyLogin(text);
+bool FamilyRouter::thirdPartyLogin(const std::wstring& code) {
+    return families_.servers->thirdPartyLogin(code);
 }
 void FamilyRouter::clearUpdatePackages() { return families_.vehicleUpdate->clearUpdatePackages(); }
-std::wstring FamilyRouter::getThirdPartyLoginUrl(const std::wstring& text) {
-    return families_.servers->getThirdPartyLoginUrl(text);
+std::wstring FamilyRouter::getThirdPartyLoginUrl(const std::wstring& provider) {
+    return families_.servers->getThirdPartyLoginUrl(provider);
 }
 void FamilyRouter::selectDynamicProject(const std::wstring& projectName,
                                         const std::vector<std::wstring>& items) {
     return families_.projects->selectDynamicProject(projectName, items);
 }
-std::wstring FamilyRouter::getCertificateByPublicKey(const std::wstring& text1,
+std::wstring FamilyRouter::getCertificateByPublicKey(const std::wstring& publicKey,
                                                      const std::wstring& text2,
                                                      const std::wstring& text3,
                                                      const std::wstring& text4) {
-    return families_.servers->getCertificateByPublicKey(text1, text2, text3, text4);
+    return families_.servers->getCertificateByPublicKey(publicKey, text2, text3, text4);
 }
 std::wstring
 FamilyRouter::createCertificateFromCSR(const std::wstring& text1, const std::wstring& text2,
@@ -1424,10 +1426,10 @@ FamilyRouter::createCertificateFromCSR(const std::wstring& text1, const std::wst
                                        const std::wstring& text5, const std::wstring& text6) {
     return families_.servers->createCertificateFromCSR(text1, text2, text3, text4, text5, text6);
 }
-std::vector<std::wstring> FamilyRouter::getCertificateChainById(const std::wstring& text1,
+std::vector<std::wstring> FamilyRouter::getCertificateChainById(const std::wstring& id,
                                                                 const std::wstring& text2,
                                                                 const std::wstring& text3) {
-    return families_.servers->getCertificateChainById(text1, text2, text3);
+    return families_.servers->getCertificateChainById(id, text2, text3);
 }
 std::vector<std::shared_ptr<EcuOrderEntry>> FamilyRouter::createDefaultECUOrder() {
     return families_.ecuOrder->createDefaultECUOrder();

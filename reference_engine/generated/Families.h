@@ -215,24 +215,24 @@ public:
     ServersFamily& operator=(const ServersFamily&) = delete;
     virtual ~ServersFamily() = default;
 
-    virtual std::wstring startServer(const std::wstring& text);
-    virtual void stopServer(const std::wstring& text);
-    virtual void restartServer(int32_t value);
-    virtual std::shared_ptr<TarnApi> connectRemoteServer(const std::wstring& text);
+    virtual std::wstring startServer(const std::wstring& name);
+    virtual void stopServer(const std::wstring& reason);
+    virtual void restartServer(int32_t endClients);
+    virtual std::shared_ptr<TarnApi> connectRemoteServer(const std::wstring& address);
     virtual void disconnect();
-    virtual void addUser(const std::wstring& text1, const std::wstring& text2, uint32_t value);
-    virtual void removeUser(const std::wstring& text);
+    virtual void addUser(const std::wstring& name, const std::wstring& password, uint32_t role);
+    virtual void removeUser(const std::wstring& name);
     virtual std::vector<std::shared_ptr<UserInfo>> getUsers();
     virtual void logOut(std::shared_ptr<LogInOutConfig> config);
-    virtual void updateUser(const std::wstring& text1, const std::wstring& text2,
-                            const std::wstring& text3, uint32_t value);
+    virtual void updateUser(const std::wstring& name, const std::wstring& newName,
+                            const std::wstring& newPassword, uint32_t role);
     virtual bool getServerUserManagement();
     virtual void setServerUserManagement(bool enabled);
     virtual void disconnectAllClients();
     virtual bool reconnectRemoteServer(uint64_t handle);
-    virtual bool thirdPartyLogin(const std::wstring& text);
-    virtual std::wstring getThirdPartyLoginUrl(const std::wstring& text);
-    virtual std::wstring getCertificateByPublicKey(const std::wstring& text1,
+    virtual bool thirdPartyLogin(const std::wstring& code);
+    virtual std::wstring getThirdPartyLoginUrl(const std::wstring& provider);
+    virtual std::wstring getCertificateByPublicKey(const std::wstring& publicKey,
                                                    const std::wstring& text2,
                                                    const std::wstring& text3,
                                                    const std::wstring& text4);
@@ -240,7 +240,7 @@ public:
     createCertificateFromCSR(const std::wstring& text1, const std::wstring& text2,
                              const std::wstring& text3, const std::wstring& text4,
                              const std::wstring& text5, const std::wstring& text6);
-    virtual std::vector<std::wstring> getCertificateChainById(const std::wstring& text1,
+    virtual std::vector<std::wstring> getCertificateChainById(const std::wstring& id,
                                                               const std::wstring& text2,
                                                               const std::wstring& text3);
     virtual void startSOVDServer();
@@ -593,9 +593,9 @@ public:
 
     void initialize() override;
     void end() override;
-    std::wstring startServer(const std::wstring& text) override;
-    void stopServer(const std::wstring& text) override;
-    void restartServer(int32_t value) override;
+    std::wstring startServer(const std::wstring& name) override;
+    void stopServer(const std::wstring& reason) override;
+    void restartServer(int32_t endClients) override;
     std::shared_ptr<ProjectConfig>
     getProjectConfiguration(const std::wstring& projectName) override;
     void setProjectConfiguration(const std::wstring& projectName,
@@ -657,7 +657,7 @@ public:
     uint64_t performQuickTestAsync(const std::vector<std::wstring>& targets,
                                    std::shared_ptr<DtcReadConfig> config,
                                    PerformQuickTestCallback* callback) override;
-    std::shared_ptr<TarnApi> connectRemoteServer(const std::wstring& text) override;
+    std::shared_ptr<TarnApi> connectRemoteServer(const std::wstring& address) override;
     std::vector<std::shared_ptr<ParameterInfo>>
     getMeasurementValueInfos(const std::wstring& target) override;
     uint64_t registerMeasurementValues(const std::wstring& target,
@@ -788,12 +788,12 @@ public:
     uint64_t detectDynInterfacesExAsync(uint32_t value,
                                         DetectDynInterfacesExCallback* callback) override;
     void connectDynInterfaceEx(const std::wstring& name, bool flag) override;
-    void addUser(const std::wstring& text1, const std::wstring& text2, uint32_t value) override;
-    void removeUser(const std::wstring& text) override;
+    void addUser(const std::wstring& name, const std::wstring& password, uint32_t role) override;
+    void removeUser(const std::wstring& name) override;
     std::vector<std::shared_ptr<UserInfo>> getUsers() override;
     void logOut(std::shared_ptr<LogInOutConfig> config) override;
-    void updateUser(const std::wstring& text1, const std::wstring& text2, const std::wstring& text3,
-                    uint32_t value) override;
+    void updateUser(const std::wstring& name, const std::wstring& newName,
+                    const std::wstring& newPassword, uint32_t role) override;
     bool getServerUserManagement() override;
     void setServerUserManagement(bool enabled) override;
     void registerServerHandler(std::shared_ptr<ServerHandler> handler) override;
@@ -908,19 +908,19 @@ public:
     void reserved210() override;
     void reserved211() override;
     void reserved212() override;
-    bool thirdPartyLogin(const std::wstring& text) override;
+    bool thirdPartyLogin(const std::wstring& code) override;
     void clearUpdatePackages() override;
-    std::wstring getThirdPartyLoginUrl(const std::wstring& text) override;
+    std::wstring getThirdPartyLoginUrl(const std::wstring& provider) override;
     void selectDynamicProject(const std::wstring& projectName,
                               const std::vector<std::wstring>& items) override;
-    std::wstring getCertificateByPublicKey(const std::wstring& text1, const std::wstring& text2,
+    std::wstring getCertificateByPublicKey(const std::wstring& publicKey, const std::wstring& text2,
                                            const std::wstring& text3,
                                            const std::wstring& text4) override;
     std::wstring createCertificateFromCSR(const std::wstring& text1, const std::wstring& text2,
                                           const std::wstring& text3, const std::wstring& text4,
                                           const std::wstring& text5,
                                           const std::wstring& text6) override;
-    std::vector<std::wstring> getCertificateChainById(const std::wstring& text1,
+    std::vector<std::wstring> getCertificateChainById(const std::wstring& id,
                                                       const std::wstring& text2,
                                                       const std::wstring& text3) override;
     std::vector<std::shared_ptr<EcuOrderEntry>> createDefaultECUOrder() override;

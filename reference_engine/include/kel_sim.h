@@ -126,6 +126,17 @@ KEL_SIM_API int64_t kelsim_runningAsyncCalls(uint64_t handle);
 KEL_SIM_API void kelsim_advanceClock(uint64_t milliseconds);
 /* Vehicle time in milliseconds since the engine first read it. */
 KEL_SIM_API int64_t kelsim_clockMs(void);
+/* ---- servers and logins ----
+ * Moves the clock of logins on (throttled logins, identity provider codes), so that a
+ * test need not wait for a throttle to pass. */
+KEL_SIM_API void kelsim_advanceLoginClock(uint32_t milliseconds);
+/* The simulated identity provider (reference_engine/README.md, "Servers"): `user` signs
+ * in at `url`, an address from getThirdPartyLoginUrl, as a browser would. Copies the
+ * one-time authorization code for thirdPartyLogin into `code` (`size` wide characters,
+ * NUL-terminated) and returns its length, or -1 when the address's login state was
+ * never handed out or is used up. */
+KEL_SIM_API int64_t kelsim_signInAtIdentityProvider(const wchar_t* url, const wchar_t* user,
+                                                    wchar_t* code, size_t size);
 
 /* Forgets scripted failures, results, delays, recorded calls, asynchronous scripts, and
  * the vehicle description and data root set above. Scripted reports of asynchronous

@@ -66,6 +66,20 @@ std::wstring eventName(int32_t kind) {
         return L"EventsLost";
     case EventKind::StatusText:
         return L"StatusText";
+    case EventKind::ServerStarted:
+        return L"ServerStarted";
+    case EventKind::ServerStopped:
+        return L"ServerStopped";
+    case EventKind::SovdServerStarted:
+        return L"SovdServerStarted";
+    case EventKind::SovdServerStopped:
+        return L"SovdServerStopped";
+    case EventKind::UserLoggedIn:
+        return L"UserLoggedIn";
+    case EventKind::UserLoggedOut:
+        return L"UserLoggedOut";
+    case EventKind::LoginFailed:
+        return L"LoginFailed";
     case EventKind::Scripted:
         return L"Scripted";
     }

@@ -37,7 +37,14 @@ enum class EventKind : int32_t {
     ClientDisconnected = 12, // code: remote clients connected now; detail: the client
     EventsLost = 13,         // code: events dropped because the channel was full
     StatusText = 14,         // text: the engine's new status text (setStatusText)
-    Scripted = 100,          // posted by tests through kelsim_postEvent (any kind >= 100)
+    ServerStarted = 30,      // detail: where the server listens
+    ServerStopped = 31,      // code: remote connections ended; detail: the reason given
+    SovdServerStarted = 32,  // detail: where the SOVD server listens
+    SovdServerStopped = 33,
+    UserLoggedIn = 34,  // code: the user's role; detail: the user
+    UserLoggedOut = 35, // code: the user's role; detail: the user
+    LoginFailed = 36,   // code: failures of this user in a row; detail: the user name given
+    Scripted = 100,     // posted by tests through kelsim_postEvent (any kind >= 100)
 };
 
 // The event's name (KelEvent::name), e.g. L"LockTaken"; L"Event<n>" for other numbers.

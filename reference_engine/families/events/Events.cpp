@@ -75,12 +75,16 @@ void EventsState::addHandler(std::shared_ptr<ServerHandler> handler) {
     }
 }
 
-std::vector<std::shared_ptr<ServerHandler>> EventsState::countClient(bool connected,
-                                                                     int32_t& clients) {
+bool EventsState::countClient(const std::wstring& client, bool connected, int32_t& clients,
+                              std::vector<std::shared_ptr<ServerHandler>>& handlers) {
     const std::lock_guard lock(handlersMutex_);
-    remoteClients_ += connected ? 1 : -1;
-    clients = remoteClients_;
-    return handlers_;
+    const bool changed =
+        connected ? remoteClients_.insert(client).second : remoteClients_.erase(client) > 0;
+    clients = static_cast<int32_t>(remoteClients_.size());
+    if (changed) {
+        handlers = handlers_;
+    }
+    return changed;
 }
 
 namespace {
@@ -92,7 +96,10 @@ template <class Notify>
 void notifyHandlers(SimulatedVehicle& vehicle, const std::wstring& client, bool connected,
                     Notify notify) {
     int32_t clients = 0;
-    const auto handlers = vehicle.events.countClient(connected, clients);
+    std::vector<std::shared_ptr<ServerHandler>> handlers;
+    if (!vehicle.events.countClient(client, connected, clients, handlers)) {
+        return;
+    }
     post(vehicle, connected ? EventKind::ClientConnected : EventKind::ClientDisconnected, clients,
          connected ? L"A remote client connected" : L"A remote client disconnected", client);
     for (const auto& handler : handlers) {

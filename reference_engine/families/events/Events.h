@@ -10,6 +10,7 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -34,14 +35,17 @@ public:
     // Keeps a handler once, however often it is registered.
     void addHandler(std::shared_ptr<ServerHandler> handler);
     // Counts a remote client in or out: the handlers to tell (a copy) and the clients now.
-    std::vector<std::shared_ptr<ServerHandler>> countClient(bool connected, int32_t& clients);
+    // False, and nobody to tell, when nothing changes: a client counted in already, or
+    // one that is gone already (a connection the server ended is destroyed later).
+    bool countClient(const std::wstring& client, bool connected, int32_t& clients,
+                     std::vector<std::shared_ptr<ServerHandler>>& handlers);
 
     EventChannels channels;
 
 private:
     std::mutex handlersMutex_;
     std::vector<std::shared_ptr<ServerHandler>> handlers_;
-    int32_t remoteClients_ = 0;
+    std::set<std::wstring> remoteClients_;
 };
 
 // Tells the vehicle's server handlers and event channels that a remote client came or

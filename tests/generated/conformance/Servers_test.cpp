@@ -165,21 +165,16 @@ const kc::Case kAddUserCases[] = {
     {"full",
      "[\"Pr\303\274fstand \342\202\254 124.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
      "\204\236 124.2\",4294967295]",
-     "[\"Pr\303\274fstand \342\202\254 124.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
-     "\204\236 124.2\",4294967295]",
-     "null", nullptr,
+     "[\"Pr\303\274fstand \342\202\254 124.1\",\"***\",4294967295]", "null", nullptr,
      "140000005072c3bc667374616e6420e282ac203132342e3114000000e697a5e69cace8aa9e20f09d849e2031"
      "32342e32ffffffff",
      "5072c3bc667374616e6420e282ac203132342e3100e697a5e69cace8aa9e20f09d849e203132342e3200ffff"
      "ffff",
-     "[\"Pr\303\274fstand \342\202\254 124.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
-     "\204\236 124.2\",4294967295]",
-     "[\"Pr\303\274fstand \342\202\254 124.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
-     "\204\236 124.2\",4294967295]",
-     "01", "", 0},
-    {"sparse", "[\"\",\"\",4294967295]", "[\"\",\"\",4294967295]", "null", nullptr,
-     "0000000000000000ffffffff", "0000ffffffff", "[\"\",\"\",4294967295]", "[\"\",\"\",4294967295]",
-     "01", "", 0},
+     "[\"Pr\303\274fstand \342\202\254 124.1\",\"***\",4294967295]",
+     "[\"Pr\303\274fstand \342\202\254 124.1\",\"***\",4294967295]", "01", "", 0},
+    {"sparse", "[\"\",\"\",4294967295]", "[\"\",\"***\",4294967295]", "null", nullptr,
+     "0000000000000000ffffffff", "0000ffffffff", "[\"\",\"***\",4294967295]",
+     "[\"\",\"***\",4294967295]", "01", "", 0},
 };
 
 struct AddUserExport {
@@ -279,7 +274,40 @@ TEST_F(ServersByNumber, n160_getUsers_KelCall) { kc::kelCall(api, kNumber160); }
 TEST_F(ServersByNumber, n160_getUsers_PyCall) { kc::pyCall(api, kNumber160); }
 TEST_F(ServersByNumber, n160_getUsers_Failure) { kc::numberFailure(api, kNumber160); }
 
-TEST_F(ServersByNumber, n159_logOut_NotAvailable) { kc::notAvailable(api, 159, "logOut"); }
+// ---- logOut (position 127, number 159) ----
+
+const kc::Case kLogOutCases[] = {
+    {"full",
+     "[{\"user\":\"Pr\303\274fstand \342\202\254 127.1\",\"password\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 127.2\"}]",
+     "[{\"user\":\"Pr\303\274fstand \342\202\254 127.1\",\"password\":\"***\"}]", "null", nullptr,
+     "140000005072c3bc667374616e6420e282ac203132372e3114000000e697a5e69cace8aa9e20f09d849e2031"
+     "32372e32",
+     "015072c3bc667374616e6420e282ac203132372e3100e697a5e69cace8aa9e20f09d849e203132372e3200",
+     "[{\"user\":\"Pr\303\274fstand \342\202\254 127.1\",\"password\":\"***\"}]",
+     "[{\"user\":\"Pr\303\274fstand \342\202\254 127.1\",\"password\":\"***\"}]", "01", "", 0},
+    {"sparse", "[null]", "[null]", "null", nullptr, "0000000000000000", "00",
+     "[{\"user\":\"\",\"password\":\"***\"}]", "[null]", "01", "", 0},
+};
+
+struct LogOutExport {
+    static constexpr const char* operation = "logOut";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_logOut(api, kc::record<LogInOutConfig>(in[0]), error);
+    }
+};
+
+TEST_F(Servers, logOut_Exchange) { kc::exchange<LogOutExport>(api, kLogOutCases); }
+TEST_F(Servers, logOut_Failure) { kc::failure<LogOutExport>(api, kLogOutCases); }
+
+const kc::Number kNumber159{159, "logOut", kLogOutCases};
+
+TEST_F(ServersByNumber, n159_logOut_KelCall) { kc::kelCall(api, kNumber159); }
+TEST_F(ServersByNumber, n159_logOut_PyCall) { kc::pyCall(api, kNumber159); }
+TEST_F(ServersByNumber, n159_logOut_Failure) { kc::numberFailure(api, kNumber159); }
+TEST_F(ServersByNumber, n159_logOut_ShortInput) { kc::shortInput(api, kNumber159); }
 
 // ---- updateUser (position 128, number 161) ----
 
@@ -288,20 +316,20 @@ const kc::Case kUpdateUserCases[] = {
      "[\"Pr\303\274fstand \342\202\254 128.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
      "\204\236 128.2\",\"K\303\274hler\\u0009\360\237\224\247 128.3\",4294967295]",
      "[\"Pr\303\274fstand \342\202\254 128.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
-     "\204\236 128.2\",\"K\303\274hler\\u0009\360\237\224\247 128.3\",4294967295]",
+     "\204\236 128.2\",\"***\",4294967295]",
      "null", nullptr,
      "140000005072c3bc667374616e6420e282ac203132382e3114000000e697a5e69cace8aa9e20f09d849e2031"
      "32382e32120000004bc3bc686c657209f09f94a7203132382e33ffffffff",
      "5072c3bc667374616e6420e282ac203132382e3100e697a5e69cace8aa9e20f09d849e203132382e32004bc3"
      "bc686c657209f09f94a7203132382e3300ffffffff",
      "[\"Pr\303\274fstand \342\202\254 128.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
-     "\204\236 128.2\",\"K\303\274hler\\u0009\360\237\224\247 128.3\",4294967295]",
+     "\204\236 128.2\",\"***\",4294967295]",
      "[\"Pr\303\274fstand \342\202\254 128.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
-     "\204\236 128.2\",\"K\303\274hler\\u0009\360\237\224\247 128.3\",4294967295]",
+     "\204\236 128.2\",\"***\",4294967295]",
      "01", "", 0},
-    {"sparse", "[\"\",\"\",\"\",4294967295]", "[\"\",\"\",\"\",4294967295]", "null", nullptr,
-     "000000000000000000000000ffffffff", "000000ffffffff", "[\"\",\"\",\"\",4294967295]",
-     "[\"\",\"\",\"\",4294967295]", "01", "", 0},
+    {"sparse", "[\"\",\"\",\"\",4294967295]", "[\"\",\"\",\"***\",4294967295]", "null", nullptr,
+     "000000000000000000000000ffffffff", "000000ffffffff", "[\"\",\"\",\"***\",4294967295]",
+     "[\"\",\"\",\"***\",4294967295]", "01", "", 0},
 };
 
 struct UpdateUserExport {
@@ -450,13 +478,11 @@ TEST_F(ServersByNumber, n199_reconnectRemoteServer_ShortInput) { kc::shortInput(
 // ---- thirdPartyLogin (position 213, number 244) ----
 
 const kc::Case kThirdPartyLoginCases[] = {
-    {"full", "[\"Pr\303\274fstand \342\202\254 213.1\"]",
-     "[\"Pr\303\274fstand \342\202\254 213.1\"]", "true", "1",
+    {"full", "[\"Pr\303\274fstand \342\202\254 213.1\"]", "[\"***\"]", "true", "1",
      "140000005072c3bc667374616e6420e282ac203231332e31",
-     "5072c3bc667374616e6420e282ac203231332e3100", "[\"Pr\303\274fstand \342\202\254 213.1\"]",
-     "[\"Pr\303\274fstand \342\202\254 213.1\"]", "0101", "01", 0},
-    {"sparse", "[\"\"]", "[\"\"]", "true", "1", "00000000", "00", "[\"\"]", "[\"\"]", "0101", "01",
-     0},
+     "5072c3bc667374616e6420e282ac203231332e3100", "[\"***\"]", "[\"***\"]", "0101", "01", 0},
+    {"sparse", "[\"\"]", "[\"***\"]", "true", "1", "00000000", "00", "[\"***\"]", "[\"***\"]",
+     "0101", "01", 0},
 };
 
 struct ThirdPartyLoginExport {
@@ -771,7 +797,40 @@ TEST_F(ServersByNumber, n280_stopSOVDServer_KelCall) { kc::kelCall(api, kNumber2
 TEST_F(ServersByNumber, n280_stopSOVDServer_PyCall) { kc::pyCall(api, kNumber280); }
 TEST_F(ServersByNumber, n280_stopSOVDServer_Failure) { kc::numberFailure(api, kNumber280); }
 
-TEST_F(ServersByNumber, n216_logIn_NotAvailable) { kc::notAvailable(api, 216, "logIn"); }
+// ---- logIn (position 239, number 216) ----
+
+const kc::Case kLogInCases[] = {
+    {"full",
+     "[{\"user\":\"Pr\303\274fstand \342\202\254 239.1\",\"password\":\"\346\227\245\346\234"
+     "\254\350\252\236 \360\235\204\236 239.2\"}]",
+     "[{\"user\":\"Pr\303\274fstand \342\202\254 239.1\",\"password\":\"***\"}]", "null", nullptr,
+     "140000005072c3bc667374616e6420e282ac203233392e3114000000e697a5e69cace8aa9e20f09d849e2032"
+     "33392e32",
+     "015072c3bc667374616e6420e282ac203233392e3100e697a5e69cace8aa9e20f09d849e203233392e3200",
+     "[{\"user\":\"Pr\303\274fstand \342\202\254 239.1\",\"password\":\"***\"}]",
+     "[{\"user\":\"Pr\303\274fstand \342\202\254 239.1\",\"password\":\"***\"}]", "01", "", 0},
+    {"sparse", "[null]", "[null]", "null", nullptr, "0000000000000000", "00",
+     "[{\"user\":\"\",\"password\":\"***\"}]", "[null]", "01", "", 0},
+};
+
+struct LogInExport {
+    static constexpr const char* operation = "logIn";
+    using Result = kc::NoResult;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(out);
+        kel_logIn(api, kc::record<LogInOutConfig>(in[0]), error);
+    }
+};
+
+TEST_F(Servers, logIn_Exchange) { kc::exchange<LogInExport>(api, kLogInCases); }
+TEST_F(Servers, logIn_Failure) { kc::failure<LogInExport>(api, kLogInCases); }
+
+const kc::Number kNumber216{216, "logIn", kLogInCases};
+
+TEST_F(ServersByNumber, n216_logIn_KelCall) { kc::kelCall(api, kNumber216); }
+TEST_F(ServersByNumber, n216_logIn_PyCall) { kc::pyCall(api, kNumber216); }
+TEST_F(ServersByNumber, n216_logIn_Failure) { kc::numberFailure(api, kNumber216); }
+TEST_F(ServersByNumber, n216_logIn_ShortInput) { kc::shortInput(api, kNumber216); }
 
 // ---- getServerSettings (position 248, number 55) ----
 
@@ -782,6 +841,22 @@ const kc::Case kGetServerSettingsCases[] = {
      "[]", "010101ffffffff00000080ffffff7f", "0101ffffffff00000080ffffff7f", 0},
     {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
 };
+
+struct GetServerSettingsExport {
+    static constexpr const char* operation = "getServerSettings";
+    using Result = kc::RecordResult<ServerSettings, release_ServerSettings>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getServerSettings(api, error, &out.data);
+    }
+};
+
+TEST_F(Servers, getServerSettings_Exchange) {
+    kc::exchange<GetServerSettingsExport>(api, kGetServerSettingsCases);
+}
+TEST_F(Servers, getServerSettings_Failure) {
+    kc::failure<GetServerSettingsExport>(api, kGetServerSettingsCases);
+}
 
 const kc::Number kNumber55{55, "getServerSettings", kGetServerSettingsCases};
 
@@ -856,6 +931,22 @@ const kc::Case kGetServerConfigurationCases[] = {
      0},
     {"empty", "[]", "[]", "null", "null", "", "", "[]", "[]", "0100", "00", 0},
 };
+
+struct GetServerConfigurationExport {
+    static constexpr const char* operation = "getServerConfiguration";
+    using Result = kc::RecordResult<TarnApiServerConfig, release_TarnApiServerConfig>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        static_cast<void>(in);
+        kel_getServerConfiguration(api, error, &out.data);
+    }
+};
+
+TEST_F(Servers, getServerConfiguration_Exchange) {
+    kc::exchange<GetServerConfigurationExport>(api, kGetServerConfigurationCases);
+}
+TEST_F(Servers, getServerConfiguration_Failure) {
+    kc::failure<GetServerConfigurationExport>(api, kGetServerConfigurationCases);
+}
 
 const kc::Number kNumber181{181, "getServerConfiguration", kGetServerConfigurationCases};
 

@@ -164,6 +164,12 @@ inline void describe(Out& o, const PathCopyConfig& r);
 inline void build(const Json& j, PathCopyConfig& r);
 inline void describe(Out& o, const UserInfo& r);
 inline void build(const Json& j, UserInfo& r);
+inline void describe(Out& o, const LogInOutConfig& r);
+inline void build(const Json& j, LogInOutConfig& r);
+inline void describe(Out& o, const TarnApiServerConfig& r);
+inline void build(const Json& j, TarnApiServerConfig& r);
+inline void describe(Out& o, const ServerSettings& r);
+inline void build(const Json& j, ServerSettings& r);
 
 inline void describe(Out& o, const MvciServerError& r) {
     o.member("code", r.code);
@@ -1774,6 +1780,62 @@ inline void build(const Json& j, UserInfo& r) {
     set(j.at("name"), r.name);
     set(j.at("text"), r.text);
     set(j.at("value"), r.value);
+}
+
+inline void describe(Out& o, const LogInOutConfig& r) {
+    o.member("user", r.user);
+    o.member("password", r.password);
+    o.end();
+}
+
+inline void build(const Json& j, LogInOutConfig& r) {
+    set(j.at("user"), r.user);
+    set(j.at("password"), r.password);
+}
+
+inline void describe(Out& o, const TarnApiServerConfig& r) {
+    o.member("users", r.users, r.userCount);
+    o.member("userCount", r.userCount);
+    o.member("flag", r.flag);
+    o.member("value1", r.value1);
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("filters", r.filters, r.filterCount);
+    o.member("filterCount", r.filterCount);
+    o.member("text3", r.text3);
+    o.member("text4", r.text4);
+    o.member("users2", r.users2, r.userCount2);
+    o.member("userCount2", r.userCount2);
+    o.member("value2", r.value2);
+    o.end();
+}
+
+inline void build(const Json& j, TarnApiServerConfig& r) {
+    set(j.at("users"), r.users, r.userCount);
+    set(j.at("flag"), r.flag);
+    set(j.at("value1"), r.value1);
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("filters"), r.filters, r.filterCount);
+    set(j.at("text3"), r.text3);
+    set(j.at("text4"), r.text4);
+    set(j.at("users2"), r.users2, r.userCount2);
+    set(j.at("value2"), r.value2);
+}
+
+inline void describe(Out& o, const ServerSettings& r) {
+    o.member("flag", r.flag);
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("value3", r.value3);
+    o.end();
+}
+
+inline void build(const Json& j, ServerSettings& r) {
+    set(j.at("flag"), r.flag);
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("value3"), r.value3);
 }
 
 // The scripted engine failures and what each must give.

@@ -1,0 +1,152 @@
+// Servers: the engine's server and SOVD server, remote connections, users and their
+// logins, the outside identity provider and the certificate store.
+#pragma once
+
+#include "Families.h"
+#include "PasswordHash.h"
+
+#include <nlohmann/json.hpp>
+
+#include <chrono>
+#include <cstdint>
+#include <deque>
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace Varno::Kel_cpp::Reference {
+
+class SimulatedVehicle;
+struct EngineObject;
+
+// Roles of the server's users (UserInfo::value).
+enum UserRole : uint32_t {
+    Operator = 1,
+    Administrator = 2,
+};
+
+// The clock of logins and identity provider codes: the steady clock plus what tests
+// moved it on by (kelsim_advanceLoginClock), so that no test sleeps through a throttle.
+std::chrono::steady_clock::time_point loginClock();
+void advanceLoginClock(std::chrono::milliseconds by);
+
+// The "servers" section of the vehicle description.
+struct ServersSettings {
+    uint32_t passwordIterations = 100000; // PBKDF2 iterations for a new password
+    uint32_t failedLogins = 3;            // failures in a row before logins are throttled
+    uint32_t throttleMs = 1000;           // the first wait; it doubles with each failure
+
+    // Throws TarnApiException BadVehicleDescription.
+    static ServersSettings parse(const nlohmann::json& section);
+};
+
+// Per vehicle, under its own lock. Users and the user management switch live in the
+// data root's "users" folder, read on first use.
+class ServersState {
+public:
+    void load(const ServersSettings& settings);
+
+    // The check every call of a remote client's connection passes (CallClock::admit).
+    void admit(uint64_t handle, std::string_view operation);
+
+private:
+    friend class Servers;
+
+    struct User {
+        uint32_t role = Operator;
+        PasswordHash password;
+    };
+    // One per remote connection, and one for a local engine object that logged in.
+    struct Session {
+        std::wstring client; // empty for a local engine object
+        bool ended = false;  // ended by the server or by the client; calls are refused
+        std::wstring user;   // logged in as; empty when not logged in
+    };
+    struct Failures {
+        uint32_t count = 0;
+        std::chrono::steady_clock::time_point until; // throttled until then
+    };
+
+    // Callers hold mutex_.
+    void readUsersLocked();
+    void saveUsersLocked();
+
+    std::mutex mutex_;
+    ServersSettings settings_;
+    bool usersRead_ = false;
+    std::filesystem::path usersFile_;
+    std::map<std::wstring, User> users_;
+    bool userManagement_ = false;
+    std::map<uint64_t, Session> sessions_;      // by engine handle
+    std::map<std::wstring, Failures> failures_; // by user name, known or not
+    std::wstring serverAddress_;                // empty while the server is stopped
+    std::wstring sovdAddress_;                  // empty while the SOVD server is stopped
+    // Connections ended (false) and renewed (true), in order, for the handlers.
+    std::deque<std::pair<std::wstring, bool>> announcements_;
+    bool announcing_ = false;
+};
+
+class Servers final : public ServersFamily {
+public:
+    Servers(std::shared_ptr<SimulatedVehicle> vehicle, const EngineObject& object);
+    Servers(const Servers&) = delete;
+    Servers& operator=(const Servers&) = delete;
+    ~Servers() override;
+
+    std::wstring startServer(const std::wstring& name) override;
+    void stopServer(const std::wstring& reason) override;
+    void restartServer(int32_t endClients) override;
+    std::shared_ptr<TarnApi> connectRemoteServer(const std::wstring& address) override;
+    void disconnect() override;
+    void addUser(const std::wstring& name, const std::wstring& password, uint32_t role) override;
+    void removeUser(const std::wstring& name) override;
+    std::vector<std::shared_ptr<UserInfo>> getUsers() override;
+    void logOut(std::shared_ptr<LogInOutConfig> config) override;
+    void updateUser(const std::wstring& name, const std::wstring& newName,
+                    const std::wstring& newPassword, uint32_t role) override;
+    bool getServerUserManagement() override;
+    void setServerUserManagement(bool enabled) override;
+    void disconnectAllClients() override;
+    bool reconnectRemoteServer(uint64_t handle) override;
+    bool thirdPartyLogin(const std::wstring& code) override;
+    std::wstring getThirdPartyLoginUrl(const std::wstring& provider) override;
+    std::wstring getCertificateByPublicKey(const std::wstring& publicKey, const std::wstring& text2,
+                                           const std::wstring& text3,
+                                           const std::wstring& text4) override;
+    std::wstring createCertificateFromCSR(const std::wstring& text1, const std::wstring& text2,
+                                          const std::wstring& text3, const std::wstring& text4,
+                                          const std::wstring& text5,
+                                          const std::wstring& text6) override;
+    std::vector<std::wstring> getCertificateChainById(const std::wstring& id,
+                                                      const std::wstring& text2,
+                                                      const std::wstring& text3) override;
+    void startSOVDServer() override;
+    void stopSOVDServer() override;
+    void logIn(std::shared_ptr<LogInOutConfig> config) override;
+    std::shared_ptr<ServerSettings> getServerSettings() override;
+    std::shared_ptr<TarnApiServerConfig> getServerConfiguration() override;
+
+private:
+    // Callers hold the state's lock; reads the users first. Throws unless this object may
+    // manage the server:
+    // the local engine object, or a remote client logged in as an administrator (any
+    // remote client while user management is off).
+    void requireAdministratorLocked() const;
+    // Ends the sessions `which` selects and queues their announcement, which the caller
+    // makes once the lock is let go (announce).
+    template <class Which>
+    std::vector<std::wstring> endSessionsLocked(Which which);
+    void announce();
+    void loggedIn(const std::wstring& user, const std::wstring& how);
+
+    std::shared_ptr<SimulatedVehicle> vehicle_;
+    ServersState& state_;
+    uint64_t handle_;
+    std::wstring remoteClient_; // empty for the local engine object
+};
+
+} // namespace Varno::Kel_cpp::Reference

@@ -1,0 +1,807 @@
+// The engine's servers, remote connections, users, logins and certificates through the
+// C exports and the dispatchers, against the simulated engine, each test on a data root
+// of its own.
+#include "support.h"
+
+#include <Kel_cpp/ServerHandler.h>
+#include <Vutil/ErrorHandler.h>
+#include <Vutil/TraceRecorder.h>
+
+#include <atomic>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <mutex>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+#include <families/servers/PasswordHash.h>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+namespace ref = Varno::Kel_cpp::Reference;
+
+enum : int32_t {
+    NotInitialized = 1001,
+    NotLoggedIn = 1300,
+    ConnectionEnded = 1301,
+    UnknownRole = 1302,
+    UnknownUser = 1303,
+    BadServersArgument = 1304,
+    UserExists = 1305,
+    LoginFailed = 1306,
+    LoginThrottled = 1307,
+    NeedsAdministrator = 1308,
+    ServerNotRunning = 1309,
+    ServerRunning = 1310,
+    NotARemoteConnection = 1311,
+    UnknownIdentityProvider = 1312,
+    UnknownCertificate = 1313,
+    NotAPublicKey = 1314,
+    NeedsCryptography = 1315,
+    UsersUnreadable = 1316,
+    SovdServerRunning = 1317,
+    SovdServerNotRunning = 1318,
+};
+enum : uint32_t { Operator = 1, Administrator = 2 };
+
+const wchar_t* const password = L"S3cret-P\u00e4ssw\u00f6rt-\u20ac";
+const char* const passwordUtf8 = "S3cret-P\xc3\xa4ssw\xc3\xb6rt-\xe2\x82\xac";
+
+std::string hex(const std::vector<uint8_t>& bytes) { return ref::toHex(bytes); }
+std::span<const uint8_t> bytes(const char* text) {
+    return {reinterpret_cast<const uint8_t*>(text), std::strlen(text)}; // NOLINT
+}
+
+// Published test vectors: FIPS 180-2 (SHA-256), RFC 4231 (HMAC), RFC 7914 section 11
+// and the IETF draft's (PBKDF2-HMAC-SHA-256).
+TEST(PasswordHash, MatchesThePublishedTestVectors) {
+    const auto sha = [](const std::string& text) {
+        const auto digest = ref::sha256(bytes(text.c_str()));
+        return hex({digest.begin(), digest.end()});
+    };
+    EXPECT_EQ(sha(""), "e3b0c44298fc1c149afbf4c8996fb92427ae41e4649b934ca495991b7852b855");
+    EXPECT_EQ(sha("abc"), "ba7816bf8f01cfea414140de5dae2223b00361a396177a9cb410ff61f20015ad");
+    EXPECT_EQ(sha("abcdbcdecdefdefgefghfghighijhijkijkljklmklmnlmnomnopnopq"),
+              "248d6a61d20638b8e5c026930c3e6039a33ce45964ff2167f6ecedd419db06c1");
+    EXPECT_EQ(sha(std::string(1000000, 'a')),
+              "cdc76e5c9914fb9281a1c7e284d73e67f1809a48a497200e046d39ccc7112cd0");
+
+    const auto mac = [](std::span<const uint8_t> key, const char* data) {
+        const auto digest = ref::hmacSha256(key, bytes(data));
+        return hex({digest.begin(), digest.end()});
+    };
+    EXPECT_EQ(mac(bytes("Jefe"), "what do ya want for nothing?"),
+              "5bdcc146bf60754e6a042426089575c75a003f089d2739839dec58b964ec3843");
+    const std::vector<uint8_t> longKey(131, 0xaa); // longer than a block: hashed first
+    EXPECT_EQ(mac(longKey, "Test Using Larger Than Block-Size Key - Hash Key First"),
+              "60e431591ee0b67f0d8a26aacbf5b77f8e0bc6213728c5140546040f0ee37f54");
+
+    EXPECT_EQ(hex(ref::pbkdf2HmacSha256(bytes("passwd"), bytes("salt"), 1, 64)),
+              "55ac046e56e3089fec1691c22544b605f94185216dde0465e68b9d57c20dacbc"
+              "49ca9cccf179b645991664b39d77ef317c71b845b1e30bd509112041d3a19783");
+    // The vectors of the IETF draft for PBKDF2-HMAC-SHA-256 (RFC 6070's inputs); the
+    // last spans two blocks.
+    EXPECT_EQ(hex(ref::pbkdf2HmacSha256(bytes("password"), bytes("salt"), 2, 32)),
+              "ae4d0c95af6b46d32d0adff928f06dd02a303f8ef3c251dfd6e2d85a95474c43");
+    EXPECT_EQ(hex(ref::pbkdf2HmacSha256(bytes("password"), bytes("salt"), 4096, 32)),
+              "c5e478d59288c841aa530db6845c4c8d962893a001ce4e11a4963873aa98134a");
+    EXPECT_EQ(hex(ref::pbkdf2HmacSha256(bytes("passwordPASSWORDpassword"),
+                                        bytes("saltSALTsaltSALTsaltSALTsaltSALTsalt"), 4096, 40)),
+              "348c89dbcbd32b2f32d814b8116e84cf2b17347ebc1800181c4e2a1fb8dd53e1c635518c7dac47e9");
+
+    const auto stored = ref::PasswordHash::make(password, 1000);
+    const auto again = ref::PasswordHash::make(password, 1000);
+    EXPECT_NE(stored.salt, again.salt) << "every password gets a salt of its own";
+    EXPECT_NE(stored.hash, again.hash);
+    EXPECT_TRUE(stored.matches(password));
+    EXPECT_FALSE(stored.matches(L"S3cret-P\u00e4ssw\u00f6rt-"));
+}
+
+// Fast hashing for the tests (the default is 100000 iterations); three failures in a
+// row throttle logins for a minute, doubling with each further failure. The login clock
+// also runs in real time: the margins of the throttle test leave it a second.
+const char* const vehicle = R"({"name": "servers test", "ecus": [{"name": "ECM"}],
+    "servers": {"passwordIterations": 1000, "failedLogins": 3, "throttleMs": 60000}})";
+
+class RecordingHandler : public Varno::Kel_cpp::ServerHandler {
+public:
+    void onClientConnected(const std::wstring& client) override { add(L"+" + client); }
+    void onClientDisconnected(const std::wstring& client) override { add(L"-" + client); }
+    std::vector<std::wstring> heard() const {
+        const std::lock_guard lock(mutex_);
+        return heard_;
+    }
+
+private:
+    void add(std::wstring text) {
+        const std::lock_guard lock(mutex_);
+        heard_.push_back(std::move(text));
+    }
+    mutable std::mutex mutex_;
+    std::vector<std::wstring> heard_;
+};
+
+struct Event {
+    int32_t kind;
+    int32_t code;
+    std::wstring text;
+    std::wstring detail;
+};
+
+class Servers : public EngineTest {
+protected:
+    void SetUp() override {
+        static std::atomic<int> count{0};
+        root_ = std::filesystem::temp_directory_path() /
+                ("kel_servers_test_" +
+                 std::to_string(::testing::UnitTest::GetInstance()->current_test_info()->line()) +
+                 "_" + std::to_string(count++));
+        std::filesystem::remove_all(root_);
+        EngineTest::SetUp();
+        ASSERT_EQ(kelsim_setVehicleJson(vehicle), 0);
+        restart();
+    }
+    void TearDown() override {
+        for (TarnApi* remote : remotes_) {
+            releaseTarnApi(remote);
+        }
+        EngineTest::TearDown(); // back to the default root and vehicle
+        std::filesystem::remove_all(root_);
+    }
+
+    // A fresh engine on the same data root.
+    void restart() {
+        releaseTarnApi(api);
+        kelsim_setDataRoot(root_.wstring().c_str());
+        kelsim_restart();
+        api = kel_getTarnApi();
+        ErrorSlot error;
+        kel_initialize(api, &error);
+        ASSERT_FALSE(error);
+    }
+
+    TarnApi* remote() {
+        ErrorSlot error;
+        TarnApi* connection = kel_getRemoteConnectionByHandle(handle(api), &error);
+        EXPECT_NE(connection, nullptr);
+        remotes_.push_back(connection);
+        return connection;
+    }
+
+    static uint64_t handle(TarnApi* of) {
+        ErrorSlot error;
+        uint64_t value = 0;
+        kel_getHandle(of, &error, &value);
+        EXPECT_FALSE(error);
+        return value;
+    }
+
+    // The error code of a failed call, 0 for success.
+    template <class Call>
+    static int32_t code(Call call) {
+        ErrorSlot error;
+        call(&error);
+        return error ? error->code : 0;
+    }
+
+    static LogInOutConfig* credentials(const wchar_t* user, const wchar_t* secret) {
+        auto* config = static_cast<LogInOutConfig*>(allocate_Memory(sizeof(LogInOutConfig)));
+        config->user = duplicate_WString(user);
+        config->password = duplicate_WString(secret);
+        return config;
+    }
+    static int32_t logIn(TarnApi* on, const wchar_t* user, const wchar_t* secret) {
+        return code([&](KelError** e) { kel_logIn(on, credentials(user, secret), e); });
+    }
+    static int32_t addUser(TarnApi* on, const wchar_t* user, const wchar_t* secret, uint32_t role) {
+        return code([&](KelError** e) { kel_addUser(on, user, secret, role, e); });
+    }
+    static int32_t userManagement(TarnApi* on, bool enabled) {
+        return code([&](KelError** e) { kel_setServerUserManagement(on, enabled ? 1 : 0, e); });
+    }
+    static int32_t getState(TarnApi* on) {
+        int32_t state = -1;
+        return code([&](KelError** e) { kel_getState(on, e, &state); });
+    }
+
+    static std::vector<std::pair<std::wstring, uint32_t>> users(TarnApi* on) {
+        ErrorSlot error;
+        kel_test::List<UserInfo, release_UserInfo_array> list;
+        kel_getUsers(on, &error, &list.items, &list.count);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        std::vector<std::pair<std::wstring, uint32_t>> result;
+        for (uint32_t i = 0; i < list.count; ++i) {
+            result.emplace_back(list.items[i]->name, list.items[i]->value);
+        }
+        return result;
+    }
+
+    uint64_t openChannel() {
+        ErrorSlot error;
+        uint64_t channel = 0;
+        kel_openEventChannel(api, &error, &channel);
+        EXPECT_FALSE(error);
+        return channel;
+    }
+    std::vector<Event> events(uint64_t channel) {
+        ErrorSlot error;
+        EventReport* report = nullptr;
+        kel_getCurrentEvents(api, channel, 0, &error, &report);
+        EXPECT_FALSE(error);
+        std::vector<Event> result;
+        for (uint32_t i = 0; report != nullptr && i < report->eventCount; ++i) {
+            const KelEvent* e = report->events[i];
+            result.push_back({e->kind, e->code, e->text, e->detail});
+        }
+        release_EventReport(report);
+        return result;
+    }
+
+    std::string usersFile() const {
+        std::ifstream in(root_ / "users" / "users.json", std::ios::binary);
+        std::ostringstream text;
+        text << in.rdbuf();
+        return text.str();
+    }
+
+    std::filesystem::path root_;
+    std::vector<TarnApi*> remotes_;
+};
+
+TEST_F(Servers, UserManagementRefusesARemoteConnectionThatHasNotLoggedIn) {
+    TarnApi* client = remote();
+    EXPECT_EQ(getState(client), 0) << "user management is off at first";
+    ASSERT_EQ(addUser(api, L"admin", password, Administrator), 0);
+    ASSERT_EQ(addUser(api, L"op", L"op-password", Operator), 0);
+    ASSERT_EQ(userManagement(api, true), 0);
+
+    EXPECT_EQ(getState(api), 0) << "the local engine object is the server's own";
+    ErrorSlot refused;
+    int32_t state = -1;
+    kel_getState(client, &refused, &state);
+    ASSERT_TRUE(refused);
+    EXPECT_EQ(refused->code, NotLoggedIn);
+    EXPECT_NE(std::wstring(refused->message).find(L"log in"), std::wstring::npos);
+    EXPECT_EQ(state, -1);
+    EXPECT_EQ(code([&](KelError** e) {
+                  kel_test::List<UserInfo, release_UserInfo_array> list;
+                  kel_getUsers(client, e, &list.items, &list.count);
+              }),
+              NotLoggedIn);
+    // kel_call with the local handle goes through the same remote connection.
+    void* stream = nullptr;
+    uint64_t size = 0;
+    kel_call(handle(api), 49, nullptr, &stream, &size);
+    std::vector<uint8_t> result(size);
+    kel_call_result(stream, result.data());
+    ASSERT_GE(result.size(), 6U);
+    EXPECT_EQ(result[0], 0) << "status byte: failed";
+    EXPECT_EQ(result[1], 1) << "the error record is present";
+    int32_t streamedCode = 0;
+    std::memcpy(&streamedCode, result.data() + 2, 4);
+    EXPECT_EQ(streamedCode, NotLoggedIn);
+
+    uint8_t enabled = 0;
+    EXPECT_EQ(code([&](KelError** e) { kel_getServerUserManagement(client, e, &enabled); }), 0);
+    EXPECT_EQ(enabled, 1) << "a client may find out that it must log in";
+    EXPECT_EQ(logIn(client, L"admin", L"wrong"), LoginFailed);
+    EXPECT_EQ(getState(client), NotLoggedIn);
+
+    EXPECT_EQ(logIn(client, L"op", L"op-password"), 0);
+    EXPECT_EQ(getState(client), 0);
+    EXPECT_EQ(users(client).size(), 2U);
+    EXPECT_EQ(addUser(client, L"eve", L"x", Operator), NeedsAdministrator);
+    EXPECT_EQ(userManagement(client, false), NeedsAdministrator);
+
+    EXPECT_EQ(logIn(client, L"admin", password), 0);
+    EXPECT_EQ(addUser(client, L"eve", L"x", Operator), 0);
+    EXPECT_EQ(code([&](KelError** e) { kel_logOut(client, credentials(L"", L""), e); }), 0);
+    EXPECT_EQ(getState(client), NotLoggedIn);
+    EXPECT_EQ(code([&](KelError** e) { kel_logOut(client, credentials(L"", L""), e); }),
+              NotLoggedIn);
+
+    // Removing a user ends its logins.
+    EXPECT_EQ(logIn(client, L"eve", L"x"), 0);
+    EXPECT_EQ(code([&](KelError** e) { kel_removeUser(api, L"eve", e); }), 0);
+    EXPECT_EQ(getState(client), NotLoggedIn);
+
+    EXPECT_EQ(userManagement(api, false), 0);
+    EXPECT_EQ(getState(client), 0);
+}
+
+TEST_F(Servers, UsersHaveRolesAndAreCheckedOnEveryChange) {
+    EXPECT_TRUE(users(api).empty());
+    EXPECT_EQ(addUser(api, L"J\u00fcrgen", L"one", Operator), 0);
+    EXPECT_EQ(addUser(api, L"anna", L"two", Administrator), 0);
+    EXPECT_EQ(addUser(api, L"anna", L"three", Operator), UserExists);
+    EXPECT_EQ(addUser(api, L"bob", L"", Operator), BadServersArgument);
+    EXPECT_EQ(addUser(api, L"", L"pw", Operator), BadServersArgument);
+    EXPECT_EQ(addUser(api, L"bob", L"pw", 3), UnknownRole);
+    EXPECT_EQ((users(api)), (std::vector<std::pair<std::wstring, uint32_t>>{
+                                {L"J\u00fcrgen", Operator}, {L"anna", Administrator}}));
+    {
+        ErrorSlot error;
+        kel_test::List<UserInfo, release_UserInfo_array> list;
+        kel_getUsers(api, &error, &list.items, &list.count);
+        ASSERT_EQ(list.count, 2U);
+        EXPECT_STREQ(list.items[1]->text, L"administrator");
+    }
+
+    const auto update = [&](const wchar_t* name, const wchar_t* newName, const wchar_t* secret,
+                            uint32_t role) {
+        return code([&](KelError** e) { kel_updateUser(api, name, newName, secret, role, e); });
+    };
+    // A new name keeps the password; a new password replaces it.
+    EXPECT_EQ(update(L"J\u00fcrgen", L"juergen", L"", Administrator), 0);
+    EXPECT_EQ(logIn(api, L"juergen", L"one"), 0);
+    EXPECT_EQ(update(L"juergen", L"", L"uno", Operator), 0);
+    EXPECT_EQ(logIn(api, L"juergen", L"one"), LoginFailed);
+    EXPECT_EQ(logIn(api, L"juergen", L"uno"), 0);
+    EXPECT_EQ(update(L"juergen", L"anna", L"", Operator), UserExists);
+    EXPECT_EQ(update(L"nobody", L"", L"", Operator), UnknownUser);
+    EXPECT_EQ(update(L"juergen", L"", L"", 0), UnknownRole);
+    EXPECT_EQ(code([&](KelError** e) { kel_removeUser(api, L"nobody", e); }), UnknownUser);
+    EXPECT_EQ((users(api)), (std::vector<std::pair<std::wstring, uint32_t>>{
+                                {L"anna", Administrator}, {L"juergen", Operator}}));
+}
+
+TEST_F(Servers, UsersAndUserManagementSurviveARestart) {
+    ASSERT_EQ(addUser(api, L"J\u00fcrgen", password, Administrator), 0);
+    ASSERT_EQ(addUser(api, L"op", L"op-password", Operator), 0);
+    ASSERT_EQ(addUser(api, L"gone", L"pw", Operator), 0);
+    ASSERT_EQ(code([&](KelError** e) { kel_removeUser(api, L"gone", e); }), 0);
+    ASSERT_EQ(userManagement(api, true), 0);
+
+    restart();
+    EXPECT_EQ((users(api)), (std::vector<std::pair<std::wstring, uint32_t>>{
+                                {L"J\u00fcrgen", Administrator}, {L"op", Operator}}));
+    uint8_t enabled = 0;
+    EXPECT_EQ(code([&](KelError** e) { kel_getServerUserManagement(api, e, &enabled); }), 0);
+    EXPECT_EQ(enabled, 1);
+    TarnApi* client = remote();
+    EXPECT_EQ(getState(client), NotLoggedIn);
+    EXPECT_EQ(logIn(client, L"J\u00fcrgen", password), 0) << "the stored hash still matches";
+    EXPECT_EQ(getState(client), 0);
+
+    // A users file that cannot be read refuses, rather than opening the server to all.
+    releaseTarnApi(client);
+    remotes_.clear();
+    std::ofstream(root_ / "users" / "users.json", std::ios::trunc) << "{ not json";
+    restart();
+    client = remote();
+    EXPECT_EQ(getState(client), UsersUnreadable);
+    EXPECT_EQ(code([&](KelError** e) {
+                  kel_test::List<UserInfo, release_UserInfo_array> list;
+                  kel_getUsers(api, e, &list.items, &list.count);
+              }),
+              UsersUnreadable);
+}
+
+TEST_F(Servers, NoPasswordAppearsInResultsEventsTracesRecordsOrFiles) {
+    const uint64_t channel = openChannel();
+    auto recorder = std::make_shared<Vutil::TraceRecorder>();
+    Vutil::ErrorHandler::addListener(recorder);
+    Vutil::ErrorHandler::setDebugTraceLevel(3);
+
+    ASSERT_EQ(addUser(api, L"anna", password, Administrator), 0);
+    EXPECT_EQ(logIn(api, L"anna", L"not-it"), LoginFailed);
+    ErrorSlot error;
+    kel_logIn(api, credentials(L"anna", password), &error);
+    ASSERT_FALSE(error);
+    kel_updateUser(api, L"anna", L"", password, Administrator, &error);
+    ASSERT_FALSE(error);
+
+    // logIn (number 216) through both dispatchers: a LogInOutConfig of two strings.
+    const std::string user = "anna";
+    const std::string secret = passwordUtf8;
+    std::vector<uint8_t> otxInput;
+    for (const std::string* text : {&user, &secret}) {
+        const auto length = static_cast<uint32_t>(text->size());
+        otxInput.insert(otxInput.end(), reinterpret_cast<const uint8_t*>(&length), // NOLINT
+                        reinterpret_cast<const uint8_t*>(&length) + 4);            // NOLINT
+        otxInput.insert(otxInput.end(), text->begin(), text->end());
+    }
+    void* stream = nullptr;
+    uint64_t size = 0;
+    kel_call_checked(0, 216, otxInput.data(), otxInput.size(), &stream, &size);
+    std::vector<uint8_t> otxResult(size);
+    kel_call_result(stream, otxResult.data());
+    ASSERT_EQ(otxResult, std::vector<uint8_t>{1}) << "logged in through kel_call";
+    std::vector<uint8_t> pyInput{1}; // present, then NUL-terminated strings
+    pyInput.insert(pyInput.end(), user.begin(), user.end());
+    pyInput.push_back(0);
+    pyInput.insert(pyInput.end(), secret.begin(), secret.end());
+    pyInput.push_back(0);
+    uint32_t pySize = 0;
+    void* buffer = nullptr;
+    EXPECT_EQ(py_call_checked(api, 216, 0, pyInput.data(), pyInput.size(), &pySize, &buffer), 0);
+    py_result(nullptr, 0, buffer);
+    // getServerConfiguration (181) and getUsers (160) hand out every user.
+    for (const int32_t number : {160, 181}) {
+        kel_call(0, number, nullptr, &stream, &size);
+        std::vector<uint8_t> result(size);
+        kel_call_result(stream, result.data());
+        ASSERT_FALSE(result.empty());
+        EXPECT_EQ(result[0], 1);
+        EXPECT_EQ(std::string(result.begin(), result.end()).find(secret), std::string::npos)
+            << "number " << number;
+        EXPECT_NE(std::string(result.begin(), result.end()).find(user), std::string::npos);
+    }
+
+    Vutil::ErrorHandler::setDebugTraceLevel(0);
+    Vutil::ErrorHandler::removeListener(recorder);
+
+    for (const char* operation : {"addUser", "logIn", "updateUser"}) {
+        const std::string recorded = kel_test::lastArguments(operation);
+        EXPECT_EQ(recorded.find(secret), std::string::npos) << operation;
+        EXPECT_NE(recorded.find("\"***\""), std::string::npos) << recorded;
+    }
+    EXPECT_EQ(kel_test::lastArguments("logIn"), R"([{"user":"anna","password":"***"}])");
+    for (const auto& line : recorder->lines()) {
+        EXPECT_EQ(line.text.find(secret), std::string::npos) << line.text;
+    }
+    const auto seen = events(channel);
+    EXPECT_GE(seen.size(), 4U) << "a failed login and three logins";
+    for (const auto& e : seen) {
+        EXPECT_EQ(e.text.find(password), std::wstring::npos);
+        EXPECT_EQ(e.detail.find(password), std::wstring::npos);
+    }
+    const std::string file = usersFile();
+    ASSERT_NE(file.find("\"anna\""), std::string::npos);
+    EXPECT_EQ(file.find(secret), std::string::npos);
+    EXPECT_NE(file.find("\"iterations\": 1000"), std::string::npos);
+}
+
+TEST_F(Servers, RepeatedFailuresAreThrottledOnTheLoginClock) {
+    ASSERT_EQ(addUser(api, L"anna", password, Administrator), 0);
+    EXPECT_EQ(logIn(api, L"anna", L"a"), LoginFailed);
+    EXPECT_EQ(logIn(api, L"anna", L"b"), LoginFailed);
+    EXPECT_EQ(logIn(api, L"anna", L"c"), LoginFailed);
+    ErrorSlot error;
+    kel_logIn(api, credentials(L"anna", password), &error);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, LoginThrottled) << "even the right password waits";
+    EXPECT_NE(std::wstring(error->details).find(L"60 s"), std::wstring::npos) << error->details;
+
+    kelsim_advanceLoginClock(59000);
+    EXPECT_EQ(logIn(api, L"anna", password), LoginThrottled);
+    kelsim_advanceLoginClock(1000);
+    EXPECT_EQ(logIn(api, L"anna", L"d"), LoginFailed);
+    // The fourth failure doubles the wait.
+    kelsim_advanceLoginClock(61000);
+    EXPECT_EQ(logIn(api, L"anna", password), LoginThrottled);
+    kelsim_advanceLoginClock(60000);
+    EXPECT_EQ(logIn(api, L"anna", password), 0);
+    // A success starts the count again.
+    EXPECT_EQ(logIn(api, L"anna", L"e"), LoginFailed);
+    EXPECT_EQ(logIn(api, L"anna", password), 0);
+
+    // Names that are no users are throttled alike: failures do not tell who exists.
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(logIn(api, L"mallory", L"guess"), LoginFailed);
+    }
+    EXPECT_EQ(logIn(api, L"mallory", L"guess"), LoginThrottled);
+    EXPECT_EQ(logIn(api, L"anna", password), 0) << "throttled per user name";
+}
+
+TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
+    RecordingHandler handler;
+    ErrorSlot error;
+    kel_registerServerHandler(reinterpret_cast<uint64_t>(api), &handler, &error);
+    const uint64_t channel = openChannel();
+
+    uint64_t untouched = 77;
+    EXPECT_EQ(code([&](KelError** e) {
+                  kel_connectRemoteServer(api, L"kel-sim://server", e, &untouched);
+              }),
+              ServerNotRunning);
+    EXPECT_EQ(untouched, 77U) << "no handle for a failed connection";
+
+    wchar_t* address = nullptr;
+    kel_startServer(api, L"", &error, &address);
+    ASSERT_FALSE(error);
+    ASSERT_NE(address, nullptr);
+    const std::wstring where = address;
+    release_Memory(address);
+    EXPECT_EQ(where, L"kel-sim://server");
+    EXPECT_EQ(code([&](KelError** e) {
+                  wchar_t* again = nullptr;
+                  kel_startServer(api, L"other", e, &again);
+              }),
+              ServerRunning);
+
+    uint64_t registered = 0;
+    kel_connectRemoteServer(api, where.c_str(), &error, &registered);
+    ASSERT_FALSE(error);
+    auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
+    remotes_.push_back(client);
+    const uint64_t clientHandle = handle(client);
+    EXPECT_NE(clientHandle, handle(api));
+    EXPECT_EQ(getState(client), 0) << "the handle reaches the remote engine object";
+    ASSERT_EQ(handler.heard().size(), 1U);
+    const std::wstring name = handler.heard()[0].substr(1);
+
+    ServerSettings* settings = nullptr;
+    kel_getServerSettings(client, &error, &settings);
+    ASSERT_NE(settings, nullptr);
+    EXPECT_EQ(settings->flag, 1);
+    EXPECT_EQ(settings->value1, 1U);
+    release_ServerSettings(settings);
+
+    kel_stopServer(api, L"maintenance", &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ((handler.heard()), (std::vector<std::wstring>{L"+" + name, L"-" + name}));
+    EXPECT_EQ(getState(client), ConnectionEnded);
+    uint8_t renewed = 7;
+    kel_reconnectRemoteServer(client, clientHandle, &error, &renewed);
+    EXPECT_EQ(renewed, 0) << "not while the server is stopped";
+    EXPECT_EQ(code([&](KelError** e) { kel_stopServer(api, L"", e); }), ServerNotRunning);
+
+    kel_startServer(api, L"", &error, &address);
+    release_Memory(address);
+    kel_reconnectRemoteServer(client, clientHandle, &error, &renewed);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(renewed, 1);
+    EXPECT_EQ(getState(client), 0);
+    kel_reconnectRemoteServer(api, 12345, &error, &renewed);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1005);
+    release_KelError(error.error);
+    error.error = nullptr;
+
+    kel_disconnectAllClients(api, &error);
+    EXPECT_EQ(getState(client), ConnectionEnded);
+    kel_reconnectRemoteServer(client, clientHandle, &error, &renewed);
+    kel_disconnect(client, &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(code([&](KelError** e) { kel_disconnect(api, e); }), NotARemoteConnection);
+    releaseTarnApi(client);
+    remotes_.clear();
+    EXPECT_EQ((handler.heard()), (std::vector<std::wstring>{L"+" + name, L"-" + name, L"+" + name,
+                                                            L"-" + name, L"+" + name, L"-" + name}))
+        << "a connection ended earlier is not reported again when it goes";
+
+    std::vector<int32_t> kinds;
+    for (const auto& e : events(channel)) {
+        kinds.push_back(e.kind);
+        if (e.kind == 31) {
+            EXPECT_EQ(e.detail, L"maintenance");
+        }
+    }
+    EXPECT_EQ(kinds, (std::vector<int32_t>{30, 11, 31, 12, 30, 11, 12, 11, 12}));
+}
+
+TEST_F(Servers, ServerStateAndConfiguration) {
+    ErrorSlot error;
+    kel_startSOVDServer(api, &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), SovdServerRunning);
+    ASSERT_EQ(addUser(api, L"anna", password, Administrator), 0);
+    ASSERT_EQ(logIn(api, L"anna", password), 0);
+
+    TarnApiServerConfig* config = nullptr;
+    kel_getServerConfiguration(api, &error, &config);
+    ASSERT_NE(config, nullptr);
+    EXPECT_EQ(config->userCount, 1U);
+    EXPECT_EQ(config->flag, 0);
+    EXPECT_STREQ(config->text1, L"") << "the server is stopped";
+    EXPECT_STREQ(config->text2, L"kel-sim://sovd");
+    EXPECT_STREQ(config->text3, L"kel-sim-idp");
+    EXPECT_EQ(config->filterCount, 0U);
+    ASSERT_EQ(config->userCount2, 1U) << "the local object's login";
+    EXPECT_STREQ(config->users2[0]->name, L"anna");
+    EXPECT_EQ(config->value2, 3) << "failed logins before the throttle, from the description";
+    release_TarnApiServerConfig(config);
+
+    kel_stopSOVDServer(api, &error);
+    EXPECT_EQ(code([&](KelError** e) { kel_stopSOVDServer(api, e); }), SovdServerNotRunning);
+    EXPECT_EQ(code([&](KelError** e) { kel_restartServer(api, 0, e); }), ServerNotRunning);
+    EXPECT_EQ(code([&](KelError** e) {
+                  wchar_t* address = nullptr;
+                  kel_startServer(api, L"no spaces", e, &address);
+              }),
+              BadServersArgument);
+
+    kel_end(api, &error);
+    EXPECT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), NotInitialized);
+}
+
+TEST_F(Servers, TheIdentityProviderLogsAUserInOnceWithItsCode) {
+    ASSERT_EQ(addUser(api, L"anna", password, Operator), 0);
+    ASSERT_EQ(userManagement(api, true), 0);
+    TarnApi* client = remote();
+
+    EXPECT_EQ(code([&](KelError** e) {
+                  wchar_t* url = nullptr;
+                  kel_getThirdPartyLoginUrl(client, L"elsewhere", e, &url);
+              }),
+              UnknownIdentityProvider);
+    ErrorSlot error;
+    wchar_t* url = nullptr;
+    kel_getThirdPartyLoginUrl(client, L"", &error, &url);
+    ASSERT_FALSE(error);
+    const std::wstring login = url;
+    release_Memory(url);
+    EXPECT_EQ(login.rfind(L"https://idp.kel-sim.invalid/authorize?client_id=kel_sim&state=", 0),
+              0U);
+
+    wchar_t issued[64] = {};
+    ASSERT_EQ(kelsim_signInAtIdentityProvider(login.c_str(), L"anna", issued, 64), 32);
+    EXPECT_EQ(kelsim_signInAtIdentityProvider(login.c_str(), L"anna", nullptr, 0), -1)
+        << "a login state is used once";
+    uint8_t accepted = 7;
+    kel_thirdPartyLogin(client, issued, &error, &accepted);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(accepted, 1);
+    EXPECT_EQ(getState(client), 0);
+    EXPECT_EQ(kel_test::lastArguments("thirdPartyLogin"), R"(["***"])");
+    kel_thirdPartyLogin(client, issued, &error, &accepted);
+    EXPECT_EQ(accepted, 0) << "a code is used once";
+
+    // A code expires, and one for a name that is no user of the server logs nobody in.
+    kel_getThirdPartyLoginUrl(api, L"kel-sim-idp", &error, &url);
+    ASSERT_EQ(kelsim_signInAtIdentityProvider(url, L"anna", issued, 64), 32);
+    release_Memory(url);
+    kelsim_advanceLoginClock(5 * 60 * 1000);
+    kel_thirdPartyLogin(api, issued, &error, &accepted);
+    EXPECT_EQ(accepted, 0);
+    kel_getThirdPartyLoginUrl(api, L"", &error, &url);
+    ASSERT_EQ(kelsim_signInAtIdentityProvider(url, L"stranger", issued, 64), 32);
+    release_Memory(url);
+    kel_thirdPartyLogin(api, issued, &error, &accepted);
+    EXPECT_EQ(accepted, 0);
+    ASSERT_FALSE(error);
+}
+
+TEST_F(Servers, CertificatesComeFromTheStoreAndNoneIsMadeUp) {
+    ErrorSlot error;
+    wchar_t** chain = nullptr;
+    uint32_t count = 0;
+    kel_getCertificateChainById(api, L"kel-sim-server", L"", L"", &error, &chain, &count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(count, 3U) << "server, intermediate, root";
+    std::vector<std::wstring> pems(chain, chain + count);
+    release_StringArray(chain, count);
+    const std::vector<std::wstring> ids{L"kel-sim-server", L"kel-sim-intermediate",
+                                        L"kel-sim-root"};
+    for (std::size_t i = 0; i < ids.size(); ++i) {
+        std::ifstream in(root_ / "certificates" / (ids[i] + L".pem"), std::ios::binary);
+        std::ostringstream text;
+        text << in.rdbuf();
+        const std::string file = text.str(); // ASCII
+        EXPECT_EQ(pems[i], std::wstring(file.begin(), file.end())) << i;
+    }
+    EXPECT_EQ(pems[0].rfind(L"-----BEGIN CERTIFICATE-----\n", 0), 0U);
+    EXPECT_NE(pems[0], pems[1]);
+    EXPECT_NE(pems[1], pems[2]);
+
+    chain = reinterpret_cast<wchar_t**>(&count); // NOLINT
+    kel_getCertificateChainById(api, L"no-such-id", L"", L"", &error, &chain, &count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(chain, nullptr);
+    EXPECT_EQ(count, 0U);
+
+    const std::wstring serverKey =
+        L"-----BEGIN PUBLIC KEY-----\n"
+        L"MFkwEwYHKoZIzj0CAQYIKoZIzj0DAQcDQgAEAHisZTSLzZaVh4SCObjv7b3vP8np\n"
+        L"Jf63T5iP9YGlFDgthdS1cd3SSLsPF56jAobG/qqY/GrMDBAoM11ChizQzw==\n"
+        L"-----END PUBLIC KEY-----\n";
+    wchar_t* found = nullptr;
+    kel_getCertificateByPublicKey(api, serverKey.c_str(), L"", L"", L"", &error, &found);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(found, pems[0]);
+    release_Memory(found);
+    // Another key of the same shape.
+    std::wstring otherKey = serverKey;
+    otherKey[otherKey.find(L"AHis")] = L'B';
+    wchar_t* untouched = nullptr;
+    EXPECT_EQ(code([&](KelError** e) {
+                  kel_getCertificateByPublicKey(api, otherKey.c_str(), L"", L"", L"", e,
+                                                &untouched);
+              }),
+              UnknownCertificate);
+    EXPECT_EQ(code([&](KelError** e) {
+                  kel_getCertificateByPublicKey(api, L"-----BEGIN NONSENSE-----", L"", L"", L"", e,
+                                                &untouched);
+              }),
+              NotAPublicKey);
+    EXPECT_EQ(code([&](KelError** e) {
+                  kel_createCertificateFromCSR(api, L"csr", L"", L"", L"", L"", L"", e, &untouched);
+              }),
+              NeedsCryptography);
+    EXPECT_EQ(untouched, nullptr);
+
+    // A file of the store that holds no certificate is never handed out as one.
+    std::ofstream(root_ / "certificates" / "broken.pem") << "-----BEGIN CERTIFICATE-----\nAAAA\n";
+    kel_getCertificateChainById(api, L"broken", L"", L"", &error, &chain, &count);
+    EXPECT_EQ(count, 0U);
+}
+
+using ServersConcurrency = Servers;
+
+// Remote clients call, log in and renew their connections while the server ends them,
+// restarts and turns user management on and off: every call either works or is refused
+// for a reason of the moment, and each client's connections and disconnections reach
+// the handler in turn, once each.
+TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
+    RecordingHandler handler;
+    ErrorSlot error;
+    kel_registerServerHandler(reinterpret_cast<uint64_t>(api), &handler, &error);
+    ASSERT_EQ(addUser(api, L"anna", password, Administrator), 0);
+    wchar_t* address = nullptr;
+    kel_startServer(api, L"race", &error, &address);
+    ASSERT_FALSE(error);
+    const std::wstring where = address;
+    release_Memory(address);
+
+    std::atomic<bool> stop{false};
+    std::atomic<int> unexpected{0};
+    std::vector<std::thread> clients;
+    for (int t = 0; t < 4; ++t) {
+        clients.emplace_back([&] {
+            ErrorSlot connectError;
+            uint64_t registered = 0;
+            kel_connectRemoteServer(api, where.c_str(), &connectError, &registered);
+            auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT
+            uint64_t own = 0;
+            kel_getHandle(client, &connectError, &own);
+            if (connectError) {
+                ++unexpected;
+                return;
+            }
+            for (int i = 0; i < 60; ++i) {
+                switch (getState(client)) {
+                case 0:
+                    break;
+                case NotLoggedIn:
+                    if (const int32_t c = logIn(client, L"anna", password);
+                        c != 0 && c != ConnectionEnded) {
+                        ++unexpected;
+                    }
+                    break;
+                case ConnectionEnded: {
+                    uint8_t renewed = 0;
+                    if (code([&](KelError** e) {
+                            kel_reconnectRemoteServer(client, own, e, &renewed);
+                        }) != 0) {
+                        ++unexpected;
+                    }
+                    break;
+                }
+                default:
+                    ++unexpected;
+                }
+            }
+            releaseTarnApi(client);
+        });
+    }
+    for (int i = 0; i < 30; ++i) {
+        EXPECT_EQ(userManagement(api, i % 2 == 0), 0);
+        EXPECT_EQ(code([&](KelError** e) { kel_disconnectAllClients(api, e); }), 0);
+        EXPECT_EQ(code([&](KelError** e) { kel_restartServer(api, i % 3, e); }), 0);
+    }
+    for (auto& client : clients) {
+        client.join();
+    }
+    EXPECT_EQ(unexpected.load(), 0);
+
+    std::map<std::wstring, std::vector<wchar_t>> byClient;
+    for (const auto& heard : handler.heard()) {
+        byClient[heard.substr(1)].push_back(heard[0]);
+    }
+    EXPECT_EQ(byClient.size(), 4U);
+    for (const auto& [client, signs] : byClient) {
+        for (std::size_t i = 0; i < signs.size(); ++i) {
+            EXPECT_EQ(signs[i], i % 2 == 0 ? L'+' : L'-') << "client " << i;
+        }
+        EXPECT_EQ(signs.size() % 2, 0U) << "every connection ended once";
+    }
+}
+
+} // namespace
