@@ -199,7 +199,7 @@ def reader(iface: kelidl.Interface, rec: kelidl.Record, pool: StructPool) -> lis
         elif f.kind == "wstr":
             out += ["    (n,) = _U32.unpack_from(b, p)", f"    {local} = b[p + 4 : p + 4 + n].decode()", "    p += 4 + n"]
         elif f.kind == "wstrs":
-            out.append(f"    {local}, p = _read_texts(b, p)")
+            out.append(f"    {local}, p = read_texts(b, p)")
         elif f.kind == "bytes":
             out += ["    (n,) = _U32.unpack_from(b, p)", f"    {local} = b[p + 4 : p + 4 + n]", "    p += 4 + n"]
         elif f.kind == "rec":
@@ -244,7 +244,8 @@ def writer(iface: kelidl.Interface, rec: kelidl.Record, pool: StructPool) -> lis
         elif f.kind == "rec":
             out.append(f"    write_{f.record}(o, {attr})")
         elif f.kind == "list":
-            out += [f"    o += _U32.pack(len({attr}))", f"    for e in {attr}:", f"        write_{f.record}(o, e)"]
+            e = "e_" + snake(f.name).rstrip("_")
+            out += [f"    o += _U32.pack(len({attr}))", f"    for {e} in {attr}:", f"        write_{f.record}(o, {e})"]
     return out + ["", ""]
 
 
@@ -252,7 +253,7 @@ STREAM_HELPERS = '''
 _U32 = struct.Struct("<I")
 
 
-def _read_texts(b: bytes, p: int) -> tuple[list[str], int]:
+def read_texts(b: bytes, p: int) -> tuple[list[str], int]:
     (n,) = _U32.unpack_from(b, p)
     p += 4
     texts = []
@@ -423,14 +424,13 @@ def async_starter(iface: kelidl.Interface, op: kelidl.Operation) -> tuple[list[s
            "    error = ctypes.c_void_p()"]
     for local, build, _ in kept:
         out.append(f"    {local} = {build}")
-    out.append("    try:")
-    out.append(f"        call_id: int = lib.kel_{op.name}({', '.join(exprs)})")
-    out.append("    finally:")
+    call = f"call_id: int = lib.kel_{op.name}({', '.join(exprs)})"
     if kept:
-        for local, _, release in kept:
-            out.append(f"        lib.{release}({local}, len({local.removeprefix('l_')}))")
+        # Lists stay the caller's: built on the library's heap for the call, freed after it.
+        out += ["    try:", f"        {call}", "    finally:"]
+        out += [f"        lib.{release}({local}, len({local[2:]}))" for local, _, release in kept]
     else:
-        out.append("        pass")
+        out.append(f"    {call}")
     out += ["    failure = from_c_KelError(error.value)", "    if error.value:",
             "        lib.release_KelError(error.value)", "    return call_id, failure", "", ""]
     declaration = f'    "kel_{op.name}": (ctypes.c_uint64, [{", ".join(argtypes)}]),'
@@ -547,19 +547,19 @@ def c_records_py(iface: kelidl.Interface) -> str:
 def encode(p: kelidl.Value, iface: kelidl.Interface) -> str:
     name = snake(p.name)
     if p.kind in kelidl.SCALARS:
-        return f'o += struct.pack("<{CODES[p.kind]}", {name})'
+        return f'_o += struct.pack("<{CODES[p.kind]}", {name})'
     if p.kind == "wstr":
-        return f"stream.write_text(o, {name})"
+        return f"stream.write_text(_o, {name})"
     if p.kind == "wstrs":
-        return f"stream.write_texts(o, {name})"
+        return f"stream.write_texts(_o, {name})"
     if p.kind == "u32s":
-        return f'stream.write_values(o, "I", {name})'
+        return f'stream.write_values(_o, "I", {name})'
     if p.kind == "u64s":
-        return f'stream.write_values(o, "Q", {name})'
+        return f'stream.write_values(_o, "Q", {name})'
     if p.kind == "bytes":
-        return f"stream.write_bytes(o, {name})"
+        return f"stream.write_bytes(_o, {name})"
     if p.kind == "rec":
-        return f"stream.write_{p.record}(o, {name})"
+        return f"stream.write_{p.record}(_o, {name})"
     raise ValueError(p.kind)
 
 
@@ -577,24 +577,24 @@ def result_type(v: kelidl.Value | None, op: kelidl.Operation, iface: kelidl.Inte
 
 def decode(v: kelidl.Value, iface: kelidl.Interface) -> list[str]:
     if v.kind in ("bool", "flag"):
-        return ["return b[0] != 0"]
+        return ["return _b[0] != 0"]
     if v.kind in kelidl.SCALARS:
-        return [f'value: int = struct.unpack_from("<{CODES[v.kind]}", b)[0]', "return value"]
+        return [f'_value: int = struct.unpack_from("<{CODES[v.kind]}", _b)[0]', "return _value"]
     if v.kind == "wstr":
-        return ["return b[4:].decode()"]
+        return ["return _b[4:].decode()"]
     if v.kind == "wstrs":
-        return ["return stream._read_texts(b, 0)[0]"]
+        return ["return stream.read_texts(_b, 0)[0]"]
     if v.kind in ("bytes", "blob"):
-        return ["return b[4:]"]
+        return ["return _b[4:]"]
     if v.kind == "rec":
-        return [f"return stream.read_{v.record}(b, 0)[0]"]
+        return [f"return stream.read_{v.record}(_b, 0)[0]"]
     if v.kind == "list":
-        return ["(n,) = struct.unpack_from(\"<I\", b)", "p = 4",
-                f"results: list[Optional[records.{c_name(iface, v.record)}]] = []",
-                "for _ in range(n):", f"    r, p = stream.read_{v.record}(b, p)", "    results.append(r)",
-                "return results"]
+        return ["(_n,) = struct.unpack_from(\"<I\", _b)", "_p = 4",
+                f"_results: list[Optional[records.{c_name(iface, v.record)}]] = []",
+                "for _ in range(_n):", f"    _r, _p = stream.read_{v.record}(_b, _p)", "    _results.append(_r)",
+                "return _results"]
     if v.kind == "engine":
-        return ['return self._adopt(struct.unpack_from("<Q", b)[0])']
+        return ['return self._adopt(struct.unpack_from("<Q", _b)[0])']
     raise ValueError(v.kind)
 
 
@@ -636,19 +636,19 @@ def operations_py(iface: kelidl.Interface) -> str:
         params = signature(op.params, iface)
         out.append(f"    def {snake(op.name)}({', '.join(['self'] + params)}) -> {result_type(op.result, op, iface)}:")
         out += method_doc(op, iface, False)
-        out.append("        o = bytearray()")
+        out.append("        _o = bytearray()")
         for p in op.params:
             name = snake(p.name)
             if p.kind == "list":
-                out += [f'        o += struct.pack("<I", len({name}))', f"        for e in {name}:",
-                        f"            stream.write_{p.record}(o, e)"]
+                out += [f'        _o += struct.pack("<I", len({name}))', f"        for _e in {name}:",
+                        f"            stream.write_{p.record}(_o, _e)"]
             else:
                 out.append(f"        {encode(p, iface)}")
-        call = f"self._call({op.otx}, builtins.bytes(o))"
+        call = f"self._call({op.otx}, builtins.bytes(_o))"
         if op.result is None or op.discard:
             out.append(f"        {call}")
         else:
-            out.append(f"        b = {call}")
+            out.append(f"        _b = {call}")
             out += [f"        {line}" for line in decode(op.result, iface)]
         out.append("")
         a = asyncs.get(op.name)

@@ -607,10 +607,7 @@ def to_c_EventReport(lib: Any, v: Optional[records.EventReport]) -> int:
 def start_identifyAllTargetsAsync(lib: Any, api: int, callback: Any) -> tuple[int, Optional[records.KelError]]:
     """kel_identifyAllTargetsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
-    try:
-        call_id: int = lib.kel_identifyAllTargetsAsync(api, ctypes.byref(error), callback, None)
-    finally:
-        pass
+    call_id: int = lib.kel_identifyAllTargetsAsync(api, ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -620,10 +617,7 @@ def start_identifyAllTargetsAsync(lib: Any, api: int, callback: Any) -> tuple[in
 def start_readIdentificationValuesAsync(lib: Any, api: int, callback: Any, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_readIdentificationValuesAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
-    try:
-        call_id: int = lib.kel_readIdentificationValuesAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
-    finally:
-        pass
+    call_id: int = lib.kel_readIdentificationValuesAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -633,10 +627,7 @@ def start_readIdentificationValuesAsync(lib: Any, api: int, callback: Any, targe
 def start_readDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str], config: Optional[records.DtcReadConfig]) -> tuple[int, Optional[records.KelError]]:
     """kel_readDtcsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
-    try:
-        call_id: int = lib.kel_readDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), to_c_DtcReadConfig(lib, config), ctypes.byref(error), callback, None)
-    finally:
-        pass
+    call_id: int = lib.kel_readDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), to_c_DtcReadConfig(lib, config), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -646,10 +637,7 @@ def start_readDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str
 def start_readSupportedDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str], config: Optional[records.DtcReadConfig]) -> tuple[int, Optional[records.KelError]]:
     """kel_readSupportedDtcsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
-    try:
-        call_id: int = lib.kel_readSupportedDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), to_c_DtcReadConfig(lib, config), ctypes.byref(error), callback, None)
-    finally:
-        pass
+    call_id: int = lib.kel_readSupportedDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), to_c_DtcReadConfig(lib, config), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -659,10 +647,7 @@ def start_readSupportedDtcsAsync(lib: Any, api: int, callback: Any, targets: Seq
 def start_clearAllDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_clearAllDtcsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
-    try:
-        call_id: int = lib.kel_clearAllDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
-    finally:
-        pass
+    call_id: int = lib.kel_clearAllDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -672,10 +657,7 @@ def start_clearAllDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence
 def start_readMeasurementValuesAsync(lib: Any, api: int, callback: Any, target: str, names: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_readMeasurementValuesAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
-    try:
-        call_id: int = lib.kel_readMeasurementValuesAsync(api, target, ctypes.cast((ctypes.c_wchar_p * len(names))(*names), ctypes.c_void_p), len(names), ctypes.byref(error), callback, None)
-    finally:
-        pass
+    call_id: int = lib.kel_readMeasurementValuesAsync(api, target, ctypes.cast((ctypes.c_wchar_p * len(names))(*names), ctypes.c_void_p), len(names), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -685,10 +667,7 @@ def start_readMeasurementValuesAsync(lib: Any, api: int, callback: Any, target: 
 def start_identifyTargetsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_identifyTargetsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
-    try:
-        call_id: int = lib.kel_identifyTargetsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
-    finally:
-        pass
+    call_id: int = lib.kel_identifyTargetsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -698,10 +677,7 @@ def start_identifyTargetsAsync(lib: Any, api: int, callback: Any, targets: Seque
 def start_clearSpecificDtcsAsync(lib: Any, api: int, callback: Any, target: str, dtc_codes: Sequence[int]) -> tuple[int, Optional[records.KelError]]:
     """kel_clearSpecificDtcsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
-    try:
-        call_id: int = lib.kel_clearSpecificDtcsAsync(api, target, ctypes.cast((ctypes.c_uint32 * len(dtc_codes))(*dtc_codes), ctypes.c_void_p), len(dtc_codes), ctypes.byref(error), callback, None)
-    finally:
-        pass
+    call_id: int = lib.kel_clearSpecificDtcsAsync(api, target, ctypes.cast((ctypes.c_uint32 * len(dtc_codes))(*dtc_codes), ctypes.c_void_p), len(dtc_codes), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)

@@ -34,8 +34,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(2, builtins.bytes(o))
+        _o = bytearray()
+        self._call(2, builtins.bytes(_o))
 
     def end(self) -> None:
         """Ends the engine: the last call before releaseTarnApi.
@@ -44,8 +44,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(3, builtins.bytes(o))
+        _o = bytearray()
+        self._call(3, builtins.bytes(_o))
 
     def start_server(self, text: str) -> str:
         """Starts the engine's server for remote clients; the text and the result are
@@ -55,10 +55,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text)
-        b = self._call(4, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(4, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def stop_server(self, text: str) -> None:
         """Stops the engine's server.
@@ -67,9 +67,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text)
-        self._call(5, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, text)
+        self._call(5, builtins.bytes(_o))
 
     def restart_server(self, value: int) -> None:
         """Restarts the engine's server; value is passed to the engine unchanged.
@@ -78,9 +78,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<i", value)
-        self._call(6, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<i", value)
+        self._call(6, builtins.bytes(_o))
 
     def save_project_configuration(self, project_name: str) -> None:
         """Saves a project's configuration.
@@ -89,9 +89,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, project_name)
-        self._call(9, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, project_name)
+        self._call(9, builtins.bytes(_o))
 
     def create_monitoring_link(self, name: str) -> int:
         """Opens a monitoring link on the running communication; returns its handle.
@@ -100,11 +100,11 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, name)
-        b = self._call(10, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        stream.write_text(_o, name)
+        _b = self._call(10, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def release_monitoring_link(self, handle: int) -> None:
         """Closes a monitoring link.
@@ -113,9 +113,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", handle)
-        self._call(12, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(12, builtins.bytes(_o))
 
     def create_pdu_monitor(self) -> int:
         """Opens a PDU monitor; returns its handle.
@@ -124,10 +124,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(14, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        _b = self._call(14, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def save_configuration(self) -> None:
         """Saves the engine's configuration.
@@ -136,8 +136,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(15, builtins.bytes(o))
+        _o = bytearray()
+        self._call(15, builtins.bytes(_o))
 
     def release_pdu_monitor(self, handle: int) -> None:
         """Closes a PDU monitor.
@@ -146,9 +146,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", handle)
-        self._call(16, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(16, builtins.bytes(_o))
 
     def identify_all_targets(self) -> list[Optional[records.VariantIdentResult]]:
         """Identifies the variant of every target of the project; one result per
@@ -158,15 +158,15 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(17, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.VariantIdentResult]] = []
-        for _ in range(n):
-            r, p = stream.read_VariantIdentResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        _b = self._call(17, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.VariantIdentResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_VariantIdentResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def identify_all_targets_async(self) -> AsyncCall:
         """Identifies the variant of every target of the project; one result per
@@ -186,16 +186,16 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_texts(o, targets)
-        b = self._call(19, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.ReadDataResult]] = []
-        for _ in range(n):
-            r, p = stream.read_ReadDataResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(19, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDataResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDataResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def read_identification_values_async(self, targets: Sequence[str] = ()) -> AsyncCall:
         """Reads the identification values of the given targets; one result per target.
@@ -214,17 +214,17 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, target)
-        stream.write_texts(o, identifiers)
-        b = self._call(21, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.ReadDataResult]] = []
-        for _ in range(n):
-            r, p = stream.read_ReadDataResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_texts(_o, identifiers)
+        _b = self._call(21, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDataResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDataResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def identify_target(self, target: str) -> Optional[records.VariantIdentResult]:
         """Identifies the variant of one target.
@@ -233,10 +233,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, target)
-        b = self._call(22, builtins.bytes(o))
-        return stream.read_VariantIdentResult(b, 0)[0]
+        _o = bytearray()
+        stream.write_text(_o, target)
+        _b = self._call(22, builtins.bytes(_o))
+        return stream.read_VariantIdentResult(_b, 0)[0]
 
     def read_dtcs(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> list[Optional[records.ReadDtcResult]]:
         """Reads the DTCs of the given targets with the reading options in config; one
@@ -246,17 +246,17 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_texts(o, targets)
-        stream.write_DtcReadConfig(o, config)
-        b = self._call(23, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.ReadDtcResult]] = []
-        for _ in range(n):
-            r, p = stream.read_ReadDtcResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        stream.write_DtcReadConfig(_o, config)
+        _b = self._call(23, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDtcResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDtcResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def read_dtcs_async(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> AsyncCall:
         """Reads the DTCs of the given targets with the reading options in config; one
@@ -277,17 +277,17 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_texts(o, targets)
-        stream.write_DtcReadConfig(o, config)
-        b = self._call(25, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.ReadDtcResult]] = []
-        for _ in range(n):
-            r, p = stream.read_SupportedDtcResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        stream.write_DtcReadConfig(_o, config)
+        _b = self._call(25, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDtcResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_SupportedDtcResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def read_supported_dtcs_async(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> AsyncCall:
         """Reads the DTCs that the given targets support, with the reading options in
@@ -307,16 +307,16 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_texts(o, targets)
-        b = self._call(27, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.ClearDtcResult]] = []
-        for _ in range(n):
-            r, p = stream.read_ClearDtcResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(27, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ClearDtcResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ClearDtcResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def clear_all_dtcs_async(self, targets: Sequence[str] = ()) -> AsyncCall:
         """Clears every DTC of the given targets; one result per target.
@@ -335,10 +335,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text)
-        b = self._call(36, builtins.bytes(o))
-        return self._adopt(struct.unpack_from("<Q", b)[0])
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(36, builtins.bytes(_o))
+        return self._adopt(struct.unpack_from("<Q", _b)[0])
 
     def register_measurement_values(self, target: str, names: Sequence[str] = ()) -> int:
         """Registers measurement values of one target for repeated reading; returns the
@@ -348,12 +348,12 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, target)
-        stream.write_texts(o, names)
-        b = self._call(38, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_texts(_o, names)
+        _b = self._call(38, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def get_measurement_values(self, registration: int) -> list[Optional[records.ReadDataResult]]:
         """Reads the measurement values of a registration.
@@ -362,16 +362,16 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", registration)
-        b = self._call(39, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.ReadDataResult]] = []
-        for _ in range(n):
-            r, p = stream.read_ReadDataResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        _o += struct.pack("<Q", registration)
+        _b = self._call(39, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDataResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDataResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def unregister_measurement_values(self, registration: int) -> None:
         """Ends a registration made with kel_registerMeasurementValues.
@@ -380,9 +380,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", registration)
-        self._call(40, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", registration)
+        self._call(40, builtins.bytes(_o))
 
     def cancel_all_async_calls(self) -> None:
         """Cancels every asynchronous call running on this engine object; whether a
@@ -392,8 +392,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(128, builtins.bytes(o))
+        _o = bytearray()
+        self._call(128, builtins.bytes(_o))
 
     def create_seed(self, value1: int, value2: int) -> builtins.bytes:
         """Asks for the seed of a security access; the two values reach the engine in
@@ -403,11 +403,11 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<I", value1)
-        o += struct.pack("<I", value2)
-        b = self._call(43, builtins.bytes(o))
-        return b[4:]
+        _o = bytearray()
+        _o += struct.pack("<I", value1)
+        _o += struct.pack("<I", value2)
+        _b = self._call(43, builtins.bytes(_o))
+        return _b[4:]
 
     def send_key(self, key: builtins.bytes) -> None:
         """Sends the key of a security access, computed from the seed.
@@ -416,9 +416,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_bytes(o, key)
-        self._call(44, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_bytes(_o, key)
+        self._call(44, builtins.bytes(_o))
 
     def open_event_channel(self) -> int:
         """Opens an event channel and returns its identifier; kel_getCurrentEvents
@@ -428,10 +428,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(45, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        _b = self._call(45, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def close_event_channel(self, channel: int) -> None:
         """Closes an event channel opened with kel_openEventChannel.
@@ -440,9 +440,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", channel)
-        self._call(46, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", channel)
+        self._call(46, builtins.bytes(_o))
 
     def get_current_events(self, channel: int, limit: int) -> Optional[records.EventReport]:
         """Fetches the events waiting on an event channel; limit is passed to the
@@ -452,11 +452,11 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", channel)
-        o += struct.pack("<I", limit)
-        b = self._call(47, builtins.bytes(o))
-        return stream.read_EventReport(b, 0)[0]
+        _o = bytearray()
+        _o += struct.pack("<Q", channel)
+        _o += struct.pack("<I", limit)
+        _b = self._call(47, builtins.bytes(_o))
+        return stream.read_EventReport(_b, 0)[0]
 
     def open_trace_file_monitoring_link(self, handle: int, trace_file: str) -> None:
         """Opens a recorded trace file for monitoring under the given handle.
@@ -465,10 +465,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", handle)
-        stream.write_text(o, trace_file)
-        self._call(67, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        stream.write_text(_o, trace_file)
+        self._call(67, builtins.bytes(_o))
 
     def start_trace_file_monitoring_link(self, handle: int) -> None:
         """Starts the monitoring of a trace file.
@@ -477,9 +477,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", handle)
-        self._call(68, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(68, builtins.bytes(_o))
 
     def stop_trace_file_monitoring_link(self, handle: int) -> None:
         """Stops the monitoring of a trace file.
@@ -488,9 +488,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", handle)
-        self._call(69, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(69, builtins.bytes(_o))
 
     def close_trace_file_monitoring_link(self, handle: int) -> None:
         """Closes the monitoring of a trace file.
@@ -499,9 +499,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", handle)
-        self._call(66, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(66, builtins.bytes(_o))
 
     def save_interface_configuration(self) -> None:
         """Saves the interface configuration.
@@ -510,8 +510,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(70, builtins.bytes(o))
+        _o = bytearray()
+        self._call(70, builtins.bytes(_o))
 
     def disconnect(self) -> None:
         """Ends the connection to the remote engine.
@@ -520,8 +520,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(74, builtins.bytes(o))
+        _o = bytearray()
+        self._call(74, builtins.bytes(_o))
 
     def get_interface_long_name(self, name: str) -> str:
         """Reads the long name of an interface.
@@ -530,10 +530,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, name)
-        b = self._call(73, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        stream.write_text(_o, name)
+        _b = self._call(73, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def read_measurement_values(self, target: str, names: Sequence[str] = ()) -> list[Optional[records.ReadDataResult]]:
         """Reads the named measurement values of one target once.
@@ -542,17 +542,17 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, target)
-        stream.write_texts(o, names)
-        b = self._call(75, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.ReadDataResult]] = []
-        for _ in range(n):
-            r, p = stream.read_ReadDataResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_texts(_o, names)
+        _b = self._call(75, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDataResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDataResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def read_measurement_values_async(self, target: str, names: Sequence[str] = ()) -> AsyncCall:
         """Reads the named measurement values of one target once.
@@ -572,13 +572,13 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, path)
-        o += struct.pack("<Q", value1)
-        o += struct.pack("<I", value2)
-        o += struct.pack("<?", flag)
-        b = self._call(77, builtins.bytes(o))
-        return b[4:]
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _o += struct.pack("<Q", value1)
+        _o += struct.pack("<I", value2)
+        _o += struct.pack("<?", flag)
+        _b = self._call(77, builtins.bytes(_o))
+        return _b[4:]
 
     def connect_interfaces(self) -> None:
         """Connects the configured interfaces.
@@ -587,8 +587,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(80, builtins.bytes(o))
+        _o = bytearray()
+        self._call(80, builtins.bytes(_o))
 
     def disconnect_interfaces(self) -> None:
         """Disconnects the connected interfaces.
@@ -597,8 +597,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(81, builtins.bytes(o))
+        _o = bytearray()
+        self._call(81, builtins.bytes(_o))
 
     def execute_do_ip_broadcast(self) -> None:
         """Sends a DoIP broadcast to find the vehicles on the network.
@@ -607,8 +607,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(82, builtins.bytes(o))
+        _o = bytearray()
+        self._call(82, builtins.bytes(_o))
 
     def refresh_project_list(self) -> None:
         """Has the engine read its list of projects again.
@@ -617,8 +617,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(85, builtins.bytes(o))
+        _o = bytearray()
+        self._call(85, builtins.bytes(_o))
 
     def identify_targets(self, targets: Sequence[str] = ()) -> list[Optional[records.VariantIdentResult]]:
         """Identifies the variants of the given targets; one result per target.
@@ -627,16 +627,16 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_texts(o, targets)
-        b = self._call(86, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.VariantIdentResult]] = []
-        for _ in range(n):
-            r, p = stream.read_VariantIdentResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(86, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.VariantIdentResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_VariantIdentResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def identify_targets_async(self, targets: Sequence[str] = ()) -> AsyncCall:
         """Identifies the variants of the given targets; one result per target.
@@ -655,9 +655,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", bridge)
-        self._call(93, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", bridge)
+        self._call(93, builtins.bytes(_o))
 
     def create_socket_bridge(self, value1: int, value2: int) -> int:
         """Opens a socket bridge and returns its identifier; the two values are passed
@@ -667,12 +667,12 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<I", value1)
-        o += struct.pack("<I", value2)
-        b = self._call(92, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        _o += struct.pack("<I", value1)
+        _o += struct.pack("<I", value2)
+        _b = self._call(92, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def get_filtered_targets(self, filters: Sequence[Optional[records.TargetFilter]] = ()) -> list[Optional[records.Target]]:
         """Lists the targets of the project that match the given target filters.
@@ -681,18 +681,18 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<I", len(filters))
-        for e in filters:
-            stream.write_TargetFilter(o, e)
-        b = self._call(97, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.Target]] = []
-        for _ in range(n):
-            r, p = stream.read_Target(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        _o += struct.pack("<I", len(filters))
+        for _e in filters:
+            stream.write_TargetFilter(_o, _e)
+        _b = self._call(97, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.Target]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_Target(_b, _p)
+            _results.append(_r)
+        return _results
 
     def is_project_conversion_required(self, project_path: str) -> bool:
         """Tells whether a project must be converted before the engine can use it.
@@ -701,10 +701,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, project_path)
-        b = self._call(99, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        stream.write_text(_o, project_path)
+        _b = self._call(99, builtins.bytes(_o))
+        return _b[0] != 0
 
     def convert_project(self, project_path: str) -> None:
         """Converts a project for the engine's current version.
@@ -713,9 +713,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, project_path)
-        self._call(100, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, project_path)
+        self._call(100, builtins.bytes(_o))
 
     def save_mox_configuration(self) -> None:
         """Saves the MOX configuration.
@@ -724,8 +724,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(102, builtins.bytes(o))
+        _o = bytearray()
+        self._call(102, builtins.bytes(_o))
 
     def stop_cyclic_services(self, cyclic: int) -> None:
         """Stops a cyclic run started with kel_startCyclicServices.
@@ -734,9 +734,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", cyclic)
-        self._call(104, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", cyclic)
+        self._call(104, builtins.bytes(_o))
 
     def clear_link_cache(self) -> None:
         """Clears the engine's cache of links.
@@ -745,8 +745,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(107, builtins.bytes(o))
+        _o = bytearray()
+        self._call(107, builtins.bytes(_o))
 
     def remove_interface(self, name: str) -> None:
         """Removes an interface.
@@ -755,9 +755,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, name)
-        self._call(110, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, name)
+        self._call(110, builtins.bytes(_o))
 
     def remove_resource(self, name1: str, name2: str) -> None:
         """Removes a resource from an interface.
@@ -766,10 +766,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, name1)
-        stream.write_text(o, name2)
-        self._call(112, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, name1)
+        stream.write_text(_o, name2)
+        self._call(112, builtins.bytes(_o))
 
     def reset_system_property(self, name: str) -> None:
         """Sets a system property back to its default.
@@ -778,9 +778,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, name)
-        self._call(115, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, name)
+        self._call(115, builtins.bytes(_o))
 
     def get_vendor_module_names_ex(self, text: str) -> list[str]:
         """Lists vendor module names; text selects them as the engine defines.
@@ -789,10 +789,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text)
-        b = self._call(121, builtins.bytes(o))
-        return stream._read_texts(b, 0)[0]
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(121, builtins.bytes(_o))
+        return stream.read_texts(_b, 0)[0]
 
     def disconnect_dyn_interfaces(self, names: Sequence[str] = ()) -> None:
         """Disconnects the given dynamically detected interfaces.
@@ -801,9 +801,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_texts(o, names)
-        self._call(126, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_texts(_o, names)
+        self._call(126, builtins.bytes(_o))
 
     def cancel_async_calls(self, call_ids: Sequence[int] = ()) -> None:
         """Cancels the asynchronous calls with the given call identifiers; whether a
@@ -813,9 +813,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_values(o, "Q", call_ids)
-        self._call(42, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_values(_o, "Q", call_ids)
+        self._call(42, builtins.bytes(_o))
 
     def write_file(self, path: str, data: builtins.bytes, value: int, flag: bool) -> int:
         """Writes bytes to a file; returns the engine's 32-bit result.
@@ -824,14 +824,14 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, path)
-        stream.write_bytes(o, data)
-        o += struct.pack("<I", value)
-        o += struct.pack("<?", flag)
-        b = self._call(135, builtins.bytes(o))
-        value: int = struct.unpack_from("<I", b)[0]
-        return value
+        _o = bytearray()
+        stream.write_text(_o, path)
+        stream.write_bytes(_o, data)
+        _o += struct.pack("<I", value)
+        _o += struct.pack("<?", flag)
+        _b = self._call(135, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<I", _b)[0]
+        return _value
 
     def delete_directory(self, path: str) -> Optional[records.KelError]:
         """Deletes a directory; the outcome comes back as an error record, NULL when
@@ -841,10 +841,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, path)
-        b = self._call(134, builtins.bytes(o))
-        return stream.read_KelError(b, 0)[0]
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(134, builtins.bytes(_o))
+        return stream.read_KelError(_b, 0)[0]
 
     def lock(self) -> int:
         """Takes the engine's lock and returns the lock identifier that kel_unlock
@@ -854,10 +854,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(147, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        _b = self._call(147, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def unlock(self, lock_id: int) -> None:
         """Gives back the engine's lock taken with kel_lock.
@@ -866,9 +866,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", lock_id)
-        self._call(148, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", lock_id)
+        self._call(148, builtins.bytes(_o))
 
     def is_locked(self) -> bool:
         """Tells whether the engine's lock is taken.
@@ -877,9 +877,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(149, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        _b = self._call(149, builtins.bytes(_o))
+        return _b[0] != 0
 
     def break_lock(self) -> None:
         """Breaks the engine's lock, whoever holds it.
@@ -888,8 +888,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(150, builtins.bytes(o))
+        _o = bytearray()
+        self._call(150, builtins.bytes(_o))
 
     def set_ethernet_pin_state(self, state: int, interfaces: Sequence[str] = ()) -> None:
         """Sets the Ethernet pin state of the given interfaces.
@@ -898,10 +898,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<B", state)
-        stream.write_texts(o, interfaces)
-        self._call(151, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<B", state)
+        stream.write_texts(_o, interfaces)
+        self._call(151, builtins.bytes(_o))
 
     def get_ethernet_pin_state(self, interface_name: str) -> int:
         """Reads the Ethernet pin state of an interface.
@@ -910,11 +910,11 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, interface_name)
-        b = self._call(152, builtins.bytes(o))
-        value: int = struct.unpack_from("<I", b)[0]
-        return value
+        _o = bytearray()
+        stream.write_text(_o, interface_name)
+        _b = self._call(152, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<I", _b)[0]
+        return _value
 
     def connect_dyn_interface_ex(self, name: str, flag: bool) -> None:
         """Connects a dynamically detected interface without a detection record.
@@ -923,10 +923,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, name)
-        o += struct.pack("<?", flag)
-        self._call(153, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, name)
+        _o += struct.pack("<?", flag)
+        self._call(153, builtins.bytes(_o))
 
     def add_user(self, text1: str, text2: str, value: int) -> None:
         """Adds a user to the server's user management.
@@ -935,11 +935,11 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text1)
-        stream.write_text(o, text2)
-        o += struct.pack("<I", value)
-        self._call(155, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        _o += struct.pack("<I", value)
+        self._call(155, builtins.bytes(_o))
 
     def remove_user(self, text: str) -> None:
         """Removes a user from the server's user management.
@@ -948,9 +948,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text)
-        self._call(158, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, text)
+        self._call(158, builtins.bytes(_o))
 
     def update_user(self, text1: str, text2: str, text3: str, value: int) -> None:
         """Changes a user of the server's user management.
@@ -959,12 +959,12 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text1)
-        stream.write_text(o, text2)
-        stream.write_text(o, text3)
-        o += struct.pack("<I", value)
-        self._call(161, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_text(_o, text3)
+        _o += struct.pack("<I", value)
+        self._call(161, builtins.bytes(_o))
 
     def get_server_user_management(self) -> bool:
         """Tells whether the server's user management is on.
@@ -973,9 +973,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(138, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        _b = self._call(138, builtins.bytes(_o))
+        return _b[0] != 0
 
     def set_server_user_management(self, enabled: bool) -> None:
         """Turns the server's user management on or off.
@@ -984,9 +984,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<?", enabled)
-        self._call(156, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<?", enabled)
+        self._call(156, builtins.bytes(_o))
 
     def disconnect_all_clients(self) -> None:
         """Disconnects every remote client from the engine's server.
@@ -995,8 +995,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(162, builtins.bytes(o))
+        _o = bytearray()
+        self._call(162, builtins.bytes(_o))
 
     def test_socket_bridge(self, bridge: int) -> bool:
         """Tells whether a socket bridge works.
@@ -1005,10 +1005,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", bridge)
-        b = self._call(157, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        _o += struct.pack("<Q", bridge)
+        _b = self._call(157, builtins.bytes(_o))
+        return _b[0] != 0
 
     def calculate_checksum(self, path: str, algorithm: int) -> str:
         """Calculates the checksum of a file with the given algorithm.
@@ -1017,11 +1017,11 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, path)
-        o += struct.pack("<i", algorithm)
-        b = self._call(169, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _o += struct.pack("<i", algorithm)
+        _b = self._call(169, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def run_sequence(self, sequence: str, arguments: Sequence[str] = ()) -> int:
         """Starts a sequence with the given arguments; returns the run that
@@ -1031,12 +1031,12 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, sequence)
-        stream.write_texts(o, arguments)
-        b = self._call(177, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        stream.write_text(_o, sequence)
+        stream.write_texts(_o, arguments)
+        _b = self._call(177, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def release_vehicle_unlock(self, value: int) -> None:
         """Releases a vehicle unlock; value is passed to the engine unchanged.
@@ -1045,9 +1045,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", value)
-        self._call(179, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", value)
+        self._call(179, builtins.bytes(_o))
 
     def cancel_sequence(self, run: int) -> None:
         """Cancels a run of a sequence started with kel_runSequence.
@@ -1056,9 +1056,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", run)
-        self._call(180, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", run)
+        self._call(180, builtins.bytes(_o))
 
     def apply_update_package(self, package: str) -> None:
         """Applies an update package.
@@ -1067,9 +1067,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, package)
-        self._call(185, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, package)
+        self._call(185, builtins.bytes(_o))
 
     def rename_file(self, path: str, new_name: str) -> None:
         """Renames a file.
@@ -1078,10 +1078,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, path)
-        stream.write_text(o, new_name)
-        self._call(186, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, path)
+        stream.write_text(_o, new_name)
+        self._call(186, builtins.bytes(_o))
 
     def on_connection_broken(self) -> None:
         """Tells the engine that its connection broke.
@@ -1090,8 +1090,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(188, builtins.bytes(o))
+        _o = bytearray()
+        self._call(188, builtins.bytes(_o))
 
     def check_updates_on_broker(self) -> bool:
         """Tells whether the broker has updates.
@@ -1100,9 +1100,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(174, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        _b = self._call(174, builtins.bytes(_o))
+        return _b[0] != 0
 
     def auto_update(self) -> bool:
         """Updates automatically; tells whether anything was updated.
@@ -1111,9 +1111,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(175, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        _b = self._call(175, builtins.bytes(_o))
+        return _b[0] != 0
 
     def create_api_trace_monitor(self) -> int:
         """Opens an API trace monitor, which records the calls made on the engine;
@@ -1123,10 +1123,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(189, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        _b = self._call(189, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def get_api_trace_content(self, handle: int, value1: int, value2: int) -> builtins.bytes:
         """Fetches what an API trace monitor recorded, as bytes; the two values are
@@ -1136,12 +1136,12 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", handle)
-        o += struct.pack("<I", value1)
-        o += struct.pack("<i", value2)
-        b = self._call(190, builtins.bytes(o))
-        return b[4:]
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        _o += struct.pack("<I", value1)
+        _o += struct.pack("<i", value2)
+        _b = self._call(190, builtins.bytes(_o))
+        return _b[4:]
 
     def release_api_trace_monitor(self, handle: int) -> None:
         """Closes an API trace monitor.
@@ -1150,9 +1150,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", handle)
-        self._call(192, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(192, builtins.bytes(_o))
 
     def get_current_versions(self) -> list[Optional[records.NamedItem]]:
         """Lists the current versions of the installed components.
@@ -1161,15 +1161,15 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(191, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.NamedItem]] = []
-        for _ in range(n):
-            r, p = stream.read_NamedItem(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        _b = self._call(191, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.NamedItem]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_NamedItem(_b, _p)
+            _results.append(_r)
+        return _results
 
     def check_update_success(self) -> bool:
         """Tells whether the last update succeeded.
@@ -1178,9 +1178,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(193, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        _b = self._call(193, builtins.bytes(_o))
+        return _b[0] != 0
 
     def clean_update_tmp(self) -> None:
         """Removes the temporary files of updates.
@@ -1189,8 +1189,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(194, builtins.bytes(o))
+        _o = bytearray()
+        self._call(194, builtins.bytes(_o))
 
     def reconnect_remote_server(self, handle: int) -> bool:
         """Connects the remote engine with the given handle again; tells whether that
@@ -1200,10 +1200,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<Q", handle)
-        b = self._call(199, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        _b = self._call(199, builtins.bytes(_o))
+        return _b[0] != 0
 
     def get_target_status(self, targets: Sequence[str] = ()) -> list[Optional[records.TargetStatus]]:
         """Reads the status of the given targets; one result per target.
@@ -1212,16 +1212,16 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_texts(o, targets)
-        b = self._call(215, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.TargetStatus]] = []
-        for _ in range(n):
-            r, p = stream.read_TargetStatus(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(215, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.TargetStatus]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_TargetStatus(_b, _p)
+            _results.append(_r)
+        return _results
 
     def move_file(self, source: str, target: str) -> bool:
         """Moves a file; tells whether it moved.
@@ -1230,11 +1230,11 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, source)
-        stream.write_text(o, target)
-        b = self._call(209, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        stream.write_text(_o, source)
+        stream.write_text(_o, target)
+        _b = self._call(209, builtins.bytes(_o))
+        return _b[0] != 0
 
     def move_directory(self, source: str, target: str) -> bool:
         """Moves a directory; tells whether it moved.
@@ -1243,11 +1243,11 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, source)
-        stream.write_text(o, target)
-        b = self._call(219, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        stream.write_text(_o, source)
+        stream.write_text(_o, target)
+        _b = self._call(219, builtins.bytes(_o))
+        return _b[0] != 0
 
     def path_exists(self, path: str) -> bool:
         """Tells whether a path exists.
@@ -1256,10 +1256,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, path)
-        b = self._call(220, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(220, builtins.bytes(_o))
+        return _b[0] != 0
 
     def resolve_path(self, path: str) -> str:
         """Resolves a path to the engine's full path.
@@ -1268,10 +1268,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, path)
-        b = self._call(225, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(225, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def on_connection_closed(self) -> None:
         """Tells the engine that its connection was closed.
@@ -1280,8 +1280,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(226, builtins.bytes(o))
+        _o = bytearray()
+        self._call(226, builtins.bytes(_o))
 
     def open_terminal(self) -> bool:
         """Opens the terminal; tells whether it opened.
@@ -1290,9 +1290,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(227, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        _b = self._call(227, builtins.bytes(_o))
+        return _b[0] != 0
 
     def close_terminal(self) -> None:
         """Closes the terminal.
@@ -1301,8 +1301,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(228, builtins.bytes(o))
+        _o = bytearray()
+        self._call(228, builtins.bytes(_o))
 
     def is_directory(self, path: str) -> bool:
         """Tells whether a path is a directory.
@@ -1311,10 +1311,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, path)
-        b = self._call(231, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(231, builtins.bytes(_o))
+        return _b[0] != 0
 
     def is_file(self, path: str) -> bool:
         """Tells whether a path is a file.
@@ -1323,10 +1323,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, path)
-        b = self._call(234, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(234, builtins.bytes(_o))
+        return _b[0] != 0
 
     def clear_do_ip_ecu_collection(self) -> list[Optional[records.KelError]]:
         """Clears the collection of ECUs found over DoIP; returns an error record for
@@ -1336,15 +1336,15 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(236, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.KelError]] = []
-        for _ in range(n):
-            r, p = stream.read_KelError(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        _b = self._call(236, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.KelError]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_KelError(_b, _p)
+            _results.append(_r)
+        return _results
 
     def set_broker_url(self, url: str) -> None:
         """Sets the address of the update broker.
@@ -1353,9 +1353,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, url)
-        self._call(237, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, url)
+        self._call(237, builtins.bytes(_o))
 
     def third_party_login(self, text: str) -> bool:
         """Logs in through an outside identity provider; tells whether that worked.
@@ -1364,10 +1364,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text)
-        b = self._call(244, builtins.bytes(o))
-        return b[0] != 0
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(244, builtins.bytes(_o))
+        return _b[0] != 0
 
     def clear_update_packages(self) -> None:
         """Removes the update packages at hand.
@@ -1376,8 +1376,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(245, builtins.bytes(o))
+        _o = bytearray()
+        self._call(245, builtins.bytes(_o))
 
     def get_third_party_login_url(self, text: str) -> str:
         """Reads the address of the outside identity provider's login.
@@ -1386,10 +1386,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text)
-        b = self._call(253, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(253, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def select_dynamic_project(self, project_name: str, items: Sequence[str] = ()) -> None:
         """Selects a dynamic project made of the given items.
@@ -1398,10 +1398,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, project_name)
-        stream.write_texts(o, items)
-        self._call(246, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, project_name)
+        stream.write_texts(_o, items)
+        self._call(246, builtins.bytes(_o))
 
     def get_certificate_by_public_key(self, text1: str, text2: str, text3: str, text4: str) -> str:
         """Looks up a certificate by its public key.
@@ -1410,13 +1410,13 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text1)
-        stream.write_text(o, text2)
-        stream.write_text(o, text3)
-        stream.write_text(o, text4)
-        b = self._call(247, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_text(_o, text3)
+        stream.write_text(_o, text4)
+        _b = self._call(247, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def create_certificate_from_csr(self, text1: str, text2: str, text3: str, text4: str, text5: str, text6: str) -> str:
         """Issues a certificate for a certificate signing request.
@@ -1425,15 +1425,15 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text1)
-        stream.write_text(o, text2)
-        stream.write_text(o, text3)
-        stream.write_text(o, text4)
-        stream.write_text(o, text5)
-        stream.write_text(o, text6)
-        b = self._call(248, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_text(_o, text3)
+        stream.write_text(_o, text4)
+        stream.write_text(_o, text5)
+        stream.write_text(_o, text6)
+        _b = self._call(248, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def get_certificate_chain_by_id(self, text1: str, text2: str, text3: str) -> list[str]:
         """Reads a certificate chain by its identifier.
@@ -1442,12 +1442,12 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text1)
-        stream.write_text(o, text2)
-        stream.write_text(o, text3)
-        b = self._call(249, builtins.bytes(o))
-        return stream._read_texts(b, 0)[0]
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_text(_o, text3)
+        _b = self._call(249, builtins.bytes(_o))
+        return stream.read_texts(_b, 0)[0]
 
     def get_ecu_order_file_path(self) -> str:
         """Reads the path of the ECU order file.
@@ -1456,9 +1456,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(256, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        _b = self._call(256, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def trigger_async_cancels(self, call_ids: Sequence[int] = ()) -> None:
         """Asks the engine to cancel the asynchronous calls with the given call
@@ -1468,9 +1468,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_values(o, "Q", call_ids)
-        self._call(260, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_values(_o, "Q", call_ids)
+        self._call(260, builtins.bytes(_o))
 
     def add_public_directory(self, name: str, path: str) -> None:
         """Adds a public directory under a name.
@@ -1479,10 +1479,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, name)
-        stream.write_text(o, path)
-        self._call(261, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, name)
+        stream.write_text(_o, path)
+        self._call(261, builtins.bytes(_o))
 
     def clear_specific_dtcs(self, target: str, dtc_codes: Sequence[int] = ()) -> list[Optional[records.ClearDtcResult]]:
         """Clears the DTCs with the given codes on one target.
@@ -1491,17 +1491,17 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, target)
-        stream.write_values(o, "I", dtc_codes)
-        b = self._call(268, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.ClearDtcResult]] = []
-        for _ in range(n):
-            r, p = stream.read_ClearDtcResult(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_values(_o, "I", dtc_codes)
+        _b = self._call(268, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ClearDtcResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ClearDtcResult(_b, _p)
+            _results.append(_r)
+        return _results
 
     def clear_specific_dtcs_async(self, target: str, dtc_codes: Sequence[int] = ()) -> AsyncCall:
         """Clears the DTCs with the given codes on one target.
@@ -1520,8 +1520,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(259, builtins.bytes(o))
+        _o = bytearray()
+        self._call(259, builtins.bytes(_o))
 
     def stop_sovd_server(self) -> None:
         """Stops the SOVD server.
@@ -1530,8 +1530,8 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        self._call(280, builtins.bytes(o))
+        _o = bytearray()
+        self._call(280, builtins.bytes(_o))
 
     def get_state(self) -> int:
         """Reads the engine's state number; the engine defines its values.
@@ -1540,10 +1540,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(49, builtins.bytes(o))
-        value: int = struct.unpack_from("<i", b)[0]
-        return value
+        _o = bytearray()
+        _b = self._call(49, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<i", _b)[0]
+        return _value
 
     def get_version(self) -> str:
         """Reads the engine's version.
@@ -1552,9 +1552,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(50, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        _b = self._call(50, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def get_selected_project(self) -> str:
         """Reads the name of the selected project.
@@ -1563,9 +1563,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(51, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        _b = self._call(51, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def set_selected_project(self, project_name: str) -> None:
         """Selects a project by name.
@@ -1574,9 +1574,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, project_name)
-        self._call(52, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, project_name)
+        self._call(52, builtins.bytes(_o))
 
     def get_targets(self) -> list[Optional[records.Target]]:
         """Lists the targets (control units) of the project.
@@ -1585,15 +1585,15 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(58, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.Target]] = []
-        for _ in range(n):
-            r, p = stream.read_Target(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        _b = self._call(58, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.Target]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_Target(_b, _p)
+            _results.append(_r)
+        return _results
 
     def get_handle(self) -> int:
         """Reads the engine object's 64-bit handle, by which kel_call reaches it.
@@ -1602,10 +1602,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(61, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        _b = self._call(61, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def get_monitoring_links(self) -> list[str]:
         """Lists the names of the monitoring links.
@@ -1614,9 +1614,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(65, builtins.bytes(o))
-        return stream._read_texts(b, 0)[0]
+        _o = bytearray()
+        _b = self._call(65, builtins.bytes(_o))
+        return stream.read_texts(_b, 0)[0]
 
     def get_session_target_filters(self) -> list[Optional[records.TargetFilter]]:
         """Reads the session's target filters.
@@ -1625,15 +1625,15 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(90, builtins.bytes(o))
-        (n,) = struct.unpack_from("<I", b)
-        p = 4
-        results: list[Optional[records.TargetFilter]] = []
-        for _ in range(n):
-            r, p = stream.read_TargetFilter(b, p)
-            results.append(r)
-        return results
+        _o = bytearray()
+        _b = self._call(90, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.TargetFilter]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_TargetFilter(_b, _p)
+            _results.append(_r)
+        return _results
 
     def set_session_target_filters(self, filters: Sequence[Optional[records.TargetFilter]] = ()) -> None:
         """Sets the session's target filters.
@@ -1642,11 +1642,11 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        o += struct.pack("<I", len(filters))
-        for e in filters:
-            stream.write_TargetFilter(o, e)
-        self._call(91, builtins.bytes(o))
+        _o = bytearray()
+        _o += struct.pack("<I", len(filters))
+        for _e in filters:
+            stream.write_TargetFilter(_o, _e)
+        self._call(91, builtins.bytes(_o))
 
     def get_current_debug_trace_directory(self) -> str:
         """Reads the directory that the engine writes its debug trace to.
@@ -1655,9 +1655,9 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(142, builtins.bytes(o))
-        return b[4:].decode()
+        _o = bytearray()
+        _b = self._call(142, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def get_call_duration(self) -> int:
         """Reads the engine's call duration; the engine defines what it measures and
@@ -1667,10 +1667,10 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        b = self._call(187, builtins.bytes(o))
-        value: int = struct.unpack_from("<Q", b)[0]
-        return value
+        _o = bytearray()
+        _b = self._call(187, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
 
     def set_status_text(self, text: str) -> None:
         """Sets the engine's status text.
@@ -1679,6 +1679,6 @@ class Operations:
 
         Raises EngineError when the engine reports a failure.
         """
-        o = bytearray()
-        stream.write_text(o, text)
-        self._call(196, builtins.bytes(o))
+        _o = bytearray()
+        stream.write_text(_o, text)
+        self._call(196, builtins.bytes(_o))

@@ -14,7 +14,7 @@ from .records import ClearDtcResult, DtcReadConfig, DtcResult, EventReport, KelE
 _U32 = struct.Struct("<I")
 
 
-def _read_texts(b: bytes, p: int) -> tuple[list[str], int]:
+def read_texts(b: bytes, p: int) -> tuple[list[str], int]:
     (n,) = _U32.unpack_from(b, p)
     p += 4
     texts = []
@@ -349,7 +349,7 @@ def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
     for _ in range(n):
         e_v_items, p = read_NamedItem(b, p)
         v_items.append(e_v_items)
-    v_names, p = _read_texts(b, p)
+    v_names, p = read_texts(b, p)
     (n,) = _U32.unpack_from(b, p)
     v_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
@@ -526,8 +526,8 @@ def write_ParameterResult(o: bytearray, v: Optional[ParameterResult]) -> None:
     write_text(o, v.text2)
     o += _S_i.pack(v.value1)
     o += _U32.pack(len(v.children))
-    for e in v.children:
-        write_ParameterResult(o, e)
+    for e_children in v.children:
+        write_ParameterResult(o, e_children)
     write_text(o, v.text3)
     write_KelError(o, v.error)
     write_text(o, v.text4)
@@ -563,8 +563,8 @@ def write_ReadDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:
     write_text(o, v.target)
     write_KelError(o, v.error)
     o += _U32.pack(len(v.dtcs))
-    for e in v.dtcs:
-        write_DtcResult(o, e)
+    for e_dtcs in v.dtcs:
+        write_DtcResult(o, e_dtcs)
     o += _S_i.pack(v.value)
 
 
@@ -578,16 +578,16 @@ def write_DtcResult(o: bytearray, v: Optional[DtcResult]) -> None:
     write_text(o, v.text2)
     o += _S_i.pack(v.value1)
     o += _U32.pack(len(v.parameters1))
-    for e in v.parameters1:
-        write_ParameterResult(o, e)
+    for e_parameters1 in v.parameters1:
+        write_ParameterResult(o, e_parameters1)
     o += _U32.pack(len(v.parameters2))
-    for e in v.parameters2:
-        write_ParameterResult(o, e)
+    for e_parameters2 in v.parameters2:
+        write_ParameterResult(o, e_parameters2)
     write_text(o, v.text3)
     write_text(o, v.text4)
     o += _U32.pack(len(v.special_data_groups))
-    for e in v.special_data_groups:
-        write_SpecialDataGroup(o, e)
+    for e_special_data_groups in v.special_data_groups:
+        write_SpecialDataGroup(o, e_special_data_groups)
     o += _S_i.pack(v.value2)
 
 
@@ -597,8 +597,8 @@ def write_SpecialDataGroup(o: bytearray, v: Optional[SpecialDataGroup]) -> None:
         return
     o.append(1)
     o += _U32.pack(len(v.items))
-    for e in v.items:
-        write_SpecialData(o, e)
+    for e_items in v.items:
+        write_SpecialData(o, e_items)
 
 
 def write_VariantIdentResult(o: bytearray, v: Optional[VariantIdentResult]) -> None:
@@ -622,8 +622,8 @@ def write_ReadDataResult(o: bytearray, v: Optional[ReadDataResult]) -> None:
     write_text(o, v.text)
     write_KelError(o, v.error)
     o += _U32.pack(len(v.parameters))
-    for e in v.parameters:
-        write_ParameterResult(o, e)
+    for e_parameters in v.parameters:
+        write_ParameterResult(o, e_parameters)
 
 
 def write_Target(o: bytearray, v: Optional[Target]) -> None:
@@ -639,8 +639,8 @@ def write_Target(o: bytearray, v: Optional[Target]) -> None:
     write_text(o, v.text1)
     write_text(o, v.text2)
     o += _U32.pack(len(v.items))
-    for e in v.items:
-        write_NamedItem(o, e)
+    for e_items in v.items:
+        write_NamedItem(o, e_items)
     write_texts(o, v.names)
     write_text(o, v.text3)
     write_text(o, v.text4)
@@ -687,8 +687,8 @@ def write_EventReport(o: bytearray, v: Optional[EventReport]) -> None:
         return
     o.append(1)
     o += _U32.pack(len(v.events))
-    for e in v.events:
-        write_KelEvent(o, e)
+    for e_events in v.events:
+        write_KelEvent(o, e_events)
 
 
 def write_SupportedDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:
@@ -700,8 +700,8 @@ def write_SupportedDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:
     write_text(o, v.target)
     write_KelError(o, v.error)
     o += _U32.pack(len(v.dtcs))
-    for e in v.dtcs:
-        write_DtcResult(o, e)
+    for e_dtcs in v.dtcs:
+        write_DtcResult(o, e_dtcs)
 
 
 def write_SpecialData(o: bytearray, v: Optional[NamedItem]) -> None:
