@@ -12,6 +12,7 @@ from typing import Optional, Sequence
 from .records import ClearDtcResult, DtcReadConfig, DtcResult, EventReport, KelError, KelEvent, MvciServerError, NamedItem, NegativeResponse, ParameterResult, ReadDataResult, ReadDtcResult, SpecialDataGroup, Target, TargetFilter, TargetStatus, VariantIdentResult
 
 _U32 = struct.Struct("<I")
+_u32_read = _U32.unpack_from
 
 
 def read_texts(b: bytes, p: int) -> tuple[list[str], int]:
@@ -49,33 +50,40 @@ def write_values(o: bytearray, code: str, values: Sequence[int]) -> None:
     o += _U32.pack(len(values))
     o += struct.pack(f"<{len(values)}{code}", *values)
 
-_S_i = struct.Struct("<i")
-_S_QQ = struct.Struct("<QQ")
-_S_IBi = struct.Struct("<IBi")
-_S_iBBB = struct.Struct("<iBBB")
-_S_5I = struct.Struct("<5I")
-_S_Bi = struct.Struct("<Bi")
-_S_ii = struct.Struct("<ii")
+_S_i_read = struct.Struct("<i").unpack_from
+_S_i_write = struct.Struct("<i").pack
+_S_QQ_read = struct.Struct("<QQ").unpack_from
+_S_QQ_write = struct.Struct("<QQ").pack
+_S_IBi_read = struct.Struct("<IBi").unpack_from
+_S_IBi_write = struct.Struct("<IBi").pack
+_S_iBBB_read = struct.Struct("<iBBB").unpack_from
+_S_iBBB_write = struct.Struct("<iBBB").pack
+_S_5I_read = struct.Struct("<5I").unpack_from
+_S_5I_write = struct.Struct("<5I").pack
+_S_Bi_read = struct.Struct("<Bi").unpack_from
+_S_Bi_write = struct.Struct("<Bi").pack
+_S_ii_read = struct.Struct("<ii").unpack_from
+_S_ii_write = struct.Struct("<ii").pack
 
 
 def read_MvciServerError(b: bytes, p: int) -> tuple[Optional[MvciServerError], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_code, = _S_i.unpack_from(b, p)
+    v_code, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_code_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_vendor_code, = _S_i.unpack_from(b, p)
+    v_vendor_code, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_vendor_code_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_extra_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_extra_code, = _S_i.unpack_from(b, p)
+    v_extra_code, = _S_i_read(b, p)
     p += 4
     return MvciServerError(code=v_code, code_text=v_code_text, vendor_code=v_vendor_code, vendor_code_text=v_vendor_code_text, extra_text=v_extra_text, extra_code=v_extra_code), p
 
@@ -84,14 +92,14 @@ def read_NegativeResponse(b: bytes, p: int) -> tuple[Optional[NegativeResponse],
     if not b[p]:
         return None, p + 1
     p += 1
-    v_code, = _S_i.unpack_from(b, p)
+    v_code, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_value1, v_value2 = _S_QQ.unpack_from(b, p)
+    v_value1, v_value2 = _S_QQ_read(b, p)
     p += 16
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_bytes = b[p + 4 : p + 4 + n]
     p += 4 + n
     return NegativeResponse(code=v_code, text=v_text, value1=v_value1, value2=v_value2, bytes=v_bytes), p
@@ -101,15 +109,15 @@ def read_KelError(b: bytes, p: int) -> tuple[Optional[KelError], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_code, = _S_i.unpack_from(b, p)
+    v_code, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_message = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_details = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_sub_code, = _S_i.unpack_from(b, p)
+    v_sub_code, = _S_i_read(b, p)
     p += 4
     v_mvci_error, p = read_MvciServerError(b, p)
     v_negative_response, p = read_NegativeResponse(b, p)
@@ -120,16 +128,16 @@ def read_NamedItem(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text1 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     return NamedItem(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
@@ -139,45 +147,45 @@ def read_ParameterResult(b: bytes, p: int) -> tuple[Optional[ParameterResult], i
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text1 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text1 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_value1, = _S_i.unpack_from(b, p)
+    v_value1, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_children: list[Optional[ParameterResult]] = []
     for _ in range(n):
         e_v_children, p = read_ParameterResult(b, p)
         v_children.append(e_v_children)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_value2, = _S_i.unpack_from(b, p)
+    v_value2, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_data = b[p + 4 : p + 4 + n]
     p += 4 + n
-    v_value3, v_flag, v_value4 = _S_IBi.unpack_from(b, p)
+    v_value3, v_flag, v_value4 = _S_IBi_read(b, p)
     p += 9
     return ParameterResult(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text1=v_text1, text2=v_text2, value1=v_value1, children=v_children, text3=v_text3, error=v_error, text4=v_text4, value2=v_value2, data=v_data, value3=v_value3, flag=v_flag, value4=v_value4), p
 
@@ -186,9 +194,9 @@ def read_ClearDtcResult(b: bytes, p: int) -> tuple[Optional[ClearDtcResult], int
     if not b[p]:
         return None, p + 1
     p += 1
-    v_status, = _S_i.unpack_from(b, p)
+    v_status, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_target = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
@@ -199,7 +207,7 @@ def read_DtcReadConfig(b: bytes, p: int) -> tuple[Optional[DtcReadConfig], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value, v_flag1, v_flag2, v_flag3 = _S_iBBB.unpack_from(b, p)
+    v_value, v_flag1, v_flag2, v_flag3 = _S_iBBB_read(b, p)
     p += 7
     return DtcReadConfig(value=v_value, flag1=v_flag1, flag2=v_flag2, flag3=v_flag3), p
 
@@ -208,19 +216,19 @@ def read_ReadDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_status, = _S_i.unpack_from(b, p)
+    v_status, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_target = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_dtcs: list[Optional[DtcResult]] = []
     for _ in range(n):
         e_v_dtcs, p = read_DtcResult(b, p)
         v_dtcs.append(e_v_dtcs)
-    v_value, = _S_i.unpack_from(b, p)
+    v_value, = _S_i_read(b, p)
     p += 4
     return ReadDtcResult(status=v_status, target=v_target, error=v_error, dtcs=v_dtcs, value=v_value), p
 
@@ -229,41 +237,41 @@ def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_code, = _S_i.unpack_from(b, p)
+    v_code, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text1 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_value1, = _S_i.unpack_from(b, p)
+    v_value1, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_parameters1: list[Optional[ParameterResult]] = []
     for _ in range(n):
         e_v_parameters1, p = read_ParameterResult(b, p)
         v_parameters1.append(e_v_parameters1)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_parameters2: list[Optional[ParameterResult]] = []
     for _ in range(n):
         e_v_parameters2, p = read_ParameterResult(b, p)
         v_parameters2.append(e_v_parameters2)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_special_data_groups: list[Optional[SpecialDataGroup]] = []
     for _ in range(n):
         e_v_special_data_groups, p = read_SpecialDataGroup(b, p)
         v_special_data_groups.append(e_v_special_data_groups)
-    v_value2, = _S_i.unpack_from(b, p)
+    v_value2, = _S_i_read(b, p)
     p += 4
     return DtcResult(code=v_code, text1=v_text1, text2=v_text2, value1=v_value1, parameters1=v_parameters1, parameters2=v_parameters2, text3=v_text3, text4=v_text4, special_data_groups=v_special_data_groups, value2=v_value2), p
 
@@ -272,7 +280,7 @@ def read_SpecialDataGroup(b: bytes, p: int) -> tuple[Optional[SpecialDataGroup],
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_items: list[Optional[NamedItem]] = []
     for _ in range(n):
@@ -285,13 +293,13 @@ def read_VariantIdentResult(b: bytes, p: int) -> tuple[Optional[VariantIdentResu
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_target = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_status, = _S_i.unpack_from(b, p)
+    v_status, = _S_i_read(b, p)
     p += 4
     v_error, p = read_KelError(b, p)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_variant = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     return VariantIdentResult(target=v_target, status=v_status, error=v_error, variant=v_variant), p
@@ -301,16 +309,16 @@ def read_ReadDataResult(b: bytes, p: int) -> tuple[Optional[ReadDataResult], int
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_target = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_status, = _S_i.unpack_from(b, p)
+    v_status, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_parameters: list[Optional[ParameterResult]] = []
     for _ in range(n):
@@ -323,42 +331,42 @@ def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text1 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_value1, = _S_i.unpack_from(b, p)
+    v_value1, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text1 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_items: list[Optional[NamedItem]] = []
     for _ in range(n):
         e_v_items, p = read_NamedItem(b, p)
         v_items.append(e_v_items)
     v_names, p = read_texts(b, p)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_value2, = _S_i.unpack_from(b, p)
+    v_value2, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text5 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     return Target(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, value1=v_value1, text1=v_text1, text2=v_text2, items=v_items, names=v_names, text3=v_text3, text4=v_text4, value2=v_value2, text5=v_text5), p
@@ -368,16 +376,16 @@ def read_TargetStatus(b: bytes, p: int) -> tuple[Optional[TargetStatus], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_target = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    v_values = list(_S_5I.unpack_from(b, p))
+    v_values = list(_S_5I_read(b, p))
     p += 20
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     return TargetStatus(target=v_target, text=v_text, error=v_error, values=v_values, text2=v_text2), p
@@ -387,10 +395,10 @@ def read_TargetFilter(b: bytes, p: int) -> tuple[Optional[TargetFilter], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_pattern = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_flag, v_value = _S_Bi.unpack_from(b, p)
+    v_flag, v_value = _S_Bi_read(b, p)
     p += 5
     return TargetFilter(pattern=v_pattern, flag=v_flag, value=v_value), p
 
@@ -399,16 +407,16 @@ def read_KelEvent(b: bytes, p: int) -> tuple[Optional[KelEvent], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_name = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_kind, v_code = _S_ii.unpack_from(b, p)
+    v_kind, v_code = _S_ii_read(b, p)
     p += 8
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_detail = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     return KelEvent(name=v_name, kind=v_kind, code=v_code, text=v_text, error=v_error, detail=v_detail), p
@@ -418,7 +426,7 @@ def read_EventReport(b: bytes, p: int) -> tuple[Optional[EventReport], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_events: list[Optional[KelEvent]] = []
     for _ in range(n):
@@ -431,13 +439,13 @@ def read_SupportedDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], 
     if not b[p]:
         return None, p + 1
     p += 1
-    v_status, = _S_i.unpack_from(b, p)
+    v_status, = _S_i_read(b, p)
     p += 4
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_target = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     p += 4
     v_dtcs: list[Optional[DtcResult]] = []
     for _ in range(n):
@@ -450,16 +458,16 @@ def read_SpecialData(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text1 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    (n,) = _U32.unpack_from(b, p)
+    (n,) = _u32_read(b, p)
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     return NamedItem(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
@@ -470,12 +478,12 @@ def write_MvciServerError(o: bytearray, v: Optional[MvciServerError]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_i.pack(v.code)
+    o += _S_i_write(v.code)
     write_text(o, v.code_text)
-    o += _S_i.pack(v.vendor_code)
+    o += _S_i_write(v.vendor_code)
     write_text(o, v.vendor_code_text)
     write_text(o, v.extra_text)
-    o += _S_i.pack(v.extra_code)
+    o += _S_i_write(v.extra_code)
 
 
 def write_NegativeResponse(o: bytearray, v: Optional[NegativeResponse]) -> None:
@@ -483,9 +491,9 @@ def write_NegativeResponse(o: bytearray, v: Optional[NegativeResponse]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_i.pack(v.code)
+    o += _S_i_write(v.code)
     write_text(o, v.text)
-    o += _S_QQ.pack(v.value1, v.value2)
+    o += _S_QQ_write(v.value1, v.value2)
     write_bytes(o, v.bytes)
 
 
@@ -494,10 +502,10 @@ def write_KelError(o: bytearray, v: Optional[KelError]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_i.pack(v.code)
+    o += _S_i_write(v.code)
     write_text(o, v.message)
     write_text(o, v.details)
-    o += _S_i.pack(v.sub_code)
+    o += _S_i_write(v.sub_code)
     write_MvciServerError(o, v.mvci_error)
     write_NegativeResponse(o, v.negative_response)
 
@@ -524,16 +532,16 @@ def write_ParameterResult(o: bytearray, v: Optional[ParameterResult]) -> None:
     write_text(o, v.item_text4)
     write_text(o, v.text1)
     write_text(o, v.text2)
-    o += _S_i.pack(v.value1)
+    o += _S_i_write(v.value1)
     o += _U32.pack(len(v.children))
     for e_children in v.children:
         write_ParameterResult(o, e_children)
     write_text(o, v.text3)
     write_KelError(o, v.error)
     write_text(o, v.text4)
-    o += _S_i.pack(v.value2)
+    o += _S_i_write(v.value2)
     write_bytes(o, v.data)
-    o += _S_IBi.pack(v.value3, v.flag, v.value4)
+    o += _S_IBi_write(v.value3, v.flag, v.value4)
 
 
 def write_ClearDtcResult(o: bytearray, v: Optional[ClearDtcResult]) -> None:
@@ -541,7 +549,7 @@ def write_ClearDtcResult(o: bytearray, v: Optional[ClearDtcResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_i.pack(v.status)
+    o += _S_i_write(v.status)
     write_text(o, v.target)
     write_KelError(o, v.error)
 
@@ -551,7 +559,7 @@ def write_DtcReadConfig(o: bytearray, v: Optional[DtcReadConfig]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_iBBB.pack(v.value, v.flag1, v.flag2, v.flag3)
+    o += _S_iBBB_write(v.value, v.flag1, v.flag2, v.flag3)
 
 
 def write_ReadDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:
@@ -559,13 +567,13 @@ def write_ReadDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_i.pack(v.status)
+    o += _S_i_write(v.status)
     write_text(o, v.target)
     write_KelError(o, v.error)
     o += _U32.pack(len(v.dtcs))
     for e_dtcs in v.dtcs:
         write_DtcResult(o, e_dtcs)
-    o += _S_i.pack(v.value)
+    o += _S_i_write(v.value)
 
 
 def write_DtcResult(o: bytearray, v: Optional[DtcResult]) -> None:
@@ -573,10 +581,10 @@ def write_DtcResult(o: bytearray, v: Optional[DtcResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_i.pack(v.code)
+    o += _S_i_write(v.code)
     write_text(o, v.text1)
     write_text(o, v.text2)
-    o += _S_i.pack(v.value1)
+    o += _S_i_write(v.value1)
     o += _U32.pack(len(v.parameters1))
     for e_parameters1 in v.parameters1:
         write_ParameterResult(o, e_parameters1)
@@ -588,7 +596,7 @@ def write_DtcResult(o: bytearray, v: Optional[DtcResult]) -> None:
     o += _U32.pack(len(v.special_data_groups))
     for e_special_data_groups in v.special_data_groups:
         write_SpecialDataGroup(o, e_special_data_groups)
-    o += _S_i.pack(v.value2)
+    o += _S_i_write(v.value2)
 
 
 def write_SpecialDataGroup(o: bytearray, v: Optional[SpecialDataGroup]) -> None:
@@ -607,7 +615,7 @@ def write_VariantIdentResult(o: bytearray, v: Optional[VariantIdentResult]) -> N
         return
     o.append(1)
     write_text(o, v.target)
-    o += _S_i.pack(v.status)
+    o += _S_i_write(v.status)
     write_KelError(o, v.error)
     write_text(o, v.variant)
 
@@ -618,7 +626,7 @@ def write_ReadDataResult(o: bytearray, v: Optional[ReadDataResult]) -> None:
         return
     o.append(1)
     write_text(o, v.target)
-    o += _S_i.pack(v.status)
+    o += _S_i_write(v.status)
     write_text(o, v.text)
     write_KelError(o, v.error)
     o += _U32.pack(len(v.parameters))
@@ -635,7 +643,7 @@ def write_Target(o: bytearray, v: Optional[Target]) -> None:
     write_text(o, v.item_text2)
     write_text(o, v.item_text3)
     write_text(o, v.item_text4)
-    o += _S_i.pack(v.value1)
+    o += _S_i_write(v.value1)
     write_text(o, v.text1)
     write_text(o, v.text2)
     o += _U32.pack(len(v.items))
@@ -644,7 +652,7 @@ def write_Target(o: bytearray, v: Optional[Target]) -> None:
     write_texts(o, v.names)
     write_text(o, v.text3)
     write_text(o, v.text4)
-    o += _S_i.pack(v.value2)
+    o += _S_i_write(v.value2)
     write_text(o, v.text5)
 
 
@@ -656,7 +664,7 @@ def write_TargetStatus(o: bytearray, v: Optional[TargetStatus]) -> None:
     write_text(o, v.target)
     write_text(o, v.text)
     write_KelError(o, v.error)
-    o += _S_5I.pack(*v.values)
+    o += _S_5I_write(*v.values)
     write_text(o, v.text2)
 
 
@@ -666,7 +674,7 @@ def write_TargetFilter(o: bytearray, v: Optional[TargetFilter]) -> None:
         return
     o.append(1)
     write_text(o, v.pattern)
-    o += _S_Bi.pack(v.flag, v.value)
+    o += _S_Bi_write(v.flag, v.value)
 
 
 def write_KelEvent(o: bytearray, v: Optional[KelEvent]) -> None:
@@ -675,7 +683,7 @@ def write_KelEvent(o: bytearray, v: Optional[KelEvent]) -> None:
         return
     o.append(1)
     write_text(o, v.name)
-    o += _S_ii.pack(v.kind, v.code)
+    o += _S_ii_write(v.kind, v.code)
     write_text(o, v.text)
     write_KelError(o, v.error)
     write_text(o, v.detail)
@@ -696,7 +704,7 @@ def write_SupportedDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_i.pack(v.status)
+    o += _S_i_write(v.status)
     write_text(o, v.target)
     write_KelError(o, v.error)
     o += _U32.pack(len(v.dtcs))
