@@ -318,14 +318,20 @@ def stream_py(iface: kelidl.Interface) -> str:
 
 # ---- c_records.py --------------------------------------------------------------------------
 
+def member(name: str) -> str:
+    """A C member's name as a ctypes field: a Python keyword gets a trailing underscore
+    (only the order and types matter for the layout)."""
+    return name + "_" if keyword.iskeyword(name) else name
+
+
 def c_struct_fields(f) -> list[str]:
     if f.kind in kelidl.SCALARS:
-        return [f'("{f.name}", {CTYPES[f.kind]})']
+        return [f'("{member(f.name)}", {CTYPES[f.kind]})']
     if f.kind == "array":
-        return [f'("{f.name}", {CTYPES[f.element]} * {f.length})']
+        return [f'("{member(f.name)}", {CTYPES[f.element]} * {f.length})']
     if f.kind in ("wstr", "rec"):
-        return [f'("{f.name}", ctypes.c_void_p)']
-    return [f'("{f.name}", ctypes.c_void_p)', f'("{f.count}", ctypes.c_uint32)']
+        return [f'("{member(f.name)}", ctypes.c_void_p)']
+    return [f'("{member(f.name)}", ctypes.c_void_p)', f'("{member(f.count)}", ctypes.c_uint32)']
 
 
 def from_c(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
@@ -334,7 +340,7 @@ def from_c(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
            f"    s = C_{rec.name}.from_address(address)"]
     args = []
     for f in iface.members(rec.name):
-        py, src = snake(f.name), f"s.{f.name}"
+        py, src, count = snake(f.name), f"s.{member(f.name)}", f"s.{member(f.count or '')}"
         if f.kind in ("bool", "flag"):
             value = f"bool({src})"
         elif f.kind in kelidl.SCALARS:
@@ -344,13 +350,13 @@ def from_c(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
         elif f.kind == "wstr":
             value = f"_text({src})"
         elif f.kind == "wstrs":
-            value = f"_texts({src}, s.{f.count})"
+            value = f"_texts({src}, {count})"
         elif f.kind == "bytes":
-            value = f"ctypes.string_at({src}, s.{f.count}) if {src} else b\"\""
+            value = f"ctypes.string_at({src}, {count}) if {src} else b\"\""
         elif f.kind == "rec":
             value = f"from_c_{f.c_name}({src})"
         else:
-            value = f"from_c_list({src}, s.{f.count}, from_c_{f.c_name})"
+            value = f"from_c_list({src}, {count}, from_c_{f.c_name})"
         args.append(f"{py}={value}")
     out.append(f"    return records.{rec.name}(")
     out += [f"        {a}," for a in args]
@@ -365,7 +371,7 @@ def to_c(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
            f"    address = heap_block(lib, ctypes.sizeof(C_{rec.name}))",
            f"    s = C_{rec.name}.from_address(address)"]
     for f in iface.members(rec.name):
-        py, dst = "v." + snake(f.name), f"s.{f.name}"
+        py, dst, count = "v." + snake(f.name), f"s.{member(f.name)}", f"s.{member(f.count or '')}"
         if f.kind in kelidl.SCALARS:
             out.append(f"    {dst} = {py}")
         elif f.kind == "array":
@@ -373,13 +379,13 @@ def to_c(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
         elif f.kind == "wstr":
             out.append(f"    {dst} = lib.duplicate_WString({py})")
         elif f.kind == "wstrs":
-            out.append(f"    {dst}, s.{f.count} = heap_texts(lib, {py}, {f.always})")
+            out.append(f"    {dst}, {count} = heap_texts(lib, {py}, {f.always})")
         elif f.kind == "bytes":
-            out.append(f"    {dst}, s.{f.count} = heap_bytes(lib, {py})")
+            out.append(f"    {dst}, {count} = heap_bytes(lib, {py})")
         elif f.kind == "rec":
             out.append(f"    {dst} = to_c_{f.c_name}(lib, {py})")
         else:
-            out.append(f"    {dst}, s.{f.count} = heap_list(lib, {py}, to_c_{f.c_name})")
+            out.append(f"    {dst}, {count} = heap_list(lib, {py}, to_c_{f.c_name})")
     out.append("    return address")
     return out + ["", ""]
 
@@ -602,8 +608,7 @@ def decode(v: kelidl.Value, iface: kelidl.Interface) -> list[str]:
 
 
 def method_doc(op: kelidl.Operation, iface: kelidl.Interface, asynchronous: bool) -> list[str]:
-    text = op.doc
-    lines = doc_lines(text, "        ")
+    lines = doc_lines(op.doc or f"The engine operation {op.name}.", "        ")
     lines[0] = '        """' + lines[0].lstrip()
     extra = [f"C: kel_{op.name}{'Async' if asynchronous else ''}"
              + ("" if asynchronous else f"; number {op.otx}") + f"; engine position {op.position}."]
