@@ -27,7 +27,7 @@ class AsyncCalls(EngineTest):
         self.assertNotIn(call, asynccall._running)
 
     def test_progress_comes_while_the_call_runs(self) -> None:
-        sim.kelsim_setAsyncInterval(b"identifyAllTargetsAsync", 40)
+        sim.kelsim_setAsyncInterval(b"identifyAllTargetsAsync", 100)
         call = self.engine.identify_all_targets_async()
         first = next(iter(call))
         self.assertFalse(first.is_final)
@@ -73,7 +73,7 @@ class AsyncCalls(EngineTest):
         self.assertTrue(call.done())
 
     def test_awaiting_does_not_block_the_event_loop(self) -> None:
-        sim.kelsim_setAsyncInterval(b"identifyAllTargetsAsync", 30)
+        sim.kelsim_setAsyncInterval(b"identifyAllTargetsAsync", 50)
 
         async def main() -> tuple[int, int]:
             ticks = 0
@@ -93,7 +93,8 @@ class AsyncCalls(EngineTest):
 
         count, ticks = asyncio.run(main())
         self.assertEqual(count, 6)
-        self.assertGreater(ticks, 10, "the loop ran while the call was on its way")
+        # A blocked loop would tick once, before the call; a free one ticks on while it runs.
+        self.assertGreater(ticks, 3, "the loop ran while the call was on its way")
 
     def test_many_calls_at_once(self) -> None:
         calls = [self.engine.identify_targets_async([name]) for name in ["ECM", "TCM", "GW"] * 10]

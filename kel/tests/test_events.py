@@ -39,7 +39,7 @@ class Events(EngineTest):
         with self.engine.events() as channel:
             poster = threading.Thread(target=later)
             poster.start()
-            events = list(channel.follow(interval=0.01, timeout=0.5))
+            events = list(channel.follow(interval=0.01, timeout=1.0))
             poster.join()
         self.assertEqual(len(events), 1)
         event = events[0]
