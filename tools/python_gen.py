@@ -147,7 +147,9 @@ def records_py(iface: kelidl.Interface) -> str:
         for f in members:
             out.append(f"    {snake(f.name)}: {py_type(f, iface)} = {default(f)}")
             if f.doc:
-                out += docstring(f.doc[0].upper() + f.doc[1:].rstrip(".") + ".", "    ")
+                # The description speaks C; a NULL member is None here.
+                text = f.doc[0].upper() + f.doc[1:].rstrip(".") + "."
+                out += docstring(text.replace("NULL", "None"), "    ")
         out += ["", ""]
     out.append("__all__ = [" + ", ".join(f'"{n}"' for n in names) + "]")
     return "\n".join(out).rstrip("\n") + "\n"

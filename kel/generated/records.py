@@ -42,7 +42,7 @@ class NegativeResponse:
     value2: int = 0
     """Copied bit for bit from the engine."""
     bytes: builtins.bytes = b""
-    """The raw response bytes; NULL when there are none."""
+    """The raw response bytes; None when there are none."""
 
 
 @dataclasses.dataclass(**_OPTIONS)
@@ -60,9 +60,9 @@ class KelError:
     sub_code: int = 0
     """A second error number."""
     mvci_error: Optional[MvciServerError] = None
-    """The MVCI server error beneath it, or NULL."""
+    """The MVCI server error beneath it, or None."""
     negative_response: Optional[NegativeResponse] = None
-    """The control unit's negative response, or NULL; always NULL for a failed call."""
+    """The control unit's negative response, or None; always None for a failed call."""
 
 
 @dataclasses.dataclass(**_OPTIONS)
@@ -103,13 +103,13 @@ class ParameterResult:
     text3: str = ""
     """Third text."""
     error: Optional[KelError] = None
-    """The error of this parameter, or NULL."""
+    """The error of this parameter, or None."""
     text4: str = ""
     """Fourth text."""
     value2: int = 0
     """Copied unchanged from the engine."""
     data: builtins.bytes = b""
-    """The raw bytes of the value, exactly as many as the engine gives; NULL when there are none."""
+    """The raw bytes of the value, exactly as many as the engine gives; None when there are none."""
     value3: int = 0
     """Copied unchanged from the engine."""
     flag: int = 0
@@ -126,7 +126,7 @@ class ClearDtcResult:
     target: str = ""
     """The target's name."""
     error: Optional[KelError] = None
-    """The error of this target, or NULL."""
+    """The error of this target, or None."""
 
 
 @dataclasses.dataclass(**_OPTIONS)
@@ -150,7 +150,7 @@ class ReadDtcResult:
     target: str = ""
     """The target's name."""
     error: Optional[KelError] = None
-    """The error of this target, or NULL."""
+    """The error of this target, or None."""
     dtcs: list[Optional[DtcResult]] = dataclasses.field(default_factory=list)
     """The DTCs read."""
     value: int = 0
@@ -197,7 +197,7 @@ class VariantIdentResult:
     status: int = 0
     """The engine's status of this target."""
     error: Optional[KelError] = None
-    """The error of this target, or NULL."""
+    """The error of this target, or None."""
     variant: str = ""
     """The variant identified."""
 
@@ -212,7 +212,7 @@ class ReadDataResult:
     text: str = ""
     """A text of the engine, usually the variant."""
     error: Optional[KelError] = None
-    """The error of this target, or NULL."""
+    """The error of this target, or None."""
     parameters: list[Optional[ParameterResult]] = dataclasses.field(default_factory=list)
     """The values read."""
 
@@ -256,7 +256,7 @@ class TargetStatus:
     text: str = ""
     """The status as text."""
     error: Optional[KelError] = None
-    """The error of this target, or NULL."""
+    """The error of this target, or None."""
     values: list[int] = dataclasses.field(default_factory=lambda: [0] * 5)
     """Five numbers, copied in order from the engine."""
     text2: str = ""
@@ -286,7 +286,7 @@ class KelEvent:
     text: str = ""
     """What happened."""
     error: Optional[KelError] = None
-    """The error the event carries, or NULL."""
+    """The error the event carries, or None."""
     detail: str = ""
     """Further detail."""
 
@@ -295,7 +295,7 @@ class KelEvent:
 class EventReport:
     """The events fetched from an event channel, oldest first."""
     events: list[Optional[KelEvent]] = dataclasses.field(default_factory=list)
-    """The events; NULL when there are none."""
+    """The events; None when there are none."""
 
 
 __all__ = ["MvciServerError", "NegativeResponse", "KelError", "NamedItem", "ParameterResult", "ClearDtcResult", "DtcReadConfig", "ReadDtcResult", "DtcResult", "SpecialDataGroup", "VariantIdentResult", "ReadDataResult", "Target", "TargetStatus", "TargetFilter", "KelEvent", "EventReport"]
