@@ -20,7 +20,7 @@ else
 fi
 
 # --- Tools -----------------------------------------------------------------------------------
-packages=(cmake ninja-build g++ libgtest-dev libgmock-dev nlohmann-json3-dev)
+packages=(cmake ninja-build g++ libgtest-dev libgmock-dev nlohmann-json3-dev pkg-config)
 for preset in "${presets[@]}"; do
     if [[ $preset == windows ]]; then
         packages+=(g++-mingw-w64-x86-64-posix wine wine64)
@@ -34,6 +34,8 @@ if ! scripts/ensure-packages.sh "${packages[@]}"; then
     echo "test-all: could not install the required packages" >&2
     exit 1
 fi
+# mypy type-checks the Python package (ctest python_types) where Debian offers it.
+scripts/ensure-packages.sh python3-mypy || echo "test-all: python3-mypy is not installable; the Python package is not type-checked"
 
 echo "== Tools"
 cmake --version | head -n 1

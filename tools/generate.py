@@ -20,6 +20,7 @@ import textwrap
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 import conformance  # noqa: E402
 import kelidl  # noqa: E402
+import python_gen  # noqa: E402
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BANNER = "Generated from the interface description by tools/generate.py. Do not edit."
@@ -1006,6 +1007,7 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
         "interface/generated/EngineFields.h": engine_fields_h(iface),
         **conformance.outputs(iface),
         **record_classes_tests(iface),
+        **python_gen.outputs(iface),
     }
 
 
@@ -1036,7 +1038,7 @@ def check_docs(iface: kelidl.Interface) -> None:
         raise kelidl.DescriptionError("records without a '#:' doc: " + ", ".join(r.name for r in records))
 
 
-GENERATED_FOLDERS = ["tests/generated/conformance", "tests/generated/record_classes"]
+GENERATED_FOLDERS = ["tests/generated/conformance", "tests/generated/record_classes", python_gen.OUT_DIR]
 
 
 def main() -> int:

@@ -1,0 +1,27 @@
+"""kel: the kel_c vehicle-diagnostics binding for Python.
+
+    import kel
+
+    with kel.Engine() as engine:
+        for result in engine.read_dtcs():
+            ...
+
+Every operation of the engine interface is a method of kel.Engine, every record a
+dataclass of kel (kel.ReadDtcResult); both are generated from the interface description.
+Standard library only, over ctypes.
+"""
+
+from __future__ import annotations
+
+from ._library import ENVIRONMENT, candidates, load
+from .asynccall import AsyncCall, AsyncReport
+from .engine import Engine
+from .errors import EngineError, LibraryError, LibraryNotFound, MalformedInputError, NotAvailableError
+from .events import EventChannel
+from .generated.records import *  # noqa: F401,F403
+from .generated.records import __all__ as _records
+
+__version__ = "0.1.0"
+
+__all__ = ["ENVIRONMENT", "AsyncCall", "AsyncReport", "Engine", "EngineError", "EventChannel", "LibraryError",
+           "LibraryNotFound", "MalformedInputError", "NotAvailableError", "candidates", "load", *_records]

@@ -1,0 +1,1684 @@
+# Generated from the interface description by tools/generate.py. Do not edit.
+"""One method per built operation: the arguments go to py_call on the stream, the results
+come back as dataclasses; asynchronous forms go through the C exports."""
+
+from __future__ import annotations
+
+import builtins
+import struct
+from typing import TYPE_CHECKING, Optional, Sequence
+
+from . import c_records, records, stream
+
+if TYPE_CHECKING:
+    from ..asynccall import AsyncCall
+    from ..engine import Engine
+
+
+class Operations:
+    """The engine operations; kel.Engine supplies _call, _start and _adopt."""
+
+    def _call(self, number: int, data: builtins.bytes) -> builtins.bytes:
+        raise NotImplementedError
+
+    def _adopt(self, address: int) -> Engine:
+        raise NotImplementedError
+
+    def _start(self, start: object, convert: object, release: str, *args: object) -> AsyncCall:
+        raise NotImplementedError
+
+    def initialize(self) -> None:
+        """Starts the engine: the first call after kel_getTarnApi.
+
+        C: kel_initialize; number 2; engine position 2.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(2, builtins.bytes(_o))
+
+    def end(self) -> None:
+        """Ends the engine: the last call before releaseTarnApi.
+
+        C: kel_end; number 3; engine position 3.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(3, builtins.bytes(_o))
+
+    def start_server(self, text: str) -> str:
+        """Starts the engine's server for remote clients; the text and the result are
+        the engine's.
+
+        C: kel_startServer; number 4; engine position 4.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(4, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def stop_server(self, text: str) -> None:
+        """Stops the engine's server.
+
+        C: kel_stopServer; number 5; engine position 5.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text)
+        self._call(5, builtins.bytes(_o))
+
+    def restart_server(self, value: int) -> None:
+        """Restarts the engine's server; value is passed to the engine unchanged.
+
+        C: kel_restartServer; number 6; engine position 6.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<i", value)
+        self._call(6, builtins.bytes(_o))
+
+    def save_project_configuration(self, project_name: str) -> None:
+        """Saves a project's configuration.
+
+        C: kel_saveProjectConfiguration; number 9; engine position 9.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, project_name)
+        self._call(9, builtins.bytes(_o))
+
+    def create_monitoring_link(self, name: str) -> int:
+        """Opens a monitoring link on the running communication; returns its handle.
+
+        C: kel_createMonitoringLink; number 10; engine position 10.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name)
+        _b = self._call(10, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def release_monitoring_link(self, handle: int) -> None:
+        """Closes a monitoring link.
+
+        C: kel_releaseMonitoringLink; number 12; engine position 12.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(12, builtins.bytes(_o))
+
+    def create_pdu_monitor(self) -> int:
+        """Opens a PDU monitor; returns its handle.
+
+        C: kel_createPduMonitor; number 14; engine position 14.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(14, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def save_configuration(self) -> None:
+        """Saves the engine's configuration.
+
+        C: kel_saveConfiguration; number 15; engine position 15.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(15, builtins.bytes(_o))
+
+    def release_pdu_monitor(self, handle: int) -> None:
+        """Closes a PDU monitor.
+
+        C: kel_releasePduMonitor; number 16; engine position 16.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(16, builtins.bytes(_o))
+
+    def identify_all_targets(self) -> list[Optional[records.VariantIdentResult]]:
+        """Identifies the variant of every target of the project; one result per
+        target.
+
+        C: kel_identifyAllTargets; number 17; engine position 17.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(17, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.VariantIdentResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_VariantIdentResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def identify_all_targets_async(self) -> AsyncCall:
+        """Identifies the variant of every target of the project; one result per
+        target.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_identifyAllTargetsAsync; engine position 17.
+        """
+        return self._start(c_records.start_identifyAllTargetsAsync, c_records.from_c_VariantIdentResult, "release_VariantIdentResult_array")
+
+    def read_identification_values(self, targets: Sequence[str] = ()) -> list[Optional[records.ReadDataResult]]:
+        """Reads the identification values of the given targets; one result per target.
+
+        C: kel_readIdentificationValues; number 19; engine position 19.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(19, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDataResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDataResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def read_identification_values_async(self, targets: Sequence[str] = ()) -> AsyncCall:
+        """Reads the identification values of the given targets; one result per target.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_readIdentificationValuesAsync; engine position 19.
+        """
+        return self._start(c_records.start_readIdentificationValuesAsync, c_records.from_c_ReadDataResult, "release_ReadDataResult_array", targets)
+
+    def read_data_by_identifiers(self, target: str, identifiers: Sequence[str] = ()) -> list[Optional[records.ReadDataResult]]:
+        """Reads the data with the given identifiers from one target.
+
+        C: kel_readDataByIdentifiers; number 21; engine position 21.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_texts(_o, identifiers)
+        _b = self._call(21, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDataResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDataResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def identify_target(self, target: str) -> Optional[records.VariantIdentResult]:
+        """Identifies the variant of one target.
+
+        C: kel_identifyTarget; number 22; engine position 22.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        _b = self._call(22, builtins.bytes(_o))
+        return stream.read_VariantIdentResult(_b, 0)[0]
+
+    def read_dtcs(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> list[Optional[records.ReadDtcResult]]:
+        """Reads the DTCs of the given targets with the reading options in config; one
+        result per target.
+
+        C: kel_readDtcs; number 23; engine position 23.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        stream.write_DtcReadConfig(_o, config)
+        _b = self._call(23, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDtcResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDtcResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def read_dtcs_async(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> AsyncCall:
+        """Reads the DTCs of the given targets with the reading options in config; one
+        result per target.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_readDtcsAsync; engine position 23.
+        """
+        return self._start(c_records.start_readDtcsAsync, c_records.from_c_ReadDtcResult, "release_ReadDtcResult_array", targets, config)
+
+    def read_supported_dtcs(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> list[Optional[records.ReadDtcResult]]:
+        """Reads the DTCs that the given targets support, with the reading options in
+        config; one result per target, whose value stays 0.
+
+        C: kel_readSupportedDtcs; number 25; engine position 25.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        stream.write_DtcReadConfig(_o, config)
+        _b = self._call(25, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDtcResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_SupportedDtcResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def read_supported_dtcs_async(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> AsyncCall:
+        """Reads the DTCs that the given targets support, with the reading options in
+        config; one result per target, whose value stays 0.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_readSupportedDtcsAsync; engine position 25.
+        """
+        return self._start(c_records.start_readSupportedDtcsAsync, c_records.from_c_ReadDtcResult, "release_ReadDtcResult_array", targets, config)
+
+    def clear_all_dtcs(self, targets: Sequence[str] = ()) -> list[Optional[records.ClearDtcResult]]:
+        """Clears every DTC of the given targets; one result per target.
+
+        C: kel_clearAllDtcs; number 27; engine position 27.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(27, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ClearDtcResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ClearDtcResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def clear_all_dtcs_async(self, targets: Sequence[str] = ()) -> AsyncCall:
+        """Clears every DTC of the given targets; one result per target.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_clearAllDtcsAsync; engine position 27.
+        """
+        return self._start(c_records.start_clearAllDtcsAsync, c_records.from_c_ClearDtcResult, "release_ClearDtcResult_array", targets)
+
+    def connect_remote_server(self, text: str) -> Engine:
+        """Connects to a remote engine and hands out its engine object.
+
+        C: kel_connectRemoteServer; number 36; engine position 37.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(36, builtins.bytes(_o))
+        return self._adopt(struct.unpack_from("<Q", _b)[0])
+
+    def register_measurement_values(self, target: str, names: Sequence[str] = ()) -> int:
+        """Registers measurement values of one target for repeated reading; returns the
+        registration that kel_getMeasurementValues takes.
+
+        C: kel_registerMeasurementValues; number 38; engine position 39.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_texts(_o, names)
+        _b = self._call(38, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def get_measurement_values(self, registration: int) -> list[Optional[records.ReadDataResult]]:
+        """Reads the measurement values of a registration.
+
+        C: kel_getMeasurementValues; number 39; engine position 40.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", registration)
+        _b = self._call(39, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDataResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDataResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def unregister_measurement_values(self, registration: int) -> None:
+        """Ends a registration made with kel_registerMeasurementValues.
+
+        C: kel_unregisterMeasurementValues; number 40; engine position 41.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", registration)
+        self._call(40, builtins.bytes(_o))
+
+    def cancel_all_async_calls(self) -> None:
+        """Cancels every asynchronous call running on this engine object; whether a
+        cancelled call still reports is the engine's choice.
+
+        C: kel_cancelAllAsyncCalls; number 128; engine position 43.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(128, builtins.bytes(_o))
+
+    def create_seed(self, value1: int, value2: int) -> builtins.bytes:
+        """Asks for the seed of a security access; the two values reach the engine in
+        this order.
+
+        C: kel_createSeed; number 43; engine position 44.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", value1)
+        _o += struct.pack("<I", value2)
+        _b = self._call(43, builtins.bytes(_o))
+        return _b[4:]
+
+    def send_key(self, key: builtins.bytes) -> None:
+        """Sends the key of a security access, computed from the seed.
+
+        C: kel_sendKey; number 44; engine position 45.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_bytes(_o, key)
+        self._call(44, builtins.bytes(_o))
+
+    def open_event_channel(self) -> int:
+        """Opens an event channel and returns its identifier; kel_getCurrentEvents
+        fetches its events.
+
+        C: kel_openEventChannel; number 45; engine position 46.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(45, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def close_event_channel(self, channel: int) -> None:
+        """Closes an event channel opened with kel_openEventChannel.
+
+        C: kel_closeEventChannel; number 46; engine position 47.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", channel)
+        self._call(46, builtins.bytes(_o))
+
+    def get_current_events(self, channel: int, limit: int) -> Optional[records.EventReport]:
+        """Fetches the events waiting on an event channel; limit is passed to the
+        engine unchanged.
+
+        C: kel_getCurrentEvents; number 47; engine position 48.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", channel)
+        _o += struct.pack("<I", limit)
+        _b = self._call(47, builtins.bytes(_o))
+        return stream.read_EventReport(_b, 0)[0]
+
+    def open_trace_file_monitoring_link(self, handle: int, trace_file: str) -> None:
+        """Opens a recorded trace file for monitoring under the given handle.
+
+        C: kel_openTraceFileMonitoringLink; number 67; engine position 49.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        stream.write_text(_o, trace_file)
+        self._call(67, builtins.bytes(_o))
+
+    def start_trace_file_monitoring_link(self, handle: int) -> None:
+        """Starts the monitoring of a trace file.
+
+        C: kel_startTraceFileMonitoringLink; number 68; engine position 50.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(68, builtins.bytes(_o))
+
+    def stop_trace_file_monitoring_link(self, handle: int) -> None:
+        """Stops the monitoring of a trace file.
+
+        C: kel_stopTraceFileMonitoringLink; number 69; engine position 51.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(69, builtins.bytes(_o))
+
+    def close_trace_file_monitoring_link(self, handle: int) -> None:
+        """Closes the monitoring of a trace file.
+
+        C: kel_closeTraceFileMonitoringLink; number 66; engine position 52.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(66, builtins.bytes(_o))
+
+    def save_interface_configuration(self) -> None:
+        """Saves the interface configuration.
+
+        C: kel_saveInterfaceConfiguration; number 70; engine position 53.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(70, builtins.bytes(_o))
+
+    def disconnect(self) -> None:
+        """Ends the connection to the remote engine.
+
+        C: kel_disconnect; number 74; engine position 56.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(74, builtins.bytes(_o))
+
+    def get_interface_long_name(self, name: str) -> str:
+        """Reads the long name of an interface.
+
+        C: kel_getInterfaceLongName; number 73; engine position 57.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name)
+        _b = self._call(73, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def read_measurement_values(self, target: str, names: Sequence[str] = ()) -> list[Optional[records.ReadDataResult]]:
+        """Reads the named measurement values of one target once.
+
+        C: kel_readMeasurementValues; number 75; engine position 58.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_texts(_o, names)
+        _b = self._call(75, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ReadDataResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ReadDataResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def read_measurement_values_async(self, target: str, names: Sequence[str] = ()) -> AsyncCall:
+        """Reads the named measurement values of one target once.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_readMeasurementValuesAsync; engine position 58.
+        """
+        return self._start(c_records.start_readMeasurementValuesAsync, c_records.from_c_ReadDataResult, "release_ReadDataResult_array", target, names)
+
+    def read_file(self, path: str, value1: int, value2: int, flag: bool) -> builtins.bytes:
+        """Reads a file; the two values and the flag are passed to the engine
+        unchanged.
+
+        C: kel_readFile; number 77; engine position 60.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _o += struct.pack("<Q", value1)
+        _o += struct.pack("<I", value2)
+        _o += struct.pack("<?", flag)
+        _b = self._call(77, builtins.bytes(_o))
+        return _b[4:]
+
+    def connect_interfaces(self) -> None:
+        """Connects the configured interfaces.
+
+        C: kel_connectInterfaces; number 80; engine position 61.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(80, builtins.bytes(_o))
+
+    def disconnect_interfaces(self) -> None:
+        """Disconnects the connected interfaces.
+
+        C: kel_disconnectInterfaces; number 81; engine position 62.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(81, builtins.bytes(_o))
+
+    def execute_do_ip_broadcast(self) -> None:
+        """Sends a DoIP broadcast to find the vehicles on the network.
+
+        C: kel_executeDoIPBroadcast; number 82; engine position 63.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(82, builtins.bytes(_o))
+
+    def refresh_project_list(self) -> None:
+        """Has the engine read its list of projects again.
+
+        C: kel_refreshProjectList; number 85; engine position 64.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(85, builtins.bytes(_o))
+
+    def identify_targets(self, targets: Sequence[str] = ()) -> list[Optional[records.VariantIdentResult]]:
+        """Identifies the variants of the given targets; one result per target.
+
+        C: kel_identifyTargets; number 86; engine position 65.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(86, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.VariantIdentResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_VariantIdentResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def identify_targets_async(self, targets: Sequence[str] = ()) -> AsyncCall:
+        """Identifies the variants of the given targets; one result per target.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_identifyTargetsAsync; engine position 65.
+        """
+        return self._start(c_records.start_identifyTargetsAsync, c_records.from_c_VariantIdentResult, "release_VariantIdentResult_array", targets)
+
+    def release_socket_bridge(self, bridge: int) -> None:
+        """Closes a socket bridge opened with kel_createSocketBridge.
+
+        C: kel_releaseSocketBridge; number 93; engine position 68.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", bridge)
+        self._call(93, builtins.bytes(_o))
+
+    def create_socket_bridge(self, value1: int, value2: int) -> int:
+        """Opens a socket bridge and returns its identifier; the two values are passed
+        to the engine unchanged.
+
+        C: kel_createSocketBridge; number 92; engine position 69.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", value1)
+        _o += struct.pack("<I", value2)
+        _b = self._call(92, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def get_filtered_targets(self, filters: Sequence[Optional[records.TargetFilter]] = ()) -> list[Optional[records.Target]]:
+        """Lists the targets of the project that match the given target filters.
+
+        C: kel_getFilteredTargets; number 97; engine position 74.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(filters))
+        for _e in filters:
+            stream.write_TargetFilter(_o, _e)
+        _b = self._call(97, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.Target]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_Target(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def is_project_conversion_required(self, project_path: str) -> bool:
+        """Tells whether a project must be converted before the engine can use it.
+
+        C: kel_isProjectConversionRequired; number 99; engine position 75.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, project_path)
+        _b = self._call(99, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def convert_project(self, project_path: str) -> None:
+        """Converts a project for the engine's current version.
+
+        C: kel_convertProject; number 100; engine position 76.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, project_path)
+        self._call(100, builtins.bytes(_o))
+
+    def save_mox_configuration(self) -> None:
+        """Saves the MOX configuration.
+
+        C: kel_saveMoxConfiguration; number 102; engine position 77.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(102, builtins.bytes(_o))
+
+    def stop_cyclic_services(self, cyclic: int) -> None:
+        """Stops a cyclic run started with kel_startCyclicServices.
+
+        C: kel_stopCyclicServices; number 104; engine position 80.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", cyclic)
+        self._call(104, builtins.bytes(_o))
+
+    def clear_link_cache(self) -> None:
+        """Clears the engine's cache of links.
+
+        C: kel_clearLinkCache; number 107; engine position 82.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(107, builtins.bytes(_o))
+
+    def remove_interface(self, name: str) -> None:
+        """Removes an interface.
+
+        C: kel_removeInterface; number 110; engine position 84.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name)
+        self._call(110, builtins.bytes(_o))
+
+    def remove_resource(self, name1: str, name2: str) -> None:
+        """Removes a resource from an interface.
+
+        C: kel_removeResource; number 112; engine position 86.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name1)
+        stream.write_text(_o, name2)
+        self._call(112, builtins.bytes(_o))
+
+    def reset_system_property(self, name: str) -> None:
+        """Sets a system property back to its default.
+
+        C: kel_resetSystemProperty; number 115; engine position 88.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name)
+        self._call(115, builtins.bytes(_o))
+
+    def get_vendor_module_names_ex(self, text: str) -> list[str]:
+        """Lists vendor module names; text selects them as the engine defines.
+
+        C: kel_getVendorModuleNamesEx; number 121; engine position 91.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(121, builtins.bytes(_o))
+        return stream.read_texts(_b, 0)[0]
+
+    def disconnect_dyn_interfaces(self, names: Sequence[str] = ()) -> None:
+        """Disconnects the given dynamically detected interfaces.
+
+        C: kel_disconnectDynInterfaces; number 126; engine position 97.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, names)
+        self._call(126, builtins.bytes(_o))
+
+    def cancel_async_calls(self, call_ids: Sequence[int] = ()) -> None:
+        """Cancels the asynchronous calls with the given call identifiers; whether a
+        cancelled call still reports is the engine's choice.
+
+        C: kel_cancelAsyncCalls; number 42; engine position 99.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_values(_o, "Q", call_ids)
+        self._call(42, builtins.bytes(_o))
+
+    def write_file(self, path: str, data: builtins.bytes, value: int, flag: bool) -> int:
+        """Writes bytes to a file; returns the engine's 32-bit result.
+
+        C: kel_writeFile; number 135; engine position 102.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        stream.write_bytes(_o, data)
+        _o += struct.pack("<I", value)
+        _o += struct.pack("<?", flag)
+        _b = self._call(135, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<I", _b)[0]
+        return _value
+
+    def delete_directory(self, path: str) -> Optional[records.KelError]:
+        """Deletes a directory; the outcome comes back as an error record, NULL when
+        the engine reports none.
+
+        C: kel_deleteDirectory; number 134; engine position 109.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(134, builtins.bytes(_o))
+        return stream.read_KelError(_b, 0)[0]
+
+    def lock(self) -> int:
+        """Takes the engine's lock and returns the lock identifier that kel_unlock
+        takes.
+
+        C: kel_lock; number 147; engine position 115.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(147, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def unlock(self, lock_id: int) -> None:
+        """Gives back the engine's lock taken with kel_lock.
+
+        C: kel_unlock; number 148; engine position 116.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", lock_id)
+        self._call(148, builtins.bytes(_o))
+
+    def is_locked(self) -> bool:
+        """Tells whether the engine's lock is taken.
+
+        C: kel_isLocked; number 149; engine position 117.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(149, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def break_lock(self) -> None:
+        """Breaks the engine's lock, whoever holds it.
+
+        C: kel_breakLock; number 150; engine position 118.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(150, builtins.bytes(_o))
+
+    def set_ethernet_pin_state(self, state: int, interfaces: Sequence[str] = ()) -> None:
+        """Sets the Ethernet pin state of the given interfaces.
+
+        C: kel_setEthernetPinState; number 151; engine position 119.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<B", state)
+        stream.write_texts(_o, interfaces)
+        self._call(151, builtins.bytes(_o))
+
+    def get_ethernet_pin_state(self, interface_name: str) -> int:
+        """Reads the Ethernet pin state of an interface.
+
+        C: kel_getEthernetPinState; number 152; engine position 120.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, interface_name)
+        _b = self._call(152, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<I", _b)[0]
+        return _value
+
+    def connect_dyn_interface_ex(self, name: str, flag: bool) -> None:
+        """Connects a dynamically detected interface without a detection record.
+
+        C: kel_connectDynInterfaceEx; number 153; engine position 123.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name)
+        _o += struct.pack("<?", flag)
+        self._call(153, builtins.bytes(_o))
+
+    def add_user(self, text1: str, text2: str, value: int) -> None:
+        """Adds a user to the server's user management.
+
+        C: kel_addUser; number 155; engine position 124.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        _o += struct.pack("<I", value)
+        self._call(155, builtins.bytes(_o))
+
+    def remove_user(self, text: str) -> None:
+        """Removes a user from the server's user management.
+
+        C: kel_removeUser; number 158; engine position 125.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text)
+        self._call(158, builtins.bytes(_o))
+
+    def update_user(self, text1: str, text2: str, text3: str, value: int) -> None:
+        """Changes a user of the server's user management.
+
+        C: kel_updateUser; number 161; engine position 128.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_text(_o, text3)
+        _o += struct.pack("<I", value)
+        self._call(161, builtins.bytes(_o))
+
+    def get_server_user_management(self) -> bool:
+        """Tells whether the server's user management is on.
+
+        C: kel_getServerUserManagement; number 138; engine position 129.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(138, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def set_server_user_management(self, enabled: bool) -> None:
+        """Turns the server's user management on or off.
+
+        C: kel_setServerUserManagement; number 156; engine position 130.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<?", enabled)
+        self._call(156, builtins.bytes(_o))
+
+    def disconnect_all_clients(self) -> None:
+        """Disconnects every remote client from the engine's server.
+
+        C: kel_disconnectAllClients; number 162; engine position 133.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(162, builtins.bytes(_o))
+
+    def test_socket_bridge(self, bridge: int) -> bool:
+        """Tells whether a socket bridge works.
+
+        C: kel_testSocketBridge; number 157; engine position 134.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", bridge)
+        _b = self._call(157, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def calculate_checksum(self, path: str, algorithm: int) -> str:
+        """Calculates the checksum of a file with the given algorithm.
+
+        C: kel_calculateChecksum; number 169; engine position 140.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _o += struct.pack("<i", algorithm)
+        _b = self._call(169, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def run_sequence(self, sequence: str, arguments: Sequence[str] = ()) -> int:
+        """Starts a sequence with the given arguments; returns the run that
+        kel_cancelSequence takes.
+
+        C: kel_runSequence; number 177; engine position 145.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, sequence)
+        stream.write_texts(_o, arguments)
+        _b = self._call(177, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def release_vehicle_unlock(self, value: int) -> None:
+        """Releases a vehicle unlock; value is passed to the engine unchanged.
+
+        C: kel_releaseVehicleUnlock; number 179; engine position 147.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", value)
+        self._call(179, builtins.bytes(_o))
+
+    def cancel_sequence(self, run: int) -> None:
+        """Cancels a run of a sequence started with kel_runSequence.
+
+        C: kel_cancelSequence; number 180; engine position 148.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", run)
+        self._call(180, builtins.bytes(_o))
+
+    def apply_update_package(self, package: str) -> None:
+        """Applies an update package.
+
+        C: kel_applyUpdatePackage; number 185; engine position 151.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, package)
+        self._call(185, builtins.bytes(_o))
+
+    def rename_file(self, path: str, new_name: str) -> None:
+        """Renames a file.
+
+        C: kel_renameFile; number 186; engine position 152.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        stream.write_text(_o, new_name)
+        self._call(186, builtins.bytes(_o))
+
+    def on_connection_broken(self) -> None:
+        """Tells the engine that its connection broke.
+
+        C: kel_onConnectionBroken; number 188; engine position 153.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(188, builtins.bytes(_o))
+
+    def check_updates_on_broker(self) -> bool:
+        """Tells whether the broker has updates.
+
+        C: kel_checkUpdatesOnBroker; number 174; engine position 156.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(174, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def auto_update(self) -> bool:
+        """Updates automatically; tells whether anything was updated.
+
+        C: kel_autoUpdate; number 175; engine position 157.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(175, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def create_api_trace_monitor(self) -> int:
+        """Opens an API trace monitor, which records the calls made on the engine;
+        returns its handle.
+
+        C: kel_createApiTraceMonitor; number 189; engine position 160.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(189, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def get_api_trace_content(self, handle: int, value1: int, value2: int) -> builtins.bytes:
+        """Fetches what an API trace monitor recorded, as bytes; the two values are
+        passed to the engine unchanged.
+
+        C: kel_getApiTraceContent; number 190; engine position 161.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        _o += struct.pack("<I", value1)
+        _o += struct.pack("<i", value2)
+        _b = self._call(190, builtins.bytes(_o))
+        return _b[4:]
+
+    def release_api_trace_monitor(self, handle: int) -> None:
+        """Closes an API trace monitor.
+
+        C: kel_releaseApiTraceMonitor; number 192; engine position 162.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        self._call(192, builtins.bytes(_o))
+
+    def get_current_versions(self) -> list[Optional[records.NamedItem]]:
+        """Lists the current versions of the installed components.
+
+        C: kel_getCurrentVersions; number 191; engine position 163.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(191, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.NamedItem]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_NamedItem(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def check_update_success(self) -> bool:
+        """Tells whether the last update succeeded.
+
+        C: kel_checkUpdateSuccess; number 193; engine position 164.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(193, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def clean_update_tmp(self) -> None:
+        """Removes the temporary files of updates.
+
+        C: kel_cleanUpdateTmp; number 194; engine position 165.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(194, builtins.bytes(_o))
+
+    def reconnect_remote_server(self, handle: int) -> bool:
+        """Connects the remote engine with the given handle again; tells whether that
+        worked.
+
+        C: kel_reconnectRemoteServer; number 199; engine position 172.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        _b = self._call(199, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def get_target_status(self, targets: Sequence[str] = ()) -> list[Optional[records.TargetStatus]]:
+        """Reads the status of the given targets; one result per target.
+
+        C: kel_getTargetStatus; number 215; engine position 181.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(215, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.TargetStatus]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_TargetStatus(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def move_file(self, source: str, target: str) -> bool:
+        """Moves a file; tells whether it moved.
+
+        C: kel_moveFile; number 209; engine position 184.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, source)
+        stream.write_text(_o, target)
+        _b = self._call(209, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def move_directory(self, source: str, target: str) -> bool:
+        """Moves a directory; tells whether it moved.
+
+        C: kel_moveDirectory; number 219; engine position 185.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, source)
+        stream.write_text(_o, target)
+        _b = self._call(219, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def path_exists(self, path: str) -> bool:
+        """Tells whether a path exists.
+
+        C: kel_pathExists; number 220; engine position 186.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(220, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def resolve_path(self, path: str) -> str:
+        """Resolves a path to the engine's full path.
+
+        C: kel_resolvePath; number 225; engine position 188.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(225, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def on_connection_closed(self) -> None:
+        """Tells the engine that its connection was closed.
+
+        C: kel_onConnectionClosed; number 226; engine position 195.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(226, builtins.bytes(_o))
+
+    def open_terminal(self) -> bool:
+        """Opens the terminal; tells whether it opened.
+
+        C: kel_openTerminal; number 227; engine position 196.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(227, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def close_terminal(self) -> None:
+        """Closes the terminal.
+
+        C: kel_closeTerminal; number 228; engine position 197.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(228, builtins.bytes(_o))
+
+    def is_directory(self, path: str) -> bool:
+        """Tells whether a path is a directory.
+
+        C: kel_isDirectory; number 231; engine position 200.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(231, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def is_file(self, path: str) -> bool:
+        """Tells whether a path is a file.
+
+        C: kel_isFile; number 234; engine position 203.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(234, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def clear_do_ip_ecu_collection(self) -> list[Optional[records.KelError]]:
+        """Clears the collection of ECUs found over DoIP; returns an error record for
+        each entry that the engine reports.
+
+        C: kel_clearDoIPEcuCollection; number 236; engine position 205.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(236, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.KelError]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_KelError(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def set_broker_url(self, url: str) -> None:
+        """Sets the address of the update broker.
+
+        C: kel_setBrokerUrl; number 237; engine position 206.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, url)
+        self._call(237, builtins.bytes(_o))
+
+    def third_party_login(self, text: str) -> bool:
+        """Logs in through an outside identity provider; tells whether that worked.
+
+        C: kel_thirdPartyLogin; number 244; engine position 213.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(244, builtins.bytes(_o))
+        return _b[0] != 0
+
+    def clear_update_packages(self) -> None:
+        """Removes the update packages at hand.
+
+        C: kel_clearUpdatePackages; number 245; engine position 214.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(245, builtins.bytes(_o))
+
+    def get_third_party_login_url(self, text: str) -> str:
+        """Reads the address of the outside identity provider's login.
+
+        C: kel_getThirdPartyLoginUrl; number 253; engine position 215.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text)
+        _b = self._call(253, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def select_dynamic_project(self, project_name: str, items: Sequence[str] = ()) -> None:
+        """Selects a dynamic project made of the given items.
+
+        C: kel_selectDynamicProject; number 246; engine position 216.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, project_name)
+        stream.write_texts(_o, items)
+        self._call(246, builtins.bytes(_o))
+
+    def get_certificate_by_public_key(self, text1: str, text2: str, text3: str, text4: str) -> str:
+        """Looks up a certificate by its public key.
+
+        C: kel_getCertificateByPublicKey; number 247; engine position 217.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_text(_o, text3)
+        stream.write_text(_o, text4)
+        _b = self._call(247, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def create_certificate_from_csr(self, text1: str, text2: str, text3: str, text4: str, text5: str, text6: str) -> str:
+        """Issues a certificate for a certificate signing request.
+
+        C: kel_createCertificateFromCSR; number 248; engine position 218.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_text(_o, text3)
+        stream.write_text(_o, text4)
+        stream.write_text(_o, text5)
+        stream.write_text(_o, text6)
+        _b = self._call(248, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def get_certificate_chain_by_id(self, text1: str, text2: str, text3: str) -> list[str]:
+        """Reads a certificate chain by its identifier.
+
+        C: kel_getCertificateChainById; number 249; engine position 219.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_text(_o, text3)
+        _b = self._call(249, builtins.bytes(_o))
+        return stream.read_texts(_b, 0)[0]
+
+    def get_ecu_order_file_path(self) -> str:
+        """Reads the path of the ECU order file.
+
+        C: kel_getEcuOrderFilePath; number 256; engine position 224.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(256, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def trigger_async_cancels(self, call_ids: Sequence[int] = ()) -> None:
+        """Asks the engine to cancel the asynchronous calls with the given call
+        identifiers, through its second cancel operation.
+
+        C: kel_triggerAsyncCancels; number 260; engine position 227.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_values(_o, "Q", call_ids)
+        self._call(260, builtins.bytes(_o))
+
+    def add_public_directory(self, name: str, path: str) -> None:
+        """Adds a public directory under a name.
+
+        C: kel_addPublicDirectory; number 261; engine position 230.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name)
+        stream.write_text(_o, path)
+        self._call(261, builtins.bytes(_o))
+
+    def clear_specific_dtcs(self, target: str, dtc_codes: Sequence[int] = ()) -> list[Optional[records.ClearDtcResult]]:
+        """Clears the DTCs with the given codes on one target.
+
+        C: kel_clearSpecificDtcs; number 268; engine position 235.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_values(_o, "I", dtc_codes)
+        _b = self._call(268, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ClearDtcResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ClearDtcResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def clear_specific_dtcs_async(self, target: str, dtc_codes: Sequence[int] = ()) -> AsyncCall:
+        """Clears the DTCs with the given codes on one target.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_clearSpecificDtcsAsync; engine position 235.
+        """
+        return self._start(c_records.start_clearSpecificDtcsAsync, c_records.from_c_ClearDtcResult, "release_ClearDtcResult_array", target, dtc_codes)
+
+    def start_sovd_server(self) -> None:
+        """Starts the SOVD server.
+
+        C: kel_startSOVDServer; number 259; engine position 237.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(259, builtins.bytes(_o))
+
+    def stop_sovd_server(self) -> None:
+        """Stops the SOVD server.
+
+        C: kel_stopSOVDServer; number 280; engine position 238.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        self._call(280, builtins.bytes(_o))
+
+    def get_state(self) -> int:
+        """Reads the engine's state number; the engine defines its values.
+
+        C: kel_getState; number 49; engine position 242.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(49, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<i", _b)[0]
+        return _value
+
+    def get_version(self) -> str:
+        """Reads the engine's version.
+
+        C: kel_getVersion; number 50; engine position 243.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(50, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def get_selected_project(self) -> str:
+        """Reads the name of the selected project.
+
+        C: kel_getSelectedProject; number 51; engine position 244.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(51, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def set_selected_project(self, project_name: str) -> None:
+        """Selects a project by name.
+
+        C: kel_setSelectedProject; number 52; engine position 245.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, project_name)
+        self._call(52, builtins.bytes(_o))
+
+    def get_targets(self) -> list[Optional[records.Target]]:
+        """Lists the targets (control units) of the project.
+
+        C: kel_getTargets; number 58; engine position 251.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(58, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.Target]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_Target(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def get_handle(self) -> int:
+        """Reads the engine object's 64-bit handle, by which kel_call reaches it.
+
+        C: kel_getHandle; number 61; engine position 254.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(61, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def get_monitoring_links(self) -> list[str]:
+        """Lists the names of the monitoring links.
+
+        C: kel_getMonitoringLinks; number 65; engine position 259.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(65, builtins.bytes(_o))
+        return stream.read_texts(_b, 0)[0]
+
+    def get_session_target_filters(self) -> list[Optional[records.TargetFilter]]:
+        """Reads the session's target filters.
+
+        C: kel_getSessionTargetFilters; number 90; engine position 263.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(90, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.TargetFilter]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_TargetFilter(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def set_session_target_filters(self, filters: Sequence[Optional[records.TargetFilter]] = ()) -> None:
+        """Sets the session's target filters.
+
+        C: kel_setSessionTargetFilters; number 91; engine position 264.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(filters))
+        for _e in filters:
+            stream.write_TargetFilter(_o, _e)
+        self._call(91, builtins.bytes(_o))
+
+    def get_current_debug_trace_directory(self) -> str:
+        """Reads the directory that the engine writes its debug trace to.
+
+        C: kel_getCurrentDebugTraceDirectory; number 142; engine position 268.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(142, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def get_call_duration(self) -> int:
+        """Reads the engine's call duration; the engine defines what it measures and
+        its unit.
+
+        C: kel_getCallDuration; number 187; engine position 270.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(187, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def set_status_text(self, text: str) -> None:
+        """Sets the engine's status text.
+
+        C: kel_setStatusText; number 196; engine position 271.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text)
+        self._call(196, builtins.bytes(_o))
