@@ -89,24 +89,6 @@ void create(const std::filesystem::path& folder) {
 
 } // namespace
 
-std::filesystem::path pathFromWide(const std::wstring& text) {
-#if defined(_WIN32)
-    return std::filesystem::path(text);
-#else
-    const std::string utf8 = toUtf8(text);
-    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
-#endif
-}
-
-std::wstring wideFromPath(const std::filesystem::path& path) {
-#if defined(_WIN32)
-    return path.wstring();
-#else
-    const std::u8string utf8 = path.u8string();
-    return fromUtf8(std::string(utf8.begin(), utf8.end()));
-#endif
-}
-
 std::filesystem::path dataRoot() {
     std::filesystem::path folder;
     {

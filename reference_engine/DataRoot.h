@@ -10,6 +10,8 @@
 // that changes the root restarts the engine (kelsim_restart) to see the new one.
 #pragma once
 
+#include "Describe.h" // pathFromWide, wideFromPath
+
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -26,11 +28,5 @@ std::filesystem::path dataFolder(std::string_view name);
 // Makes `folder` the root; an empty path goes back to KEL_SIM_DATA_ROOT or the
 // per-process default. The folder is created on first use, not here.
 void setDataRoot(const std::filesystem::path& folder);
-
-// Wide text and paths. The engine's wide text is UTF-16 on Windows and UTF-32 elsewhere,
-// while std::filesystem converts through the C locale on Linux (and fails on non-ASCII
-// there): every conversion goes through these two, which use UTF-8 on Linux.
-std::filesystem::path pathFromWide(const std::wstring& text);
-std::wstring wideFromPath(const std::filesystem::path& path);
 
 } // namespace Varno::Kel_cpp::Reference

@@ -84,6 +84,24 @@ std::wstring fromUtf8(const std::string& text) {
     return out;
 }
 
+std::filesystem::path pathFromWide(const std::wstring& text) {
+#if defined(_WIN32)
+    return std::filesystem::path(text);
+#else
+    const std::string utf8 = toUtf8(text);
+    return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
+#endif
+}
+
+std::wstring wideFromPath(const std::filesystem::path& path) {
+#if defined(_WIN32)
+    return path.wstring();
+#else
+    const std::u8string utf8 = path.u8string();
+    return fromUtf8(std::string(utf8.begin(), utf8.end()));
+#endif
+}
+
 void describe(std::string& out, const std::wstring& text) {
     out += '"';
     for (const char c : toUtf8(text)) {

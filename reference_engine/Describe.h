@@ -7,6 +7,7 @@
 #include <EngineFields.h>
 #include <array>
 #include <cstdint>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <tuple>
@@ -17,6 +18,12 @@ namespace Varno::Kel_cpp::Reference {
 
 std::string toUtf8(const std::wstring& text);
 std::wstring fromUtf8(const std::string& text);
+
+// Wide text and paths. The engine's wide text is UTF-16 on Windows and UTF-32 elsewhere,
+// while std::filesystem converts through the C locale on Linux (and fails on non-ASCII
+// there): every conversion goes through these two, which use UTF-8 on Linux.
+std::filesystem::path pathFromWide(const std::wstring& text);
+std::wstring wideFromPath(const std::filesystem::path& path);
 
 // A password among the arguments (`secret` in the interface description): recorded as
 // "***", so that no password is ever kept or shown in clear.

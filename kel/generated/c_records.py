@@ -130,12 +130,268 @@ class C_TargetFilter(ctypes.Structure):
     _fields_ = [("pattern", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("value", ctypes.c_int32)]
 
 
+class C_ParameterInput(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("children", ctypes.c_void_p), ("childCount", ctypes.c_uint32), ("value", ctypes.c_void_p)]
+
+
+class C_ServiceInput(ctypes.Structure):
+    _fields_ = [("parameters", ctypes.c_void_p), ("parameterCount", ctypes.c_uint32), ("service", ctypes.c_void_p), ("data", ctypes.c_void_p), ("dataLength", ctypes.c_uint32), ("value", ctypes.c_uint64)]
+
+
+class C_ServiceResult(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("responses", ctypes.c_void_p), ("responseCount", ctypes.c_uint32), ("status", ctypes.c_int32), ("text1", ctypes.c_void_p), ("error", ctypes.c_void_p), ("request", ctypes.c_void_p), ("value1", ctypes.c_int32)]
+
+
+class C_ResponseResult(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("error", ctypes.c_void_p), ("data", ctypes.c_void_p), ("dataLength", ctypes.c_uint32), ("value1", ctypes.c_uint64), ("value2", ctypes.c_uint64), ("parameters", ctypes.c_void_p), ("parameterCount", ctypes.c_uint32)]
+
+
+class C_RequestResult(ctypes.Structure):
+    _fields_ = [("error", ctypes.c_void_p), ("data", ctypes.c_void_p), ("dataLength", ctypes.c_uint32), ("value1", ctypes.c_uint64), ("value2", ctypes.c_uint64), ("parameters", ctypes.c_void_p), ("parameterCount", ctypes.c_uint32)]
+
+
+class C_UnlockResult(ctypes.Structure):
+    _fields_ = [("value", ctypes.c_uint64), ("services", ctypes.c_void_p), ("serviceCount", ctypes.c_uint32)]
+
+
+class C_ServiceInfo(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("responses", ctypes.c_void_p), ("responseCount", ctypes.c_uint32), ("parameters", ctypes.c_void_p), ("parameterCount", ctypes.c_uint32), ("text1", ctypes.c_void_p), ("items", ctypes.c_void_p), ("itemCount", ctypes.c_uint32), ("error", ctypes.c_void_p), ("values", ctypes.c_uint32 * 5)]
+
+
+class C_ResponseInfo(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("status", ctypes.c_int32), ("parameters", ctypes.c_void_p), ("parameterCount", ctypes.c_uint32)]
+
+
+class C_ParameterInfo(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("text3", ctypes.c_void_p), ("value1", ctypes.c_int32), ("text4", ctypes.c_void_p), ("children", ctypes.c_void_p), ("childCount", ctypes.c_uint32), ("text5", ctypes.c_void_p), ("names", ctypes.c_void_p), ("nameCount", ctypes.c_uint32), ("flag1", ctypes.c_uint8), ("value2", ctypes.c_int32), ("error", ctypes.c_void_p), ("flag2", ctypes.c_uint8), ("values", ctypes.c_uint32 * 8), ("flag3", ctypes.c_uint8), ("constraint1", ctypes.c_void_p), ("constraint2", ctypes.c_void_p), ("text6", ctypes.c_void_p), ("text7", ctypes.c_void_p), ("flag4", ctypes.c_uint8), ("unit", ctypes.c_void_p)]
+
+
+class C_ConstraintInfo(ctypes.Structure):
+    _fields_ = [("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("scales", ctypes.c_void_p), ("scaleCount", ctypes.c_uint32)]
+
+
+class C_ScaleConstraintInfo(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("value", ctypes.c_int32)]
+
+
+class C_UnitInfo(ctypes.Structure):
+    _fields_ = [("values", ctypes.c_uint32 * 7), ("value1", ctypes.c_uint64), ("flag1", ctypes.c_uint8), ("value2", ctypes.c_uint64), ("flag2", ctypes.c_uint8)]
+
+
+class C_ParameterInfoConfig(ctypes.Structure):
+    _fields_ = [("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("value", ctypes.c_int32), ("text3", ctypes.c_void_p), ("text4", ctypes.c_void_p)]
+
+
 class C_KelEvent(ctypes.Structure):
     _fields_ = [("name", ctypes.c_void_p), ("kind", ctypes.c_int32), ("code", ctypes.c_int32), ("text", ctypes.c_void_p), ("error", ctypes.c_void_p), ("detail", ctypes.c_void_p)]
 
 
 class C_EventReport(ctypes.Structure):
     _fields_ = [("events", ctypes.c_void_p), ("eventCount", ctypes.c_uint32)]
+
+
+class C_FileFilter(ctypes.Structure):
+    _fields_ = [("pattern", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("value", ctypes.c_uint32)]
+
+
+class C_TargetConfig(ctypes.Structure):
+    _fields_ = [("value", ctypes.c_int32), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p)]
+
+
+class C_ProjectConfig(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("filters1", ctypes.c_void_p), ("filterCount1", ctypes.c_uint32), ("value0", ctypes.c_int32), ("targets", ctypes.c_void_p), ("targetCount", ctypes.c_uint32), ("filters2", ctypes.c_void_p), ("filterCount2", ctypes.c_uint32), ("strings1", ctypes.c_void_p), ("stringCount1", ctypes.c_uint32), ("text1", ctypes.c_void_p), ("value1", ctypes.c_uint32), ("text2", ctypes.c_void_p), ("strings2", ctypes.c_void_p), ("stringCount2", ctypes.c_uint32), ("text3", ctypes.c_void_p), ("value2", ctypes.c_uint32), ("value3", ctypes.c_uint32), ("flags", ctypes.c_bool * 4)]
+
+
+class C_ProjectDetails(ctypes.Structure):
+    _fields_ = [("dbFiles1", ctypes.c_void_p), ("dbFileCount1", ctypes.c_uint32), ("dbFiles2", ctypes.c_void_p), ("dbFileCount2", ctypes.c_uint32), ("text1", ctypes.c_void_p), ("value1", ctypes.c_uint32), ("text2", ctypes.c_void_p), ("value2", ctypes.c_uint32), ("users", ctypes.c_void_p), ("userCount", ctypes.c_uint32)]
+
+
+class C_DbFileInfo(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("path", ctypes.c_void_p), ("size", ctypes.c_uint64), ("loaded", ctypes.c_uint8), ("error", ctypes.c_void_p)]
+
+
+class C_SystemInfo(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_uint32), ("value2", ctypes.c_uint32), ("text1", ctypes.c_void_p), ("value3", ctypes.c_uint32), ("text2", ctypes.c_void_p), ("text3", ctypes.c_void_p), ("text4", ctypes.c_void_p)]
+
+
+class C_SystemProperty(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("value1", ctypes.c_uint32), ("children", ctypes.c_void_p), ("childCount", ctypes.c_uint32), ("text3", ctypes.c_void_p), ("error", ctypes.c_void_p), ("text4", ctypes.c_void_p), ("value2", ctypes.c_uint32), ("data", ctypes.c_void_p), ("dataLength", ctypes.c_uint32), ("value3", ctypes.c_uint32), ("flag", ctypes.c_uint8), ("value4", ctypes.c_uint32)]
+
+
+class C_TarnApiConfig(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_int32), ("flag1", ctypes.c_uint8), ("flag2", ctypes.c_uint8), ("value2", ctypes.c_int32), ("server", ctypes.c_void_p), ("value3", ctypes.c_uint32), ("value4", ctypes.c_uint32), ("value5", ctypes.c_uint32), ("flag3", ctypes.c_uint8), ("value6", ctypes.c_uint32), ("value7", ctypes.c_uint16), ("oauth2Configs", ctypes.c_void_p), ("oauth2ConfigCount", ctypes.c_uint32), ("text", ctypes.c_void_p)]
+
+
+class C_ServerConfig(ctypes.Structure):
+    _fields_ = [("address", ctypes.c_void_p), ("port", ctypes.c_uint32), ("enabled", ctypes.c_uint8), ("name", ctypes.c_void_p)]
+
+
+class C_Oauth2Config(ctypes.Structure):
+    _fields_ = [("issuer", ctypes.c_void_p), ("clientId", ctypes.c_void_p), ("scopes", ctypes.c_void_p), ("scopeCount", ctypes.c_uint32), ("redirectUrl", ctypes.c_void_p)]
+
+
+class C_MoxConfig(ctypes.Structure):
+    _fields_ = [("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("text3", ctypes.c_void_p), ("text4", ctypes.c_void_p), ("text5", ctypes.c_void_p), ("flag1", ctypes.c_uint8), ("flag2", ctypes.c_uint8), ("flag3", ctypes.c_uint8), ("value", ctypes.c_uint32), ("flag4", ctypes.c_uint8), ("flag5", ctypes.c_uint8), ("flag6", ctypes.c_uint8), ("text6", ctypes.c_void_p), ("text7", ctypes.c_void_p), ("tcp", ctypes.c_void_p)]
+
+
+class C_TcpInfo(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_uint8), ("value2", ctypes.c_uint8), ("value3", ctypes.c_uint8), ("value4", ctypes.c_uint32), ("value5", ctypes.c_uint32), ("value6", ctypes.c_uint32)]
+
+
+class C_StatusInfo(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_uint64), ("value2", ctypes.c_uint64), ("value3", ctypes.c_uint64), ("value4", ctypes.c_uint64), ("value5", ctypes.c_uint64), ("value6", ctypes.c_uint32), ("value7", ctypes.c_uint64), ("value8", ctypes.c_uint64)]
+
+
+class C_TransmissionInfo(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_uint64), ("value2", ctypes.c_uint64), ("value3", ctypes.c_uint64), ("value4", ctypes.c_uint64)]
+
+
+class C_ProcessInfo(ctypes.Structure):
+    _fields_ = [("processes", ctypes.c_void_p), ("processCount", ctypes.c_uint32), ("flag1", ctypes.c_uint8), ("flag2", ctypes.c_uint8), ("text", ctypes.c_void_p)]
+
+
+class C_ProcessEntry(ctypes.Structure):
+    _fields_ = [("value", ctypes.c_uint32), ("items1", ctypes.c_void_p), ("itemCount1", ctypes.c_uint32), ("text", ctypes.c_void_p), ("items2", ctypes.c_void_p), ("itemCount2", ctypes.c_uint32)]
+
+
+class C_ProcessThread(ctypes.Structure):
+    _fields_ = [("id", ctypes.c_uint32), ("name", ctypes.c_void_p)]
+
+
+class C_ProcessMemory(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("bytes", ctypes.c_uint64)]
+
+
+class C_GlobalProtocolParameterSet(ctypes.Structure):
+    _fields_ = [("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("text3", ctypes.c_void_p), ("text4", ctypes.c_void_p), ("parameters", ctypes.c_void_p), ("parameterCount", ctypes.c_uint32)]
+
+
+class C_GlobalProtocolParameter(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("value", ctypes.c_void_p), ("defaultValue", ctypes.c_void_p), ("infos", ctypes.c_void_p), ("infoCount", ctypes.c_uint32), ("choices", ctypes.c_void_p), ("choiceCount", ctypes.c_uint32), ("error", ctypes.c_void_p), ("constraints", ctypes.c_void_p), ("constraintCount", ctypes.c_uint32), ("tcp", ctypes.c_void_p), ("value1", ctypes.c_uint32), ("flag", ctypes.c_uint8)]
+
+
+class C_LoadDatabaseResult(ctypes.Structure):
+    _fields_ = [("text", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("error", ctypes.c_void_p)]
+
+
+class C_InterfaceInformation(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("resources", ctypes.c_void_p), ("resourceCount", ctypes.c_uint32), ("flag1", ctypes.c_uint8), ("flag2", ctypes.c_uint8), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("flag3", ctypes.c_uint8), ("items", ctypes.c_void_p), ("itemCount", ctypes.c_uint32), ("value", ctypes.c_uint64)]
+
+
+class C_ResourceInformation(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("id", ctypes.c_uint32), ("pin", ctypes.c_uint32), ("inUse", ctypes.c_uint8)]
+
+
+class C_InterfaceInformationItem(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p)]
+
+
+class C_ScanInterfaceResult(ctypes.Structure):
+    _fields_ = [("interfaceInfo", ctypes.c_void_p), ("error", ctypes.c_void_p)]
+
+
+class C_DynInterfaceDetection(ctypes.Structure):
+    _fields_ = [("namePattern", ctypes.c_void_p), ("kind", ctypes.c_void_p), ("onlyFree", ctypes.c_uint8)]
+
+
+class C_ModuleDyn(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("longName", ctypes.c_void_p), ("vendor", ctypes.c_void_p), ("kind", ctypes.c_void_p), ("address", ctypes.c_void_p), ("vendorModule", ctypes.c_void_p), ("connected", ctypes.c_uint8), ("serialNumber", ctypes.c_void_p), ("firmware", ctypes.c_void_p), ("network", ctypes.c_void_p), ("resources", ctypes.c_void_p), ("resourceCount", ctypes.c_uint32), ("port", ctypes.c_uint32), ("exclusive", ctypes.c_uint8), ("handle", ctypes.c_uint64)]
+
+
+class C_DeviceInfo(ctypes.Structure):
+    _fields_ = [("text1", ctypes.c_void_p), ("value1", ctypes.c_uint32), ("value2", ctypes.c_uint32), ("text2", ctypes.c_void_p), ("text3", ctypes.c_void_p), ("value3", ctypes.c_uint32), ("text4", ctypes.c_void_p), ("text5", ctypes.c_void_p), ("value4", ctypes.c_uint32), ("value5", ctypes.c_uint32), ("text6", ctypes.c_void_p), ("protocols", ctypes.c_void_p), ("protocolCount", ctypes.c_uint32), ("text7", ctypes.c_void_p), ("modules", ctypes.c_void_p), ("moduleCount", ctypes.c_uint32), ("text8", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("value6", ctypes.c_uint64), ("value7", ctypes.c_uint32), ("value8", ctypes.c_uint64), ("value9", ctypes.c_uint64), ("value10", ctypes.c_uint64)]
+
+
+class C_PhysicalLinksOnModule(ctypes.Structure):
+    _fields_ = [("module", ctypes.c_void_p), ("links", ctypes.c_void_p), ("linkCount", ctypes.c_uint32)]
+
+
+class C_PhysicalLink(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("baudrate", ctypes.c_uint32), ("enabled", ctypes.c_uint8)]
+
+
+class C_InterfaceConfiguration(ctypes.Structure):
+    _fields_ = [("entries", ctypes.c_void_p), ("entryCount", ctypes.c_uint32)]
+
+
+class C_InterfaceConfigurationEntry(ctypes.Structure):
+    _fields_ = [("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("text3", ctypes.c_void_p), ("text4", ctypes.c_void_p), ("text5", ctypes.c_void_p), ("value", ctypes.c_uint32), ("flag", ctypes.c_uint8), ("items", ctypes.c_void_p), ("itemCount", ctypes.c_uint32)]
+
+
+class C_InterfaceProvider(ctypes.Structure):
+    _fields_ = [("itemText1", ctypes.c_void_p), ("itemText2", ctypes.c_void_p), ("itemText3", ctypes.c_void_p), ("itemText4", ctypes.c_void_p), ("text", ctypes.c_void_p), ("value", ctypes.c_uint32), ("flag", ctypes.c_uint8)]
+
+
+class C_DoIPParameter(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_uint32), ("value2", ctypes.c_uint32), ("text", ctypes.c_void_p), ("value3", ctypes.c_uint32), ("strings", ctypes.c_void_p), ("stringCount", ctypes.c_uint32)]
+
+
+class C_WLanSignalData(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_uint32), ("value2", ctypes.c_uint32), ("value3", ctypes.c_uint32), ("value4", ctypes.c_uint32), ("value5", ctypes.c_uint32), ("value6", ctypes.c_uint64), ("value7", ctypes.c_uint32), ("value8", ctypes.c_uint32), ("value9", ctypes.c_uint32), ("value10", ctypes.c_uint32), ("value11", ctypes.c_uint16), ("text", ctypes.c_void_p)]
+
+
+class C_SupportedInterface(ctypes.Structure):
+    _fields_ = [("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("names", ctypes.c_void_p), ("nameCount", ctypes.c_uint32), ("value", ctypes.c_uint32), ("text3", ctypes.c_void_p)]
+
+
+class C_FileInfo(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("error", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("value1", ctypes.c_uint32), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("value2", ctypes.c_uint64), ("value3", ctypes.c_uint64)]
+
+
+class C_DirectoryInfo(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("error", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("value1", ctypes.c_uint32), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("files", ctypes.c_void_p), ("fileCount", ctypes.c_uint32), ("directories", ctypes.c_void_p), ("directoryCount", ctypes.c_uint32), ("flag2", ctypes.c_uint8)]
+
+
+class C_FileCopyResult(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_int32), ("text", ctypes.c_void_p), ("error", ctypes.c_void_p), ("file", ctypes.c_void_p), ("value2", ctypes.c_int32)]
+
+
+class C_DirectoryCopyResult(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_int32), ("text", ctypes.c_void_p), ("error", ctypes.c_void_p), ("directory", ctypes.c_void_p)]
+
+
+class C_DirectoryCopyItem(ctypes.Structure):
+    _fields_ = [("source", ctypes.c_void_p), ("target", ctypes.c_void_p), ("files", ctypes.c_uint32), ("directories", ctypes.c_uint32), ("bytes", ctypes.c_uint64), ("failures", ctypes.c_void_p), ("failureCount", ctypes.c_uint32)]
+
+
+class C_PathCopyResult(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_int32), ("error", ctypes.c_void_p), ("value2", ctypes.c_int32), ("item", ctypes.c_void_p)]
+
+
+class C_PathCopyItem(ctypes.Structure):
+    _fields_ = [("source", ctypes.c_void_p), ("target", ctypes.c_void_p), ("size", ctypes.c_uint64)]
+
+
+class C_FileReferenceResult(ctypes.Structure):
+    _fields_ = [("references", ctypes.c_void_p), ("referenceCount", ctypes.c_uint32), ("error", ctypes.c_void_p)]
+
+
+class C_FileCopyConfig(ctypes.Structure):
+    _fields_ = [("files", ctypes.c_void_p), ("fileCount", ctypes.c_uint32), ("target", ctypes.c_void_p), ("overwrite", ctypes.c_uint8)]
+
+
+class C_DirectoryCopyConfig(ctypes.Structure):
+    _fields_ = [("directories", ctypes.c_void_p), ("directoryCount", ctypes.c_uint32), ("target", ctypes.c_void_p), ("overwrite", ctypes.c_uint8), ("recursive", ctypes.c_uint8), ("pattern", ctypes.c_void_p)]
+
+
+class C_PathCopyConfig(ctypes.Structure):
+    _fields_ = [("source", ctypes.c_void_p), ("target", ctypes.c_void_p), ("overwrite", ctypes.c_uint8)]
+
+
+class C_UserInfo(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("text", ctypes.c_void_p), ("value", ctypes.c_uint32)]
+
+
+class C_LogInOutConfig(ctypes.Structure):
+    _fields_ = [("user", ctypes.c_void_p), ("password", ctypes.c_void_p)]
+
+
+class C_TarnApiServerConfig(ctypes.Structure):
+    _fields_ = [("users", ctypes.c_void_p), ("userCount", ctypes.c_uint32), ("flag", ctypes.c_uint8), ("value1", ctypes.c_uint32), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("filters", ctypes.c_void_p), ("filterCount", ctypes.c_uint32), ("text3", ctypes.c_void_p), ("text4", ctypes.c_void_p), ("users2", ctypes.c_void_p), ("userCount2", ctypes.c_uint32), ("value2", ctypes.c_uint16)]
+
+
+class C_ServerSettings(ctypes.Structure):
+    _fields_ = [("flag", ctypes.c_uint8), ("value1", ctypes.c_uint32), ("value2", ctypes.c_uint32), ("value3", ctypes.c_uint32)]
 
 
 def from_c_MvciServerError(address: Optional[int]) -> Optional[records.MvciServerError]:
@@ -348,6 +604,207 @@ def from_c_TargetFilter(address: Optional[int]) -> Optional[records.TargetFilter
     )
 
 
+def from_c_ParameterInput(address: Optional[int]) -> Optional[records.ParameterInput]:
+    if not address:
+        return None
+    s = C_ParameterInput.from_address(address)
+    return records.ParameterInput(
+        name=_text(s.name),
+        children=from_c_list(s.children, s.childCount, from_c_ParameterInput),
+        value=_text(s.value),
+    )
+
+
+def from_c_ServiceInput(address: Optional[int]) -> Optional[records.ServiceInput]:
+    if not address:
+        return None
+    s = C_ServiceInput.from_address(address)
+    return records.ServiceInput(
+        parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterInput),
+        service=_text(s.service),
+        data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
+        value=s.value,
+    )
+
+
+def from_c_ServiceResult(address: Optional[int]) -> Optional[records.ServiceResult]:
+    if not address:
+        return None
+    s = C_ServiceResult.from_address(address)
+    return records.ServiceResult(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        responses=from_c_list(s.responses, s.responseCount, from_c_ResponseResult),
+        status=s.status,
+        text1=_text(s.text1),
+        error=from_c_KelError(s.error),
+        request=from_c_RequestResult(s.request),
+        value1=s.value1,
+    )
+
+
+def from_c_ResponseResult(address: Optional[int]) -> Optional[records.ResponseResult]:
+    if not address:
+        return None
+    s = C_ResponseResult.from_address(address)
+    return records.ResponseResult(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        flag=bool(s.flag),
+        error=from_c_KelError(s.error),
+        data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
+        value1=s.value1,
+        value2=s.value2,
+        parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterResult),
+    )
+
+
+def from_c_RequestResult(address: Optional[int]) -> Optional[records.RequestResult]:
+    if not address:
+        return None
+    s = C_RequestResult.from_address(address)
+    return records.RequestResult(
+        error=from_c_KelError(s.error),
+        data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
+        value1=s.value1,
+        value2=s.value2,
+        parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterResult),
+    )
+
+
+def from_c_UnlockResult(address: Optional[int]) -> Optional[records.UnlockResult]:
+    if not address:
+        return None
+    s = C_UnlockResult.from_address(address)
+    return records.UnlockResult(
+        value=s.value,
+        services=from_c_list(s.services, s.serviceCount, from_c_ServiceResult),
+    )
+
+
+def from_c_ServiceInfo(address: Optional[int]) -> Optional[records.ServiceInfo]:
+    if not address:
+        return None
+    s = C_ServiceInfo.from_address(address)
+    return records.ServiceInfo(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        flag=bool(s.flag),
+        responses=from_c_list(s.responses, s.responseCount, from_c_ResponseInfo),
+        parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterInfo),
+        text1=_text(s.text1),
+        items=from_c_list(s.items, s.itemCount, from_c_NamedItem),
+        error=from_c_KelError(s.error),
+        values=list(s.values),
+    )
+
+
+def from_c_ResponseInfo(address: Optional[int]) -> Optional[records.ResponseInfo]:
+    if not address:
+        return None
+    s = C_ResponseInfo.from_address(address)
+    return records.ResponseInfo(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        status=s.status,
+        parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterInfo),
+    )
+
+
+def from_c_ParameterInfo(address: Optional[int]) -> Optional[records.ParameterInfo]:
+    if not address:
+        return None
+    s = C_ParameterInfo.from_address(address)
+    return records.ParameterInfo(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        text3=_text(s.text3),
+        value1=s.value1,
+        text4=_text(s.text4),
+        children=from_c_list(s.children, s.childCount, from_c_ParameterInfo),
+        text5=_text(s.text5),
+        names=_texts(s.names, s.nameCount),
+        flag1=bool(s.flag1),
+        value2=s.value2,
+        error=from_c_KelError(s.error),
+        flag2=bool(s.flag2),
+        values=list(s.values),
+        flag3=bool(s.flag3),
+        constraint1=from_c_ConstraintInfo(s.constraint1),
+        constraint2=from_c_ConstraintInfo(s.constraint2),
+        text6=_text(s.text6),
+        text7=_text(s.text7),
+        flag4=bool(s.flag4),
+        unit=from_c_UnitInfo(s.unit),
+    )
+
+
+def from_c_ConstraintInfo(address: Optional[int]) -> Optional[records.ConstraintInfo]:
+    if not address:
+        return None
+    s = C_ConstraintInfo.from_address(address)
+    return records.ConstraintInfo(
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        flag=bool(s.flag),
+        scales=from_c_list(s.scales, s.scaleCount, from_c_ScaleConstraintInfo),
+    )
+
+
+def from_c_ScaleConstraintInfo(address: Optional[int]) -> Optional[records.ScaleConstraintInfo]:
+    if not address:
+        return None
+    s = C_ScaleConstraintInfo.from_address(address)
+    return records.ScaleConstraintInfo(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        flag=bool(s.flag),
+        value=s.value,
+    )
+
+
+def from_c_UnitInfo(address: Optional[int]) -> Optional[records.UnitInfo]:
+    if not address:
+        return None
+    s = C_UnitInfo.from_address(address)
+    return records.UnitInfo(
+        values=list(s.values),
+        value1=s.value1,
+        flag1=bool(s.flag1),
+        value2=s.value2,
+        flag2=bool(s.flag2),
+    )
+
+
+def from_c_ParameterInfoConfig(address: Optional[int]) -> Optional[records.ParameterInfoConfig]:
+    if not address:
+        return None
+    s = C_ParameterInfoConfig.from_address(address)
+    return records.ParameterInfoConfig(
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        value=s.value,
+        text3=_text(s.text3),
+        text4=_text(s.text4),
+    )
+
+
 def from_c_KelEvent(address: Optional[int]) -> Optional[records.KelEvent]:
     if not address:
         return None
@@ -368,6 +825,739 @@ def from_c_EventReport(address: Optional[int]) -> Optional[records.EventReport]:
     s = C_EventReport.from_address(address)
     return records.EventReport(
         events=from_c_list(s.events, s.eventCount, from_c_KelEvent),
+    )
+
+
+def from_c_FileFilter(address: Optional[int]) -> Optional[records.FileFilter]:
+    if not address:
+        return None
+    s = C_FileFilter.from_address(address)
+    return records.FileFilter(
+        pattern=_text(s.pattern),
+        flag=bool(s.flag),
+        value=s.value,
+    )
+
+
+def from_c_TargetConfig(address: Optional[int]) -> Optional[records.TargetConfig]:
+    if not address:
+        return None
+    s = C_TargetConfig.from_address(address)
+    return records.TargetConfig(
+        value=s.value,
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+    )
+
+
+def from_c_ProjectConfig(address: Optional[int]) -> Optional[records.ProjectConfig]:
+    if not address:
+        return None
+    s = C_ProjectConfig.from_address(address)
+    return records.ProjectConfig(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        filters1=from_c_list(s.filters1, s.filterCount1, from_c_FileFilter),
+        value0=s.value0,
+        targets=from_c_list(s.targets, s.targetCount, from_c_TargetConfig),
+        filters2=from_c_list(s.filters2, s.filterCount2, from_c_FileFilter),
+        strings1=_texts(s.strings1, s.stringCount1),
+        text1=_text(s.text1),
+        value1=s.value1,
+        text2=_text(s.text2),
+        strings2=_texts(s.strings2, s.stringCount2),
+        text3=_text(s.text3),
+        value2=s.value2,
+        value3=s.value3,
+        flags=list(s.flags),
+    )
+
+
+def from_c_ProjectDetails(address: Optional[int]) -> Optional[records.ProjectDetails]:
+    if not address:
+        return None
+    s = C_ProjectDetails.from_address(address)
+    return records.ProjectDetails(
+        db_files1=from_c_list(s.dbFiles1, s.dbFileCount1, from_c_DbFileInfo),
+        db_files2=from_c_list(s.dbFiles2, s.dbFileCount2, from_c_DbFileInfo),
+        text1=_text(s.text1),
+        value1=s.value1,
+        text2=_text(s.text2),
+        value2=s.value2,
+        users=from_c_list(s.users, s.userCount, from_c_UserInfo),
+    )
+
+
+def from_c_DbFileInfo(address: Optional[int]) -> Optional[records.DbFileInfo]:
+    if not address:
+        return None
+    s = C_DbFileInfo.from_address(address)
+    return records.DbFileInfo(
+        name=_text(s.name),
+        path=_text(s.path),
+        size=s.size,
+        loaded=bool(s.loaded),
+        error=from_c_KelError(s.error),
+    )
+
+
+def from_c_SystemInfo(address: Optional[int]) -> Optional[records.SystemInfo]:
+    if not address:
+        return None
+    s = C_SystemInfo.from_address(address)
+    return records.SystemInfo(
+        value1=s.value1,
+        value2=s.value2,
+        text1=_text(s.text1),
+        value3=s.value3,
+        text2=_text(s.text2),
+        text3=_text(s.text3),
+        text4=_text(s.text4),
+    )
+
+
+def from_c_SystemProperty(address: Optional[int]) -> Optional[records.SystemProperty]:
+    if not address:
+        return None
+    s = C_SystemProperty.from_address(address)
+    return records.SystemProperty(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        value1=s.value1,
+        children=from_c_list(s.children, s.childCount, from_c_SystemProperty),
+        text3=_text(s.text3),
+        error=from_c_KelError(s.error),
+        text4=_text(s.text4),
+        value2=s.value2,
+        data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
+        value3=s.value3,
+        flag=bool(s.flag),
+        value4=s.value4,
+    )
+
+
+def from_c_TarnApiConfig(address: Optional[int]) -> Optional[records.TarnApiConfig]:
+    if not address:
+        return None
+    s = C_TarnApiConfig.from_address(address)
+    return records.TarnApiConfig(
+        value1=s.value1,
+        flag1=bool(s.flag1),
+        flag2=bool(s.flag2),
+        value2=s.value2,
+        server=from_c_ServerConfig(s.server),
+        value3=s.value3,
+        value4=s.value4,
+        value5=s.value5,
+        flag3=bool(s.flag3),
+        value6=s.value6,
+        value7=s.value7,
+        oauth2_configs=from_c_list(s.oauth2Configs, s.oauth2ConfigCount, from_c_Oauth2Config),
+        text=_text(s.text),
+    )
+
+
+def from_c_ServerConfig(address: Optional[int]) -> Optional[records.ServerConfig]:
+    if not address:
+        return None
+    s = C_ServerConfig.from_address(address)
+    return records.ServerConfig(
+        address=_text(s.address),
+        port=s.port,
+        enabled=bool(s.enabled),
+        name=_text(s.name),
+    )
+
+
+def from_c_Oauth2Config(address: Optional[int]) -> Optional[records.Oauth2Config]:
+    if not address:
+        return None
+    s = C_Oauth2Config.from_address(address)
+    return records.Oauth2Config(
+        issuer=_text(s.issuer),
+        client_id=_text(s.clientId),
+        scopes=_texts(s.scopes, s.scopeCount),
+        redirect_url=_text(s.redirectUrl),
+    )
+
+
+def from_c_MoxConfig(address: Optional[int]) -> Optional[records.MoxConfig]:
+    if not address:
+        return None
+    s = C_MoxConfig.from_address(address)
+    return records.MoxConfig(
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        text3=_text(s.text3),
+        text4=_text(s.text4),
+        text5=_text(s.text5),
+        flag1=bool(s.flag1),
+        flag2=bool(s.flag2),
+        flag3=bool(s.flag3),
+        value=s.value,
+        flag4=bool(s.flag4),
+        flag5=bool(s.flag5),
+        flag6=bool(s.flag6),
+        text6=_text(s.text6),
+        text7=_text(s.text7),
+        tcp=from_c_TcpInfo(s.tcp),
+    )
+
+
+def from_c_TcpInfo(address: Optional[int]) -> Optional[records.TcpInfo]:
+    if not address:
+        return None
+    s = C_TcpInfo.from_address(address)
+    return records.TcpInfo(
+        value1=s.value1,
+        value2=s.value2,
+        value3=s.value3,
+        value4=s.value4,
+        value5=s.value5,
+        value6=s.value6,
+    )
+
+
+def from_c_StatusInfo(address: Optional[int]) -> Optional[records.StatusInfo]:
+    if not address:
+        return None
+    s = C_StatusInfo.from_address(address)
+    return records.StatusInfo(
+        value1=s.value1,
+        value2=s.value2,
+        value3=s.value3,
+        value4=s.value4,
+        value5=s.value5,
+        value6=s.value6,
+        value7=s.value7,
+        value8=s.value8,
+    )
+
+
+def from_c_TransmissionInfo(address: Optional[int]) -> Optional[records.TransmissionInfo]:
+    if not address:
+        return None
+    s = C_TransmissionInfo.from_address(address)
+    return records.TransmissionInfo(
+        value1=s.value1,
+        value2=s.value2,
+        value3=s.value3,
+        value4=s.value4,
+    )
+
+
+def from_c_ProcessInfo(address: Optional[int]) -> Optional[records.ProcessInfo]:
+    if not address:
+        return None
+    s = C_ProcessInfo.from_address(address)
+    return records.ProcessInfo(
+        processes=from_c_list(s.processes, s.processCount, from_c_ProcessEntry),
+        flag1=bool(s.flag1),
+        flag2=bool(s.flag2),
+        text=_text(s.text),
+    )
+
+
+def from_c_ProcessEntry(address: Optional[int]) -> Optional[records.ProcessEntry]:
+    if not address:
+        return None
+    s = C_ProcessEntry.from_address(address)
+    return records.ProcessEntry(
+        value=s.value,
+        items1=from_c_list(s.items1, s.itemCount1, from_c_ProcessThread),
+        text=_text(s.text),
+        items2=from_c_list(s.items2, s.itemCount2, from_c_ProcessMemory),
+    )
+
+
+def from_c_ProcessThread(address: Optional[int]) -> Optional[records.ProcessThread]:
+    if not address:
+        return None
+    s = C_ProcessThread.from_address(address)
+    return records.ProcessThread(
+        id=s.id,
+        name=_text(s.name),
+    )
+
+
+def from_c_ProcessMemory(address: Optional[int]) -> Optional[records.ProcessMemory]:
+    if not address:
+        return None
+    s = C_ProcessMemory.from_address(address)
+    return records.ProcessMemory(
+        name=_text(s.name),
+        bytes=s.bytes,
+    )
+
+
+def from_c_GlobalProtocolParameterSet(address: Optional[int]) -> Optional[records.GlobalProtocolParameterSet]:
+    if not address:
+        return None
+    s = C_GlobalProtocolParameterSet.from_address(address)
+    return records.GlobalProtocolParameterSet(
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        text3=_text(s.text3),
+        text4=_text(s.text4),
+        parameters=from_c_list(s.parameters, s.parameterCount, from_c_GlobalProtocolParameter),
+    )
+
+
+def from_c_GlobalProtocolParameter(address: Optional[int]) -> Optional[records.GlobalProtocolParameter]:
+    if not address:
+        return None
+    s = C_GlobalProtocolParameter.from_address(address)
+    return records.GlobalProtocolParameter(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        value=_text(s.value),
+        default_value=_text(s.defaultValue),
+        infos=from_c_list(s.infos, s.infoCount, from_c_ParameterInfo),
+        choices=_texts(s.choices, s.choiceCount),
+        error=from_c_KelError(s.error),
+        constraints=from_c_list(s.constraints, s.constraintCount, from_c_ConstraintInfo),
+        tcp=from_c_TcpInfo(s.tcp),
+        value1=s.value1,
+        flag=bool(s.flag),
+    )
+
+
+def from_c_LoadDatabaseResult(address: Optional[int]) -> Optional[records.LoadDatabaseResult]:
+    if not address:
+        return None
+    s = C_LoadDatabaseResult.from_address(address)
+    return records.LoadDatabaseResult(
+        text=_text(s.text),
+        flag=bool(s.flag),
+        error=from_c_KelError(s.error),
+    )
+
+
+def from_c_InterfaceInformation(address: Optional[int]) -> Optional[records.InterfaceInformation]:
+    if not address:
+        return None
+    s = C_InterfaceInformation.from_address(address)
+    return records.InterfaceInformation(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        resources=from_c_list(s.resources, s.resourceCount, from_c_ResourceInformation),
+        flag1=bool(s.flag1),
+        flag2=bool(s.flag2),
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        flag3=bool(s.flag3),
+        items=from_c_list(s.items, s.itemCount, from_c_InterfaceInformationItem),
+        value=s.value,
+    )
+
+
+def from_c_ResourceInformation(address: Optional[int]) -> Optional[records.ResourceInformation]:
+    if not address:
+        return None
+    s = C_ResourceInformation.from_address(address)
+    return records.ResourceInformation(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        id=s.id,
+        pin=s.pin,
+        in_use=bool(s.inUse),
+    )
+
+
+def from_c_InterfaceInformationItem(address: Optional[int]) -> Optional[records.InterfaceInformationItem]:
+    if not address:
+        return None
+    s = C_InterfaceInformationItem.from_address(address)
+    return records.InterfaceInformationItem(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+    )
+
+
+def from_c_ScanInterfaceResult(address: Optional[int]) -> Optional[records.ScanInterfaceResult]:
+    if not address:
+        return None
+    s = C_ScanInterfaceResult.from_address(address)
+    return records.ScanInterfaceResult(
+        interface_info=from_c_InterfaceInformation(s.interfaceInfo),
+        error=from_c_KelError(s.error),
+    )
+
+
+def from_c_DynInterfaceDetection(address: Optional[int]) -> Optional[records.DynInterfaceDetection]:
+    if not address:
+        return None
+    s = C_DynInterfaceDetection.from_address(address)
+    return records.DynInterfaceDetection(
+        name_pattern=_text(s.namePattern),
+        kind=_text(s.kind),
+        only_free=bool(s.onlyFree),
+    )
+
+
+def from_c_ModuleDyn(address: Optional[int]) -> Optional[records.ModuleDyn]:
+    if not address:
+        return None
+    s = C_ModuleDyn.from_address(address)
+    return records.ModuleDyn(
+        name=_text(s.name),
+        long_name=_text(s.longName),
+        vendor=_text(s.vendor),
+        kind=_text(s.kind),
+        address=_text(s.address),
+        vendor_module=from_c_InterfaceInformationItem(s.vendorModule),
+        connected=bool(s.connected),
+        serial_number=_text(s.serialNumber),
+        firmware=_text(s.firmware),
+        network=_text(s.network),
+        resources=from_c_list(s.resources, s.resourceCount, from_c_ResourceInformation),
+        port=s.port,
+        exclusive=bool(s.exclusive),
+        handle=s.handle,
+    )
+
+
+def from_c_DeviceInfo(address: Optional[int]) -> Optional[records.DeviceInfo]:
+    if not address:
+        return None
+    s = C_DeviceInfo.from_address(address)
+    return records.DeviceInfo(
+        text1=_text(s.text1),
+        value1=s.value1,
+        value2=s.value2,
+        text2=_text(s.text2),
+        text3=_text(s.text3),
+        value3=s.value3,
+        text4=_text(s.text4),
+        text5=_text(s.text5),
+        value4=s.value4,
+        value5=s.value5,
+        text6=_text(s.text6),
+        protocols=_texts(s.protocols, s.protocolCount),
+        text7=_text(s.text7),
+        modules=_texts(s.modules, s.moduleCount),
+        text8=_text(s.text8),
+        flag=bool(s.flag),
+        value6=s.value6,
+        value7=s.value7,
+        value8=s.value8,
+        value9=s.value9,
+        value10=s.value10,
+    )
+
+
+def from_c_PhysicalLinksOnModule(address: Optional[int]) -> Optional[records.PhysicalLinksOnModule]:
+    if not address:
+        return None
+    s = C_PhysicalLinksOnModule.from_address(address)
+    return records.PhysicalLinksOnModule(
+        module=_text(s.module),
+        links=from_c_list(s.links, s.linkCount, from_c_PhysicalLink),
+    )
+
+
+def from_c_PhysicalLink(address: Optional[int]) -> Optional[records.PhysicalLink]:
+    if not address:
+        return None
+    s = C_PhysicalLink.from_address(address)
+    return records.PhysicalLink(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        baudrate=s.baudrate,
+        enabled=bool(s.enabled),
+    )
+
+
+def from_c_InterfaceConfiguration(address: Optional[int]) -> Optional[records.InterfaceConfiguration]:
+    if not address:
+        return None
+    s = C_InterfaceConfiguration.from_address(address)
+    return records.InterfaceConfiguration(
+        entries=from_c_list(s.entries, s.entryCount, from_c_InterfaceConfigurationEntry),
+    )
+
+
+def from_c_InterfaceConfigurationEntry(address: Optional[int]) -> Optional[records.InterfaceConfigurationEntry]:
+    if not address:
+        return None
+    s = C_InterfaceConfigurationEntry.from_address(address)
+    return records.InterfaceConfigurationEntry(
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        text3=_text(s.text3),
+        text4=_text(s.text4),
+        text5=_text(s.text5),
+        value=s.value,
+        flag=bool(s.flag),
+        items=from_c_list(s.items, s.itemCount, from_c_ResourceInformation),
+    )
+
+
+def from_c_InterfaceProvider(address: Optional[int]) -> Optional[records.InterfaceProvider]:
+    if not address:
+        return None
+    s = C_InterfaceProvider.from_address(address)
+    return records.InterfaceProvider(
+        item_text1=_text(s.itemText1),
+        item_text2=_text(s.itemText2),
+        item_text3=_text(s.itemText3),
+        item_text4=_text(s.itemText4),
+        text=_text(s.text),
+        value=s.value,
+        flag=bool(s.flag),
+    )
+
+
+def from_c_DoIPParameter(address: Optional[int]) -> Optional[records.DoIPParameter]:
+    if not address:
+        return None
+    s = C_DoIPParameter.from_address(address)
+    return records.DoIPParameter(
+        value1=s.value1,
+        value2=s.value2,
+        text=_text(s.text),
+        value3=s.value3,
+        strings=_texts(s.strings, s.stringCount),
+    )
+
+
+def from_c_WLanSignalData(address: Optional[int]) -> Optional[records.WLanSignalData]:
+    if not address:
+        return None
+    s = C_WLanSignalData.from_address(address)
+    return records.WLanSignalData(
+        value1=s.value1,
+        value2=s.value2,
+        value3=s.value3,
+        value4=s.value4,
+        value5=s.value5,
+        value6=s.value6,
+        value7=s.value7,
+        value8=s.value8,
+        value9=s.value9,
+        value10=s.value10,
+        value11=s.value11,
+        text=_text(s.text),
+    )
+
+
+def from_c_SupportedInterface(address: Optional[int]) -> Optional[records.SupportedInterface]:
+    if not address:
+        return None
+    s = C_SupportedInterface.from_address(address)
+    return records.SupportedInterface(
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        names=_texts(s.names, s.nameCount),
+        value=s.value,
+        text3=_text(s.text3),
+    )
+
+
+def from_c_FileInfo(address: Optional[int]) -> Optional[records.FileInfo]:
+    if not address:
+        return None
+    s = C_FileInfo.from_address(address)
+    return records.FileInfo(
+        name=_text(s.name),
+        error=from_c_KelError(s.error),
+        flag=bool(s.flag),
+        value1=s.value1,
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        value2=s.value2,
+        value3=s.value3,
+    )
+
+
+def from_c_DirectoryInfo(address: Optional[int]) -> Optional[records.DirectoryInfo]:
+    if not address:
+        return None
+    s = C_DirectoryInfo.from_address(address)
+    return records.DirectoryInfo(
+        name=_text(s.name),
+        error=from_c_KelError(s.error),
+        flag=bool(s.flag),
+        value1=s.value1,
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        files=from_c_list(s.files, s.fileCount, from_c_FileInfo),
+        directories=from_c_list(s.directories, s.directoryCount, from_c_DirectoryInfo),
+        flag2=bool(s.flag2),
+    )
+
+
+def from_c_FileCopyResult(address: Optional[int]) -> Optional[records.FileCopyResult]:
+    if not address:
+        return None
+    s = C_FileCopyResult.from_address(address)
+    return records.FileCopyResult(
+        value1=s.value1,
+        text=_text(s.text),
+        error=from_c_KelError(s.error),
+        file=from_c_FileInfo(s.file),
+        value2=s.value2,
+    )
+
+
+def from_c_DirectoryCopyResult(address: Optional[int]) -> Optional[records.DirectoryCopyResult]:
+    if not address:
+        return None
+    s = C_DirectoryCopyResult.from_address(address)
+    return records.DirectoryCopyResult(
+        value1=s.value1,
+        text=_text(s.text),
+        error=from_c_KelError(s.error),
+        directory=from_c_DirectoryCopyItem(s.directory),
+    )
+
+
+def from_c_DirectoryCopyItem(address: Optional[int]) -> Optional[records.DirectoryCopyItem]:
+    if not address:
+        return None
+    s = C_DirectoryCopyItem.from_address(address)
+    return records.DirectoryCopyItem(
+        source=_text(s.source),
+        target=_text(s.target),
+        files=s.files,
+        directories=s.directories,
+        bytes=s.bytes,
+        failures=from_c_list(s.failures, s.failureCount, from_c_FileCopyResult),
+    )
+
+
+def from_c_PathCopyResult(address: Optional[int]) -> Optional[records.PathCopyResult]:
+    if not address:
+        return None
+    s = C_PathCopyResult.from_address(address)
+    return records.PathCopyResult(
+        value1=s.value1,
+        error=from_c_KelError(s.error),
+        value2=s.value2,
+        item=from_c_PathCopyItem(s.item),
+    )
+
+
+def from_c_PathCopyItem(address: Optional[int]) -> Optional[records.PathCopyItem]:
+    if not address:
+        return None
+    s = C_PathCopyItem.from_address(address)
+    return records.PathCopyItem(
+        source=_text(s.source),
+        target=_text(s.target),
+        size=s.size,
+    )
+
+
+def from_c_FileReferenceResult(address: Optional[int]) -> Optional[records.FileReferenceResult]:
+    if not address:
+        return None
+    s = C_FileReferenceResult.from_address(address)
+    return records.FileReferenceResult(
+        references=_texts(s.references, s.referenceCount),
+        error=from_c_KelError(s.error),
+    )
+
+
+def from_c_FileCopyConfig(address: Optional[int]) -> Optional[records.FileCopyConfig]:
+    if not address:
+        return None
+    s = C_FileCopyConfig.from_address(address)
+    return records.FileCopyConfig(
+        files=_texts(s.files, s.fileCount),
+        target=_text(s.target),
+        overwrite=bool(s.overwrite),
+    )
+
+
+def from_c_DirectoryCopyConfig(address: Optional[int]) -> Optional[records.DirectoryCopyConfig]:
+    if not address:
+        return None
+    s = C_DirectoryCopyConfig.from_address(address)
+    return records.DirectoryCopyConfig(
+        directories=_texts(s.directories, s.directoryCount),
+        target=_text(s.target),
+        overwrite=bool(s.overwrite),
+        recursive=bool(s.recursive),
+        pattern=_text(s.pattern),
+    )
+
+
+def from_c_PathCopyConfig(address: Optional[int]) -> Optional[records.PathCopyConfig]:
+    if not address:
+        return None
+    s = C_PathCopyConfig.from_address(address)
+    return records.PathCopyConfig(
+        source=_text(s.source),
+        target=_text(s.target),
+        overwrite=bool(s.overwrite),
+    )
+
+
+def from_c_UserInfo(address: Optional[int]) -> Optional[records.UserInfo]:
+    if not address:
+        return None
+    s = C_UserInfo.from_address(address)
+    return records.UserInfo(
+        name=_text(s.name),
+        text=_text(s.text),
+        value=s.value,
+    )
+
+
+def from_c_LogInOutConfig(address: Optional[int]) -> Optional[records.LogInOutConfig]:
+    if not address:
+        return None
+    s = C_LogInOutConfig.from_address(address)
+    return records.LogInOutConfig(
+        user=_text(s.user),
+        password=_text(s.password),
+    )
+
+
+def from_c_TarnApiServerConfig(address: Optional[int]) -> Optional[records.TarnApiServerConfig]:
+    if not address:
+        return None
+    s = C_TarnApiServerConfig.from_address(address)
+    return records.TarnApiServerConfig(
+        users=from_c_list(s.users, s.userCount, from_c_UserInfo),
+        flag=bool(s.flag),
+        value1=s.value1,
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        filters=from_c_list(s.filters, s.filterCount, from_c_FileFilter),
+        text3=_text(s.text3),
+        text4=_text(s.text4),
+        users2=from_c_list(s.users2, s.userCount2, from_c_UserInfo),
+        value2=s.value2,
+    )
+
+
+def from_c_ServerSettings(address: Optional[int]) -> Optional[records.ServerSettings]:
+    if not address:
+        return None
+    s = C_ServerSettings.from_address(address)
+    return records.ServerSettings(
+        flag=bool(s.flag),
+        value1=s.value1,
+        value2=s.value2,
+        value3=s.value3,
     )
 
 
@@ -581,6 +1771,207 @@ def to_c_TargetFilter(lib: Any, v: Optional[records.TargetFilter]) -> int:
     return address
 
 
+def to_c_ParameterInput(lib: Any, v: Optional[records.ParameterInput]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ParameterInput))
+    s = C_ParameterInput.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.children, s.childCount = heap_list(lib, v.children, to_c_ParameterInput)
+    s.value = lib.duplicate_WString(v.value)
+    return address
+
+
+def to_c_ServiceInput(lib: Any, v: Optional[records.ServiceInput]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ServiceInput))
+    s = C_ServiceInput.from_address(address)
+    s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_ParameterInput)
+    s.service = lib.duplicate_WString(v.service)
+    s.data, s.dataLength = heap_bytes(lib, v.data)
+    s.value = v.value
+    return address
+
+
+def to_c_ServiceResult(lib: Any, v: Optional[records.ServiceResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ServiceResult))
+    s = C_ServiceResult.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.responses, s.responseCount = heap_list(lib, v.responses, to_c_ResponseResult)
+    s.status = v.status
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.error = to_c_KelError(lib, v.error)
+    s.request = to_c_RequestResult(lib, v.request)
+    s.value1 = v.value1
+    return address
+
+
+def to_c_ResponseResult(lib: Any, v: Optional[records.ResponseResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ResponseResult))
+    s = C_ResponseResult.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.flag = v.flag
+    s.error = to_c_KelError(lib, v.error)
+    s.data, s.dataLength = heap_bytes(lib, v.data)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_ParameterResult)
+    return address
+
+
+def to_c_RequestResult(lib: Any, v: Optional[records.RequestResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_RequestResult))
+    s = C_RequestResult.from_address(address)
+    s.error = to_c_KelError(lib, v.error)
+    s.data, s.dataLength = heap_bytes(lib, v.data)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_ParameterResult)
+    return address
+
+
+def to_c_UnlockResult(lib: Any, v: Optional[records.UnlockResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_UnlockResult))
+    s = C_UnlockResult.from_address(address)
+    s.value = v.value
+    s.services, s.serviceCount = heap_list(lib, v.services, to_c_ServiceResult)
+    return address
+
+
+def to_c_ServiceInfo(lib: Any, v: Optional[records.ServiceInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ServiceInfo))
+    s = C_ServiceInfo.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.flag = v.flag
+    s.responses, s.responseCount = heap_list(lib, v.responses, to_c_ResponseInfo)
+    s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_ParameterInfo)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.items, s.itemCount = heap_list(lib, v.items, to_c_NamedItem)
+    s.error = to_c_KelError(lib, v.error)
+    s.values[:] = v.values
+    return address
+
+
+def to_c_ResponseInfo(lib: Any, v: Optional[records.ResponseInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ResponseInfo))
+    s = C_ResponseInfo.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.status = v.status
+    s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_ParameterInfo)
+    return address
+
+
+def to_c_ParameterInfo(lib: Any, v: Optional[records.ParameterInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ParameterInfo))
+    s = C_ParameterInfo.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.value1 = v.value1
+    s.text4 = lib.duplicate_WString(v.text4)
+    s.children, s.childCount = heap_list(lib, v.children, to_c_ParameterInfo)
+    s.text5 = lib.duplicate_WString(v.text5)
+    s.names, s.nameCount = heap_texts(lib, v.names, True)
+    s.flag1 = v.flag1
+    s.value2 = v.value2
+    s.error = to_c_KelError(lib, v.error)
+    s.flag2 = v.flag2
+    s.values[:] = v.values
+    s.flag3 = v.flag3
+    s.constraint1 = to_c_ConstraintInfo(lib, v.constraint1)
+    s.constraint2 = to_c_ConstraintInfo(lib, v.constraint2)
+    s.text6 = lib.duplicate_WString(v.text6)
+    s.text7 = lib.duplicate_WString(v.text7)
+    s.flag4 = v.flag4
+    s.unit = to_c_UnitInfo(lib, v.unit)
+    return address
+
+
+def to_c_ConstraintInfo(lib: Any, v: Optional[records.ConstraintInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ConstraintInfo))
+    s = C_ConstraintInfo.from_address(address)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.flag = v.flag
+    s.scales, s.scaleCount = heap_list(lib, v.scales, to_c_ScaleConstraintInfo)
+    return address
+
+
+def to_c_ScaleConstraintInfo(lib: Any, v: Optional[records.ScaleConstraintInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ScaleConstraintInfo))
+    s = C_ScaleConstraintInfo.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.flag = v.flag
+    s.value = v.value
+    return address
+
+
+def to_c_UnitInfo(lib: Any, v: Optional[records.UnitInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_UnitInfo))
+    s = C_UnitInfo.from_address(address)
+    s.values[:] = v.values
+    s.value1 = v.value1
+    s.flag1 = v.flag1
+    s.value2 = v.value2
+    s.flag2 = v.flag2
+    return address
+
+
+def to_c_ParameterInfoConfig(lib: Any, v: Optional[records.ParameterInfoConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ParameterInfoConfig))
+    s = C_ParameterInfoConfig.from_address(address)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.value = v.value
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.text4 = lib.duplicate_WString(v.text4)
+    return address
+
+
 def to_c_KelEvent(lib: Any, v: Optional[records.KelEvent]) -> int:
     if v is None:
         return 0
@@ -601,6 +1992,739 @@ def to_c_EventReport(lib: Any, v: Optional[records.EventReport]) -> int:
     address = heap_block(lib, ctypes.sizeof(C_EventReport))
     s = C_EventReport.from_address(address)
     s.events, s.eventCount = heap_list(lib, v.events, to_c_KelEvent)
+    return address
+
+
+def to_c_FileFilter(lib: Any, v: Optional[records.FileFilter]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_FileFilter))
+    s = C_FileFilter.from_address(address)
+    s.pattern = lib.duplicate_WString(v.pattern)
+    s.flag = v.flag
+    s.value = v.value
+    return address
+
+
+def to_c_TargetConfig(lib: Any, v: Optional[records.TargetConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_TargetConfig))
+    s = C_TargetConfig.from_address(address)
+    s.value = v.value
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    return address
+
+
+def to_c_ProjectConfig(lib: Any, v: Optional[records.ProjectConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ProjectConfig))
+    s = C_ProjectConfig.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.filters1, s.filterCount1 = heap_list(lib, v.filters1, to_c_FileFilter)
+    s.value0 = v.value0
+    s.targets, s.targetCount = heap_list(lib, v.targets, to_c_TargetConfig)
+    s.filters2, s.filterCount2 = heap_list(lib, v.filters2, to_c_FileFilter)
+    s.strings1, s.stringCount1 = heap_texts(lib, v.strings1, True)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.value1 = v.value1
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.strings2, s.stringCount2 = heap_texts(lib, v.strings2, True)
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.value2 = v.value2
+    s.value3 = v.value3
+    s.flags[:] = v.flags
+    return address
+
+
+def to_c_ProjectDetails(lib: Any, v: Optional[records.ProjectDetails]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ProjectDetails))
+    s = C_ProjectDetails.from_address(address)
+    s.dbFiles1, s.dbFileCount1 = heap_list(lib, v.db_files1, to_c_DbFileInfo)
+    s.dbFiles2, s.dbFileCount2 = heap_list(lib, v.db_files2, to_c_DbFileInfo)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.value1 = v.value1
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.value2 = v.value2
+    s.users, s.userCount = heap_list(lib, v.users, to_c_UserInfo)
+    return address
+
+
+def to_c_DbFileInfo(lib: Any, v: Optional[records.DbFileInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_DbFileInfo))
+    s = C_DbFileInfo.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.path = lib.duplicate_WString(v.path)
+    s.size = v.size
+    s.loaded = v.loaded
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
+def to_c_SystemInfo(lib: Any, v: Optional[records.SystemInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_SystemInfo))
+    s = C_SystemInfo.from_address(address)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.value3 = v.value3
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.text4 = lib.duplicate_WString(v.text4)
+    return address
+
+
+def to_c_SystemProperty(lib: Any, v: Optional[records.SystemProperty]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_SystemProperty))
+    s = C_SystemProperty.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.value1 = v.value1
+    s.children, s.childCount = heap_list(lib, v.children, to_c_SystemProperty)
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.error = to_c_KelError(lib, v.error)
+    s.text4 = lib.duplicate_WString(v.text4)
+    s.value2 = v.value2
+    s.data, s.dataLength = heap_bytes(lib, v.data)
+    s.value3 = v.value3
+    s.flag = v.flag
+    s.value4 = v.value4
+    return address
+
+
+def to_c_TarnApiConfig(lib: Any, v: Optional[records.TarnApiConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_TarnApiConfig))
+    s = C_TarnApiConfig.from_address(address)
+    s.value1 = v.value1
+    s.flag1 = v.flag1
+    s.flag2 = v.flag2
+    s.value2 = v.value2
+    s.server = to_c_ServerConfig(lib, v.server)
+    s.value3 = v.value3
+    s.value4 = v.value4
+    s.value5 = v.value5
+    s.flag3 = v.flag3
+    s.value6 = v.value6
+    s.value7 = v.value7
+    s.oauth2Configs, s.oauth2ConfigCount = heap_list(lib, v.oauth2_configs, to_c_Oauth2Config)
+    s.text = lib.duplicate_WString(v.text)
+    return address
+
+
+def to_c_ServerConfig(lib: Any, v: Optional[records.ServerConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ServerConfig))
+    s = C_ServerConfig.from_address(address)
+    s.address = lib.duplicate_WString(v.address)
+    s.port = v.port
+    s.enabled = v.enabled
+    s.name = lib.duplicate_WString(v.name)
+    return address
+
+
+def to_c_Oauth2Config(lib: Any, v: Optional[records.Oauth2Config]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_Oauth2Config))
+    s = C_Oauth2Config.from_address(address)
+    s.issuer = lib.duplicate_WString(v.issuer)
+    s.clientId = lib.duplicate_WString(v.client_id)
+    s.scopes, s.scopeCount = heap_texts(lib, v.scopes, False)
+    s.redirectUrl = lib.duplicate_WString(v.redirect_url)
+    return address
+
+
+def to_c_MoxConfig(lib: Any, v: Optional[records.MoxConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_MoxConfig))
+    s = C_MoxConfig.from_address(address)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.text4 = lib.duplicate_WString(v.text4)
+    s.text5 = lib.duplicate_WString(v.text5)
+    s.flag1 = v.flag1
+    s.flag2 = v.flag2
+    s.flag3 = v.flag3
+    s.value = v.value
+    s.flag4 = v.flag4
+    s.flag5 = v.flag5
+    s.flag6 = v.flag6
+    s.text6 = lib.duplicate_WString(v.text6)
+    s.text7 = lib.duplicate_WString(v.text7)
+    s.tcp = to_c_TcpInfo(lib, v.tcp)
+    return address
+
+
+def to_c_TcpInfo(lib: Any, v: Optional[records.TcpInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_TcpInfo))
+    s = C_TcpInfo.from_address(address)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.value3 = v.value3
+    s.value4 = v.value4
+    s.value5 = v.value5
+    s.value6 = v.value6
+    return address
+
+
+def to_c_StatusInfo(lib: Any, v: Optional[records.StatusInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_StatusInfo))
+    s = C_StatusInfo.from_address(address)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.value3 = v.value3
+    s.value4 = v.value4
+    s.value5 = v.value5
+    s.value6 = v.value6
+    s.value7 = v.value7
+    s.value8 = v.value8
+    return address
+
+
+def to_c_TransmissionInfo(lib: Any, v: Optional[records.TransmissionInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_TransmissionInfo))
+    s = C_TransmissionInfo.from_address(address)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.value3 = v.value3
+    s.value4 = v.value4
+    return address
+
+
+def to_c_ProcessInfo(lib: Any, v: Optional[records.ProcessInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ProcessInfo))
+    s = C_ProcessInfo.from_address(address)
+    s.processes, s.processCount = heap_list(lib, v.processes, to_c_ProcessEntry)
+    s.flag1 = v.flag1
+    s.flag2 = v.flag2
+    s.text = lib.duplicate_WString(v.text)
+    return address
+
+
+def to_c_ProcessEntry(lib: Any, v: Optional[records.ProcessEntry]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ProcessEntry))
+    s = C_ProcessEntry.from_address(address)
+    s.value = v.value
+    s.items1, s.itemCount1 = heap_list(lib, v.items1, to_c_ProcessThread)
+    s.text = lib.duplicate_WString(v.text)
+    s.items2, s.itemCount2 = heap_list(lib, v.items2, to_c_ProcessMemory)
+    return address
+
+
+def to_c_ProcessThread(lib: Any, v: Optional[records.ProcessThread]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ProcessThread))
+    s = C_ProcessThread.from_address(address)
+    s.id = v.id
+    s.name = lib.duplicate_WString(v.name)
+    return address
+
+
+def to_c_ProcessMemory(lib: Any, v: Optional[records.ProcessMemory]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ProcessMemory))
+    s = C_ProcessMemory.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.bytes = v.bytes
+    return address
+
+
+def to_c_GlobalProtocolParameterSet(lib: Any, v: Optional[records.GlobalProtocolParameterSet]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_GlobalProtocolParameterSet))
+    s = C_GlobalProtocolParameterSet.from_address(address)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.text4 = lib.duplicate_WString(v.text4)
+    s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_GlobalProtocolParameter)
+    return address
+
+
+def to_c_GlobalProtocolParameter(lib: Any, v: Optional[records.GlobalProtocolParameter]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_GlobalProtocolParameter))
+    s = C_GlobalProtocolParameter.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.value = lib.duplicate_WString(v.value)
+    s.defaultValue = lib.duplicate_WString(v.default_value)
+    s.infos, s.infoCount = heap_list(lib, v.infos, to_c_ParameterInfo)
+    s.choices, s.choiceCount = heap_texts(lib, v.choices, True)
+    s.error = to_c_KelError(lib, v.error)
+    s.constraints, s.constraintCount = heap_list(lib, v.constraints, to_c_ConstraintInfo)
+    s.tcp = to_c_TcpInfo(lib, v.tcp)
+    s.value1 = v.value1
+    s.flag = v.flag
+    return address
+
+
+def to_c_LoadDatabaseResult(lib: Any, v: Optional[records.LoadDatabaseResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_LoadDatabaseResult))
+    s = C_LoadDatabaseResult.from_address(address)
+    s.text = lib.duplicate_WString(v.text)
+    s.flag = v.flag
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
+def to_c_InterfaceInformation(lib: Any, v: Optional[records.InterfaceInformation]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_InterfaceInformation))
+    s = C_InterfaceInformation.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.resources, s.resourceCount = heap_list(lib, v.resources, to_c_ResourceInformation)
+    s.flag1 = v.flag1
+    s.flag2 = v.flag2
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.flag3 = v.flag3
+    s.items, s.itemCount = heap_list(lib, v.items, to_c_InterfaceInformationItem)
+    s.value = v.value
+    return address
+
+
+def to_c_ResourceInformation(lib: Any, v: Optional[records.ResourceInformation]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ResourceInformation))
+    s = C_ResourceInformation.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.id = v.id
+    s.pin = v.pin
+    s.inUse = v.in_use
+    return address
+
+
+def to_c_InterfaceInformationItem(lib: Any, v: Optional[records.InterfaceInformationItem]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_InterfaceInformationItem))
+    s = C_InterfaceInformationItem.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    return address
+
+
+def to_c_ScanInterfaceResult(lib: Any, v: Optional[records.ScanInterfaceResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ScanInterfaceResult))
+    s = C_ScanInterfaceResult.from_address(address)
+    s.interfaceInfo = to_c_InterfaceInformation(lib, v.interface_info)
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
+def to_c_DynInterfaceDetection(lib: Any, v: Optional[records.DynInterfaceDetection]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_DynInterfaceDetection))
+    s = C_DynInterfaceDetection.from_address(address)
+    s.namePattern = lib.duplicate_WString(v.name_pattern)
+    s.kind = lib.duplicate_WString(v.kind)
+    s.onlyFree = v.only_free
+    return address
+
+
+def to_c_ModuleDyn(lib: Any, v: Optional[records.ModuleDyn]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ModuleDyn))
+    s = C_ModuleDyn.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.longName = lib.duplicate_WString(v.long_name)
+    s.vendor = lib.duplicate_WString(v.vendor)
+    s.kind = lib.duplicate_WString(v.kind)
+    s.address = lib.duplicate_WString(v.address)
+    s.vendorModule = to_c_InterfaceInformationItem(lib, v.vendor_module)
+    s.connected = v.connected
+    s.serialNumber = lib.duplicate_WString(v.serial_number)
+    s.firmware = lib.duplicate_WString(v.firmware)
+    s.network = lib.duplicate_WString(v.network)
+    s.resources, s.resourceCount = heap_list(lib, v.resources, to_c_ResourceInformation)
+    s.port = v.port
+    s.exclusive = v.exclusive
+    s.handle = v.handle
+    return address
+
+
+def to_c_DeviceInfo(lib: Any, v: Optional[records.DeviceInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_DeviceInfo))
+    s = C_DeviceInfo.from_address(address)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.value3 = v.value3
+    s.text4 = lib.duplicate_WString(v.text4)
+    s.text5 = lib.duplicate_WString(v.text5)
+    s.value4 = v.value4
+    s.value5 = v.value5
+    s.text6 = lib.duplicate_WString(v.text6)
+    s.protocols, s.protocolCount = heap_texts(lib, v.protocols, False)
+    s.text7 = lib.duplicate_WString(v.text7)
+    s.modules, s.moduleCount = heap_texts(lib, v.modules, False)
+    s.text8 = lib.duplicate_WString(v.text8)
+    s.flag = v.flag
+    s.value6 = v.value6
+    s.value7 = v.value7
+    s.value8 = v.value8
+    s.value9 = v.value9
+    s.value10 = v.value10
+    return address
+
+
+def to_c_PhysicalLinksOnModule(lib: Any, v: Optional[records.PhysicalLinksOnModule]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_PhysicalLinksOnModule))
+    s = C_PhysicalLinksOnModule.from_address(address)
+    s.module = lib.duplicate_WString(v.module)
+    s.links, s.linkCount = heap_list(lib, v.links, to_c_PhysicalLink)
+    return address
+
+
+def to_c_PhysicalLink(lib: Any, v: Optional[records.PhysicalLink]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_PhysicalLink))
+    s = C_PhysicalLink.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.baudrate = v.baudrate
+    s.enabled = v.enabled
+    return address
+
+
+def to_c_InterfaceConfiguration(lib: Any, v: Optional[records.InterfaceConfiguration]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_InterfaceConfiguration))
+    s = C_InterfaceConfiguration.from_address(address)
+    s.entries, s.entryCount = heap_list(lib, v.entries, to_c_InterfaceConfigurationEntry)
+    return address
+
+
+def to_c_InterfaceConfigurationEntry(lib: Any, v: Optional[records.InterfaceConfigurationEntry]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_InterfaceConfigurationEntry))
+    s = C_InterfaceConfigurationEntry.from_address(address)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.text4 = lib.duplicate_WString(v.text4)
+    s.text5 = lib.duplicate_WString(v.text5)
+    s.value = v.value
+    s.flag = v.flag
+    s.items, s.itemCount = heap_list(lib, v.items, to_c_ResourceInformation)
+    return address
+
+
+def to_c_InterfaceProvider(lib: Any, v: Optional[records.InterfaceProvider]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_InterfaceProvider))
+    s = C_InterfaceProvider.from_address(address)
+    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.text = lib.duplicate_WString(v.text)
+    s.value = v.value
+    s.flag = v.flag
+    return address
+
+
+def to_c_DoIPParameter(lib: Any, v: Optional[records.DoIPParameter]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_DoIPParameter))
+    s = C_DoIPParameter.from_address(address)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.text = lib.duplicate_WString(v.text)
+    s.value3 = v.value3
+    s.strings, s.stringCount = heap_texts(lib, v.strings, False)
+    return address
+
+
+def to_c_WLanSignalData(lib: Any, v: Optional[records.WLanSignalData]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_WLanSignalData))
+    s = C_WLanSignalData.from_address(address)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.value3 = v.value3
+    s.value4 = v.value4
+    s.value5 = v.value5
+    s.value6 = v.value6
+    s.value7 = v.value7
+    s.value8 = v.value8
+    s.value9 = v.value9
+    s.value10 = v.value10
+    s.value11 = v.value11
+    s.text = lib.duplicate_WString(v.text)
+    return address
+
+
+def to_c_SupportedInterface(lib: Any, v: Optional[records.SupportedInterface]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_SupportedInterface))
+    s = C_SupportedInterface.from_address(address)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.names, s.nameCount = heap_texts(lib, v.names, False)
+    s.value = v.value
+    s.text3 = lib.duplicate_WString(v.text3)
+    return address
+
+
+def to_c_FileInfo(lib: Any, v: Optional[records.FileInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_FileInfo))
+    s = C_FileInfo.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.error = to_c_KelError(lib, v.error)
+    s.flag = v.flag
+    s.value1 = v.value1
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.value2 = v.value2
+    s.value3 = v.value3
+    return address
+
+
+def to_c_DirectoryInfo(lib: Any, v: Optional[records.DirectoryInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_DirectoryInfo))
+    s = C_DirectoryInfo.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.error = to_c_KelError(lib, v.error)
+    s.flag = v.flag
+    s.value1 = v.value1
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.files, s.fileCount = heap_list(lib, v.files, to_c_FileInfo)
+    s.directories, s.directoryCount = heap_list(lib, v.directories, to_c_DirectoryInfo)
+    s.flag2 = v.flag2
+    return address
+
+
+def to_c_FileCopyResult(lib: Any, v: Optional[records.FileCopyResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_FileCopyResult))
+    s = C_FileCopyResult.from_address(address)
+    s.value1 = v.value1
+    s.text = lib.duplicate_WString(v.text)
+    s.error = to_c_KelError(lib, v.error)
+    s.file = to_c_FileInfo(lib, v.file)
+    s.value2 = v.value2
+    return address
+
+
+def to_c_DirectoryCopyResult(lib: Any, v: Optional[records.DirectoryCopyResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_DirectoryCopyResult))
+    s = C_DirectoryCopyResult.from_address(address)
+    s.value1 = v.value1
+    s.text = lib.duplicate_WString(v.text)
+    s.error = to_c_KelError(lib, v.error)
+    s.directory = to_c_DirectoryCopyItem(lib, v.directory)
+    return address
+
+
+def to_c_DirectoryCopyItem(lib: Any, v: Optional[records.DirectoryCopyItem]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_DirectoryCopyItem))
+    s = C_DirectoryCopyItem.from_address(address)
+    s.source = lib.duplicate_WString(v.source)
+    s.target = lib.duplicate_WString(v.target)
+    s.files = v.files
+    s.directories = v.directories
+    s.bytes = v.bytes
+    s.failures, s.failureCount = heap_list(lib, v.failures, to_c_FileCopyResult)
+    return address
+
+
+def to_c_PathCopyResult(lib: Any, v: Optional[records.PathCopyResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_PathCopyResult))
+    s = C_PathCopyResult.from_address(address)
+    s.value1 = v.value1
+    s.error = to_c_KelError(lib, v.error)
+    s.value2 = v.value2
+    s.item = to_c_PathCopyItem(lib, v.item)
+    return address
+
+
+def to_c_PathCopyItem(lib: Any, v: Optional[records.PathCopyItem]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_PathCopyItem))
+    s = C_PathCopyItem.from_address(address)
+    s.source = lib.duplicate_WString(v.source)
+    s.target = lib.duplicate_WString(v.target)
+    s.size = v.size
+    return address
+
+
+def to_c_FileReferenceResult(lib: Any, v: Optional[records.FileReferenceResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_FileReferenceResult))
+    s = C_FileReferenceResult.from_address(address)
+    s.references, s.referenceCount = heap_texts(lib, v.references, False)
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
+def to_c_FileCopyConfig(lib: Any, v: Optional[records.FileCopyConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_FileCopyConfig))
+    s = C_FileCopyConfig.from_address(address)
+    s.files, s.fileCount = heap_texts(lib, v.files, False)
+    s.target = lib.duplicate_WString(v.target)
+    s.overwrite = v.overwrite
+    return address
+
+
+def to_c_DirectoryCopyConfig(lib: Any, v: Optional[records.DirectoryCopyConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_DirectoryCopyConfig))
+    s = C_DirectoryCopyConfig.from_address(address)
+    s.directories, s.directoryCount = heap_texts(lib, v.directories, False)
+    s.target = lib.duplicate_WString(v.target)
+    s.overwrite = v.overwrite
+    s.recursive = v.recursive
+    s.pattern = lib.duplicate_WString(v.pattern)
+    return address
+
+
+def to_c_PathCopyConfig(lib: Any, v: Optional[records.PathCopyConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_PathCopyConfig))
+    s = C_PathCopyConfig.from_address(address)
+    s.source = lib.duplicate_WString(v.source)
+    s.target = lib.duplicate_WString(v.target)
+    s.overwrite = v.overwrite
+    return address
+
+
+def to_c_UserInfo(lib: Any, v: Optional[records.UserInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_UserInfo))
+    s = C_UserInfo.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.text = lib.duplicate_WString(v.text)
+    s.value = v.value
+    return address
+
+
+def to_c_LogInOutConfig(lib: Any, v: Optional[records.LogInOutConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_LogInOutConfig))
+    s = C_LogInOutConfig.from_address(address)
+    s.user = lib.duplicate_WString(v.user)
+    s.password = lib.duplicate_WString(v.password)
+    return address
+
+
+def to_c_TarnApiServerConfig(lib: Any, v: Optional[records.TarnApiServerConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_TarnApiServerConfig))
+    s = C_TarnApiServerConfig.from_address(address)
+    s.users, s.userCount = heap_list(lib, v.users, to_c_UserInfo)
+    s.flag = v.flag
+    s.value1 = v.value1
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.filters, s.filterCount = heap_list(lib, v.filters, to_c_FileFilter)
+    s.text3 = lib.duplicate_WString(v.text3)
+    s.text4 = lib.duplicate_WString(v.text4)
+    s.users2, s.userCount2 = heap_list(lib, v.users2, to_c_UserInfo)
+    s.value2 = v.value2
+    return address
+
+
+def to_c_ServerSettings(lib: Any, v: Optional[records.ServerSettings]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_ServerSettings))
+    s = C_ServerSettings.from_address(address)
+    s.flag = v.flag
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.value3 = v.value3
     return address
 
 
@@ -654,6 +2778,16 @@ def start_clearAllDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence
     return call_id, failure
 
 
+def start_scanInterfaceConnectionAsync(lib: Any, api: int, callback: Any, interfaces: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
+    """kel_scanInterfaceConnectionAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_scanInterfaceConnectionAsync(api, ctypes.cast((ctypes.c_wchar_p * len(interfaces))(*interfaces), ctypes.c_void_p), len(interfaces), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
 def start_readMeasurementValuesAsync(lib: Any, api: int, callback: Any, target: str, names: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_readMeasurementValuesAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
@@ -668,6 +2802,98 @@ def start_identifyTargetsAsync(lib: Any, api: int, callback: Any, targets: Seque
     """kel_identifyTargetsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
     call_id: int = lib.kel_identifyTargetsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_executeServiceAsync(lib: Any, api: int, callback: Any, target: str, services: Sequence[Optional[records.ServiceInput]]) -> tuple[int, Optional[records.KelError]]:
+    """kel_executeServiceAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    l_services = heap_list(lib, services, to_c_ServiceInput)[0]
+    try:
+        call_id: int = lib.kel_executeServiceAsync(api, target, l_services, len(services), ctypes.byref(error), callback, None)
+    finally:
+        lib.release_ServiceInput_array(l_services, len(services))
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_detectDynInterfacesAsync(lib: Any, api: int, callback: Any, value: int, detection: Optional[records.DynInterfaceDetection]) -> tuple[int, Optional[records.KelError]]:
+    """kel_detectDynInterfacesAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_detectDynInterfacesAsync(api, value, to_c_DynInterfaceDetection(lib, detection), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_detectDynInterfacesExAsync(lib: Any, api: int, callback: Any, value: int) -> tuple[int, Optional[records.KelError]]:
+    """kel_detectDynInterfacesExAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_detectDynInterfacesExAsync(api, value, ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_copyFilesAsync(lib: Any, api: int, callback: Any, config: Optional[records.FileCopyConfig]) -> tuple[int, Optional[records.KelError]]:
+    """kel_copyFilesAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_copyFilesAsync(api, to_c_FileCopyConfig(lib, config), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_copyDirectoriesAsync(lib: Any, api: int, callback: Any, config: Optional[records.DirectoryCopyConfig]) -> tuple[int, Optional[records.KelError]]:
+    """kel_copyDirectoriesAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_copyDirectoriesAsync(api, to_c_DirectoryCopyConfig(lib, config), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_executeServiceInDefaultSessionAsync(lib: Any, api: int, callback: Any, target: str, services: Sequence[Optional[records.ServiceInput]]) -> tuple[int, Optional[records.KelError]]:
+    """kel_executeServiceInDefaultSessionAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    l_services = heap_list(lib, services, to_c_ServiceInput)[0]
+    try:
+        call_id: int = lib.kel_executeServiceInDefaultSessionAsync(api, target, l_services, len(services), ctypes.byref(error), callback, None)
+    finally:
+        lib.release_ServiceInput_array(l_services, len(services))
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_copyPathAsync(lib: Any, api: int, callback: Any, config: Optional[records.PathCopyConfig]) -> tuple[int, Optional[records.KelError]]:
+    """kel_copyPathAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_copyPathAsync(api, to_c_PathCopyConfig(lib, config), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_executeSequenceAsync(lib: Any, api: int, callback: Any, target: str, sequence: str, parameters: Sequence[Optional[records.ParameterInput]]) -> tuple[int, Optional[records.KelError]]:
+    """kel_executeSequenceAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    l_parameters = heap_list(lib, parameters, to_c_ParameterInput)[0]
+    try:
+        call_id: int = lib.kel_executeSequenceAsync(api, target, sequence, l_parameters, len(parameters), ctypes.byref(error), callback, None)
+    finally:
+        lib.release_ParameterInput_array(l_parameters, len(parameters))
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -691,8 +2917,17 @@ EXPORTS: dict[str, tuple[Any, list[Any]]] = {
     "kel_readDtcsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_readSupportedDtcsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_clearAllDtcsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_scanInterfaceConnectionAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_readMeasurementValuesAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_identifyTargetsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_executeServiceAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_detectDynInterfacesAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_uint32, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_detectDynInterfacesExAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_copyFilesAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_copyDirectoriesAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_executeServiceInDefaultSessionAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_copyPathAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_executeSequenceAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_clearSpecificDtcsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "release_MvciServerError_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_NegativeResponse_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
@@ -709,6 +2944,70 @@ EXPORTS: dict[str, tuple[Any, list[Any]]] = {
     "release_Target_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_TargetStatus_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_TargetFilter_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ParameterInput_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ServiceInput_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ServiceResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ResponseResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_RequestResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_UnlockResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ServiceInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ResponseInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ParameterInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ConstraintInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ScaleConstraintInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_UnitInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ParameterInfoConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_KelEvent_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_EventReport_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_FileFilter_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_TargetConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ProjectConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ProjectDetails_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_DbFileInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_SystemInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_SystemProperty_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_TarnApiConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ServerConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_Oauth2Config_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_MoxConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_TcpInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_StatusInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_TransmissionInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ProcessInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ProcessEntry_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ProcessThread_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ProcessMemory_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_GlobalProtocolParameterSet_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_GlobalProtocolParameter_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_LoadDatabaseResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_InterfaceInformation_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ResourceInformation_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_InterfaceInformationItem_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ScanInterfaceResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_DynInterfaceDetection_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ModuleDyn_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_DeviceInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_PhysicalLinksOnModule_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_PhysicalLink_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_InterfaceConfiguration_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_InterfaceConfigurationEntry_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_InterfaceProvider_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_DoIPParameter_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_WLanSignalData_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_SupportedInterface_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_FileInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_DirectoryInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_FileCopyResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_DirectoryCopyResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_DirectoryCopyItem_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_PathCopyResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_PathCopyItem_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_FileReferenceResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_FileCopyConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_DirectoryCopyConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_PathCopyConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_UserInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_LogInOutConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_TarnApiServerConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_ServerSettings_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
 }

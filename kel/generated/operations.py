@@ -47,40 +47,67 @@ class Operations:
         _o = bytearray()
         self._call(3, builtins.bytes(_o))
 
-    def start_server(self, text: str) -> str:
-        """Starts the engine's server for remote clients; the text and the result are
-        the engine's.
+    def start_server(self, name: str) -> str:
+        """Starts the engine's server for remote clients under the given name (empty:
+        "server") and returns the address where it listens, which
+        connectRemoteServer takes.
 
         C: kel_startServer; number 4; engine position 4.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text)
+        stream.write_text(_o, name)
         _b = self._call(4, builtins.bytes(_o))
         return _b[4:].decode()
 
-    def stop_server(self, text: str) -> None:
-        """Stops the engine's server.
+    def stop_server(self, reason: str) -> None:
+        """Stops the engine's server; its remote connections end. The reason is passed
+        on to the server's clients in the ServerStopped event.
 
         C: kel_stopServer; number 5; engine position 5.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text)
+        stream.write_text(_o, reason)
         self._call(5, builtins.bytes(_o))
 
-    def restart_server(self, value: int) -> None:
-        """Restarts the engine's server; value is passed to the engine unchanged.
+    def restart_server(self, end_clients: int) -> None:
+        """Restarts the engine's server at the same address; with endClients not 0 its
+        remote connections end, otherwise they stay.
 
         C: kel_restartServer; number 6; engine position 6.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _o += struct.pack("<i", value)
+        _o += struct.pack("<i", end_clients)
         self._call(6, builtins.bytes(_o))
+
+    def get_project_configuration(self, project_name: str) -> Optional[records.ProjectConfig]:
+        """Reads a project's configuration.
+
+        C: kel_getProjectConfiguration; number 7; engine position 7.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, project_name)
+        _b = self._call(7, builtins.bytes(_o))
+        return stream.read_ProjectConfig(_b, 0)[0]
+
+    def set_project_configuration(self, project_name: str, config: Optional[records.ProjectConfig] = None) -> None:
+        """Sets a project's configuration.
+
+        C: kel_setProjectConfiguration; number 8; engine position 8.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, project_name)
+        stream.write_ProjectConfig(_o, config)
+        self._call(8, builtins.bytes(_o))
 
     def save_project_configuration(self, project_name: str) -> None:
         """Saves a project's configuration.
@@ -328,17 +355,58 @@ class Operations:
         """
         return self._start(c_records.start_clearAllDtcsAsync, c_records.from_c_ClearDtcResult, "release_ClearDtcResult_array", targets)
 
-    def connect_remote_server(self, text: str) -> Engine:
-        """Connects to a remote engine and hands out its engine object.
+    def get_service_infos(self, text1: str, text2: str, names: Sequence[str], value: int) -> list[Optional[records.ServiceInfo]]:
+        """Describes services with their responses and parameters; the texts, names and
+        value select them as the engine defines.
+
+        C: kel_getServiceInfos; number 29; engine position 29.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_texts(_o, names)
+        _o += struct.pack("<i", value)
+        _b = self._call(29, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ServiceInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ServiceInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def connect_remote_server(self, address: str) -> Engine:
+        """Connects to the engine's server at the given address and hands out the
+        remote engine object.
 
         C: kel_connectRemoteServer; number 36; engine position 37.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text)
+        stream.write_text(_o, address)
         _b = self._call(36, builtins.bytes(_o))
         return self._adopt(struct.unpack_from("<Q", _b)[0])
+
+    def get_measurement_value_infos(self, target: str) -> list[Optional[records.ParameterInfo]]:
+        """Describes the measurement values that one target offers.
+
+        C: kel_getMeasurementValueInfos; number 37; engine position 38.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        _b = self._call(37, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ParameterInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ParameterInfo(_b, _p)
+            _results.append(_r)
+        return _results
 
     def register_measurement_values(self, target: str, names: Sequence[str] = ()) -> int:
         """Registers measurement values of one target for repeated reading; returns the
@@ -383,6 +451,24 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<Q", registration)
         self._call(40, builtins.bytes(_o))
+
+    def get_identification_value_infos(self, target: str) -> list[Optional[records.ParameterInfo]]:
+        """Describes the identification values that one target offers.
+
+        C: kel_getIdentificationValueInfos; number 41; engine position 42.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        _b = self._call(41, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ParameterInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ParameterInfo(_b, _p)
+            _results.append(_r)
+        return _results
 
     def cancel_all_async_calls(self) -> None:
         """Cancels every asynchronous call running on this engine object; whether a
@@ -513,8 +599,37 @@ class Operations:
         _o = bytearray()
         self._call(70, builtins.bytes(_o))
 
+    def scan_interface_connection(self, interfaces: Sequence[str] = ()) -> list[Optional[records.ScanInterfaceResult]]:
+        """Scans the connection of the given interfaces; one result per interface.
+
+        C: kel_scanInterfaceConnection; number 71; engine position 54.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, interfaces)
+        _b = self._call(71, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ScanInterfaceResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ScanInterfaceResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def scan_interface_connection_async(self, interfaces: Sequence[str] = ()) -> AsyncCall:
+        """Scans the connection of the given interfaces; one result per interface.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_scanInterfaceConnectionAsync; engine position 54.
+        """
+        return self._start(c_records.start_scanInterfaceConnectionAsync, c_records.from_c_ScanInterfaceResult, "release_ScanInterfaceResult_array", interfaces)
+
     def disconnect(self) -> None:
-        """Ends the connection to the remote engine.
+        """Ends this remote connection; the server's handlers hear that its client
+        left.
 
         C: kel_disconnect; number 74; engine position 56.
 
@@ -648,6 +763,26 @@ class Operations:
         """
         return self._start(c_records.start_identifyTargetsAsync, c_records.from_c_VariantIdentResult, "release_VariantIdentResult_array", targets)
 
+    def get_actuator_service_infos(self, text1: str, text2: str) -> list[Optional[records.ParameterInfo]]:
+        """Describes the parameters of actuator services; the two texts select them as
+        the engine defines.
+
+        C: kel_getActuatorServiceInfos; number 89; engine position 67.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        _b = self._call(89, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ParameterInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ParameterInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
     def release_socket_bridge(self, bridge: int) -> None:
         """Closes a socket bridge opened with kel_createSocketBridge.
 
@@ -673,6 +808,25 @@ class Operations:
         _b = self._call(92, builtins.bytes(_o))
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
+
+    def get_single_measurement_value_infos(self, target: str, names: Sequence[str] = ()) -> list[Optional[records.ParameterInfo]]:
+        """Describes the named measurement values of one target.
+
+        C: kel_getSingleMeasurementValueInfos; number 96; engine position 73.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_texts(_o, names)
+        _b = self._call(96, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ParameterInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ParameterInfo(_b, _p)
+            _results.append(_r)
+        return _results
 
     def get_filtered_targets(self, filters: Sequence[Optional[records.TargetFilter]] = ()) -> list[Optional[records.Target]]:
         """Lists the targets of the project that match the given target filters.
@@ -727,6 +881,42 @@ class Operations:
         _o = bytearray()
         self._call(102, builtins.bytes(_o))
 
+    def start_cyclic_services(self, target: str, services: Sequence[Optional[records.ServiceInput]], cycle_time: int) -> int:
+        """Starts running the given services on one target every cycleTime; returns the
+        cyclic run's identifier.
+
+        C: kel_startCyclicServices; number 103; engine position 78.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        _o += struct.pack("<I", len(services))
+        for _e in services:
+            stream.write_ServiceInput(_o, _e)
+        _o += struct.pack("<I", cycle_time)
+        _b = self._call(103, builtins.bytes(_o))
+        _value: int = struct.unpack_from("<Q", _b)[0]
+        return _value
+
+    def get_cyclic_results(self, cyclic: int) -> list[Optional[records.ServiceResult]]:
+        """Fetches the results of a cyclic run started with kel_startCyclicServices.
+
+        C: kel_getCyclicResults; number 105; engine position 79.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", cyclic)
+        _b = self._call(105, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ServiceResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ServiceResult(_b, _p)
+            _results.append(_r)
+        return _results
+
     def stop_cyclic_services(self, cyclic: int) -> None:
         """Stops a cyclic run started with kel_startCyclicServices.
 
@@ -738,6 +928,17 @@ class Operations:
         _o += struct.pack("<Q", cyclic)
         self._call(104, builtins.bytes(_o))
 
+    def get_project_details(self) -> Optional[records.ProjectDetails]:
+        """Reads the details of the selected project: its database files and users.
+
+        C: kel_getProjectDetails; number 106; engine position 81.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(106, builtins.bytes(_o))
+        return stream.read_ProjectDetails(_b, 0)[0]
+
     def clear_link_cache(self) -> None:
         """Clears the engine's cache of links.
 
@@ -747,6 +948,19 @@ class Operations:
         """
         _o = bytearray()
         self._call(107, builtins.bytes(_o))
+
+    def add_resource(self, name: str, resource: Optional[records.ResourceInformation], value: int) -> None:
+        """Adds a resource to an interface; value is passed to the engine unchanged.
+
+        C: kel_addResource; number 109; engine position 83.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name)
+        stream.write_ResourceInformation(_o, resource)
+        _o += struct.pack("<H", value)
+        self._call(109, builtins.bytes(_o))
 
     def remove_interface(self, name: str) -> None:
         """Removes an interface.
@@ -758,6 +972,21 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, name)
         self._call(110, builtins.bytes(_o))
+
+    def add_interface(self, interface_info: Optional[records.InterfaceInformation], text1: str, text2: str, text3: str) -> Optional[records.InterfaceInformation]:
+        """Adds an interface and returns it as the engine completed it.
+
+        C: kel_addInterface; number 108; engine position 85.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_InterfaceInformation(_o, interface_info)
+        stream.write_text(_o, text1)
+        stream.write_text(_o, text2)
+        stream.write_text(_o, text3)
+        _b = self._call(108, builtins.bytes(_o))
+        return stream.read_InterfaceInformation(_b, 0)[0]
 
     def remove_resource(self, name1: str, name2: str) -> None:
         """Removes a resource from an interface.
@@ -771,6 +1000,18 @@ class Operations:
         stream.write_text(_o, name2)
         self._call(112, builtins.bytes(_o))
 
+    def get_system_property(self, name: str) -> Optional[records.SystemProperty]:
+        """Reads a system property by name.
+
+        C: kel_getSystemProperty; number 114; engine position 87.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name)
+        _b = self._call(114, builtins.bytes(_o))
+        return stream.read_SystemProperty(_b, 0)[0]
+
     def reset_system_property(self, name: str) -> None:
         """Sets a system property back to its default.
 
@@ -781,6 +1022,29 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, name)
         self._call(115, builtins.bytes(_o))
+
+    def set_system_property(self, property: Optional[records.SystemProperty] = None) -> None:
+        """Sets a system property.
+
+        C: kel_setSystemProperty; number 116; engine position 89.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_SystemProperty(_o, property)
+        self._call(116, builtins.bytes(_o))
+
+    def get_vendor_module_names(self, interface_info: Optional[records.InterfaceInformation] = None) -> list[str]:
+        """Lists the vendor module names of an interface.
+
+        C: kel_getVendorModuleNames; number 120; engine position 90.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_InterfaceInformation(_o, interface_info)
+        _b = self._call(120, builtins.bytes(_o))
+        return stream.read_texts(_b, 0)[0]
 
     def get_vendor_module_names_ex(self, text: str) -> list[str]:
         """Lists vendor module names; text selects them as the engine defines.
@@ -794,6 +1058,81 @@ class Operations:
         _b = self._call(121, builtins.bytes(_o))
         return stream.read_texts(_b, 0)[0]
 
+    def execute_service(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> list[Optional[records.ServiceResult]]:
+        """Executes diagnostic services on one target with the given parameter values.
+
+        C: kel_executeService; number 30; engine position 92.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        _o += struct.pack("<I", len(services))
+        for _e in services:
+            stream.write_ServiceInput(_o, _e)
+        _b = self._call(30, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ServiceResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ServiceResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def execute_service_async(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> AsyncCall:
+        """Executes diagnostic services on one target with the given parameter values.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_executeServiceAsync; engine position 92.
+        """
+        return self._start(c_records.start_executeServiceAsync, c_records.from_c_ServiceResult, "release_ServiceResult_array", target, services)
+
+    def detect_dyn_interfaces(self, value: int, detection: Optional[records.DynInterfaceDetection] = None) -> list[Optional[records.ModuleDyn]]:
+        """Detects dynamic interfaces as the detection record says; returns the modules
+        found.
+
+        C: kel_detectDynInterfaces; number 123; engine position 94.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", value)
+        stream.write_DynInterfaceDetection(_o, detection)
+        _b = self._call(123, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ModuleDyn]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ModuleDyn(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def detect_dyn_interfaces_async(self, value: int, detection: Optional[records.DynInterfaceDetection] = None) -> AsyncCall:
+        """Detects dynamic interfaces as the detection record says; returns the modules
+        found.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_detectDynInterfacesAsync; engine position 94.
+        """
+        return self._start(c_records.start_detectDynInterfacesAsync, c_records.from_c_ModuleDyn, "release_ModuleDyn_array", value, detection)
+
+    def connect_dyn_interface(self, name: str, flag: bool, detection: Optional[records.DynInterfaceDetection] = None) -> None:
+        """Connects a dynamically detected interface.
+
+        C: kel_connectDynInterface; number 125; engine position 96.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, name)
+        _o += struct.pack("<?", flag)
+        stream.write_DynInterfaceDetection(_o, detection)
+        self._call(125, builtins.bytes(_o))
+
     def disconnect_dyn_interfaces(self, names: Sequence[str] = ()) -> None:
         """Disconnects the given dynamically detected interfaces.
 
@@ -804,6 +1143,21 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, names)
         self._call(126, builtins.bytes(_o))
+
+    def update_cyclic_services(self, cyclic: int, services: Sequence[Optional[records.ServiceInput]] = ()) -> None:
+        """Changes the services that a cyclic run started with kel_startCyclicServices
+        executes.
+
+        C: kel_updateCyclicServices; number 127; engine position 98.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", cyclic)
+        _o += struct.pack("<I", len(services))
+        for _e in services:
+            stream.write_ServiceInput(_o, _e)
+        self._call(127, builtins.bytes(_o))
 
     def cancel_async_calls(self, call_ids: Sequence[int] = ()) -> None:
         """Cancels the asynchronous calls with the given call identifiers; whether a
@@ -816,6 +1170,30 @@ class Operations:
         _o = bytearray()
         stream.write_values(_o, "Q", call_ids)
         self._call(42, builtins.bytes(_o))
+
+    def get_project_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
+        """Reads the project directory as a tree.
+
+        C: kel_getProjectDirectory; number 129; engine position 100.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<?", flag)
+        _b = self._call(129, builtins.bytes(_o))
+        return stream.read_DirectoryInfo(_b, 0)[0]
+
+    def get_selected_project_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
+        """Reads the selected project's directory as a tree.
+
+        C: kel_getSelectedProjectDirectory; number 130; engine position 101.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<?", flag)
+        _b = self._call(130, builtins.bytes(_o))
+        return stream.read_DirectoryInfo(_b, 0)[0]
 
     def write_file(self, path: str, data: builtins.bytes, value: int, flag: bool) -> int:
         """Writes bytes to a file; returns the engine's 32-bit result.
@@ -833,6 +1211,100 @@ class Operations:
         _value: int = struct.unpack_from("<I", _b)[0]
         return _value
 
+    def delete_files(self, files: Sequence[Optional[records.FileInfo]] = ()) -> Optional[records.KelError]:
+        """Deletes the given files; the outcome comes back as an error record, NULL
+        when the engine reports none.
+
+        C: kel_deleteFiles; number 137; engine position 103.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(files))
+        for _e in files:
+            stream.write_FileInfo(_o, _e)
+        _b = self._call(137, builtins.bytes(_o))
+        return stream.read_KelError(_b, 0)[0]
+
+    def find_directories(self, directory: Optional[records.DirectoryInfo], pattern: str, flag: bool) -> list[Optional[records.DirectoryInfo]]:
+        """Finds the directories below a directory whose names match a pattern.
+
+        C: kel_findDirectories; number 139; engine position 104.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_DirectoryInfo(_o, directory)
+        stream.write_text(_o, pattern)
+        _o += struct.pack("<?", flag)
+        _b = self._call(139, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.DirectoryInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_DirectoryInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def find_files(self, directory: str, pattern: str, flag: bool) -> list[Optional[records.FileInfo]]:
+        """Finds the files in a directory whose names match a pattern.
+
+        C: kel_findFiles; number 140; engine position 105.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, directory)
+        stream.write_text(_o, pattern)
+        _o += struct.pack("<?", flag)
+        _b = self._call(140, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.FileInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_FileInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def initialize_directory_elements(self, directory: Optional[records.DirectoryInfo], flag: bool) -> Optional[records.DirectoryInfo]:
+        """Fills in the files and sub-directories of a directory.
+
+        C: kel_initializeDirectoryElements; number 141; engine position 106.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_DirectoryInfo(_o, directory)
+        _o += struct.pack("<?", flag)
+        _b = self._call(141, builtins.bytes(_o))
+        return stream.read_DirectoryInfo(_b, 0)[0]
+
+    def create_file(self, parent: Optional[records.DirectoryInfo], name: str) -> Optional[records.FileInfo]:
+        """Creates a file in a directory.
+
+        C: kel_createFile; number 132; engine position 107.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_DirectoryInfo(_o, parent)
+        stream.write_text(_o, name)
+        _b = self._call(132, builtins.bytes(_o))
+        return stream.read_FileInfo(_b, 0)[0]
+
+    def create_directory(self, parent: Optional[records.DirectoryInfo], name: str) -> Optional[records.DirectoryInfo]:
+        """Creates a directory in a directory.
+
+        C: kel_createDirectory; number 133; engine position 108.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_DirectoryInfo(_o, parent)
+        stream.write_text(_o, name)
+        _b = self._call(133, builtins.bytes(_o))
+        return stream.read_DirectoryInfo(_b, 0)[0]
+
     def delete_directory(self, path: str) -> Optional[records.KelError]:
         """Deletes a directory; the outcome comes back as an error record, NULL when
         the engine reports none.
@@ -845,6 +1317,18 @@ class Operations:
         stream.write_text(_o, path)
         _b = self._call(134, builtins.bytes(_o))
         return stream.read_KelError(_b, 0)[0]
+
+    def get_trace_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
+        """Reads the trace directory as a tree.
+
+        C: kel_getTraceDirectory; number 136; engine position 110.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<?", flag)
+        _b = self._call(136, builtins.bytes(_o))
+        return stream.read_DirectoryInfo(_b, 0)[0]
 
     def lock(self) -> int:
         """Takes the engine's lock and returns the lock identifier that kel_unlock
@@ -916,6 +1400,36 @@ class Operations:
         _value: int = struct.unpack_from("<I", _b)[0]
         return _value
 
+    def detect_dyn_interfaces_ex(self, value: int) -> list[Optional[records.ModuleDyn]]:
+        """Detects dynamic interfaces without a detection record; returns the modules
+        found.
+
+        C: kel_detectDynInterfacesEx; number 83; engine position 121.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", value)
+        _b = self._call(83, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ModuleDyn]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ModuleDyn(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def detect_dyn_interfaces_ex_async(self, value: int) -> AsyncCall:
+        """Detects dynamic interfaces without a detection record; returns the modules
+        found.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_detectDynInterfacesExAsync; engine position 121.
+        """
+        return self._start(c_records.start_detectDynInterfacesExAsync, c_records.from_c_ModuleDyn, "release_ModuleDyn_array", value)
+
     def connect_dyn_interface_ex(self, name: str, flag: bool) -> None:
         """Connects a dynamically detected interface without a detection record.
 
@@ -928,42 +1442,72 @@ class Operations:
         _o += struct.pack("<?", flag)
         self._call(153, builtins.bytes(_o))
 
-    def add_user(self, text1: str, text2: str, value: int) -> None:
-        """Adds a user to the server's user management.
+    def add_user(self, name: str, password: str, role: int) -> None:
+        """Adds a user with a password and a role (1 operator, 2 administrator) to the
+        server's user management.
 
         C: kel_addUser; number 155; engine position 124.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text1)
-        stream.write_text(_o, text2)
-        _o += struct.pack("<I", value)
+        stream.write_text(_o, name)
+        stream.write_text(_o, password)
+        _o += struct.pack("<I", role)
         self._call(155, builtins.bytes(_o))
 
-    def remove_user(self, text: str) -> None:
-        """Removes a user from the server's user management.
+    def remove_user(self, name: str) -> None:
+        """Removes a user from the server's user management; its logins end.
 
         C: kel_removeUser; number 158; engine position 125.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text)
+        stream.write_text(_o, name)
         self._call(158, builtins.bytes(_o))
 
-    def update_user(self, text1: str, text2: str, text3: str, value: int) -> None:
-        """Changes a user of the server's user management.
+    def get_users(self) -> list[Optional[records.UserInfo]]:
+        """Lists the server's users by name, without their passwords.
+
+        C: kel_getUsers; number 160; engine position 126.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(160, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.UserInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_UserInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def log_out(self, config: Optional[records.LogInOutConfig] = None) -> None:
+        """Logs the user of this engine object out of the server.
+
+        C: kel_logOut; number 159; engine position 127.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_LogInOutConfig(_o, config)
+        self._call(159, builtins.bytes(_o))
+
+    def update_user(self, name: str, new_name: str, new_password: str, role: int) -> None:
+        """Changes a user: a new name (empty keeps the name), a new password (empty
+        keeps the password) and the role.
 
         C: kel_updateUser; number 161; engine position 128.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text1)
-        stream.write_text(_o, text2)
-        stream.write_text(_o, text3)
-        _o += struct.pack("<I", value)
+        stream.write_text(_o, name)
+        stream.write_text(_o, new_name)
+        stream.write_text(_o, new_password)
+        _o += struct.pack("<I", role)
         self._call(161, builtins.bytes(_o))
 
     def get_server_user_management(self) -> bool:
@@ -978,7 +1522,8 @@ class Operations:
         return _b[0] != 0
 
     def set_server_user_management(self, enabled: bool) -> None:
-        """Turns the server's user management on or off.
+        """Turns the server's user management on or off. While it is on, a remote
+        connection must log in before any other call.
 
         C: kel_setServerUserManagement; number 156; engine position 130.
 
@@ -989,7 +1534,7 @@ class Operations:
         self._call(156, builtins.bytes(_o))
 
     def disconnect_all_clients(self) -> None:
-        """Disconnects every remote client from the engine's server.
+        """Ends every remote connection to the engine.
 
         C: kel_disconnectAllClients; number 162; engine position 133.
 
@@ -1009,6 +1554,62 @@ class Operations:
         _o += struct.pack("<Q", bridge)
         _b = self._call(157, builtins.bytes(_o))
         return _b[0] != 0
+
+    def copy_files(self, config: Optional[records.FileCopyConfig] = None) -> list[Optional[records.FileCopyResult]]:
+        """Copies files as config says; one result per file.
+
+        C: kel_copyFiles; number 165; engine position 136.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_FileCopyConfig(_o, config)
+        _b = self._call(165, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.FileCopyResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_FileCopyResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def copy_files_async(self, config: Optional[records.FileCopyConfig] = None) -> AsyncCall:
+        """Copies files as config says; one result per file.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_copyFilesAsync; engine position 136.
+        """
+        return self._start(c_records.start_copyFilesAsync, c_records.from_c_FileCopyResult, "release_FileCopyResult_array", config)
+
+    def copy_directories(self, config: Optional[records.DirectoryCopyConfig] = None) -> list[Optional[records.DirectoryCopyResult]]:
+        """Copies directories as config says; one result per directory.
+
+        C: kel_copyDirectories; number 166; engine position 138.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_DirectoryCopyConfig(_o, config)
+        _b = self._call(166, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.DirectoryCopyResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_DirectoryCopyResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def copy_directories_async(self, config: Optional[records.DirectoryCopyConfig] = None) -> AsyncCall:
+        """Copies directories as config says; one result per directory.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_copyDirectoriesAsync; engine position 138.
+        """
+        return self._start(c_records.start_copyDirectoriesAsync, c_records.from_c_DirectoryCopyResult, "release_DirectoryCopyResult_array", config)
 
     def calculate_checksum(self, path: str, algorithm: int) -> str:
         """Calculates the checksum of a file with the given algorithm.
@@ -1038,6 +1639,21 @@ class Operations:
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
+    def unlock_vehicle(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> Optional[records.UnlockResult]:
+        """Unlocks the vehicle by running the given services on one target.
+
+        C: kel_unlockVehicle; number 178; engine position 146.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        _o += struct.pack("<I", len(services))
+        for _e in services:
+            stream.write_ServiceInput(_o, _e)
+        _b = self._call(178, builtins.bytes(_o))
+        return stream.read_UnlockResult(_b, 0)[0]
+
     def release_vehicle_unlock(self, value: int) -> None:
         """Releases a vehicle unlock; value is passed to the engine unchanged.
 
@@ -1059,6 +1675,34 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<Q", run)
         self._call(180, builtins.bytes(_o))
+
+    def get_registered_devices(self) -> list[Optional[records.DeviceInfo]]:
+        """Lists the registered devices.
+
+        C: kel_getRegisteredDevices; number 182; engine position 149.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(182, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.DeviceInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_DeviceInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def get_system_info(self) -> Optional[records.SystemInfo]:
+        """Reads information about the system that the engine runs on.
+
+        C: kel_getSystemInfo; number 183; engine position 150.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(183, builtins.bytes(_o))
+        return stream.read_SystemInfo(_b, 0)[0]
 
     def apply_update_package(self, package: str) -> None:
         """Applies an update package.
@@ -1114,6 +1758,18 @@ class Operations:
         _o = bytearray()
         _b = self._call(175, builtins.bytes(_o))
         return _b[0] != 0
+
+    def get_config_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
+        """Reads the configuration directory as a tree.
+
+        C: kel_getConfigDirectory; number 131; engine position 158.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<?", flag)
+        _b = self._call(131, builtins.bytes(_o))
+        return stream.read_DirectoryInfo(_b, 0)[0]
 
     def create_api_trace_monitor(self) -> int:
         """Opens an API trace monitor, which records the calls made on the engine;
@@ -1192,9 +1848,51 @@ class Operations:
         _o = bytearray()
         self._call(194, builtins.bytes(_o))
 
+    def load_database_file(self, files: Sequence[str] = ()) -> list[Optional[records.LoadDatabaseResult]]:
+        """Loads the given database files; one result per file.
+
+        C: kel_loadDatabaseFile; number 198; engine position 168.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, files)
+        _b = self._call(198, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.LoadDatabaseResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_LoadDatabaseResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def copy_project_with_filters(self, filters: Sequence[Optional[records.FileFilter]], flag: bool, config: Optional[records.FileCopyConfig], text: str) -> list[Optional[records.FileInfo]]:
+        """Copies the files of a project that pass the given file filters, as config
+        says; returns the files copied.
+
+        C: kel_copyProjectWithFilters; number 201; engine position 169.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(filters))
+        for _e in filters:
+            stream.write_FileFilter(_o, _e)
+        _o += struct.pack("<?", flag)
+        stream.write_FileCopyConfig(_o, config)
+        stream.write_text(_o, text)
+        _b = self._call(201, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.FileInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_FileInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
     def reconnect_remote_server(self, handle: int) -> bool:
-        """Connects the remote engine with the given handle again; tells whether that
-        worked.
+        """Renews the remote connection whose engine handle is given (kel_getHandle);
+        tells whether it is connected again (not while the server is stopped).
 
         C: kel_reconnectRemoteServer; number 199; engine position 172.
 
@@ -1204,6 +1902,89 @@ class Operations:
         _o += struct.pack("<Q", handle)
         _b = self._call(199, builtins.bytes(_o))
         return _b[0] != 0
+
+    def filter_files(self, filters: Sequence[Optional[records.FileFilter]], text: str) -> list[str]:
+        """Lists the files that pass the given file filters.
+
+        C: kel_filterFiles; number 204; engine position 173.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(filters))
+        for _e in filters:
+            stream.write_FileFilter(_o, _e)
+        stream.write_text(_o, text)
+        _b = self._call(204, builtins.bytes(_o))
+        return stream.read_texts(_b, 0)[0]
+
+    def unload_database_file(self, files: Sequence[str] = ()) -> list[Optional[records.LoadDatabaseResult]]:
+        """Unloads the given database files; one result per file.
+
+        C: kel_unloadDatabaseFile; number 206; engine position 175.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, files)
+        _b = self._call(206, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.LoadDatabaseResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_LoadDatabaseResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def get_public_directories(self) -> list[Optional[records.DirectoryInfo]]:
+        """Lists the engine's public directories.
+
+        C: kel_getPublicDirectories; number 210; engine position 176.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(210, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.DirectoryInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_DirectoryInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def execute_service_in_default_session(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> list[Optional[records.ServiceResult]]:
+        """Executes diagnostic services on one target, as kel_executeService does, in
+        the default diagnostic session.
+
+        C: kel_executeServiceInDefaultSession; number 213; engine position 179.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        _o += struct.pack("<I", len(services))
+        for _e in services:
+            stream.write_ServiceInput(_o, _e)
+        _b = self._call(213, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ServiceResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ServiceResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def execute_service_in_default_session_async(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> AsyncCall:
+        """Executes diagnostic services on one target, as kel_executeService does, in
+        the default diagnostic session.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_executeServiceInDefaultSessionAsync; engine position 179.
+        """
+        return self._start(c_records.start_executeServiceInDefaultSessionAsync, c_records.from_c_ServiceResult, "release_ServiceResult_array", target, services)
 
     def get_target_status(self, targets: Sequence[str] = ()) -> list[Optional[records.TargetStatus]]:
         """Reads the status of the given targets; one result per target.
@@ -1220,6 +2001,45 @@ class Operations:
         _results: list[Optional[records.TargetStatus]] = []
         for _ in range(_n):
             _r, _p = stream.read_TargetStatus(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def get_physical_links(self, modules: Sequence[str] = ()) -> list[Optional[records.PhysicalLinksOnModule]]:
+        """Reads the physical links of the given modules.
+
+        C: kel_getPhysicalLinks; number 217; engine position 182.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, modules)
+        _b = self._call(217, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.PhysicalLinksOnModule]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_PhysicalLinksOnModule(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def set_physical_links(self, links: Sequence[Optional[records.PhysicalLinksOnModule]] = ()) -> list[Optional[records.PhysicalLinksOnModule]]:
+        """Sets the physical links of modules and returns them as the engine keeps
+        them.
+
+        C: kel_setPhysicalLinks; number 218; engine position 183.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(links))
+        for _e in links:
+            stream.write_PhysicalLinksOnModule(_o, _e)
+        _b = self._call(218, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.PhysicalLinksOnModule]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_PhysicalLinksOnModule(_b, _p)
             _results.append(_r)
         return _results
 
@@ -1273,6 +2093,42 @@ class Operations:
         _b = self._call(225, builtins.bytes(_o))
         return _b[4:].decode()
 
+    def get_projects_details(self, project_names: Sequence[str] = ()) -> list[Optional[records.ProjectDetails]]:
+        """Reads the details of the given projects.
+
+        C: kel_getProjectsDetails; number 203; engine position 192.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, project_names)
+        _b = self._call(203, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ProjectDetails]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ProjectDetails(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def get_file_references(self, files: Sequence[str] = ()) -> list[Optional[records.FileReferenceResult]]:
+        """Lists the references of the given files; one result per file.
+
+        C: kel_getFileReferences; number 224; engine position 194.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, files)
+        _b = self._call(224, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.FileReferenceResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_FileReferenceResult(_b, _p)
+            _results.append(_r)
+        return _results
+
     def on_connection_closed(self) -> None:
         """Tells the engine that its connection was closed.
 
@@ -1316,6 +2172,31 @@ class Operations:
         _b = self._call(231, builtins.bytes(_o))
         return _b[0] != 0
 
+    def get_directory_info(self, path: str, flag: bool) -> Optional[records.DirectoryInfo]:
+        """Reads a directory as a tree.
+
+        C: kel_getDirectoryInfo; number 232; engine position 201.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _o += struct.pack("<?", flag)
+        _b = self._call(232, builtins.bytes(_o))
+        return stream.read_DirectoryInfo(_b, 0)[0]
+
+    def get_file_info(self, path: str) -> Optional[records.FileInfo]:
+        """Reads the information about one file.
+
+        C: kel_getFileInfo; number 233; engine position 202.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(233, builtins.bytes(_o))
+        return stream.read_FileInfo(_b, 0)[0]
+
     def is_file(self, path: str) -> bool:
         """Tells whether a path is a file.
 
@@ -1327,6 +2208,18 @@ class Operations:
         stream.write_text(_o, path)
         _b = self._call(234, builtins.bytes(_o))
         return _b[0] != 0
+
+    def get_w_lan_signal_data(self, interface_name: str) -> Optional[records.WLanSignalData]:
+        """Reads the WLAN signal data of an interface.
+
+        C: kel_getWLanSignalData; number 235; engine position 204.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, interface_name)
+        _b = self._call(235, builtins.bytes(_o))
+        return stream.read_WLanSignalData(_b, 0)[0]
 
     def clear_do_ip_ecu_collection(self) -> list[Optional[records.KelError]]:
         """Clears the collection of ECUs found over DoIP; returns an error record for
@@ -1357,15 +2250,45 @@ class Operations:
         stream.write_text(_o, url)
         self._call(237, builtins.bytes(_o))
 
-    def third_party_login(self, text: str) -> bool:
-        """Logs in through an outside identity provider; tells whether that worked.
+    def copy_path(self, config: Optional[records.PathCopyConfig] = None) -> list[Optional[records.PathCopyResult]]:
+        """Copies a path as config says.
+
+        C: kel_copyPath; number 238; engine position 207.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_PathCopyConfig(_o, config)
+        _b = self._call(238, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.PathCopyResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_PathCopyResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def copy_path_async(self, config: Optional[records.PathCopyConfig] = None) -> AsyncCall:
+        """Copies a path as config says.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_copyPathAsync; engine position 207.
+        """
+        return self._start(c_records.start_copyPathAsync, c_records.from_c_PathCopyResult, "release_PathCopyResult_array", config)
+
+    def third_party_login(self, code: str) -> bool:
+        """Logs this engine object in with an authorization code of the outside
+        identity provider; tells whether the provider accepted the code for a user
+        of the server.
 
         C: kel_thirdPartyLogin; number 244; engine position 213.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text)
+        stream.write_text(_o, code)
         _b = self._call(244, builtins.bytes(_o))
         return _b[0] != 0
 
@@ -1379,15 +2302,16 @@ class Operations:
         _o = bytearray()
         self._call(245, builtins.bytes(_o))
 
-    def get_third_party_login_url(self, text: str) -> str:
-        """Reads the address of the outside identity provider's login.
+    def get_third_party_login_url(self, provider: str) -> str:
+        """The address at which a user logs in to the named outside identity provider
+        (empty: the engine's own); each address carries a login state of its own.
 
         C: kel_getThirdPartyLoginUrl; number 253; engine position 215.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text)
+        stream.write_text(_o, provider)
         _b = self._call(253, builtins.bytes(_o))
         return _b[4:].decode()
 
@@ -1403,15 +2327,16 @@ class Operations:
         stream.write_texts(_o, items)
         self._call(246, builtins.bytes(_o))
 
-    def get_certificate_by_public_key(self, text1: str, text2: str, text3: str, text4: str) -> str:
-        """Looks up a certificate by its public key.
+    def get_certificate_by_public_key(self, public_key: str, text2: str, text3: str, text4: str) -> str:
+        """Looks up a certificate of the engine's certificate store by its public key
+        (a PEM "PUBLIC KEY" block or its Base64 text); returns it as PEM text.
 
         C: kel_getCertificateByPublicKey; number 247; engine position 217.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text1)
+        stream.write_text(_o, public_key)
         stream.write_text(_o, text2)
         stream.write_text(_o, text3)
         stream.write_text(_o, text4)
@@ -1435,15 +2360,17 @@ class Operations:
         _b = self._call(248, builtins.bytes(_o))
         return _b[4:].decode()
 
-    def get_certificate_chain_by_id(self, text1: str, text2: str, text3: str) -> list[str]:
-        """Reads a certificate chain by its identifier.
+    def get_certificate_chain_by_id(self, id: str, text2: str, text3: str) -> list[str]:
+        """Reads the chain of the certificate with the given identifier from the
+        engine's certificate store: the certificate first, then each issuer, as PEM
+        texts.
 
         C: kel_getCertificateChainById; number 249; engine position 219.
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text1)
+        stream.write_text(_o, id)
         stream.write_text(_o, text2)
         stream.write_text(_o, text3)
         _b = self._call(249, builtins.bytes(_o))
@@ -1472,6 +2399,38 @@ class Operations:
         stream.write_values(_o, "Q", call_ids)
         self._call(260, builtins.bytes(_o))
 
+    def execute_sequence(self, target: str, sequence: str, parameters: Sequence[Optional[records.ParameterInput]] = ()) -> list[Optional[records.ServiceResult]]:
+        """Executes a sequence on one target with the given parameter values.
+
+        C: kel_executeSequence; number 262; engine position 228.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_text(_o, sequence)
+        _o += struct.pack("<I", len(parameters))
+        for _e in parameters:
+            stream.write_ParameterInput(_o, _e)
+        _b = self._call(262, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ServiceResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ServiceResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def execute_sequence_async(self, target: str, sequence: str, parameters: Sequence[Optional[records.ParameterInput]] = ()) -> AsyncCall:
+        """Executes a sequence on one target with the given parameter values.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_executeSequenceAsync; engine position 228.
+        """
+        return self._start(c_records.start_executeSequenceAsync, c_records.from_c_ServiceResult, "release_ServiceResult_array", target, sequence, parameters)
+
     def add_public_directory(self, name: str, path: str) -> None:
         """Adds a public directory under a name.
 
@@ -1483,6 +2442,18 @@ class Operations:
         stream.write_text(_o, name)
         stream.write_text(_o, path)
         self._call(261, builtins.bytes(_o))
+
+    def get_parameter_info(self, config: Optional[records.ParameterInfoConfig] = None) -> Optional[records.ParameterInfo]:
+        """Describes the one parameter that config selects.
+
+        C: kel_getParameterInfo; number 265; engine position 232.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_ParameterInfoConfig(_o, config)
+        _b = self._call(265, builtins.bytes(_o))
+        return stream.read_ParameterInfo(_b, 0)[0]
 
     def clear_specific_dtcs(self, target: str, dtc_codes: Sequence[int] = ()) -> list[Optional[records.ClearDtcResult]]:
         """Clears the DTCs with the given codes on one target.
@@ -1533,6 +2504,34 @@ class Operations:
         _o = bytearray()
         self._call(280, builtins.bytes(_o))
 
+    def log_in(self, config: Optional[records.LogInOutConfig] = None) -> None:
+        """Logs this engine object in to the server with a user's name and password.
+
+        C: kel_logIn; number 216; engine position 239.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_LogInOutConfig(_o, config)
+        self._call(216, builtins.bytes(_o))
+
+    def get_project_configurations(self) -> list[Optional[records.ProjectConfig]]:
+        """Lists the configurations of every project.
+
+        C: kel_getProjectConfigurations; number 48; engine position 241.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(48, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.ProjectConfig]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_ProjectConfig(_b, _p)
+            _results.append(_r)
+        return _results
+
     def get_state(self) -> int:
         """Reads the engine's state number; the engine defines its values.
 
@@ -1578,6 +2577,39 @@ class Operations:
         stream.write_text(_o, project_name)
         self._call(52, builtins.bytes(_o))
 
+    def get_configuration(self) -> Optional[records.TarnApiConfig]:
+        """Reads the engine's configuration.
+
+        C: kel_getConfiguration; number 53; engine position 246.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(53, builtins.bytes(_o))
+        return stream.read_TarnApiConfig(_b, 0)[0]
+
+    def set_configuration(self, config: Optional[records.TarnApiConfig] = None) -> None:
+        """Sets the engine's configuration.
+
+        C: kel_setConfiguration; number 54; engine position 247.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_TarnApiConfig(_o, config)
+        self._call(54, builtins.bytes(_o))
+
+    def get_server_settings(self) -> Optional[records.ServerSettings]:
+        """Reads the server's settings.
+
+        C: kel_getServerSettings; number 55; engine position 248.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(55, builtins.bytes(_o))
+        return stream.read_ServerSettings(_b, 0)[0]
+
     def get_targets(self) -> list[Optional[records.Target]]:
         """Lists the targets (control units) of the project.
 
@@ -1595,6 +2627,28 @@ class Operations:
             _results.append(_r)
         return _results
 
+    def get_process_info(self) -> Optional[records.ProcessInfo]:
+        """Reads information about the engine's processes.
+
+        C: kel_getProcessInfo; number 59; engine position 252.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(59, builtins.bytes(_o))
+        return stream.read_ProcessInfo(_b, 0)[0]
+
+    def get_transmission_info(self) -> Optional[records.TransmissionInfo]:
+        """Reads the engine's transmission information.
+
+        C: kel_getTransmissionInfo; number 60; engine position 253.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(60, builtins.bytes(_o))
+        return stream.read_TransmissionInfo(_b, 0)[0]
+
     def get_handle(self) -> int:
         """Reads the engine object's 64-bit handle, by which kel_call reaches it.
 
@@ -1607,6 +2661,50 @@ class Operations:
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
+    def get_mox_configuration(self) -> Optional[records.MoxConfig]:
+        """Reads the MOX configuration.
+
+        C: kel_getMoxConfiguration; number 62; engine position 255.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(62, builtins.bytes(_o))
+        return stream.read_MoxConfig(_b, 0)[0]
+
+    def set_mox_configuration(self, config: Optional[records.MoxConfig] = None) -> None:
+        """Sets the MOX configuration.
+
+        C: kel_setMoxConfiguration; number 101; engine position 256.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_MoxConfig(_o, config)
+        self._call(101, builtins.bytes(_o))
+
+    def get_interface_configuration(self) -> Optional[records.InterfaceConfiguration]:
+        """Reads the interface configuration.
+
+        C: kel_getInterfaceConfiguration; number 63; engine position 257.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(63, builtins.bytes(_o))
+        return stream.read_InterfaceConfiguration(_b, 0)[0]
+
+    def set_interface_configuration(self, config: Optional[records.InterfaceConfiguration] = None) -> None:
+        """Sets the interface configuration.
+
+        C: kel_setInterfaceConfiguration; number 64; engine position 258.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_InterfaceConfiguration(_o, config)
+        self._call(64, builtins.bytes(_o))
+
     def get_monitoring_links(self) -> list[str]:
         """Lists the names of the monitoring links.
 
@@ -1617,6 +2715,47 @@ class Operations:
         _o = bytearray()
         _b = self._call(65, builtins.bytes(_o))
         return stream.read_texts(_b, 0)[0]
+
+    def get_global_protocol_parameter_sets(self) -> list[Optional[records.GlobalProtocolParameterSet]]:
+        """Reads the global protocol parameter sets.
+
+        C: kel_getGlobalProtocolParameterSets; number 78; engine position 260.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(78, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.GlobalProtocolParameterSet]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_GlobalProtocolParameterSet(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def set_global_protocol_parameter_sets(self, sets: Sequence[Optional[records.GlobalProtocolParameterSet]] = ()) -> None:
+        """Sets the global protocol parameter sets.
+
+        C: kel_setGlobalProtocolParameterSets; number 79; engine position 261.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(sets))
+        for _e in sets:
+            stream.write_GlobalProtocolParameterSet(_o, _e)
+        self._call(79, builtins.bytes(_o))
+
+    def get_status_info(self) -> Optional[records.StatusInfo]:
+        """Reads the engine's status information.
+
+        C: kel_getStatusInfo; number 88; engine position 262.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(88, builtins.bytes(_o))
+        return stream.read_StatusInfo(_b, 0)[0]
 
     def get_session_target_filters(self) -> list[Optional[records.TargetFilter]]:
         """Reads the session's target filters.
@@ -1648,6 +2787,53 @@ class Operations:
             stream.write_TargetFilter(_o, _e)
         self._call(91, builtins.bytes(_o))
 
+    def get_supported_interfaces(self) -> list[Optional[records.SupportedInterface]]:
+        """Lists the supported kinds of interface.
+
+        C: kel_getSupportedInterfaces; number 111; engine position 265.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(111, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.SupportedInterface]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_SupportedInterface(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def get_interface_providers(self) -> list[Optional[records.InterfaceProvider]]:
+        """Lists the interface providers.
+
+        C: kel_getInterfaceProviders; number 118; engine position 266.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(118, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.InterfaceProvider]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_InterfaceProvider(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def set_interface_providers(self, providers: Sequence[Optional[records.InterfaceProvider]] = ()) -> None:
+        """Sets the interface providers.
+
+        C: kel_setInterfaceProviders; number 119; engine position 267.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(providers))
+        for _e in providers:
+            stream.write_InterfaceProviderDyn(_o, _e)
+        self._call(119, builtins.bytes(_o))
+
     def get_current_debug_trace_directory(self) -> str:
         """Reads the directory that the engine writes its debug trace to.
 
@@ -1658,6 +2844,18 @@ class Operations:
         _o = bytearray()
         _b = self._call(142, builtins.bytes(_o))
         return _b[4:].decode()
+
+    def get_server_configuration(self) -> Optional[records.TarnApiServerConfig]:
+        """Reads the server's configuration: its users, logins, file filters and
+        addresses.
+
+        C: kel_getServerConfiguration; number 181; engine position 269.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(181, builtins.bytes(_o))
+        return stream.read_TarnApiServerConfig(_b, 0)[0]
 
     def get_call_duration(self) -> int:
         """Reads the engine's call duration; the engine defines what it measures and
@@ -1682,3 +2880,14 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, text)
         self._call(196, builtins.bytes(_o))
+
+    def get_default_do_ip_parameter(self) -> Optional[records.DoIPParameter]:
+        """Reads the default DoIP parameters.
+
+        C: kel_getDefaultDoIPParameter; number 208; engine position 272.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(208, builtins.bytes(_o))
+        return stream.read_DoIPParameter(_b, 0)[0]

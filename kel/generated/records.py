@@ -275,6 +275,271 @@ class TargetFilter:
 
 
 @dataclasses.dataclass(**_OPTIONS)
+class ParameterInput:
+    """
+    One parameter value to send with a service. A structured parameter carries its
+    members as children, so the values form a tree.
+    """
+    name: str = ""
+    """The parameter's name."""
+    children: list[Optional[ParameterInput]] = dataclasses.field(default_factory=list)
+    """The member values of a structured parameter."""
+    value: str = ""
+    """The value, written as text."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ServiceInput:
+    """One service to execute, with its parameter values or its raw request bytes."""
+    parameters: list[Optional[ParameterInput]] = dataclasses.field(default_factory=list)
+    """The parameter values to send."""
+    service: str = ""
+    """The service's name."""
+    data: builtins.bytes = b""
+    """Raw request bytes, sent as given."""
+    value: int = 0
+    """Copied unchanged to the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ServiceResult:
+    """The result of one executed service: the request as sent and every response received."""
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    responses: list[Optional[ResponseResult]] = dataclasses.field(default_factory=list)
+    """The responses received."""
+    status: int = 0
+    """The engine's status of the service."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    error: Optional[KelError] = None
+    """The service's own error; None when it succeeded."""
+    request: Optional[RequestResult] = None
+    """The request as sent; None when the engine gives none."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ResponseResult:
+    """One response received for a service, as bytes and as decoded parameters."""
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    flag: bool = False
+    """Copied unchanged from the engine."""
+    error: Optional[KelError] = None
+    """The response's own error; None when none."""
+    data: builtins.bytes = b""
+    """The response bytes; None and 0 when empty."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    parameters: list[Optional[ParameterResult]] = dataclasses.field(default_factory=list)
+    """The decoded response parameters."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class RequestResult:
+    """The request of a service as it was sent, as bytes and as decoded parameters."""
+    error: Optional[KelError] = None
+    """The request's own error; None when none."""
+    data: builtins.bytes = b""
+    """The request bytes; None and 0 when empty."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    parameters: list[Optional[ParameterResult]] = dataclasses.field(default_factory=list)
+    """The decoded request parameters."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class UnlockResult:
+    """The result of unlocking a vehicle: the services run for the unlock."""
+    value: int = 0
+    """Copied unchanged from the engine; releaseVehicleUnlock takes it."""
+    services: list[Optional[ServiceResult]] = dataclasses.field(default_factory=list)
+    """The services run for the unlock."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ServiceInfo:
+    """One service that a target offers: its request parameters and its possible responses."""
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    flag: bool = False
+    """Copied unchanged from the engine."""
+    responses: list[Optional[ResponseInfo]] = dataclasses.field(default_factory=list)
+    """The responses the service can give."""
+    parameters: list[Optional[ParameterInfo]] = dataclasses.field(default_factory=list)
+    """The request parameters."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    items: list[Optional[NamedItem]] = dataclasses.field(default_factory=list)
+    """Further named entries of the service."""
+    error: Optional[KelError] = None
+    """An error describing this service; None when none."""
+    values: list[int] = dataclasses.field(default_factory=lambda: [0] * 5)
+    """Five engine values, in order."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ResponseInfo:
+    """One response that a service can give, with its parameters."""
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    status: int = 0
+    """The engine's kind of response."""
+    parameters: list[Optional[ParameterInfo]] = dataclasses.field(default_factory=list)
+    """The response parameters."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ParameterInfo:
+    """
+    The description of one parameter: its texts, limits and unit. Structured parameters
+    describe their members as children.
+    """
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    text2: str = ""
+    """Copied unchanged from the engine."""
+    text3: str = ""
+    """Copied unchanged from the engine."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    text4: str = ""
+    """Copied unchanged from the engine."""
+    children: list[Optional[ParameterInfo]] = dataclasses.field(default_factory=list)
+    """The member parameters of a structured parameter."""
+    text5: str = ""
+    """Copied unchanged from the engine."""
+    names: list[str] = dataclasses.field(default_factory=list)
+    """Engine texts; the block is allocated even when empty."""
+    flag1: bool = False
+    """Copied unchanged from the engine."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    error: Optional[KelError] = None
+    """An error describing this parameter; None when none."""
+    flag2: bool = False
+    """Copied unchanged from the engine."""
+    values: list[int] = dataclasses.field(default_factory=lambda: [0] * 8)
+    """Eight engine values, in order."""
+    flag3: bool = False
+    """Copied unchanged from the engine."""
+    constraint1: Optional[ConstraintInfo] = None
+    """The first constraint on the value; None when none."""
+    constraint2: Optional[ConstraintInfo] = None
+    """The second constraint on the value; None when none."""
+    text6: str = ""
+    """Copied unchanged from the engine."""
+    text7: str = ""
+    """Copied unchanged from the engine."""
+    flag4: bool = False
+    """Copied unchanged from the engine."""
+    unit: Optional[UnitInfo] = None
+    """The value's unit; None when none."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ConstraintInfo:
+    """A constraint on a parameter's value, made of intervals."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    text2: str = ""
+    """Copied unchanged from the engine."""
+    flag: bool = False
+    """Copied unchanged from the engine."""
+    scales: list[Optional[ScaleConstraintInfo]] = dataclasses.field(default_factory=list)
+    """The intervals; None and 0 when none."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ScaleConstraintInfo:
+    """One interval of a constraint."""
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    text2: str = ""
+    """Copied unchanged from the engine."""
+    flag: bool = False
+    """Copied unchanged from the engine."""
+    value: int = 0
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class UnitInfo:
+    """The unit of a parameter's value; plain data that owns no memory."""
+    values: list[int] = dataclasses.field(default_factory=lambda: [0] * 7)
+    """Seven engine values, in order."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    flag1: bool = False
+    """Copied unchanged from the engine."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    flag2: bool = False
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ParameterInfoConfig:
+    """Selects the parameter that getParameterInfo describes."""
+    text1: str = ""
+    """Passed unchanged to the engine."""
+    text2: str = ""
+    """Passed unchanged to the engine."""
+    value: int = 0
+    """Passed unchanged to the engine."""
+    text3: str = ""
+    """Passed unchanged to the engine."""
+    text4: str = ""
+    """Passed unchanged to the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
 class KelEvent:
     """One event of the engine, fetched from an event channel."""
     name: str = ""
@@ -298,4 +563,959 @@ class EventReport:
     """The events; None when there are none."""
 
 
-__all__ = ["MvciServerError", "NegativeResponse", "KelError", "NamedItem", "ParameterResult", "ClearDtcResult", "DtcReadConfig", "ReadDtcResult", "DtcResult", "SpecialDataGroup", "VariantIdentResult", "ReadDataResult", "Target", "TargetStatus", "TargetFilter", "KelEvent", "EventReport"]
+@dataclasses.dataclass(**_OPTIONS)
+class FileFilter:
+    """One file filter: a name pattern with the engine's flag and value."""
+    pattern: str = ""
+    """The file name pattern."""
+    flag: bool = False
+    """Copied unchanged from the engine."""
+    value: int = 0
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class TargetConfig:
+    """The configuration of one target within a project."""
+    value: int = 0
+    """Copied unchanged from the engine."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    text2: str = ""
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ProjectConfig:
+    """
+    The configuration of one diagnostic project. itemText1 is the project's name; the
+    other members are the engine's and copied unchanged.
+    """
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    filters1: list[Optional[FileFilter]] = dataclasses.field(default_factory=list)
+    """The project's first file filters."""
+    value0: int = 0
+    """Copied unchanged from the engine."""
+    targets: list[Optional[TargetConfig]] = dataclasses.field(default_factory=list)
+    """The project's targets."""
+    filters2: list[Optional[FileFilter]] = dataclasses.field(default_factory=list)
+    """The second file filters: pattern and flag, value 0."""
+    strings1: list[str] = dataclasses.field(default_factory=list)
+    """Engine texts; the block is allocated even when empty."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    text2: str = ""
+    """Copied unchanged from the engine."""
+    strings2: list[str] = dataclasses.field(default_factory=list)
+    """Engine texts; the block is allocated even when empty."""
+    text3: str = ""
+    """Copied unchanged from the engine."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    value3: int = 0
+    """Copied unchanged from the engine."""
+    flags: list[bool] = dataclasses.field(default_factory=lambda: [False] * 4)
+    """Four engine flags, in order."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ProjectDetails:
+    """The details of the selected project (or of one project): its database files and users."""
+    db_files1: list[Optional[DbFileInfo]] = dataclasses.field(default_factory=list)
+    """The database files in the project's folder."""
+    db_files2: list[Optional[DbFileInfo]] = dataclasses.field(default_factory=list)
+    """The database files loaded now."""
+    text1: str = ""
+    """The project's name."""
+    value1: int = 0
+    """The format of the project's files."""
+    text2: str = ""
+    """The project's folder."""
+    value2: int = 0
+    """1 when the project is the selected one."""
+    users: list[Optional[UserInfo]] = dataclasses.field(default_factory=list)
+    """The project's users."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class DbFileInfo:
+    """One database file of a project."""
+    name: str = ""
+    """The file's name, relative to the project's folder."""
+    path: str = ""
+    """The file's full path."""
+    size: int = 0
+    """Its size in bytes; 0 when it is missing."""
+    loaded: bool = False
+    """1 when the file is loaded."""
+    error: Optional[KelError] = None
+    """Why the file cannot be loaded; None when it can."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class SystemInfo:
+    """Information on the system the engine runs on."""
+    value1: int = 0
+    """The number of processors."""
+    value2: int = 0
+    """The size of a memory page in bytes."""
+    text1: str = ""
+    """The operating system's name."""
+    value3: int = 0
+    """The width of a pointer in bits."""
+    text2: str = ""
+    """The operating system's release."""
+    text3: str = ""
+    """The host's name."""
+    text4: str = ""
+    """The processor architecture."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class SystemProperty:
+    """
+    One system property of the engine; a property may hold child properties, so the
+    properties form a tree, which release_SystemProperty frees whole. itemText1 is the
+    property's full name, itemText2 its label, itemText4 its unit.
+    """
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    text1: str = ""
+    """The property's value, as text."""
+    text2: str = ""
+    """The value a reset gives."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    children: list[Optional[SystemProperty]] = dataclasses.field(default_factory=list)
+    """The child properties."""
+    text3: str = ""
+    """Copied unchanged from the engine."""
+    error: Optional[KelError] = None
+    """The property's own error; None when none."""
+    text4: str = ""
+    """Copied unchanged from the engine."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    data: builtins.bytes = b""
+    """The property's bytes; None and 0 when empty."""
+    value3: int = 0
+    """Copied unchanged from the engine."""
+    flag: bool = False
+    """1 when the value differs from the one a reset gives."""
+    value4: int = 0
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class TarnApiConfig:
+    """The engine's own configuration."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    flag1: bool = False
+    """Copied unchanged from the engine."""
+    flag2: bool = False
+    """Copied unchanged from the engine."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    server: Optional[ServerConfig] = None
+    """The server configuration; None when none."""
+    value3: int = 0
+    """Copied unchanged from the engine."""
+    value4: int = 0
+    """Copied unchanged from the engine."""
+    value5: int = 0
+    """Copied unchanged from the engine."""
+    flag3: bool = False
+    """Copied unchanged from the engine."""
+    value6: int = 0
+    """Copied unchanged from the engine."""
+    value7: int = 0
+    """Copied unchanged; 16 bits wide, as the engine's."""
+    oauth2_configs: list[Optional[Oauth2Config]] = dataclasses.field(default_factory=list)
+    """The OAuth 2 configurations."""
+    text: str = ""
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ServerConfig:
+    """The server part of the engine's configuration."""
+    address: str = ""
+    """The address the server listens on."""
+    port: int = 0
+    """The port it listens on."""
+    enabled: bool = False
+    """1 when the server starts with the engine."""
+    name: str = ""
+    """The name the server gives itself to clients."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class Oauth2Config:
+    """
+    One OAuth 2 configuration of the engine. It names a client registered with an
+    identity provider; no secret is part of it.
+    """
+    issuer: str = ""
+    """The identity provider's address."""
+    client_id: str = ""
+    """The client's identifier at the provider."""
+    scopes: list[str] = dataclasses.field(default_factory=list)
+    """The scopes the engine asks for."""
+    redirect_url: str = ""
+    """Where the provider sends the user back."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class MoxConfig:
+    """The engine's Mox configuration, as saveMoxConfiguration stores it."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    text2: str = ""
+    """Copied unchanged from the engine."""
+    text3: str = ""
+    """Copied unchanged from the engine."""
+    text4: str = ""
+    """Copied unchanged from the engine."""
+    text5: str = ""
+    """Copied unchanged from the engine."""
+    flag1: bool = False
+    """Copied unchanged from the engine."""
+    flag2: bool = False
+    """Copied unchanged from the engine."""
+    flag3: bool = False
+    """Copied unchanged from the engine."""
+    value: int = 0
+    """Copied unchanged from the engine."""
+    flag4: bool = False
+    """Copied unchanged from the engine."""
+    flag5: bool = False
+    """Copied unchanged from the engine."""
+    flag6: bool = False
+    """Copied unchanged from the engine."""
+    text6: str = ""
+    """Copied unchanged from the engine."""
+    text7: str = ""
+    """Copied unchanged from the engine."""
+    tcp: Optional[TcpInfo] = None
+    """The TCP settings; None when none."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class TcpInfo:
+    """TCP settings; plain data that owns no memory."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    value3: int = 0
+    """Copied unchanged from the engine."""
+    value4: int = 0
+    """Copied unchanged from the engine."""
+    value5: int = 0
+    """Copied unchanged from the engine."""
+    value6: int = 0
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class StatusInfo:
+    """The engine's status information; plain data that owns no memory."""
+    value1: int = 0
+    """The calls made on this engine object before this one."""
+    value2: int = 0
+    """How many of them failed."""
+    value3: int = 0
+    """Milliseconds since the engine started."""
+    value4: int = 0
+    """Microseconds spent in those calls."""
+    value5: int = 0
+    """Database files loaded now."""
+    value6: int = 0
+    """Projects in the projects folder."""
+    value7: int = 0
+    """Times the status text was set."""
+    value8: int = 0
+    """When the engine started, in milliseconds since 1970 (UTC)."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class TransmissionInfo:
+    """The engine's transmission information; plain data that owns no memory."""
+    value1: int = 0
+    """Requests sent to the control units."""
+    value2: int = 0
+    """Responses received from them."""
+    value3: int = 0
+    """Request bytes sent."""
+    value4: int = 0
+    """Response bytes received."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ProcessInfo:
+    """Information on the engine's process."""
+    processes: list[Optional[ProcessEntry]] = dataclasses.field(default_factory=list)
+    """One entry: the engine's own process."""
+    flag1: bool = False
+    """1 in a 64-bit process."""
+    flag2: bool = False
+    """1 when the engine is initialized."""
+    text: str = ""
+    """The engine's status text."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ProcessEntry:
+    """One process of ProcessInfo."""
+    value: int = 0
+    """The process id."""
+    items1: list[Optional[ProcessThread]] = dataclasses.field(default_factory=list)
+    """The process's threads."""
+    text: str = ""
+    """The process's executable."""
+    items2: list[Optional[ProcessMemory]] = dataclasses.field(default_factory=list)
+    """The process's memory figures."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ProcessThread:
+    """One thread of a process."""
+    id: int = 0
+    """The thread's id."""
+    name: str = ""
+    """Its name; empty where the system names none."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ProcessMemory:
+    """One memory figure of a process."""
+    name: str = ""
+    """What is counted: "resident", "virtual", "peak resident"."""
+    bytes: int = 0
+    """Its size in bytes."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class GlobalProtocolParameterSet:
+    """One set of global protocol parameters."""
+    text1: str = ""
+    """The set's name."""
+    text2: str = ""
+    """The protocol it is for."""
+    text3: str = ""
+    """Copied unchanged from the engine."""
+    text4: str = ""
+    """Copied unchanged from the engine."""
+    parameters: list[Optional[GlobalProtocolParameter]] = dataclasses.field(default_factory=list)
+    """The parameters of the set."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class GlobalProtocolParameter:
+    """
+    One global protocol parameter: a parameter description with its value. itemText1 is
+    its name, the other NamedItem texts its label, description and unit.
+    """
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    value: str = ""
+    """The value, as text."""
+    default_value: str = ""
+    """The value the engine starts with."""
+    infos: list[Optional[ParameterInfo]] = dataclasses.field(default_factory=list)
+    """Descriptions of the parameter's members."""
+    choices: list[str] = dataclasses.field(default_factory=list)
+    """The values it may take; none when any value within its constraints is allowed."""
+    error: Optional[KelError] = None
+    """Why the value is not valid; None when it is."""
+    constraints: list[Optional[ConstraintInfo]] = dataclasses.field(default_factory=list)
+    """The limits of its value."""
+    tcp: Optional[TcpInfo] = None
+    """The TCP settings of a parameter of a TCP link; None otherwise."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    flag: bool = False
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class LoadDatabaseResult:
+    """The outcome of loading or unloading one database file."""
+    text: str = ""
+    """The file as given."""
+    flag: bool = False
+    """1 when the file is loaded after the call."""
+    error: Optional[KelError] = None
+    """The file's own error; None when none."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class InterfaceInformation:
+    """
+    A diagnostic interface (a vehicle communication interface) with its resources and
+    vendor modules. itemText1 is its name, itemText2 its long name, itemText3 its vendor
+    and itemText4 a description.
+    """
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    resources: list[Optional[ResourceInformation]] = dataclasses.field(default_factory=list)
+    """The resources on the interface."""
+    flag1: bool = False
+    """1 while the interface is connected."""
+    flag2: bool = False
+    """1 for a dynamic interface, one found on the network by detection."""
+    text1: str = ""
+    """The kind of interface, as kel_getSupportedInterfaces names it ("D-PDU", "DoIP")."""
+    text2: str = ""
+    """Its address: a host name or IP address, or a serial port."""
+    flag3: bool = False
+    """
+    1 while the interface is plugged in (reachable); a scan reports an error for one
+    that is not.
+    """
+    items: list[Optional[InterfaceInformationItem]] = dataclasses.field(default_factory=list)
+    """Its vendor modules."""
+    value: int = 0
+    """The engine's handle of the interface, never 0 once the engine knows it; ignored on input."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ResourceInformation:
+    """
+    One resource on a diagnostic interface (a protocol on a physical link); also the
+    input of kel_addResource. itemText1 is its name, itemText2 a description, itemText3
+    its protocol and itemText4 the physical link it uses.
+    """
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    id: int = 0
+    """The engine's number of the resource on its interface, from 1; ignored on input."""
+    pin: int = 0
+    """The vehicle connector pin it uses; kel_addResource sets it from its 16-bit value."""
+    in_use: bool = False
+    """1 while a connection uses the resource."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class InterfaceInformationItem:
+    """
+    A vendor module of an interface (the vendor's D-PDU API module that drives it).
+    itemText1 is the module's name, itemText2 its vendor, itemText3 its version and
+    itemText4 a description.
+    """
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ScanInterfaceResult:
+    """The outcome of scanning the connection of one interface."""
+    interface_info: Optional[InterfaceInformation] = None
+    """The interface; None when the engine knows no interface of that name."""
+    error: Optional[KelError] = None
+    """The scan's error for this interface; None when it succeeded."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class DynInterfaceDetection:
+    """What a dynamic interface detection looks for."""
+    name_pattern: str = ""
+    """
+    The module names to find, * standing for any text and ? for one character; empty
+    finds every module.
+    """
+    kind: str = ""
+    """Only modules of this kind ("DoIP"); empty finds every kind."""
+    only_free: bool = False
+    """1 leaves out modules that are already connected."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ModuleDyn:
+    """A dynamically detected interface module."""
+    name: str = ""
+    """The module's name, by which kel_connectDynInterface connects it."""
+    long_name: str = ""
+    """Its long name."""
+    vendor: str = ""
+    """Its vendor."""
+    kind: str = ""
+    """The kind of interface ("DoIP")."""
+    address: str = ""
+    """Its network address."""
+    vendor_module: Optional[InterfaceInformationItem] = None
+    """The vendor module that drives it; None when it has none."""
+    connected: bool = False
+    """1 while it is connected."""
+    serial_number: str = ""
+    """Its serial number."""
+    firmware: str = ""
+    """Its firmware version."""
+    network: str = ""
+    """The network it was found on."""
+    resources: list[Optional[ResourceInformation]] = dataclasses.field(default_factory=list)
+    """Its resources."""
+    port: int = 0
+    """The TCP port it listens on."""
+    exclusive: bool = False
+    """1 when it was connected for exclusive use."""
+    handle: int = 0
+    """The engine's handle of the module, never 0."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class DeviceInfo:
+    """A device registered with the engine: one per interface the engine knows."""
+    text1: str = ""
+    """The interface's name."""
+    value1: int = 0
+    """The vendor's number (USB vendor id style); 0 when unknown."""
+    value2: int = 0
+    """The product's number; 0 when unknown."""
+    text2: str = ""
+    """The vendor."""
+    text3: str = ""
+    """The serial number."""
+    value3: int = 0
+    """The number of resources."""
+    text4: str = ""
+    """The firmware version."""
+    text5: str = ""
+    """The kind of interface."""
+    value4: int = 0
+    """The Ethernet pin state."""
+    value5: int = 0
+    """The number of physical links."""
+    text6: str = ""
+    """The address."""
+    protocols: list[str] = dataclasses.field(default_factory=list)
+    """The protocols of its resources, each once, in resource order."""
+    text7: str = ""
+    """The long name."""
+    modules: list[str] = dataclasses.field(default_factory=list)
+    """The names of its vendor modules."""
+    text8: str = ""
+    """A description."""
+    flag: bool = False
+    """1 while connected."""
+    value6: int = 0
+    """The engine's handle of the interface."""
+    value7: int = 0
+    """1 for a dynamic interface, 0 for a configured one."""
+    value8: int = 0
+    """Reserved, 0."""
+    value9: int = 0
+    """Reserved, 0."""
+    value10: int = 0
+    """Reserved, 0."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class PhysicalLinksOnModule:
+    """The physical links on one interface module."""
+    module: str = ""
+    """The module's name: the name of an interface."""
+    links: list[Optional[PhysicalLink]] = dataclasses.field(default_factory=list)
+    """The module's physical links."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class PhysicalLink:
+    """
+    One physical link of a module (a bus line of the vehicle connector). itemText1 is
+    its name, itemText2 its type ("ISO_11898_2_DWCAN"), itemText3 the connector pins it
+    uses and itemText4 a description.
+    """
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    baudrate: int = 0
+    """Its speed in bits per second."""
+    enabled: bool = False
+    """1 when the engine may use the link."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class InterfaceConfiguration:
+    """The engine's configuration of its interfaces."""
+    entries: list[Optional[InterfaceConfigurationEntry]] = dataclasses.field(default_factory=list)
+    """One entry per configured interface."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class InterfaceConfigurationEntry:
+    """One entry of the interface configuration: one interface."""
+    text1: str = ""
+    """The interface's name; must not be empty."""
+    text2: str = ""
+    """Its long name."""
+    text3: str = ""
+    """Its vendor."""
+    text4: str = ""
+    """The kind of interface."""
+    text5: str = ""
+    """Its address."""
+    value: int = 0
+    """Its Ethernet pin state."""
+    flag: bool = False
+    """1 when kel_connectInterfaces connects it."""
+    items: list[Optional[ResourceInformation]] = dataclasses.field(default_factory=list)
+    """Its resources."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class InterfaceProvider:
+    """
+    A provider of diagnostic interfaces. itemText1 is its name, itemText2 a description,
+    itemText3 its vendor and itemText4 its version.
+    """
+    item_text1: str = ""
+    """The item's first text, usually its name."""
+    item_text2: str = ""
+    """Second text."""
+    item_text3: str = ""
+    """Third text."""
+    item_text4: str = ""
+    """Fourth text."""
+    text: str = ""
+    """The library through which the engine reaches the provider."""
+    value: int = 0
+    """Its priority: lower numbers are asked first."""
+    flag: bool = False
+    """1 when the provider is enabled."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class DoIPParameter:
+    """The engine's default DoIP parameters."""
+    value1: int = 0
+    """The UDP port of vehicle discovery (13400)."""
+    value2: int = 0
+    """How long a broadcast waits for vehicle announcements, in milliseconds."""
+    text: str = ""
+    """The broadcast address."""
+    value3: int = 0
+    """The TCP port of diagnostic connections (13400)."""
+    strings: list[str] = dataclasses.field(default_factory=list)
+    """The network adapters the broadcast goes out on."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class WLanSignalData:
+    """The WLAN signal of an interface."""
+    value1: int = 0
+    """The signal quality in percent."""
+    value2: int = 0
+    """The signal strength, in dBm below 0 (60 means -60 dBm)."""
+    value3: int = 0
+    """The noise, in dBm below 0."""
+    value4: int = 0
+    """The channel."""
+    value5: int = 0
+    """The frequency in MHz."""
+    value6: int = 0
+    """The bytes received since the interface connected."""
+    value7: int = 0
+    """The transmit rate in Mbit/s."""
+    value8: int = 0
+    """The receive rate in Mbit/s."""
+    value9: int = 0
+    """The retransmissions."""
+    value10: int = 0
+    """The lost beacons."""
+    value11: int = 0
+    """The channel width in MHz; 16 bits wide, as the engine's."""
+    text: str = ""
+    """The network name (SSID)."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class SupportedInterface:
+    """A kind of interface the engine supports."""
+    text1: str = ""
+    """The kind's name ("D-PDU", "DoIP"), as InterfaceInformation.text1 carries it."""
+    text2: str = ""
+    """A description."""
+    names: list[str] = dataclasses.field(default_factory=list)
+    """The protocols it carries."""
+    value: int = 0
+    """How many interfaces of the kind the engine takes at most."""
+    text3: str = ""
+    """The vendor module that usually drives it."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class FileInfo:
+    """A file in the engine's file system."""
+    name: str = ""
+    """The entry's name."""
+    error: Optional[KelError] = None
+    """The entry's own error; None when none."""
+    flag: bool = False
+    """Copied unchanged from the engine."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    text2: str = ""
+    """Copied unchanged from the engine."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    value3: int = 0
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class DirectoryInfo:
+    """
+    A directory with its files and, recursively, its sub-directories. Given as input it
+    carries its entry members and its files only.
+    """
+    name: str = ""
+    """The entry's name."""
+    error: Optional[KelError] = None
+    """The entry's own error; None when none."""
+    flag: bool = False
+    """Copied unchanged from the engine."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    text1: str = ""
+    """Copied unchanged from the engine."""
+    text2: str = ""
+    """Copied unchanged from the engine."""
+    files: list[Optional[FileInfo]] = dataclasses.field(default_factory=list)
+    """The directory's files."""
+    directories: list[Optional[DirectoryInfo]] = dataclasses.field(default_factory=list)
+    """The sub-directories; not read from input."""
+    flag2: bool = False
+    """Copied unchanged from the engine; not read from input."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class FileCopyResult:
+    """The outcome of copying one file."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    text: str = ""
+    """Copied unchanged from the engine."""
+    error: Optional[KelError] = None
+    """The copy's own error; None when none."""
+    file: Optional[FileInfo] = None
+    """The copied file; None when none."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class DirectoryCopyResult:
+    """The outcome of copying one directory."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    text: str = ""
+    """Copied unchanged from the engine."""
+    error: Optional[KelError] = None
+    """The copy's own error; None when none."""
+    directory: Optional[DirectoryCopyItem] = None
+    """The nested directory result; None when none."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class DirectoryCopyItem:
+    """
+    What copying one directory did: where from and to, how much, and every file that
+    failed, each with its own error.
+    """
+    source: str = ""
+    """The directory copied."""
+    target: str = ""
+    """The copy."""
+    files: int = 0
+    """Files copied."""
+    directories: int = 0
+    """Directories created."""
+    bytes: int = 0
+    """Bytes copied."""
+    failures: list[Optional[FileCopyResult]] = dataclasses.field(default_factory=list)
+    """One result per file that failed; None when none."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class PathCopyResult:
+    """The outcome of copying one path."""
+    value1: int = 0
+    """Copied unchanged from the engine."""
+    error: Optional[KelError] = None
+    """The copy's own error; None when none."""
+    value2: int = 0
+    """Copied unchanged from the engine."""
+    item: Optional[PathCopyItem] = None
+    """The nested record; None when none."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class PathCopyItem:
+    """One entry of a path copy: the source and target of a file or directory and its size."""
+    source: str = ""
+    """The entry copied."""
+    target: str = ""
+    """Its copy."""
+    size: int = 0
+    """The file's size in bytes; 0 for a directory."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class FileReferenceResult:
+    """The references of one file."""
+    references: list[str] = dataclasses.field(default_factory=list)
+    """The file's references."""
+    error: Optional[KelError] = None
+    """The lookup's own error; None when none."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class FileCopyConfig:
+    """What copyFiles and copyProjectWithFilters copy: files into one directory."""
+    files: list[str] = dataclasses.field(default_factory=list)
+    """The files to copy; copyProjectWithFilters does not read them."""
+    target: str = ""
+    """The directory the copies go into."""
+    overwrite: bool = False
+    """Replace files that exist at the target."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class DirectoryCopyConfig:
+    """What copyDirectories copies: directories into one directory."""
+    directories: list[str] = dataclasses.field(default_factory=list)
+    """The directories to copy, each into target under its own name."""
+    target: str = ""
+    """The directory the copies go into."""
+    overwrite: bool = False
+    """Replace files that exist at the target."""
+    recursive: bool = False
+    """Copy sub-directories too, not only each directory's files."""
+    pattern: str = ""
+    """Only files whose names match (* and ?); empty for every file."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class PathCopyConfig:
+    """What copyPath copies: one file or directory tree to a new path."""
+    source: str = ""
+    """The file or directory to copy."""
+    target: str = ""
+    """The path of the copy itself, not its parent."""
+    overwrite: bool = False
+    """Replace files that exist at the target."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class UserInfo:
+    """
+    A user of the engine's server. The password is never handed out; the engine keeps
+    only a salted hash of it.
+    """
+    name: str = ""
+    """The user's name."""
+    text: str = ""
+    """The name of the user's role ("operator", "administrator")."""
+    value: int = 0
+    """The user's role: 1 operator, 2 administrator."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class LogInOutConfig:
+    """
+    What logIn and logOut pass to the engine: who logs in or out, and for logIn the
+    password. The password never comes back, is never recorded and never traced.
+    """
+    user: str = ""
+    """The user's name; for logOut, empty means whoever is logged in."""
+    password: str = ""
+    """The user's password (logIn); logOut does not read it."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class TarnApiServerConfig:
+    """The configuration of the engine's server."""
+    users: list[Optional[UserInfo]] = dataclasses.field(default_factory=list)
+    """The server's users, by name."""
+    flag: bool = False
+    """1 while the server's user management is on."""
+    value1: int = 0
+    """The number of remote connections now."""
+    text1: str = ""
+    """Where the server listens; empty while it is stopped."""
+    text2: str = ""
+    """Where the SOVD server listens; empty while it is stopped."""
+    filters: list[Optional[FileFilter]] = dataclasses.field(default_factory=list)
+    """The file filters of the server's clients; the simulated server has none."""
+    text3: str = ""
+    """The name of the outside identity provider."""
+    text4: str = ""
+    """The identity provider's login address, without a login's state."""
+    users2: list[Optional[UserInfo]] = dataclasses.field(default_factory=list)
+    """The users logged in now, one entry per login."""
+    value2: int = 0
+    """Failed logins of one user before the engine throttles; 16 bits wide, as the engine's."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class ServerSettings:
+    """The settings of the engine's server; plain data that owns no memory."""
+    flag: bool = False
+    """1 while the server runs."""
+    value1: int = 0
+    """The number of remote connections now."""
+    value2: int = 0
+    """The number of users."""
+    value3: int = 0
+    """1 while the SOVD server runs."""
+
+
+__all__ = ["MvciServerError", "NegativeResponse", "KelError", "NamedItem", "ParameterResult", "ClearDtcResult", "DtcReadConfig", "ReadDtcResult", "DtcResult", "SpecialDataGroup", "VariantIdentResult", "ReadDataResult", "Target", "TargetStatus", "TargetFilter", "ParameterInput", "ServiceInput", "ServiceResult", "ResponseResult", "RequestResult", "UnlockResult", "ServiceInfo", "ResponseInfo", "ParameterInfo", "ConstraintInfo", "ScaleConstraintInfo", "UnitInfo", "ParameterInfoConfig", "KelEvent", "EventReport", "FileFilter", "TargetConfig", "ProjectConfig", "ProjectDetails", "DbFileInfo", "SystemInfo", "SystemProperty", "TarnApiConfig", "ServerConfig", "Oauth2Config", "MoxConfig", "TcpInfo", "StatusInfo", "TransmissionInfo", "ProcessInfo", "ProcessEntry", "ProcessThread", "ProcessMemory", "GlobalProtocolParameterSet", "GlobalProtocolParameter", "LoadDatabaseResult", "InterfaceInformation", "ResourceInformation", "InterfaceInformationItem", "ScanInterfaceResult", "DynInterfaceDetection", "ModuleDyn", "DeviceInfo", "PhysicalLinksOnModule", "PhysicalLink", "InterfaceConfiguration", "InterfaceConfigurationEntry", "InterfaceProvider", "DoIPParameter", "WLanSignalData", "SupportedInterface", "FileInfo", "DirectoryInfo", "FileCopyResult", "DirectoryCopyResult", "DirectoryCopyItem", "PathCopyResult", "PathCopyItem", "FileReferenceResult", "FileCopyConfig", "DirectoryCopyConfig", "PathCopyConfig", "UserInfo", "LogInOutConfig", "TarnApiServerConfig", "ServerSettings"]

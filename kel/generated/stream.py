@@ -9,7 +9,7 @@ import builtins
 import struct
 from typing import Optional, Sequence
 
-from .records import ClearDtcResult, DtcReadConfig, DtcResult, EventReport, KelError, KelEvent, MvciServerError, NamedItem, NegativeResponse, ParameterResult, ReadDataResult, ReadDtcResult, SpecialDataGroup, Target, TargetFilter, TargetStatus, VariantIdentResult
+from .records import ClearDtcResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UserInfo, VariantIdentResult, WLanSignalData
 
 _U32 = struct.Struct("<I")
 _u32_read = _U32.unpack_from
@@ -62,8 +62,62 @@ _S_5I_read = struct.Struct("<5I").unpack_from
 _S_5I_write = struct.Struct("<5I").pack
 _S_Bi_read = struct.Struct("<Bi").unpack_from
 _S_Bi_write = struct.Struct("<Bi").pack
+_S_Q_read = struct.Struct("<Q").unpack_from
+_S_Q_write = struct.Struct("<Q").pack
+_S_b_read = struct.Struct("<?").unpack_from
+_S_b_write = struct.Struct("<?").pack
+_S_bi_read = struct.Struct("<?i").unpack_from
+_S_bi_write = struct.Struct("<?i").pack
+_S_8I_read = struct.Struct("<8I").unpack_from
+_S_8I_write = struct.Struct("<8I").pack
+_S_7I_read = struct.Struct("<7I").unpack_from
+_S_7I_write = struct.Struct("<7I").pack
+_S_QbQb_read = struct.Struct("<Q?Q?").unpack_from
+_S_QbQb_write = struct.Struct("<Q?Q?").pack
 _S_ii_read = struct.Struct("<ii").unpack_from
 _S_ii_write = struct.Struct("<ii").pack
+_S_bI_read = struct.Struct("<?I").unpack_from
+_S_bI_write = struct.Struct("<?I").pack
+_S_I_read = struct.Struct("<I").unpack_from
+_S_I_write = struct.Struct("<I").pack
+_S_II_read = struct.Struct("<II").unpack_from
+_S_II_write = struct.Struct("<II").pack
+_S_4b_read = struct.Struct("<4?").unpack_from
+_S_4b_write = struct.Struct("<4?").pack
+_S_Qb_read = struct.Struct("<Q?").unpack_from
+_S_Qb_write = struct.Struct("<Q?").pack
+_S_IbI_read = struct.Struct("<I?I").unpack_from
+_S_IbI_write = struct.Struct("<I?I").pack
+_S_ibbi_read = struct.Struct("<i??i").unpack_from
+_S_ibbi_write = struct.Struct("<i??i").pack
+_S_IIIbIH_read = struct.Struct("<III?IH").unpack_from
+_S_IIIbIH_write = struct.Struct("<III?IH").pack
+_S_Ib_read = struct.Struct("<I?").unpack_from
+_S_Ib_write = struct.Struct("<I?").pack
+_S_bbbIbbb_read = struct.Struct("<???I???").unpack_from
+_S_bbbIbbb_write = struct.Struct("<???I???").pack
+_S_BBBIII_read = struct.Struct("<BBBIII").unpack_from
+_S_BBBIII_write = struct.Struct("<BBBIII").pack
+_S_QQQQQIQQ_read = struct.Struct("<QQQQQIQQ").unpack_from
+_S_QQQQQIQQ_write = struct.Struct("<QQQQQIQQ").pack
+_S_QQQQ_read = struct.Struct("<QQQQ").unpack_from
+_S_QQQQ_write = struct.Struct("<QQQQ").pack
+_S_bb_read = struct.Struct("<??").unpack_from
+_S_bb_write = struct.Struct("<??").pack
+_S_IIb_read = struct.Struct("<II?").unpack_from
+_S_IIb_write = struct.Struct("<II?").pack
+_S_IbQ_read = struct.Struct("<I?Q").unpack_from
+_S_IbQ_write = struct.Struct("<I?Q").pack
+_S_bQIQQQ_read = struct.Struct("<?QIQQQ").unpack_from
+_S_bQIQQQ_write = struct.Struct("<?QIQQQ").pack
+_S_IIIIIQIIIIH_read = struct.Struct("<IIIIIQIIIIH").unpack_from
+_S_IIIIIQIIIIH_write = struct.Struct("<IIIIIQIIIIH").pack
+_S_IIQ_read = struct.Struct("<IIQ").unpack_from
+_S_IIQ_write = struct.Struct("<IIQ").pack
+_S_H_read = struct.Struct("<H").unpack_from
+_S_H_write = struct.Struct("<H").pack
+_S_bIII_read = struct.Struct("<?III").unpack_from
+_S_bIII_write = struct.Struct("<?III").pack
 
 
 def read_MvciServerError(b: bytes, p: int) -> tuple[Optional[MvciServerError], int]:
@@ -403,6 +457,362 @@ def read_TargetFilter(b: bytes, p: int) -> tuple[Optional[TargetFilter], int]:
     return TargetFilter(pattern=v_pattern, flag=v_flag, value=v_value), p
 
 
+def read_ParameterInput(b: bytes, p: int) -> tuple[Optional[ParameterInput], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_children: list[Optional[ParameterInput]] = []
+    for _ in range(n):
+        e_v_children, p = read_ParameterInput(b, p)
+        v_children.append(e_v_children)
+    (n,) = _u32_read(b, p)
+    v_value = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return ParameterInput(name=v_name, children=v_children, value=v_value), p
+
+
+def read_ServiceInput(b: bytes, p: int) -> tuple[Optional[ServiceInput], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_parameters: list[Optional[ParameterInput]] = []
+    for _ in range(n):
+        e_v_parameters, p = read_ParameterInput(b, p)
+        v_parameters.append(e_v_parameters)
+    (n,) = _u32_read(b, p)
+    v_service = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_data = b[p + 4 : p + 4 + n]
+    p += 4 + n
+    v_value, = _S_Q_read(b, p)
+    p += 8
+    return ServiceInput(parameters=v_parameters, service=v_service, data=v_data, value=v_value), p
+
+
+def read_ServiceResult(b: bytes, p: int) -> tuple[Optional[ServiceResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_responses: list[Optional[ResponseResult]] = []
+    for _ in range(n):
+        e_v_responses, p = read_ResponseResult(b, p)
+        v_responses.append(e_v_responses)
+    v_status, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_error, p = read_KelError(b, p)
+    v_request, p = read_RequestResult(b, p)
+    v_value1, = _S_i_read(b, p)
+    p += 4
+    return ServiceResult(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, responses=v_responses, status=v_status, text1=v_text1, error=v_error, request=v_request, value1=v_value1), p
+
+
+def read_ResponseResult(b: bytes, p: int) -> tuple[Optional[ResponseResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag, = _S_b_read(b, p)
+    p += 1
+    v_error, p = read_KelError(b, p)
+    (n,) = _u32_read(b, p)
+    v_data = b[p + 4 : p + 4 + n]
+    p += 4 + n
+    v_value1, v_value2 = _S_QQ_read(b, p)
+    p += 16
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_parameters: list[Optional[ParameterResult]] = []
+    for _ in range(n):
+        e_v_parameters, p = read_ParameterResult(b, p)
+        v_parameters.append(e_v_parameters)
+    return ResponseResult(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, flag=v_flag, error=v_error, data=v_data, value1=v_value1, value2=v_value2, parameters=v_parameters), p
+
+
+def read_RequestResult(b: bytes, p: int) -> tuple[Optional[RequestResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_error, p = read_KelError(b, p)
+    (n,) = _u32_read(b, p)
+    v_data = b[p + 4 : p + 4 + n]
+    p += 4 + n
+    v_value1, v_value2 = _S_QQ_read(b, p)
+    p += 16
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_parameters: list[Optional[ParameterResult]] = []
+    for _ in range(n):
+        e_v_parameters, p = read_ParameterResult(b, p)
+        v_parameters.append(e_v_parameters)
+    return RequestResult(error=v_error, data=v_data, value1=v_value1, value2=v_value2, parameters=v_parameters), p
+
+
+def read_UnlockResult(b: bytes, p: int) -> tuple[Optional[UnlockResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value, = _S_Q_read(b, p)
+    p += 8
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_services: list[Optional[ServiceResult]] = []
+    for _ in range(n):
+        e_v_services, p = read_ServiceResult(b, p)
+        v_services.append(e_v_services)
+    return UnlockResult(value=v_value, services=v_services), p
+
+
+def read_ServiceInfo(b: bytes, p: int) -> tuple[Optional[ServiceInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag, = _S_b_read(b, p)
+    p += 1
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_responses: list[Optional[ResponseInfo]] = []
+    for _ in range(n):
+        e_v_responses, p = read_ResponseInfo(b, p)
+        v_responses.append(e_v_responses)
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_parameters: list[Optional[ParameterInfo]] = []
+    for _ in range(n):
+        e_v_parameters, p = read_ParameterInfo(b, p)
+        v_parameters.append(e_v_parameters)
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_items: list[Optional[NamedItem]] = []
+    for _ in range(n):
+        e_v_items, p = read_NamedItem(b, p)
+        v_items.append(e_v_items)
+    v_error, p = read_KelError(b, p)
+    v_values = list(_S_5I_read(b, p))
+    p += 20
+    return ServiceInfo(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, flag=v_flag, responses=v_responses, parameters=v_parameters, text1=v_text1, items=v_items, error=v_error, values=v_values), p
+
+
+def read_ResponseInfo(b: bytes, p: int) -> tuple[Optional[ResponseInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_status, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_parameters: list[Optional[ParameterInfo]] = []
+    for _ in range(n):
+        e_v_parameters, p = read_ParameterInfo(b, p)
+        v_parameters.append(e_v_parameters)
+    return ResponseInfo(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, status=v_status, parameters=v_parameters), p
+
+
+def read_ParameterInfo(b: bytes, p: int) -> tuple[Optional[ParameterInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value1, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_children: list[Optional[ParameterInfo]] = []
+    for _ in range(n):
+        e_v_children, p = read_ParameterInfo(b, p)
+        v_children.append(e_v_children)
+    (n,) = _u32_read(b, p)
+    v_text5 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_names, p = read_texts(b, p)
+    v_flag1, v_value2 = _S_bi_read(b, p)
+    p += 5
+    v_error, p = read_KelError(b, p)
+    v_flag2, = _S_b_read(b, p)
+    p += 1
+    v_values = list(_S_8I_read(b, p))
+    p += 32
+    v_flag3, = _S_b_read(b, p)
+    p += 1
+    v_constraint1, p = read_ConstraintInfo(b, p)
+    v_constraint2, p = read_ConstraintInfo(b, p)
+    (n,) = _u32_read(b, p)
+    v_text6 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text7 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag4, = _S_b_read(b, p)
+    p += 1
+    v_unit, p = read_UnitInfo(b, p)
+    return ParameterInfo(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text1=v_text1, text2=v_text2, text3=v_text3, value1=v_value1, text4=v_text4, children=v_children, text5=v_text5, names=v_names, flag1=v_flag1, value2=v_value2, error=v_error, flag2=v_flag2, values=v_values, flag3=v_flag3, constraint1=v_constraint1, constraint2=v_constraint2, text6=v_text6, text7=v_text7, flag4=v_flag4, unit=v_unit), p
+
+
+def read_ConstraintInfo(b: bytes, p: int) -> tuple[Optional[ConstraintInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag, = _S_b_read(b, p)
+    p += 1
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_scales: list[Optional[ScaleConstraintInfo]] = []
+    for _ in range(n):
+        e_v_scales, p = read_ScaleConstraintInfo(b, p)
+        v_scales.append(e_v_scales)
+    return ConstraintInfo(text1=v_text1, text2=v_text2, flag=v_flag, scales=v_scales), p
+
+
+def read_ScaleConstraintInfo(b: bytes, p: int) -> tuple[Optional[ScaleConstraintInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag, v_value = _S_bi_read(b, p)
+    p += 5
+    return ScaleConstraintInfo(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text1=v_text1, text2=v_text2, flag=v_flag, value=v_value), p
+
+
+def read_UnitInfo(b: bytes, p: int) -> tuple[Optional[UnitInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_values = list(_S_7I_read(b, p))
+    p += 28
+    v_value1, v_flag1, v_value2, v_flag2 = _S_QbQb_read(b, p)
+    p += 18
+    return UnitInfo(values=v_values, value1=v_value1, flag1=v_flag1, value2=v_value2, flag2=v_flag2), p
+
+
+def read_ParameterInfoConfig(b: bytes, p: int) -> tuple[Optional[ParameterInfoConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return ParameterInfoConfig(text1=v_text1, text2=v_text2, value=v_value, text3=v_text3, text4=v_text4), p
+
+
 def read_KelEvent(b: bytes, p: int) -> tuple[Optional[KelEvent], int]:
     if not b[p]:
         return None, p + 1
@@ -433,6 +843,1071 @@ def read_EventReport(b: bytes, p: int) -> tuple[Optional[EventReport], int]:
         e_v_events, p = read_KelEvent(b, p)
         v_events.append(e_v_events)
     return EventReport(events=v_events), p
+
+
+def read_FileFilter(b: bytes, p: int) -> tuple[Optional[FileFilter], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_pattern = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag, v_value = _S_bI_read(b, p)
+    p += 5
+    return FileFilter(pattern=v_pattern, flag=v_flag, value=v_value), p
+
+
+def read_TargetConfig(b: bytes, p: int) -> tuple[Optional[TargetConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return TargetConfig(value=v_value, text1=v_text1, text2=v_text2), p
+
+
+def read_ProjectConfig(b: bytes, p: int) -> tuple[Optional[ProjectConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_filters1: list[Optional[FileFilter]] = []
+    for _ in range(n):
+        e_v_filters1, p = read_FileFilter(b, p)
+        v_filters1.append(e_v_filters1)
+    v_value0, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_targets: list[Optional[TargetConfig]] = []
+    for _ in range(n):
+        e_v_targets, p = read_TargetConfig(b, p)
+        v_targets.append(e_v_targets)
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_filters2: list[Optional[FileFilter]] = []
+    for _ in range(n):
+        e_v_filters2, p = read_FilterPattern(b, p)
+        v_filters2.append(e_v_filters2)
+    v_strings1, p = read_texts(b, p)
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value1, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_strings2, p = read_texts(b, p)
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value2, v_value3 = _S_II_read(b, p)
+    p += 8
+    v_flags = list(_S_4b_read(b, p))
+    p += 4
+    return ProjectConfig(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, filters1=v_filters1, value0=v_value0, targets=v_targets, filters2=v_filters2, strings1=v_strings1, text1=v_text1, value1=v_value1, text2=v_text2, strings2=v_strings2, text3=v_text3, value2=v_value2, value3=v_value3, flags=v_flags), p
+
+
+def read_ProjectDetails(b: bytes, p: int) -> tuple[Optional[ProjectDetails], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_db_files1: list[Optional[DbFileInfo]] = []
+    for _ in range(n):
+        e_v_db_files1, p = read_DbFileInfo(b, p)
+        v_db_files1.append(e_v_db_files1)
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_db_files2: list[Optional[DbFileInfo]] = []
+    for _ in range(n):
+        e_v_db_files2, p = read_DbFileInfo(b, p)
+        v_db_files2.append(e_v_db_files2)
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value1, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value2, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_users: list[Optional[UserInfo]] = []
+    for _ in range(n):
+        e_v_users, p = read_UserInfo(b, p)
+        v_users.append(e_v_users)
+    return ProjectDetails(db_files1=v_db_files1, db_files2=v_db_files2, text1=v_text1, value1=v_value1, text2=v_text2, value2=v_value2, users=v_users), p
+
+
+def read_DbFileInfo(b: bytes, p: int) -> tuple[Optional[DbFileInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_path = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_size, v_loaded = _S_Qb_read(b, p)
+    p += 9
+    v_error, p = read_KelError(b, p)
+    return DbFileInfo(name=v_name, path=v_path, size=v_size, loaded=v_loaded, error=v_error), p
+
+
+def read_SystemInfo(b: bytes, p: int) -> tuple[Optional[SystemInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, v_value2 = _S_II_read(b, p)
+    p += 8
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value3, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return SystemInfo(value1=v_value1, value2=v_value2, text1=v_text1, value3=v_value3, text2=v_text2, text3=v_text3, text4=v_text4), p
+
+
+def read_SystemProperty(b: bytes, p: int) -> tuple[Optional[SystemProperty], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value1, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_children: list[Optional[SystemProperty]] = []
+    for _ in range(n):
+        e_v_children, p = read_SystemProperty(b, p)
+        v_children.append(e_v_children)
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_error, p = read_KelError(b, p)
+    (n,) = _u32_read(b, p)
+    v_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value2, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_data = b[p + 4 : p + 4 + n]
+    p += 4 + n
+    v_value3, v_flag, v_value4 = _S_IbI_read(b, p)
+    p += 9
+    return SystemProperty(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text1=v_text1, text2=v_text2, value1=v_value1, children=v_children, text3=v_text3, error=v_error, text4=v_text4, value2=v_value2, data=v_data, value3=v_value3, flag=v_flag, value4=v_value4), p
+
+
+def read_TarnApiConfig(b: bytes, p: int) -> tuple[Optional[TarnApiConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, v_flag1, v_flag2, v_value2 = _S_ibbi_read(b, p)
+    p += 10
+    v_server, p = read_ServerConfig(b, p)
+    v_value3, v_value4, v_value5, v_flag3, v_value6, v_value7 = _S_IIIbIH_read(b, p)
+    p += 19
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_oauth2_configs: list[Optional[Oauth2Config]] = []
+    for _ in range(n):
+        e_v_oauth2_configs, p = read_Oauth2Config(b, p)
+        v_oauth2_configs.append(e_v_oauth2_configs)
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return TarnApiConfig(value1=v_value1, flag1=v_flag1, flag2=v_flag2, value2=v_value2, server=v_server, value3=v_value3, value4=v_value4, value5=v_value5, flag3=v_flag3, value6=v_value6, value7=v_value7, oauth2_configs=v_oauth2_configs, text=v_text), p
+
+
+def read_ServerConfig(b: bytes, p: int) -> tuple[Optional[ServerConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_address = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_port, v_enabled = _S_Ib_read(b, p)
+    p += 5
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return ServerConfig(address=v_address, port=v_port, enabled=v_enabled, name=v_name), p
+
+
+def read_Oauth2Config(b: bytes, p: int) -> tuple[Optional[Oauth2Config], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_issuer = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_client_id = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_scopes, p = read_texts(b, p)
+    (n,) = _u32_read(b, p)
+    v_redirect_url = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return Oauth2Config(issuer=v_issuer, client_id=v_client_id, scopes=v_scopes, redirect_url=v_redirect_url), p
+
+
+def read_MoxConfig(b: bytes, p: int) -> tuple[Optional[MoxConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text5 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag1, v_flag2, v_flag3, v_value, v_flag4, v_flag5, v_flag6 = _S_bbbIbbb_read(b, p)
+    p += 10
+    (n,) = _u32_read(b, p)
+    v_text6 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text7 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_tcp, p = read_TcpInfo(b, p)
+    return MoxConfig(text1=v_text1, text2=v_text2, text3=v_text3, text4=v_text4, text5=v_text5, flag1=v_flag1, flag2=v_flag2, flag3=v_flag3, value=v_value, flag4=v_flag4, flag5=v_flag5, flag6=v_flag6, text6=v_text6, text7=v_text7, tcp=v_tcp), p
+
+
+def read_TcpInfo(b: bytes, p: int) -> tuple[Optional[TcpInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, v_value2, v_value3, v_value4, v_value5, v_value6 = _S_BBBIII_read(b, p)
+    p += 15
+    return TcpInfo(value1=v_value1, value2=v_value2, value3=v_value3, value4=v_value4, value5=v_value5, value6=v_value6), p
+
+
+def read_StatusInfo(b: bytes, p: int) -> tuple[Optional[StatusInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, v_value2, v_value3, v_value4, v_value5, v_value6, v_value7, v_value8 = _S_QQQQQIQQ_read(b, p)
+    p += 60
+    return StatusInfo(value1=v_value1, value2=v_value2, value3=v_value3, value4=v_value4, value5=v_value5, value6=v_value6, value7=v_value7, value8=v_value8), p
+
+
+def read_TransmissionInfo(b: bytes, p: int) -> tuple[Optional[TransmissionInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, v_value2, v_value3, v_value4 = _S_QQQQ_read(b, p)
+    p += 32
+    return TransmissionInfo(value1=v_value1, value2=v_value2, value3=v_value3, value4=v_value4), p
+
+
+def read_ProcessInfo(b: bytes, p: int) -> tuple[Optional[ProcessInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_processes: list[Optional[ProcessEntry]] = []
+    for _ in range(n):
+        e_v_processes, p = read_ProcessEntry(b, p)
+        v_processes.append(e_v_processes)
+    v_flag1, v_flag2 = _S_bb_read(b, p)
+    p += 2
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return ProcessInfo(processes=v_processes, flag1=v_flag1, flag2=v_flag2, text=v_text), p
+
+
+def read_ProcessEntry(b: bytes, p: int) -> tuple[Optional[ProcessEntry], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_items1: list[Optional[ProcessThread]] = []
+    for _ in range(n):
+        e_v_items1, p = read_ProcessThread(b, p)
+        v_items1.append(e_v_items1)
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_items2: list[Optional[ProcessMemory]] = []
+    for _ in range(n):
+        e_v_items2, p = read_ProcessMemory(b, p)
+        v_items2.append(e_v_items2)
+    return ProcessEntry(value=v_value, items1=v_items1, text=v_text, items2=v_items2), p
+
+
+def read_ProcessThread(b: bytes, p: int) -> tuple[Optional[ProcessThread], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_id, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return ProcessThread(id=v_id, name=v_name), p
+
+
+def read_ProcessMemory(b: bytes, p: int) -> tuple[Optional[ProcessMemory], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_bytes, = _S_Q_read(b, p)
+    p += 8
+    return ProcessMemory(name=v_name, bytes=v_bytes), p
+
+
+def read_GlobalProtocolParameterSet(b: bytes, p: int) -> tuple[Optional[GlobalProtocolParameterSet], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_parameters: list[Optional[GlobalProtocolParameter]] = []
+    for _ in range(n):
+        e_v_parameters, p = read_GlobalProtocolParameter(b, p)
+        v_parameters.append(e_v_parameters)
+    return GlobalProtocolParameterSet(text1=v_text1, text2=v_text2, text3=v_text3, text4=v_text4, parameters=v_parameters), p
+
+
+def read_GlobalProtocolParameter(b: bytes, p: int) -> tuple[Optional[GlobalProtocolParameter], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_value = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_default_value = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_infos: list[Optional[ParameterInfo]] = []
+    for _ in range(n):
+        e_v_infos, p = read_ParameterInfo(b, p)
+        v_infos.append(e_v_infos)
+    v_choices, p = read_texts(b, p)
+    v_error, p = read_KelError(b, p)
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_constraints: list[Optional[ConstraintInfo]] = []
+    for _ in range(n):
+        e_v_constraints, p = read_ConstraintInfo(b, p)
+        v_constraints.append(e_v_constraints)
+    v_tcp, p = read_TcpInfo(b, p)
+    v_value1, v_flag = _S_Ib_read(b, p)
+    p += 5
+    return GlobalProtocolParameter(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, value=v_value, default_value=v_default_value, infos=v_infos, choices=v_choices, error=v_error, constraints=v_constraints, tcp=v_tcp, value1=v_value1, flag=v_flag), p
+
+
+def read_LoadDatabaseResult(b: bytes, p: int) -> tuple[Optional[LoadDatabaseResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag, = _S_b_read(b, p)
+    p += 1
+    v_error, p = read_KelError(b, p)
+    return LoadDatabaseResult(text=v_text, flag=v_flag, error=v_error), p
+
+
+def read_InterfaceInformation(b: bytes, p: int) -> tuple[Optional[InterfaceInformation], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_resources: list[Optional[ResourceInformation]] = []
+    for _ in range(n):
+        e_v_resources, p = read_ResourceInformation(b, p)
+        v_resources.append(e_v_resources)
+    v_flag1, v_flag2 = _S_bb_read(b, p)
+    p += 2
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag3, = _S_b_read(b, p)
+    p += 1
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_items: list[Optional[InterfaceInformationItem]] = []
+    for _ in range(n):
+        e_v_items, p = read_InterfaceInformationItem(b, p)
+        v_items.append(e_v_items)
+    v_value, = _S_Q_read(b, p)
+    p += 8
+    return InterfaceInformation(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, resources=v_resources, flag1=v_flag1, flag2=v_flag2, text1=v_text1, text2=v_text2, flag3=v_flag3, items=v_items, value=v_value), p
+
+
+def read_ResourceInformation(b: bytes, p: int) -> tuple[Optional[ResourceInformation], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_id, v_pin, v_in_use = _S_IIb_read(b, p)
+    p += 9
+    return ResourceInformation(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, id=v_id, pin=v_pin, in_use=v_in_use), p
+
+
+def read_InterfaceInformationItem(b: bytes, p: int) -> tuple[Optional[InterfaceInformationItem], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return InterfaceInformationItem(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
+
+
+def read_ScanInterfaceResult(b: bytes, p: int) -> tuple[Optional[ScanInterfaceResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_interface_info, p = read_InterfaceInformation(b, p)
+    v_error, p = read_KelError(b, p)
+    return ScanInterfaceResult(interface_info=v_interface_info, error=v_error), p
+
+
+def read_DynInterfaceDetection(b: bytes, p: int) -> tuple[Optional[DynInterfaceDetection], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name_pattern = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_kind = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_only_free, = _S_b_read(b, p)
+    p += 1
+    return DynInterfaceDetection(name_pattern=v_name_pattern, kind=v_kind, only_free=v_only_free), p
+
+
+def read_ModuleDyn(b: bytes, p: int) -> tuple[Optional[ModuleDyn], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_long_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_vendor = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_kind = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_address = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_vendor_module, p = read_InterfaceInformationItem(b, p)
+    v_connected, = _S_b_read(b, p)
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_serial_number = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_firmware = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_network = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_resources: list[Optional[ResourceInformation]] = []
+    for _ in range(n):
+        e_v_resources, p = read_ResourceInformation(b, p)
+        v_resources.append(e_v_resources)
+    v_port, v_exclusive, v_handle = _S_IbQ_read(b, p)
+    p += 13
+    return ModuleDyn(name=v_name, long_name=v_long_name, vendor=v_vendor, kind=v_kind, address=v_address, vendor_module=v_vendor_module, connected=v_connected, serial_number=v_serial_number, firmware=v_firmware, network=v_network, resources=v_resources, port=v_port, exclusive=v_exclusive, handle=v_handle), p
+
+
+def read_DeviceInfo(b: bytes, p: int) -> tuple[Optional[DeviceInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value1, v_value2 = _S_II_read(b, p)
+    p += 8
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value3, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text5 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value4, v_value5 = _S_II_read(b, p)
+    p += 8
+    (n,) = _u32_read(b, p)
+    v_text6 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_protocols, p = read_texts(b, p)
+    (n,) = _u32_read(b, p)
+    v_text7 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_modules, p = read_texts(b, p)
+    (n,) = _u32_read(b, p)
+    v_text8 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag, v_value6, v_value7, v_value8, v_value9, v_value10 = _S_bQIQQQ_read(b, p)
+    p += 37
+    return DeviceInfo(text1=v_text1, value1=v_value1, value2=v_value2, text2=v_text2, text3=v_text3, value3=v_value3, text4=v_text4, text5=v_text5, value4=v_value4, value5=v_value5, text6=v_text6, protocols=v_protocols, text7=v_text7, modules=v_modules, text8=v_text8, flag=v_flag, value6=v_value6, value7=v_value7, value8=v_value8, value9=v_value9, value10=v_value10), p
+
+
+def read_PhysicalLinksOnModule(b: bytes, p: int) -> tuple[Optional[PhysicalLinksOnModule], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_module = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_links: list[Optional[PhysicalLink]] = []
+    for _ in range(n):
+        e_v_links, p = read_PhysicalLink(b, p)
+        v_links.append(e_v_links)
+    return PhysicalLinksOnModule(module=v_module, links=v_links), p
+
+
+def read_PhysicalLink(b: bytes, p: int) -> tuple[Optional[PhysicalLink], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_baudrate, v_enabled = _S_Ib_read(b, p)
+    p += 5
+    return PhysicalLink(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, baudrate=v_baudrate, enabled=v_enabled), p
+
+
+def read_InterfaceConfiguration(b: bytes, p: int) -> tuple[Optional[InterfaceConfiguration], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_entries: list[Optional[InterfaceConfigurationEntry]] = []
+    for _ in range(n):
+        e_v_entries, p = read_InterfaceConfigurationEntry(b, p)
+        v_entries.append(e_v_entries)
+    return InterfaceConfiguration(entries=v_entries), p
+
+
+def read_InterfaceConfigurationEntry(b: bytes, p: int) -> tuple[Optional[InterfaceConfigurationEntry], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text5 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value, v_flag = _S_Ib_read(b, p)
+    p += 5
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_items: list[Optional[ResourceInformation]] = []
+    for _ in range(n):
+        e_v_items, p = read_ResourceInformation(b, p)
+        v_items.append(e_v_items)
+    return InterfaceConfigurationEntry(text1=v_text1, text2=v_text2, text3=v_text3, text4=v_text4, text5=v_text5, value=v_value, flag=v_flag, items=v_items), p
+
+
+def read_InterfaceProvider(b: bytes, p: int) -> tuple[Optional[InterfaceProvider], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value, v_flag = _S_Ib_read(b, p)
+    p += 5
+    return InterfaceProvider(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text=v_text, value=v_value, flag=v_flag), p
+
+
+def read_DoIPParameter(b: bytes, p: int) -> tuple[Optional[DoIPParameter], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, v_value2 = _S_II_read(b, p)
+    p += 8
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value3, = _S_I_read(b, p)
+    p += 4
+    v_strings, p = read_texts(b, p)
+    return DoIPParameter(value1=v_value1, value2=v_value2, text=v_text, value3=v_value3, strings=v_strings), p
+
+
+def read_WLanSignalData(b: bytes, p: int) -> tuple[Optional[WLanSignalData], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, v_value2, v_value3, v_value4, v_value5, v_value6, v_value7, v_value8, v_value9, v_value10, v_value11 = _S_IIIIIQIIIIH_read(b, p)
+    p += 46
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return WLanSignalData(value1=v_value1, value2=v_value2, value3=v_value3, value4=v_value4, value5=v_value5, value6=v_value6, value7=v_value7, value8=v_value8, value9=v_value9, value10=v_value10, value11=v_value11, text=v_text), p
+
+
+def read_SupportedInterface(b: bytes, p: int) -> tuple[Optional[SupportedInterface], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_names, p = read_texts(b, p)
+    v_value, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return SupportedInterface(text1=v_text1, text2=v_text2, names=v_names, value=v_value, text3=v_text3), p
+
+
+def read_FileInfo(b: bytes, p: int) -> tuple[Optional[FileInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_error, p = read_KelError(b, p)
+    v_flag, v_value1 = _S_bI_read(b, p)
+    p += 5
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value2, v_value3 = _S_QQ_read(b, p)
+    p += 16
+    return FileInfo(name=v_name, error=v_error, flag=v_flag, value1=v_value1, text1=v_text1, text2=v_text2, value2=v_value2, value3=v_value3), p
+
+
+def read_DirectoryInfo(b: bytes, p: int) -> tuple[Optional[DirectoryInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_error, p = read_KelError(b, p)
+    v_flag, v_value1 = _S_bI_read(b, p)
+    p += 5
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_files: list[Optional[FileInfo]] = []
+    for _ in range(n):
+        e_v_files, p = read_FileInfo(b, p)
+        v_files.append(e_v_files)
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_directories: list[Optional[DirectoryInfo]] = []
+    for _ in range(n):
+        e_v_directories, p = read_DirectoryInfo(b, p)
+        v_directories.append(e_v_directories)
+    v_flag2, = _S_b_read(b, p)
+    p += 1
+    return DirectoryInfo(name=v_name, error=v_error, flag=v_flag, value1=v_value1, text1=v_text1, text2=v_text2, files=v_files, directories=v_directories, flag2=v_flag2), p
+
+
+def read_FileCopyResult(b: bytes, p: int) -> tuple[Optional[FileCopyResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_error, p = read_KelError(b, p)
+    v_file, p = read_FileInfo(b, p)
+    v_value2, = _S_i_read(b, p)
+    p += 4
+    return FileCopyResult(value1=v_value1, text=v_text, error=v_error, file=v_file, value2=v_value2), p
+
+
+def read_DirectoryCopyResult(b: bytes, p: int) -> tuple[Optional[DirectoryCopyResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_error, p = read_KelError(b, p)
+    v_directory, p = read_DirectoryCopyItem(b, p)
+    return DirectoryCopyResult(value1=v_value1, text=v_text, error=v_error, directory=v_directory), p
+
+
+def read_DirectoryCopyItem(b: bytes, p: int) -> tuple[Optional[DirectoryCopyItem], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_source = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_files, v_directories, v_bytes = _S_IIQ_read(b, p)
+    p += 16
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_failures: list[Optional[FileCopyResult]] = []
+    for _ in range(n):
+        e_v_failures, p = read_FileCopyResult(b, p)
+        v_failures.append(e_v_failures)
+    return DirectoryCopyItem(source=v_source, target=v_target, files=v_files, directories=v_directories, bytes=v_bytes, failures=v_failures), p
+
+
+def read_PathCopyResult(b: bytes, p: int) -> tuple[Optional[PathCopyResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, = _S_i_read(b, p)
+    p += 4
+    v_error, p = read_KelError(b, p)
+    v_value2, = _S_i_read(b, p)
+    p += 4
+    v_item, p = read_PathCopyItem(b, p)
+    return PathCopyResult(value1=v_value1, error=v_error, value2=v_value2, item=v_item), p
+
+
+def read_PathCopyItem(b: bytes, p: int) -> tuple[Optional[PathCopyItem], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_source = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_size, = _S_Q_read(b, p)
+    p += 8
+    return PathCopyItem(source=v_source, target=v_target, size=v_size), p
+
+
+def read_FileReferenceResult(b: bytes, p: int) -> tuple[Optional[FileReferenceResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_references, p = read_texts(b, p)
+    v_error, p = read_KelError(b, p)
+    return FileReferenceResult(references=v_references, error=v_error), p
+
+
+def read_FileCopyConfig(b: bytes, p: int) -> tuple[Optional[FileCopyConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_files, p = read_texts(b, p)
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_overwrite, = _S_b_read(b, p)
+    p += 1
+    return FileCopyConfig(files=v_files, target=v_target, overwrite=v_overwrite), p
+
+
+def read_DirectoryCopyConfig(b: bytes, p: int) -> tuple[Optional[DirectoryCopyConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_directories, p = read_texts(b, p)
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_overwrite, v_recursive = _S_bb_read(b, p)
+    p += 2
+    (n,) = _u32_read(b, p)
+    v_pattern = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return DirectoryCopyConfig(directories=v_directories, target=v_target, overwrite=v_overwrite, recursive=v_recursive, pattern=v_pattern), p
+
+
+def read_PathCopyConfig(b: bytes, p: int) -> tuple[Optional[PathCopyConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_source = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_overwrite, = _S_b_read(b, p)
+    p += 1
+    return PathCopyConfig(source=v_source, target=v_target, overwrite=v_overwrite), p
+
+
+def read_UserInfo(b: bytes, p: int) -> tuple[Optional[UserInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value, = _S_I_read(b, p)
+    p += 4
+    return UserInfo(name=v_name, text=v_text, value=v_value), p
+
+
+def read_LogInOutConfig(b: bytes, p: int) -> tuple[Optional[LogInOutConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_user = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_password = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return LogInOutConfig(user=v_user, password=v_password), p
+
+
+def read_TarnApiServerConfig(b: bytes, p: int) -> tuple[Optional[TarnApiServerConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_users: list[Optional[UserInfo]] = []
+    for _ in range(n):
+        e_v_users, p = read_UserInfo(b, p)
+        v_users.append(e_v_users)
+    v_flag, v_value1 = _S_bI_read(b, p)
+    p += 5
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_filters: list[Optional[FileFilter]] = []
+    for _ in range(n):
+        e_v_filters, p = read_FileFilter(b, p)
+        v_filters.append(e_v_filters)
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_users2: list[Optional[UserInfo]] = []
+    for _ in range(n):
+        e_v_users2, p = read_UserInfo(b, p)
+        v_users2.append(e_v_users2)
+    v_value2, = _S_H_read(b, p)
+    p += 2
+    return TarnApiServerConfig(users=v_users, flag=v_flag, value1=v_value1, text1=v_text1, text2=v_text2, filters=v_filters, text3=v_text3, text4=v_text4, users2=v_users2, value2=v_value2), p
+
+
+def read_ServerSettings(b: bytes, p: int) -> tuple[Optional[ServerSettings], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_flag, v_value1, v_value2, v_value3 = _S_bIII_read(b, p)
+    p += 13
+    return ServerSettings(flag=v_flag, value1=v_value1, value2=v_value2, value3=v_value3), p
 
 
 def read_SupportedDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
@@ -471,6 +1946,42 @@ def read_SpecialData(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     return NamedItem(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
+
+
+def read_FilterPattern(b: bytes, p: int) -> tuple[Optional[FileFilter], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_pattern = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_flag, = _S_b_read(b, p)
+    p += 1
+    return FileFilter(pattern=v_pattern, flag=v_flag), p
+
+
+def read_InterfaceProviderDyn(b: bytes, p: int) -> tuple[Optional[InterfaceProvider], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value, v_flag = _S_Ib_read(b, p)
+    p += 5
+    return InterfaceProvider(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text=v_text, value=v_value, flag=v_flag), p
 
 
 def write_MvciServerError(o: bytearray, v: Optional[MvciServerError]) -> None:
@@ -677,6 +2188,211 @@ def write_TargetFilter(o: bytearray, v: Optional[TargetFilter]) -> None:
     o += _S_Bi_write(v.flag, v.value)
 
 
+def write_ParameterInput(o: bytearray, v: Optional[ParameterInput]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    o += _U32.pack(len(v.children))
+    for e_children in v.children:
+        write_ParameterInput(o, e_children)
+    write_text(o, v.value)
+
+
+def write_ServiceInput(o: bytearray, v: Optional[ServiceInput]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _U32.pack(len(v.parameters))
+    for e_parameters in v.parameters:
+        write_ParameterInput(o, e_parameters)
+    write_text(o, v.service)
+    write_bytes(o, v.data)
+    o += _S_Q_write(v.value)
+
+
+def write_ServiceResult(o: bytearray, v: Optional[ServiceResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    o += _U32.pack(len(v.responses))
+    for e_responses in v.responses:
+        write_ResponseResult(o, e_responses)
+    o += _S_i_write(v.status)
+    write_text(o, v.text1)
+    write_KelError(o, v.error)
+    write_RequestResult(o, v.request)
+    o += _S_i_write(v.value1)
+
+
+def write_ResponseResult(o: bytearray, v: Optional[ResponseResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    o += _S_b_write(v.flag)
+    write_KelError(o, v.error)
+    write_bytes(o, v.data)
+    o += _S_QQ_write(v.value1, v.value2)
+    o += _U32.pack(len(v.parameters))
+    for e_parameters in v.parameters:
+        write_ParameterResult(o, e_parameters)
+
+
+def write_RequestResult(o: bytearray, v: Optional[RequestResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_KelError(o, v.error)
+    write_bytes(o, v.data)
+    o += _S_QQ_write(v.value1, v.value2)
+    o += _U32.pack(len(v.parameters))
+    for e_parameters in v.parameters:
+        write_ParameterResult(o, e_parameters)
+
+
+def write_UnlockResult(o: bytearray, v: Optional[UnlockResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_Q_write(v.value)
+    o += _U32.pack(len(v.services))
+    for e_services in v.services:
+        write_ServiceResult(o, e_services)
+
+
+def write_ServiceInfo(o: bytearray, v: Optional[ServiceInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    o += _S_b_write(v.flag)
+    o += _U32.pack(len(v.responses))
+    for e_responses in v.responses:
+        write_ResponseInfo(o, e_responses)
+    o += _U32.pack(len(v.parameters))
+    for e_parameters in v.parameters:
+        write_ParameterInfo(o, e_parameters)
+    write_text(o, v.text1)
+    o += _U32.pack(len(v.items))
+    for e_items in v.items:
+        write_NamedItem(o, e_items)
+    write_KelError(o, v.error)
+    o += _S_5I_write(*v.values)
+
+
+def write_ResponseInfo(o: bytearray, v: Optional[ResponseInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    o += _S_i_write(v.status)
+    o += _U32.pack(len(v.parameters))
+    for e_parameters in v.parameters:
+        write_ParameterInfo(o, e_parameters)
+
+
+def write_ParameterInfo(o: bytearray, v: Optional[ParameterInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    write_text(o, v.text3)
+    o += _S_i_write(v.value1)
+    write_text(o, v.text4)
+    o += _U32.pack(len(v.children))
+    for e_children in v.children:
+        write_ParameterInfo(o, e_children)
+    write_text(o, v.text5)
+    write_texts(o, v.names)
+    o += _S_bi_write(v.flag1, v.value2)
+    write_KelError(o, v.error)
+    o += _S_b_write(v.flag2)
+    o += _S_8I_write(*v.values)
+    o += _S_b_write(v.flag3)
+    write_ConstraintInfo(o, v.constraint1)
+    write_ConstraintInfo(o, v.constraint2)
+    write_text(o, v.text6)
+    write_text(o, v.text7)
+    o += _S_b_write(v.flag4)
+    write_UnitInfo(o, v.unit)
+
+
+def write_ConstraintInfo(o: bytearray, v: Optional[ConstraintInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    o += _S_b_write(v.flag)
+    o += _U32.pack(len(v.scales))
+    for e_scales in v.scales:
+        write_ScaleConstraintInfo(o, e_scales)
+
+
+def write_ScaleConstraintInfo(o: bytearray, v: Optional[ScaleConstraintInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    o += _S_bi_write(v.flag, v.value)
+
+
+def write_UnitInfo(o: bytearray, v: Optional[UnitInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_7I_write(*v.values)
+    o += _S_QbQb_write(v.value1, v.flag1, v.value2, v.flag2)
+
+
+def write_ParameterInfoConfig(o: bytearray, v: Optional[ParameterInfoConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    o += _S_i_write(v.value)
+    write_text(o, v.text3)
+    write_text(o, v.text4)
+
+
 def write_KelEvent(o: bytearray, v: Optional[KelEvent]) -> None:
     if v is None:
         o.append(0)
@@ -697,6 +2413,666 @@ def write_EventReport(o: bytearray, v: Optional[EventReport]) -> None:
     o += _U32.pack(len(v.events))
     for e_events in v.events:
         write_KelEvent(o, e_events)
+
+
+def write_FileFilter(o: bytearray, v: Optional[FileFilter]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.pattern)
+    o += _S_bI_write(v.flag, v.value)
+
+
+def write_TargetConfig(o: bytearray, v: Optional[TargetConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_i_write(v.value)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+
+
+def write_ProjectConfig(o: bytearray, v: Optional[ProjectConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    o += _U32.pack(len(v.filters1))
+    for e_filters1 in v.filters1:
+        write_FileFilter(o, e_filters1)
+    o += _S_i_write(v.value0)
+    o += _U32.pack(len(v.targets))
+    for e_targets in v.targets:
+        write_TargetConfig(o, e_targets)
+    o += _U32.pack(len(v.filters2))
+    for e_filters2 in v.filters2:
+        write_FilterPattern(o, e_filters2)
+    write_texts(o, v.strings1)
+    write_text(o, v.text1)
+    o += _S_I_write(v.value1)
+    write_text(o, v.text2)
+    write_texts(o, v.strings2)
+    write_text(o, v.text3)
+    o += _S_II_write(v.value2, v.value3)
+    o += _S_4b_write(*v.flags)
+
+
+def write_ProjectDetails(o: bytearray, v: Optional[ProjectDetails]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _U32.pack(len(v.db_files1))
+    for e_db_files1 in v.db_files1:
+        write_DbFileInfo(o, e_db_files1)
+    o += _U32.pack(len(v.db_files2))
+    for e_db_files2 in v.db_files2:
+        write_DbFileInfo(o, e_db_files2)
+    write_text(o, v.text1)
+    o += _S_I_write(v.value1)
+    write_text(o, v.text2)
+    o += _S_I_write(v.value2)
+    o += _U32.pack(len(v.users))
+    for e_users in v.users:
+        write_UserInfo(o, e_users)
+
+
+def write_DbFileInfo(o: bytearray, v: Optional[DbFileInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    write_text(o, v.path)
+    o += _S_Qb_write(v.size, v.loaded)
+    write_KelError(o, v.error)
+
+
+def write_SystemInfo(o: bytearray, v: Optional[SystemInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_II_write(v.value1, v.value2)
+    write_text(o, v.text1)
+    o += _S_I_write(v.value3)
+    write_text(o, v.text2)
+    write_text(o, v.text3)
+    write_text(o, v.text4)
+
+
+def write_SystemProperty(o: bytearray, v: Optional[SystemProperty]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    o += _S_I_write(v.value1)
+    o += _U32.pack(len(v.children))
+    for e_children in v.children:
+        write_SystemProperty(o, e_children)
+    write_text(o, v.text3)
+    write_KelError(o, v.error)
+    write_text(o, v.text4)
+    o += _S_I_write(v.value2)
+    write_bytes(o, v.data)
+    o += _S_IbI_write(v.value3, v.flag, v.value4)
+
+
+def write_TarnApiConfig(o: bytearray, v: Optional[TarnApiConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_ibbi_write(v.value1, v.flag1, v.flag2, v.value2)
+    write_ServerConfig(o, v.server)
+    o += _S_IIIbIH_write(v.value3, v.value4, v.value5, v.flag3, v.value6, v.value7)
+    o += _U32.pack(len(v.oauth2_configs))
+    for e_oauth2_configs in v.oauth2_configs:
+        write_Oauth2Config(o, e_oauth2_configs)
+    write_text(o, v.text)
+
+
+def write_ServerConfig(o: bytearray, v: Optional[ServerConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.address)
+    o += _S_Ib_write(v.port, v.enabled)
+    write_text(o, v.name)
+
+
+def write_Oauth2Config(o: bytearray, v: Optional[Oauth2Config]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.issuer)
+    write_text(o, v.client_id)
+    write_texts(o, v.scopes)
+    write_text(o, v.redirect_url)
+
+
+def write_MoxConfig(o: bytearray, v: Optional[MoxConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    write_text(o, v.text3)
+    write_text(o, v.text4)
+    write_text(o, v.text5)
+    o += _S_bbbIbbb_write(v.flag1, v.flag2, v.flag3, v.value, v.flag4, v.flag5, v.flag6)
+    write_text(o, v.text6)
+    write_text(o, v.text7)
+    write_TcpInfo(o, v.tcp)
+
+
+def write_TcpInfo(o: bytearray, v: Optional[TcpInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_BBBIII_write(v.value1, v.value2, v.value3, v.value4, v.value5, v.value6)
+
+
+def write_StatusInfo(o: bytearray, v: Optional[StatusInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_QQQQQIQQ_write(v.value1, v.value2, v.value3, v.value4, v.value5, v.value6, v.value7, v.value8)
+
+
+def write_TransmissionInfo(o: bytearray, v: Optional[TransmissionInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_QQQQ_write(v.value1, v.value2, v.value3, v.value4)
+
+
+def write_ProcessInfo(o: bytearray, v: Optional[ProcessInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _U32.pack(len(v.processes))
+    for e_processes in v.processes:
+        write_ProcessEntry(o, e_processes)
+    o += _S_bb_write(v.flag1, v.flag2)
+    write_text(o, v.text)
+
+
+def write_ProcessEntry(o: bytearray, v: Optional[ProcessEntry]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_I_write(v.value)
+    o += _U32.pack(len(v.items1))
+    for e_items1 in v.items1:
+        write_ProcessThread(o, e_items1)
+    write_text(o, v.text)
+    o += _U32.pack(len(v.items2))
+    for e_items2 in v.items2:
+        write_ProcessMemory(o, e_items2)
+
+
+def write_ProcessThread(o: bytearray, v: Optional[ProcessThread]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_I_write(v.id)
+    write_text(o, v.name)
+
+
+def write_ProcessMemory(o: bytearray, v: Optional[ProcessMemory]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    o += _S_Q_write(v.bytes)
+
+
+def write_GlobalProtocolParameterSet(o: bytearray, v: Optional[GlobalProtocolParameterSet]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    write_text(o, v.text3)
+    write_text(o, v.text4)
+    o += _U32.pack(len(v.parameters))
+    for e_parameters in v.parameters:
+        write_GlobalProtocolParameter(o, e_parameters)
+
+
+def write_GlobalProtocolParameter(o: bytearray, v: Optional[GlobalProtocolParameter]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    write_text(o, v.value)
+    write_text(o, v.default_value)
+    o += _U32.pack(len(v.infos))
+    for e_infos in v.infos:
+        write_ParameterInfo(o, e_infos)
+    write_texts(o, v.choices)
+    write_KelError(o, v.error)
+    o += _U32.pack(len(v.constraints))
+    for e_constraints in v.constraints:
+        write_ConstraintInfo(o, e_constraints)
+    write_TcpInfo(o, v.tcp)
+    o += _S_Ib_write(v.value1, v.flag)
+
+
+def write_LoadDatabaseResult(o: bytearray, v: Optional[LoadDatabaseResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.text)
+    o += _S_b_write(v.flag)
+    write_KelError(o, v.error)
+
+
+def write_InterfaceInformation(o: bytearray, v: Optional[InterfaceInformation]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    o += _U32.pack(len(v.resources))
+    for e_resources in v.resources:
+        write_ResourceInformation(o, e_resources)
+    o += _S_bb_write(v.flag1, v.flag2)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    o += _S_b_write(v.flag3)
+    o += _U32.pack(len(v.items))
+    for e_items in v.items:
+        write_InterfaceInformationItem(o, e_items)
+    o += _S_Q_write(v.value)
+
+
+def write_ResourceInformation(o: bytearray, v: Optional[ResourceInformation]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    o += _S_IIb_write(v.id, v.pin, v.in_use)
+
+
+def write_InterfaceInformationItem(o: bytearray, v: Optional[InterfaceInformationItem]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+
+
+def write_ScanInterfaceResult(o: bytearray, v: Optional[ScanInterfaceResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_InterfaceInformation(o, v.interface_info)
+    write_KelError(o, v.error)
+
+
+def write_DynInterfaceDetection(o: bytearray, v: Optional[DynInterfaceDetection]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name_pattern)
+    write_text(o, v.kind)
+    o += _S_b_write(v.only_free)
+
+
+def write_ModuleDyn(o: bytearray, v: Optional[ModuleDyn]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    write_text(o, v.long_name)
+    write_text(o, v.vendor)
+    write_text(o, v.kind)
+    write_text(o, v.address)
+    write_InterfaceInformationItem(o, v.vendor_module)
+    o += _S_b_write(v.connected)
+    write_text(o, v.serial_number)
+    write_text(o, v.firmware)
+    write_text(o, v.network)
+    o += _U32.pack(len(v.resources))
+    for e_resources in v.resources:
+        write_ResourceInformation(o, e_resources)
+    o += _S_IbQ_write(v.port, v.exclusive, v.handle)
+
+
+def write_DeviceInfo(o: bytearray, v: Optional[DeviceInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.text1)
+    o += _S_II_write(v.value1, v.value2)
+    write_text(o, v.text2)
+    write_text(o, v.text3)
+    o += _S_I_write(v.value3)
+    write_text(o, v.text4)
+    write_text(o, v.text5)
+    o += _S_II_write(v.value4, v.value5)
+    write_text(o, v.text6)
+    write_texts(o, v.protocols)
+    write_text(o, v.text7)
+    write_texts(o, v.modules)
+    write_text(o, v.text8)
+    o += _S_bQIQQQ_write(v.flag, v.value6, v.value7, v.value8, v.value9, v.value10)
+
+
+def write_PhysicalLinksOnModule(o: bytearray, v: Optional[PhysicalLinksOnModule]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.module)
+    o += _U32.pack(len(v.links))
+    for e_links in v.links:
+        write_PhysicalLink(o, e_links)
+
+
+def write_PhysicalLink(o: bytearray, v: Optional[PhysicalLink]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    o += _S_Ib_write(v.baudrate, v.enabled)
+
+
+def write_InterfaceConfiguration(o: bytearray, v: Optional[InterfaceConfiguration]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _U32.pack(len(v.entries))
+    for e_entries in v.entries:
+        write_InterfaceConfigurationEntry(o, e_entries)
+
+
+def write_InterfaceConfigurationEntry(o: bytearray, v: Optional[InterfaceConfigurationEntry]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    write_text(o, v.text3)
+    write_text(o, v.text4)
+    write_text(o, v.text5)
+    o += _S_Ib_write(v.value, v.flag)
+    o += _U32.pack(len(v.items))
+    for e_items in v.items:
+        write_ResourceInformation(o, e_items)
+
+
+def write_InterfaceProvider(o: bytearray, v: Optional[InterfaceProvider]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    write_text(o, v.text)
+    o += _S_Ib_write(v.value, v.flag)
+
+
+def write_DoIPParameter(o: bytearray, v: Optional[DoIPParameter]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_II_write(v.value1, v.value2)
+    write_text(o, v.text)
+    o += _S_I_write(v.value3)
+    write_texts(o, v.strings)
+
+
+def write_WLanSignalData(o: bytearray, v: Optional[WLanSignalData]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_IIIIIQIIIIH_write(v.value1, v.value2, v.value3, v.value4, v.value5, v.value6, v.value7, v.value8, v.value9, v.value10, v.value11)
+    write_text(o, v.text)
+
+
+def write_SupportedInterface(o: bytearray, v: Optional[SupportedInterface]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    write_texts(o, v.names)
+    o += _S_I_write(v.value)
+    write_text(o, v.text3)
+
+
+def write_FileInfo(o: bytearray, v: Optional[FileInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    write_KelError(o, v.error)
+    o += _S_bI_write(v.flag, v.value1)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    o += _S_QQ_write(v.value2, v.value3)
+
+
+def write_DirectoryInfo(o: bytearray, v: Optional[DirectoryInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    write_KelError(o, v.error)
+    o += _S_bI_write(v.flag, v.value1)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    o += _U32.pack(len(v.files))
+    for e_files in v.files:
+        write_FileInfo(o, e_files)
+    o += _U32.pack(len(v.directories))
+    for e_directories in v.directories:
+        write_DirectoryInfo(o, e_directories)
+    o += _S_b_write(v.flag2)
+
+
+def write_FileCopyResult(o: bytearray, v: Optional[FileCopyResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_i_write(v.value1)
+    write_text(o, v.text)
+    write_KelError(o, v.error)
+    write_FileInfo(o, v.file)
+    o += _S_i_write(v.value2)
+
+
+def write_DirectoryCopyResult(o: bytearray, v: Optional[DirectoryCopyResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_i_write(v.value1)
+    write_text(o, v.text)
+    write_KelError(o, v.error)
+    write_DirectoryCopyItem(o, v.directory)
+
+
+def write_DirectoryCopyItem(o: bytearray, v: Optional[DirectoryCopyItem]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.source)
+    write_text(o, v.target)
+    o += _S_IIQ_write(v.files, v.directories, v.bytes)
+    o += _U32.pack(len(v.failures))
+    for e_failures in v.failures:
+        write_FileCopyResult(o, e_failures)
+
+
+def write_PathCopyResult(o: bytearray, v: Optional[PathCopyResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_i_write(v.value1)
+    write_KelError(o, v.error)
+    o += _S_i_write(v.value2)
+    write_PathCopyItem(o, v.item)
+
+
+def write_PathCopyItem(o: bytearray, v: Optional[PathCopyItem]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.source)
+    write_text(o, v.target)
+    o += _S_Q_write(v.size)
+
+
+def write_FileReferenceResult(o: bytearray, v: Optional[FileReferenceResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_texts(o, v.references)
+    write_KelError(o, v.error)
+
+
+def write_FileCopyConfig(o: bytearray, v: Optional[FileCopyConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_texts(o, v.files)
+    write_text(o, v.target)
+    o += _S_b_write(v.overwrite)
+
+
+def write_DirectoryCopyConfig(o: bytearray, v: Optional[DirectoryCopyConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_texts(o, v.directories)
+    write_text(o, v.target)
+    o += _S_bb_write(v.overwrite, v.recursive)
+    write_text(o, v.pattern)
+
+
+def write_PathCopyConfig(o: bytearray, v: Optional[PathCopyConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.source)
+    write_text(o, v.target)
+    o += _S_b_write(v.overwrite)
+
+
+def write_UserInfo(o: bytearray, v: Optional[UserInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    write_text(o, v.text)
+    o += _S_I_write(v.value)
+
+
+def write_LogInOutConfig(o: bytearray, v: Optional[LogInOutConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.user)
+    write_text(o, v.password)
+
+
+def write_TarnApiServerConfig(o: bytearray, v: Optional[TarnApiServerConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _U32.pack(len(v.users))
+    for e_users in v.users:
+        write_UserInfo(o, e_users)
+    o += _S_bI_write(v.flag, v.value1)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    o += _U32.pack(len(v.filters))
+    for e_filters in v.filters:
+        write_FileFilter(o, e_filters)
+    write_text(o, v.text3)
+    write_text(o, v.text4)
+    o += _U32.pack(len(v.users2))
+    for e_users2 in v.users2:
+        write_UserInfo(o, e_users2)
+    o += _S_H_write(v.value2)
+
+
+def write_ServerSettings(o: bytearray, v: Optional[ServerSettings]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_bIII_write(v.flag, v.value1, v.value2, v.value3)
 
 
 def write_SupportedDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:
@@ -721,3 +3097,25 @@ def write_SpecialData(o: bytearray, v: Optional[NamedItem]) -> None:
     write_text(o, v.item_text2)
     write_text(o, v.item_text3)
     write_text(o, v.item_text4)
+
+
+def write_FilterPattern(o: bytearray, v: Optional[FileFilter]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.pattern)
+    o += _S_b_write(v.flag)
+
+
+def write_InterfaceProviderDyn(o: bytearray, v: Optional[InterfaceProvider]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.item_text1)
+    write_text(o, v.item_text2)
+    write_text(o, v.item_text3)
+    write_text(o, v.item_text4)
+    write_text(o, v.text)
+    o += _S_Ib_write(v.value, v.flag)
