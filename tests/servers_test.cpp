@@ -104,7 +104,7 @@ TEST(PasswordHash, MatchesThePublishedTestVectors) {
 }
 
 // Fast hashing for the tests (the default is 100000 iterations); three failures in a
-// row throttle logins for a minute, doubling with each further failure. The login clock
+// row throttle logins for a minute, doubling with each further failure. Vehicle time
 // also runs in real time: the margins of the throttle test leave it a second.
 const char* const vehicle = R"({"name": "servers test", "ecus": [{"name": "ECM"}],
     "servers": {"passwordIterations": 1000, "failedLogins": 3, "throttleMs": 60000}})";
@@ -469,14 +469,14 @@ TEST_F(Servers, RepeatedFailuresAreThrottledOnTheLoginClock) {
     EXPECT_EQ(error->code, LoginThrottled) << "even the right password waits";
     EXPECT_NE(std::wstring(error->details).find(L"60 s"), std::wstring::npos) << error->details;
 
-    kelsim_advanceLoginClock(59000);
+    kelsim_advanceClock(59000);
     EXPECT_EQ(logIn(api, L"anna", password), LoginThrottled);
-    kelsim_advanceLoginClock(1000);
+    kelsim_advanceClock(1000);
     EXPECT_EQ(logIn(api, L"anna", L"d"), LoginFailed);
     // The fourth failure doubles the wait.
-    kelsim_advanceLoginClock(61000);
+    kelsim_advanceClock(61000);
     EXPECT_EQ(logIn(api, L"anna", password), LoginThrottled);
-    kelsim_advanceLoginClock(60000);
+    kelsim_advanceClock(60000);
     EXPECT_EQ(logIn(api, L"anna", password), 0);
     // A success starts the count again.
     EXPECT_EQ(logIn(api, L"anna", L"e"), LoginFailed);
@@ -648,7 +648,7 @@ TEST_F(Servers, TheIdentityProviderLogsAUserInOnceWithItsCode) {
     kel_getThirdPartyLoginUrl(api, L"kel-sim-idp", &error, &url);
     ASSERT_EQ(kelsim_signInAtIdentityProvider(url, L"anna", issued, 64), 32);
     release_Memory(url);
-    kelsim_advanceLoginClock(5 * 60 * 1000);
+    kelsim_advanceClock(5 * 60 * 1000);
     kel_thirdPartyLogin(api, issued, &error, &accepted);
     EXPECT_EQ(accepted, 0);
     kel_getThirdPartyLoginUrl(api, L"", &error, &url);

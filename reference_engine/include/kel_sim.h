@@ -120,17 +120,15 @@ KEL_SIM_API int64_t kelsim_runningAsyncCalls(uint64_t handle);
 
 /* ---- vehicle time ----
  * Every timeout of the simulated vehicle (a diagnostic session falling back to the
- * default session, a security access lockout) runs on vehicle time: the steady clock
+ * default session, a security access lockout, a login throttle) runs on vehicle time: the steady clock
  * plus what this moved it on by. Tests advance it instead of sleeping. One clock for
  * the process; it never goes back, and kelsim_reset leaves it as it is. */
 KEL_SIM_API void kelsim_advanceClock(uint64_t milliseconds);
 /* Vehicle time in milliseconds since the engine first read it. */
 KEL_SIM_API int64_t kelsim_clockMs(void);
 /* ---- servers and logins ----
- * Moves the clock of logins on (throttled logins, identity provider codes), so that a
- * test need not wait for a throttle to pass. */
-KEL_SIM_API void kelsim_advanceLoginClock(uint32_t milliseconds);
-/* The simulated identity provider (reference_engine/README.md, "Servers"): `user` signs
+ * Throttled logins and identity provider codes run on vehicle time too.
+ * The simulated identity provider (reference_engine/README.md, "Servers"): `user` signs
  * in at `url`, an address from getThirdPartyLoginUrl, as a browser would. Copies the
  * one-time authorization code for thirdPartyLogin into `code` (`size` wide characters,
  * NUL-terminated) and returns its length, or -1 when the address's login state was

@@ -28,7 +28,9 @@ Events::Events(std::shared_ptr<SimulatedVehicle> vehicle, const EngineObject& ob
 
 Events::~Events() {
     if (!remoteClient_.empty()) {
-        clientDisconnected(*vehicle_, remoteClient_);
+        // Through the servers' queue, so that it cannot overtake an end or a renewal of
+        // the same connection that another thread is announcing.
+        vehicle_->servers.connectionGone(*vehicle_, remoteClient_);
     }
 }
 

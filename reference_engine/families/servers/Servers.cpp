@@ -5,17 +5,15 @@
 #include "Describe.h"
 #include "IdentityProvider.h"
 #include "SimulatedVehicle.h"
+#include "VehicleClock.h"
 #include "VehicleDescription.h"
 
 #include <algorithm>
-#include <atomic>
 #include <fstream>
 #include <utility>
 
 namespace Varno::Kel_cpp::Reference {
 namespace {
-
-std::atomic<int64_t> loginClockOffsetMs{0};
 
 // What a connection that has not logged in may still do: log in, find out that it
 // must, and read its own handle (which reconnectRemoteServer takes).
@@ -81,10 +79,8 @@ TarnApiException usersUnreadable(const std::filesystem::path& file, const std::s
 } // namespace
 
 std::chrono::steady_clock::time_point loginClock() {
-    return std::chrono::steady_clock::now() + std::chrono::milliseconds(loginClockOffsetMs.load());
+    return std::chrono::steady_clock::time_point(std::chrono::milliseconds(VehicleClock::nowMs()));
 }
-
-void advanceLoginClock(std::chrono::milliseconds by) { loginClockOffsetMs += by.count(); }
 
 ServersSettings ServersSettings::parse(const nlohmann::json& section) {
     try {
@@ -246,24 +242,32 @@ std::vector<std::wstring> Servers::endSessionsLocked(Which which) {
 // Outside the state's lock, as the handlers may call the engine; in the order of the
 // changes, which one thread at a time announces (a thread that finds another at it
 // leaves its own to that one), so that a renewal never overtakes the end before it.
-void Servers::announce() {
-    std::unique_lock lock(state_.mutex_);
-    if (state_.announcing_) {
+void ServersState::announce(SimulatedVehicle& vehicle) {
+    std::unique_lock lock(mutex_);
+    if (announcing_) {
         return;
     }
-    state_.announcing_ = true;
-    while (!state_.announcements_.empty()) {
-        const auto [client, connected] = std::move(state_.announcements_.front());
-        state_.announcements_.pop_front();
+    announcing_ = true;
+    while (!announcements_.empty()) {
+        const auto [client, connected] = std::move(announcements_.front());
+        announcements_.pop_front();
         lock.unlock();
         if (connected) {
-            clientConnected(*vehicle_, client);
+            clientConnected(vehicle, client);
         } else {
-            clientDisconnected(*vehicle_, client);
+            clientDisconnected(vehicle, client);
         }
         lock.lock();
     }
-    state_.announcing_ = false;
+    announcing_ = false;
+}
+
+void ServersState::connectionGone(SimulatedVehicle& vehicle, const std::wstring& client) {
+    {
+        const std::lock_guard lock(mutex_);
+        announcements_.emplace_back(client, false);
+    }
+    announce(vehicle);
 }
 
 std::wstring Servers::startServer(const std::wstring& name) {

@@ -29,10 +29,9 @@ enum UserRole : uint32_t {
     Administrator = 2,
 };
 
-// The clock of logins and identity provider codes: the steady clock plus what tests
-// moved it on by (kelsim_advanceLoginClock), so that no test sleeps through a throttle.
+// The clock of logins and identity provider codes: vehicle time (VehicleClock.h), which
+// tests move on with kelsim_advanceClock, so that no test sleeps through a throttle.
 std::chrono::steady_clock::time_point loginClock();
-void advanceLoginClock(std::chrono::milliseconds by);
 
 // The "servers" section of the vehicle description.
 struct ServersSettings {
@@ -52,6 +51,12 @@ public:
 
     // The check every call of a remote client's connection passes (CallClock::admit).
     void admit(uint64_t handle, std::string_view operation);
+
+    // A remote client's engine object is gone: its end is announced in turn with the
+    // ends and renewals before it, never ahead of them.
+    void connectionGone(SimulatedVehicle& vehicle, const std::wstring& client);
+    // Announces the queued ends and renewals, outside the lock (see Servers.cpp).
+    void announce(SimulatedVehicle& vehicle);
 
 private:
     friend class Servers;
@@ -140,7 +145,7 @@ private:
     // makes once the lock is let go (announce).
     template <class Which>
     std::vector<std::wstring> endSessionsLocked(Which which);
-    void announce();
+    void announce() { state_.announce(*vehicle_); }
     void loggedIn(const std::wstring& user, const std::wstring& how);
 
     std::shared_ptr<SimulatedVehicle> vehicle_;

@@ -8,10 +8,6 @@
 
 extern "C" {
 
-void kelsim_advanceLoginClock(uint32_t milliseconds) {
-    Varno::Kel_cpp::Reference::advanceLoginClock(std::chrono::milliseconds(milliseconds));
-}
-
 int64_t kelsim_signInAtIdentityProvider(const wchar_t* url, const wchar_t* user, wchar_t* code,
                                         size_t size) {
     namespace Provider = Varno::Kel_cpp::Reference::IdentityProvider;
