@@ -103,7 +103,7 @@ std::shared_ptr<TarnApi> connectRemoteClient(const std::shared_ptr<SimulatedVehi
         const std::lock_guard lock(h.mutex);
         created = makeEngineLocked(h, vehicle, &client);
     }
-    clientConnected(*vehicle, client);
+    vehicle->servers.announce(*vehicle); // queued by the new object's Servers family
     return created;
 }
 
@@ -160,7 +160,7 @@ std::shared_ptr<TarnApi> getRemoteConnectionByHandle(uint64_t handle) {
         created = Reference::makeEngineLocked(h, target.second, &client);
         h.remotes[handle] = created;
     }
-    Reference::clientConnected(*target.second, client);
+    target.second->servers.announce(*target.second);
     return created;
 }
 

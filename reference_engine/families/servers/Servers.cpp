@@ -194,8 +194,11 @@ Servers::Servers(std::shared_ptr<SimulatedVehicle> vehicle, const EngineObject& 
         return;
     }
     {
+        // The connection is announced in turn with every end and renewal, so that one the
+        // server ends at once is never heard of as ended before it is heard of at all.
         const std::lock_guard lock(state_.mutex_);
         state_.sessions_[handle_].client = remoteClient_;
+        state_.announcements_.emplace_back(remoteClient_, true);
     }
     // Every call of the connection passes here first.
     object.clock->admit = [vehicle = std::weak_ptr<SimulatedVehicle>(vehicle_),
