@@ -850,8 +850,8 @@ Bytes Ecu::respond(const Bytes& request, int64_t nowMs) {
     if (!known) {
         return negative(ServiceNotSupported);
     }
-    const ServiceSpec* spec = serviceFor(request);
-    if (spec == nullptr) {
+    const ServiceSpec* described = serviceFor(request);
+    if (described == nullptr) {
         // Shorter than every request of this service id: the length is wrong, not the id.
         std::size_t shortest = SIZE_MAX;
         for (const auto& s : services) {
@@ -865,18 +865,19 @@ Bytes Ecu::respond(const Bytes& request, int64_t nowMs) {
                         : subFunction                 ? SubFunctionNotSupported
                                                       : RequestOutOfRange);
     }
-    if (!spec->access.allowsSession(state.session)) {
+    if (!described->access.allowsSession(state.session)) {
         return negative(ServiceNotSupportedInActiveSession);
     }
     std::optional<std::size_t> expected = 0;
-    for (const auto& p : spec->request) {
+    for (const auto& p : described->request) {
         const auto n = p.fixedLength();
         expected = expected && n ? std::optional<std::size_t>(*expected + *n) : std::nullopt;
     }
-    if (expected ? request.size() - 1 != *expected : request.size() - 1 <= spec->key().size()) {
+    if (expected ? request.size() - 1 != *expected
+                 : request.size() - 1 <= described->key().size()) {
         return negative(IncorrectLength);
     }
-    if (spec->access.level != 0 && state.unlockedLevel != spec->access.level) {
+    if (described->access.level != 0 && state.unlockedLevel != described->access.level) {
         return negative(SecurityAccessDenied);
     }
     Bytes positive = {static_cast<uint8_t>(sid + 0x40)};
@@ -884,8 +885,8 @@ Bytes Ecu::respond(const Bytes& request, int64_t nowMs) {
         positive.insert(positive.end(), rest.begin(), rest.end());
         return positive;
     };
-    if (spec->answer) {
-        return reply(*spec->answer);
+    if (described->answer) {
+        return reply(*described->answer);
     }
     switch (sid) {
     case 0x10: {

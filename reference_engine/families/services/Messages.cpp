@@ -274,38 +274,38 @@ std::shared_ptr<ServiceResult> execute(Bus& bus, Ecu& ecu, const ServiceInput& i
         r->error = std::move(e);
         return r;
     };
-    const ServiceSpec* spec = nullptr;
+    const ServiceSpec* described = nullptr;
     Bytes request;
     if (!input.data.empty()) {
         request = input.data;
-        spec = ecu.serviceFor(request);
+        described = ecu.serviceFor(request);
     } else if (input.service.empty()) {
         return notSent(error(BadParameterValue, L"A service needs its name or its request bytes",
                              L"on " + ecu.name));
     } else {
-        spec = ecu.service(input.service);
-        if (spec == nullptr) {
+        described = ecu.service(input.service);
+        if (described == nullptr) {
             return notSent(error(UnknownService, L"The control unit has no such service",
                                  L"service " + input.service + L" on " + ecu.name));
         }
         try {
-            request = encodeRequest(*spec, input.parameters);
+            request = encodeRequest(*described, input.parameters);
         } catch (const std::invalid_argument& e) {
             return notSent(error(BadParameterValue,
                                  L"The request cannot be written from these values",
                                  input.service + L": " + fromUtf8(e.what())));
         }
     }
-    if (spec != nullptr) {
-        r->itemText1 = spec->name;
-        r->itemText3 = spec->description;
+    if (described != nullptr) {
+        r->itemText1 = described->name;
+        r->itemText3 = described->description;
     }
     r->value1 = request[0];
     r->request = std::make_shared<RequestResult>();
     r->request->data = request;
     r->request->value1 = static_cast<uint64_t>(VehicleClock::nowMs());
-    if (spec != nullptr) {
-        r->request->parameters = decode(spec->request, request, 1);
+    if (described != nullptr) {
+        r->request->parameters = decode(described->request, request, 1);
     }
     const auto response = bus.exchange(ecu, request);
     const auto* session = ecu.session(ecu.state.session);
@@ -341,8 +341,8 @@ std::shared_ptr<ServiceResult> execute(Bus& bus, Ecu& ecu, const ServiceInput& i
     } else {
         answer->itemText1 = L"PositiveResponse";
         answer->flag = true;
-        if (spec != nullptr) {
-            answer->parameters = decode(spec->response, response, 1);
+        if (described != nullptr) {
+            answer->parameters = decode(described->response, response, 1);
         } else {
             answer->parameters = decode({}, response, 1);
         }
