@@ -11,7 +11,9 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -595,6 +597,46 @@ TEST_F(Monitoring, ReplayFollowsTheRecordedTimesAndStopHoldsIt) {
     // Started again, it resumes with the next item at once.
     EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, replay), 0);
     EXPECT_EQ(units(), std::vector<std::wstring>{L"ESP"});
+}
+
+// Exchanges made on several threads at once: none is lost, a request and its response
+// stay side by side, and each thread's exchanges keep their order.
+using MonitoringConcurrency = Monitoring;
+
+TEST_F(MonitoringConcurrency, ExchangesFromSeveralThreadsAreAllSeenInPairs) {
+    const uint64_t monitor = pduMonitor();
+    constexpr int perThread = 40;
+    const std::vector<const wchar_t*> units = {L"ECM", L"TCM", L"ESP"};
+    std::vector<std::thread> threads;
+    for (const wchar_t* unit : units) {
+        threads.emplace_back([this, unit] {
+            for (int i = 0; i < perThread; ++i) {
+                raw(unit, {0x22, 0xF1, 0x90});
+            }
+        });
+    }
+    for (auto& t : threads) {
+        t.join();
+    }
+    ErrorSlot error;
+    PduItems items;
+    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(items.count, 2u * perThread * units.size());
+    std::map<std::wstring, int> requests;
+    for (uint32_t i = 0; i < items.count; i += 2) {
+        const auto& ask = *items.items[i];
+        const auto& answer = *items.items[i + 1];
+        EXPECT_EQ(ask.value1, 1u);
+        EXPECT_EQ(answer.value1, 2u);
+        EXPECT_EQ(std::wstring(ask.text1), answer.text1);
+        EXPECT_EQ(ask.detail->exchange, answer.detail->exchange);
+        EXPECT_EQ(ask.detail->sequence, i + 1u);
+        ++requests[ask.text1];
+    }
+    for (const wchar_t* unit : units) {
+        EXPECT_EQ(requests[unit], perThread);
+    }
 }
 
 // ---- the same monitor through kel_call and py_call ----
