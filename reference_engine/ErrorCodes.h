@@ -39,14 +39,14 @@ enum ErrorCode : int32_t {
     UnknownParameter = 1105,         // getParameterInfo of a parameter no service has
 
     // Projects: 1200-1299.
-    UnknownProject = 1200,         // no project of that name or path in the projects folder
-    ProjectUnreadable = 1201,      // its project file is missing or not valid
-    ProjectNeedsConversion = 1202, // an older format: convertProject first
-    DatabaseFileMissing = 1203,    // per file, inside load and unload results
-    NotADatabaseFile = 1204,       // per file: the file is not a database file
-    DatabaseFileNotLoaded = 1205,  // per file: unloading a file that is not loaded
-    PathOutsideProject = 1206,     // per file: the path leaves the project's folder
-    MissingInput = 1207,           // a record input that the operation needs is null
+    UnknownProject = 1200,          // no project of that name or path in the projects folder
+    ProjectUnreadable = 1201,       // its project file is missing or not valid
+    ProjectNeedsConversion = 1202,  // an older format: convertProject first
+    DatabaseFileMissing = 1203,     // per file, inside load and unload results
+    NotADatabaseFile = 1204,        // per file: the file is not a database file
+    DatabaseFileNotLoaded = 1205,   // per file: unloading a file that is not loaded
+    PathOutsideProject = 1206,      // per file: the path leaves the project's folder
+    MissingInput = 1207,            // a record input that the operation needs is null
     UnknownSystemProperty = 1208,
     ConfigurationUnreadable = 1209, // a saved configuration file is not valid
     CannotWriteFile = 1210,         // saving failed
@@ -88,8 +88,7 @@ enum ErrorCode : int32_t {
     ConfigurationUnsaved = 1412, // the interface configuration cannot be written
 
     // Monitoring: 1500-1599.
-    UnknownMonitor =
-        1500, // no open link, PDU monitor or API trace monitor of this kind has the handle
+    UnknownMonitor = 1500,        // no open monitor of the operation's kind has the handle
     MonitoringLinkExists = 1501,  // a link of that name is open
     BadMonitoringArgument = 1502, // an empty link name, a second fetch value other than 0 or 1
     TraceFileUnreadable = 1503,   // not a trace file (its line in the details), or too large
@@ -115,7 +114,7 @@ enum ErrorCode : int32_t {
     BadFileArgument = 1614,     // a mode, offset or record the engine cannot use
     FileTooLarge = 1615,        // more than 4 GiB - 1 bytes in one read
     SomeEntriesFailed = 1616,   // a delete or copy outcome: the details name each entry
-    TargetInsideSource = 1617,  // a directory copied or moved into itself
+    TargetInsideSource = 1617, // a directory copied or moved into itself
 
     // Flash: 1700-1799.
 

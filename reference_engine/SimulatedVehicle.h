@@ -14,13 +14,13 @@
 #include "VehicleDescription.h"
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
-#include "families/files/Files.h"
 #include "families/interfaces/Interfaces.h"
+#include "families/files/Files.h"
 #include "families/lifecycle/Lifecycle.h"
 #include "families/monitoring/Monitoring.h"
 #include "families/projects/Projects.h"
-#include "families/servers/Servers.h"
 #include "families/services/Services.h"
+#include "families/servers/Servers.h"
 
 #include <cstdint>
 #include <memory>
