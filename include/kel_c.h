@@ -119,6 +119,10 @@ typedef struct InterfaceProvider InterfaceProvider;
 typedef struct DoIPParameter DoIPParameter;
 typedef struct WLanSignalData WLanSignalData;
 typedef struct SupportedInterface SupportedInterface;
+typedef struct MonitoringItem MonitoringItem;
+typedef struct MonitoringItemDetail MonitoringItemDetail;
+typedef struct PduMonitoringItem PduMonitoringItem;
+typedef struct PduMonitoringItemDetail PduMonitoringItemDetail;
 typedef struct FileInfo FileInfo;
 typedef struct DirectoryInfo DirectoryInfo;
 typedef struct FileCopyResult FileCopyResult;
@@ -1063,6 +1067,61 @@ struct SupportedInterface {
     wchar_t* text3; /* the vendor module that usually drives it */
 };
 
+/* One exchange with a control unit seen by a monitoring link: the request and the unit's
+ * answer, live or replayed from a trace file.
+ * Freed with release_MonitoringItem, which frees everything it points to; a list of them with
+ * release_MonitoringItem_array. */
+struct MonitoringItem {
+    wchar_t* text1; /* the control unit's name */
+    uint8_t* data;  /* the request's bytes; NULL and 0 when empty */
+    uint32_t dataLength;
+    uint64_t value1; /* vehicle time of the request, in milliseconds */
+    uint32_t value2; /* the item's number in its link, from 1; a gap means items were dropped */
+    uint8_t flag1;   /* 1 when the unit answered */
+    uint8_t flag2;   /* 1 when the answer is a positive response */
+    uint8_t flag3;   /* 1 when the item was replayed from a trace file */
+    uint32_t value3; /* the negative response code; 0 for a positive answer or none */
+    wchar_t* text2;  /* where the item comes from: the link's name, or the trace file's path when
+                        replayed */
+    uint32_t value4; /* the request's service id (its first byte); 0 for an empty request */
+    MonitoringItemDetail* detail; /* the unit's answer; NULL when it stayed silent */
+};
+
+/* The answer part of a MonitoringItem.
+ * Freed with release_MonitoringItemDetail, which frees everything it points to; a list of them
+ * with release_MonitoringItemDetail_array. */
+struct MonitoringItemDetail {
+    uint8_t* response; /* the answer's bytes */
+    uint32_t responseLength;
+    wchar_t* text; /* the answer for reading: "positive response" or "negative response 0x31:
+                      requestOutOfRange" */
+};
+
+/* One protocol data unit seen by a PDU monitor: a request sent to a control unit or the unit's
+ * response.
+ * Freed with release_PduMonitoringItem, which frees everything it points to; a list of them
+ * with release_PduMonitoringItem_array. */
+struct PduMonitoringItem {
+    uint32_t value1; /* the direction: 1 request (tester to unit), 2 response (unit to tester) */
+    uint8_t* data;   /* the unit's bytes as sent; NULL and 0 when empty */
+    uint32_t dataLength;
+    PduMonitoringItemDetail* detail; /* where the unit stands in the traffic */
+    wchar_t* text1;                  /* the control unit's name */
+    wchar_t* text2;                  /* the direction as a word: "request" or "response" */
+    uint64_t value2;                 /* vehicle time of the exchange, in milliseconds */
+    wchar_t* text3;                  /* the bytes as spaced hex digits, "19 02 FF" */
+};
+
+/* Where a PduMonitoringItem stands in the traffic.
+ * Freed with release_PduMonitoringItemDetail; a list of them with
+ * release_PduMonitoringItemDetail_array. */
+struct PduMonitoringItemDetail {
+    uint64_t
+        sequence; /* the item's number in its monitor, from 1; a gap means items were dropped */
+    uint64_t
+        exchange; /* the exchange's number on the vehicle: a request and its response share it */
+};
+
 /* A file in the engine's file system.
  * Freed with release_FileInfo; a list of them with release_FileInfo_array. */
 struct FileInfo {
@@ -1457,6 +1516,17 @@ KEL_C_API void release_WLanSignalData_array(KEL_CONSUMED WLanSignalData** ptr, u
 KEL_C_API void release_SupportedInterface(KEL_CONSUMED SupportedInterface* ptr);
 KEL_C_API void release_SupportedInterface_array(KEL_CONSUMED SupportedInterface** ptr,
                                                 uint64_t count);
+KEL_C_API void release_MonitoringItem(KEL_CONSUMED MonitoringItem* ptr);
+KEL_C_API void release_MonitoringItem_array(KEL_CONSUMED MonitoringItem** ptr, uint64_t count);
+KEL_C_API void release_MonitoringItemDetail(KEL_CONSUMED MonitoringItemDetail* ptr);
+KEL_C_API void release_MonitoringItemDetail_array(KEL_CONSUMED MonitoringItemDetail** ptr,
+                                                  uint64_t count);
+KEL_C_API void release_PduMonitoringItem(KEL_CONSUMED PduMonitoringItem* ptr);
+KEL_C_API void release_PduMonitoringItem_array(KEL_CONSUMED PduMonitoringItem** ptr,
+                                               uint64_t count);
+KEL_C_API void release_PduMonitoringItemDetail(KEL_CONSUMED PduMonitoringItemDetail* ptr);
+KEL_C_API void release_PduMonitoringItemDetail_array(KEL_CONSUMED PduMonitoringItemDetail** ptr,
+                                                     uint64_t count);
 KEL_C_API void release_FileInfo(KEL_CONSUMED FileInfo* ptr);
 KEL_C_API void release_FileInfo_array(KEL_CONSUMED FileInfo** ptr, uint64_t count);
 KEL_C_API void release_DirectoryInfo(KEL_CONSUMED DirectoryInfo* ptr);
@@ -2422,8 +2492,23 @@ KEL_C_API void kel_getDefaultDoIPParameter(TarnApi* api, KelError** error,
  * On success *handle receives the result. */
 KEL_C_API void kel_createMonitoringLink(TarnApi* api, KEL_KEPT const wchar_t* name,
                                         KelError** error, KEL_OUT uint64_t* handle);
+/* Fetches the items that a monitoring link recorded; the two values are passed to the engine
+ * unchanged. Position 11.
+ * On success *items and *itemCount receive a MonitoringItem list, NULL and 0 when empty; free
+ * it with release_MonitoringItem_array(items, itemCount). */
+KEL_C_API void kel_getMonitoringItems(TarnApi* api, uint64_t handle, uint32_t value1,
+                                      int32_t value2, KelError** error,
+                                      KEL_OUT MonitoringItem*** items, KEL_OUT uint32_t* itemCount);
 /* Closes a monitoring link. Position 12. */
 KEL_C_API void kel_releaseMonitoringLink(TarnApi* api, uint64_t handle, KelError** error);
+/* Fetches the protocol data units that a PDU monitor recorded; the two values are passed to
+ * the engine unchanged. Position 13.
+ * On success *items and *itemCount receive a PduMonitoringItem list, NULL and 0 when empty;
+ * free it with release_PduMonitoringItem_array(items, itemCount). */
+KEL_C_API void kel_getPduMonitoringItems(TarnApi* api, uint64_t handle, uint32_t value1,
+                                         int32_t value2, KelError** error,
+                                         KEL_OUT PduMonitoringItem*** items,
+                                         KEL_OUT uint32_t* itemCount);
 /* Opens a PDU monitor; returns its handle. Position 14.
  * On success *handle receives the result. */
 KEL_C_API void kel_createPduMonitor(TarnApi* api, KelError** error, KEL_OUT uint64_t* handle);

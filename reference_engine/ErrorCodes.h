@@ -88,6 +88,12 @@ enum ErrorCode : int32_t {
     ConfigurationUnsaved = 1412, // the interface configuration cannot be written
 
     // Monitoring: 1500-1599.
+    UnknownMonitor = 1500,        // no open monitor of the operation's kind has the handle
+    MonitoringLinkExists = 1501,  // a link of that name is open
+    BadMonitoringArgument = 1502, // an empty link name, a second fetch value other than 0 or 1
+    TraceFileUnreadable = 1503,   // not a trace file (its line in the details), or too large
+    TraceFileNotOpen = 1504,      // start, stop or close on a link without a trace file
+    TraceFileOpen = 1505,         // the link has a trace file open already
 
     // Files: 1600-1699. 1600-1608 are the sandbox's refusals: nothing was read, made or
     // changed.

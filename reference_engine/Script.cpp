@@ -20,7 +20,13 @@ const std::shared_ptr<Script>& Script::global() {
 }
 
 Script::Call::Call(CallClock& clock, Script& script, const char* operation, std::string arguments)
-    : clock_(clock), start_(std::chrono::steady_clock::now()) {
+    : clock_(clock), start_(std::chrono::steady_clock::now()), operation_(operation) {
+    if (clock.listener) {
+        ticket_ = clock.listener->begin();
+        if (ticket_ != 0) {
+            arguments_ = arguments;
+        }
+    }
     try {
         script.record(operation, std::move(arguments));
         if (clock.admit) {
@@ -34,9 +40,12 @@ Script::Call::Call(CallClock& clock, Script& script, const char* operation, std:
 
 void Script::Call::finish(bool failed) {
     const auto elapsed = std::chrono::steady_clock::now() - start_;
-    clock_.finished(static_cast<uint64_t>(
-                        std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count()),
-                    failed);
+    const auto micros = static_cast<uint64_t>(
+        std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count());
+    clock_.finished(micros, failed);
+    if (ticket_ != 0) {
+        clock_.listener->finished(ticket_, operation_, arguments_, micros, failed);
+    }
 }
 
 void Script::record(const char* operation, std::string arguments) {

@@ -45,11 +45,27 @@ void deliverLater(std::function<void()> report);
 // from a report itself).
 void deliverNow();
 
+// Hears the calls of the engine objects on one vehicle (the API trace monitors), with
+// the arguments as the call recorder describes them (secrets masked).
+class CallListener {
+public:
+    virtual ~CallListener() = default;
+    // Before a call: a ticket for finished(), or 0 when nobody listens (then the call's
+    // arguments are not kept for it).
+    virtual uint64_t begin() = 0;
+    // After it, also after a failure. Must not throw.
+    virtual void finished(uint64_t ticket, std::string_view operation, const std::string& arguments,
+                          uint64_t micros, bool failed) noexcept = 0;
+};
+
 // What every call through one engine object passes: the check whether the object may
 // make a call at all, and the duration of its calls in microseconds, with how many were
 // made and failed (getStatusInfo).
 class CallClock {
 public:
+    // Hears every call of the object. Set, as `admit`, before the object is handed out.
+    std::shared_ptr<CallListener> listener;
+
     // Throws TarnApiException to refuse `operation` (a remote client's connection that
     // has not logged in, or that the server ended). Set before the object is handed
     // out and never changed afterwards; empty for an object that may make every call.
@@ -92,6 +108,9 @@ public:
         void finish(bool failed);
         CallClock& clock_;
         std::chrono::steady_clock::time_point start_;
+        const char* operation_;
+        uint64_t ticket_ = 0;                        // the listener's, 0 when nobody listens
+        std::string arguments_;                      // kept for the listener only
         int unwinding_ = std::uncaught_exceptions(); // more at the end: the call failed
     };
 

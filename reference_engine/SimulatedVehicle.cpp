@@ -16,6 +16,7 @@ struct Parts {
     DiagnosticsSettings diagnostics;
     InterfacesSettings interfaces;
     ServersSettings servers;
+    MonitoringSettings monitoring;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -26,6 +27,7 @@ Parts parseParts(const VehicleDescription& description) {
     parts.diagnostics = DiagnosticsSettings::parse(description.section("diagnostics"));
     parts.interfaces = InterfacesSettings::parse(description.section("interfaces"));
     parts.servers = ServersSettings::parse(description.section("servers"));
+    parts.monitoring = MonitoringSettings::parse(description.section("monitoring"));
     return parts;
 }
 
@@ -93,6 +95,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     interfaces->load(parts.interfaces);
     services.load();
     servers.load(parts.servers);
+    monitoring->load(parts.monitoring);
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -106,6 +109,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.interfaces = std::make_shared<Interfaces>(vehicle);
     families.services = std::make_shared<Services>(vehicle);
     families.servers = std::make_shared<Servers>(vehicle, object);
+    families.monitoring = std::make_shared<Monitoring>(vehicle, object);
     return families;
 }
 

@@ -17,6 +17,7 @@
 #include "families/interfaces/Interfaces.h"
 #include "families/files/Files.h"
 #include "families/lifecycle/Lifecycle.h"
+#include "families/monitoring/Monitoring.h"
 #include "families/projects/Projects.h"
 #include "families/services/Services.h"
 #include "families/servers/Servers.h"
@@ -66,6 +67,8 @@ public:
     const std::shared_ptr<InterfacesState> interfaces = std::make_shared<InterfacesState>();
     ServicesState services;
     ServersState servers;
+    // Shared with the units' listener and the engine objects' call clocks.
+    const std::shared_ptr<MonitoringState> monitoring = std::make_shared<MonitoringState>();
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};

@@ -876,9 +876,11 @@ public:
     std::shared_ptr<MonitoringItemDetail> detail;
 };
 
-class MonitoringItemDetail { // fields come with its family
+class MonitoringItemDetail {
 public:
     virtual ~MonitoringItemDetail() = default;
+    std::vector<uint8_t> response;
+    std::wstring text;
 };
 
 class PduMonitoringItem {
@@ -893,9 +895,11 @@ public:
     std::wstring text3;
 };
 
-class PduMonitoringItemDetail { // fields come with its family
+class PduMonitoringItemDetail {
 public:
     virtual ~PduMonitoringItemDetail() = default;
+    uint64_t sequence = 0;
+    uint64_t exchange = 0;
 };
 
 class FileSystemEntry {

@@ -698,7 +698,9 @@ struct Of<MonitoringItem> {
 
 template <>
 struct Of<MonitoringItemDetail> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("response", &MonitoringItemDetail::response),
+                        member("text", &MonitoringItemDetail::text));
 };
 
 template <>
@@ -712,7 +714,9 @@ struct Of<PduMonitoringItem> {
 
 template <>
 struct Of<PduMonitoringItemDetail> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("sequence", &PduMonitoringItemDetail::sequence),
+                        member("exchange", &PduMonitoringItemDetail::exchange));
 };
 
 template <>

@@ -334,6 +334,22 @@ class C_SupportedInterface(ctypes.Structure):
     _fields_ = [("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("names", ctypes.c_void_p), ("nameCount", ctypes.c_uint32), ("value", ctypes.c_uint32), ("text3", ctypes.c_void_p)]
 
 
+class C_MonitoringItem(ctypes.Structure):
+    _fields_ = [("text1", ctypes.c_void_p), ("data", ctypes.c_void_p), ("dataLength", ctypes.c_uint32), ("value1", ctypes.c_uint64), ("value2", ctypes.c_uint32), ("flag1", ctypes.c_uint8), ("flag2", ctypes.c_uint8), ("flag3", ctypes.c_uint8), ("value3", ctypes.c_uint32), ("text2", ctypes.c_void_p), ("value4", ctypes.c_uint32), ("detail", ctypes.c_void_p)]
+
+
+class C_MonitoringItemDetail(ctypes.Structure):
+    _fields_ = [("response", ctypes.c_void_p), ("responseLength", ctypes.c_uint32), ("text", ctypes.c_void_p)]
+
+
+class C_PduMonitoringItem(ctypes.Structure):
+    _fields_ = [("value1", ctypes.c_uint32), ("data", ctypes.c_void_p), ("dataLength", ctypes.c_uint32), ("detail", ctypes.c_void_p), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("value2", ctypes.c_uint64), ("text3", ctypes.c_void_p)]
+
+
+class C_PduMonitoringItemDetail(ctypes.Structure):
+    _fields_ = [("sequence", ctypes.c_uint64), ("exchange", ctypes.c_uint64)]
+
+
 class C_FileInfo(ctypes.Structure):
     _fields_ = [("name", ctypes.c_void_p), ("error", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("value1", ctypes.c_uint32), ("text1", ctypes.c_void_p), ("text2", ctypes.c_void_p), ("value2", ctypes.c_uint64), ("value3", ctypes.c_uint64)]
 
@@ -1367,6 +1383,60 @@ def from_c_SupportedInterface(address: Optional[int]) -> Optional[records.Suppor
         names=_texts(s.names, s.nameCount),
         value=s.value,
         text3=_text(s.text3),
+    )
+
+
+def from_c_MonitoringItem(address: Optional[int]) -> Optional[records.MonitoringItem]:
+    if not address:
+        return None
+    s = C_MonitoringItem.from_address(address)
+    return records.MonitoringItem(
+        text1=_text(s.text1),
+        data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
+        value1=s.value1,
+        value2=s.value2,
+        flag1=bool(s.flag1),
+        flag2=bool(s.flag2),
+        flag3=bool(s.flag3),
+        value3=s.value3,
+        text2=_text(s.text2),
+        value4=s.value4,
+        detail=from_c_MonitoringItemDetail(s.detail),
+    )
+
+
+def from_c_MonitoringItemDetail(address: Optional[int]) -> Optional[records.MonitoringItemDetail]:
+    if not address:
+        return None
+    s = C_MonitoringItemDetail.from_address(address)
+    return records.MonitoringItemDetail(
+        response=ctypes.string_at(s.response, s.responseLength) if s.response else b"",
+        text=_text(s.text),
+    )
+
+
+def from_c_PduMonitoringItem(address: Optional[int]) -> Optional[records.PduMonitoringItem]:
+    if not address:
+        return None
+    s = C_PduMonitoringItem.from_address(address)
+    return records.PduMonitoringItem(
+        value1=s.value1,
+        data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
+        detail=from_c_PduMonitoringItemDetail(s.detail),
+        text1=_text(s.text1),
+        text2=_text(s.text2),
+        value2=s.value2,
+        text3=_text(s.text3),
+    )
+
+
+def from_c_PduMonitoringItemDetail(address: Optional[int]) -> Optional[records.PduMonitoringItemDetail]:
+    if not address:
+        return None
+    s = C_PduMonitoringItemDetail.from_address(address)
+    return records.PduMonitoringItemDetail(
+        sequence=s.sequence,
+        exchange=s.exchange,
     )
 
 
@@ -2537,6 +2607,60 @@ def to_c_SupportedInterface(lib: Any, v: Optional[records.SupportedInterface]) -
     return address
 
 
+def to_c_MonitoringItem(lib: Any, v: Optional[records.MonitoringItem]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_MonitoringItem))
+    s = C_MonitoringItem.from_address(address)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.data, s.dataLength = heap_bytes(lib, v.data)
+    s.value1 = v.value1
+    s.value2 = v.value2
+    s.flag1 = v.flag1
+    s.flag2 = v.flag2
+    s.flag3 = v.flag3
+    s.value3 = v.value3
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.value4 = v.value4
+    s.detail = to_c_MonitoringItemDetail(lib, v.detail)
+    return address
+
+
+def to_c_MonitoringItemDetail(lib: Any, v: Optional[records.MonitoringItemDetail]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_MonitoringItemDetail))
+    s = C_MonitoringItemDetail.from_address(address)
+    s.response, s.responseLength = heap_bytes(lib, v.response)
+    s.text = lib.duplicate_WString(v.text)
+    return address
+
+
+def to_c_PduMonitoringItem(lib: Any, v: Optional[records.PduMonitoringItem]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_PduMonitoringItem))
+    s = C_PduMonitoringItem.from_address(address)
+    s.value1 = v.value1
+    s.data, s.dataLength = heap_bytes(lib, v.data)
+    s.detail = to_c_PduMonitoringItemDetail(lib, v.detail)
+    s.text1 = lib.duplicate_WString(v.text1)
+    s.text2 = lib.duplicate_WString(v.text2)
+    s.value2 = v.value2
+    s.text3 = lib.duplicate_WString(v.text3)
+    return address
+
+
+def to_c_PduMonitoringItemDetail(lib: Any, v: Optional[records.PduMonitoringItemDetail]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_PduMonitoringItemDetail))
+    s = C_PduMonitoringItemDetail.from_address(address)
+    s.sequence = v.sequence
+    s.exchange = v.exchange
+    return address
+
+
 def to_c_FileInfo(lib: Any, v: Optional[records.FileInfo]) -> int:
     if v is None:
         return 0
@@ -2995,6 +3119,10 @@ EXPORTS: dict[str, tuple[Any, list[Any]]] = {
     "release_DoIPParameter_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_WLanSignalData_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_SupportedInterface_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_MonitoringItem_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_MonitoringItemDetail_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_PduMonitoringItem_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_PduMonitoringItemDetail_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_FileInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_DirectoryInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_FileCopyResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),

@@ -133,6 +133,27 @@ class Operations:
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
+    def get_monitoring_items(self, handle: int, value1: int, value2: int) -> list[Optional[records.MonitoringItem]]:
+        """Fetches the items that a monitoring link recorded; the two values are passed
+        to the engine unchanged.
+
+        C: kel_getMonitoringItems; number 11; engine position 11.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        _o += struct.pack("<I", value1)
+        _o += struct.pack("<i", value2)
+        _b = self._call(11, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.MonitoringItem]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_MonitoringItem(_b, _p)
+            _results.append(_r)
+        return _results
+
     def release_monitoring_link(self, handle: int) -> None:
         """Closes a monitoring link.
 
@@ -143,6 +164,27 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<Q", handle)
         self._call(12, builtins.bytes(_o))
+
+    def get_pdu_monitoring_items(self, handle: int, value1: int, value2: int) -> list[Optional[records.PduMonitoringItem]]:
+        """Fetches the protocol data units that a PDU monitor recorded; the two values
+        are passed to the engine unchanged.
+
+        C: kel_getPduMonitoringItems; number 13; engine position 13.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<Q", handle)
+        _o += struct.pack("<I", value1)
+        _o += struct.pack("<i", value2)
+        _b = self._call(13, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.PduMonitoringItem]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_PduMonitoringItem(_b, _p)
+            _results.append(_r)
+        return _results
 
     def create_pdu_monitor(self) -> int:
         """Opens a PDU monitor; returns its handle.

@@ -1290,6 +1290,79 @@ class SupportedInterface:
 
 
 @dataclasses.dataclass(**_OPTIONS)
+class MonitoringItem:
+    """
+    One exchange with a control unit seen by a monitoring link: the request and the
+    unit's answer, live or replayed from a trace file.
+    """
+    text1: str = ""
+    """The control unit's name."""
+    data: builtins.bytes = b""
+    """The request's bytes; None and 0 when empty."""
+    value1: int = 0
+    """Vehicle time of the request, in milliseconds."""
+    value2: int = 0
+    """The item's number in its link, from 1; a gap means items were dropped."""
+    flag1: bool = False
+    """1 when the unit answered."""
+    flag2: bool = False
+    """1 when the answer is a positive response."""
+    flag3: bool = False
+    """1 when the item was replayed from a trace file."""
+    value3: int = 0
+    """The negative response code; 0 for a positive answer or none."""
+    text2: str = ""
+    """Where the item comes from: the link's name, or the trace file's path when replayed."""
+    value4: int = 0
+    """The request's service id (its first byte); 0 for an empty request."""
+    detail: Optional[MonitoringItemDetail] = None
+    """The unit's answer; None when it stayed silent."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class MonitoringItemDetail:
+    """The answer part of a MonitoringItem."""
+    response: builtins.bytes = b""
+    """The answer's bytes."""
+    text: str = ""
+    """
+    The answer for reading: "positive response" or "negative response 0x31:
+    requestOutOfRange".
+    """
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class PduMonitoringItem:
+    """
+    One protocol data unit seen by a PDU monitor: a request sent to a control unit or
+    the unit's response.
+    """
+    value1: int = 0
+    """The direction: 1 request (tester to unit), 2 response (unit to tester)."""
+    data: builtins.bytes = b""
+    """The unit's bytes as sent; None and 0 when empty."""
+    detail: Optional[PduMonitoringItemDetail] = None
+    """Where the unit stands in the traffic."""
+    text1: str = ""
+    """The control unit's name."""
+    text2: str = ""
+    """The direction as a word: "request" or "response"."""
+    value2: int = 0
+    """Vehicle time of the exchange, in milliseconds."""
+    text3: str = ""
+    """The bytes as spaced hex digits, "19 02 FF"."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class PduMonitoringItemDetail:
+    """Where a PduMonitoringItem stands in the traffic."""
+    sequence: int = 0
+    """The item's number in its monitor, from 1; a gap means items were dropped."""
+    exchange: int = 0
+    """The exchange's number on the vehicle: a request and its response share it."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
 class FileInfo:
     """A file in the engine's file system."""
     name: str = ""
@@ -1518,4 +1591,4 @@ class ServerSettings:
     """1 while the SOVD server runs."""
 
 
-__all__ = ["MvciServerError", "NegativeResponse", "KelError", "NamedItem", "ParameterResult", "ClearDtcResult", "DtcReadConfig", "ReadDtcResult", "DtcResult", "SpecialDataGroup", "VariantIdentResult", "ReadDataResult", "Target", "TargetStatus", "TargetFilter", "ParameterInput", "ServiceInput", "ServiceResult", "ResponseResult", "RequestResult", "UnlockResult", "ServiceInfo", "ResponseInfo", "ParameterInfo", "ConstraintInfo", "ScaleConstraintInfo", "UnitInfo", "ParameterInfoConfig", "KelEvent", "EventReport", "FileFilter", "TargetConfig", "ProjectConfig", "ProjectDetails", "DbFileInfo", "SystemInfo", "SystemProperty", "TarnApiConfig", "ServerConfig", "Oauth2Config", "MoxConfig", "TcpInfo", "StatusInfo", "TransmissionInfo", "ProcessInfo", "ProcessEntry", "ProcessThread", "ProcessMemory", "GlobalProtocolParameterSet", "GlobalProtocolParameter", "LoadDatabaseResult", "InterfaceInformation", "ResourceInformation", "InterfaceInformationItem", "ScanInterfaceResult", "DynInterfaceDetection", "ModuleDyn", "DeviceInfo", "PhysicalLinksOnModule", "PhysicalLink", "InterfaceConfiguration", "InterfaceConfigurationEntry", "InterfaceProvider", "DoIPParameter", "WLanSignalData", "SupportedInterface", "FileInfo", "DirectoryInfo", "FileCopyResult", "DirectoryCopyResult", "DirectoryCopyItem", "PathCopyResult", "PathCopyItem", "FileReferenceResult", "FileCopyConfig", "DirectoryCopyConfig", "PathCopyConfig", "UserInfo", "LogInOutConfig", "TarnApiServerConfig", "ServerSettings"]
+__all__ = ["MvciServerError", "NegativeResponse", "KelError", "NamedItem", "ParameterResult", "ClearDtcResult", "DtcReadConfig", "ReadDtcResult", "DtcResult", "SpecialDataGroup", "VariantIdentResult", "ReadDataResult", "Target", "TargetStatus", "TargetFilter", "ParameterInput", "ServiceInput", "ServiceResult", "ResponseResult", "RequestResult", "UnlockResult", "ServiceInfo", "ResponseInfo", "ParameterInfo", "ConstraintInfo", "ScaleConstraintInfo", "UnitInfo", "ParameterInfoConfig", "KelEvent", "EventReport", "FileFilter", "TargetConfig", "ProjectConfig", "ProjectDetails", "DbFileInfo", "SystemInfo", "SystemProperty", "TarnApiConfig", "ServerConfig", "Oauth2Config", "MoxConfig", "TcpInfo", "StatusInfo", "TransmissionInfo", "ProcessInfo", "ProcessEntry", "ProcessThread", "ProcessMemory", "GlobalProtocolParameterSet", "GlobalProtocolParameter", "LoadDatabaseResult", "InterfaceInformation", "ResourceInformation", "InterfaceInformationItem", "ScanInterfaceResult", "DynInterfaceDetection", "ModuleDyn", "DeviceInfo", "PhysicalLinksOnModule", "PhysicalLink", "InterfaceConfiguration", "InterfaceConfigurationEntry", "InterfaceProvider", "DoIPParameter", "WLanSignalData", "SupportedInterface", "MonitoringItem", "MonitoringItemDetail", "PduMonitoringItem", "PduMonitoringItemDetail", "FileInfo", "DirectoryInfo", "FileCopyResult", "DirectoryCopyResult", "DirectoryCopyItem", "PathCopyResult", "PathCopyItem", "FileReferenceResult", "FileCopyConfig", "DirectoryCopyConfig", "PathCopyConfig", "UserInfo", "LogInOutConfig", "TarnApiServerConfig", "ServerSettings"]

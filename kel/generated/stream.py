@@ -9,7 +9,7 @@ import builtins
 import struct
 from typing import Optional, Sequence
 
-from .records import ClearDtcResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UserInfo, VariantIdentResult, WLanSignalData
+from .records import ClearDtcResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MonitoringItem, MonitoringItemDetail, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PduMonitoringItem, PduMonitoringItemDetail, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UserInfo, VariantIdentResult, WLanSignalData
 
 _U32 = struct.Struct("<I")
 _u32_read = _U32.unpack_from
@@ -112,6 +112,8 @@ _S_bQIQQQ_read = struct.Struct("<?QIQQQ").unpack_from
 _S_bQIQQQ_write = struct.Struct("<?QIQQQ").pack
 _S_IIIIIQIIIIH_read = struct.Struct("<IIIIIQIIIIH").unpack_from
 _S_IIIIIQIIIIH_write = struct.Struct("<IIIIIQIIIIH").pack
+_S_QIbbbI_read = struct.Struct("<QI???I").unpack_from
+_S_QIbbbI_write = struct.Struct("<QI???I").pack
 _S_IIQ_read = struct.Struct("<IIQ").unpack_from
 _S_IIQ_write = struct.Struct("<IIQ").pack
 _S_H_read = struct.Struct("<H").unpack_from
@@ -1646,6 +1648,73 @@ def read_SupportedInterface(b: bytes, p: int) -> tuple[Optional[SupportedInterfa
     return SupportedInterface(text1=v_text1, text2=v_text2, names=v_names, value=v_value, text3=v_text3), p
 
 
+def read_MonitoringItem(b: bytes, p: int) -> tuple[Optional[MonitoringItem], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_data = b[p + 4 : p + 4 + n]
+    p += 4 + n
+    v_value1, v_value2, v_flag1, v_flag2, v_flag3, v_value3 = _S_QIbbbI_read(b, p)
+    p += 19
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value4, = _S_I_read(b, p)
+    p += 4
+    v_detail, p = read_MonitoringItemDetail(b, p)
+    return MonitoringItem(text1=v_text1, data=v_data, value1=v_value1, value2=v_value2, flag1=v_flag1, flag2=v_flag2, flag3=v_flag3, value3=v_value3, text2=v_text2, value4=v_value4, detail=v_detail), p
+
+
+def read_MonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[MonitoringItemDetail], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_response = b[p + 4 : p + 4 + n]
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return MonitoringItemDetail(response=v_response, text=v_text), p
+
+
+def read_PduMonitoringItem(b: bytes, p: int) -> tuple[Optional[PduMonitoringItem], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_value1, = _S_I_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_data = b[p + 4 : p + 4 + n]
+    p += 4 + n
+    v_detail, p = read_PduMonitoringItemDetail(b, p)
+    (n,) = _u32_read(b, p)
+    v_text1 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_value2, = _S_Q_read(b, p)
+    p += 8
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    return PduMonitoringItem(value1=v_value1, data=v_data, detail=v_detail, text1=v_text1, text2=v_text2, value2=v_value2, text3=v_text3), p
+
+
+def read_PduMonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[PduMonitoringItemDetail], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_sequence, v_exchange = _S_QQ_read(b, p)
+    p += 16
+    return PduMonitoringItemDetail(sequence=v_sequence, exchange=v_exchange), p
+
+
 def read_FileInfo(b: bytes, p: int) -> tuple[Optional[FileInfo], int]:
     if not b[p]:
         return None, p + 1
@@ -2895,6 +2964,50 @@ def write_SupportedInterface(o: bytearray, v: Optional[SupportedInterface]) -> N
     write_texts(o, v.names)
     o += _S_I_write(v.value)
     write_text(o, v.text3)
+
+
+def write_MonitoringItem(o: bytearray, v: Optional[MonitoringItem]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.text1)
+    write_bytes(o, v.data)
+    o += _S_QIbbbI_write(v.value1, v.value2, v.flag1, v.flag2, v.flag3, v.value3)
+    write_text(o, v.text2)
+    o += _S_I_write(v.value4)
+    write_MonitoringItemDetail(o, v.detail)
+
+
+def write_MonitoringItemDetail(o: bytearray, v: Optional[MonitoringItemDetail]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_bytes(o, v.response)
+    write_text(o, v.text)
+
+
+def write_PduMonitoringItem(o: bytearray, v: Optional[PduMonitoringItem]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_I_write(v.value1)
+    write_bytes(o, v.data)
+    write_PduMonitoringItemDetail(o, v.detail)
+    write_text(o, v.text1)
+    write_text(o, v.text2)
+    o += _S_Q_write(v.value2)
+    write_text(o, v.text3)
+
+
+def write_PduMonitoringItemDetail(o: bytearray, v: Optional[PduMonitoringItemDetail]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    o += _S_QQ_write(v.sequence, v.exchange)
 
 
 def write_FileInfo(o: bytearray, v: Optional[FileInfo]) -> None:

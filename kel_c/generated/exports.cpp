@@ -236,6 +236,22 @@ void release_SupportedInterface(SupportedInterface* ptr) { kel::release(ptr); }
 void release_SupportedInterface_array(SupportedInterface** ptr, uint64_t count) {
     kel::releaseArray(ptr, count);
 }
+void release_MonitoringItem(MonitoringItem* ptr) { kel::release(ptr); }
+void release_MonitoringItem_array(MonitoringItem** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_MonitoringItemDetail(MonitoringItemDetail* ptr) { kel::release(ptr); }
+void release_MonitoringItemDetail_array(MonitoringItemDetail** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_PduMonitoringItem(PduMonitoringItem* ptr) { kel::release(ptr); }
+void release_PduMonitoringItem_array(PduMonitoringItem** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_PduMonitoringItemDetail(PduMonitoringItemDetail* ptr) { kel::release(ptr); }
+void release_PduMonitoringItemDetail_array(PduMonitoringItemDetail** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
 void release_FileInfo(FileInfo* ptr) { kel::release(ptr); }
 void release_FileInfo_array(FileInfo** ptr, uint64_t count) { kel::releaseArray(ptr, count); }
 void release_DirectoryInfo(DirectoryInfo* ptr) { kel::release(ptr); }
@@ -330,8 +346,20 @@ void kel_createMonitoringLink(TarnApi* api, const wchar_t* name, KelError** erro
         error, [&] { return api->createMonitoringLink(kel::in::text(name)); },
         kel::out::value(handle));
 }
+void kel_getMonitoringItems(TarnApi* api, uint64_t handle, uint32_t value1, int32_t value2,
+                            KelError** error, MonitoringItem*** items, uint32_t* itemCount) {
+    kel::invoke(
+        error, [&] { return api->getMonitoringItems(handle, value1, value2); },
+        kel::out::records(items, itemCount));
+}
 void kel_releaseMonitoringLink(TarnApi* api, uint64_t handle, KelError** error) {
     kel::invoke(error, [&] { api->releaseMonitoringLink(handle); });
+}
+void kel_getPduMonitoringItems(TarnApi* api, uint64_t handle, uint32_t value1, int32_t value2,
+                               KelError** error, PduMonitoringItem*** items, uint32_t* itemCount) {
+    kel::invoke(
+        error, [&] { return api->getPduMonitoringItems(handle, value1, value2); },
+        kel::out::records(items, itemCount));
 }
 void kel_createPduMonitor(TarnApi* api, KelError** error, uint64_t* handle) {
     kel::invoke(

@@ -887,6 +887,57 @@ struct Record<::SupportedInterface> {
 };
 
 template <>
+struct Record<::MonitoringItem> {
+    using Engine = Varno::Kel_cpp::MonitoringItem;
+    static constexpr const char* name = "MonitoringItem";
+    static constexpr auto fields = std::make_tuple(
+        field(&::MonitoringItem::text1, &Engine::text1),
+        field(&::MonitoringItem::data, &::MonitoringItem::dataLength, &Engine::data),
+        field(&::MonitoringItem::value1, &Engine::value1),
+        field(&::MonitoringItem::value2, &Engine::value2),
+        field(&::MonitoringItem::flag1, &Engine::flag1),
+        field(&::MonitoringItem::flag2, &Engine::flag2),
+        field(&::MonitoringItem::flag3, &Engine::flag3),
+        field(&::MonitoringItem::value3, &Engine::value3),
+        field(&::MonitoringItem::text2, &Engine::text2),
+        field(&::MonitoringItem::value4, &Engine::value4),
+        field(&::MonitoringItem::detail, &Engine::detail));
+};
+
+template <>
+struct Record<::MonitoringItemDetail> {
+    using Engine = Varno::Kel_cpp::MonitoringItemDetail;
+    static constexpr const char* name = "MonitoringItemDetail";
+    static constexpr auto fields =
+        std::make_tuple(field(&::MonitoringItemDetail::response,
+                              &::MonitoringItemDetail::responseLength, &Engine::response),
+                        field(&::MonitoringItemDetail::text, &Engine::text));
+};
+
+template <>
+struct Record<::PduMonitoringItem> {
+    using Engine = Varno::Kel_cpp::PduMonitoringItem;
+    static constexpr const char* name = "PduMonitoringItem";
+    static constexpr auto fields = std::make_tuple(
+        field(&::PduMonitoringItem::value1, &Engine::value1),
+        field(&::PduMonitoringItem::data, &::PduMonitoringItem::dataLength, &Engine::data),
+        field(&::PduMonitoringItem::detail, &Engine::detail),
+        field(&::PduMonitoringItem::text1, &Engine::text1),
+        field(&::PduMonitoringItem::text2, &Engine::text2),
+        field(&::PduMonitoringItem::value2, &Engine::value2),
+        field(&::PduMonitoringItem::text3, &Engine::text3));
+};
+
+template <>
+struct Record<::PduMonitoringItemDetail> {
+    using Engine = Varno::Kel_cpp::PduMonitoringItemDetail;
+    static constexpr const char* name = "PduMonitoringItemDetail";
+    static constexpr auto fields =
+        std::make_tuple(field(&::PduMonitoringItemDetail::sequence, &Engine::sequence),
+                        field(&::PduMonitoringItemDetail::exchange, &Engine::exchange));
+};
+
+template <>
 struct Record<::FileInfo> {
     using Engine = Varno::Kel_cpp::FileInfo;
     static constexpr const char* name = "FileInfo";

@@ -136,6 +136,15 @@ KEL_SIM_API int64_t kelsim_clockMs(void);
 KEL_SIM_API int64_t kelsim_signInAtIdentityProvider(const wchar_t* url, const wchar_t* user,
                                                     wchar_t* code, size_t size);
 
+/* ---- monitoring ----
+ * Saves what the PDU monitor `monitor` holds (it keeps it) as the trace file
+ * `traces/<name>` of the vehicle of the engine object with `handle` (kel_getHandle), for
+ * kel_openTraceFileMonitoringLink to replay (reference_engine/README.md, "Trace files").
+ * `name` goes through the sandbox of the file operations. Returns 0, the engine's error
+ * code (1500 unknown monitor, the sandbox's refusals, 1612 not written), or -1 when no
+ * live engine object has the handle. */
+KEL_SIM_API int32_t kelsim_savePduMonitor(uint64_t handle, uint64_t monitor, const wchar_t* name);
+
 /* Forgets scripted failures, results, delays, recorded calls, asynchronous scripts, and
  * the vehicle description and data root set above. Scripted reports of asynchronous
  * calls still on their way are delivered first, so none arrives after the test that

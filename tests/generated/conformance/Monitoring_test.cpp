@@ -45,9 +45,85 @@ TEST_F(MonitoringByNumber, n10_createMonitoringLink_PyCall) { kc::pyCall(api, kN
 TEST_F(MonitoringByNumber, n10_createMonitoringLink_Failure) { kc::numberFailure(api, kNumber10); }
 TEST_F(MonitoringByNumber, n10_createMonitoringLink_ShortInput) { kc::shortInput(api, kNumber10); }
 
-TEST_F(MonitoringByNumber, n11_getMonitoringItems_NotAvailable) {
-    kc::notAvailable(api, 11, "getMonitoringItems");
+// ---- getMonitoringItems (position 11, number 11) ----
+
+const kc::Case kGetMonitoringItemsCases[] = {
+    {"full", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]",
+     "[{\"text1\":\"Pr\303\274fstand \342\202\254 11.1\",\"data\":[0,255,255,128],\"value1\":1"
+     "8446744073709551615,\"value2\":2147483648,\"flag1\":true,\"flag2\":false,\"flag3\":true,"
+     "\"value3\":2147483647,\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 "
+     "11.2\",\"value4\":1521301875,\"detail\":{\"response\":[0,255,127,1],\"text\":\"K\303\274"
+     "hler\\u0009\360\237\224\247 11.3\"}},{\"text1\":\"say \\\"\303\251\\\" 11.4\",\"data\":["
+     "0,255,53,36],\"value1\":4294967296,\"value2\":2028253989,\"flag1\":false,\"flag2\":true,"
+     "\"flag3\":false,\"value3\":387722457,\"text2\":\"back\\\\slash \303\237 11.5\",\"value4"
+     "\":894674571,\"detail\":null}]",
+     "[{\"text1\":\"Pr\303\274fstand \342\202\254 11.1\",\"data\":[0,255,255,128],\"dataLength"
+     "\":4,\"value1\":18446744073709551615,\"value2\":2147483648,\"flag1\":1,\"flag2\":0,\"fla"
+     "g3\":1,\"value3\":2147483647,\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+     "\204\236 11.2\",\"value4\":1521301875,\"detail\":{\"response\":[0,255,127,1],\"responseL"
+     "ength\":4,\"text\":\"K\303\274hler\\u0009\360\237\224\247 11.3\"}},{\"text1\":\"say \\\""
+     "\303\251\\\" 11.4\",\"data\":[0,255,53,36],\"dataLength\":4,\"value1\":4294967296,\"valu"
+     "e2\":2028253989,\"flag1\":0,\"flag2\":1,\"flag3\":0,\"value3\":387722457,\"text2\":\"bac"
+     "k\\\\slash \303\237 11.5\",\"value4\":894674571,\"detail\":null}]",
+     "0100000000000080ffffffff00000080", "0100000000000080ffffffff00000080",
+     "[9223372036854775809,4294967295,-2147483648]", "[9223372036854775809,4294967295,-2147483648]",
+     "010200000001130000005072c3bc667374616e6420e282ac2031312e310400000000ffff80ffffffffffffff"
+     "ff00000080010001ffffff7f13000000e697a5e69cace8aa9e20f09d849e2031312e327339ad5a0104000000"
+     "00ff7f01110000004bc3bc686c657209f09f94a72031312e33010d0000007361792022c3a9222031312e3404"
+     "00000000ff3524000000000100000025b3e478000100d92c1c17120000006261636b5c736c61736820c39f20"
+     "31312e358ba6533500",
+     "0200000001130000005072c3bc667374616e6420e282ac2031312e310400000000ffff80ffffffffffffffff"
+     "00000080010001ffffff7f13000000e697a5e69cace8aa9e20f09d849e2031312e327339ad5a010400000000"
+     "ff7f01110000004bc3bc686c657209f09f94a72031312e33010d0000007361792022c3a9222031312e340400"
+     "000000ff3524000000000100000025b3e478000100d92c1c17120000006261636b5c736c61736820c39f2031"
+     "312e358ba6533500",
+     0},
+    {"sparse", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]",
+     "[{\"text1\":\"\",\"data\":[],\"value1\":18446744073709551615,\"value2\":2147483648,\"fla"
+     "g1\":true,\"flag2\":false,\"flag3\":true,\"value3\":2147483647,\"text2\":\"\",\"value4\""
+     ":1521301875,\"detail\":{\"response\":[],\"text\":\"\"}},null]",
+     "[{\"text1\":\"\",\"data\":null,\"dataLength\":0,\"value1\":18446744073709551615,\"value2"
+     "\":2147483648,\"flag1\":1,\"flag2\":0,\"flag3\":1,\"value3\":2147483647,\"text2\":\"\","
+     "\"value4\":1521301875,\"detail\":{\"response\":null,\"responseLength\":0,\"text\":\"\"}}"
+     ",null]",
+     "0100000000000080ffffffff00000080", "0100000000000080ffffffff00000080",
+     "[9223372036854775809,4294967295,-2147483648]", "[9223372036854775809,4294967295,-2147483648]",
+     "0102000000010000000000000000ffffffffffffffff00000080010001ffffff7f000000007339ad5a010000"
+     "00000000000000",
+     "02000000010000000000000000ffffffffffffffff00000080010001ffffff7f000000007339ad5a01000000"
+     "000000000000",
+     0},
+    {"empty", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]", "[]", "null",
+     "0100000000000080ffffffff00000080", "0100000000000080ffffffff00000080",
+     "[9223372036854775809,4294967295,-2147483648]", "[9223372036854775809,4294967295,-2147483648]",
+     "0100000000", "00000000", 0},
+};
+
+struct GetMonitoringItemsExport {
+    static constexpr const char* operation = "getMonitoringItems";
+    using Result = kc::ListResult<MonitoringItem, release_MonitoringItem_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_getMonitoringItems(api, kc::number<uint64_t>(in[0]), kc::number<uint32_t>(in[1]),
+                               kc::number<int32_t>(in[2]), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Monitoring, getMonitoringItems_Exchange) {
+    kc::exchange<GetMonitoringItemsExport>(api, kGetMonitoringItemsCases);
 }
+TEST_F(Monitoring, getMonitoringItems_Failure) {
+    kc::failure<GetMonitoringItemsExport>(api, kGetMonitoringItemsCases);
+}
+
+const kc::Number kNumber11{11, "getMonitoringItems", kGetMonitoringItemsCases};
+
+TEST_F(MonitoringByNumber, n11_getMonitoringItems_KelCall) { kc::kelCall(api, kNumber11); }
+TEST_F(MonitoringByNumber, n11_getMonitoringItems_PyCall) { kc::pyCall(api, kNumber11); }
+TEST_F(MonitoringByNumber, n11_getMonitoringItems_Failure) { kc::numberFailure(api, kNumber11); }
+TEST_F(MonitoringByNumber, n11_getMonitoringItems_ShortInput) { kc::shortInput(api, kNumber11); }
 
 // ---- releaseMonitoringLink (position 12, number 12) ----
 
@@ -79,9 +155,82 @@ TEST_F(MonitoringByNumber, n12_releaseMonitoringLink_PyCall) { kc::pyCall(api, k
 TEST_F(MonitoringByNumber, n12_releaseMonitoringLink_Failure) { kc::numberFailure(api, kNumber12); }
 TEST_F(MonitoringByNumber, n12_releaseMonitoringLink_ShortInput) { kc::shortInput(api, kNumber12); }
 
-TEST_F(MonitoringByNumber, n13_getPduMonitoringItems_NotAvailable) {
-    kc::notAvailable(api, 13, "getPduMonitoringItems");
+// ---- getPduMonitoringItems (position 13, number 13) ----
+
+const kc::Case kGetPduMonitoringItemsCases[] = {
+    {"full", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]",
+     "[{\"value1\":2147483648,\"data\":[0,255,255,128],\"detail\":{\"sequence\":18446744073709"
+     "551615,\"exchange\":4294967296},\"text1\":\"Pr\303\274fstand \342\202\254 13.1\",\"text2"
+     "\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 13.2\",\"value2\":1521382881,"
+     "\"text3\":\"K\303\274hler\\u0009\360\237\224\247 13.3\"},{\"value1\":2147483647,\"data\""
+     ":[0,255,127,1],\"detail\":null,\"text1\":\"say \\\"\303\251\\\" 13.4\",\"text2\":\"back"
+     "\\\\slash \303\237 13.5\",\"value2\":2028334995,\"text3\":\"Z\303\274ndung \360\237\232"
+     "\227 13.6\"}]",
+     "[{\"value1\":2147483648,\"data\":[0,255,255,128],\"dataLength\":4,\"detail\":{\"sequence"
+     "\":18446744073709551615,\"exchange\":4294967296},\"text1\":\"Pr\303\274fstand \342\202"
+     "\254 13.1\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 13.2\",\"v"
+     "alue2\":1521382881,\"text3\":\"K\303\274hler\\u0009\360\237\224\247 13.3\"},{\"value1\":"
+     "2147483647,\"data\":[0,255,127,1],\"dataLength\":4,\"detail\":null,\"text1\":\"say \\\""
+     "\303\251\\\" 13.4\",\"text2\":\"back\\\\slash \303\237 13.5\",\"value2\":2028334995,\"te"
+     "xt3\":\"Z\303\274ndung \360\237\232\227 13.6\"}]",
+     "0100000000000080ffffffff00000080", "0100000000000080ffffffff00000080",
+     "[9223372036854775809,4294967295,-2147483648]", "[9223372036854775809,4294967295,-2147483648]",
+     "010200000001000000800400000000ffff8001ffffffffffffffff0000000001000000130000005072c3bc66"
+     "7374616e6420e282ac2031332e3113000000e697a5e69cace8aa9e20f09d849e2031332e32e175ae5a000000"
+     "00110000004bc3bc686c657209f09f94a72031332e3301ffffff7f0400000000ff7f01000d00000073617920"
+     "22c3a9222031332e34120000006261636b5c736c61736820c39f2031332e3593efe57800000000120000005a"
+     "c3bc6e64756e6720f09f9a972031332e36",
+     "0200000001000000800400000000ffff8001ffffffffffffffff0000000001000000130000005072c3bc6673"
+     "74616e6420e282ac2031332e3113000000e697a5e69cace8aa9e20f09d849e2031332e32e175ae5a00000000"
+     "110000004bc3bc686c657209f09f94a72031332e3301ffffff7f0400000000ff7f01000d0000007361792022"
+     "c3a9222031332e34120000006261636b5c736c61736820c39f2031332e3593efe57800000000120000005ac3"
+     "bc6e64756e6720f09f9a972031332e36",
+     0},
+    {"sparse", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]",
+     "[{\"value1\":2147483648,\"data\":[],\"detail\":{\"sequence\":18446744073709551615,\"exch"
+     "ange\":4294967296},\"text1\":\"\",\"text2\":\"\",\"value2\":1521382881,\"text3\":\"\"},n"
+     "ull]",
+     "[{\"value1\":2147483648,\"data\":null,\"dataLength\":0,\"detail\":{\"sequence\":18446744"
+     "073709551615,\"exchange\":4294967296},\"text1\":\"\",\"text2\":\"\",\"value2\":152138288"
+     "1,\"text3\":\"\"},null]",
+     "0100000000000080ffffffff00000080", "0100000000000080ffffffff00000080",
+     "[9223372036854775809,4294967295,-2147483648]", "[9223372036854775809,4294967295,-2147483648]",
+     "010200000001000000800000000001ffffffffffffffff00000000010000000000000000000000e175ae5a00"
+     "0000000000000000",
+     "0200000001000000800000000001ffffffffffffffff00000000010000000000000000000000e175ae5a0000"
+     "00000000000000",
+     0},
+    {"empty", "[9223372036854775809,4294967295,-2147483648]",
+     "[9223372036854775809,4294967295,-2147483648]", "[]", "null",
+     "0100000000000080ffffffff00000080", "0100000000000080ffffffff00000080",
+     "[9223372036854775809,4294967295,-2147483648]", "[9223372036854775809,4294967295,-2147483648]",
+     "0100000000", "00000000", 0},
+};
+
+struct GetPduMonitoringItemsExport {
+    static constexpr const char* operation = "getPduMonitoringItems";
+    using Result = kc::ListResult<PduMonitoringItem, release_PduMonitoringItem_array>;
+    static void call(TarnApi* api, const kc::Json& in, KelError** error, Result& out) {
+        kel_getPduMonitoringItems(api, kc::number<uint64_t>(in[0]), kc::number<uint32_t>(in[1]),
+                                  kc::number<int32_t>(in[2]), error, &out.data, &out.count);
+    }
+};
+
+TEST_F(Monitoring, getPduMonitoringItems_Exchange) {
+    kc::exchange<GetPduMonitoringItemsExport>(api, kGetPduMonitoringItemsCases);
 }
+TEST_F(Monitoring, getPduMonitoringItems_Failure) {
+    kc::failure<GetPduMonitoringItemsExport>(api, kGetPduMonitoringItemsCases);
+}
+
+const kc::Number kNumber13{13, "getPduMonitoringItems", kGetPduMonitoringItemsCases};
+
+TEST_F(MonitoringByNumber, n13_getPduMonitoringItems_KelCall) { kc::kelCall(api, kNumber13); }
+TEST_F(MonitoringByNumber, n13_getPduMonitoringItems_PyCall) { kc::pyCall(api, kNumber13); }
+TEST_F(MonitoringByNumber, n13_getPduMonitoringItems_Failure) { kc::numberFailure(api, kNumber13); }
+TEST_F(MonitoringByNumber, n13_getPduMonitoringItems_ShortInput) { kc::shortInput(api, kNumber13); }
 
 // ---- createPduMonitor (position 14, number 14) ----
 

@@ -140,6 +140,14 @@ inline void describe(Out& o, const WLanSignalData& r);
 inline void build(const Json& j, WLanSignalData& r);
 inline void describe(Out& o, const SupportedInterface& r);
 inline void build(const Json& j, SupportedInterface& r);
+inline void describe(Out& o, const MonitoringItem& r);
+inline void build(const Json& j, MonitoringItem& r);
+inline void describe(Out& o, const MonitoringItemDetail& r);
+inline void build(const Json& j, MonitoringItemDetail& r);
+inline void describe(Out& o, const PduMonitoringItem& r);
+inline void build(const Json& j, PduMonitoringItem& r);
+inline void describe(Out& o, const PduMonitoringItemDetail& r);
+inline void build(const Json& j, PduMonitoringItemDetail& r);
 inline void describe(Out& o, const FileInfo& r);
 inline void build(const Json& j, FileInfo& r);
 inline void describe(Out& o, const DirectoryInfo& r);
@@ -1580,6 +1588,81 @@ inline void build(const Json& j, SupportedInterface& r) {
     set(j.at("names"), r.names, r.nameCount);
     set(j.at("value"), r.value);
     set(j.at("text3"), r.text3);
+}
+
+inline void describe(Out& o, const MonitoringItem& r) {
+    o.member("text1", r.text1);
+    o.member("data", r.data, r.dataLength);
+    o.member("dataLength", r.dataLength);
+    o.member("value1", r.value1);
+    o.member("value2", r.value2);
+    o.member("flag1", r.flag1);
+    o.member("flag2", r.flag2);
+    o.member("flag3", r.flag3);
+    o.member("value3", r.value3);
+    o.member("text2", r.text2);
+    o.member("value4", r.value4);
+    o.member("detail", r.detail);
+    o.end();
+}
+
+inline void build(const Json& j, MonitoringItem& r) {
+    set(j.at("text1"), r.text1);
+    set(j.at("data"), r.data, r.dataLength);
+    set(j.at("value1"), r.value1);
+    set(j.at("value2"), r.value2);
+    set(j.at("flag1"), r.flag1);
+    set(j.at("flag2"), r.flag2);
+    set(j.at("flag3"), r.flag3);
+    set(j.at("value3"), r.value3);
+    set(j.at("text2"), r.text2);
+    set(j.at("value4"), r.value4);
+    set(j.at("detail"), r.detail);
+}
+
+inline void describe(Out& o, const MonitoringItemDetail& r) {
+    o.member("response", r.response, r.responseLength);
+    o.member("responseLength", r.responseLength);
+    o.member("text", r.text);
+    o.end();
+}
+
+inline void build(const Json& j, MonitoringItemDetail& r) {
+    set(j.at("response"), r.response, r.responseLength);
+    set(j.at("text"), r.text);
+}
+
+inline void describe(Out& o, const PduMonitoringItem& r) {
+    o.member("value1", r.value1);
+    o.member("data", r.data, r.dataLength);
+    o.member("dataLength", r.dataLength);
+    o.member("detail", r.detail);
+    o.member("text1", r.text1);
+    o.member("text2", r.text2);
+    o.member("value2", r.value2);
+    o.member("text3", r.text3);
+    o.end();
+}
+
+inline void build(const Json& j, PduMonitoringItem& r) {
+    set(j.at("value1"), r.value1);
+    set(j.at("data"), r.data, r.dataLength);
+    set(j.at("detail"), r.detail);
+    set(j.at("text1"), r.text1);
+    set(j.at("text2"), r.text2);
+    set(j.at("value2"), r.value2);
+    set(j.at("text3"), r.text3);
+}
+
+inline void describe(Out& o, const PduMonitoringItemDetail& r) {
+    o.member("sequence", r.sequence);
+    o.member("exchange", r.exchange);
+    o.end();
+}
+
+inline void build(const Json& j, PduMonitoringItemDetail& r) {
+    set(j.at("sequence"), r.sequence);
+    set(j.at("exchange"), r.exchange);
 }
 
 inline void describe(Out& o, const FileInfo& r) {

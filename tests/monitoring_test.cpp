@@ -1,0 +1,705 @@
+// Monitoring through the C exports, as a user debugging a sequence sees it: PDU monitors
+// and monitoring links show the bytes the simulated units really exchanged, in order;
+// the API trace shows the calls with their secrets masked; a saved trace replays through
+// a link on vehicle time. The expected bytes come from the calls' own results (a
+// service's request and response, the DTCs and identification values read), never
+// from a copy of the vehicle description. The default vehicle's ACC does not answer.
+#include "support.h"
+
+#include <OTXStream.h>
+#include <convert.h>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::List;
+
+using Bytes = std::vector<uint8_t>;
+using PduItems = List<PduMonitoringItem, release_PduMonitoringItem_array>;
+using LinkItems = List<MonitoringItem, release_MonitoringItem_array>;
+
+constexpr int32_t UnknownMonitor = 1500;
+constexpr int32_t LinkExists = 1501;
+constexpr int32_t BadArgument = 1502;
+constexpr int32_t Unreadable = 1503;
+constexpr int32_t NoTraceFile = 1504;
+constexpr int32_t TraceFileOpen = 1505;
+
+Bytes bytesOf(const uint8_t* data, uint32_t length) {
+    return data == nullptr ? Bytes{} : Bytes(data, data + length);
+}
+
+Bytes join(Bytes head, const Bytes& tail) {
+    head.insert(head.end(), tail.begin(), tail.end());
+    return head;
+}
+
+// One PDU as a test compares it.
+struct Seen {
+    std::wstring unit;
+    bool response = false;
+    Bytes bytes;
+    bool operator==(const Seen&) const = default;
+};
+
+std::ostream& operator<<(std::ostream& out, const Seen& s) {
+    out << std::string(s.unit.begin(), s.unit.end()) << (s.response ? " <-" : " ->");
+    for (const auto b : s.bytes) {
+        out << ' ' << std::hex << static_cast<int>(b) << std::dec;
+    }
+    return out;
+}
+
+class Monitoring : public EngineTest {
+protected:
+    uint64_t pduMonitor() {
+        ErrorSlot error;
+        uint64_t handle = 0;
+        kel_createPduMonitor(api, &error, &handle);
+        EXPECT_FALSE(error);
+        EXPECT_NE(handle, 0u);
+        return handle;
+    }
+    uint64_t link(const wchar_t* name) {
+        ErrorSlot error;
+        uint64_t handle = 0;
+        kel_createMonitoringLink(api, name, &error, &handle);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        return handle;
+    }
+    // Runs one raw request on `target`; returns the request and response the call reports.
+    std::pair<Bytes, Bytes> raw(const wchar_t* target, const Bytes& request) {
+        auto* s = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
+        std::memset(s, 0, sizeof *s);
+        s->service = duplicate_WString(L"");
+        s->data = static_cast<uint8_t*>(allocate_Memory(request.size()));
+        std::memcpy(s->data, request.data(), request.size());
+        s->dataLength = static_cast<uint32_t>(request.size());
+        ErrorSlot error;
+        List<ServiceResult, release_ServiceResult_array> results;
+        kel_executeService(api, target, &s, 1, &error, &results.items, &results.count);
+        release_ServiceInput(s);
+        EXPECT_FALSE(error);
+        if (error || results.count != 1) {
+            ADD_FAILURE() << "executeService on " << std::string(target, target + 3);
+            return {};
+        }
+        const ServiceResult& r = *results.items[0];
+        const Bytes sent = r.request ? bytesOf(r.request->data, r.request->dataLength) : Bytes{};
+        const Bytes answer =
+            r.responseCount ? bytesOf(r.responses[0]->data, r.responses[0]->dataLength) : Bytes{};
+        return {sent, answer};
+    }
+    std::vector<Seen> pdus(uint64_t monitor, uint32_t most = 0, int32_t keep = 0) {
+        ErrorSlot error;
+        PduItems items;
+        kel_getPduMonitoringItems(api, monitor, most, keep, &error, &items.items, &items.count);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        std::vector<Seen> out;
+        for (uint32_t i = 0; i < items.count; ++i) {
+            const auto& p = *items.items[i];
+            out.push_back({p.text1, p.value1 == 2, bytesOf(p.data, p.dataLength)});
+        }
+        return out;
+    }
+    int32_t errorOf(void (*call)(TarnApi*, uint64_t, KelError**), uint64_t handle) {
+        ErrorSlot error;
+        call(api, handle, &error);
+        return error ? error->code : 0;
+    }
+    std::string apiTrace(uint64_t monitor, uint32_t most = 0, int32_t keep = 0) {
+        ErrorSlot error;
+        void* data = nullptr;
+        uint32_t length = 0;
+        kel_getApiTraceContent(api, monitor, most, keep, &error, &data, &length);
+        EXPECT_FALSE(error);
+        EXPECT_NE(data, nullptr); // allocated also for 0 bytes
+        std::string text(static_cast<const char*>(data), length);
+        release_Memory(data);
+        return text;
+    }
+};
+
+DtcReadConfig* allDtcs() {
+    auto* c = static_cast<DtcReadConfig*>(allocate_Memory(sizeof(DtcReadConfig)));
+    std::memset(c, 0, sizeof *c);
+    c->value = 0xFF;
+    return c;
+}
+
+TEST_F(Monitoring, PduMonitorShowsExactlyTheTrafficOfTheCallsInOrder) {
+    raw(L"ECM", {0x3E, 0x00}); // before the monitor: not shown
+    const uint64_t monitor = pduMonitor();
+    std::vector<Seen> expected;
+
+    // DTCs: 19 02 <mask>, answered by 59 02 FF and code (3 bytes) and status per DTC.
+    {
+        ErrorSlot error;
+        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+        wchar_t* ecm[] = {const_cast<wchar_t*>(L"ECM")};
+        kel_readDtcs(api, ecm, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
+        ASSERT_FALSE(error);
+        ASSERT_EQ(dtcs.count, 1u);
+        Bytes answer = {0x59, 0x02, 0xFF};
+        for (uint32_t i = 0; i < dtcs.items[0]->dtcCount; ++i) {
+            const auto* d = dtcs.items[0]->dtcs[i];
+            answer.insert(answer.end(),
+                          {static_cast<uint8_t>(d->code >> 16), static_cast<uint8_t>(d->code >> 8),
+                           static_cast<uint8_t>(d->code), static_cast<uint8_t>(d->value1)});
+        }
+        ASSERT_GT(dtcs.items[0]->dtcCount, 0u);
+        expected.push_back({L"ECM", false, {0x19, 0x02, 0xFF}});
+        expected.push_back({L"ECM", true, answer});
+    }
+    // Identification: one 22 <id> per value, answered by 62 <id> and the value's bytes.
+    std::vector<Bytes> identification;
+    {
+        ErrorSlot error;
+        List<ReadDataResult, release_ReadDataResult_array> values;
+        wchar_t* tcm[] = {const_cast<wchar_t*>(L"TCM")};
+        kel_readIdentificationValues(api, tcm, 1, &error, &values.items, &values.count);
+        ASSERT_FALSE(error);
+        ASSERT_EQ(values.count, 1u);
+        ASSERT_GT(values.items[0]->parameterCount, 0u);
+        for (uint32_t i = 0; i < values.items[0]->parameterCount; ++i) {
+            const auto* p = values.items[0]->parameters[i];
+            identification.push_back(bytesOf(p->data, p->dataLength));
+        }
+    }
+    // A service, and a unit that stays silent.
+    const auto [request, response] = raw(L"ECM", {0x22, 0xF1, 0x90});
+    ASSERT_EQ(request, (Bytes{0x22, 0xF1, 0x90}));
+    {
+        ErrorSlot error;
+        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+        wchar_t* acc[] = {const_cast<wchar_t*>(L"ACC")};
+        kel_readDtcs(api, acc, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
+        ASSERT_FALSE(error);
+    }
+
+    ErrorSlot error;
+    PduItems items;
+    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
+    ASSERT_FALSE(error);
+    std::vector<Seen> seen;
+    for (uint32_t i = 0; i < items.count; ++i) {
+        const auto& p = *items.items[i];
+        seen.push_back({p.text1, p.value1 == 2, bytesOf(p.data, p.dataLength)});
+        ASSERT_NE(p.detail, nullptr);
+        EXPECT_EQ(p.detail->sequence, i + 1);
+        EXPECT_EQ(std::wstring(p.text2), p.value1 == 2 ? L"response" : L"request");
+        if (i > 0) {
+            EXPECT_GE(p.value2, items.items[i - 1]->value2) << "time runs backwards at " << i;
+            // A response shares its request's exchange; the next request starts a new one.
+            EXPECT_EQ(p.detail->exchange, items.items[i - 1]->detail->exchange + (p.value1 == 1));
+        }
+    }
+    // The identification requests lie between the DTC read and the service.
+    ASSERT_EQ(seen.size(), 2 + 2 * identification.size() + 2 + 1);
+    for (std::size_t i = 0; i < identification.size(); ++i) {
+        const Seen& ask = seen[2 + 2 * i];
+        ASSERT_EQ(ask.bytes.size(), 3u);
+        EXPECT_EQ(ask.bytes[0], 0x22);
+        expected.push_back({L"TCM", false, ask.bytes});
+        expected.push_back(
+            {L"TCM", true, join({0x62, ask.bytes[1], ask.bytes[2]}, identification[i])});
+    }
+    expected.push_back({L"ECM", false, request});
+    expected.push_back({L"ECM", true, response});
+    expected.push_back({L"ACC", false, {0x19, 0x02, 0xFF}});
+    EXPECT_EQ(seen, expected);
+
+    // Reading removed them: the next read is empty, NULL and 0.
+    PduItems again;
+    ErrorSlot againError;
+    again.count = 7;
+    kel_getPduMonitoringItems(api, monitor, 0, 0, &againError, &again.items, &again.count);
+    EXPECT_FALSE(againError);
+    EXPECT_EQ(again.items, nullptr);
+    EXPECT_EQ(again.count, 0u);
+}
+
+TEST_F(Monitoring, ValuesOfAFetchCountAndKeep) {
+    const uint64_t monitor = pduMonitor();
+    raw(L"ECM", {0x3E, 0x00});
+    raw(L"ECM", {0x22, 0xF1, 0x90});
+    const auto all = pdus(monitor, 0, 1); // 1: leave them
+    ASSERT_EQ(all.size(), 4u);
+    EXPECT_EQ(pdus(monitor, 0, 1), all);
+    EXPECT_EQ(pdus(monitor, 3, 0), std::vector<Seen>(all.begin(), all.begin() + 3));
+    EXPECT_EQ(pdus(monitor, 3, 0), std::vector<Seen>(all.begin() + 3, all.end()));
+
+    ErrorSlot error;
+    PduItems items;
+    kel_getPduMonitoringItems(api, monitor, 0, 2, &error, &items.items, &items.count);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, BadArgument);
+}
+
+TEST_F(Monitoring, AFullMonitorDropsItsOldestItemsAndTheNumbersShowTheGap) {
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "monitoring": {"maxItems": 0}})"), -1);
+    ASSERT_EQ(
+        kelsim_setVehicleJson(R"({"ecus": [{"name": "ECM"}], "monitoring": {"maxItems": 3}})"), 0);
+    const uint64_t monitor = pduMonitor();
+    raw(L"ECM", {0x3E, 0x00});
+    const auto [request, response] = raw(L"ECM", {0x3E, 0x00});
+    ASSERT_FALSE(response.empty());
+    ErrorSlot error;
+    PduItems items;
+    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(items.count, 3u);
+    EXPECT_EQ(items.items[0]->detail->sequence, 2u); // the first request went
+    EXPECT_EQ(bytesOf(items.items[1]->data, items.items[1]->dataLength), request);
+    EXPECT_EQ(bytesOf(items.items[2]->data, items.items[2]->dataLength), response);
+}
+
+TEST_F(Monitoring, ALinkGivesOneItemPerExchangeWithItsAnswer) {
+    const uint64_t bench = link(L"bench");
+    const auto [request, positive] = raw(L"ECM", {0x22, 0xF1, 0x90});
+    const auto [refusedRequest, negative] = raw(L"ECM", {0x22, 0xFF, 0xFF});
+    ASSERT_EQ(negative.size(), 3u);
+    ASSERT_EQ(negative[0], 0x7F);
+    {
+        ErrorSlot error;
+        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+        wchar_t* acc[] = {const_cast<wchar_t*>(L"ACC")};
+        kel_readDtcs(api, acc, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
+    }
+
+    ErrorSlot error;
+    LinkItems items;
+    kel_getMonitoringItems(api, bench, 0, 0, &error, &items.items, &items.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(items.count, 3u);
+    const MonitoringItem& ok = *items.items[0];
+    EXPECT_EQ(std::wstring(ok.text1), L"ECM");
+    EXPECT_EQ(bytesOf(ok.data, ok.dataLength), request);
+    EXPECT_EQ(ok.value2, 1u);
+    EXPECT_EQ(ok.flag1, 1);
+    EXPECT_EQ(ok.flag2, 1);
+    EXPECT_EQ(ok.flag3, 0);
+    EXPECT_EQ(ok.value3, 0u);
+    EXPECT_EQ(std::wstring(ok.text2), L"bench");
+    EXPECT_EQ(ok.value4, 0x22u);
+    ASSERT_NE(ok.detail, nullptr);
+    EXPECT_EQ(bytesOf(ok.detail->response, ok.detail->responseLength), positive);
+    EXPECT_EQ(std::wstring(ok.detail->text), L"positive response");
+
+    const MonitoringItem& refused = *items.items[1];
+    EXPECT_EQ(refused.value2, 2u);
+    EXPECT_EQ(refused.flag1, 1);
+    EXPECT_EQ(refused.flag2, 0);
+    EXPECT_EQ(refused.value3, negative[2]);
+    ASSERT_NE(refused.detail, nullptr);
+    EXPECT_EQ(bytesOf(refused.detail->response, refused.detail->responseLength), negative);
+    EXPECT_EQ(std::wstring(refused.detail->text).rfind(L"negative response 0x", 0), 0u);
+
+    const MonitoringItem& silent = *items.items[2];
+    EXPECT_EQ(std::wstring(silent.text1), L"ACC");
+    EXPECT_EQ(silent.flag1, 0);
+    EXPECT_EQ(silent.detail, nullptr);
+
+    LinkItems none;
+    ErrorSlot noneError;
+    kel_getMonitoringItems(api, bench, 0, 0, &noneError, &none.items, &none.count);
+    EXPECT_FALSE(noneError);
+    EXPECT_EQ(none.count, 0u);
+    EXPECT_EQ(none.items, nullptr);
+}
+
+TEST_F(Monitoring, LinksAreListedByNameUntilReleased) {
+    const uint64_t first = link(L"bench");
+    link(L"Prüfstand 2");
+    ErrorSlot taken;
+    uint64_t handle = 0;
+    kel_createMonitoringLink(api, L"bench", &taken, &handle);
+    ASSERT_TRUE(taken);
+    EXPECT_EQ(taken->code, LinkExists);
+    ErrorSlot unnamed;
+    kel_createMonitoringLink(api, L"", &unnamed, &handle);
+    ASSERT_TRUE(unnamed);
+    EXPECT_EQ(unnamed->code, BadArgument);
+
+    const auto names = [&] {
+        ErrorSlot error;
+        wchar_t** list = nullptr;
+        uint32_t count = 0;
+        kel_getMonitoringLinks(api, &error, &list, &count);
+        EXPECT_FALSE(error);
+        std::vector<std::wstring> out(list, list + count);
+        release_StringArray(list, count);
+        return out;
+    };
+    EXPECT_EQ(names(), (std::vector<std::wstring>{L"bench", L"Prüfstand 2"}));
+    EXPECT_EQ(errorOf(kel_releaseMonitoringLink, first), 0);
+    EXPECT_EQ(names(), (std::vector<std::wstring>{L"Prüfstand 2"}));
+}
+
+TEST_F(Monitoring, ReleasedUnknownAndForeignHandlesAreEngineErrors) {
+    const uint64_t monitor = pduMonitor();
+    const uint64_t bench = link(L"bench");
+    ErrorSlot error;
+    uint64_t trace = 0;
+    kel_createApiTraceMonitor(api, &error, &trace);
+    ASSERT_FALSE(error);
+    EXPECT_NE(monitor, bench);
+    EXPECT_NE(bench, trace);
+
+    // A handle of another kind is not one of this kind.
+    EXPECT_EQ(errorOf(kel_releasePduMonitor, bench), UnknownMonitor);
+    EXPECT_EQ(errorOf(kel_releaseMonitoringLink, trace), UnknownMonitor);
+    EXPECT_EQ(errorOf(kel_releaseApiTraceMonitor, monitor), UnknownMonitor);
+    EXPECT_EQ(errorOf(kel_releasePduMonitor, 12345), UnknownMonitor);
+
+    // Released twice: the second is the engine's error, and the handle is gone for reads.
+    EXPECT_EQ(errorOf(kel_releasePduMonitor, monitor), 0);
+    EXPECT_EQ(errorOf(kel_releasePduMonitor, monitor), UnknownMonitor);
+    EXPECT_EQ(errorOf(kel_releaseMonitoringLink, bench), 0);
+    EXPECT_EQ(errorOf(kel_releaseMonitoringLink, bench), UnknownMonitor);
+    EXPECT_EQ(errorOf(kel_releaseApiTraceMonitor, trace), 0);
+    EXPECT_EQ(errorOf(kel_releaseApiTraceMonitor, trace), UnknownMonitor);
+    EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, bench), UnknownMonitor);
+
+    ErrorSlot read;
+    PduItems items;
+    items.count = 9;
+    kel_getPduMonitoringItems(api, monitor, 0, 0, &read, &items.items, &items.count);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->code, UnknownMonitor);
+    EXPECT_EQ(items.count, 9u); // untouched on failure
+    items.count = 0;
+    ErrorSlot readTrace;
+    void* data = nullptr;
+    uint32_t length = 0;
+    kel_getApiTraceContent(api, trace, 0, 0, &readTrace, &data, &length);
+    ASSERT_TRUE(readTrace);
+    EXPECT_EQ(readTrace->code, UnknownMonitor);
+    EXPECT_EQ(data, nullptr);
+
+    // Monitors need an initialised engine, as every call on the vehicle does.
+    ErrorSlot ended;
+    kel_end(api, &ended);
+    ErrorSlot create;
+    uint64_t none = 0;
+    kel_createPduMonitor(api, &create, &none);
+    ASSERT_TRUE(create);
+    EXPECT_EQ(create->code, 1001);
+}
+
+// <number> <vehicle time ms> <operation> <duration>us <ok|failed> <arguments>
+std::vector<std::vector<std::string>> traceLines(const std::string& text) {
+    std::vector<std::vector<std::string>> lines;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto end = text.find('\n', at);
+        EXPECT_NE(end, std::string::npos) << "every line ends with a newline";
+        const std::string line = text.substr(at, end - at);
+        std::vector<std::string> fields;
+        std::size_t from = 0;
+        for (int i = 0; i < 5 && from <= line.size(); ++i) {
+            const auto space = std::min(line.find(' ', from), line.size());
+            fields.push_back(line.substr(from, space - from));
+            from = space + 1;
+        }
+        fields.push_back(from < line.size() ? line.substr(from) : "");
+        lines.push_back(fields);
+        if (end == std::string::npos) {
+            break;
+        }
+        at = end + 1;
+    }
+    return lines;
+}
+
+TEST_F(Monitoring, ApiTraceShowsTheCallsMadeWithSecretsMasked) {
+    ErrorSlot error;
+    uint64_t trace = 0;
+    kel_createApiTraceMonitor(api, &error, &trace);
+    ASSERT_FALSE(error);
+    // Its own creation is not shown; a call shows when it ends, so a read shows in the next.
+    EXPECT_EQ(apiTrace(trace), "");
+
+    ErrorSlot loginError;
+    uint8_t loggedIn = 0;
+    kel_thirdPartyLogin(api, L"Hunter2-Secret", &loginError, &loggedIn);
+    kelsim_failNext("getState", 1, 77, 0, L"scripted", L"");
+    ErrorSlot stateError;
+    int32_t state = 0;
+    kel_getState(api, &stateError, &state);
+    ASSERT_TRUE(stateError);
+
+    const std::string text = apiTrace(trace);
+    EXPECT_EQ(text.find("Hunter2-Secret"), std::string::npos) << text;
+    const auto lines = traceLines(text);
+    ASSERT_EQ(lines.size(), 3u) << text;
+    EXPECT_EQ(lines[0][0], "1");
+    EXPECT_EQ(lines[0][2], "getApiTraceContent");
+    EXPECT_EQ(lines[0][5], "[" + std::to_string(trace) + ",0,0]");
+    EXPECT_EQ(lines[1][0], "2");
+    EXPECT_EQ(lines[1][2], "thirdPartyLogin");
+    EXPECT_EQ(lines[1][3].substr(lines[1][3].size() - 2), "us");
+    EXPECT_EQ(lines[1][4], loginError ? "failed" : "ok");
+    EXPECT_EQ(lines[1][5], R"(["***"])");
+    EXPECT_EQ(lines[2][0], "3");
+    EXPECT_EQ(lines[2][2], "getState");
+    EXPECT_EQ(lines[2][4], "failed");
+    EXPECT_EQ(lines[2][5], "[]");
+    EXPECT_LE(std::stoll(lines[0][1]), std::stoll(lines[2][1]));
+
+    // Taken out: the next read has only the read before it, numbered on.
+    const std::string next = apiTrace(trace, 0, 1);
+    ASSERT_EQ(traceLines(next).size(), 1u) << next;
+    EXPECT_EQ(traceLines(next)[0][0], "4");
+    // value1 hands out whole lines, at least one; 1 left the line above, so it comes again.
+    const std::string first = apiTrace(trace, 5, 0);
+    EXPECT_EQ(first, next);
+    // Now 5 and 6 are there; a limit that fits one line gives one.
+    const std::string two = apiTrace(trace, 0, 1);
+    ASSERT_EQ(traceLines(two).size(), 2u) << two;
+    const auto firstLength = static_cast<uint32_t>(two.find('\n') + 1);
+    EXPECT_EQ(apiTrace(trace, firstLength + 1, 1), two.substr(0, firstLength));
+}
+
+TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
+    const uint64_t monitor = pduMonitor();
+    const uint64_t live = link(L"live");
+    raw(L"ECM", {0x22, 0xF1, 0x90});
+    raw(L"ECM", {0x22, 0xFF, 0xFF});
+    {
+        ErrorSlot error;
+        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+        wchar_t* acc[] = {const_cast<wchar_t*>(L"ACC")};
+        kel_readDtcs(api, acc, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
+    }
+    ErrorSlot handleError;
+    uint64_t engine = 0;
+    kel_getHandle(api, &handleError, &engine);
+    ASSERT_EQ(kelsim_savePduMonitor(engine, monitor, L"run.trc"), 0);
+    EXPECT_EQ(kelsim_savePduMonitor(engine, monitor + 1000, L"x.trc"), UnknownMonitor);
+    EXPECT_EQ(kelsim_savePduMonitor(engine, monitor, L"../escape.trc"), 1606);
+
+    LinkItems recorded;
+    ErrorSlot liveError;
+    kel_getMonitoringItems(api, live, 0, 0, &liveError, &recorded.items, &recorded.count);
+    ASSERT_EQ(recorded.count, 3u);
+
+    const uint64_t replay = link(L"replay");
+    ErrorSlot open;
+    kel_openTraceFileMonitoringLink(api, replay, L"traces/run.trc", &open);
+    ASSERT_FALSE(open) << open->code;
+    ErrorSlot twice;
+    kel_openTraceFileMonitoringLink(api, replay, L"traces/run.trc", &twice);
+    ASSERT_TRUE(twice);
+    EXPECT_EQ(twice->code, TraceFileOpen);
+    raw(L"ECM", {0x3E, 0x00}); // live traffic does not reach a link that replays
+    EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, replay), 0);
+    kelsim_advanceClock(60000);
+
+    LinkItems replayed;
+    ErrorSlot error;
+    kel_getMonitoringItems(api, replay, 0, 0, &error, &replayed.items, &replayed.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(replayed.count, recorded.count);
+    for (uint32_t i = 0; i < replayed.count; ++i) {
+        const MonitoringItem& r = *replayed.items[i];
+        const MonitoringItem& o = *recorded.items[i];
+        EXPECT_EQ(std::wstring(r.text1), o.text1);
+        EXPECT_EQ(bytesOf(r.data, r.dataLength), bytesOf(o.data, o.dataLength));
+        EXPECT_EQ(r.value1, o.value1); // the recorded time
+        EXPECT_EQ(r.value2, i + 1);
+        EXPECT_EQ(r.flag1, o.flag1);
+        EXPECT_EQ(r.flag2, o.flag2);
+        EXPECT_EQ(r.flag3, 1);
+        EXPECT_EQ(r.value3, o.value3);
+        EXPECT_EQ(std::wstring(r.text2), L"traces/run.trc");
+        ASSERT_EQ(r.detail == nullptr, o.detail == nullptr);
+        if (r.detail != nullptr) {
+            EXPECT_EQ(bytesOf(r.detail->response, r.detail->responseLength),
+                      bytesOf(o.detail->response, o.detail->responseLength));
+            EXPECT_EQ(std::wstring(r.detail->text), o.detail->text);
+        }
+    }
+    EXPECT_EQ(errorOf(kel_stopTraceFileMonitoringLink, replay), 0);
+    EXPECT_EQ(errorOf(kel_closeTraceFileMonitoringLink, replay), 0);
+    EXPECT_EQ(errorOf(kel_closeTraceFileMonitoringLink, replay), NoTraceFile);
+    // Closed, the link hears the vehicle again.
+    raw(L"ECM", {0x3E, 0x00});
+    LinkItems after;
+    ErrorSlot afterError;
+    kel_getMonitoringItems(api, replay, 0, 0, &afterError, &after.items, &after.count);
+    ASSERT_EQ(after.count, 1u);
+    EXPECT_EQ(after.items[0]->flag3, 0);
+}
+
+// A trace file written by hand: the replay follows its recorded times on vehicle time,
+// and stop holds it where it is.
+TEST_F(Monitoring, ReplayFollowsTheRecordedTimesAndStopHoldsIt) {
+    wchar_t root[1024];
+    ASSERT_GT(kelsim_dataRoot(root, 1024), 0);
+    std::filesystem::create_directories(std::filesystem::path(root) / "traces");
+    std::ofstream(std::filesystem::path(root) / "traces" / "hand.trc")
+        << "{\"format\":\"kel-trace\",\"version\":1}\n"
+        << "{\"exchange\":1,\"timeMs\":1000,\"unit\":\"ECM\",\"direction\":\"request\",\"bytes\":"
+           "\"3E 00\"}\n"
+        << "{\"exchange\":1,\"timeMs\":1000,\"unit\":\"ECM\",\"direction\":\"response\",\"bytes\":"
+           "\"7E 00\"}\n"
+        << "{\"exchange\":2,\"timeMs\":3000,\"unit\":\"TCM\",\"direction\":\"request\",\"bytes\":"
+           "\"22 F1 90\"}\n"
+        << "{\"exchange\":4,\"timeMs\":3500,\"unit\":\"GW\",\"direction\":\"response\",\"bytes\":"
+           "\"50 01\"}\n"
+        << "{\"exchange\":5,\"timeMs\":9000,\"unit\":\"ESP\",\"direction\":\"request\",\"bytes\":"
+           "\"\"}\n";
+    std::ofstream(std::filesystem::path(root) / "traces" / "broken.trc")
+        << "{\"format\":\"kel-trace\",\"version\":1}\n{\"exchange\":1,\"bytes\":\"3G\"}\n";
+
+    const uint64_t replay = link(L"replay");
+    const auto openError = [&](const wchar_t* path) {
+        ErrorSlot error;
+        kel_openTraceFileMonitoringLink(api, replay, path, &error);
+        return error ? error->code : 0;
+    };
+    EXPECT_EQ(openError(L"traces/missing.trc"), 1609);
+    EXPECT_EQ(openError(L"traces/../../outside.trc"), 1606);
+    EXPECT_EQ(openError(L"traces/broken.trc"), Unreadable);
+    EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, replay), NoTraceFile);
+    ASSERT_EQ(openError(L"traces/hand.trc"), 0);
+
+    const auto units = [&] {
+        ErrorSlot error;
+        LinkItems items;
+        kel_getMonitoringItems(api, replay, 0, 0, &error, &items.items, &items.count);
+        EXPECT_FALSE(error);
+        std::vector<std::wstring> out;
+        for (uint32_t i = 0; i < items.count; ++i) {
+            out.emplace_back(items.items[i]->text1);
+        }
+        return out;
+    };
+    EXPECT_EQ(units(), std::vector<std::wstring>{}); // opened, not started
+    EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, replay), 0);
+    EXPECT_EQ(units(), std::vector<std::wstring>{L"ECM"});
+    kelsim_advanceClock(1999);
+    EXPECT_EQ(units(), std::vector<std::wstring>{});
+    kelsim_advanceClock(1);
+    // GW's response lost its request when the monitor overflowed: left out.
+    EXPECT_EQ(units(), std::vector<std::wstring>{L"TCM"});
+    EXPECT_EQ(errorOf(kel_stopTraceFileMonitoringLink, replay), 0);
+    kelsim_advanceClock(10000);
+    EXPECT_EQ(units(), std::vector<std::wstring>{});
+    // Started again, it resumes with the next item at once.
+    EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, replay), 0);
+    EXPECT_EQ(units(), std::vector<std::wstring>{L"ESP"});
+}
+
+// Exchanges made on several threads at once: none is lost, a request and its response
+// stay side by side, and each thread's exchanges keep their order.
+using MonitoringConcurrency = Monitoring;
+
+TEST_F(MonitoringConcurrency, ExchangesFromSeveralThreadsAreAllSeenInPairs) {
+    const uint64_t monitor = pduMonitor();
+    constexpr int perThread = 40;
+    const std::vector<const wchar_t*> units = {L"ECM", L"TCM", L"ESP"};
+    std::vector<std::thread> threads;
+    for (const wchar_t* unit : units) {
+        threads.emplace_back([this, unit] {
+            for (int i = 0; i < perThread; ++i) {
+                raw(unit, {0x22, 0xF1, 0x90});
+            }
+        });
+    }
+    for (auto& t : threads) {
+        t.join();
+    }
+    ErrorSlot error;
+    PduItems items;
+    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(items.count, 2u * perThread * units.size());
+    std::map<std::wstring, int> requests;
+    for (uint32_t i = 0; i < items.count; i += 2) {
+        const auto& ask = *items.items[i];
+        const auto& answer = *items.items[i + 1];
+        EXPECT_EQ(ask.value1, 1u);
+        EXPECT_EQ(answer.value1, 2u);
+        EXPECT_EQ(std::wstring(ask.text1), answer.text1);
+        EXPECT_EQ(ask.detail->exchange, answer.detail->exchange);
+        EXPECT_EQ(ask.detail->sequence, i + 1u);
+        ++requests[ask.text1];
+    }
+    for (const wchar_t* unit : units) {
+        EXPECT_EQ(requests[unit], perThread);
+    }
+}
+
+// ---- the same monitor through kel_call and py_call ----
+
+std::vector<uint8_t> streamed(PduMonitoringItem** items, uint32_t count) {
+    const auto engine = kel::listFromC(items, count);
+    kel::OTXStream out(true, false, true);
+    out.write(engine);
+    return {out.buffer, out.buffer + out.position};
+}
+
+TEST_F(Monitoring, KelCallAndPyCallReachTheSameMonitor) {
+    // kel_call 14 (createPduMonitor): no arguments; status 1, then the handle.
+    void* stream = nullptr;
+    uint64_t size = 0;
+    kel_call_checked(0, 14, nullptr, 0, &stream, &size);
+    std::vector<uint8_t> created(size);
+    kel_call_result(stream, created.data());
+    ASSERT_EQ(created.size(), 9u);
+    ASSERT_EQ(created[0], 1);
+    uint64_t monitor = 0;
+    std::memcpy(&monitor, created.data() + 1, sizeof monitor); // little-endian, as the host
+
+    raw(L"ECM", {0x22, 0xF1, 0x90});
+
+    // Fetch 13 (handle, most, keep) through py_call and kel_call leaving the items, then
+    // through the export taking them: all three carry the same two items.
+    std::vector<uint8_t> arguments(16, 0);
+    std::memcpy(arguments.data(), &monitor, 8);
+    arguments[12] = 1; // keep
+    uint32_t pySize = 0;
+    void* buffer = nullptr;
+    ASSERT_EQ(py_call_checked(api, 13, 0, arguments.data(), arguments.size(), &pySize, &buffer), 0);
+    std::vector<uint8_t> pyResult(pySize);
+    py_result(pyResult.data(), static_cast<int32_t>(pySize), buffer);
+    kel_call_checked(0, 13, arguments.data(), arguments.size(), &stream, &size);
+    std::vector<uint8_t> otxResult(size);
+    kel_call_result(stream, otxResult.data());
+    ASSERT_FALSE(otxResult.empty());
+    EXPECT_EQ(otxResult[0], 1);
+
+    ErrorSlot error;
+    PduItems exported;
+    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &exported.items, &exported.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(exported.count, 2u);
+    const auto expected = streamed(exported.items, exported.count);
+    EXPECT_EQ(std::vector<uint8_t>(otxResult.begin() + 1, otxResult.end()), expected);
+    EXPECT_EQ(pyResult, expected);
+
+    // Released through kel_call 16, a second release through py_call is the engine's error.
+    kel_call_checked(0, 16, arguments.data(), 8, &stream, &size);
+    std::vector<uint8_t> released(size);
+    kel_call_result(stream, released.data());
+    EXPECT_EQ(released, std::vector<uint8_t>{1});
+    ASSERT_EQ(py_call_checked(api, 16, 0, arguments.data(), 8, &pySize, &buffer), -1);
+    std::vector<uint8_t> refusal(pySize);
+    py_result(refusal.data(), static_cast<int32_t>(pySize), buffer);
+    kel::OTXStream in(refusal.data(), true, true, true);
+    std::shared_ptr<Varno::Kel_cpp::KelError> engineError;
+    in.read(engineError);
+    ASSERT_TRUE(engineError);
+    EXPECT_EQ(engineError->code, UnknownMonitor);
+}
+
+} // namespace
