@@ -92,6 +92,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     diagnostics.load(parts.diagnostics);
     interfaces->load(parts.interfaces);
     services.load();
+    measurement.load();
     servers.load(parts.servers);
 }
 
@@ -105,6 +106,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.projects = std::make_shared<Projects>(vehicle, object);
     families.interfaces = std::make_shared<Interfaces>(vehicle);
     families.services = std::make_shared<Services>(vehicle);
+    families.measurement = std::make_shared<Measurement>(vehicle);
     families.servers = std::make_shared<Servers>(vehicle, object);
     return families;
 }

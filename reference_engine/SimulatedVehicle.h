@@ -17,6 +17,7 @@
 #include "families/interfaces/Interfaces.h"
 #include "families/files/Files.h"
 #include "families/lifecycle/Lifecycle.h"
+#include "families/measurement/Measurement.h"
 #include "families/projects/Projects.h"
 #include "families/services/Services.h"
 #include "families/servers/Servers.h"
@@ -65,6 +66,7 @@ public:
     // Shared with the asynchronous scans and detections, which may outlive the vehicle.
     const std::shared_ptr<InterfacesState> interfaces = std::make_shared<InterfacesState>();
     ServicesState services;
+    MeasurementState measurement;
     ServersState servers;
 
     // Stays the last member: it ends its calls while the rest still exists.
