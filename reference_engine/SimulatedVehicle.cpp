@@ -16,6 +16,7 @@ struct Parts {
     DiagnosticsSettings diagnostics;
     InterfacesSettings interfaces;
     ServersSettings servers;
+    CyclicSettings cyclic;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -26,6 +27,7 @@ Parts parseParts(const VehicleDescription& description) {
     parts.diagnostics = DiagnosticsSettings::parse(description.section("diagnostics"));
     parts.interfaces = InterfacesSettings::parse(description.section("interfaces"));
     parts.servers = ServersSettings::parse(description.section("servers"));
+    parts.cyclic = CyclicSettings::parse(description.section("services"));
     return parts;
 }
 
@@ -93,6 +95,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     interfaces->load(parts.interfaces);
     services.load();
     measurement.load();
+    cyclic.load(parts.cyclic);
     servers.load(parts.servers);
 }
 

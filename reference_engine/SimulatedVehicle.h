@@ -14,13 +14,14 @@
 #include "VehicleDescription.h"
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
-#include "families/interfaces/Interfaces.h"
 #include "families/files/Files.h"
+#include "families/interfaces/Interfaces.h"
 #include "families/lifecycle/Lifecycle.h"
 #include "families/measurement/Measurement.h"
 #include "families/projects/Projects.h"
-#include "families/services/Services.h"
 #include "families/servers/Servers.h"
+#include "families/services/Cyclic.h"
+#include "families/services/Services.h"
 
 #include <cstdint>
 #include <memory>
@@ -68,6 +69,9 @@ public:
     ServicesState services;
     MeasurementState measurement;
     ServersState servers;
+
+    // Runs on its own worker, which it joins when the vehicle ends.
+    CyclicJobs cyclic{units};
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};
