@@ -17,6 +17,7 @@ struct Parts {
     InterfacesSettings interfaces;
     ServersSettings servers;
     CyclicSettings cyclic;
+    SequencesSettings sequences;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -28,6 +29,7 @@ Parts parseParts(const VehicleDescription& description) {
     parts.interfaces = InterfacesSettings::parse(description.section("interfaces"));
     parts.servers = ServersSettings::parse(description.section("servers"));
     parts.cyclic = CyclicSettings::parse(description.section("services"));
+    parts.sequences = SequencesSettings::parse(description.section("sequences"));
     return parts;
 }
 
@@ -96,6 +98,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     services.load();
     measurement.load();
     cyclic.load(parts.cyclic);
+    sequences.load(std::move(parts.sequences));
     servers.load(parts.servers);
 }
 
@@ -110,6 +113,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.interfaces = std::make_shared<Interfaces>(vehicle);
     families.services = std::make_shared<Services>(vehicle);
     families.measurement = std::make_shared<Measurement>(vehicle);
+    families.sequences = std::make_shared<Sequences>(vehicle);
     families.servers = std::make_shared<Servers>(vehicle, object);
     return families;
 }

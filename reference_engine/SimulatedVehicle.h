@@ -19,6 +19,7 @@
 #include "families/lifecycle/Lifecycle.h"
 #include "families/measurement/Measurement.h"
 #include "families/projects/Projects.h"
+#include "families/sequences/Sequences.h"
 #include "families/servers/Servers.h"
 #include "families/services/Cyclic.h"
 #include "families/services/Services.h"
@@ -70,8 +71,9 @@ public:
     MeasurementState measurement;
     ServersState servers;
 
-    // Runs on its own worker, which it joins when the vehicle ends.
+    // Each runs on its own worker, which it joins when the vehicle ends.
     CyclicJobs cyclic{units};
+    SequencesState sequences{units, events.channels};
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};
