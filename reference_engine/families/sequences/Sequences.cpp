@@ -252,7 +252,7 @@ void SequencesState::cancel(uint64_t id) {
     events_.post(EventKind::SequenceEnded, 2, L"Sequence cancelled", L"run " + std::to_wstring(id));
 }
 
-// One service of one run at a time, the runs taking turns; a run whose next service
+// One service of one run at a time, the oldest ready run first; a run whose next service
 // waits for vehicle time is looked at again shortly, as the clock may be moved on.
 void SequencesState::work() {
     std::unique_lock lock(mutex_);
