@@ -258,7 +258,10 @@ TEST_F(SequencesTest, TheAsynchronousFormReportsEachService) {
     EXPECT_EQ(error->code, 2000);
 }
 
-TEST_F(SequencesTest, ARunReportsItsServicesAsEventsAndEnds) {
+// Runs go on the family's worker: these run under the thread sanitizer too.
+using SequenceRunsConcurrency = SequencesTest;
+
+TEST_F(SequenceRunsConcurrency, ARunReportsItsServicesAsEventsAndEnds) {
     const uint64_t channel = openChannel();
     const uint64_t id = run(L"WriteVin", {L"WVWZZZ1KZ8W000001"});
     ASSERT_NE(id, 0U);
@@ -280,7 +283,7 @@ TEST_F(SequencesTest, ARunReportsItsServicesAsEventsAndEnds) {
     EXPECT_EQ(failed, 2002);
 }
 
-TEST_F(SequencesTest, ACancelStopsARunBetweenServices) {
+TEST_F(SequenceRunsConcurrency, ACancelStopsARunBetweenServices) {
     const uint64_t channel = openChannel();
     // The second read waits a minute of vehicle time.
     const uint64_t id = run(L"WarmUpCheck");

@@ -703,7 +703,7 @@ struct Cyclic {
     int32_t status = 0;
 };
 
-class CyclicTest : public ServicesTest {
+class CyclicServicesConcurrency : public ServicesTest {
 protected:
     uint64_t start(Inputs& in, uint32_t cycleMs = 1, const wchar_t* target = L"ECM") {
         ErrorSlot error;
@@ -751,7 +751,7 @@ protected:
     }
 };
 
-TEST_F(CyclicTest, ResultsAccumulateInCycleOrderUntilTheJobStops) {
+TEST_F(CyclicServicesConcurrency, ResultsAccumulateInCycleOrderUntilTheJobStops) {
     Inputs in;
     in.add(L"TesterPresent").add(L"ReadDataByIdentifier_F405");
     const uint64_t job = start(in);
@@ -779,7 +779,7 @@ TEST_F(CyclicTest, ResultsAccumulateInCycleOrderUntilTheJobStops) {
     EXPECT_EQ(failure(kel_stopCyclicServices, job), 1106);
 }
 
-TEST_F(CyclicTest, PastTheBoundTheOldestResultsGo) {
+TEST_F(CyclicServicesConcurrency, PastTheBoundTheOldestResultsGo) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "U", "address": 1}],
                                         "services": {"cyclicResults": 5}})"),
               0);
@@ -798,7 +798,7 @@ TEST_F(CyclicTest, PastTheBoundTheOldestResultsGo) {
     EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "services": {"cyclicResults": 0}})"), -1);
 }
 
-TEST_F(CyclicTest, AnUpdateReplacesTheServicesFromTheNextCycle) {
+TEST_F(CyclicServicesConcurrency, AnUpdateReplacesTheServicesFromTheNextCycle) {
     Inputs first;
     first.add(L"TesterPresent");
     const uint64_t job = start(first);
@@ -831,7 +831,7 @@ TEST_F(CyclicTest, AnUpdateReplacesTheServicesFromTheNextCycle) {
     EXPECT_EQ(error->code, 1106);
 }
 
-TEST_F(CyclicTest, BadJobsAreRefusedAndARunningJobEndsWithItsVehicle) {
+TEST_F(CyclicServicesConcurrency, BadJobsAreRefusedAndARunningJobEndsWithItsVehicle) {
     Inputs in;
     in.add(L"TesterPresent");
     uint64_t job = 0;
