@@ -3,6 +3,7 @@
 #include "Describe.h"
 #include "ErrorCodes.h"
 #include "VehicleClock.h"
+#include "VehicleDescription.h"
 
 #include <Kel_cpp/TarnApiException.h>
 
@@ -10,6 +11,7 @@
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <numbers>
 #include <stdexcept>
 
 namespace Varno::Kel_cpp::Reference {
@@ -407,6 +409,79 @@ ServiceSpec parseService(const json& j, const std::vector<Session>& sessions) {
     return s;
 }
 
+// ---- measurement values ----------------------------------------------------------------
+
+Motion parseMotion(const json& j, const std::vector<MeasurementValue>& earlier, const Ecu& ecu) {
+    Motion m;
+    const auto kind = j.value("kind", std::string("constant"));
+    if (kind == "constant") {
+        m.value = j.value("value", 0.0);
+    } else if (kind == "ramp") {
+        m.kind = Motion::Kind::Ramp;
+        m.value = j.value("from", 0.0);
+        m.rate = j.at("perSecond").get<double>();
+    } else if (kind == "sine") {
+        m.kind = Motion::Kind::Sine;
+        m.value = j.value("mean", 0.0);
+        m.amplitude = j.at("amplitude").get<double>();
+        m.periodMs = j.at("periodMs").get<double>();
+        m.phase = j.value("phase", 0.0);
+        if (!(m.periodMs > 0)) {
+            throw std::invalid_argument("a sine needs a period above 0");
+        }
+    } else if (kind == "randomWalk") {
+        m.kind = Motion::Kind::RandomWalk;
+        m.value = j.value("start", 0.0);
+        m.step = j.at("step").get<double>();
+        m.seed = j.value("seed", 1U);
+    } else if (kind == "derived") {
+        m.kind = Motion::Kind::Derived;
+        const auto source = fromUtf8(j.at("source").get<std::string>());
+        const auto found = std::find_if(earlier.begin(), earlier.end(), [&](const auto& v) {
+            return ecu.dataIdentifier(v.id)->name == source;
+        });
+        if (found == earlier.end()) {
+            throw std::invalid_argument("a derived value's source is a value listed before it: " +
+                                        toUtf8(source));
+        }
+        m.source = static_cast<std::size_t>(found - earlier.begin());
+        m.factor = j.value("factor", 1.0);
+        m.offset = j.value("offset", 0.0);
+    } else {
+        throw std::invalid_argument("unknown motion \"" + kind +
+                                    "\" (constant, ramp, sine, randomWalk or derived)");
+    }
+    return m;
+}
+
+// A unit's "measurements": data identifiers whose value the unit computes at each read.
+void parseMeasurements(const json& j, Ecu& ecu) {
+    for (const auto& v : j.value("measurements", json::array())) {
+        DataIdentifier d;
+        d.id = static_cast<uint16_t>(hexNumber(v.at("id"), 0xFFFF));
+        d.name = fromUtf8(v.at("name").get<std::string>());
+        const auto where = "measurement " + toUtf8(d.name) + ": ";
+        try {
+            d.codec = parseCodec(v, "unsigned");
+            if (d.codec.kind != Codec::Kind::Unsigned || !d.codec.min || !d.codec.max ||
+                !(*d.codec.min < *d.codec.max)) {
+                throw std::invalid_argument("an unsigned value with a range (min below max)");
+            }
+            // Both ends must be writable, so every value in the range is.
+            d.codec.encode(fromUtf8(std::to_string(*d.codec.min)));
+            d.codec.encode(fromUtf8(std::to_string(*d.codec.max)));
+            MeasurementValue m;
+            m.id = d.id;
+            m.sampleMs = static_cast<uint32_t>(wholeNumber(v, "sampleMs", 100, 1, 86400000));
+            ecu.data.push_back(d);
+            m.motion = parseMotion(v.value("motion", json::object()), ecu.measurements, ecu);
+            ecu.measurements.push_back(m);
+        } catch (const std::exception& e) {
+            throw std::invalid_argument(where + e.what());
+        }
+    }
+}
+
 Ecu parseEcu(const json& j) {
     Ecu ecu;
     ecu.name = fromUtf8(j.at("name").get<std::string>());
@@ -458,6 +533,7 @@ Ecu parseEcu(const json& j) {
     for (const auto& v : j.value("dataIdentifiers", json::array())) {
         ecu.data.push_back(parseDataIdentifier(v, false, ecu.sessions));
     }
+    parseMeasurements(j, ecu);
     // Variant identification reads the unit's variant from F19E.
     if (!ecu.dataIdentifier(0xF19E)) {
         DataIdentifier variant;
@@ -563,6 +639,22 @@ std::optional<double> number(const std::wstring& text) {
         return used == s.size() ? std::optional<double>(v) : std::nullopt;
     } catch (const std::exception&) {
         return std::nullopt;
+    }
+}
+
+// A measurement value's data identifier holds the unit's current sample.
+void refreshMeasurement(Ecu& ecu, uint16_t id, int64_t nowMs) {
+    for (std::size_t i = 0; i < ecu.measurements.size(); ++i) {
+        if (ecu.measurements[i].id != id) {
+            continue;
+        }
+        const double physical = ecu.measured(i, nowMs);
+        auto* d = const_cast<DataIdentifier*>(ecu.dataIdentifier(id));
+        const double top = std::ldexp(1.0, static_cast<int>(8 * d->codec.length)) - 1;
+        const double raw =
+            std::clamp(std::round((physical - d->codec.offset) / d->codec.scale), 0.0, top);
+        d->bytes = bigEndian(static_cast<uint64_t>(raw), d->codec.length);
+        return;
     }
 }
 
@@ -833,6 +925,64 @@ uint8_t Ecu::currentSession(int64_t nowMs) const {
     return expired ? uint8_t{1} : state.session;
 }
 
+// ---- measurement values ----------------------------------------------------------------
+
+const MeasurementValue* Ecu::measurement(uint16_t id) const {
+    for (const auto& m : measurements) {
+        if (m.id == id) {
+            return &m;
+        }
+    }
+    return nullptr;
+}
+
+double Ecu::measured(std::size_t index, int64_t nowMs) {
+    auto& m = measurements[index];
+    const auto& codec = dataIdentifier(m.id)->codec;
+    const double low = *codec.min;
+    const double high = *codec.max;
+    const int64_t sample = std::max<int64_t>(nowMs, 0) / m.sampleMs;
+    const double t = static_cast<double>(sample) * m.sampleMs; // ms
+    const auto& motion = m.motion;
+    double v = motion.value;
+    switch (motion.kind) {
+    case Motion::Kind::Constant:
+        break;
+    case Motion::Kind::Ramp: {
+        const double span = high - low;
+        const double x = motion.value - low + motion.rate * t / 1000;
+        v = low + (x - std::floor(x / span) * span);
+        break;
+    }
+    case Motion::Kind::Sine:
+        v = motion.value + motion.amplitude * std::sin(2 * std::numbers::pi * t / motion.periodMs +
+                                                       motion.phase * std::numbers::pi / 180);
+        break;
+    case Motion::Kind::RandomWalk:
+        // Walked on from the last sample reached (the clock never goes back); from the
+        // start again after a reload, to the same values.
+        if (m.walkState == 0 || sample < m.walkedSample) {
+            m.walkedSample = 0;
+            m.walked = std::clamp(motion.value, low, high);
+            m.walkState = motion.seed != 0 ? motion.seed : 1;
+        }
+        for (; m.walkedSample < sample; ++m.walkedSample) {
+            auto& x = m.walkState;
+            x ^= x << 13;
+            x ^= x >> 17;
+            x ^= x << 5;
+            const double unit = static_cast<double>(x) / 4294967296.0 * 2 - 1; // [-1, 1)
+            m.walked = std::clamp(m.walked + motion.step * unit, low, high);
+        }
+        v = m.walked;
+        break;
+    case Motion::Kind::Derived:
+        v = motion.factor * measured(motion.source, nowMs) + motion.offset;
+        break;
+    }
+    return std::clamp(v, low, high);
+}
+
 Bytes Ecu::respond(const Bytes& request, int64_t nowMs) {
     if (currentSession(nowMs) != state.session) {
         state.session = 1;
@@ -954,7 +1104,9 @@ Bytes Ecu::respond(const Bytes& request, int64_t nowMs) {
         return negative(InvalidKey);
     }
     case 0x22: {
-        const auto* d = dataIdentifier(static_cast<uint16_t>(request[1] << 8 | request[2]));
+        const auto id = static_cast<uint16_t>(request[1] << 8 | request[2]);
+        refreshMeasurement(*this, id, nowMs);
+        const auto* d = dataIdentifier(id);
         Bytes rest = {request[1], request[2]};
         rest.insert(rest.end(), d->bytes.begin(), d->bytes.end());
         return reply(rest);

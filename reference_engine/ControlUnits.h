@@ -176,6 +176,37 @@ enum Nrc : uint8_t {
 };
 const wchar_t* nrcText(uint8_t code);
 
+// ---- measurement values ---------------------------------------------------------------
+
+// How a measurement value moves with vehicle time. A unit takes a new sample every
+// sampleMs, and a sample is a function of the vehicle time it starts at alone, so
+// every read within one sample gives the same value, and a test that knows the clock
+// knows the value.
+struct Motion {
+    enum class Kind { Constant, Ramp, Sine, RandomWalk, Derived };
+    Kind kind = Kind::Constant;
+    double value = 0;     // constant: the value; ramp: at time 0; sine: the mean; walk: the start
+    double rate = 0;      // ramp: change per second, wrapping round the range
+    double amplitude = 0; // sine
+    double periodMs = 1000;
+    double phase = 0;       // sine: degrees
+    double step = 0;        // random walk: the largest change per sample
+    uint32_t seed = 1;      // random walk
+    std::size_t source = 0; // derived: the index of an earlier value of the unit
+    double factor = 1;      // derived: factor * source + offset
+    double offset = 0;
+};
+
+struct MeasurementValue {
+    uint16_t id = 0; // its data identifier, which holds name, unit, range and codec
+    uint32_t sampleMs = 100;
+    Motion motion;
+    // Random walk: the last sample walked to, and the generator there.
+    int64_t walkedSample = 0;
+    double walked = 0;
+    uint32_t walkState = 0;
+};
+
 struct Ecu {
     std::wstring name;
     std::wstring description;
@@ -196,6 +227,7 @@ struct Ecu {
     uint8_t unlockLevel = 1;
     UnitState state;
     bool identified = false;
+    std::vector<MeasurementValue> measurements;
 
     const DataIdentifier* dataIdentifier(uint16_t id) const;
     // By identifier ("F190") or name ("VIN").
@@ -210,6 +242,10 @@ struct Ecu {
     // The session the unit is in at vehicle time `nowMs`: a non-default session ends
     // when nothing kept it alive for the session timeout.
     uint8_t currentSession(int64_t nowMs) const;
+
+    const MeasurementValue* measurement(uint16_t id) const;
+    // The physical value of measurements[index] at vehicle time `nowMs`, within its range.
+    double measured(std::size_t index, int64_t nowMs);
 
     // The unit's answer to `request` at vehicle time `nowMs`: positive, or 7F, the
     // service id and a negative response code.

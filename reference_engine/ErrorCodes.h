@@ -37,6 +37,7 @@ enum ErrorCode : int32_t {
     NoSeedRequested = 1103,          // sendKey without a seed asked for first
     UnknownUnlock = 1104,            // releaseVehicleUnlock of a value no unlock has
     UnknownParameter = 1105,         // getParameterInfo of a parameter no service has
+    UnknownCyclicJob = 1106,         // a cyclic job that was never started or is stopped
 
     // Projects: 1200-1299.
     UnknownProject = 1200,          // no project of that name or path in the projects folder
@@ -121,8 +122,15 @@ enum ErrorCode : int32_t {
     // Coding: 1800-1899.
 
     // Measurement: 1900-1999.
+    UnknownMeasurementValue = 1900,        // the target has no measurement value of that name
+    UnknownMeasurementRegistration = 1901, // never registered, or unregistered
 
     // Sequences: 2000-2099.
+    UnknownSequence = 2000,     // the description names no such sequence
+    UnknownSequenceRun = 2001,  // a run never started, or ended
+    BadSequenceArgument = 2002, // a parameter the sequence lacks, one missing, or too many
+    SequenceStopped = 2003,     // per service: not sent, an earlier service failed
+    SequenceNeedsTarget = 2004, // runSequence of a sequence that names no target
 
     // EcuOrder: 2100-2199.
 

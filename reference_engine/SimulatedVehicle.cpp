@@ -17,6 +17,8 @@ struct Parts {
     InterfacesSettings interfaces;
     ServersSettings servers;
     MonitoringSettings monitoring;
+    CyclicSettings cyclic;
+    SequencesSettings sequences;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -28,6 +30,8 @@ Parts parseParts(const VehicleDescription& description) {
     parts.interfaces = InterfacesSettings::parse(description.section("interfaces"));
     parts.servers = ServersSettings::parse(description.section("servers"));
     parts.monitoring = MonitoringSettings::parse(description.section("monitoring"));
+    parts.cyclic = CyclicSettings::parse(description.section("services"));
+    parts.sequences = SequencesSettings::parse(description.section("sequences"));
     return parts;
 }
 
@@ -94,6 +98,9 @@ void SimulatedVehicle::load(VehicleDescription description) {
     diagnostics.load(parts.diagnostics);
     interfaces->load(parts.interfaces);
     services.load();
+    measurement.load();
+    cyclic.load(parts.cyclic);
+    sequences.load(std::move(parts.sequences));
     servers.load(parts.servers);
     monitoring->load(parts.monitoring);
 }
@@ -108,6 +115,8 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.projects = std::make_shared<Projects>(vehicle, object);
     families.interfaces = std::make_shared<Interfaces>(vehicle);
     families.services = std::make_shared<Services>(vehicle);
+    families.measurement = std::make_shared<Measurement>(vehicle);
+    families.sequences = std::make_shared<Sequences>(vehicle);
     families.servers = std::make_shared<Servers>(vehicle, object);
     families.monitoring = std::make_shared<Monitoring>(vehicle, object);
     return families;

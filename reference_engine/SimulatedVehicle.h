@@ -14,13 +14,16 @@
 #include "VehicleDescription.h"
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
-#include "families/interfaces/Interfaces.h"
 #include "families/files/Files.h"
+#include "families/interfaces/Interfaces.h"
 #include "families/lifecycle/Lifecycle.h"
 #include "families/monitoring/Monitoring.h"
+#include "families/measurement/Measurement.h"
 #include "families/projects/Projects.h"
-#include "families/services/Services.h"
+#include "families/sequences/Sequences.h"
 #include "families/servers/Servers.h"
+#include "families/services/Cyclic.h"
+#include "families/services/Services.h"
 
 #include <cstdint>
 #include <memory>
@@ -66,9 +69,14 @@ public:
     // Shared with the asynchronous scans and detections, which may outlive the vehicle.
     const std::shared_ptr<InterfacesState> interfaces = std::make_shared<InterfacesState>();
     ServicesState services;
+    MeasurementState measurement;
     ServersState servers;
     // Shared with the units' listener and the engine objects' call clocks.
     const std::shared_ptr<MonitoringState> monitoring = std::make_shared<MonitoringState>();
+
+    // Each runs on its own worker, which it joins when the vehicle ends.
+    CyclicJobs cyclic{units};
+    SequencesState sequences{units, events.channels};
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};

@@ -679,3 +679,182 @@ TEST_F(ServicesTest, KelCallAndPyCallTalkToTheSameUnit) {
 }
 
 } // namespace
+
+// ---- cyclic services ----------------------------------------------------------------------
+
+namespace {
+
+// Polls `condition` until it holds or `limit` passes: cyclic jobs run on real time.
+template <class Condition>
+bool eventually(Condition condition, std::chrono::milliseconds limit = 10s) {
+    const auto deadline = std::chrono::steady_clock::now() + limit;
+    while (std::chrono::steady_clock::now() < deadline) {
+        if (condition()) {
+            return true;
+        }
+        std::this_thread::sleep_for(1ms);
+    }
+    return condition();
+}
+
+struct Cyclic {
+    std::wstring service;
+    uint64_t cycle = 0;
+    int32_t status = 0;
+};
+
+class CyclicServicesConcurrency : public ServicesTest {
+protected:
+    uint64_t start(Inputs& in, uint32_t cycleMs = 1, const wchar_t* target = L"ECM") {
+        ErrorSlot error;
+        uint64_t job = 0;
+        kel_startCyclicServices(api, target, in.list(), in.count(), cycleMs, &error, &job);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        EXPECT_NE(job, 0U);
+        return job;
+    }
+    std::vector<Cyclic> fetch(uint64_t job) {
+        Results out;
+        ErrorSlot error;
+        kel_getCyclicResults(api, job, &error, &out.items, &out.count);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        std::vector<Cyclic> results;
+        for (uint32_t i = 0; i < out.count; ++i) {
+            const ServiceResult& r = *out.items[i];
+            results.push_back(
+                {r.itemText1, r.request != nullptr ? r.request->value2 : 0, r.status});
+        }
+        return results;
+    }
+    // Fetches until at least `count` results came together.
+    std::vector<Cyclic> collect(uint64_t job, std::size_t count) {
+        std::vector<Cyclic> all;
+        EXPECT_TRUE(eventually([&] {
+            const auto more = fetch(job);
+            all.insert(all.end(), more.begin(), more.end());
+            return all.size() >= count;
+        }));
+        return all;
+    }
+    uint64_t requestsSent() {
+        ErrorSlot error;
+        TransmissionInfo* info = nullptr;
+        kel_getTransmissionInfo(api, &error, &info);
+        const uint64_t sent = info != nullptr ? info->value1 : 0;
+        release_TransmissionInfo(info);
+        return sent;
+    }
+    int32_t failure(void (*call)(TarnApi*, uint64_t, KelError**), uint64_t job) {
+        ErrorSlot error;
+        call(api, job, &error);
+        return error ? error->code : 0;
+    }
+};
+
+TEST_F(CyclicServicesConcurrency, ResultsAccumulateInCycleOrderUntilTheJobStops) {
+    Inputs in;
+    in.add(L"TesterPresent").add(L"ReadDataByIdentifier_F405");
+    const uint64_t job = start(in);
+    const auto results = collect(job, 8);
+    ASSERT_GE(results.size(), 8U);
+    for (std::size_t i = 0; i < results.size(); ++i) {
+        EXPECT_EQ(results[i].service, i % 2 == 0 ? L"TesterPresent" : L"ReadDataByIdentifier_F405");
+        EXPECT_EQ(results[i].status, 0);
+        EXPECT_EQ(results[i].cycle, i / 2 + 1) << "every cycle, none lost, in order";
+    }
+
+    ASSERT_EQ(failure(kel_stopCyclicServices, job), 0);
+    // Once stopped, the job sends nothing more: the bus carries only what is sent here.
+    const uint64_t before = requestsSent();
+    for (int i = 0; i < 20; ++i) {
+        one(L"TesterPresent");
+    }
+    EXPECT_EQ(requestsSent() - before, 20U);
+
+    Results gone;
+    ErrorSlot error;
+    kel_getCyclicResults(api, job, &error, &gone.items, &gone.count);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1106);
+    EXPECT_EQ(failure(kel_stopCyclicServices, job), 1106);
+}
+
+TEST_F(CyclicServicesConcurrency, PastTheBoundTheOldestResultsGo) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "U", "address": 1}],
+                                        "services": {"cyclicResults": 5}})"),
+              0);
+    Inputs in;
+    in.add(L"TesterPresent");
+    const uint64_t sent = requestsSent();
+    const uint64_t job = start(in, 1, L"U");
+    ASSERT_TRUE(eventually([&] { return requestsSent() - sent >= 12; }));
+    const auto kept = fetch(job);
+    ASSERT_EQ(kept.size(), 5U);
+    EXPECT_GE(kept.back().cycle, 12U);
+    for (std::size_t i = 1; i < kept.size(); ++i) {
+        EXPECT_EQ(kept[i].cycle, kept[i - 1].cycle + 1) << "the newest, together";
+    }
+    EXPECT_EQ(failure(kel_stopCyclicServices, job), 0);
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "services": {"cyclicResults": 0}})"), -1);
+}
+
+TEST_F(CyclicServicesConcurrency, AnUpdateReplacesTheServicesFromTheNextCycle) {
+    Inputs first;
+    first.add(L"TesterPresent");
+    const uint64_t job = start(first);
+    ASSERT_FALSE(collect(job, 1).empty());
+
+    Inputs second;
+    second.add(L"ReadDataByIdentifier_F190").add(L"NoSuchService");
+    ErrorSlot error;
+    kel_updateCyclicServices(api, job, second.list(), second.count(), &error);
+    ASSERT_FALSE(error);
+    std::vector<Cyclic> seen;
+    ASSERT_TRUE(eventually([&] {
+        const auto more = fetch(job);
+        seen.insert(seen.end(), more.begin(), more.end());
+        return !seen.empty() && seen.back().service == L"NoSuchService";
+    }));
+    uint64_t firstUpdated = 0;
+    for (const auto& r : seen) {
+        if (r.service == L"TesterPresent") {
+            EXPECT_EQ(firstUpdated, 0U) << "no old service after the new ones began";
+        } else if (firstUpdated == 0) {
+            firstUpdated = r.cycle;
+        }
+    }
+    EXPECT_EQ(seen.back().status, 3) << "an unknown service is reported, not sent, each cycle";
+    EXPECT_EQ(failure(kel_stopCyclicServices, job), 0);
+
+    kel_updateCyclicServices(api, job, second.list(), second.count(), &error);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1106);
+}
+
+TEST_F(CyclicServicesConcurrency, BadJobsAreRefusedAndARunningJobEndsWithItsVehicle) {
+    Inputs in;
+    in.add(L"TesterPresent");
+    uint64_t job = 0;
+    ErrorSlot zero;
+    kel_startCyclicServices(api, L"ECM", in.list(), in.count(), 0, &zero, &job);
+    ASSERT_TRUE(zero);
+    EXPECT_EQ(zero->code, 1101);
+    ErrorSlot empty;
+    kel_startCyclicServices(api, L"ECM", nullptr, 0, 10, &empty, &job);
+    ASSERT_TRUE(empty);
+    EXPECT_EQ(empty->code, 1101);
+    ErrorSlot unknown;
+    kel_startCyclicServices(api, L"Nope", in.list(), in.count(), 10, &unknown, &job);
+    ASSERT_TRUE(unknown);
+    EXPECT_EQ(unknown->code, 1011);
+
+    // Left running: the vehicle's end (kelsim_restart of the next test) joins the worker,
+    // as a reload ends the job.
+    job = start(in);
+    ASSERT_FALSE(collect(job, 1).empty());
+    kelsim_reloadVehicle();
+    EXPECT_EQ(failure(kel_stopCyclicServices, job), 1106);
+    start(in);
+}
+
+} // namespace

@@ -80,6 +80,10 @@ std::wstring eventName(int32_t kind) {
         return L"UserLoggedOut";
     case EventKind::LoginFailed:
         return L"LoginFailed";
+    case EventKind::SequenceStep:
+        return L"SequenceStep";
+    case EventKind::SequenceEnded:
+        return L"SequenceEnded";
     case EventKind::Scripted:
         return L"Scripted";
     }

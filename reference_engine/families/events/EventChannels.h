@@ -44,6 +44,8 @@ enum class EventKind : int32_t {
     UserLoggedIn = 34,  // code: the user's role; detail: the user
     UserLoggedOut = 35, // code: the user's role; detail: the user
     LoginFailed = 36,   // code: failures of this user in a row; detail: the user name given
+    SequenceStep = 50,  // code: the service's status; text: the service; detail: run and step
+    SequenceEnded = 51, // code: 0 done, 1 stopped by a failed service, 2 cancelled; detail: run
     Scripted = 100,     // posted by tests through kelsim_postEvent (any kind >= 100)
 };
 

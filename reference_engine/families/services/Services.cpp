@@ -333,4 +333,49 @@ Services::getParameterInfo(std::shared_ptr<ParameterInfoConfig> config) {
     });
 }
 
+// ---- cyclic services --------------------------------------------------------------------
+
+namespace {
+
+// The job keeps its own copies: the caller's records may change after the call.
+Inputs cyclicCopies(const Inputs& services) {
+    if (services.empty()) {
+        throw TarnApiException(BadParameterValue, L"A cyclic job needs at least one service",
+                               L"no services given");
+    }
+    Inputs out;
+    for (const auto& s : services) {
+        out.push_back(std::make_shared<ServiceInput>(s ? *s : ServiceInput{}));
+    }
+    return out;
+}
+
+} // namespace
+
+// cycleTime: milliseconds of real time from the start of one cycle to the next.
+uint64_t Services::startCyclicServices(const std::wstring& target, const Inputs& services,
+                                       uint32_t cycleTime) {
+    ready(target);
+    if (cycleTime == 0) {
+        throw TarnApiException(BadParameterValue, L"A cycle takes at least 1 ms", L"cycleTime 0");
+    }
+    return vehicle_->cyclic.start(target, cyclicCopies(services),
+                                  std::chrono::milliseconds(cycleTime));
+}
+
+std::vector<std::shared_ptr<ServiceResult>> Services::getCyclicResults(uint64_t cyclic) {
+    vehicle_->lifecycle.requireInitialized();
+    return vehicle_->cyclic.take(cyclic);
+}
+
+void Services::stopCyclicServices(uint64_t cyclic) {
+    vehicle_->lifecycle.requireInitialized();
+    vehicle_->cyclic.stop(cyclic);
+}
+
+void Services::updateCyclicServices(uint64_t cyclic, const Inputs& services) {
+    vehicle_->lifecycle.requireInitialized();
+    vehicle_->cyclic.update(cyclic, cyclicCopies(services));
+}
+
 } // namespace Varno::Kel_cpp::Reference

@@ -75,6 +75,13 @@ public:
                                         ExecuteServiceInDefaultSessionCallback* callback) override;
     std::shared_ptr<ParameterInfo>
     getParameterInfo(std::shared_ptr<ParameterInfoConfig> config) override;
+    uint64_t startCyclicServices(const std::wstring& target,
+                                 const std::vector<std::shared_ptr<ServiceInput>>& services,
+                                 uint32_t cycleTime) override;
+    std::vector<std::shared_ptr<ServiceResult>> getCyclicResults(uint64_t cyclic) override;
+    void stopCyclicServices(uint64_t cyclic) override;
+    void updateCyclicServices(uint64_t cyclic,
+                              const std::vector<std::shared_ptr<ServiceInput>>& services) override;
 
 private:
     // Throws NotInitialized unless the engine is initialised, and UnknownTarget when the
