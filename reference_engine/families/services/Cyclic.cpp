@@ -115,7 +115,9 @@ void CyclicJobs::run() {
             continue;
         }
         if (due->second.due > now) {
-            wake_.wait_until(lock, due->second.due);
+            // A copy: the job may be stopped, and its time point gone, while this waits.
+            const auto until = due->second.due;
+            wake_.wait_until(lock, until);
             continue;
         }
         const auto id = due->first;
