@@ -16,6 +16,8 @@ struct Parts {
     DiagnosticsSettings diagnostics;
     InterfacesSettings interfaces;
     ServersSettings servers;
+    FlashSettings flash;
+    CodingSettings coding;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -26,6 +28,8 @@ Parts parseParts(const VehicleDescription& description) {
     parts.diagnostics = DiagnosticsSettings::parse(description.section("diagnostics"));
     parts.interfaces = InterfacesSettings::parse(description.section("interfaces"));
     parts.servers = ServersSettings::parse(description.section("servers"));
+    parts.flash = FlashSettings::parse(description.section("flash"), parts.ecus);
+    parts.coding = CodingSettings::parse(description.section("coding"), parts.ecus);
     return parts;
 }
 
@@ -93,6 +97,8 @@ void SimulatedVehicle::load(VehicleDescription description) {
     interfaces->load(parts.interfaces);
     services.load();
     servers.load(parts.servers);
+    flash.load(std::move(parts.flash));
+    coding.load(std::move(parts.coding));
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -106,6 +112,8 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.interfaces = std::make_shared<Interfaces>(vehicle);
     families.services = std::make_shared<Services>(vehicle);
     families.servers = std::make_shared<Servers>(vehicle, object);
+    families.flash = std::make_shared<Flash>(vehicle);
+    families.coding = std::make_shared<Coding>(vehicle);
     return families;
 }
 

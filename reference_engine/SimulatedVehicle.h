@@ -12,14 +12,16 @@
 #include "Families.h"
 #include "Script.h"
 #include "VehicleDescription.h"
+#include "families/coding/Coding.h"
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
-#include "families/interfaces/Interfaces.h"
 #include "families/files/Files.h"
+#include "families/flash/Flash.h"
+#include "families/interfaces/Interfaces.h"
 #include "families/lifecycle/Lifecycle.h"
 #include "families/projects/Projects.h"
-#include "families/services/Services.h"
 #include "families/servers/Servers.h"
+#include "families/services/Services.h"
 
 #include <cstdint>
 #include <memory>
@@ -66,6 +68,8 @@ public:
     const std::shared_ptr<InterfacesState> interfaces = std::make_shared<InterfacesState>();
     ServicesState services;
     ServersState servers;
+    FlashState flash;
+    CodingState coding;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};
