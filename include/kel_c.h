@@ -138,6 +138,13 @@ typedef struct UserInfo UserInfo;
 typedef struct LogInOutConfig LogInOutConfig;
 typedef struct TarnApiServerConfig TarnApiServerConfig;
 typedef struct ServerSettings ServerSettings;
+typedef struct FlashSessionInfo FlashSessionInfo;
+typedef struct FlashSessionResult FlashSessionResult;
+typedef struct FlashSessionsConfig FlashSessionsConfig;
+typedef struct CodingStringResult CodingStringResult;
+typedef struct CodingFileResult CodingFileResult;
+typedef struct QuickTestResult QuickTestResult;
+typedef struct EcuConfigurationResult EcuConfigurationResult;
 
 /* The MVCI (ISO 22900) server error beneath an engine error.
  * Freed with release_MvciServerError, which frees everything it points to; a list of them with
@@ -1296,6 +1303,101 @@ struct ServerSettings {
     uint32_t value3; /* 1 while the SOVD server runs */
 };
 
+/* One flash session a target offers: the software it installs and what installing it takes.
+ * Freed with release_FlashSessionInfo, which frees everything it points to; a list of them
+ * with release_FlashSessionInfo_array. */
+struct FlashSessionInfo {
+    wchar_t* name;        /* the session's name, as executeFlashSessions takes it */
+    wchar_t* target;      /* the target it flashes */
+    wchar_t* description; /* what the session installs, for a person */
+    wchar_t* version;     /* the software version the target reports after it */
+    uint64_t size;        /* the bytes the session downloads into the target */
+    uint32_t duration;    /* how long it is expected to take, in milliseconds */
+    uint32_t level;       /* the security level the target must have unlocked */
+};
+
+/* The outcome of one flash session, or how far it has got in an asynchronous report.
+ * Freed with release_FlashSessionResult, which frees everything it points to; a list of them
+ * with release_FlashSessionResult_array. */
+struct FlashSessionResult {
+    wchar_t* name;   /* the session's name */
+    wchar_t* target; /* the target flashed */
+    int32_t status;  /* 0 flashed, 1 running (a report before the end), 2 failed, 3 not run */
+    wchar_t* versionBefore; /* the software version the target reported before the session */
+    wchar_t* versionAfter;  /* the version it reports now; empty while an update is incomplete */
+    uint64_t size;          /* the bytes to download */
+    uint64_t transferred;   /* the bytes downloaded so far */
+    uint32_t progress;      /* per cent done, 0 to 100 */
+    uint32_t duration;      /* the milliseconds the session has taken so far */
+    KelError* error;        /* why the session failed or was not run; NULL when it did not */
+};
+
+/* What executeFlashSessionsConfig runs; an input that it consumes.
+ * Freed with release_FlashSessionsConfig, which frees everything it points to; a list of them
+ * with release_FlashSessionsConfig_array. */
+struct FlashSessionsConfig {
+    wchar_t* target;    /* the target to flash */
+    wchar_t** sessions; /* the sessions to run, by name, in this order */
+    uint32_t sessionCount;
+    uint32_t blockLength; /* the largest block to transfer at once in bytes; 0: as large as the
+                             target takes */
+    uint8_t stopOnError; /* 1: a failed session leaves the later ones not run; 0: they run anyway */
+};
+
+/* The coding of one target.
+ * Freed with release_CodingStringResult, which frees everything it points to; a list of them
+ * with release_CodingStringResult_array. */
+struct CodingStringResult {
+    wchar_t* target;     /* the target's name */
+    int32_t status;      /* 0 read, 1 silent ECU, 2 unknown target, 3 refused or not coded */
+    wchar_t* identifier; /* the data identifier the coding is kept in, as hex digits */
+    wchar_t* coding;     /* the coding as text */
+    uint8_t* data;       /* the coding's raw bytes; NULL when none were read */
+    uint32_t dataLength;
+    KelError* error; /* the error of this target, or NULL */
+};
+
+/* What writing a coding file did to one target.
+ * Freed with release_CodingFileResult, which frees everything it points to; a list of them
+ * with release_CodingFileResult_array. */
+struct CodingFileResult {
+    wchar_t* target; /* the target's name */
+    int32_t status;  /* 0 written and read back, 1 silent ECU, 2 unknown target, 3 refused or not in
+                        the file */
+    wchar_t* written; /* the coding the file gives for the target, as text */
+    wchar_t* coding;  /* the coding read back after writing, as text */
+    uint8_t* data;    /* the raw bytes read back; NULL when none were read */
+    uint32_t dataLength;
+    uint8_t verified; /* 1 when what was read back is what was written */
+    KelError* error;  /* the error of this target, or NULL */
+};
+
+/* The quick test of one target: its variant and its DTCs, read in one pass.
+ * Freed with release_QuickTestResult, which frees everything it points to; a list of them with
+ * release_QuickTestResult_array. */
+struct QuickTestResult {
+    wchar_t* target;    /* the target's name */
+    int32_t status;     /* 0 tested, 1 silent ECU, 2 unknown target, 3 refused */
+    wchar_t* variant;   /* the variant identified; empty when none was */
+    uint8_t identified; /* 1 when the variant was identified */
+    DtcResult**
+        dtcs; /* the DTCs read, as readDtcs gives them; dtcCount is the target's DTC count */
+    uint32_t dtcCount;
+    KelError* error; /* the error of this target, or NULL */
+};
+
+/* What applying an ECU configuration did to one target.
+ * Freed with release_EcuConfigurationResult, which frees everything it points to; a list of
+ * them with release_EcuConfigurationResult_array. */
+struct EcuConfigurationResult {
+    wchar_t* target;        /* the target's name */
+    wchar_t* configuration; /* the configuration applied */
+    int32_t status;   /* 0 applied, 1 silent ECU, 2 unknown target, 3 refused or not part of the
+                         configuration */
+    uint32_t written; /* the values written to the target */
+    KelError* error;  /* the error of this target, or NULL */
+};
+
 /* ---- engine objects ---- */
 /* Registers the local engine object and returns its address, the `api` of every export.
  * Every kel_getTarnApi is matched by one releaseTarnApi; getting the same engine object
@@ -1562,6 +1664,24 @@ KEL_C_API void release_TarnApiServerConfig_array(KEL_CONSUMED TarnApiServerConfi
                                                  uint64_t count);
 KEL_C_API void release_ServerSettings(KEL_CONSUMED ServerSettings* ptr);
 KEL_C_API void release_ServerSettings_array(KEL_CONSUMED ServerSettings** ptr, uint64_t count);
+KEL_C_API void release_FlashSessionInfo(KEL_CONSUMED FlashSessionInfo* ptr);
+KEL_C_API void release_FlashSessionInfo_array(KEL_CONSUMED FlashSessionInfo** ptr, uint64_t count);
+KEL_C_API void release_FlashSessionResult(KEL_CONSUMED FlashSessionResult* ptr);
+KEL_C_API void release_FlashSessionResult_array(KEL_CONSUMED FlashSessionResult** ptr,
+                                                uint64_t count);
+KEL_C_API void release_FlashSessionsConfig(KEL_CONSUMED FlashSessionsConfig* ptr);
+KEL_C_API void release_FlashSessionsConfig_array(KEL_CONSUMED FlashSessionsConfig** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_CodingStringResult(KEL_CONSUMED CodingStringResult* ptr);
+KEL_C_API void release_CodingStringResult_array(KEL_CONSUMED CodingStringResult** ptr,
+                                                uint64_t count);
+KEL_C_API void release_CodingFileResult(KEL_CONSUMED CodingFileResult* ptr);
+KEL_C_API void release_CodingFileResult_array(KEL_CONSUMED CodingFileResult** ptr, uint64_t count);
+KEL_C_API void release_QuickTestResult(KEL_CONSUMED QuickTestResult* ptr);
+KEL_C_API void release_QuickTestResult_array(KEL_CONSUMED QuickTestResult** ptr, uint64_t count);
+KEL_C_API void release_EcuConfigurationResult(KEL_CONSUMED EcuConfigurationResult* ptr);
+KEL_C_API void release_EcuConfigurationResult_array(KEL_CONSUMED EcuConfigurationResult** ptr,
+                                                    uint64_t count);
 
 /* ---- callbacks of the asynchronous operations ----
  * Called once or several times per call, on a thread of the engine; isFinal marks
@@ -1590,6 +1710,20 @@ typedef void (*ReadSupportedDtcsCallbackFunction)(ReadDtcResult** results, uint3
 typedef void (*ClearAllDtcsCallbackFunction)(ClearDtcResult** results, uint32_t resultCount,
                                              bool isFinal, uint64_t callId, KelError* error,
                                              void* context);
+/* Reports of kel_executeFlashSessionsAsync: free results with
+ * release_FlashSessionResult_array. */
+typedef void (*ExecuteFlashSessionsCallbackFunction)(FlashSessionResult** results,
+                                                     uint32_t resultCount, bool isFinal,
+                                                     uint64_t callId, KelError* error,
+                                                     void* context);
+/* Reports of kel_readCodingStringsAsync: free results with release_CodingStringResult_array. */
+typedef void (*ReadCodingStringsCallbackFunction)(CodingStringResult** results,
+                                                  uint32_t resultCount, bool isFinal,
+                                                  uint64_t callId, KelError* error, void* context);
+/* Reports of kel_performQuickTestAsync: free results with release_QuickTestResult_array. */
+typedef void (*PerformQuickTestCallbackFunction)(QuickTestResult** results, uint32_t resultCount,
+                                                 bool isFinal, uint64_t callId, KelError* error,
+                                                 void* context);
 /* Reports of kel_scanInterfaceConnectionAsync: free results with
  * release_ScanInterfaceResult_array. */
 typedef void (*ScanInterfaceConnectionCallbackFunction)(ScanInterfaceResult** results,
@@ -1625,6 +1759,12 @@ typedef void (*CopyFilesCallbackFunction)(FileCopyResult** results, uint32_t res
 typedef void (*CopyDirectoriesCallbackFunction)(DirectoryCopyResult** results, uint32_t resultCount,
                                                 bool isFinal, uint64_t callId, KelError* error,
                                                 void* context);
+/* Reports of kel_executeFlashSessionsConfigAsync: free results with
+ * release_FlashSessionResult_array. */
+typedef void (*ExecuteFlashSessionsConfigCallbackFunction)(FlashSessionResult** results,
+                                                           uint32_t resultCount, bool isFinal,
+                                                           uint64_t callId, KelError* error,
+                                                           void* context);
 /* Reports of kel_executeServiceInDefaultSessionAsync: free results with
  * release_ServiceResult_array. */
 typedef void (*ExecuteServiceInDefaultSessionCallbackFunction)(ServiceResult** results,
@@ -1635,10 +1775,20 @@ typedef void (*ExecuteServiceInDefaultSessionCallbackFunction)(ServiceResult** r
 typedef void (*CopyPathCallbackFunction)(PathCopyResult** results, uint32_t resultCount,
                                          bool isFinal, uint64_t callId, KelError* error,
                                          void* context);
+/* Reports of kel_writeCodingFileAsync: free results with release_CodingFileResult_array. */
+typedef void (*WriteCodingFileCallbackFunction)(CodingFileResult** results, uint32_t resultCount,
+                                                bool isFinal, uint64_t callId, KelError* error,
+                                                void* context);
 /* Reports of kel_executeSequenceAsync: free results with release_ServiceResult_array. */
 typedef void (*ExecuteSequenceCallbackFunction)(ServiceResult** results, uint32_t resultCount,
                                                 bool isFinal, uint64_t callId, KelError* error,
                                                 void* context);
+/* Reports of kel_performEcuConfigurationAsync: free results with
+ * release_EcuConfigurationResult_array. */
+typedef void (*PerformEcuConfigurationCallbackFunction)(EcuConfigurationResult** results,
+                                                        uint32_t resultCount, bool isFinal,
+                                                        uint64_t callId, KelError* error,
+                                                        void* context);
 /* Reports of kel_clearSpecificDtcsAsync: free results with release_ClearDtcResult_array. */
 typedef void (*ClearSpecificDtcsCallbackFunction)(ClearDtcResult** results, uint32_t resultCount,
                                                   bool isFinal, uint64_t callId, KelError* error,
@@ -1817,6 +1967,30 @@ KEL_C_API void kel_clearAllDtcs(TarnApi* api, KEL_KEPT wchar_t** targets, uint32
 KEL_C_API uint64_t kel_clearAllDtcsAsync(TarnApi* api, KEL_KEPT wchar_t** targets,
                                          uint32_t targetCount, KelError** error,
                                          ClearAllDtcsCallbackFunction callback, void* context);
+/* Runs the quick test on the given targets, with the DTC reading options in config.
+ * Position 35.
+ * config: consumed: the library frees it with release_DtcReadConfig, also when the call fails;
+ * NULL passes no record.
+ * targets: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a QuickTestResult list, NULL and 0 when empty;
+ * free it with release_QuickTestResult_array(results, resultCount). */
+KEL_C_API void kel_performQuickTest(TarnApi* api, KEL_KEPT wchar_t** targets, uint32_t targetCount,
+                                    KEL_CONSUMED DtcReadConfig* config, KelError** error,
+                                    KEL_OUT QuickTestResult*** results,
+                                    KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_performQuickTest. Position 36.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * config: consumed: the library frees it with release_DtcReadConfig, also when the call fails;
+ * NULL passes no record.
+ * targets: kept by the caller, read only during the call.
+ * callback receives QuickTestResult lists, once or several times until isFinal, on a thread of
+ * the engine; each list and error belong to it, to free with release_QuickTestResult_array and
+ * release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_performQuickTestAsync(TarnApi* api, KEL_KEPT wchar_t** targets,
+                                             uint32_t targetCount,
+                                             KEL_CONSUMED DtcReadConfig* config, KelError** error,
+                                             PerformQuickTestCallbackFunction callback,
+                                             void* context);
 /* Identifies the variants of the given targets; one result per target. Position 65.
  * targets: kept by the caller, read only during the call.
  * On success *results and *resultCount receive a VariantIdentResult list, NULL and 0 when
@@ -2773,13 +2947,118 @@ KEL_C_API uint64_t kel_copyPathAsync(TarnApi* api, KEL_CONSUMED PathCopyConfig* 
 KEL_C_API void kel_addPublicDirectory(TarnApi* api, KEL_KEPT const wchar_t* name,
                                       KEL_KEPT const wchar_t* path, KelError** error);
 
+/* ---- Flash ----
+ * Flash sessions */
+/* Lists the flash sessions that one target offers. Position 30.
+ * target: kept by the caller, read only during the call.
+ * On success *sessions and *sessionCount receive a FlashSessionInfo list, NULL and 0 when
+ * empty; free it with release_FlashSessionInfo_array(sessions, sessionCount). */
+KEL_C_API void kel_getFlashSessionInfos(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                        KelError** error, KEL_OUT FlashSessionInfo*** sessions,
+                                        KEL_OUT uint32_t* sessionCount);
+/* Runs the given flash sessions on one target. Position 31.
+ * target, sessions: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a FlashSessionResult list, NULL and 0 when
+ * empty; free it with release_FlashSessionResult_array(results, resultCount). */
+KEL_C_API void kel_executeFlashSessions(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                        KEL_KEPT wchar_t** sessions, uint32_t sessionCount,
+                                        KelError** error, KEL_OUT FlashSessionResult*** results,
+                                        KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_executeFlashSessions. Position 32.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * target, sessions: kept by the caller, read only during the call.
+ * callback receives FlashSessionResult lists, once or several times until isFinal, on a thread
+ * of the engine; each list and error belong to it, to free with
+ * release_FlashSessionResult_array and release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_executeFlashSessionsAsync(TarnApi* api, KEL_KEPT const wchar_t* target,
+                                                 KEL_KEPT wchar_t** sessions, uint32_t sessionCount,
+                                                 KelError** error,
+                                                 ExecuteFlashSessionsCallbackFunction callback,
+                                                 void* context);
+/* Runs flash sessions as config says. Position 166.
+ * config: consumed: the library frees it with release_FlashSessionsConfig, also when the call
+ * fails; NULL passes no record.
+ * On success *results and *resultCount receive a FlashSessionResult list, NULL and 0 when
+ * empty; free it with release_FlashSessionResult_array(results, resultCount). */
+KEL_C_API void kel_executeFlashSessionsConfig(TarnApi* api,
+                                              KEL_CONSUMED FlashSessionsConfig* config,
+                                              KelError** error,
+                                              KEL_OUT FlashSessionResult*** results,
+                                              KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_executeFlashSessionsConfig. Position 167.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * config: consumed: the library frees it with release_FlashSessionsConfig, also when the call
+ * fails; NULL passes no record.
+ * callback receives FlashSessionResult lists, once or several times until isFinal, on a thread
+ * of the engine; each list and error belong to it, to free with
+ * release_FlashSessionResult_array and release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_executeFlashSessionsConfigAsync(
+    TarnApi* api, KEL_CONSUMED FlashSessionsConfig* config, KelError** error,
+    ExecuteFlashSessionsConfigCallbackFunction callback, void* context);
+
 /* ---- Coding ----
  * Coding strings and files, ECU configuration and checksums */
+/* Reads the coding strings of the given targets. Position 33.
+ * targets: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a CodingStringResult list, NULL and 0 when
+ * empty; free it with release_CodingStringResult_array(results, resultCount). */
+KEL_C_API void kel_readCodingStrings(TarnApi* api, KEL_KEPT wchar_t** targets, uint32_t targetCount,
+                                     KelError** error, KEL_OUT CodingStringResult*** results,
+                                     KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_readCodingStrings. Position 34.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * targets: kept by the caller, read only during the call.
+ * callback receives CodingStringResult lists, once or several times until isFinal, on a thread
+ * of the engine; each list and error belong to it, to free with
+ * release_CodingStringResult_array and release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_readCodingStringsAsync(TarnApi* api, KEL_KEPT wchar_t** targets,
+                                              uint32_t targetCount, KelError** error,
+                                              ReadCodingStringsCallbackFunction callback,
+                                              void* context);
 /* Calculates the checksum of a file with the given algorithm. Position 140.
  * path: kept by the caller, read only during the call.
  * On success *checksum receives a new string; free it with release_Memory. */
 KEL_C_API void kel_calculateChecksum(TarnApi* api, KEL_KEPT const wchar_t* path, int32_t algorithm,
                                      KelError** error, KEL_OUT wchar_t** checksum);
+/* Writes a coding file to the given targets. Position 221.
+ * codingFile, targets: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a CodingFileResult list, NULL and 0 when empty;
+ * free it with release_CodingFileResult_array(results, resultCount). */
+KEL_C_API void kel_writeCodingFile(TarnApi* api, KEL_KEPT const wchar_t* codingFile,
+                                   KEL_KEPT wchar_t** targets, uint32_t targetCount,
+                                   KelError** error, KEL_OUT CodingFileResult*** results,
+                                   KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_writeCodingFile. Position 222.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * codingFile, targets: kept by the caller, read only during the call.
+ * callback receives CodingFileResult lists, once or several times until isFinal, on a thread
+ * of the engine; each list and error belong to it, to free with release_CodingFileResult_array
+ * and release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_writeCodingFileAsync(TarnApi* api, KEL_KEPT const wchar_t* codingFile,
+                                            KEL_KEPT wchar_t** targets, uint32_t targetCount,
+                                            KelError** error,
+                                            WriteCodingFileCallbackFunction callback,
+                                            void* context);
+/* Configures the ECUs of the given targets with a configuration. Position 233.
+ * targets, configuration: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive an EcuConfigurationResult list, NULL and 0 when
+ * empty; free it with release_EcuConfigurationResult_array(results, resultCount). */
+KEL_C_API void kel_performEcuConfiguration(TarnApi* api, KEL_KEPT wchar_t** targets,
+                                           uint32_t targetCount,
+                                           KEL_KEPT const wchar_t* configuration, KelError** error,
+                                           KEL_OUT EcuConfigurationResult*** results,
+                                           KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_performEcuConfiguration. Position 234.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * targets, configuration: kept by the caller, read only during the call.
+ * callback receives EcuConfigurationResult lists, once or several times until isFinal, on a
+ * thread of the engine; each list and error belong to it, to free with
+ * release_EcuConfigurationResult_array and release_KelError. context reaches callback
+ * unchanged. */
+KEL_C_API uint64_t
+kel_performEcuConfigurationAsync(TarnApi* api, KEL_KEPT wchar_t** targets, uint32_t targetCount,
+                                 KEL_KEPT const wchar_t* configuration, KelError** error,
+                                 PerformEcuConfigurationCallbackFunction callback, void* context);
 
 /* ---- Measurement ----
  * Measurement values */

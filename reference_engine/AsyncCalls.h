@@ -17,8 +17,10 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <thread>
+#include <type_traits>
 #include <vector>
 
 namespace Varno::Kel_cpp::Reference {
@@ -61,8 +63,9 @@ public:
     }
 
     // Starts a call done in steps: `plan()` (on a worker, at the first report) returns
-    // the steps, each a function giving one result; every report runs its slice of the
-    // steps and hands out their results. A cancel ends the call before its next slice,
+    // the steps, each a function giving one result (or a std::optional of one, empty
+    // when the step has nothing to report); every report runs its slice of the steps
+    // and hands out their results. A cancel ends the call before its next slice,
     // so each step is done whole or not at all (a copy leaves no half-copied entry).
     template <class Callback, class Plan>
     uint64_t startSteps(const char* operation, Callback* callback, Plan plan) {
@@ -116,6 +119,11 @@ private:
         }
     };
 
+    template <class T>
+    struct IsOptional : std::false_type {};
+    template <class T>
+    struct IsOptional<std::optional<T>> : std::true_type {};
+
     template <class Callback, class Steps>
     struct Stepped : Call {
         Callback* callback = nullptr;
@@ -127,11 +135,23 @@ private:
         }
         void deliver(std::size_t from, std::size_t to, bool isFinal,
                      std::shared_ptr<KelError> error) override {
-            std::vector<decltype(steps.front()())> slice;
-            for (std::size_t i = from; i < to; ++i) {
-                slice.push_back(steps[i]());
+            using Step = decltype(steps.front()());
+            if constexpr (IsOptional<Step>::value) {
+                // A step that has nothing to report (its work ended early) adds nothing.
+                std::vector<typename Step::value_type> slice;
+                for (std::size_t i = from; i < to; ++i) {
+                    if (auto result = steps[i]()) {
+                        slice.push_back(std::move(*result));
+                    }
+                }
+                callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
+            } else {
+                std::vector<Step> slice;
+                for (std::size_t i = from; i < to; ++i) {
+                    slice.push_back(steps[i]());
+                }
+                callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
             }
-            callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
         }
     };
 

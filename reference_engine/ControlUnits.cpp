@@ -571,6 +571,7 @@ Ecu parseEcu(const json& j) {
         ecu.dtcs.push_back(std::move(dtc));
     }
     ecu.services = standardServices(ecu);
+    addProgramming(j, ecu);
     for (const auto& r : j.value("routines", json::array())) {
         ecu.services.push_back(parseRoutine(r, ecu.sessions));
     }
@@ -832,6 +833,12 @@ const wchar_t* nrcText(uint8_t code) {
         return L"exceededNumberOfAttempts";
     case RequiredTimeDelayNotExpired:
         return L"requiredTimeDelayNotExpired";
+    case UploadDownloadNotAccepted:
+        return L"uploadDownloadNotAccepted";
+    case TransferDataSuspended:
+        return L"transferDataSuspended";
+    case WrongBlockSequenceCounter:
+        return L"wrongBlockSequenceCounter";
     case ServiceNotSupportedInActiveSession:
         return L"serviceNotSupportedInActiveSession";
     default:
@@ -1037,6 +1044,9 @@ Bytes Ecu::respond(const Bytes& request, int64_t nowMs) {
     };
     if (described->answer) {
         return reply(*described->answer);
+    }
+    if (auto programmed = respondProgramming(*this, request)) {
+        return *programmed;
     }
     switch (sid) {
     case 0x10: {

@@ -10,6 +10,8 @@
 // and monitors all see one unit, and the bus traffic is counted in one place.
 #pragma once
 
+#include "Checksums.h"
+
 #include <nlohmann/json.hpp>
 
 #include <cstdint>
@@ -172,6 +174,9 @@ enum Nrc : uint8_t {
     InvalidKey = 0x35,
     ExceededNumberOfAttempts = 0x36,
     RequiredTimeDelayNotExpired = 0x37,
+    UploadDownloadNotAccepted = 0x70,
+    TransferDataSuspended = 0x71,
+    WrongBlockSequenceCounter = 0x73,
     ServiceNotSupportedInActiveSession = 0x7F,
 };
 const wchar_t* nrcText(uint8_t code);
@@ -205,6 +210,35 @@ struct MeasurementValue {
     int64_t walkedSample = 0;
     double walked = 0;
     uint32_t walkState = 0;
+// ---- programming: what a flashable unit does with a download ---------------------------
+
+// A unit with a "programming" member can be flashed: in the programming session, with
+// its programming level unlocked, EraseMemory (31 01 FF00) drops the software (an update
+// is incomplete from then on: the version identifier reads empty and `dtc` is stored),
+// RequestDownload (34), TransferData (36) and RequestTransferExit (37) take the new
+// image, and CheckProgrammingDependencies (31 01 FF01 <CRC-32>) compares the image's
+// CRC-32 with the one the tester sends. When they agree the unit runs the new software:
+// the version the image begins with (ASCII up to a NUL byte) becomes the version
+// identifier's value and the DTC is no longer stored.
+inline constexpr uint16_t eraseMemoryRoutine = 0xFF00;
+inline constexpr uint16_t checkProgrammingRoutine = 0xFF01;
+inline constexpr std::size_t imageHeaderLength = 64; // where an image's version may stand
+
+struct Programming {
+    uint8_t level = 1;              // the security level every programming service needs
+    uint8_t session = 2;            // the session they need
+    uint32_t maxBlockLength = 1026; // a TransferData request's bytes, 36 and counter included
+    uint16_t versionId = 0xF189;    // the data identifier that reports the software version
+    std::size_t dtc = 0;            // Ecu::dtcs index of "programming incomplete"
+    // Where an update stands.
+    bool incomplete = false;  // erased and not yet checked
+    bool downloading = false; // between RequestDownload and RequestTransferExit
+    bool downloaded = false;  // a whole image arrived and waits for its check
+    uint64_t expected = 0;
+    uint64_t received = 0;
+    uint8_t nextBlock = 1;
+    Crc32 crc;    // of what arrived
+    Bytes header; // the image's first imageHeaderLength bytes
 };
 
 struct Ecu {
@@ -228,6 +262,7 @@ struct Ecu {
     UnitState state;
     bool identified = false;
     std::vector<MeasurementValue> measurements;
+    std::optional<Programming> programming; // set for a unit that can be flashed
 
     const DataIdentifier* dataIdentifier(uint16_t id) const;
     // By identifier ("F190") or name ("VIN").
@@ -251,6 +286,13 @@ struct Ecu {
     // service id and a negative response code.
     Bytes respond(const Bytes& request, int64_t nowMs);
 };
+
+// Reads the ECU description's "programming" member into `ecu.programming` and adds the
+// programming services to its catalogue (throws std::invalid_argument).
+void addProgramming(const nlohmann::json& description, Ecu& ecu);
+// The unit's answer to a programming request it accepted by session and level, or
+// nothing when the request is none of the programming services.
+std::optional<Bytes> respondProgramming(Ecu& ecu, const Bytes& request);
 
 // "F190"
 std::wstring hexId(uint16_t id);

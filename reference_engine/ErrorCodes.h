@@ -40,14 +40,14 @@ enum ErrorCode : int32_t {
     UnknownCyclicJob = 1106,         // a cyclic job that was never started or is stopped
 
     // Projects: 1200-1299.
-    UnknownProject = 1200,          // no project of that name or path in the projects folder
-    ProjectUnreadable = 1201,       // its project file is missing or not valid
-    ProjectNeedsConversion = 1202,  // an older format: convertProject first
-    DatabaseFileMissing = 1203,     // per file, inside load and unload results
-    NotADatabaseFile = 1204,        // per file: the file is not a database file
-    DatabaseFileNotLoaded = 1205,   // per file: unloading a file that is not loaded
-    PathOutsideProject = 1206,      // per file: the path leaves the project's folder
-    MissingInput = 1207,            // a record input that the operation needs is null
+    UnknownProject = 1200,         // no project of that name or path in the projects folder
+    ProjectUnreadable = 1201,      // its project file is missing or not valid
+    ProjectNeedsConversion = 1202, // an older format: convertProject first
+    DatabaseFileMissing = 1203,    // per file, inside load and unload results
+    NotADatabaseFile = 1204,       // per file: the file is not a database file
+    DatabaseFileNotLoaded = 1205,  // per file: unloading a file that is not loaded
+    PathOutsideProject = 1206,     // per file: the path leaves the project's folder
+    MissingInput = 1207,           // a record input that the operation needs is null
     UnknownSystemProperty = 1208,
     ConfigurationUnreadable = 1209, // a saved configuration file is not valid
     CannotWriteFile = 1210,         // saving failed
@@ -115,11 +115,24 @@ enum ErrorCode : int32_t {
     BadFileArgument = 1614,     // a mode, offset or record the engine cannot use
     FileTooLarge = 1615,        // more than 4 GiB - 1 bytes in one read
     SomeEntriesFailed = 1616,   // a delete or copy outcome: the details name each entry
-    TargetInsideSource = 1617, // a directory copied or moved into itself
+    TargetInsideSource = 1617,  // a directory copied or moved into itself
 
     // Flash: 1700-1799.
+    FlashStepRefused = 1700,    // per session: a negative response, attached
+    UnknownFlashSession = 1701, // per session: the target offers no session of that name
+    FlashSessionNotRun = 1702,  // per session: an earlier session of the call failed
+    FlashCheckFailed = 1703,    // per session: the unit rejected the image; update incomplete
+    BadFlashArgument = 1704,    // no sessions, or no config
 
     // Coding: 1800-1899.
+    NotCoded = 1800,        // per target: the description names no coding for it
+    NotInCodingFile = 1801, // per target: the coding file has no line for it
+    BadCodingFile = 1802,   // the coding file cannot be read as one
+    UnknownChecksumAlgorithm = 1803,
+    UnknownEcuConfiguration = 1804,
+    NotInEcuConfiguration = 1805, // per target: the configuration writes nothing to it
+    CodingRefused = 1806,         // per target: a negative response, attached
+    BadCodingValue = 1807,        // per target: a value its identifier cannot hold
 
     // Measurement: 1900-1999.
     UnknownMeasurementValue = 1900,        // the target has no measurement value of that name

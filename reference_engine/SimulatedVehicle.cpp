@@ -19,6 +19,8 @@ struct Parts {
     MonitoringSettings monitoring;
     CyclicSettings cyclic;
     SequencesSettings sequences;
+    FlashSettings flash;
+    CodingSettings coding;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -32,6 +34,8 @@ Parts parseParts(const VehicleDescription& description) {
     parts.monitoring = MonitoringSettings::parse(description.section("monitoring"));
     parts.cyclic = CyclicSettings::parse(description.section("services"));
     parts.sequences = SequencesSettings::parse(description.section("sequences"));
+    parts.flash = FlashSettings::parse(description.section("flash"), parts.ecus);
+    parts.coding = CodingSettings::parse(description.section("coding"), parts.ecus);
     return parts;
 }
 
@@ -103,6 +107,8 @@ void SimulatedVehicle::load(VehicleDescription description) {
     sequences.load(std::move(parts.sequences));
     servers.load(parts.servers);
     monitoring->load(parts.monitoring);
+    flash.load(std::move(parts.flash));
+    coding.load(std::move(parts.coding));
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -119,6 +125,8 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.sequences = std::make_shared<Sequences>(vehicle);
     families.servers = std::make_shared<Servers>(vehicle, object);
     families.monitoring = std::make_shared<Monitoring>(vehicle, object);
+    families.flash = std::make_shared<Flash>(vehicle);
+    families.coding = std::make_shared<Coding>(vehicle);
     return families;
 }
 

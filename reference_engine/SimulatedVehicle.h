@@ -12,13 +12,15 @@
 #include "Families.h"
 #include "Script.h"
 #include "VehicleDescription.h"
+#include "families/coding/Coding.h"
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
 #include "families/files/Files.h"
+#include "families/flash/Flash.h"
 #include "families/interfaces/Interfaces.h"
 #include "families/lifecycle/Lifecycle.h"
-#include "families/monitoring/Monitoring.h"
 #include "families/measurement/Measurement.h"
+#include "families/monitoring/Monitoring.h"
 #include "families/projects/Projects.h"
 #include "families/sequences/Sequences.h"
 #include "families/servers/Servers.h"
@@ -77,6 +79,8 @@ public:
     // Each runs on its own worker, which it joins when the vehicle ends.
     CyclicJobs cyclic{units};
     SequencesState sequences{units, events.channels};
+    FlashState flash;
+    CodingState coding;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};

@@ -528,7 +528,8 @@ TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
     ServiceInfos routines;
     kel_getServiceInfos(api, L"ECM", L"", nullptr, 0, 0x31, &error, &routines.items,
                         &routines.count);
-    EXPECT_EQ(routines.count, 2U);
+    EXPECT_EQ(routines.count, 4U)
+        << "InjectorTest, SelfTest, and the erase and check of programming";
 
     Infos actuators;
     kel_getActuatorServiceInfos(api, L"ECM", L"", &error, &actuators.items, &actuators.count);

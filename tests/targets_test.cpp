@@ -317,7 +317,7 @@ TEST_F(TargetsFamily, StatusReportsEachTarget) {
     EXPECT_EQ(s.values[1], 1U);
     EXPECT_EQ(s.values[2], 1U);
     EXPECT_EQ(s.values[3], 2U);
-    EXPECT_EQ(s.values[4], 4U);
+    EXPECT_EQ(s.values[4], 5U) << "four of the description and the programming DTC";
     EXPECT_EQ(out.items[2]->values[2], 0U) << "TCM was not identified";
     ASSERT_NE(out.items[1]->error, nullptr);
     EXPECT_STREQ(out.items[1]->text, L"not responding");

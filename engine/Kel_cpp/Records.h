@@ -1047,39 +1047,84 @@ public:
     uint32_t value3 = 0;
 };
 
-class FlashSessionInfo { // fields come with its family
+class FlashSessionInfo {
 public:
     virtual ~FlashSessionInfo() = default;
+    std::wstring name;
+    std::wstring target;
+    std::wstring description;
+    std::wstring version;
+    uint64_t size = 0;
+    uint32_t duration = 0;
+    uint32_t level = 0;
 };
 
-class FlashSessionResult { // fields come with its family
+class FlashSessionResult {
 public:
     virtual ~FlashSessionResult() = default;
+    std::wstring name;
+    std::wstring target;
+    int32_t status = 0;
+    std::wstring versionBefore;
+    std::wstring versionAfter;
+    uint64_t size = 0;
+    uint64_t transferred = 0;
+    uint32_t progress = 0;
+    uint32_t duration = 0;
+    std::shared_ptr<KelError> error;
 };
 
-class FlashSessionsConfig { // fields come with its family
+class FlashSessionsConfig {
 public:
     virtual ~FlashSessionsConfig() = default;
+    std::wstring target;
+    std::vector<std::wstring> sessions;
+    uint32_t blockLength = 0;
+    bool stopOnError = false;
 };
 
-class CodingStringResult { // fields come with its family
+class CodingStringResult {
 public:
     virtual ~CodingStringResult() = default;
+    std::wstring target;
+    int32_t status = 0;
+    std::wstring identifier;
+    std::wstring coding;
+    std::vector<uint8_t> data;
+    std::shared_ptr<KelError> error;
 };
 
-class CodingFileResult { // fields come with its family
+class CodingFileResult {
 public:
     virtual ~CodingFileResult() = default;
+    std::wstring target;
+    int32_t status = 0;
+    std::wstring written;
+    std::wstring coding;
+    std::vector<uint8_t> data;
+    bool verified = false;
+    std::shared_ptr<KelError> error;
 };
 
-class QuickTestResult { // fields come with its family
+class QuickTestResult {
 public:
     virtual ~QuickTestResult() = default;
+    std::wstring target;
+    int32_t status = 0;
+    std::wstring variant;
+    bool identified = false;
+    std::vector<std::shared_ptr<DtcResult>> dtcs;
+    std::shared_ptr<KelError> error;
 };
 
-class EcuConfigurationResult { // fields come with its family
+class EcuConfigurationResult {
 public:
     virtual ~EcuConfigurationResult() = default;
+    std::wstring target;
+    std::wstring configuration;
+    int32_t status = 0;
+    uint32_t written = 0;
+    std::shared_ptr<KelError> error;
 };
 
 class EcuOrderEntry { // fields come with its family

@@ -851,37 +851,72 @@ struct Of<ServerSettings> {
 
 template <>
 struct Of<FlashSessionInfo> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("name", &FlashSessionInfo::name), member("target", &FlashSessionInfo::target),
+        member("description", &FlashSessionInfo::description),
+        member("version", &FlashSessionInfo::version), member("size", &FlashSessionInfo::size),
+        member("duration", &FlashSessionInfo::duration), member("level", &FlashSessionInfo::level));
 };
 
 template <>
 struct Of<FlashSessionResult> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("name", &FlashSessionResult::name), member("target", &FlashSessionResult::target),
+        member("status", &FlashSessionResult::status),
+        member("versionBefore", &FlashSessionResult::versionBefore),
+        member("versionAfter", &FlashSessionResult::versionAfter),
+        member("size", &FlashSessionResult::size),
+        member("transferred", &FlashSessionResult::transferred),
+        member("progress", &FlashSessionResult::progress),
+        member("duration", &FlashSessionResult::duration),
+        member("error", &FlashSessionResult::error));
 };
 
 template <>
 struct Of<FlashSessionsConfig> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("target", &FlashSessionsConfig::target),
+                        member("sessions", &FlashSessionsConfig::sessions),
+                        member("blockLength", &FlashSessionsConfig::blockLength),
+                        member("stopOnError", &FlashSessionsConfig::stopOnError));
 };
 
 template <>
 struct Of<CodingStringResult> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("target", &CodingStringResult::target),
+        member("status", &CodingStringResult::status),
+        member("identifier", &CodingStringResult::identifier),
+        member("coding", &CodingStringResult::coding), member("data", &CodingStringResult::data),
+        member("error", &CodingStringResult::error));
 };
 
 template <>
 struct Of<CodingFileResult> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("target", &CodingFileResult::target), member("status", &CodingFileResult::status),
+        member("written", &CodingFileResult::written), member("coding", &CodingFileResult::coding),
+        member("data", &CodingFileResult::data), member("verified", &CodingFileResult::verified),
+        member("error", &CodingFileResult::error));
 };
 
 template <>
 struct Of<QuickTestResult> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("target", &QuickTestResult::target), member("status", &QuickTestResult::status),
+        member("variant", &QuickTestResult::variant),
+        member("identified", &QuickTestResult::identified), member("dtcs", &QuickTestResult::dtcs),
+        member("error", &QuickTestResult::error));
 };
 
 template <>
 struct Of<EcuConfigurationResult> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("target", &EcuConfigurationResult::target),
+                        member("configuration", &EcuConfigurationResult::configuration),
+                        member("status", &EcuConfigurationResult::status),
+                        member("written", &EcuConfigurationResult::written),
+                        member("error", &EcuConfigurationResult::error));
 };
 
 template <>

@@ -410,6 +410,34 @@ class C_ServerSettings(ctypes.Structure):
     _fields_ = [("flag", ctypes.c_uint8), ("value1", ctypes.c_uint32), ("value2", ctypes.c_uint32), ("value3", ctypes.c_uint32)]
 
 
+class C_FlashSessionInfo(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("target", ctypes.c_void_p), ("description", ctypes.c_void_p), ("version", ctypes.c_void_p), ("size", ctypes.c_uint64), ("duration", ctypes.c_uint32), ("level", ctypes.c_uint32)]
+
+
+class C_FlashSessionResult(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("target", ctypes.c_void_p), ("status", ctypes.c_int32), ("versionBefore", ctypes.c_void_p), ("versionAfter", ctypes.c_void_p), ("size", ctypes.c_uint64), ("transferred", ctypes.c_uint64), ("progress", ctypes.c_uint32), ("duration", ctypes.c_uint32), ("error", ctypes.c_void_p)]
+
+
+class C_FlashSessionsConfig(ctypes.Structure):
+    _fields_ = [("target", ctypes.c_void_p), ("sessions", ctypes.c_void_p), ("sessionCount", ctypes.c_uint32), ("blockLength", ctypes.c_uint32), ("stopOnError", ctypes.c_uint8)]
+
+
+class C_CodingStringResult(ctypes.Structure):
+    _fields_ = [("target", ctypes.c_void_p), ("status", ctypes.c_int32), ("identifier", ctypes.c_void_p), ("coding", ctypes.c_void_p), ("data", ctypes.c_void_p), ("dataLength", ctypes.c_uint32), ("error", ctypes.c_void_p)]
+
+
+class C_CodingFileResult(ctypes.Structure):
+    _fields_ = [("target", ctypes.c_void_p), ("status", ctypes.c_int32), ("written", ctypes.c_void_p), ("coding", ctypes.c_void_p), ("data", ctypes.c_void_p), ("dataLength", ctypes.c_uint32), ("verified", ctypes.c_uint8), ("error", ctypes.c_void_p)]
+
+
+class C_QuickTestResult(ctypes.Structure):
+    _fields_ = [("target", ctypes.c_void_p), ("status", ctypes.c_int32), ("variant", ctypes.c_void_p), ("identified", ctypes.c_uint8), ("dtcs", ctypes.c_void_p), ("dtcCount", ctypes.c_uint32), ("error", ctypes.c_void_p)]
+
+
+class C_EcuConfigurationResult(ctypes.Structure):
+    _fields_ = [("target", ctypes.c_void_p), ("configuration", ctypes.c_void_p), ("status", ctypes.c_int32), ("written", ctypes.c_uint32), ("error", ctypes.c_void_p)]
+
+
 def from_c_MvciServerError(address: Optional[int]) -> Optional[records.MvciServerError]:
     if not address:
         return None
@@ -1628,6 +1656,107 @@ def from_c_ServerSettings(address: Optional[int]) -> Optional[records.ServerSett
         value1=s.value1,
         value2=s.value2,
         value3=s.value3,
+    )
+
+
+def from_c_FlashSessionInfo(address: Optional[int]) -> Optional[records.FlashSessionInfo]:
+    if not address:
+        return None
+    s = C_FlashSessionInfo.from_address(address)
+    return records.FlashSessionInfo(
+        name=_text(s.name),
+        target=_text(s.target),
+        description=_text(s.description),
+        version=_text(s.version),
+        size=s.size,
+        duration=s.duration,
+        level=s.level,
+    )
+
+
+def from_c_FlashSessionResult(address: Optional[int]) -> Optional[records.FlashSessionResult]:
+    if not address:
+        return None
+    s = C_FlashSessionResult.from_address(address)
+    return records.FlashSessionResult(
+        name=_text(s.name),
+        target=_text(s.target),
+        status=s.status,
+        version_before=_text(s.versionBefore),
+        version_after=_text(s.versionAfter),
+        size=s.size,
+        transferred=s.transferred,
+        progress=s.progress,
+        duration=s.duration,
+        error=from_c_KelError(s.error),
+    )
+
+
+def from_c_FlashSessionsConfig(address: Optional[int]) -> Optional[records.FlashSessionsConfig]:
+    if not address:
+        return None
+    s = C_FlashSessionsConfig.from_address(address)
+    return records.FlashSessionsConfig(
+        target=_text(s.target),
+        sessions=_texts(s.sessions, s.sessionCount),
+        block_length=s.blockLength,
+        stop_on_error=bool(s.stopOnError),
+    )
+
+
+def from_c_CodingStringResult(address: Optional[int]) -> Optional[records.CodingStringResult]:
+    if not address:
+        return None
+    s = C_CodingStringResult.from_address(address)
+    return records.CodingStringResult(
+        target=_text(s.target),
+        status=s.status,
+        identifier=_text(s.identifier),
+        coding=_text(s.coding),
+        data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
+        error=from_c_KelError(s.error),
+    )
+
+
+def from_c_CodingFileResult(address: Optional[int]) -> Optional[records.CodingFileResult]:
+    if not address:
+        return None
+    s = C_CodingFileResult.from_address(address)
+    return records.CodingFileResult(
+        target=_text(s.target),
+        status=s.status,
+        written=_text(s.written),
+        coding=_text(s.coding),
+        data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
+        verified=bool(s.verified),
+        error=from_c_KelError(s.error),
+    )
+
+
+def from_c_QuickTestResult(address: Optional[int]) -> Optional[records.QuickTestResult]:
+    if not address:
+        return None
+    s = C_QuickTestResult.from_address(address)
+    return records.QuickTestResult(
+        target=_text(s.target),
+        status=s.status,
+        variant=_text(s.variant),
+        identified=bool(s.identified),
+        dtcs=from_c_list(s.dtcs, s.dtcCount, from_c_DtcResult),
+        error=from_c_KelError(s.error),
+    )
+
+
+def from_c_EcuConfigurationResult(address: Optional[int]) -> Optional[records.EcuConfigurationResult]:
+    if not address:
+        return None
+    s = C_EcuConfigurationResult.from_address(address)
+    return records.EcuConfigurationResult(
+        target=_text(s.target),
+        configuration=_text(s.configuration),
+        status=s.status,
+        written=s.written,
+        error=from_c_KelError(s.error),
     )
 
 
@@ -2852,6 +2981,107 @@ def to_c_ServerSettings(lib: Any, v: Optional[records.ServerSettings]) -> int:
     return address
 
 
+def to_c_FlashSessionInfo(lib: Any, v: Optional[records.FlashSessionInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_FlashSessionInfo))
+    s = C_FlashSessionInfo.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.target = lib.duplicate_WString(v.target)
+    s.description = lib.duplicate_WString(v.description)
+    s.version = lib.duplicate_WString(v.version)
+    s.size = v.size
+    s.duration = v.duration
+    s.level = v.level
+    return address
+
+
+def to_c_FlashSessionResult(lib: Any, v: Optional[records.FlashSessionResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_FlashSessionResult))
+    s = C_FlashSessionResult.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.target = lib.duplicate_WString(v.target)
+    s.status = v.status
+    s.versionBefore = lib.duplicate_WString(v.version_before)
+    s.versionAfter = lib.duplicate_WString(v.version_after)
+    s.size = v.size
+    s.transferred = v.transferred
+    s.progress = v.progress
+    s.duration = v.duration
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
+def to_c_FlashSessionsConfig(lib: Any, v: Optional[records.FlashSessionsConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_FlashSessionsConfig))
+    s = C_FlashSessionsConfig.from_address(address)
+    s.target = lib.duplicate_WString(v.target)
+    s.sessions, s.sessionCount = heap_texts(lib, v.sessions, False)
+    s.blockLength = v.block_length
+    s.stopOnError = v.stop_on_error
+    return address
+
+
+def to_c_CodingStringResult(lib: Any, v: Optional[records.CodingStringResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_CodingStringResult))
+    s = C_CodingStringResult.from_address(address)
+    s.target = lib.duplicate_WString(v.target)
+    s.status = v.status
+    s.identifier = lib.duplicate_WString(v.identifier)
+    s.coding = lib.duplicate_WString(v.coding)
+    s.data, s.dataLength = heap_bytes(lib, v.data)
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
+def to_c_CodingFileResult(lib: Any, v: Optional[records.CodingFileResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_CodingFileResult))
+    s = C_CodingFileResult.from_address(address)
+    s.target = lib.duplicate_WString(v.target)
+    s.status = v.status
+    s.written = lib.duplicate_WString(v.written)
+    s.coding = lib.duplicate_WString(v.coding)
+    s.data, s.dataLength = heap_bytes(lib, v.data)
+    s.verified = v.verified
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
+def to_c_QuickTestResult(lib: Any, v: Optional[records.QuickTestResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_QuickTestResult))
+    s = C_QuickTestResult.from_address(address)
+    s.target = lib.duplicate_WString(v.target)
+    s.status = v.status
+    s.variant = lib.duplicate_WString(v.variant)
+    s.identified = v.identified
+    s.dtcs, s.dtcCount = heap_list(lib, v.dtcs, to_c_DtcResult)
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
+def to_c_EcuConfigurationResult(lib: Any, v: Optional[records.EcuConfigurationResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_EcuConfigurationResult))
+    s = C_EcuConfigurationResult.from_address(address)
+    s.target = lib.duplicate_WString(v.target)
+    s.configuration = lib.duplicate_WString(v.configuration)
+    s.status = v.status
+    s.written = v.written
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
 def start_identifyAllTargetsAsync(lib: Any, api: int, callback: Any) -> tuple[int, Optional[records.KelError]]:
     """kel_identifyAllTargetsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
@@ -2896,6 +3126,36 @@ def start_clearAllDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence
     """kel_clearAllDtcsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
     call_id: int = lib.kel_clearAllDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_executeFlashSessionsAsync(lib: Any, api: int, callback: Any, target: str, sessions: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
+    """kel_executeFlashSessionsAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_executeFlashSessionsAsync(api, target, ctypes.cast((ctypes.c_wchar_p * len(sessions))(*sessions), ctypes.c_void_p), len(sessions), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_readCodingStringsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
+    """kel_readCodingStringsAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_readCodingStringsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_performQuickTestAsync(lib: Any, api: int, callback: Any, targets: Sequence[str], config: Optional[records.DtcReadConfig]) -> tuple[int, Optional[records.KelError]]:
+    """kel_performQuickTestAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_performQuickTestAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), to_c_DtcReadConfig(lib, config), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -2986,6 +3246,16 @@ def start_copyDirectoriesAsync(lib: Any, api: int, callback: Any, config: Option
     return call_id, failure
 
 
+def start_executeFlashSessionsConfigAsync(lib: Any, api: int, callback: Any, config: Optional[records.FlashSessionsConfig]) -> tuple[int, Optional[records.KelError]]:
+    """kel_executeFlashSessionsConfigAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_executeFlashSessionsConfigAsync(api, to_c_FlashSessionsConfig(lib, config), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
 def start_executeServiceInDefaultSessionAsync(lib: Any, api: int, callback: Any, target: str, services: Sequence[Optional[records.ServiceInput]]) -> tuple[int, Optional[records.KelError]]:
     """kel_executeServiceInDefaultSessionAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
@@ -3010,6 +3280,16 @@ def start_copyPathAsync(lib: Any, api: int, callback: Any, config: Optional[reco
     return call_id, failure
 
 
+def start_writeCodingFileAsync(lib: Any, api: int, callback: Any, coding_file: str, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
+    """kel_writeCodingFileAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_writeCodingFileAsync(api, coding_file, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
 def start_executeSequenceAsync(lib: Any, api: int, callback: Any, target: str, sequence: str, parameters: Sequence[Optional[records.ParameterInput]]) -> tuple[int, Optional[records.KelError]]:
     """kel_executeSequenceAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
@@ -3018,6 +3298,16 @@ def start_executeSequenceAsync(lib: Any, api: int, callback: Any, target: str, s
         call_id: int = lib.kel_executeSequenceAsync(api, target, sequence, l_parameters, len(parameters), ctypes.byref(error), callback, None)
     finally:
         lib.release_ParameterInput_array(l_parameters, len(parameters))
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_performEcuConfigurationAsync(lib: Any, api: int, callback: Any, targets: Sequence[str], configuration: str) -> tuple[int, Optional[records.KelError]]:
+    """kel_performEcuConfigurationAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_performEcuConfigurationAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), configuration, ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -3041,6 +3331,9 @@ EXPORTS: dict[str, tuple[Any, list[Any]]] = {
     "kel_readDtcsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_readSupportedDtcsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_clearAllDtcsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_executeFlashSessionsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_readCodingStringsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_performQuickTestAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_scanInterfaceConnectionAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_readMeasurementValuesAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_identifyTargetsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
@@ -3049,9 +3342,12 @@ EXPORTS: dict[str, tuple[Any, list[Any]]] = {
     "kel_detectDynInterfacesExAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_copyFilesAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_copyDirectoriesAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_executeFlashSessionsConfigAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_executeServiceInDefaultSessionAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_copyPathAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_writeCodingFileAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_executeSequenceAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_performEcuConfigurationAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_wchar_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_clearSpecificDtcsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "release_MvciServerError_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_NegativeResponse_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
@@ -3138,4 +3434,11 @@ EXPORTS: dict[str, tuple[Any, list[Any]]] = {
     "release_LogInOutConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_TarnApiServerConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_ServerSettings_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_FlashSessionInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_FlashSessionResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_FlashSessionsConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_CodingStringResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_CodingFileResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_QuickTestResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_EcuConfigurationResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
 }

@@ -419,6 +419,112 @@ class Operations:
             _results.append(_r)
         return _results
 
+    def get_flash_session_infos(self, target: str) -> list[Optional[records.FlashSessionInfo]]:
+        """Lists the flash sessions that one target offers.
+
+        C: kel_getFlashSessionInfos; number 113; engine position 30.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        _b = self._call(113, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.FlashSessionInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_FlashSessionInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def execute_flash_sessions(self, target: str, sessions: Sequence[str] = ()) -> list[Optional[records.FlashSessionResult]]:
+        """Runs the given flash sessions on one target.
+
+        C: kel_executeFlashSessions; number 117; engine position 31.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, target)
+        stream.write_texts(_o, sessions)
+        _b = self._call(117, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.FlashSessionResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_FlashSessionResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def execute_flash_sessions_async(self, target: str, sessions: Sequence[str] = ()) -> AsyncCall:
+        """Runs the given flash sessions on one target.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_executeFlashSessionsAsync; engine position 31.
+        """
+        return self._start(c_records.start_executeFlashSessionsAsync, c_records.from_c_FlashSessionResult, "release_FlashSessionResult_array", target, sessions)
+
+    def read_coding_strings(self, targets: Sequence[str] = ()) -> list[Optional[records.CodingStringResult]]:
+        """Reads the coding strings of the given targets.
+
+        C: kel_readCodingStrings; number 32; engine position 33.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(32, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.CodingStringResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_CodingStringResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def read_coding_strings_async(self, targets: Sequence[str] = ()) -> AsyncCall:
+        """Reads the coding strings of the given targets.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_readCodingStringsAsync; engine position 33.
+        """
+        return self._start(c_records.start_readCodingStringsAsync, c_records.from_c_CodingStringResult, "release_CodingStringResult_array", targets)
+
+    def perform_quick_test(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> list[Optional[records.QuickTestResult]]:
+        """Runs the quick test on the given targets, with the DTC reading options in
+        config.
+
+        C: kel_performQuickTest; number 34; engine position 35.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        stream.write_DtcReadConfig(_o, config)
+        _b = self._call(34, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.QuickTestResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_QuickTestResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def perform_quick_test_async(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> AsyncCall:
+        """Runs the quick test on the given targets, with the DTC reading options in
+        config.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_performQuickTestAsync; engine position 35.
+        """
+        return self._start(c_records.start_performQuickTestAsync, c_records.from_c_QuickTestResult, "release_QuickTestResult_array", targets, config)
+
     def connect_remote_server(self, address: str) -> Engine:
         """Connects to the engine's server at the given address and hands out the
         remote engine object.
@@ -1890,6 +1996,34 @@ class Operations:
         _o = bytearray()
         self._call(194, builtins.bytes(_o))
 
+    def execute_flash_sessions_config(self, config: Optional[records.FlashSessionsConfig] = None) -> list[Optional[records.FlashSessionResult]]:
+        """Runs flash sessions as config says.
+
+        C: kel_executeFlashSessionsConfig; number 195; engine position 166.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_FlashSessionsConfig(_o, config)
+        _b = self._call(195, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.FlashSessionResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_FlashSessionResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def execute_flash_sessions_config_async(self, config: Optional[records.FlashSessionsConfig] = None) -> AsyncCall:
+        """Runs flash sessions as config says.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_executeFlashSessionsConfigAsync; engine position 166.
+        """
+        return self._start(c_records.start_executeFlashSessionsConfigAsync, c_records.from_c_FlashSessionResult, "release_FlashSessionResult_array", config)
+
     def load_database_file(self, files: Sequence[str] = ()) -> list[Optional[records.LoadDatabaseResult]]:
         """Loads the given database files; one result per file.
 
@@ -2418,6 +2552,35 @@ class Operations:
         _b = self._call(249, builtins.bytes(_o))
         return stream.read_texts(_b, 0)[0]
 
+    def write_coding_file(self, coding_file: str, targets: Sequence[str] = ()) -> list[Optional[records.CodingFileResult]]:
+        """Writes a coding file to the given targets.
+
+        C: kel_writeCodingFile; number 251; engine position 221.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, coding_file)
+        stream.write_texts(_o, targets)
+        _b = self._call(251, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.CodingFileResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_CodingFileResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def write_coding_file_async(self, coding_file: str, targets: Sequence[str] = ()) -> AsyncCall:
+        """Writes a coding file to the given targets.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_writeCodingFileAsync; engine position 221.
+        """
+        return self._start(c_records.start_writeCodingFileAsync, c_records.from_c_CodingFileResult, "release_CodingFileResult_array", coding_file, targets)
+
     def get_ecu_order_file_path(self) -> str:
         """Reads the path of the ECU order file.
 
@@ -2496,6 +2659,35 @@ class Operations:
         stream.write_ParameterInfoConfig(_o, config)
         _b = self._call(265, builtins.bytes(_o))
         return stream.read_ParameterInfo(_b, 0)[0]
+
+    def perform_ecu_configuration(self, targets: Sequence[str], configuration: str) -> list[Optional[records.EcuConfigurationResult]]:
+        """Configures the ECUs of the given targets with a configuration.
+
+        C: kel_performEcuConfiguration; number 267; engine position 233.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        stream.write_text(_o, configuration)
+        _b = self._call(267, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.EcuConfigurationResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_EcuConfigurationResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def perform_ecu_configuration_async(self, targets: Sequence[str], configuration: str) -> AsyncCall:
+        """Configures the ECUs of the given targets with a configuration.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_performEcuConfigurationAsync; engine position 233.
+        """
+        return self._start(c_records.start_performEcuConfigurationAsync, c_records.from_c_EcuConfigurationResult, "release_EcuConfigurationResult_array", targets, configuration)
 
     def clear_specific_dtcs(self, target: str, dtc_codes: Sequence[int] = ()) -> list[Optional[records.ClearDtcResult]]:
         """Clears the DTCs with the given codes on one target.

@@ -1591,4 +1591,129 @@ class ServerSettings:
     """1 while the SOVD server runs."""
 
 
-__all__ = ["MvciServerError", "NegativeResponse", "KelError", "NamedItem", "ParameterResult", "ClearDtcResult", "DtcReadConfig", "ReadDtcResult", "DtcResult", "SpecialDataGroup", "VariantIdentResult", "ReadDataResult", "Target", "TargetStatus", "TargetFilter", "ParameterInput", "ServiceInput", "ServiceResult", "ResponseResult", "RequestResult", "UnlockResult", "ServiceInfo", "ResponseInfo", "ParameterInfo", "ConstraintInfo", "ScaleConstraintInfo", "UnitInfo", "ParameterInfoConfig", "KelEvent", "EventReport", "FileFilter", "TargetConfig", "ProjectConfig", "ProjectDetails", "DbFileInfo", "SystemInfo", "SystemProperty", "TarnApiConfig", "ServerConfig", "Oauth2Config", "MoxConfig", "TcpInfo", "StatusInfo", "TransmissionInfo", "ProcessInfo", "ProcessEntry", "ProcessThread", "ProcessMemory", "GlobalProtocolParameterSet", "GlobalProtocolParameter", "LoadDatabaseResult", "InterfaceInformation", "ResourceInformation", "InterfaceInformationItem", "ScanInterfaceResult", "DynInterfaceDetection", "ModuleDyn", "DeviceInfo", "PhysicalLinksOnModule", "PhysicalLink", "InterfaceConfiguration", "InterfaceConfigurationEntry", "InterfaceProvider", "DoIPParameter", "WLanSignalData", "SupportedInterface", "MonitoringItem", "MonitoringItemDetail", "PduMonitoringItem", "PduMonitoringItemDetail", "FileInfo", "DirectoryInfo", "FileCopyResult", "DirectoryCopyResult", "DirectoryCopyItem", "PathCopyResult", "PathCopyItem", "FileReferenceResult", "FileCopyConfig", "DirectoryCopyConfig", "PathCopyConfig", "UserInfo", "LogInOutConfig", "TarnApiServerConfig", "ServerSettings"]
+@dataclasses.dataclass(**_OPTIONS)
+class FlashSessionInfo:
+    """One flash session a target offers: the software it installs and what installing it takes."""
+    name: str = ""
+    """The session's name, as executeFlashSessions takes it."""
+    target: str = ""
+    """The target it flashes."""
+    description: str = ""
+    """What the session installs, for a person."""
+    version: str = ""
+    """The software version the target reports after it."""
+    size: int = 0
+    """The bytes the session downloads into the target."""
+    duration: int = 0
+    """How long it is expected to take, in milliseconds."""
+    level: int = 0
+    """The security level the target must have unlocked."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class FlashSessionResult:
+    """The outcome of one flash session, or how far it has got in an asynchronous report."""
+    name: str = ""
+    """The session's name."""
+    target: str = ""
+    """The target flashed."""
+    status: int = 0
+    """0 flashed, 1 running (a report before the end), 2 failed, 3 not run."""
+    version_before: str = ""
+    """The software version the target reported before the session."""
+    version_after: str = ""
+    """The version it reports now; empty while an update is incomplete."""
+    size: int = 0
+    """The bytes to download."""
+    transferred: int = 0
+    """The bytes downloaded so far."""
+    progress: int = 0
+    """Per cent done, 0 to 100."""
+    duration: int = 0
+    """The milliseconds the session has taken so far."""
+    error: Optional[KelError] = None
+    """Why the session failed or was not run; None when it did not."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class FlashSessionsConfig:
+    """What executeFlashSessionsConfig runs; an input that it consumes."""
+    target: str = ""
+    """The target to flash."""
+    sessions: list[str] = dataclasses.field(default_factory=list)
+    """The sessions to run, by name, in this order."""
+    block_length: int = 0
+    """The largest block to transfer at once in bytes; 0: as large as the target takes."""
+    stop_on_error: bool = False
+    """1: a failed session leaves the later ones not run; 0: they run anyway."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class CodingStringResult:
+    """The coding of one target."""
+    target: str = ""
+    """The target's name."""
+    status: int = 0
+    """0 read, 1 silent ECU, 2 unknown target, 3 refused or not coded."""
+    identifier: str = ""
+    """The data identifier the coding is kept in, as hex digits."""
+    coding: str = ""
+    """The coding as text."""
+    data: builtins.bytes = b""
+    """The coding's raw bytes; None when none were read."""
+    error: Optional[KelError] = None
+    """The error of this target, or None."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class CodingFileResult:
+    """What writing a coding file did to one target."""
+    target: str = ""
+    """The target's name."""
+    status: int = 0
+    """0 written and read back, 1 silent ECU, 2 unknown target, 3 refused or not in the file."""
+    written: str = ""
+    """The coding the file gives for the target, as text."""
+    coding: str = ""
+    """The coding read back after writing, as text."""
+    data: builtins.bytes = b""
+    """The raw bytes read back; None when none were read."""
+    verified: bool = False
+    """1 when what was read back is what was written."""
+    error: Optional[KelError] = None
+    """The error of this target, or None."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class QuickTestResult:
+    """The quick test of one target: its variant and its DTCs, read in one pass."""
+    target: str = ""
+    """The target's name."""
+    status: int = 0
+    """0 tested, 1 silent ECU, 2 unknown target, 3 refused."""
+    variant: str = ""
+    """The variant identified; empty when none was."""
+    identified: bool = False
+    """1 when the variant was identified."""
+    dtcs: list[Optional[DtcResult]] = dataclasses.field(default_factory=list)
+    """The DTCs read, as readDtcs gives them; dtcCount is the target's DTC count."""
+    error: Optional[KelError] = None
+    """The error of this target, or None."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class EcuConfigurationResult:
+    """What applying an ECU configuration did to one target."""
+    target: str = ""
+    """The target's name."""
+    configuration: str = ""
+    """The configuration applied."""
+    status: int = 0
+    """0 applied, 1 silent ECU, 2 unknown target, 3 refused or not part of the configuration."""
+    written: int = 0
+    """The values written to the target."""
+    error: Optional[KelError] = None
+    """The error of this target, or None."""
+
+
+__all__ = ["MvciServerError", "NegativeResponse", "KelError", "NamedItem", "ParameterResult", "ClearDtcResult", "DtcReadConfig", "ReadDtcResult", "DtcResult", "SpecialDataGroup", "VariantIdentResult", "ReadDataResult", "Target", "TargetStatus", "TargetFilter", "ParameterInput", "ServiceInput", "ServiceResult", "ResponseResult", "RequestResult", "UnlockResult", "ServiceInfo", "ResponseInfo", "ParameterInfo", "ConstraintInfo", "ScaleConstraintInfo", "UnitInfo", "ParameterInfoConfig", "KelEvent", "EventReport", "FileFilter", "TargetConfig", "ProjectConfig", "ProjectDetails", "DbFileInfo", "SystemInfo", "SystemProperty", "TarnApiConfig", "ServerConfig", "Oauth2Config", "MoxConfig", "TcpInfo", "StatusInfo", "TransmissionInfo", "ProcessInfo", "ProcessEntry", "ProcessThread", "ProcessMemory", "GlobalProtocolParameterSet", "GlobalProtocolParameter", "LoadDatabaseResult", "InterfaceInformation", "ResourceInformation", "InterfaceInformationItem", "ScanInterfaceResult", "DynInterfaceDetection", "ModuleDyn", "DeviceInfo", "PhysicalLinksOnModule", "PhysicalLink", "InterfaceConfiguration", "InterfaceConfigurationEntry", "InterfaceProvider", "DoIPParameter", "WLanSignalData", "SupportedInterface", "MonitoringItem", "MonitoringItemDetail", "PduMonitoringItem", "PduMonitoringItemDetail", "FileInfo", "DirectoryInfo", "FileCopyResult", "DirectoryCopyResult", "DirectoryCopyItem", "PathCopyResult", "PathCopyItem", "FileReferenceResult", "FileCopyConfig", "DirectoryCopyConfig", "PathCopyConfig", "UserInfo", "LogInOutConfig", "TarnApiServerConfig", "ServerSettings", "FlashSessionInfo", "FlashSessionResult", "FlashSessionsConfig", "CodingStringResult", "CodingFileResult", "QuickTestResult", "EcuConfigurationResult"]

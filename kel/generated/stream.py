@@ -9,7 +9,7 @@ import builtins
 import struct
 from typing import Optional, Sequence
 
-from .records import ClearDtcResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MonitoringItem, MonitoringItemDetail, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PduMonitoringItem, PduMonitoringItemDetail, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UserInfo, VariantIdentResult, WLanSignalData
+from .records import ClearDtcResult, CodingFileResult, CodingStringResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EcuConfigurationResult, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, FlashSessionInfo, FlashSessionResult, FlashSessionsConfig, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MonitoringItem, MonitoringItemDetail, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PduMonitoringItem, PduMonitoringItemDetail, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, QuickTestResult, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UserInfo, VariantIdentResult, WLanSignalData
 
 _U32 = struct.Struct("<I")
 _u32_read = _U32.unpack_from
@@ -120,6 +120,12 @@ _S_H_read = struct.Struct("<H").unpack_from
 _S_H_write = struct.Struct("<H").pack
 _S_bIII_read = struct.Struct("<?III").unpack_from
 _S_bIII_write = struct.Struct("<?III").pack
+_S_QII_read = struct.Struct("<QII").unpack_from
+_S_QII_write = struct.Struct("<QII").pack
+_S_QQII_read = struct.Struct("<QQII").unpack_from
+_S_QQII_write = struct.Struct("<QQII").pack
+_S_iI_read = struct.Struct("<iI").unpack_from
+_S_iI_write = struct.Struct("<iI").pack
 
 
 def read_MvciServerError(b: bytes, p: int) -> tuple[Optional[MvciServerError], int]:
@@ -1979,6 +1985,150 @@ def read_ServerSettings(b: bytes, p: int) -> tuple[Optional[ServerSettings], int
     return ServerSettings(flag=v_flag, value1=v_value1, value2=v_value2, value3=v_value3), p
 
 
+def read_FlashSessionInfo(b: bytes, p: int) -> tuple[Optional[FlashSessionInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_description = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_version = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_size, v_duration, v_level = _S_QII_read(b, p)
+    p += 16
+    return FlashSessionInfo(name=v_name, target=v_target, description=v_description, version=v_version, size=v_size, duration=v_duration, level=v_level), p
+
+
+def read_FlashSessionResult(b: bytes, p: int) -> tuple[Optional[FlashSessionResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_status, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_version_before = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_version_after = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_size, v_transferred, v_progress, v_duration = _S_QQII_read(b, p)
+    p += 24
+    v_error, p = read_KelError(b, p)
+    return FlashSessionResult(name=v_name, target=v_target, status=v_status, version_before=v_version_before, version_after=v_version_after, size=v_size, transferred=v_transferred, progress=v_progress, duration=v_duration, error=v_error), p
+
+
+def read_FlashSessionsConfig(b: bytes, p: int) -> tuple[Optional[FlashSessionsConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_sessions, p = read_texts(b, p)
+    v_block_length, v_stop_on_error = _S_Ib_read(b, p)
+    p += 5
+    return FlashSessionsConfig(target=v_target, sessions=v_sessions, block_length=v_block_length, stop_on_error=v_stop_on_error), p
+
+
+def read_CodingStringResult(b: bytes, p: int) -> tuple[Optional[CodingStringResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_status, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_identifier = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_coding = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_data = b[p + 4 : p + 4 + n]
+    p += 4 + n
+    v_error, p = read_KelError(b, p)
+    return CodingStringResult(target=v_target, status=v_status, identifier=v_identifier, coding=v_coding, data=v_data, error=v_error), p
+
+
+def read_CodingFileResult(b: bytes, p: int) -> tuple[Optional[CodingFileResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_status, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_written = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_coding = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_data = b[p + 4 : p + 4 + n]
+    p += 4 + n
+    v_verified, = _S_b_read(b, p)
+    p += 1
+    v_error, p = read_KelError(b, p)
+    return CodingFileResult(target=v_target, status=v_status, written=v_written, coding=v_coding, data=v_data, verified=v_verified, error=v_error), p
+
+
+def read_QuickTestResult(b: bytes, p: int) -> tuple[Optional[QuickTestResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_status, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_variant = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_identified, = _S_b_read(b, p)
+    p += 1
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_dtcs: list[Optional[DtcResult]] = []
+    for _ in range(n):
+        e_v_dtcs, p = read_DtcResult(b, p)
+        v_dtcs.append(e_v_dtcs)
+    v_error, p = read_KelError(b, p)
+    return QuickTestResult(target=v_target, status=v_status, variant=v_variant, identified=v_identified, dtcs=v_dtcs, error=v_error), p
+
+
+def read_EcuConfigurationResult(b: bytes, p: int) -> tuple[Optional[EcuConfigurationResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_configuration = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_status, v_written = _S_iI_read(b, p)
+    p += 8
+    v_error, p = read_KelError(b, p)
+    return EcuConfigurationResult(target=v_target, configuration=v_configuration, status=v_status, written=v_written, error=v_error), p
+
+
 def read_SupportedDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
     if not b[p]:
         return None, p + 1
@@ -3186,6 +3336,95 @@ def write_ServerSettings(o: bytearray, v: Optional[ServerSettings]) -> None:
         return
     o.append(1)
     o += _S_bIII_write(v.flag, v.value1, v.value2, v.value3)
+
+
+def write_FlashSessionInfo(o: bytearray, v: Optional[FlashSessionInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    write_text(o, v.target)
+    write_text(o, v.description)
+    write_text(o, v.version)
+    o += _S_QII_write(v.size, v.duration, v.level)
+
+
+def write_FlashSessionResult(o: bytearray, v: Optional[FlashSessionResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    write_text(o, v.target)
+    o += _S_i_write(v.status)
+    write_text(o, v.version_before)
+    write_text(o, v.version_after)
+    o += _S_QQII_write(v.size, v.transferred, v.progress, v.duration)
+    write_KelError(o, v.error)
+
+
+def write_FlashSessionsConfig(o: bytearray, v: Optional[FlashSessionsConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.target)
+    write_texts(o, v.sessions)
+    o += _S_Ib_write(v.block_length, v.stop_on_error)
+
+
+def write_CodingStringResult(o: bytearray, v: Optional[CodingStringResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.target)
+    o += _S_i_write(v.status)
+    write_text(o, v.identifier)
+    write_text(o, v.coding)
+    write_bytes(o, v.data)
+    write_KelError(o, v.error)
+
+
+def write_CodingFileResult(o: bytearray, v: Optional[CodingFileResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.target)
+    o += _S_i_write(v.status)
+    write_text(o, v.written)
+    write_text(o, v.coding)
+    write_bytes(o, v.data)
+    o += _S_b_write(v.verified)
+    write_KelError(o, v.error)
+
+
+def write_QuickTestResult(o: bytearray, v: Optional[QuickTestResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.target)
+    o += _S_i_write(v.status)
+    write_text(o, v.variant)
+    o += _S_b_write(v.identified)
+    o += _U32.pack(len(v.dtcs))
+    for e_dtcs in v.dtcs:
+        write_DtcResult(o, e_dtcs)
+    write_KelError(o, v.error)
+
+
+def write_EcuConfigurationResult(o: bytearray, v: Optional[EcuConfigurationResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.target)
+    write_text(o, v.configuration)
+    o += _S_iI_write(v.status, v.written)
+    write_KelError(o, v.error)
 
 
 def write_SupportedDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:

@@ -308,6 +308,34 @@ void release_ServerSettings(ServerSettings* ptr) { kel::release(ptr); }
 void release_ServerSettings_array(ServerSettings** ptr, uint64_t count) {
     kel::releaseArray(ptr, count);
 }
+void release_FlashSessionInfo(FlashSessionInfo* ptr) { kel::release(ptr); }
+void release_FlashSessionInfo_array(FlashSessionInfo** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_FlashSessionResult(FlashSessionResult* ptr) { kel::release(ptr); }
+void release_FlashSessionResult_array(FlashSessionResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_FlashSessionsConfig(FlashSessionsConfig* ptr) { kel::release(ptr); }
+void release_FlashSessionsConfig_array(FlashSessionsConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_CodingStringResult(CodingStringResult* ptr) { kel::release(ptr); }
+void release_CodingStringResult_array(CodingStringResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_CodingFileResult(CodingFileResult* ptr) { kel::release(ptr); }
+void release_CodingFileResult_array(CodingFileResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_QuickTestResult(QuickTestResult* ptr) { kel::release(ptr); }
+void release_QuickTestResult_array(QuickTestResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_EcuConfigurationResult(EcuConfigurationResult* ptr) { kel::release(ptr); }
+void release_EcuConfigurationResult_array(EcuConfigurationResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
 
 void kel_initialize(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->initialize(); });
@@ -476,6 +504,67 @@ void kel_getServiceInfos(TarnApi* api, const wchar_t* text1, const wchar_t* text
                                         kel::in::texts(names, nameCount), value);
         },
         kel::out::records(services, serviceCount));
+}
+void kel_getFlashSessionInfos(TarnApi* api, const wchar_t* target, KelError** error,
+                              FlashSessionInfo*** sessions, uint32_t* sessionCount) {
+    kel::invoke(
+        error, [&] { return api->getFlashSessionInfos(kel::in::text(target)); },
+        kel::out::records(sessions, sessionCount));
+}
+void kel_executeFlashSessions(TarnApi* api, const wchar_t* target, wchar_t** sessions,
+                              uint32_t sessionCount, KelError** error,
+                              FlashSessionResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->executeFlashSessions(kel::in::text(target),
+                                             kel::in::texts(sessions, sessionCount));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_executeFlashSessionsAsync(TarnApi* api, const wchar_t* target, wchar_t** sessions,
+                                       uint32_t sessionCount, KelError** error,
+                                       ExecuteFlashSessionsCallbackFunction callback,
+                                       void* context) {
+    return kel::start<ExecuteFlashSessionsCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->executeFlashSessionsAsync(kel::in::text(target),
+                                                  kel::in::texts(sessions, sessionCount), handler);
+        });
+}
+void kel_readCodingStrings(TarnApi* api, wchar_t** targets, uint32_t targetCount, KelError** error,
+                           CodingStringResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->readCodingStrings(kel::in::texts(targets, targetCount)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_readCodingStringsAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                    KelError** error, ReadCodingStringsCallbackFunction callback,
+                                    void* context) {
+    return kel::start<ReadCodingStringsCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->readCodingStringsAsync(kel::in::texts(targets, targetCount), handler);
+        });
+}
+void kel_performQuickTest(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                          DtcReadConfig* config, KelError** error, QuickTestResult*** results,
+                          uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->performQuickTest(kel::in::texts(targets, targetCount),
+                                         kel::in::record(config));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_performQuickTestAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                   DtcReadConfig* config, KelError** error,
+                                   PerformQuickTestCallbackFunction callback, void* context) {
+    return kel::start<PerformQuickTestCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->performQuickTestAsync(kel::in::texts(targets, targetCount),
+                                              kel::in::record(config), handler);
+        });
 }
 void kel_connectRemoteServer(TarnApi* api, const wchar_t* address, KelError** error,
                              uint64_t* handle) {
@@ -1070,6 +1159,21 @@ void kel_checkUpdateSuccess(TarnApi* api, KelError** error, bool* succeeded) {
 void kel_cleanUpdateTmp(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->cleanUpdateTmp(); });
 }
+void kel_executeFlashSessionsConfig(TarnApi* api, FlashSessionsConfig* config, KelError** error,
+                                    FlashSessionResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->executeFlashSessionsConfig(kel::in::record(config)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_executeFlashSessionsConfigAsync(TarnApi* api, FlashSessionsConfig* config,
+                                             KelError** error,
+                                             ExecuteFlashSessionsConfigCallbackFunction callback,
+                                             void* context) {
+    return kel::start<ExecuteFlashSessionsConfigCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->executeFlashSessionsConfigAsync(kel::in::record(config), handler);
+        });
+}
 void kel_loadDatabaseFile(TarnApi* api, wchar_t** files, uint32_t fileCount, KelError** error,
                           LoadDatabaseResult*** results, uint32_t* resultCount) {
     kel::invoke(
@@ -1294,6 +1398,25 @@ void kel_getCertificateChainById(TarnApi* api, const wchar_t* id, const wchar_t*
         },
         kel::out::texts(chain, chainCount));
 }
+void kel_writeCodingFile(TarnApi* api, const wchar_t* codingFile, wchar_t** targets,
+                         uint32_t targetCount, KelError** error, CodingFileResult*** results,
+                         uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->writeCodingFile(kel::in::text(codingFile),
+                                        kel::in::texts(targets, targetCount));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_writeCodingFileAsync(TarnApi* api, const wchar_t* codingFile, wchar_t** targets,
+                                  uint32_t targetCount, KelError** error,
+                                  WriteCodingFileCallbackFunction callback, void* context) {
+    return kel::start<WriteCodingFileCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->writeCodingFileAsync(kel::in::text(codingFile),
+                                         kel::in::texts(targets, targetCount), handler);
+    });
+}
 void kel_getEcuOrderFilePath(TarnApi* api, KelError** error, wchar_t** path) {
     kel::invoke(
         error, [&] { return api->getEcuOrderFilePath(); }, kel::out::text(path));
@@ -1331,6 +1454,27 @@ void kel_getParameterInfo(TarnApi* api, ParameterInfoConfig* config, KelError** 
     kel::invoke(
         error, [&] { return api->getParameterInfo(kel::in::record(config)); },
         kel::out::record(info));
+}
+void kel_performEcuConfiguration(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                 const wchar_t* configuration, KelError** error,
+                                 EcuConfigurationResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->performEcuConfiguration(kel::in::texts(targets, targetCount),
+                                                kel::in::text(configuration));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_performEcuConfigurationAsync(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                          const wchar_t* configuration, KelError** error,
+                                          PerformEcuConfigurationCallbackFunction callback,
+                                          void* context) {
+    return kel::start<PerformEcuConfigurationCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->performEcuConfigurationAsync(kel::in::texts(targets, targetCount),
+                                                     kel::in::text(configuration), handler);
+        });
 }
 void kel_clearSpecificDtcs(TarnApi* api, const wchar_t* target, const uint32_t* dtcCodes,
                            uint32_t dtcCodeCount, KelError** error, ClearDtcResult*** results,

@@ -42,6 +42,28 @@ class ClearAllDtcsCallbackHandler final
     using Handler::Handler;
 };
 
+class ExecuteFlashSessionsCallbackHandler final
+    : public kel::Handler<ExecuteFlashSessionsCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ExecuteFlashSessionsCallback,
+                          ::FlashSessionResult, Varno::Kel_cpp::FlashSessionResult,
+                          ExecuteFlashSessionsCallbackFunction> {
+    using Handler::Handler;
+};
+
+class ReadCodingStringsCallbackHandler final
+    : public kel::Handler<ReadCodingStringsCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ReadCodingStringsCallback, ::CodingStringResult,
+                          Varno::Kel_cpp::CodingStringResult, ReadCodingStringsCallbackFunction> {
+    using Handler::Handler;
+};
+
+class PerformQuickTestCallbackHandler final
+    : public kel::Handler<PerformQuickTestCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::PerformQuickTestCallback, ::QuickTestResult,
+                          Varno::Kel_cpp::QuickTestResult, PerformQuickTestCallbackFunction> {
+    using Handler::Handler;
+};
+
 class ScanInterfaceConnectionCallbackHandler final
     : public kel::Handler<ScanInterfaceConnectionCallbackHandler,
                           Varno::Kel_cpp::TarnApi::ScanInterfaceConnectionCallback,
@@ -99,6 +121,14 @@ class CopyDirectoriesCallbackHandler final
     using Handler::Handler;
 };
 
+class ExecuteFlashSessionsConfigCallbackHandler final
+    : public kel::Handler<ExecuteFlashSessionsConfigCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::ExecuteFlashSessionsConfigCallback,
+                          ::FlashSessionResult, Varno::Kel_cpp::FlashSessionResult,
+                          ExecuteFlashSessionsConfigCallbackFunction> {
+    using Handler::Handler;
+};
+
 class ExecuteServiceInDefaultSessionCallbackHandler final
     : public kel::Handler<ExecuteServiceInDefaultSessionCallbackHandler,
                           Varno::Kel_cpp::TarnApi::ExecuteServiceInDefaultSessionCallback,
@@ -114,10 +144,25 @@ class CopyPathCallbackHandler final
     using Handler::Handler;
 };
 
+class WriteCodingFileCallbackHandler final
+    : public kel::Handler<WriteCodingFileCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::WriteCodingFileCallback, ::CodingFileResult,
+                          Varno::Kel_cpp::CodingFileResult, WriteCodingFileCallbackFunction> {
+    using Handler::Handler;
+};
+
 class ExecuteSequenceCallbackHandler final
     : public kel::Handler<ExecuteSequenceCallbackHandler,
                           Varno::Kel_cpp::TarnApi::ExecuteSequenceCallback, ::ServiceResult,
                           Varno::Kel_cpp::ServiceResult, ExecuteSequenceCallbackFunction> {
+    using Handler::Handler;
+};
+
+class PerformEcuConfigurationCallbackHandler final
+    : public kel::Handler<PerformEcuConfigurationCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::PerformEcuConfigurationCallback,
+                          ::EcuConfigurationResult, Varno::Kel_cpp::EcuConfigurationResult,
+                          PerformEcuConfigurationCallbackFunction> {
     using Handler::Handler;
 };
 

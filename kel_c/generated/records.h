@@ -1113,6 +1113,101 @@ struct Record<::ServerSettings> {
 };
 
 template <>
+struct Record<::FlashSessionInfo> {
+    using Engine = Varno::Kel_cpp::FlashSessionInfo;
+    static constexpr const char* name = "FlashSessionInfo";
+    static constexpr auto fields =
+        std::make_tuple(field(&::FlashSessionInfo::name, &Engine::name),
+                        field(&::FlashSessionInfo::target, &Engine::target),
+                        field(&::FlashSessionInfo::description, &Engine::description),
+                        field(&::FlashSessionInfo::version, &Engine::version),
+                        field(&::FlashSessionInfo::size, &Engine::size),
+                        field(&::FlashSessionInfo::duration, &Engine::duration),
+                        field(&::FlashSessionInfo::level, &Engine::level));
+};
+
+template <>
+struct Record<::FlashSessionResult> {
+    using Engine = Varno::Kel_cpp::FlashSessionResult;
+    static constexpr const char* name = "FlashSessionResult";
+    static constexpr auto fields =
+        std::make_tuple(field(&::FlashSessionResult::name, &Engine::name),
+                        field(&::FlashSessionResult::target, &Engine::target),
+                        field(&::FlashSessionResult::status, &Engine::status),
+                        field(&::FlashSessionResult::versionBefore, &Engine::versionBefore),
+                        field(&::FlashSessionResult::versionAfter, &Engine::versionAfter),
+                        field(&::FlashSessionResult::size, &Engine::size),
+                        field(&::FlashSessionResult::transferred, &Engine::transferred),
+                        field(&::FlashSessionResult::progress, &Engine::progress),
+                        field(&::FlashSessionResult::duration, &Engine::duration),
+                        field(&::FlashSessionResult::error, &Engine::error));
+};
+
+template <>
+struct Record<::FlashSessionsConfig> {
+    using Engine = Varno::Kel_cpp::FlashSessionsConfig;
+    static constexpr const char* name = "FlashSessionsConfig";
+    static constexpr auto fields =
+        std::make_tuple(field(&::FlashSessionsConfig::target, &Engine::target),
+                        field(&::FlashSessionsConfig::sessions,
+                              &::FlashSessionsConfig::sessionCount, &Engine::sessions),
+                        field(&::FlashSessionsConfig::blockLength, &Engine::blockLength),
+                        field(&::FlashSessionsConfig::stopOnError, &Engine::stopOnError));
+};
+
+template <>
+struct Record<::CodingStringResult> {
+    using Engine = Varno::Kel_cpp::CodingStringResult;
+    static constexpr const char* name = "CodingStringResult";
+    static constexpr auto fields = std::make_tuple(
+        field(&::CodingStringResult::target, &Engine::target),
+        field(&::CodingStringResult::status, &Engine::status),
+        field(&::CodingStringResult::identifier, &Engine::identifier),
+        field(&::CodingStringResult::coding, &Engine::coding),
+        field(&::CodingStringResult::data, &::CodingStringResult::dataLength, &Engine::data),
+        field(&::CodingStringResult::error, &Engine::error));
+};
+
+template <>
+struct Record<::CodingFileResult> {
+    using Engine = Varno::Kel_cpp::CodingFileResult;
+    static constexpr const char* name = "CodingFileResult";
+    static constexpr auto fields = std::make_tuple(
+        field(&::CodingFileResult::target, &Engine::target),
+        field(&::CodingFileResult::status, &Engine::status),
+        field(&::CodingFileResult::written, &Engine::written),
+        field(&::CodingFileResult::coding, &Engine::coding),
+        field(&::CodingFileResult::data, &::CodingFileResult::dataLength, &Engine::data),
+        field(&::CodingFileResult::verified, &Engine::verified),
+        field(&::CodingFileResult::error, &Engine::error));
+};
+
+template <>
+struct Record<::QuickTestResult> {
+    using Engine = Varno::Kel_cpp::QuickTestResult;
+    static constexpr const char* name = "QuickTestResult";
+    static constexpr auto fields = std::make_tuple(
+        field(&::QuickTestResult::target, &Engine::target),
+        field(&::QuickTestResult::status, &Engine::status),
+        field(&::QuickTestResult::variant, &Engine::variant),
+        field(&::QuickTestResult::identified, &Engine::identified),
+        field(&::QuickTestResult::dtcs, &::QuickTestResult::dtcCount, &Engine::dtcs),
+        field(&::QuickTestResult::error, &Engine::error));
+};
+
+template <>
+struct Record<::EcuConfigurationResult> {
+    using Engine = Varno::Kel_cpp::EcuConfigurationResult;
+    static constexpr const char* name = "EcuConfigurationResult";
+    static constexpr auto fields =
+        std::make_tuple(field(&::EcuConfigurationResult::target, &Engine::target),
+                        field(&::EcuConfigurationResult::configuration, &Engine::configuration),
+                        field(&::EcuConfigurationResult::status, &Engine::status),
+                        field(&::EcuConfigurationResult::written, &Engine::written),
+                        field(&::EcuConfigurationResult::error, &Engine::error));
+};
+
+template <>
 struct Alias<::ReadDtcResult, Varno::Kel_cpp::SupportedDtcResult> {
     using Engine = Varno::Kel_cpp::SupportedDtcResult;
     static constexpr auto fields =

@@ -323,6 +323,32 @@ std::vector<std::shared_ptr<VariantIdentResult>> identify(Bus& bus, const Names&
         });
 }
 
+std::vector<std::shared_ptr<QuickTestResult>> quickTest(Bus& bus, const Names& targets,
+                                                        const DtcReadConfig* config) {
+    std::vector<std::shared_ptr<QuickTestResult>> out;
+    for (const auto& [name, ecu] : select(bus.ecus, targets)) {
+        auto r = std::make_shared<QuickTestResult>();
+        r->target = name;
+        const auto variant = identify(bus, {name}).front();
+        r->status = variant->status;
+        r->error = variant->error;
+        r->variant = variant->variant;
+        r->identified = variant->status == 0 && !variant->error;
+        if (variant->status == 0) {
+            const auto dtcs = readDtcs(bus, {name}, config).front();
+            r->dtcs = dtcs->dtcs;
+            if (dtcs->error) {
+                r->status = dtcs->status != 0 ? dtcs->status : 3;
+                r->error = dtcs->error;
+            } else if (variant->error) {
+                r->status = 3;
+            }
+        }
+        out.push_back(std::move(r));
+    }
+    return out;
+}
+
 std::vector<std::shared_ptr<ReadDataResult>> identification(Bus& bus, const Names& targets) {
     return perTarget<ReadDataResult>(select(bus.ecus, targets), [&](ReadDataResult& r, Ecu& ecu) {
         r.text = ecu.variant;

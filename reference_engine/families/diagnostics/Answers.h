@@ -35,6 +35,10 @@ std::vector<std::shared_ptr<ClearDtcResult>> clearAll(Bus& bus, const Names& tar
 std::vector<std::shared_ptr<ClearDtcResult>> clearSpecific(Bus& bus, const std::wstring& target,
                                                            const std::vector<uint32_t>& codes,
                                                            int32_t& cleared);
+// Identifies each target and reads its DTCs in one pass; a silent or unknown target is
+// not asked for DTCs.
+std::vector<std::shared_ptr<QuickTestResult>> quickTest(Bus& bus, const Names& targets,
+                                                        const DtcReadConfig* config);
 std::vector<std::shared_ptr<Target>> targets(const std::vector<Ecu>& ecus, const Filters& filters);
 std::vector<std::shared_ptr<TargetStatus>> status(const std::vector<Ecu>& ecus,
                                                   const Names& targets);

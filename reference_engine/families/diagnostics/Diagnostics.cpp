@@ -169,6 +169,24 @@ uint64_t Diagnostics::clearAllDtcsAsync(const std::vector<std::wstring>& targets
     });
 }
 
+std::vector<std::shared_ptr<QuickTestResult>>
+Diagnostics::performQuickTest(const std::vector<std::wstring>& targets,
+                              std::shared_ptr<DtcReadConfig> config) {
+    return connected()->talk(
+        [&](Bus& bus) { return Answers::quickTest(bus, targets, config.get()); });
+}
+
+uint64_t Diagnostics::performQuickTestAsync(const std::vector<std::wstring>& targets,
+                                            std::shared_ptr<DtcReadConfig> config,
+                                            PerformQuickTestCallback* callback) {
+    return vehicle_->async.start("performQuickTestAsync", callback,
+                                 [units = connected(), targets, config] {
+                                     return units->talk([&](Bus& bus) {
+                                         return Answers::quickTest(bus, targets, config.get());
+                                     });
+                                 });
+}
+
 std::vector<std::shared_ptr<VariantIdentResult>>
 Diagnostics::identifyTargets(const std::vector<std::wstring>& targets) {
     return connected()->talk([&](Bus& bus) { return Answers::identify(bus, targets); });

@@ -81,6 +81,12 @@ public:
                                     const std::vector<uint32_t>& dtcCodes,
                                     ClearSpecificDtcsCallback* callback) override;
     std::vector<std::shared_ptr<Target>> getTargets() override;
+    std::vector<std::shared_ptr<QuickTestResult>>
+    performQuickTest(const std::vector<std::wstring>& targets,
+                     std::shared_ptr<DtcReadConfig> config) override;
+    uint64_t performQuickTestAsync(const std::vector<std::wstring>& targets,
+                                   std::shared_ptr<DtcReadConfig> config,
+                                   PerformQuickTestCallback* callback) override;
     std::vector<std::shared_ptr<TargetFilter>> getSessionTargetFilters() override;
     void
     setSessionTargetFilters(const std::vector<std::shared_ptr<TargetFilter>>& filters) override;

@@ -178,6 +178,20 @@ inline void describe(Out& o, const TarnApiServerConfig& r);
 inline void build(const Json& j, TarnApiServerConfig& r);
 inline void describe(Out& o, const ServerSettings& r);
 inline void build(const Json& j, ServerSettings& r);
+inline void describe(Out& o, const FlashSessionInfo& r);
+inline void build(const Json& j, FlashSessionInfo& r);
+inline void describe(Out& o, const FlashSessionResult& r);
+inline void build(const Json& j, FlashSessionResult& r);
+inline void describe(Out& o, const FlashSessionsConfig& r);
+inline void build(const Json& j, FlashSessionsConfig& r);
+inline void describe(Out& o, const CodingStringResult& r);
+inline void build(const Json& j, CodingStringResult& r);
+inline void describe(Out& o, const CodingFileResult& r);
+inline void build(const Json& j, CodingFileResult& r);
+inline void describe(Out& o, const QuickTestResult& r);
+inline void build(const Json& j, QuickTestResult& r);
+inline void describe(Out& o, const EcuConfigurationResult& r);
+inline void build(const Json& j, EcuConfigurationResult& r);
 
 inline void describe(Out& o, const MvciServerError& r) {
     o.member("code", r.code);
@@ -1919,6 +1933,149 @@ inline void build(const Json& j, ServerSettings& r) {
     set(j.at("value1"), r.value1);
     set(j.at("value2"), r.value2);
     set(j.at("value3"), r.value3);
+}
+
+inline void describe(Out& o, const FlashSessionInfo& r) {
+    o.member("name", r.name);
+    o.member("target", r.target);
+    o.member("description", r.description);
+    o.member("version", r.version);
+    o.member("size", r.size);
+    o.member("duration", r.duration);
+    o.member("level", r.level);
+    o.end();
+}
+
+inline void build(const Json& j, FlashSessionInfo& r) {
+    set(j.at("name"), r.name);
+    set(j.at("target"), r.target);
+    set(j.at("description"), r.description);
+    set(j.at("version"), r.version);
+    set(j.at("size"), r.size);
+    set(j.at("duration"), r.duration);
+    set(j.at("level"), r.level);
+}
+
+inline void describe(Out& o, const FlashSessionResult& r) {
+    o.member("name", r.name);
+    o.member("target", r.target);
+    o.member("status", r.status);
+    o.member("versionBefore", r.versionBefore);
+    o.member("versionAfter", r.versionAfter);
+    o.member("size", r.size);
+    o.member("transferred", r.transferred);
+    o.member("progress", r.progress);
+    o.member("duration", r.duration);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, FlashSessionResult& r) {
+    set(j.at("name"), r.name);
+    set(j.at("target"), r.target);
+    set(j.at("status"), r.status);
+    set(j.at("versionBefore"), r.versionBefore);
+    set(j.at("versionAfter"), r.versionAfter);
+    set(j.at("size"), r.size);
+    set(j.at("transferred"), r.transferred);
+    set(j.at("progress"), r.progress);
+    set(j.at("duration"), r.duration);
+    set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const FlashSessionsConfig& r) {
+    o.member("target", r.target);
+    o.member("sessions", r.sessions, r.sessionCount);
+    o.member("sessionCount", r.sessionCount);
+    o.member("blockLength", r.blockLength);
+    o.member("stopOnError", r.stopOnError);
+    o.end();
+}
+
+inline void build(const Json& j, FlashSessionsConfig& r) {
+    set(j.at("target"), r.target);
+    set(j.at("sessions"), r.sessions, r.sessionCount);
+    set(j.at("blockLength"), r.blockLength);
+    set(j.at("stopOnError"), r.stopOnError);
+}
+
+inline void describe(Out& o, const CodingStringResult& r) {
+    o.member("target", r.target);
+    o.member("status", r.status);
+    o.member("identifier", r.identifier);
+    o.member("coding", r.coding);
+    o.member("data", r.data, r.dataLength);
+    o.member("dataLength", r.dataLength);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, CodingStringResult& r) {
+    set(j.at("target"), r.target);
+    set(j.at("status"), r.status);
+    set(j.at("identifier"), r.identifier);
+    set(j.at("coding"), r.coding);
+    set(j.at("data"), r.data, r.dataLength);
+    set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const CodingFileResult& r) {
+    o.member("target", r.target);
+    o.member("status", r.status);
+    o.member("written", r.written);
+    o.member("coding", r.coding);
+    o.member("data", r.data, r.dataLength);
+    o.member("dataLength", r.dataLength);
+    o.member("verified", r.verified);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, CodingFileResult& r) {
+    set(j.at("target"), r.target);
+    set(j.at("status"), r.status);
+    set(j.at("written"), r.written);
+    set(j.at("coding"), r.coding);
+    set(j.at("data"), r.data, r.dataLength);
+    set(j.at("verified"), r.verified);
+    set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const QuickTestResult& r) {
+    o.member("target", r.target);
+    o.member("status", r.status);
+    o.member("variant", r.variant);
+    o.member("identified", r.identified);
+    o.member("dtcs", r.dtcs, r.dtcCount);
+    o.member("dtcCount", r.dtcCount);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, QuickTestResult& r) {
+    set(j.at("target"), r.target);
+    set(j.at("status"), r.status);
+    set(j.at("variant"), r.variant);
+    set(j.at("identified"), r.identified);
+    set(j.at("dtcs"), r.dtcs, r.dtcCount);
+    set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const EcuConfigurationResult& r) {
+    o.member("target", r.target);
+    o.member("configuration", r.configuration);
+    o.member("status", r.status);
+    o.member("written", r.written);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, EcuConfigurationResult& r) {
+    set(j.at("target"), r.target);
+    set(j.at("configuration"), r.configuration);
+    set(j.at("status"), r.status);
+    set(j.at("written"), r.written);
+    set(j.at("error"), r.error);
 }
 
 // The scripted engine failures and what each must give.

@@ -1,0 +1,267 @@
+// Coding the default vehicle's body control module (BCM): reading its coding, writing a
+// coding file from the public directories, applying the description's ECU
+// configurations, each under the unit's own access rules; and checksums of files.
+#include "support.h"
+
+#include <cstring>
+#include <string>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::List;
+
+using Codings = List<CodingStringResult, release_CodingStringResult_array>;
+using FileResults = List<CodingFileResult, release_CodingFileResult_array>;
+using Configured = List<EcuConfigurationResult, release_EcuConfigurationResult_array>;
+using Bytes = std::vector<uint8_t>;
+
+class CodingTest : public EngineTest {
+protected:
+    void write(const wchar_t* path, const std::string& text) {
+        ErrorSlot error;
+        uint32_t written = 0;
+        kel_writeFile(api, path, reinterpret_cast<const uint8_t*>(text.data()),
+                      static_cast<uint32_t>(text.size()), 0, 1, &error, &written);
+        ASSERT_FALSE(error) << (error ? error->code : 0);
+    }
+    // The vehicle unlock of the BCM: extended session, level 1, which its coding needs.
+    void unlockBcm() {
+        ErrorSlot error;
+        UnlockResult* result = nullptr;
+        kel_unlockVehicle(api, L"BCM", nullptr, 0, &error, &result);
+        ASSERT_FALSE(error);
+        ASSERT_NE(result, nullptr);
+        EXPECT_NE(result->value, 0U);
+        release_UnlockResult(result);
+    }
+    std::wstring readCoding() {
+        const wchar_t* targets[] = {L"BCM"};
+        ErrorSlot error;
+        Codings out;
+        kel_readCodingStrings(api, const_cast<wchar_t**>(targets), 1, &error, &out.items,
+                              &out.count);
+        EXPECT_FALSE(error);
+        return out.count == 1 && out.items[0]->coding != nullptr ? out.items[0]->coding : L"<none>";
+    }
+    // A data identifier's value as readDataByIdentifiers decodes it.
+    std::wstring readValue(const wchar_t* identifier) {
+        const wchar_t* ids[] = {identifier};
+        ErrorSlot error;
+        List<ReadDataResult, release_ReadDataResult_array> out;
+        kel_readDataByIdentifiers(api, L"BCM", const_cast<wchar_t**>(ids), 1, &error, &out.items,
+                                  &out.count);
+        EXPECT_FALSE(error);
+        if (out.count != 1 || out.items[0]->parameterCount != 1) {
+            return L"<none>";
+        }
+        return out.items[0]->parameters[0]->text1;
+    }
+    std::unique_ptr<FileResults> writeFile(const wchar_t* path,
+                                           std::vector<const wchar_t*> targets = {}) {
+        auto out = std::make_unique<FileResults>();
+        ErrorSlot error;
+        kel_writeCodingFile(api, path, const_cast<wchar_t**>(targets.data()),
+                            static_cast<uint32_t>(targets.size()), &error, &out->items,
+                            &out->count);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        return out;
+    }
+    std::unique_ptr<Configured> configure(const wchar_t* configuration,
+                                          std::vector<const wchar_t*> targets = {}) {
+        auto out = std::make_unique<Configured>();
+        ErrorSlot error;
+        kel_performEcuConfiguration(api, const_cast<wchar_t**>(targets.data()),
+                                    static_cast<uint32_t>(targets.size()), configuration, &error,
+                                    &out->items, &out->count);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        return out;
+    }
+    std::wstring checksum(const wchar_t* path, int32_t algorithm, int32_t* code = nullptr) {
+        ErrorSlot error;
+        wchar_t* text = nullptr;
+        kel_calculateChecksum(api, path, algorithm, &error, &text);
+        if (code != nullptr) {
+            *code = error ? error->code : 0;
+        } else {
+            EXPECT_FALSE(error) << (error ? error->code : 0);
+        }
+        std::wstring out = text != nullptr ? text : L"<error>";
+        release_Memory(text);
+        return out;
+    }
+};
+
+TEST_F(CodingTest, CodingsAreReadPerTargetWithTextBytesAndErrors) {
+    ErrorSlot error;
+    Codings all;
+    kel_readCodingStrings(api, nullptr, 0, &error, &all.items, &all.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(all.count, 1U) << "every coded unit: the BCM";
+    const CodingStringResult& bcm = *all.items[0];
+    EXPECT_STREQ(bcm.target, L"BCM");
+    EXPECT_EQ(bcm.status, 0);
+    EXPECT_STREQ(bcm.identifier, L"0600");
+    EXPECT_STREQ(bcm.coding, L"01A2003C");
+    ASSERT_EQ(bcm.dataLength, 4U);
+    EXPECT_EQ(Bytes(bcm.data, bcm.data + 4), (Bytes{0x01, 0xA2, 0x00, 0x3C}));
+    EXPECT_EQ(bcm.error, nullptr);
+
+    const wchar_t* names[] = {L"ECM", L"Nope", L"ACC", L"BCM"};
+    Codings some;
+    kel_readCodingStrings(api, const_cast<wchar_t**>(names), 4, &error, &some.items, &some.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(some.count, 4U);
+    EXPECT_EQ(some.items[0]->status, 3);
+    EXPECT_EQ(some.items[0]->error->code, 1800);
+    EXPECT_EQ(some.items[1]->status, 2);
+    EXPECT_EQ(some.items[1]->error->code, 1011);
+    EXPECT_EQ(some.items[2]->status, 3) << "the ACC keeps no coding either";
+    EXPECT_EQ(some.items[3]->status, 0);
+}
+
+TEST_F(CodingTest, ACodingFileIsWrittenByServiceAndReadBack) {
+    write(L"exchange/coding/bcm.txt", "# new coding after a repair\n"
+                                      "\n"
+                                      "  BCM = 02 B3 00 7F  \r\n");
+    // The default session does not allow the write: the unit's negative response.
+    auto refused = writeFile(L"exchange/coding/bcm.txt");
+    ASSERT_EQ(refused->count, 1U);
+    EXPECT_EQ(refused->items[0]->status, 3);
+    ASSERT_NE(refused->items[0]->error, nullptr);
+    EXPECT_EQ(refused->items[0]->error->code, 1806);
+    ASSERT_NE(refused->items[0]->error->negativeResponse, nullptr);
+    EXPECT_EQ(refused->items[0]->error->negativeResponse->code, 0x7F);
+    EXPECT_EQ(readCoding(), L"01A2003C");
+
+    unlockBcm();
+    auto out = writeFile(L"exchange\\coding\\bcm.txt", {L"BCM"});
+    ASSERT_EQ(out->count, 1U);
+    const CodingFileResult& r = *out->items[0];
+    EXPECT_EQ(r.status, 0);
+    EXPECT_EQ(r.error, nullptr);
+    EXPECT_STREQ(r.written, L"02 B3 00 7F");
+    EXPECT_STREQ(r.coding, L"02B3007F");
+    EXPECT_EQ(r.verified, 1);
+    EXPECT_EQ(Bytes(r.data, r.data + r.dataLength), (Bytes{0x02, 0xB3, 0x00, 0x7F}));
+    EXPECT_EQ(readCoding(), L"02B3007F");
+}
+
+TEST_F(CodingTest, EachTargetOfACodingFileGetsItsOwnError) {
+    unlockBcm();
+    write(L"exchange/mixed.txt", "BCM = 0102\nECM = 00\nGhost = 01\n");
+    auto fromFile = writeFile(L"exchange/mixed.txt");
+    ASSERT_EQ(fromFile->count, 3U) << "the file's targets, in its order";
+    EXPECT_EQ(fromFile->items[0]->status, 3);
+    EXPECT_EQ(fromFile->items[0]->error->code, 1807) << "two bytes where the unit keeps four";
+    EXPECT_EQ(fromFile->items[1]->error->code, 1800);
+    EXPECT_EQ(fromFile->items[2]->status, 2);
+    EXPECT_EQ(fromFile->items[2]->error->code, 1011);
+
+    write(L"exchange/nothex.txt", "BCM = not hex\n");
+    auto bad = writeFile(L"exchange/nothex.txt", {L"BCM", L"TCM"});
+    ASSERT_EQ(bad->count, 2U);
+    EXPECT_EQ(bad->items[0]->error->code, 1807);
+    EXPECT_EQ(bad->items[1]->error->code, 1801) << "the file does not code the TCM";
+    EXPECT_EQ(readCoding(), L"01A2003C");
+}
+
+TEST_F(CodingTest, AFileThatIsNoCodingFileOrLiesOutsideIsRefusedWhole) {
+    const auto code = [&](const wchar_t* path) {
+        ErrorSlot error;
+        FileResults out;
+        kel_writeCodingFile(api, path, nullptr, 0, &error, &out.items, &out.count);
+        EXPECT_EQ(out.items, nullptr);
+        return error ? error->code : 0;
+    };
+    write(L"exchange/noequals.txt", "BCM 01A2003C\n");
+    write(L"exchange/twice.txt", "BCM = 01A2003C\nBCM = 01A2003D\n");
+    EXPECT_EQ(code(L"exchange/noequals.txt"), 1802);
+    EXPECT_EQ(code(L"exchange/twice.txt"), 1802);
+    EXPECT_EQ(code(L"exchange/missing.txt"), 1609);
+    EXPECT_EQ(code(L"exchange"), 1611);
+    EXPECT_EQ(code(L"exchange/../../outside.txt"), 1606);
+    EXPECT_EQ(code(L"/etc/passwd"), 1604);
+}
+
+TEST_F(CodingTest, EcuConfigurationsWriteTheirValuesWithPerTargetErrors) {
+    // Locked: refused by the unit, nothing written.
+    auto locked = configure(L"TrailerHitch");
+    ASSERT_EQ(locked->count, 1U);
+    EXPECT_EQ(locked->items[0]->status, 3);
+    EXPECT_EQ(locked->items[0]->written, 0U);
+    EXPECT_EQ(locked->items[0]->error->code, 1806);
+    EXPECT_EQ(readValue(L"0610"), L"Absent");
+
+    unlockBcm();
+    auto out = configure(L"TrailerHitch", {L"ECM", L"BCM", L"Nope"});
+    ASSERT_EQ(out->count, 3U);
+    EXPECT_STREQ(out->items[0]->target, L"ECM");
+    EXPECT_STREQ(out->items[0]->configuration, L"TrailerHitch");
+    EXPECT_EQ(out->items[0]->status, 3);
+    EXPECT_EQ(out->items[0]->error->code, 1805);
+    EXPECT_EQ(out->items[1]->status, 0);
+    EXPECT_EQ(out->items[1]->written, 1U);
+    EXPECT_EQ(out->items[1]->error, nullptr);
+    EXPECT_EQ(out->items[2]->status, 2);
+    EXPECT_EQ(out->items[2]->error->code, 1011);
+    EXPECT_EQ(readValue(L"0610"), L"Present");
+
+    // Two values, one of them the coding itself.
+    auto nordic = configure(L"NordicLights");
+    ASSERT_EQ(nordic->count, 1U);
+    EXPECT_EQ(nordic->items[0]->written, 2U);
+    EXPECT_EQ(readCoding(), L"01A2003D");
+
+    ErrorSlot error;
+    Configured none;
+    kel_performEcuConfiguration(api, nullptr, 0, L"NoSuchConfiguration", &error, &none.items,
+                                &none.count);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1804);
+}
+
+TEST_F(CodingTest, ChecksumsMatchThePublishedCheckValues) {
+    write(L"exchange/check.txt", "123456789");
+    EXPECT_EQ(checksum(L"exchange/check.txt", 1), L"CBF43926"); // CRC-32/ISO-HDLC
+    EXPECT_EQ(checksum(L"exchange/check.txt", 2), L"29B1");     // CRC-16/CCITT-FALSE
+    EXPECT_EQ(checksum(L"exchange/check.txt", 3), L"31C3");     // CRC-16/XMODEM
+    EXPECT_EQ(checksum(L"exchange/check.txt", 4), L"091E01DE"); // Adler-32
+
+    write(L"exchange/empty.txt", "");
+    EXPECT_EQ(checksum(L"exchange/empty.txt", 1), L"00000000");
+    EXPECT_EQ(checksum(L"exchange/empty.txt", 2), L"FFFF");
+    EXPECT_EQ(checksum(L"exchange/empty.txt", 3), L"0000");
+    EXPECT_EQ(checksum(L"exchange/empty.txt", 4), L"00000001");
+}
+
+TEST_F(CodingTest, ChecksumsOfFilesLargerThanOneReadAgreeWithAnIndependentCalculation) {
+    // 200000 bytes of i % 251: more than three reads, and Adler-32's sums wrap many times.
+    // Expected values from zlib's crc32/adler32 and binascii.crc_hqx.
+    std::string data(200000, '\0');
+    for (std::size_t i = 0; i < data.size(); ++i) {
+        data[i] = static_cast<char>(i % 251);
+    }
+    write(L"exchange/large.bin", data);
+    EXPECT_EQ(checksum(L"exchange/large.bin", 1), L"A745C145");
+    EXPECT_EQ(checksum(L"exchange/large.bin", 2), L"4346");
+    EXPECT_EQ(checksum(L"exchange/large.bin", 3), L"2255");
+    EXPECT_EQ(checksum(L"exchange/large.bin", 4), L"49A07BDA");
+}
+
+TEST_F(CodingTest, ChecksumRefusesUnknownAlgorithmsAndPathsOutside) {
+    write(L"exchange/check.txt", "123456789");
+    int32_t code = 0;
+    checksum(L"exchange/check.txt", 0, &code);
+    EXPECT_EQ(code, 1803);
+    checksum(L"exchange/check.txt", 5, &code);
+    EXPECT_EQ(code, 1803);
+    checksum(L"exchange/none.txt", 1, &code);
+    EXPECT_EQ(code, 1609);
+    checksum(L"../check.txt", 1, &code);
+    EXPECT_EQ(code, 1606);
+}
+
+} // namespace

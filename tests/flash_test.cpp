@@ -1,0 +1,516 @@
+// Flashing the default vehicle's engine control module (ECM) as a workshop does it: the
+// programming session and security level first, then the download, the new version as
+// identification reads it; a cancelled or rejected download leaves the unit with an
+// incomplete update that a new flash repairs. Also the quick test, which reads every
+// unit's variant and DTCs in one pass.
+#include "support.h"
+
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <cstring>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::List;
+using namespace std::chrono_literals;
+
+using Bytes = std::vector<uint8_t>;
+using Results = List<FlashSessionResult, release_FlashSessionResult_array>;
+using Infos = List<FlashSessionInfo, release_FlashSessionInfo_array>;
+using QuickTests = List<QuickTestResult, release_QuickTestResult_array>;
+
+constexpr uint32_t programmingMask = 0xC3A5179E; // the ECM's level 2 in the default vehicle
+
+// The documented key algorithm, written out again: key = rotate_left_32(seed ^ mask, 3).
+Bytes keyFor(const Bytes& seed, uint32_t mask) {
+    uint32_t s = 0;
+    for (int i = 0; i < 4; ++i) {
+        s = s << 8 | seed[static_cast<std::size_t>(i)];
+    }
+    const uint32_t x = s ^ mask;
+    const uint32_t k = x << 3 | x >> 29;
+    return {static_cast<uint8_t>(k >> 24), static_cast<uint8_t>(k >> 16),
+            static_cast<uint8_t>(k >> 8), static_cast<uint8_t>(k)};
+}
+
+class FlashTest : public EngineTest {
+protected:
+    // Sends raw request bytes to a unit; its response bytes, empty when it stayed silent.
+    Bytes send(const wchar_t* target, const Bytes& request) {
+        auto* input = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
+        std::memset(input, 0, sizeof *input);
+        input->service = duplicate_WString(L"");
+        input->data = static_cast<uint8_t*>(allocate_Memory(request.size()));
+        std::memcpy(input->data, request.data(), request.size());
+        input->dataLength = static_cast<uint32_t>(request.size());
+        ErrorSlot error;
+        List<ServiceResult, release_ServiceResult_array> out;
+        kel_executeService(api, target, &input, 1, &error, &out.items, &out.count);
+        release_ServiceInput(input);
+        EXPECT_FALSE(error);
+        if (out.count == 0 || out.items[0]->responseCount == 0) {
+            return {};
+        }
+        const ResponseResult& r = *out.items[0]->responses[0];
+        return r.data == nullptr ? Bytes{} : Bytes(r.data, r.data + r.dataLength);
+    }
+
+    // The ECM in its programming session with level 2 unlocked, as a flash needs it.
+    void enterProgramming() {
+        ASSERT_EQ(send(L"ECM", {0x10, 0x02}).at(0), 0x50);
+        const auto seed = send(L"ECM", {0x27, 0x03});
+        ASSERT_EQ(seed.size(), 6U);
+        if (std::all_of(seed.begin() + 2, seed.end(), [](uint8_t b) { return b == 0; })) {
+            return; // still unlocked
+        }
+        Bytes key = {0x27, 0x04};
+        const auto computed = keyFor(Bytes(seed.begin() + 2, seed.end()), programmingMask);
+        key.insert(key.end(), computed.begin(), computed.end());
+        ASSERT_EQ(send(L"ECM", key), (Bytes{0x67, 0x04}));
+    }
+
+    std::unique_ptr<Results> flash(std::vector<const wchar_t*> sessions,
+                                   const wchar_t* target = L"ECM") {
+        auto out = std::make_unique<Results>();
+        ErrorSlot error;
+        kel_executeFlashSessions(api, target, const_cast<wchar_t**>(sessions.data()),
+                                 static_cast<uint32_t>(sessions.size()), &error, &out->items,
+                                 &out->count);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        EXPECT_EQ(out->count, sessions.size()) << "one result per session";
+        return out;
+    }
+
+    // The software version as identification reads it from the unit (F189).
+    std::wstring identifiedVersion() {
+        const wchar_t* targets[] = {L"ECM"};
+        ErrorSlot error;
+        List<ReadDataResult, release_ReadDataResult_array> out;
+        kel_readIdentificationValues(api, const_cast<wchar_t**>(targets), 1, &error, &out.items,
+                                     &out.count);
+        EXPECT_FALSE(error);
+        for (uint32_t i = 0; out.count == 1 && i < out.items[0]->parameterCount; ++i) {
+            const ParameterResult& p = *out.items[0]->parameters[i];
+            if (std::wstring(p.itemText2) == L"F189") {
+                return p.text1;
+            }
+        }
+        return L"<no F189>";
+    }
+
+    bool programmingDtcStored() {
+        const wchar_t* targets[] = {L"ECM"};
+        ErrorSlot error;
+        List<ReadDtcResult, release_ReadDtcResult_array> out;
+        kel_readDtcs(api, const_cast<wchar_t**>(targets), 1, nullptr, &error, &out.items,
+                     &out.count);
+        EXPECT_FALSE(error);
+        for (uint32_t i = 0; out.count == 1 && i < out.items[0]->dtcCount; ++i) {
+            if (std::wstring(out.items[0]->dtcs[i]->text1) == L"P0602") {
+                return true;
+            }
+        }
+        return false;
+    }
+};
+
+TEST_F(FlashTest, SessionsAreListedFromTheDescription) {
+    ErrorSlot error;
+    Infos ecm;
+    kel_getFlashSessionInfos(api, L"ECM", &error, &ecm.items, &ecm.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(ecm.count, 2U);
+    const FlashSessionInfo& first = *ecm.items[0];
+    EXPECT_STREQ(first.name, L"ECM_SW_5430");
+    EXPECT_STREQ(first.target, L"ECM");
+    EXPECT_STREQ(first.version, L"5430");
+    EXPECT_EQ(first.size, 65536U);
+    EXPECT_EQ(first.duration, 45000U);
+    EXPECT_EQ(first.level, 2U);
+    EXPECT_STREQ(ecm.items[1]->name, L"ECM_SW_5431");
+
+    Infos tcm;
+    kel_getFlashSessionInfos(api, L"TCM", &error, &tcm.items, &tcm.count);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(tcm.count, 0U) << "a unit without programming offers nothing to flash";
+
+    Infos none;
+    kel_getFlashSessionInfos(api, L"NoSuchUnit", &error, &none.items, &none.count);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1011);
+}
+
+TEST_F(FlashTest, WithoutProgrammingSessionOrSecurityTheUnitRefusesAndKeepsItsSoftware) {
+    // Default session: the erase routine is not available there.
+    auto refused = flash({L"ECM_SW_5430"});
+    const FlashSessionResult& r = *refused->items[0];
+    EXPECT_EQ(r.status, 2);
+    ASSERT_NE(r.error, nullptr);
+    EXPECT_EQ(r.error->code, 1700);
+    ASSERT_NE(r.error->negativeResponse, nullptr);
+    EXPECT_EQ(r.error->negativeResponse->code, 0x7F); // serviceNotSupportedInActiveSession
+    EXPECT_STREQ(r.versionBefore, L"5428");
+
+    // Programming session, but level 2 still locked.
+    ASSERT_EQ(send(L"ECM", {0x10, 0x02}).at(0), 0x50);
+    auto locked = flash({L"ECM_SW_5430"});
+    ASSERT_NE(locked->items[0]->error, nullptr);
+    ASSERT_NE(locked->items[0]->error->negativeResponse, nullptr);
+    EXPECT_EQ(locked->items[0]->error->negativeResponse->code, 0x33); // securityAccessDenied
+
+    // Nothing was erased: the old software still runs and no DTC was stored.
+    EXPECT_EQ(identifiedVersion(), L"5428");
+    EXPECT_FALSE(programmingDtcStored());
+}
+
+TEST_F(FlashTest, AFlashChangesTheVersionIdentificationReadsAndTakesVehicleTime) {
+    enterProgramming();
+    const int64_t before = kelsim_clockMs();
+    auto out = flash({L"ECM_SW_5430"});
+    const int64_t after = kelsim_clockMs();
+    const FlashSessionResult& r = *out->items[0];
+    EXPECT_EQ(r.status, 0);
+    EXPECT_EQ(r.error, nullptr);
+    EXPECT_STREQ(r.name, L"ECM_SW_5430");
+    EXPECT_STREQ(r.target, L"ECM");
+    EXPECT_STREQ(r.versionBefore, L"5428");
+    EXPECT_STREQ(r.versionAfter, L"5430");
+    EXPECT_EQ(r.size, 65536U);
+    EXPECT_EQ(r.transferred, 65536U);
+    EXPECT_EQ(r.progress, 100U);
+    // The download spends its expected duration on the vehicle clock, not in real time.
+    EXPECT_GE(r.duration, 45000U);
+    EXPECT_GE(after - before, 45000);
+    EXPECT_EQ(identifiedVersion(), L"5430");
+    EXPECT_FALSE(programmingDtcStored());
+
+    // The run ended with a reset: the unit is back in its default session, locked.
+    const auto again = flash({L"ECM_SW_5431"});
+    ASSERT_NE(again->items[0]->error, nullptr);
+    EXPECT_EQ(again->items[0]->error->negativeResponse->code, 0x7F);
+}
+
+TEST_F(FlashTest, SessionsRunInOrderAndAFailureStopsTheRestUnlessConfiguredOtherwise) {
+    enterProgramming();
+    auto stopped = flash({L"NoSuchSession", L"ECM_SW_5430"});
+    EXPECT_EQ(stopped->items[0]->status, 2);
+    EXPECT_EQ(stopped->items[0]->error->code, 1701);
+    EXPECT_EQ(stopped->items[1]->status, 3);
+    EXPECT_EQ(stopped->items[1]->error->code, 1702);
+    EXPECT_EQ(identifiedVersion(), L"5428") << "nothing was flashed";
+
+    enterProgramming();
+    auto* config = static_cast<FlashSessionsConfig*>(allocate_Memory(sizeof(FlashSessionsConfig)));
+    std::memset(config, 0, sizeof *config);
+    config->target = duplicate_WString(L"ECM");
+    const wchar_t* names[] = {L"NoSuchSession", L"ECM_SW_5430", L"ECM_SW_5431"};
+    config->sessions = static_cast<wchar_t**>(allocate_Memory(sizeof names));
+    for (int i = 0; i < 3; ++i) {
+        config->sessions[i] = duplicate_WString(names[i]);
+    }
+    config->sessionCount = 3;
+    config->blockLength = 256;
+    config->stopOnError = 0;
+    ErrorSlot error;
+    Results out;
+    kel_executeFlashSessionsConfig(api, config, &error, &out.items, &out.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(out.count, 3U);
+    EXPECT_EQ(out.items[0]->error->code, 1701);
+    EXPECT_EQ(out.items[1]->status, 0);
+    EXPECT_STREQ(out.items[1]->versionBefore, L"5428");
+    EXPECT_STREQ(out.items[1]->versionAfter, L"5430");
+    // The second session runs in the same programming session, on the first one's result.
+    EXPECT_EQ(out.items[2]->status, 0);
+    EXPECT_STREQ(out.items[2]->versionBefore, L"5430");
+    EXPECT_STREQ(out.items[2]->versionAfter, L"5431");
+    EXPECT_EQ(identifiedVersion(), L"5431");
+}
+
+TEST_F(FlashTest, CallsThatCannotStartAreRefusedWhole) {
+    ErrorSlot noTarget;
+    Results out;
+    const wchar_t* names[] = {L"ECM_SW_5430"};
+    kel_executeFlashSessions(api, L"Nope", const_cast<wchar_t**>(names), 1, &noTarget, &out.items,
+                             &out.count);
+    ASSERT_TRUE(noTarget);
+    EXPECT_EQ(noTarget->code, 1011);
+    ErrorSlot noSessions;
+    kel_executeFlashSessions(api, L"ECM", nullptr, 0, &noSessions, &out.items, &out.count);
+    ASSERT_TRUE(noSessions);
+    EXPECT_EQ(noSessions->code, 1704);
+    ErrorSlot noConfig;
+    kel_executeFlashSessionsConfig(api, nullptr, &noConfig, &out.items, &out.count);
+    ASSERT_TRUE(noConfig);
+    EXPECT_EQ(noConfig->code, 1704);
+    EXPECT_EQ(out.items, nullptr);
+}
+
+// What an asynchronous flash reports, and the cancel it may trigger.
+struct FlashWatch {
+    TarnApi* api = nullptr;
+    uint32_t cancelAt = 101; // cancel the call once a report shows this much progress
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<uint32_t> progress;  // of every running report, in order
+    std::vector<int32_t> finals;     // statuses of the sessions' last results
+    std::vector<std::wstring> after; // their versions after
+    int32_t errorCode = 0;
+    bool done = false;
+
+    static void callback(FlashSessionResult** results, uint32_t count, bool isFinal,
+                         uint64_t callId, KelError* error, void* context) {
+        auto* self = static_cast<FlashWatch*>(context);
+        bool cancel = false;
+        {
+            const std::lock_guard lock(self->mutex);
+            for (uint32_t i = 0; i < count; ++i) {
+                if (results[i]->status == 1) {
+                    self->progress.push_back(results[i]->progress);
+                    cancel = cancel || results[i]->progress >= self->cancelAt;
+                } else {
+                    self->finals.push_back(results[i]->status);
+                    self->after.emplace_back(results[i]->versionAfter);
+                }
+            }
+            self->errorCode = error != nullptr ? error->code : self->errorCode;
+        }
+        release_FlashSessionResult_array(results, count);
+        release_KelError(error);
+        if (cancel) {
+            ErrorSlot ignored;
+            kel_cancelAsyncCalls(self->api, &callId, 1, &ignored);
+        }
+        const std::lock_guard lock(self->mutex);
+        self->done = self->done || isFinal;
+        self->changed.notify_all();
+    }
+    bool wait() {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, 10s, [&] { return done; });
+    }
+};
+
+TEST_F(FlashTest, AsynchronousFlashReportsRisingProgressThenTheResult) {
+    kelsim_setAsyncInterval("executeFlashSessionsAsync", 0);
+    enterProgramming();
+    FlashWatch watch;
+    watch.api = api;
+    const wchar_t* names[] = {L"ECM_SW_5430"};
+    ErrorSlot error;
+    const uint64_t id = kel_executeFlashSessionsAsync(api, L"ECM", const_cast<wchar_t**>(names), 1,
+                                                      &error, FlashWatch::callback, &watch);
+    ASSERT_FALSE(error);
+    ASSERT_NE(id, 0U);
+    ASSERT_TRUE(watch.wait());
+    const std::lock_guard lock(watch.mutex);
+    EXPECT_EQ(watch.errorCode, 0);
+    EXPECT_EQ(watch.finals, (std::vector<int32_t>{0}));
+    EXPECT_EQ(watch.after, (std::vector<std::wstring>{L"5430"}));
+    // Per cent of the image sent: 0 after the erase, then each tenth.
+    EXPECT_EQ(watch.progress, (std::vector<uint32_t>{0, 10, 20, 30, 40, 50, 60, 70, 80, 90, 100}));
+}
+
+TEST_F(FlashTest, ACancelledFlashLeavesAnIncompleteUpdateThatANewFlashRepairs) {
+    kelsim_setAsyncInterval("executeFlashSessionsAsync", 0);
+    enterProgramming();
+    FlashWatch watch;
+    watch.api = api;
+    watch.cancelAt = 30;
+    const wchar_t* names[] = {L"ECM_SW_5430"};
+    ErrorSlot error;
+    kel_executeFlashSessionsAsync(api, L"ECM", const_cast<wchar_t**>(names), 1, &error,
+                                  FlashWatch::callback, &watch);
+    ASSERT_FALSE(error);
+    ASSERT_TRUE(watch.wait());
+    {
+        const std::lock_guard lock(watch.mutex);
+        EXPECT_EQ(watch.errorCode, 1012);
+        EXPECT_TRUE(watch.finals.empty()) << "the session never ended";
+        EXPECT_EQ(watch.progress.back(), 30U);
+    }
+    // The old software is gone and the unit says so.
+    EXPECT_EQ(identifiedVersion(), L"");
+    EXPECT_TRUE(programmingDtcStored());
+
+    // The unit was left in its programming session; a new flash from the start repairs it.
+    enterProgramming();
+    auto out = flash({L"ECM_SW_5430"});
+    EXPECT_EQ(out->items[0]->status, 0);
+    EXPECT_STREQ(out->items[0]->versionBefore, L"");
+    EXPECT_EQ(identifiedVersion(), L"5430");
+    EXPECT_FALSE(programmingDtcStored());
+}
+
+// A unit whose session declares a checksum its image does not have, and a silent one.
+constexpr const char* corruptVehicle = R"({"ecus": [
+    {"name": "PCM", "address": 1,
+     "identification": [{"id": "F189", "name": "Software version", "value": "A1"}],
+     "security": [{"level": 1, "keyMask": "00000000", "sessions": ["Programming"]}],
+     "programming": {"level": 1}},
+    {"name": "MUTE", "address": 2, "responds": false,
+     "identification": [{"id": "F189", "name": "Software version", "value": "Z9"}],
+     "security": [{"level": 1, "keyMask": "00000000", "sessions": ["Programming"]}],
+     "programming": {"level": 1}}],
+  "flash": {"sessions": [
+    {"name": "Bad", "target": "PCM", "version": "B2", "size": 4000, "durationMs": 10,
+     "checksum": "12345678"},
+    {"name": "Good", "target": "PCM", "version": "B3", "size": 4000, "durationMs": 10},
+    {"name": "Mute", "target": "MUTE", "version": "Y8", "size": 100}]}})";
+
+TEST_F(FlashTest, AnImageTheUnitRejectsLeavesItIncompleteAndASilentUnitIsReported) {
+    ASSERT_EQ(kelsim_setVehicleJson(corruptVehicle), 0);
+    const auto unlock = [&] {
+        ASSERT_EQ(send(L"PCM", {0x10, 0x02}).at(0), 0x50);
+        const auto seed = send(L"PCM", {0x27, 0x01});
+        Bytes key = {0x27, 0x02};
+        const auto k = keyFor(Bytes(seed.begin() + 2, seed.end()), 0);
+        key.insert(key.end(), k.begin(), k.end());
+        ASSERT_EQ(send(L"PCM", key), (Bytes{0x67, 0x02}));
+    };
+    unlock();
+    auto bad = flash({L"Bad"}, L"PCM");
+    EXPECT_EQ(bad->items[0]->status, 2);
+    EXPECT_EQ(bad->items[0]->error->code, 1703);
+    EXPECT_EQ(bad->items[0]->transferred, 4000U) << "the whole image went over";
+    EXPECT_STREQ(bad->items[0]->versionBefore, L"A1");
+    EXPECT_STREQ(bad->items[0]->versionAfter, L"") << "the update is incomplete";
+
+    unlock();
+    auto good = flash({L"Good"}, L"PCM");
+    EXPECT_EQ(good->items[0]->status, 0);
+    EXPECT_STREQ(good->items[0]->versionAfter, L"B3");
+
+    auto mute = flash({L"Mute"}, L"MUTE");
+    EXPECT_EQ(mute->items[0]->status, 2);
+    ASSERT_NE(mute->items[0]->error, nullptr);
+    EXPECT_EQ(mute->items[0]->error->code, 1010);
+}
+
+TEST_F(FlashTest, ADescriptionWhoseSessionsCannotBeFlashedIsRefused) {
+    // No programming on the unit, a version the image header cannot hold, a session twice.
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A"}],
+        "flash": {"sessions": [{"name": "S", "target": "A", "version": "1"}]}})"),
+              -1);
+    // Programming needs the identifier that reports the version.
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A", "programming": {}}]})"), -1);
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A", "programming": {},
+        "identification": [{"id": "F189", "value": "0"}]}],
+        "flash": {"sessions": [{"name": "S", "target": "A", "version": "1", "size": 1}]}})"),
+              -1);
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A", "programming": {},
+        "identification": [{"id": "F189", "value": "0"}]}],
+        "flash": {"sessions": [{"name": "S", "target": "A", "version": "1"},
+                               {"name": "S", "target": "A", "version": "2"}]}})"),
+              -1);
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A", "programming": {},
+        "identification": [{"id": "F189", "value": "0"}]}],
+        "flash": {"sessions": [{"name": "S", "target": "A", "version": "1"}]}})"),
+              0);
+}
+
+// ---- the quick test ----------------------------------------------------------------------
+
+TEST_F(FlashTest, QuickTestIdentifiesAndReadsEveryUnitInOnePass) {
+    ErrorSlot error;
+    QuickTests all;
+    kel_performQuickTest(api, nullptr, 0, nullptr, &error, &all.items, &all.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(all.count, 6U) << "every unit of the vehicle";
+    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+    kel_readDtcs(api, nullptr, 0, nullptr, &error, &dtcs.items, &dtcs.count);
+    ASSERT_EQ(dtcs.count, all.count);
+    for (uint32_t i = 0; i < all.count; ++i) {
+        const QuickTestResult& r = *all.items[i];
+        EXPECT_STREQ(r.target, dtcs.items[i]->target);
+        EXPECT_EQ(r.dtcCount, dtcs.items[i]->dtcCount) << "the same fault memory as readDtcs";
+        if (std::wstring(r.target) == L"ACC") {
+            EXPECT_EQ(r.status, 1);
+            EXPECT_EQ(r.identified, 0);
+            ASSERT_NE(r.error, nullptr);
+            EXPECT_EQ(r.error->code, 1010);
+        } else {
+            EXPECT_EQ(r.status, 0) << r.target;
+            EXPECT_EQ(r.identified, 1) << r.target;
+        }
+    }
+    EXPECT_STREQ(all.items[0]->variant, L"ECM_EDC17_CR_2L0_V3");
+    EXPECT_GT(all.items[0]->dtcCount, 0U);
+    EXPECT_STREQ(all.items[0]->dtcs[0]->text3, L"ECM");
+
+    // A status mask applies as in readDtcs; an unknown name has its own error.
+    auto* config = static_cast<DtcReadConfig*>(allocate_Memory(sizeof(DtcReadConfig)));
+    std::memset(config, 0, sizeof *config);
+    config->value = 0x01; // testFailed
+    const wchar_t* names[] = {L"ECM", L"Nope"};
+    QuickTests some;
+    kel_performQuickTest(api, const_cast<wchar_t**>(names), 2, config, &error, &some.items,
+                         &some.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(some.count, 2U);
+    for (uint32_t i = 0; i < some.items[0]->dtcCount; ++i) {
+        EXPECT_NE(some.items[0]->dtcs[i]->value1 & 0x01, 0);
+    }
+    EXPECT_LT(some.items[0]->dtcCount, all.items[0]->dtcCount);
+    EXPECT_EQ(some.items[1]->status, 2);
+    EXPECT_EQ(some.items[1]->error->code, 1011);
+}
+
+TEST_F(FlashTest, QuickTestSeesWhatAFlashLeftBehind) {
+    enterProgramming();
+    // An erase alone leaves the update incomplete.
+    ASSERT_EQ(send(L"ECM", {0x31, 0x01, 0xFF, 0x00}), (Bytes{0x71, 0x01, 0xFF, 0x00, 0x00}));
+    const wchar_t* names[] = {L"ECM"};
+    ErrorSlot error;
+    QuickTests out;
+    kel_performQuickTest(api, const_cast<wchar_t**>(names), 1, nullptr, &error, &out.items,
+                         &out.count);
+    ASSERT_EQ(out.count, 1U);
+    bool incomplete = false;
+    for (uint32_t i = 0; i < out.items[0]->dtcCount; ++i) {
+        incomplete = incomplete || std::wstring(out.items[0]->dtcs[i]->text1) == L"P0602";
+    }
+    EXPECT_TRUE(incomplete);
+}
+
+struct QuickWatch {
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<uint32_t> sizes;
+    std::vector<std::wstring> targets;
+    bool done = false;
+    static void callback(QuickTestResult** results, uint32_t count, bool isFinal, uint64_t,
+                         KelError* error, void* context) {
+        auto* self = static_cast<QuickWatch*>(context);
+        const std::lock_guard lock(self->mutex);
+        self->sizes.push_back(count);
+        for (uint32_t i = 0; i < count; ++i) {
+            self->targets.emplace_back(results[i]->target);
+        }
+        release_QuickTestResult_array(results, count);
+        release_KelError(error);
+        self->done = self->done || isFinal;
+        self->changed.notify_all();
+    }
+};
+
+TEST_F(FlashTest, AsynchronousQuickTestReportsOneUnitAtATime) {
+    kelsim_setAsyncInterval("performQuickTestAsync", 0);
+    QuickWatch watch;
+    ErrorSlot error;
+    kel_performQuickTestAsync(api, nullptr, 0, nullptr, &error, QuickWatch::callback, &watch);
+    ASSERT_FALSE(error);
+    std::unique_lock lock(watch.mutex);
+    ASSERT_TRUE(watch.changed.wait_for(lock, 10s, [&] { return watch.done; }));
+    EXPECT_EQ(watch.sizes, (std::vector<uint32_t>(6, 1)));
+    EXPECT_EQ(watch.targets,
+              (std::vector<std::wstring>{L"ECM", L"TCM", L"ESP", L"BCM", L"GW", L"ACC"}));
+}
+
+} // namespace
