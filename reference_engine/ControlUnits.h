@@ -210,6 +210,8 @@ struct MeasurementValue {
     int64_t walkedSample = 0;
     double walked = 0;
     uint32_t walkState = 0;
+};
+
 // ---- programming: what a flashable unit does with a download ---------------------------
 
 // A unit with a "programming" member can be flashed: in the programming session, with
