@@ -457,9 +457,12 @@ void Monitoring::openTraceFileMonitoringLink(uint64_t handle, const std::wstring
     if (link.replay) {
         fail(TraceFileOpen, L"The monitoring link has a trace file open", handleText(handle));
     }
-    link.replay.emplace();
-    link.replay->path = source.enginePath;
-    link.replay->entries = std::move(entries);
+    // Built whole and moved in: clang cannot default-construct a nested struct with
+    // member initialisers through std::optional::emplace inside its enclosing class.
+    MonitoringState::Replay replay;
+    replay.path = source.enginePath;
+    replay.entries = std::move(entries);
+    link.replay = std::move(replay);
 }
 
 void Monitoring::startTraceFileMonitoringLink(uint64_t handle) {
