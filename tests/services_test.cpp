@@ -788,7 +788,9 @@ TEST_F(CyclicServicesConcurrency, PastTheBoundTheOldestResultsGo) {
     in.add(L"TesterPresent");
     const uint64_t sent = requestsSent();
     const uint64_t job = start(in, 1, L"U");
-    ASSERT_TRUE(eventually([&] { return requestsSent() - sent >= 12; }));
+    // The job stores a cycle's result before it sends the next cycle's request, so once the
+    // 13th request is on the bus, the 12th result is stored.
+    ASSERT_TRUE(eventually([&] { return requestsSent() - sent >= 13; }));
     const auto kept = fetch(job);
     ASSERT_EQ(kept.size(), 5U);
     EXPECT_GE(kept.back().cycle, 12U);
