@@ -145,6 +145,14 @@ typedef struct CodingStringResult CodingStringResult;
 typedef struct CodingFileResult CodingFileResult;
 typedef struct QuickTestResult QuickTestResult;
 typedef struct EcuConfigurationResult EcuConfigurationResult;
+typedef struct EcuOrderEntry EcuOrderEntry;
+typedef struct VehicleUpdateConfig VehicleUpdateConfig;
+typedef struct VehicleUpdateResult VehicleUpdateResult;
+typedef struct UpdatePackageInfo UpdatePackageInfo;
+typedef struct VehicleReportConfig VehicleReportConfig;
+typedef struct VehicleData VehicleData;
+typedef struct UploadReportConfiguration UploadReportConfiguration;
+typedef struct VehicleInformation VehicleInformation;
 
 /* The MVCI (ISO 22900) server error beneath an engine error.
  * Freed with release_MvciServerError, which frees everything it points to; a list of them with
@@ -1398,6 +1406,142 @@ struct EcuConfigurationResult {
     KelError* error;  /* the error of this target, or NULL */
 };
 
+/* One control unit's place in an ECU order, the order in which a vehicle update visits the
+ * units.
+ * Freed with release_EcuOrderEntry, which frees everything it points to; a list of them with
+ * release_EcuOrderEntry_array. */
+struct EcuOrderEntry {
+    wchar_t* target;  /* the unit's name */
+    wchar_t* bus;     /* the bus it is reached on, as the vehicle description names it */
+    uint32_t address; /* its diagnostic address */
+    uint8_t gateway;  /* 1 for the gateway, through which the other units are reached */
+    uint8_t optional; /* 1: the vehicle may lack the unit; an update then skips it instead of
+                         failing it */
+};
+
+/* What a vehicle update installs, and how it goes on after a failure. Handed out by
+ * createVehicleUpdateConfig; an input that updateVehicle and performVehicleUpdate consume.
+ * Freed with release_VehicleUpdateConfig, which frees everything it points to; a list of them
+ * with release_VehicleUpdateConfig_array. */
+struct VehicleUpdateConfig {
+    wchar_t**
+        targets; /* the units the update covers; it visits them in ECU order, not in this one */
+    uint32_t targetCount;
+    UpdatePackageInfo** packages; /* the packages to install, by name and version, at most one per
+                                     unit; a covered unit without one is left as it is */
+    uint32_t packageCount;
+    uint8_t stopOnError;  /* 1: once a unit fails, the later units are left untouched; 0: they are
+                             updated all the same */
+    uint8_t force;        /* 1: also install a package on a unit that already runs its version */
+    uint32_t blockLength; /* the largest block to transfer at once in bytes; 0: as large as each
+                             unit takes */
+};
+
+/* What a vehicle update did to one unit, or how far it has got in an asynchronous report.
+ * Freed with release_VehicleUpdateResult, which frees everything it points to; a list of them
+ * with release_VehicleUpdateResult_array. */
+struct VehicleUpdateResult {
+    wchar_t* target; /* the unit's name */
+    int32_t status;  /* 0 updated, 1 running (a report before the end), 2 failed, 3 not run
+                        (cancelled, or left after a failure), 4 up to date (nothing to install), 5
+                        absent (an optional unit the vehicle lacks) */
+    wchar_t*
+        package; /* the name of the package installed; empty when none was chosen for the unit */
+    wchar_t* versionBefore;   /* the software version the unit reported before the update */
+    wchar_t* versionAfter;    /* the version it reports now; empty while its update is incomplete */
+    uint32_t position;        /* the unit's place in the ECU order, from 1 */
+    uint32_t progress;        /* per cent of this unit's update done, 0 to 100 */
+    uint32_t overallProgress; /* per cent of the whole update done, 0 to 100 */
+    uint32_t duration; /* the milliseconds of vehicle time this unit's update has taken so far */
+    KelError* error;   /* why the unit failed or was not run; NULL when it did not */
+};
+
+/* An update package: software for control units, or for a component of the engine, with the
+ * checksum of its payload.
+ * Freed with release_UpdatePackageInfo, which frees everything it points to; a list of them
+ * with release_UpdatePackageInfo_array. */
+struct UpdatePackageInfo {
+    wchar_t* name;        /* the package's name */
+    wchar_t* version;     /* the software version it installs */
+    wchar_t* description; /* what it brings, for a person */
+    uint32_t kind; /* 1 control-unit software (installed by a vehicle update), 2 a component of the
+                      engine (installed by applyUpdatePackage or autoUpdate) */
+    wchar_t** targets; /* the units it is for (kind 1), or the one component it replaces (kind 2) */
+    uint32_t targetCount;
+    uint64_t size;     /* the payload's bytes */
+    wchar_t* checksum; /* the payload's checksum as its manifest gives it: "crc32:" and eight hex
+                          digits */
+    wchar_t* location; /* where it lies: its folder in the sandbox once downloaded, else its folder
+                          on the broker */
+    int32_t state;     /* 0 offered by the broker, 1 downloaded, 2 installed */
+};
+
+/* What createVehicleReport reads and writes; an input that it consumes.
+ * Freed with release_VehicleReportConfig, which frees everything it points to; a list of them
+ * with release_VehicleReportConfig_array. */
+struct VehicleReportConfig {
+    wchar_t* name;    /* the report's file name, without extension; empty: "vehicle-<VIN>-<time>" */
+    wchar_t* title;   /* the report's heading; empty: "Vehicle report" */
+    wchar_t* comment; /* a note of the workshop's, printed under the heading */
+    wchar_t** targets; /* the units to report on; none: every unit of the vehicle */
+    uint32_t targetCount;
+    uint8_t identification; /* 1: read and list each unit's identification values */
+    uint8_t dtcs;           /* 1: read and list each unit's DTCs */
+};
+
+/* One control unit of the vehicle as it is now. getVehicleData hands out one per unit, each
+ * with the vehicle's VIN and model, so that every entry stands alone.
+ * Freed with release_VehicleData, which frees everything it points to; a list of them with
+ * release_VehicleData_array. These are the routines of ScaleConstraintInfo, whose record
+ * begins with the same wide strings and owns nothing else either. */
+struct VehicleData {
+    wchar_t* vin; /* the vehicle identification number the vehicle reports; empty when no unit gives
+                     it */
+    wchar_t* model;           /* the vehicle's model, from the selected vehicle information */
+    wchar_t* target;          /* the unit's name */
+    wchar_t* variant;         /* the variant the unit identifies as; empty when it is silent */
+    wchar_t* softwareVersion; /* the software version it reports; empty when it is silent or its
+                                 update is incomplete */
+    wchar_t* bus;             /* the bus it is reached on */
+    uint32_t address;         /* its diagnostic address */
+    int32_t status;           /* 0 answered, 1 silent */
+    uint32_t dtcCount;        /* the DTCs it stores now; 0 when it is silent */
+};
+
+/* Where uploadReport copies a report, and what the broker's upload log records of it; an input
+ * that it consumes.
+ * Freed with release_UploadReportConfiguration, which frees everything it points to; a list of
+ * them with release_UploadReportConfiguration_array. These are the routines of
+ * ScaleConstraintInfo, whose record begins with the same wide strings and owns nothing else
+ * either. */
+struct UploadReportConfiguration {
+    wchar_t*
+        reportFile; /* the report, as createVehicleReport or createVehicleUpdateReport named it */
+    wchar_t*
+        folder; /* the broker's folder to copy it into, relative to the broker; empty: "reports" */
+    wchar_t* name; /* the name it gets there; empty: the report's own name */
+    wchar_t*
+        vin; /* the vehicle it belongs to, for the upload log; empty: the VIN the report names */
+    wchar_t* user;     /* who uploads it, for the upload log */
+    wchar_t* comment;  /* a note for the upload log */
+    uint8_t overwrite; /* 1: replace a report of the same name; 0: refuse to */
+    uint8_t withTwin;  /* 1: also copy the report's JSON twin */
+};
+
+/* The vehicle the engine works on, as the workshop selected it; reports carry it.
+ * Freed with release_VehicleInformation, which frees everything it points to; a list of them
+ * with release_VehicleInformation_array. */
+struct VehicleInformation {
+    wchar_t* vin; /* the vehicle identification number: 17 digits and capital letters other than I,
+                     O and Q */
+    wchar_t* model;        /* the vehicle's model */
+    uint32_t modelYear;    /* the model year; 0 when not known */
+    uint32_t mileage;      /* the odometer reading in kilometres */
+    wchar_t* licensePlate; /* the registration plate; may be empty */
+    wchar_t** equipment;   /* the vehicle's equipment codes */
+    uint32_t equipmentCount;
+};
+
 /* ---- engine objects ---- */
 /* Registers the local engine object and returns its address, the `api` of every export.
  * Every kel_getTarnApi is matched by one releaseTarnApi; getting the same engine object
@@ -1682,6 +1826,28 @@ KEL_C_API void release_QuickTestResult_array(KEL_CONSUMED QuickTestResult** ptr,
 KEL_C_API void release_EcuConfigurationResult(KEL_CONSUMED EcuConfigurationResult* ptr);
 KEL_C_API void release_EcuConfigurationResult_array(KEL_CONSUMED EcuConfigurationResult** ptr,
                                                     uint64_t count);
+KEL_C_API void release_EcuOrderEntry(KEL_CONSUMED EcuOrderEntry* ptr);
+KEL_C_API void release_EcuOrderEntry_array(KEL_CONSUMED EcuOrderEntry** ptr, uint64_t count);
+KEL_C_API void release_VehicleUpdateConfig(KEL_CONSUMED VehicleUpdateConfig* ptr);
+KEL_C_API void release_VehicleUpdateConfig_array(KEL_CONSUMED VehicleUpdateConfig** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_VehicleUpdateResult(KEL_CONSUMED VehicleUpdateResult* ptr);
+KEL_C_API void release_VehicleUpdateResult_array(KEL_CONSUMED VehicleUpdateResult** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_UpdatePackageInfo(KEL_CONSUMED UpdatePackageInfo* ptr);
+KEL_C_API void release_UpdatePackageInfo_array(KEL_CONSUMED UpdatePackageInfo** ptr,
+                                               uint64_t count);
+KEL_C_API void release_VehicleReportConfig(KEL_CONSUMED VehicleReportConfig* ptr);
+KEL_C_API void release_VehicleReportConfig_array(KEL_CONSUMED VehicleReportConfig** ptr,
+                                                 uint64_t count);
+KEL_C_API void release_VehicleData(KEL_CONSUMED VehicleData* ptr);
+KEL_C_API void release_VehicleData_array(KEL_CONSUMED VehicleData** ptr, uint64_t count);
+KEL_C_API void release_UploadReportConfiguration(KEL_CONSUMED UploadReportConfiguration* ptr);
+KEL_C_API void release_UploadReportConfiguration_array(KEL_CONSUMED UploadReportConfiguration** ptr,
+                                                       uint64_t count);
+KEL_C_API void release_VehicleInformation(KEL_CONSUMED VehicleInformation* ptr);
+KEL_C_API void release_VehicleInformation_array(KEL_CONSUMED VehicleInformation** ptr,
+                                                uint64_t count);
 
 /* ---- callbacks of the asynchronous operations ----
  * Called once or several times per call, on a thread of the engine; isFinal marks
@@ -1765,6 +1931,10 @@ typedef void (*ExecuteFlashSessionsConfigCallbackFunction)(FlashSessionResult** 
                                                            uint32_t resultCount, bool isFinal,
                                                            uint64_t callId, KelError* error,
                                                            void* context);
+/* Reports of kel_updateVehicleAsync: free results with release_VehicleUpdateResult_array. */
+typedef void (*UpdateVehicleCallbackFunction)(VehicleUpdateResult** results, uint32_t resultCount,
+                                              bool isFinal, uint64_t callId, KelError* error,
+                                              void* context);
 /* Reports of kel_executeServiceInDefaultSessionAsync: free results with
  * release_ServiceResult_array. */
 typedef void (*ExecuteServiceInDefaultSessionCallbackFunction)(ServiceResult** results,
@@ -1779,6 +1949,12 @@ typedef void (*CopyPathCallbackFunction)(PathCopyResult** results, uint32_t resu
 typedef void (*WriteCodingFileCallbackFunction)(CodingFileResult** results, uint32_t resultCount,
                                                 bool isFinal, uint64_t callId, KelError* error,
                                                 void* context);
+/* Reports of kel_performVehicleUpdateAsync: free results with
+ * release_VehicleUpdateResult_array. */
+typedef void (*PerformVehicleUpdateCallbackFunction)(VehicleUpdateResult** results,
+                                                     uint32_t resultCount, bool isFinal,
+                                                     uint64_t callId, KelError* error,
+                                                     void* context);
 /* Reports of kel_executeSequenceAsync: free results with release_ServiceResult_array. */
 typedef void (*ExecuteSequenceCallbackFunction)(ServiceResult** results, uint32_t resultCount,
                                                 bool isFinal, uint64_t callId, KelError* error,
@@ -3148,16 +3324,92 @@ KEL_C_API uint64_t kel_executeSequenceAsync(TarnApi* api, KEL_KEPT const wchar_t
 
 /* ---- EcuOrder ----
  * The ECU order */
+/* Reads an ECU order from a file. Position 112.
+ * path: kept by the caller, read only during the call.
+ * On success *entries and *entryCount receive an EcuOrderEntry list, NULL and 0 when empty;
+ * free it with release_EcuOrderEntry_array(entries, entryCount). */
+KEL_C_API void kel_readEcuOrder(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
+                                KEL_OUT EcuOrderEntry*** entries, KEL_OUT uint32_t* entryCount);
+/* Filters an ECU order down to the given targets. Position 113.
+ * entries, targets: kept by the caller, read only during the call.
+ * On success *filtered and *filteredCount receive an EcuOrderEntry list, NULL and 0 when
+ * empty; free it with release_EcuOrderEntry_array(filtered, filteredCount). */
+KEL_C_API void kel_filterEcuOrder(TarnApi* api, KEL_KEPT EcuOrderEntry** entries,
+                                  uint32_t entryCount, KEL_KEPT wchar_t** targets,
+                                  uint32_t targetCount, KelError** error,
+                                  KEL_OUT EcuOrderEntry*** filtered,
+                                  KEL_OUT uint32_t* filteredCount);
+/* Completes an ECU order with the targets that it lacks. Position 114.
+ * entries: kept by the caller, read only during the call.
+ * On success *completed and *completedCount receive an EcuOrderEntry list, NULL and 0 when
+ * empty; free it with release_EcuOrderEntry_array(completed, completedCount). */
+KEL_C_API void kel_addMissingTargetsToEcuOrder(TarnApi* api, KEL_KEPT EcuOrderEntry** entries,
+                                               uint32_t entryCount, KelError** error,
+                                               KEL_OUT EcuOrderEntry*** completed,
+                                               KEL_OUT uint32_t* completedCount);
+/* Creates the default ECU order. Position 220.
+ * On success *entries and *entryCount receive an EcuOrderEntry list, NULL and 0 when empty;
+ * free it with release_EcuOrderEntry_array(entries, entryCount). */
+KEL_C_API void kel_createDefaultECUOrder(TarnApi* api, KelError** error,
+                                         KEL_OUT EcuOrderEntry*** entries,
+                                         KEL_OUT uint32_t* entryCount);
+/* Writes an ECU order to a file. Position 223.
+ * path, entries: kept by the caller, read only during the call. */
+KEL_C_API void kel_writeEcuOrder(TarnApi* api, KEL_KEPT const wchar_t* path,
+                                 KEL_KEPT EcuOrderEntry** entries, uint32_t entryCount,
+                                 KelError** error);
 /* Reads the path of the ECU order file. Position 224.
  * On success *path receives a new string; free it with release_Memory. */
 KEL_C_API void kel_getEcuOrderFilePath(TarnApi* api, KelError** error, KEL_OUT wchar_t** path);
 
+/* ---- VehicleReports ----
+ * Vehicle data, the selected vehicle and reports */
+/* Creates a vehicle report as config says; returns the report file. Position 111.
+ * config: consumed: the library frees it with release_VehicleReportConfig, also when the call
+ * fails; NULL passes no record.
+ * On success *reportFile receives a new string; free it with release_Memory. */
+KEL_C_API void kel_createVehicleReport(TarnApi* api, KEL_CONSUMED VehicleReportConfig* config,
+                                       KelError** error, KEL_OUT wchar_t** reportFile);
+/* Reads the vehicle data. Position 191.
+ * On success *data and *dataCount receive a VehicleData list, NULL and 0 when empty; free it
+ * with release_VehicleData_array(data, dataCount). */
+KEL_C_API void kel_getVehicleData(TarnApi* api, KelError** error, KEL_OUT VehicleData*** data,
+                                  KEL_OUT uint32_t* dataCount);
+/* Creates a report of vehicle update results; returns the report file. Position 231.
+ * results: kept by the caller, read only during the call.
+ * On success *reportFile receives a new string; free it with release_Memory. */
+KEL_C_API void kel_createVehicleUpdateReport(TarnApi* api, KEL_KEPT VehicleUpdateResult** results,
+                                             uint32_t resultCount, KelError** error,
+                                             KEL_OUT wchar_t** reportFile);
+/* Reads the information about the selected vehicle. Position 249.
+ * On success *information receives a VehicleInformation record, or NULL when the engine gives
+ * none; free it with release_VehicleInformation. */
+KEL_C_API void kel_getSelectedVehicleInformation(TarnApi* api, KelError** error,
+                                                 KEL_OUT VehicleInformation** information);
+/* Selects a vehicle by its information. Position 250.
+ * information: consumed: the library frees it with release_VehicleInformation, also when the
+ * call fails; NULL passes no record. */
+KEL_C_API void kel_setSelectedVehicleInformation(TarnApi* api, KelError** error,
+                                                 KEL_CONSUMED VehicleInformation* information);
+
 /* ---- VehicleUpdate ----
- * Vehicle data and reports, update packages, the broker and vehicle updates */
+ * Update packages, the broker, the engine's own updates and vehicle updates */
 /* Applies an update package. Position 151.
  * package: kept by the caller, read only during the call. */
 KEL_C_API void kel_applyUpdatePackage(TarnApi* api, KEL_KEPT const wchar_t* package,
                                       KelError** error);
+/* Lists the update packages at hand. Position 154.
+ * On success *packages and *packageCount receive an UpdatePackageInfo list, NULL and 0 when
+ * empty; free it with release_UpdatePackageInfo_array(packages, packageCount). */
+KEL_C_API void kel_getUpdatePackages(TarnApi* api, KelError** error,
+                                     KEL_OUT UpdatePackageInfo*** packages,
+                                     KEL_OUT uint32_t* packageCount);
+/* Lists the update packages that the broker offers. Position 155.
+ * On success *packages and *packageCount receive an UpdatePackageInfo list, NULL and 0 when
+ * empty; free it with release_UpdatePackageInfo_array(packages, packageCount). */
+KEL_C_API void kel_getPackagesFromBroker(TarnApi* api, KelError** error,
+                                         KEL_OUT UpdatePackageInfo*** packages,
+                                         KEL_OUT uint32_t* packageCount);
 /* Tells whether the broker has updates. Position 156.
  * On success *available receives the result. */
 KEL_C_API void kel_checkUpdatesOnBroker(TarnApi* api, KelError** error, KEL_OUT bool* available);
@@ -3174,11 +3426,66 @@ KEL_C_API void kel_getCurrentVersions(TarnApi* api, KelError** error, KEL_OUT Na
 KEL_C_API void kel_checkUpdateSuccess(TarnApi* api, KelError** error, KEL_OUT bool* succeeded);
 /* Removes the temporary files of updates. Position 165. */
 KEL_C_API void kel_cleanUpdateTmp(TarnApi* api, KelError** error);
+/* Updates the vehicle as config says. Position 177.
+ * config: consumed: the library frees it with release_VehicleUpdateConfig, also when the call
+ * fails; NULL passes no record.
+ * On success *results and *resultCount receive a VehicleUpdateResult list, NULL and 0 when
+ * empty; free it with release_VehicleUpdateResult_array(results, resultCount). */
+KEL_C_API void kel_updateVehicle(TarnApi* api, KEL_CONSUMED VehicleUpdateConfig* config,
+                                 KelError** error, KEL_OUT VehicleUpdateResult*** results,
+                                 KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_updateVehicle. Position 178.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * config: consumed: the library frees it with release_VehicleUpdateConfig, also when the call
+ * fails; NULL passes no record.
+ * callback receives VehicleUpdateResult lists, once or several times until isFinal, on a
+ * thread of the engine; each list and error belong to it, to free with
+ * release_VehicleUpdateResult_array and release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_updateVehicleAsync(TarnApi* api, KEL_CONSUMED VehicleUpdateConfig* config,
+                                          KelError** error, UpdateVehicleCallbackFunction callback,
+                                          void* context);
+/* Uploads a report as config says. Position 193.
+ * config: consumed: the library frees it with release_UploadReportConfiguration, also when the
+ * call fails; NULL passes no record. */
+KEL_C_API void kel_uploadReport(TarnApi* api, KEL_CONSUMED UploadReportConfiguration* config,
+                                KelError** error);
 /* Sets the address of the update broker. Position 206.
  * url: kept by the caller, read only during the call. */
 KEL_C_API void kel_setBrokerUrl(TarnApi* api, KEL_KEPT const wchar_t* url, KelError** error);
 /* Removes the update packages at hand. Position 214. */
 KEL_C_API void kel_clearUpdatePackages(TarnApi* api, KelError** error);
+/* Updates the vehicle's ECUs in the given ECU order, as config says. Position 225.
+ * config: consumed: the library frees it with release_VehicleUpdateConfig, also when the call
+ * fails; NULL passes no record.
+ * entries: kept by the caller, read only during the call.
+ * On success *results and *resultCount receive a VehicleUpdateResult list, NULL and 0 when
+ * empty; free it with release_VehicleUpdateResult_array(results, resultCount). */
+KEL_C_API void kel_performVehicleUpdate(TarnApi* api, KEL_KEPT EcuOrderEntry** entries,
+                                        uint32_t entryCount,
+                                        KEL_CONSUMED VehicleUpdateConfig* config, KelError** error,
+                                        KEL_OUT VehicleUpdateResult*** results,
+                                        KEL_OUT uint32_t* resultCount);
+/* Asynchronous form of kel_performVehicleUpdate. Position 226.
+ * Returns the call identifier at once; 0 after an error, and callback is then never called.
+ * config: consumed: the library frees it with release_VehicleUpdateConfig, also when the call
+ * fails; NULL passes no record.
+ * entries: kept by the caller, read only during the call.
+ * callback receives VehicleUpdateResult lists, once or several times until isFinal, on a
+ * thread of the engine; each list and error belong to it, to free with
+ * release_VehicleUpdateResult_array and release_KelError. context reaches callback unchanged. */
+KEL_C_API uint64_t kel_performVehicleUpdateAsync(TarnApi* api, KEL_KEPT EcuOrderEntry** entries,
+                                                 uint32_t entryCount,
+                                                 KEL_CONSUMED VehicleUpdateConfig* config,
+                                                 KelError** error,
+                                                 PerformVehicleUpdateCallbackFunction callback,
+                                                 void* context);
+/* Creates a vehicle update configuration for the given targets. Position 240.
+ * targets: kept by the caller, read only during the call.
+ * On success *config receives a VehicleUpdateConfig record, or NULL when the engine gives
+ * none; free it with release_VehicleUpdateConfig. */
+KEL_C_API void kel_createVehicleUpdateConfig(TarnApi* api, KEL_KEPT wchar_t** targets,
+                                             uint32_t targetCount, KelError** error,
+                                             KEL_OUT VehicleUpdateConfig** config);
 
 #ifdef __cplusplus
 }

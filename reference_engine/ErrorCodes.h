@@ -151,6 +151,8 @@ enum ErrorCode : int32_t {
 
     // Lifecycle, continued: engine-wide conditions.
     DataRootUnavailable = 2300, // the data root cannot be created or used
+
+    // VehicleReports: 2400-2499.
 };
 
 } // namespace Varno::Kel_cpp::Reference

@@ -21,6 +21,7 @@ struct Parts {
     SequencesSettings sequences;
     FlashSettings flash;
     CodingSettings coding;
+    EcuOrderSettings ecuOrder;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -36,6 +37,7 @@ Parts parseParts(const VehicleDescription& description) {
     parts.sequences = SequencesSettings::parse(description.section("sequences"));
     parts.flash = FlashSettings::parse(description.section("flash"), parts.ecus);
     parts.coding = CodingSettings::parse(description.section("coding"), parts.ecus);
+    parts.ecuOrder = EcuOrderSettings::parse(description.section("ecuOrder"), parts.ecus);
     return parts;
 }
 
@@ -109,6 +111,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     monitoring->load(parts.monitoring);
     flash.load(std::move(parts.flash));
     coding.load(std::move(parts.coding));
+    ecuOrder.load(std::move(parts.ecuOrder));
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -127,6 +130,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.monitoring = std::make_shared<Monitoring>(vehicle, object);
     families.flash = std::make_shared<Flash>(vehicle);
     families.coding = std::make_shared<Coding>(vehicle);
+    families.ecuOrder = std::make_shared<EcuOrder>(vehicle);
     return families;
 }
 

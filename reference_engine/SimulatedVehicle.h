@@ -13,6 +13,7 @@
 #include "Script.h"
 #include "VehicleDescription.h"
 #include "families/coding/Coding.h"
+#include "families/ecuorder/EcuOrder.h"
 #include "families/diagnostics/Diagnostics.h"
 #include "families/events/Events.h"
 #include "families/files/Files.h"
@@ -81,6 +82,7 @@ public:
     SequencesState sequences{units, events.channels};
     FlashState flash;
     CodingState coding;
+    EcuOrderState ecuOrder;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};

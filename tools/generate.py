@@ -523,6 +523,9 @@ def c_structs(records: list[kelidl.Record], iface: kelidl.Interface, documented:
             owns = rec.named or any(f.kind in ("wstr", "wstrs", "bytes", "rec", "list") for f in rec.fields)
             release = (f"Freed with release_{rec.name}{', which frees everything it points to' if owns else ''}; "
                        f"a list of them with release_{rec.name}_array.")
+            if rec.release:
+                release += (f" These are the routines of {rec.release}, whose record begins with the same "
+                            "wide strings and owns nothing else either.")
             out += c_comment([rec.doc, release])
         out.append(f"struct {rec.struct} {{")
         members: list[tuple[str, str]] = []
@@ -658,11 +661,28 @@ def record_classes_tests(iface: kelidl.Interface) -> dict[str, str]:
     return files
 
 
+def shared_release(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
+    """The release routines of a `release=` record: those of the record it names, which
+    free the same leading strings and then the block (checked here at compile time)."""
+    n, o = rec.name, rec.release
+    mine, theirs = iface.members(n), iface.members(o)
+    owned = len(kelidl.owned_prefix(iface, n) or [])
+    out = [f"static_assert(offsetof({n}, {a.name}) == offsetof({o}, {b.name}));"
+           for a, b in zip(mine[:owned], theirs[:owned])]
+    out.append(f"void release_{n}({n}* ptr) {{ release_{o}(reinterpret_cast<{o}*>(ptr)); }}")
+    out.append(f"void release_{n}_array({n}** ptr, uint64_t count) {{ "
+               f"release_{o}_array(reinterpret_cast<{o}**>(ptr), count); }}")
+    return out
+
+
 def binding_exports_cpp(iface: kelidl.Interface) -> str:
     out = [f"// {BANNER}", "// The exports: each one line over the generic frame.", "",
            '#include "frame.h"', '#include "generated/handlers.h"', "", 'extern "C" {', ""]
     for rec in iface.ready_records():
         n = rec.name
+        if rec.release:
+            out += shared_release(iface, rec)
+            continue
         out.append(f"void release_{n}({n}* ptr) {{ kel::release(ptr); }}")
         out.append(f"void release_{n}_array({n}** ptr, uint64_t count) {{ kel::releaseArray(ptr, count); }}")
     out.append("")

@@ -70,6 +70,7 @@ class Record:
     pending: bool = False  # declared by name only
     draft: bool = False  # fields known, family not built yet: no C record yet
     alias: str | None = None  # `as=`: an engine class converted to and from this C record
+    release: str | None = None  # `release=`: freed by that record's release routine
     fields: list[Field] = dataclasses.field(default_factory=list)
     line: int = 0
     doc: str = ""  # the `#:` lines above it
@@ -381,6 +382,8 @@ def parse_records(path: pathlib.Path, known: dict[str, Record] | None = None) ->
                     current.struct = attr[7:]
                 elif attr.startswith("as="):
                     current.alias = attr[3:]
+                elif attr.startswith("release="):
+                    current.release = attr[8:]
                 else:
                     raise DescriptionError(f"{where}: unknown record attribute '{attr}'")
             records[name] = current
@@ -499,6 +502,8 @@ def validate_records(records: dict[str, Record]) -> None:
     for rec in records.values():
         if rec.alias:
             _validate_alias(iface, rec)
+        if rec.release:
+            _validate_release(iface, rec)
 
 
 def _validate_base(iface: Interface, rec: Record) -> None:
@@ -520,6 +525,32 @@ def _validate_base(iface: Interface, rec: Record) -> None:
     repeated = {n for n in names if names.count(n) > 1}
     if repeated:
         raise DescriptionError(f"record {rec.name}: member {sorted(repeated)[0]} given twice along its bases")
+
+
+OWNING_KINDS = ("wstr", "wstrs", "bytes", "rec", "list")
+
+
+def owned_prefix(iface: Interface, name: str) -> list[str] | None:
+    """The kinds of the members that own memory, when they all lead the C record (and
+    nothing after them owns any); None otherwise."""
+    kinds = [f.kind for f in iface.members(name)]
+    owned = [k for k in kinds if k in OWNING_KINDS]
+    return owned if kinds[:len(owned)] == owned else None
+
+
+def _validate_release(iface: Interface, rec: Record) -> None:
+    """`release=` shares another record's release routine, which frees what that record's
+    layout says: both must own memory only in the same leading members."""
+    target = iface.records.get(rec.release)
+    if target is None or target.alias or target.abstract or target.release or target.pending:
+        raise DescriptionError(f"record {rec.name}: release={rec.release} must name a record with its own release routine")
+    if rec.alias or rec.abstract:
+        raise DescriptionError(f"record {rec.name}: only a record with a C record can share a release routine")
+    mine, theirs = owned_prefix(iface, rec.name), owned_prefix(iface, target.name)
+    if mine is None or theirs is None or mine != theirs or any(k != "wstr" for k in mine):
+        raise DescriptionError(
+            f"record {rec.name}: release={rec.release} needs both records to begin with the same wide "
+            "strings and to own nothing else")
 
 
 def _validate_alias(iface: Interface, rec: Record) -> None:

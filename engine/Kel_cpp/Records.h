@@ -1127,44 +1127,102 @@ public:
     std::shared_ptr<KelError> error;
 };
 
-class EcuOrderEntry { // fields come with its family
+class EcuOrderEntry {
 public:
     virtual ~EcuOrderEntry() = default;
+    std::wstring target;
+    std::wstring bus;
+    uint32_t address = 0;
+    bool gateway = false;
+    bool optional = false;
 };
 
-class VehicleUpdateConfig { // fields come with its family
+class VehicleUpdateConfig {
 public:
     virtual ~VehicleUpdateConfig() = default;
+    std::vector<std::wstring> targets;
+    std::vector<std::shared_ptr<UpdatePackageInfo>> packages;
+    bool stopOnError = false;
+    bool force = false;
+    uint32_t blockLength = 0;
 };
 
-class VehicleUpdateResult { // fields come with its family
+class VehicleUpdateResult {
 public:
     virtual ~VehicleUpdateResult() = default;
+    std::wstring target;
+    int32_t status = 0;
+    std::wstring package;
+    std::wstring versionBefore;
+    std::wstring versionAfter;
+    uint32_t position = 0;
+    uint32_t progress = 0;
+    uint32_t overallProgress = 0;
+    uint32_t duration = 0;
+    std::shared_ptr<KelError> error;
 };
 
-class UpdatePackageInfo { // fields come with its family
+class UpdatePackageInfo {
 public:
     virtual ~UpdatePackageInfo() = default;
+    std::wstring name;
+    std::wstring version;
+    std::wstring description;
+    uint32_t kind = 0;
+    std::vector<std::wstring> targets;
+    uint64_t size = 0;
+    std::wstring checksum;
+    std::wstring location;
+    int32_t state = 0;
 };
 
-class VehicleReportConfig { // fields come with its family
+class VehicleReportConfig {
 public:
     virtual ~VehicleReportConfig() = default;
+    std::wstring name;
+    std::wstring title;
+    std::wstring comment;
+    std::vector<std::wstring> targets;
+    bool identification = false;
+    bool dtcs = false;
 };
 
-class VehicleData { // fields come with its family
+class VehicleData {
 public:
     virtual ~VehicleData() = default;
+    std::wstring vin;
+    std::wstring model;
+    std::wstring target;
+    std::wstring variant;
+    std::wstring softwareVersion;
+    std::wstring bus;
+    uint32_t address = 0;
+    int32_t status = 0;
+    uint32_t dtcCount = 0;
 };
 
-class UploadReportConfiguration { // fields come with its family
+class UploadReportConfiguration {
 public:
     virtual ~UploadReportConfiguration() = default;
+    std::wstring reportFile;
+    std::wstring folder;
+    std::wstring name;
+    std::wstring vin;
+    std::wstring user;
+    std::wstring comment;
+    bool overwrite = false;
+    bool withTwin = false;
 };
 
-class VehicleInformation { // fields come with its family
+class VehicleInformation {
 public:
     virtual ~VehicleInformation() = default;
+    std::wstring vin;
+    std::wstring model;
+    uint32_t modelYear = 0;
+    uint32_t mileage = 0;
+    std::wstring licensePlate;
+    std::vector<std::wstring> equipment;
 };
 
 } // namespace Varno::Kel_cpp

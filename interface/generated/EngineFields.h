@@ -921,42 +921,89 @@ struct Of<EcuConfigurationResult> {
 
 template <>
 struct Of<EcuOrderEntry> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("target", &EcuOrderEntry::target), member("bus", &EcuOrderEntry::bus),
+        member("address", &EcuOrderEntry::address), member("gateway", &EcuOrderEntry::gateway),
+        member("optional", &EcuOrderEntry::optional));
 };
 
 template <>
 struct Of<VehicleUpdateConfig> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("targets", &VehicleUpdateConfig::targets),
+                        member("packages", &VehicleUpdateConfig::packages),
+                        member("stopOnError", &VehicleUpdateConfig::stopOnError),
+                        member("force", &VehicleUpdateConfig::force),
+                        member("blockLength", &VehicleUpdateConfig::blockLength));
 };
 
 template <>
 struct Of<VehicleUpdateResult> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("target", &VehicleUpdateResult::target),
+                        member("status", &VehicleUpdateResult::status),
+                        member("package", &VehicleUpdateResult::package),
+                        member("versionBefore", &VehicleUpdateResult::versionBefore),
+                        member("versionAfter", &VehicleUpdateResult::versionAfter),
+                        member("position", &VehicleUpdateResult::position),
+                        member("progress", &VehicleUpdateResult::progress),
+                        member("overallProgress", &VehicleUpdateResult::overallProgress),
+                        member("duration", &VehicleUpdateResult::duration),
+                        member("error", &VehicleUpdateResult::error));
 };
 
 template <>
 struct Of<UpdatePackageInfo> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("name", &UpdatePackageInfo::name), member("version", &UpdatePackageInfo::version),
+        member("description", &UpdatePackageInfo::description),
+        member("kind", &UpdatePackageInfo::kind), member("targets", &UpdatePackageInfo::targets),
+        member("size", &UpdatePackageInfo::size), member("checksum", &UpdatePackageInfo::checksum),
+        member("location", &UpdatePackageInfo::location),
+        member("state", &UpdatePackageInfo::state));
 };
 
 template <>
 struct Of<VehicleReportConfig> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("name", &VehicleReportConfig::name), member("title", &VehicleReportConfig::title),
+        member("comment", &VehicleReportConfig::comment),
+        member("targets", &VehicleReportConfig::targets),
+        member("identification", &VehicleReportConfig::identification),
+        member("dtcs", &VehicleReportConfig::dtcs));
 };
 
 template <>
 struct Of<VehicleData> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("vin", &VehicleData::vin), member("model", &VehicleData::model),
+        member("target", &VehicleData::target), member("variant", &VehicleData::variant),
+        member("softwareVersion", &VehicleData::softwareVersion), member("bus", &VehicleData::bus),
+        member("address", &VehicleData::address), member("status", &VehicleData::status),
+        member("dtcCount", &VehicleData::dtcCount));
 };
 
 template <>
 struct Of<UploadReportConfiguration> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list =
+        std::make_tuple(member("reportFile", &UploadReportConfiguration::reportFile),
+                        member("folder", &UploadReportConfiguration::folder),
+                        member("name", &UploadReportConfiguration::name),
+                        member("vin", &UploadReportConfiguration::vin),
+                        member("user", &UploadReportConfiguration::user),
+                        member("comment", &UploadReportConfiguration::comment),
+                        member("overwrite", &UploadReportConfiguration::overwrite),
+                        member("withTwin", &UploadReportConfiguration::withTwin));
 };
 
 template <>
 struct Of<VehicleInformation> {
-    static constexpr auto list = std::make_tuple();
+    static constexpr auto list = std::make_tuple(
+        member("vin", &VehicleInformation::vin), member("model", &VehicleInformation::model),
+        member("modelYear", &VehicleInformation::modelYear),
+        member("mileage", &VehicleInformation::mileage),
+        member("licensePlate", &VehicleInformation::licensePlate),
+        member("equipment", &VehicleInformation::equipment));
 };
 
 } // namespace Varno::Kel_cpp::Fields

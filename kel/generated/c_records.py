@@ -438,6 +438,38 @@ class C_EcuConfigurationResult(ctypes.Structure):
     _fields_ = [("target", ctypes.c_void_p), ("configuration", ctypes.c_void_p), ("status", ctypes.c_int32), ("written", ctypes.c_uint32), ("error", ctypes.c_void_p)]
 
 
+class C_EcuOrderEntry(ctypes.Structure):
+    _fields_ = [("target", ctypes.c_void_p), ("bus", ctypes.c_void_p), ("address", ctypes.c_uint32), ("gateway", ctypes.c_uint8), ("optional", ctypes.c_uint8)]
+
+
+class C_VehicleUpdateConfig(ctypes.Structure):
+    _fields_ = [("targets", ctypes.c_void_p), ("targetCount", ctypes.c_uint32), ("packages", ctypes.c_void_p), ("packageCount", ctypes.c_uint32), ("stopOnError", ctypes.c_uint8), ("force", ctypes.c_uint8), ("blockLength", ctypes.c_uint32)]
+
+
+class C_VehicleUpdateResult(ctypes.Structure):
+    _fields_ = [("target", ctypes.c_void_p), ("status", ctypes.c_int32), ("package", ctypes.c_void_p), ("versionBefore", ctypes.c_void_p), ("versionAfter", ctypes.c_void_p), ("position", ctypes.c_uint32), ("progress", ctypes.c_uint32), ("overallProgress", ctypes.c_uint32), ("duration", ctypes.c_uint32), ("error", ctypes.c_void_p)]
+
+
+class C_UpdatePackageInfo(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("version", ctypes.c_void_p), ("description", ctypes.c_void_p), ("kind", ctypes.c_uint32), ("targets", ctypes.c_void_p), ("targetCount", ctypes.c_uint32), ("size", ctypes.c_uint64), ("checksum", ctypes.c_void_p), ("location", ctypes.c_void_p), ("state", ctypes.c_int32)]
+
+
+class C_VehicleReportConfig(ctypes.Structure):
+    _fields_ = [("name", ctypes.c_void_p), ("title", ctypes.c_void_p), ("comment", ctypes.c_void_p), ("targets", ctypes.c_void_p), ("targetCount", ctypes.c_uint32), ("identification", ctypes.c_uint8), ("dtcs", ctypes.c_uint8)]
+
+
+class C_VehicleData(ctypes.Structure):
+    _fields_ = [("vin", ctypes.c_void_p), ("model", ctypes.c_void_p), ("target", ctypes.c_void_p), ("variant", ctypes.c_void_p), ("softwareVersion", ctypes.c_void_p), ("bus", ctypes.c_void_p), ("address", ctypes.c_uint32), ("status", ctypes.c_int32), ("dtcCount", ctypes.c_uint32)]
+
+
+class C_UploadReportConfiguration(ctypes.Structure):
+    _fields_ = [("reportFile", ctypes.c_void_p), ("folder", ctypes.c_void_p), ("name", ctypes.c_void_p), ("vin", ctypes.c_void_p), ("user", ctypes.c_void_p), ("comment", ctypes.c_void_p), ("overwrite", ctypes.c_uint8), ("withTwin", ctypes.c_uint8)]
+
+
+class C_VehicleInformation(ctypes.Structure):
+    _fields_ = [("vin", ctypes.c_void_p), ("model", ctypes.c_void_p), ("modelYear", ctypes.c_uint32), ("mileage", ctypes.c_uint32), ("licensePlate", ctypes.c_void_p), ("equipment", ctypes.c_void_p), ("equipmentCount", ctypes.c_uint32)]
+
+
 def from_c_MvciServerError(address: Optional[int]) -> Optional[records.MvciServerError]:
     if not address:
         return None
@@ -1757,6 +1789,128 @@ def from_c_EcuConfigurationResult(address: Optional[int]) -> Optional[records.Ec
         status=s.status,
         written=s.written,
         error=from_c_KelError(s.error),
+    )
+
+
+def from_c_EcuOrderEntry(address: Optional[int]) -> Optional[records.EcuOrderEntry]:
+    if not address:
+        return None
+    s = C_EcuOrderEntry.from_address(address)
+    return records.EcuOrderEntry(
+        target=_text(s.target),
+        bus=_text(s.bus),
+        address=s.address,
+        gateway=bool(s.gateway),
+        optional=bool(s.optional),
+    )
+
+
+def from_c_VehicleUpdateConfig(address: Optional[int]) -> Optional[records.VehicleUpdateConfig]:
+    if not address:
+        return None
+    s = C_VehicleUpdateConfig.from_address(address)
+    return records.VehicleUpdateConfig(
+        targets=_texts(s.targets, s.targetCount),
+        packages=from_c_list(s.packages, s.packageCount, from_c_UpdatePackageInfo),
+        stop_on_error=bool(s.stopOnError),
+        force=bool(s.force),
+        block_length=s.blockLength,
+    )
+
+
+def from_c_VehicleUpdateResult(address: Optional[int]) -> Optional[records.VehicleUpdateResult]:
+    if not address:
+        return None
+    s = C_VehicleUpdateResult.from_address(address)
+    return records.VehicleUpdateResult(
+        target=_text(s.target),
+        status=s.status,
+        package=_text(s.package),
+        version_before=_text(s.versionBefore),
+        version_after=_text(s.versionAfter),
+        position=s.position,
+        progress=s.progress,
+        overall_progress=s.overallProgress,
+        duration=s.duration,
+        error=from_c_KelError(s.error),
+    )
+
+
+def from_c_UpdatePackageInfo(address: Optional[int]) -> Optional[records.UpdatePackageInfo]:
+    if not address:
+        return None
+    s = C_UpdatePackageInfo.from_address(address)
+    return records.UpdatePackageInfo(
+        name=_text(s.name),
+        version=_text(s.version),
+        description=_text(s.description),
+        kind=s.kind,
+        targets=_texts(s.targets, s.targetCount),
+        size=s.size,
+        checksum=_text(s.checksum),
+        location=_text(s.location),
+        state=s.state,
+    )
+
+
+def from_c_VehicleReportConfig(address: Optional[int]) -> Optional[records.VehicleReportConfig]:
+    if not address:
+        return None
+    s = C_VehicleReportConfig.from_address(address)
+    return records.VehicleReportConfig(
+        name=_text(s.name),
+        title=_text(s.title),
+        comment=_text(s.comment),
+        targets=_texts(s.targets, s.targetCount),
+        identification=bool(s.identification),
+        dtcs=bool(s.dtcs),
+    )
+
+
+def from_c_VehicleData(address: Optional[int]) -> Optional[records.VehicleData]:
+    if not address:
+        return None
+    s = C_VehicleData.from_address(address)
+    return records.VehicleData(
+        vin=_text(s.vin),
+        model=_text(s.model),
+        target=_text(s.target),
+        variant=_text(s.variant),
+        software_version=_text(s.softwareVersion),
+        bus=_text(s.bus),
+        address=s.address,
+        status=s.status,
+        dtc_count=s.dtcCount,
+    )
+
+
+def from_c_UploadReportConfiguration(address: Optional[int]) -> Optional[records.UploadReportConfiguration]:
+    if not address:
+        return None
+    s = C_UploadReportConfiguration.from_address(address)
+    return records.UploadReportConfiguration(
+        report_file=_text(s.reportFile),
+        folder=_text(s.folder),
+        name=_text(s.name),
+        vin=_text(s.vin),
+        user=_text(s.user),
+        comment=_text(s.comment),
+        overwrite=bool(s.overwrite),
+        with_twin=bool(s.withTwin),
+    )
+
+
+def from_c_VehicleInformation(address: Optional[int]) -> Optional[records.VehicleInformation]:
+    if not address:
+        return None
+    s = C_VehicleInformation.from_address(address)
+    return records.VehicleInformation(
+        vin=_text(s.vin),
+        model=_text(s.model),
+        model_year=s.modelYear,
+        mileage=s.mileage,
+        license_plate=_text(s.licensePlate),
+        equipment=_texts(s.equipment, s.equipmentCount),
     )
 
 
@@ -3082,6 +3236,128 @@ def to_c_EcuConfigurationResult(lib: Any, v: Optional[records.EcuConfigurationRe
     return address
 
 
+def to_c_EcuOrderEntry(lib: Any, v: Optional[records.EcuOrderEntry]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_EcuOrderEntry))
+    s = C_EcuOrderEntry.from_address(address)
+    s.target = lib.duplicate_WString(v.target)
+    s.bus = lib.duplicate_WString(v.bus)
+    s.address = v.address
+    s.gateway = v.gateway
+    s.optional = v.optional
+    return address
+
+
+def to_c_VehicleUpdateConfig(lib: Any, v: Optional[records.VehicleUpdateConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_VehicleUpdateConfig))
+    s = C_VehicleUpdateConfig.from_address(address)
+    s.targets, s.targetCount = heap_texts(lib, v.targets, False)
+    s.packages, s.packageCount = heap_list(lib, v.packages, to_c_UpdatePackageInfo)
+    s.stopOnError = v.stop_on_error
+    s.force = v.force
+    s.blockLength = v.block_length
+    return address
+
+
+def to_c_VehicleUpdateResult(lib: Any, v: Optional[records.VehicleUpdateResult]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_VehicleUpdateResult))
+    s = C_VehicleUpdateResult.from_address(address)
+    s.target = lib.duplicate_WString(v.target)
+    s.status = v.status
+    s.package = lib.duplicate_WString(v.package)
+    s.versionBefore = lib.duplicate_WString(v.version_before)
+    s.versionAfter = lib.duplicate_WString(v.version_after)
+    s.position = v.position
+    s.progress = v.progress
+    s.overallProgress = v.overall_progress
+    s.duration = v.duration
+    s.error = to_c_KelError(lib, v.error)
+    return address
+
+
+def to_c_UpdatePackageInfo(lib: Any, v: Optional[records.UpdatePackageInfo]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_UpdatePackageInfo))
+    s = C_UpdatePackageInfo.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.version = lib.duplicate_WString(v.version)
+    s.description = lib.duplicate_WString(v.description)
+    s.kind = v.kind
+    s.targets, s.targetCount = heap_texts(lib, v.targets, False)
+    s.size = v.size
+    s.checksum = lib.duplicate_WString(v.checksum)
+    s.location = lib.duplicate_WString(v.location)
+    s.state = v.state
+    return address
+
+
+def to_c_VehicleReportConfig(lib: Any, v: Optional[records.VehicleReportConfig]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_VehicleReportConfig))
+    s = C_VehicleReportConfig.from_address(address)
+    s.name = lib.duplicate_WString(v.name)
+    s.title = lib.duplicate_WString(v.title)
+    s.comment = lib.duplicate_WString(v.comment)
+    s.targets, s.targetCount = heap_texts(lib, v.targets, False)
+    s.identification = v.identification
+    s.dtcs = v.dtcs
+    return address
+
+
+def to_c_VehicleData(lib: Any, v: Optional[records.VehicleData]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_VehicleData))
+    s = C_VehicleData.from_address(address)
+    s.vin = lib.duplicate_WString(v.vin)
+    s.model = lib.duplicate_WString(v.model)
+    s.target = lib.duplicate_WString(v.target)
+    s.variant = lib.duplicate_WString(v.variant)
+    s.softwareVersion = lib.duplicate_WString(v.software_version)
+    s.bus = lib.duplicate_WString(v.bus)
+    s.address = v.address
+    s.status = v.status
+    s.dtcCount = v.dtc_count
+    return address
+
+
+def to_c_UploadReportConfiguration(lib: Any, v: Optional[records.UploadReportConfiguration]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_UploadReportConfiguration))
+    s = C_UploadReportConfiguration.from_address(address)
+    s.reportFile = lib.duplicate_WString(v.report_file)
+    s.folder = lib.duplicate_WString(v.folder)
+    s.name = lib.duplicate_WString(v.name)
+    s.vin = lib.duplicate_WString(v.vin)
+    s.user = lib.duplicate_WString(v.user)
+    s.comment = lib.duplicate_WString(v.comment)
+    s.overwrite = v.overwrite
+    s.withTwin = v.with_twin
+    return address
+
+
+def to_c_VehicleInformation(lib: Any, v: Optional[records.VehicleInformation]) -> int:
+    if v is None:
+        return 0
+    address = heap_block(lib, ctypes.sizeof(C_VehicleInformation))
+    s = C_VehicleInformation.from_address(address)
+    s.vin = lib.duplicate_WString(v.vin)
+    s.model = lib.duplicate_WString(v.model)
+    s.modelYear = v.model_year
+    s.mileage = v.mileage
+    s.licensePlate = lib.duplicate_WString(v.license_plate)
+    s.equipment, s.equipmentCount = heap_texts(lib, v.equipment, False)
+    return address
+
+
 def start_identifyAllTargetsAsync(lib: Any, api: int, callback: Any) -> tuple[int, Optional[records.KelError]]:
     """kel_identifyAllTargetsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
@@ -3256,6 +3532,16 @@ def start_executeFlashSessionsConfigAsync(lib: Any, api: int, callback: Any, con
     return call_id, failure
 
 
+def start_updateVehicleAsync(lib: Any, api: int, callback: Any, config: Optional[records.VehicleUpdateConfig]) -> tuple[int, Optional[records.KelError]]:
+    """kel_updateVehicleAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    call_id: int = lib.kel_updateVehicleAsync(api, to_c_VehicleUpdateConfig(lib, config), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
 def start_executeServiceInDefaultSessionAsync(lib: Any, api: int, callback: Any, target: str, services: Sequence[Optional[records.ServiceInput]]) -> tuple[int, Optional[records.KelError]]:
     """kel_executeServiceInDefaultSessionAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
@@ -3284,6 +3570,20 @@ def start_writeCodingFileAsync(lib: Any, api: int, callback: Any, coding_file: s
     """kel_writeCodingFileAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
     call_id: int = lib.kel_writeCodingFileAsync(api, coding_file, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
+    failure = from_c_KelError(error.value)
+    if error.value:
+        lib.release_KelError(error.value)
+    return call_id, failure
+
+
+def start_performVehicleUpdateAsync(lib: Any, api: int, callback: Any, entries: Sequence[Optional[records.EcuOrderEntry]], config: Optional[records.VehicleUpdateConfig]) -> tuple[int, Optional[records.KelError]]:
+    """kel_performVehicleUpdateAsync: the call id, or 0 and the error of a failed start."""
+    error = ctypes.c_void_p()
+    l_entries = heap_list(lib, entries, to_c_EcuOrderEntry)[0]
+    try:
+        call_id: int = lib.kel_performVehicleUpdateAsync(api, l_entries, len(entries), to_c_VehicleUpdateConfig(lib, config), ctypes.byref(error), callback, None)
+    finally:
+        lib.release_EcuOrderEntry_array(l_entries, len(entries))
     failure = from_c_KelError(error.value)
     if error.value:
         lib.release_KelError(error.value)
@@ -3343,9 +3643,11 @@ EXPORTS: dict[str, tuple[Any, list[Any]]] = {
     "kel_copyFilesAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_copyDirectoriesAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_executeFlashSessionsConfigAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_updateVehicleAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_executeServiceInDefaultSessionAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_copyPathAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_writeCodingFileAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
+    "kel_performVehicleUpdateAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_void_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_executeSequenceAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_performEcuConfigurationAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_wchar_p, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
     "kel_clearSpecificDtcsAsync": (ctypes.c_uint64, [ctypes.c_void_p, ctypes.c_wchar_p, ctypes.c_void_p, ctypes.c_uint32, ctypes.POINTER(ctypes.c_void_p), CALLBACK, ctypes.c_void_p]),
@@ -3441,4 +3743,12 @@ EXPORTS: dict[str, tuple[Any, list[Any]]] = {
     "release_CodingFileResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_QuickTestResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
     "release_EcuConfigurationResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_EcuOrderEntry_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_VehicleUpdateConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_VehicleUpdateResult_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_UpdatePackageInfo_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_VehicleReportConfig_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_VehicleData_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_UploadReportConfiguration_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
+    "release_VehicleInformation_array": (None, [ctypes.c_void_p, ctypes.c_uint64]),
 }

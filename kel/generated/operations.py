@@ -1478,6 +1478,77 @@ class Operations:
         _b = self._call(136, builtins.bytes(_o))
         return stream.read_DirectoryInfo(_b, 0)[0]
 
+    def create_vehicle_report(self, config: Optional[records.VehicleReportConfig] = None) -> str:
+        """Creates a vehicle report as config says; returns the report file.
+
+        C: kel_createVehicleReport; number 146; engine position 111.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_VehicleReportConfig(_o, config)
+        _b = self._call(146, builtins.bytes(_o))
+        return _b[4:].decode()
+
+    def read_ecu_order(self, path: str) -> list[Optional[records.EcuOrderEntry]]:
+        """Reads an ECU order from a file.
+
+        C: kel_readEcuOrder; number 143; engine position 112.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _b = self._call(143, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.EcuOrderEntry]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_EcuOrderEntry(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def filter_ecu_order(self, entries: Sequence[Optional[records.EcuOrderEntry]] = (), targets: Sequence[str] = ()) -> list[Optional[records.EcuOrderEntry]]:
+        """Filters an ECU order down to the given targets.
+
+        C: kel_filterEcuOrder; number 144; engine position 113.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(entries))
+        for _e in entries:
+            stream.write_EcuOrderEntry(_o, _e)
+        stream.write_texts(_o, targets)
+        _b = self._call(144, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.EcuOrderEntry]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_EcuOrderEntry(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def add_missing_targets_to_ecu_order(self, entries: Sequence[Optional[records.EcuOrderEntry]] = ()) -> list[Optional[records.EcuOrderEntry]]:
+        """Completes an ECU order with the targets that it lacks.
+
+        C: kel_addMissingTargetsToEcuOrder; number 145; engine position 114.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(entries))
+        for _e in entries:
+            stream.write_EcuOrderEntry(_o, _e)
+        _b = self._call(145, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.EcuOrderEntry]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_EcuOrderEntry(_b, _p)
+            _results.append(_r)
+        return _results
+
     def lock(self) -> int:
         """Takes the engine's lock and returns the lock identifier that kel_unlock
         takes.
@@ -1885,6 +1956,40 @@ class Operations:
         _o = bytearray()
         self._call(188, builtins.bytes(_o))
 
+    def get_update_packages(self) -> list[Optional[records.UpdatePackageInfo]]:
+        """Lists the update packages at hand.
+
+        C: kel_getUpdatePackages; number 184; engine position 154.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(184, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.UpdatePackageInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_UpdatePackageInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def get_packages_from_broker(self) -> list[Optional[records.UpdatePackageInfo]]:
+        """Lists the update packages that the broker offers.
+
+        C: kel_getPackagesFromBroker; number 164; engine position 155.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(164, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.UpdatePackageInfo]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_UpdatePackageInfo(_b, _p)
+            _results.append(_r)
+        return _results
+
     def check_updates_on_broker(self) -> bool:
         """Tells whether the broker has updates.
 
@@ -2129,6 +2234,34 @@ class Operations:
             _results.append(_r)
         return _results
 
+    def update_vehicle(self, config: Optional[records.VehicleUpdateConfig] = None) -> list[Optional[records.VehicleUpdateResult]]:
+        """Updates the vehicle as config says.
+
+        C: kel_updateVehicle; number 211; engine position 177.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_VehicleUpdateConfig(_o, config)
+        _b = self._call(211, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.VehicleUpdateResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_VehicleUpdateResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def update_vehicle_async(self, config: Optional[records.VehicleUpdateConfig] = None) -> AsyncCall:
+        """Updates the vehicle as config says.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_updateVehicleAsync; engine position 177.
+        """
+        return self._start(c_records.start_updateVehicleAsync, c_records.from_c_VehicleUpdateResult, "release_VehicleUpdateResult_array", config)
+
     def execute_service_in_default_session(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> list[Optional[records.ServiceResult]]:
         """Executes diagnostic services on one target, as kel_executeService does, in
         the default diagnostic session.
@@ -2269,6 +2402,23 @@ class Operations:
         _b = self._call(225, builtins.bytes(_o))
         return _b[4:].decode()
 
+    def get_vehicle_data(self) -> list[Optional[records.VehicleData]]:
+        """Reads the vehicle data.
+
+        C: kel_getVehicleData; number 202; engine position 191.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(202, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.VehicleData]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_VehicleData(_b, _p)
+            _results.append(_r)
+        return _results
+
     def get_projects_details(self, project_names: Sequence[str] = ()) -> list[Optional[records.ProjectDetails]]:
         """Reads the details of the given projects.
 
@@ -2286,6 +2436,17 @@ class Operations:
             _r, _p = stream.read_ProjectDetails(_b, _p)
             _results.append(_r)
         return _results
+
+    def upload_report(self, config: Optional[records.UploadReportConfiguration] = None) -> None:
+        """Uploads a report as config says.
+
+        C: kel_uploadReport; number 223; engine position 193.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_UploadReportConfiguration(_o, config)
+        self._call(223, builtins.bytes(_o))
 
     def get_file_references(self, files: Sequence[str] = ()) -> list[Optional[records.FileReferenceResult]]:
         """Lists the references of the given files; one result per file.
@@ -2552,6 +2713,23 @@ class Operations:
         _b = self._call(249, builtins.bytes(_o))
         return stream.read_texts(_b, 0)[0]
 
+    def create_default_ecu_order(self) -> list[Optional[records.EcuOrderEntry]]:
+        """Creates the default ECU order.
+
+        C: kel_createDefaultECUOrder; number 250; engine position 220.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(250, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.EcuOrderEntry]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_EcuOrderEntry(_b, _p)
+            _results.append(_r)
+        return _results
+
     def write_coding_file(self, coding_file: str, targets: Sequence[str] = ()) -> list[Optional[records.CodingFileResult]]:
         """Writes a coding file to the given targets.
 
@@ -2581,6 +2759,20 @@ class Operations:
         """
         return self._start(c_records.start_writeCodingFileAsync, c_records.from_c_CodingFileResult, "release_CodingFileResult_array", coding_file, targets)
 
+    def write_ecu_order(self, path: str, entries: Sequence[Optional[records.EcuOrderEntry]] = ()) -> None:
+        """Writes an ECU order to a file.
+
+        C: kel_writeEcuOrder; number 255; engine position 223.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_text(_o, path)
+        _o += struct.pack("<I", len(entries))
+        for _e in entries:
+            stream.write_EcuOrderEntry(_o, _e)
+        self._call(255, builtins.bytes(_o))
+
     def get_ecu_order_file_path(self) -> str:
         """Reads the path of the ECU order file.
 
@@ -2591,6 +2783,37 @@ class Operations:
         _o = bytearray()
         _b = self._call(256, builtins.bytes(_o))
         return _b[4:].decode()
+
+    def perform_vehicle_update(self, entries: Sequence[Optional[records.EcuOrderEntry]] = (), config: Optional[records.VehicleUpdateConfig] = None) -> list[Optional[records.VehicleUpdateResult]]:
+        """Updates the vehicle's ECUs in the given ECU order, as config says.
+
+        C: kel_performVehicleUpdate; number 257; engine position 225.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(entries))
+        for _e in entries:
+            stream.write_EcuOrderEntry(_o, _e)
+        stream.write_VehicleUpdateConfig(_o, config)
+        _b = self._call(257, builtins.bytes(_o))
+        (_n,) = struct.unpack_from("<I", _b)
+        _p = 4
+        _results: list[Optional[records.VehicleUpdateResult]] = []
+        for _ in range(_n):
+            _r, _p = stream.read_VehicleUpdateResult(_b, _p)
+            _results.append(_r)
+        return _results
+
+    def perform_vehicle_update_async(self, entries: Sequence[Optional[records.EcuOrderEntry]] = (), config: Optional[records.VehicleUpdateConfig] = None) -> AsyncCall:
+        """Updates the vehicle's ECUs in the given ECU order, as config says.
+
+        Runs asynchronously: the handle iterates over the reports, gives the results
+        with result() or await, and cancel() cancels it.
+
+        C: kel_performVehicleUpdateAsync; engine position 225.
+        """
+        return self._start(c_records.start_performVehicleUpdateAsync, c_records.from_c_VehicleUpdateResult, "release_VehicleUpdateResult_array", entries, config)
 
     def trigger_async_cancels(self, call_ids: Sequence[int] = ()) -> None:
         """Asks the engine to cancel the asynchronous calls with the given call
@@ -2647,6 +2870,20 @@ class Operations:
         stream.write_text(_o, name)
         stream.write_text(_o, path)
         self._call(261, builtins.bytes(_o))
+
+    def create_vehicle_update_report(self, results: Sequence[Optional[records.VehicleUpdateResult]] = ()) -> str:
+        """Creates a report of vehicle update results; returns the report file.
+
+        C: kel_createVehicleUpdateReport; number 264; engine position 231.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _o += struct.pack("<I", len(results))
+        for _e in results:
+            stream.write_VehicleUpdateResult(_o, _e)
+        _b = self._call(264, builtins.bytes(_o))
+        return _b[4:].decode()
 
     def get_parameter_info(self, config: Optional[records.ParameterInfoConfig] = None) -> Optional[records.ParameterInfo]:
         """Describes the one parameter that config selects.
@@ -2749,6 +2986,18 @@ class Operations:
         stream.write_LogInOutConfig(_o, config)
         self._call(216, builtins.bytes(_o))
 
+    def create_vehicle_update_config(self, targets: Sequence[str] = ()) -> Optional[records.VehicleUpdateConfig]:
+        """Creates a vehicle update configuration for the given targets.
+
+        C: kel_createVehicleUpdateConfig; number 154; engine position 240.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_texts(_o, targets)
+        _b = self._call(154, builtins.bytes(_o))
+        return stream.read_VehicleUpdateConfig(_b, 0)[0]
+
     def get_project_configurations(self) -> list[Optional[records.ProjectConfig]]:
         """Lists the configurations of every project.
 
@@ -2843,6 +3092,28 @@ class Operations:
         _o = bytearray()
         _b = self._call(55, builtins.bytes(_o))
         return stream.read_ServerSettings(_b, 0)[0]
+
+    def get_selected_vehicle_information(self) -> Optional[records.VehicleInformation]:
+        """Reads the information about the selected vehicle.
+
+        C: kel_getSelectedVehicleInformation; number 56; engine position 249.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        _b = self._call(56, builtins.bytes(_o))
+        return stream.read_VehicleInformation(_b, 0)[0]
+
+    def set_selected_vehicle_information(self, information: Optional[records.VehicleInformation] = None) -> None:
+        """Selects a vehicle by its information.
+
+        C: kel_setSelectedVehicleInformation; number 57; engine position 250.
+
+        Raises EngineError when the engine reports a failure.
+        """
+        _o = bytearray()
+        stream.write_VehicleInformation(_o, information)
+        self._call(57, builtins.bytes(_o))
 
     def get_targets(self) -> list[Optional[records.Target]]:
         """Lists the targets (control units) of the project.

@@ -1716,4 +1716,189 @@ class EcuConfigurationResult:
     """The error of this target, or None."""
 
 
-__all__ = ["MvciServerError", "NegativeResponse", "KelError", "NamedItem", "ParameterResult", "ClearDtcResult", "DtcReadConfig", "ReadDtcResult", "DtcResult", "SpecialDataGroup", "VariantIdentResult", "ReadDataResult", "Target", "TargetStatus", "TargetFilter", "ParameterInput", "ServiceInput", "ServiceResult", "ResponseResult", "RequestResult", "UnlockResult", "ServiceInfo", "ResponseInfo", "ParameterInfo", "ConstraintInfo", "ScaleConstraintInfo", "UnitInfo", "ParameterInfoConfig", "KelEvent", "EventReport", "FileFilter", "TargetConfig", "ProjectConfig", "ProjectDetails", "DbFileInfo", "SystemInfo", "SystemProperty", "TarnApiConfig", "ServerConfig", "Oauth2Config", "MoxConfig", "TcpInfo", "StatusInfo", "TransmissionInfo", "ProcessInfo", "ProcessEntry", "ProcessThread", "ProcessMemory", "GlobalProtocolParameterSet", "GlobalProtocolParameter", "LoadDatabaseResult", "InterfaceInformation", "ResourceInformation", "InterfaceInformationItem", "ScanInterfaceResult", "DynInterfaceDetection", "ModuleDyn", "DeviceInfo", "PhysicalLinksOnModule", "PhysicalLink", "InterfaceConfiguration", "InterfaceConfigurationEntry", "InterfaceProvider", "DoIPParameter", "WLanSignalData", "SupportedInterface", "MonitoringItem", "MonitoringItemDetail", "PduMonitoringItem", "PduMonitoringItemDetail", "FileInfo", "DirectoryInfo", "FileCopyResult", "DirectoryCopyResult", "DirectoryCopyItem", "PathCopyResult", "PathCopyItem", "FileReferenceResult", "FileCopyConfig", "DirectoryCopyConfig", "PathCopyConfig", "UserInfo", "LogInOutConfig", "TarnApiServerConfig", "ServerSettings", "FlashSessionInfo", "FlashSessionResult", "FlashSessionsConfig", "CodingStringResult", "CodingFileResult", "QuickTestResult", "EcuConfigurationResult"]
+@dataclasses.dataclass(**_OPTIONS)
+class EcuOrderEntry:
+    """
+    One control unit's place in an ECU order, the order in which a vehicle update visits
+    the units.
+    """
+    target: str = ""
+    """The unit's name."""
+    bus: str = ""
+    """The bus it is reached on, as the vehicle description names it."""
+    address: int = 0
+    """Its diagnostic address."""
+    gateway: bool = False
+    """1 for the gateway, through which the other units are reached."""
+    optional: bool = False
+    """1: the vehicle may lack the unit; an update then skips it instead of failing it."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class VehicleUpdateConfig:
+    """
+    What a vehicle update installs, and how it goes on after a failure. Handed out by
+    createVehicleUpdateConfig; an input that updateVehicle and performVehicleUpdate
+    consume.
+    """
+    targets: list[str] = dataclasses.field(default_factory=list)
+    """The units the update covers; it visits them in ECU order, not in this one."""
+    packages: list[Optional[UpdatePackageInfo]] = dataclasses.field(default_factory=list)
+    """
+    The packages to install, by name and version, at most one per unit; a covered unit
+    without one is left as it is.
+    """
+    stop_on_error: bool = False
+    """
+    1: once a unit fails, the later units are left untouched; 0: they are updated all
+    the same.
+    """
+    force: bool = False
+    """1: also install a package on a unit that already runs its version."""
+    block_length: int = 0
+    """The largest block to transfer at once in bytes; 0: as large as each unit takes."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class VehicleUpdateResult:
+    """What a vehicle update did to one unit, or how far it has got in an asynchronous report."""
+    target: str = ""
+    """The unit's name."""
+    status: int = 0
+    """
+    0 updated, 1 running (a report before the end), 2 failed, 3 not run (cancelled, or
+    left after a failure), 4 up to date (nothing to install), 5 absent (an optional unit
+    the vehicle lacks).
+    """
+    package: str = ""
+    """The name of the package installed; empty when none was chosen for the unit."""
+    version_before: str = ""
+    """The software version the unit reported before the update."""
+    version_after: str = ""
+    """The version it reports now; empty while its update is incomplete."""
+    position: int = 0
+    """The unit's place in the ECU order, from 1."""
+    progress: int = 0
+    """Per cent of this unit's update done, 0 to 100."""
+    overall_progress: int = 0
+    """Per cent of the whole update done, 0 to 100."""
+    duration: int = 0
+    """The milliseconds of vehicle time this unit's update has taken so far."""
+    error: Optional[KelError] = None
+    """Why the unit failed or was not run; None when it did not."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class UpdatePackageInfo:
+    """
+    An update package: software for control units, or for a component of the engine,
+    with the checksum of its payload.
+    """
+    name: str = ""
+    """The package's name."""
+    version: str = ""
+    """The software version it installs."""
+    description: str = ""
+    """What it brings, for a person."""
+    kind: int = 0
+    """
+    1 control-unit software (installed by a vehicle update), 2 a component of the engine
+    (installed by applyUpdatePackage or autoUpdate).
+    """
+    targets: list[str] = dataclasses.field(default_factory=list)
+    """The units it is for (kind 1), or the one component it replaces (kind 2)."""
+    size: int = 0
+    """The payload's bytes."""
+    checksum: str = ""
+    """The payload's checksum as its manifest gives it: "crc32:" and eight hex digits."""
+    location: str = ""
+    """Where it lies: its folder in the sandbox once downloaded, else its folder on the broker."""
+    state: int = 0
+    """0 offered by the broker, 1 downloaded, 2 installed."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class VehicleReportConfig:
+    """What createVehicleReport reads and writes; an input that it consumes."""
+    name: str = ""
+    """The report's file name, without extension; empty: "vehicle-<VIN>-<time>"."""
+    title: str = ""
+    """The report's heading; empty: "Vehicle report"."""
+    comment: str = ""
+    """A note of the workshop's, printed under the heading."""
+    targets: list[str] = dataclasses.field(default_factory=list)
+    """The units to report on; none: every unit of the vehicle."""
+    identification: bool = False
+    """1: read and list each unit's identification values."""
+    dtcs: bool = False
+    """1: read and list each unit's DTCs."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class VehicleData:
+    """
+    One control unit of the vehicle as it is now. getVehicleData hands out one per unit,
+    each with the vehicle's VIN and model, so that every entry stands alone.
+    """
+    vin: str = ""
+    """The vehicle identification number the vehicle reports; empty when no unit gives it."""
+    model: str = ""
+    """The vehicle's model, from the selected vehicle information."""
+    target: str = ""
+    """The unit's name."""
+    variant: str = ""
+    """The variant the unit identifies as; empty when it is silent."""
+    software_version: str = ""
+    """The software version it reports; empty when it is silent or its update is incomplete."""
+    bus: str = ""
+    """The bus it is reached on."""
+    address: int = 0
+    """Its diagnostic address."""
+    status: int = 0
+    """0 answered, 1 silent."""
+    dtc_count: int = 0
+    """The DTCs it stores now; 0 when it is silent."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class UploadReportConfiguration:
+    """
+    Where uploadReport copies a report, and what the broker's upload log records of it;
+    an input that it consumes.
+    """
+    report_file: str = ""
+    """The report, as createVehicleReport or createVehicleUpdateReport named it."""
+    folder: str = ""
+    """The broker's folder to copy it into, relative to the broker; empty: "reports"."""
+    name: str = ""
+    """The name it gets there; empty: the report's own name."""
+    vin: str = ""
+    """The vehicle it belongs to, for the upload log; empty: the VIN the report names."""
+    user: str = ""
+    """Who uploads it, for the upload log."""
+    comment: str = ""
+    """A note for the upload log."""
+    overwrite: bool = False
+    """1: replace a report of the same name; 0: refuse to."""
+    with_twin: bool = False
+    """1: also copy the report's JSON twin."""
+
+
+@dataclasses.dataclass(**_OPTIONS)
+class VehicleInformation:
+    """The vehicle the engine works on, as the workshop selected it; reports carry it."""
+    vin: str = ""
+    """The vehicle identification number: 17 digits and capital letters other than I, O and Q."""
+    model: str = ""
+    """The vehicle's model."""
+    model_year: int = 0
+    """The model year; 0 when not known."""
+    mileage: int = 0
+    """The odometer reading in kilometres."""
+    license_plate: str = ""
+    """The registration plate; may be empty."""
+    equipment: list[str] = dataclasses.field(default_factory=list)
+    """The vehicle's equipment codes."""
+
+
+__all__ = ["MvciServerError", "NegativeResponse", "KelError", "NamedItem", "ParameterResult", "ClearDtcResult", "DtcReadConfig", "ReadDtcResult", "DtcResult", "SpecialDataGroup", "VariantIdentResult", "ReadDataResult", "Target", "TargetStatus", "TargetFilter", "ParameterInput", "ServiceInput", "ServiceResult", "ResponseResult", "RequestResult", "UnlockResult", "ServiceInfo", "ResponseInfo", "ParameterInfo", "ConstraintInfo", "ScaleConstraintInfo", "UnitInfo", "ParameterInfoConfig", "KelEvent", "EventReport", "FileFilter", "TargetConfig", "ProjectConfig", "ProjectDetails", "DbFileInfo", "SystemInfo", "SystemProperty", "TarnApiConfig", "ServerConfig", "Oauth2Config", "MoxConfig", "TcpInfo", "StatusInfo", "TransmissionInfo", "ProcessInfo", "ProcessEntry", "ProcessThread", "ProcessMemory", "GlobalProtocolParameterSet", "GlobalProtocolParameter", "LoadDatabaseResult", "InterfaceInformation", "ResourceInformation", "InterfaceInformationItem", "ScanInterfaceResult", "DynInterfaceDetection", "ModuleDyn", "DeviceInfo", "PhysicalLinksOnModule", "PhysicalLink", "InterfaceConfiguration", "InterfaceConfigurationEntry", "InterfaceProvider", "DoIPParameter", "WLanSignalData", "SupportedInterface", "MonitoringItem", "MonitoringItemDetail", "PduMonitoringItem", "PduMonitoringItemDetail", "FileInfo", "DirectoryInfo", "FileCopyResult", "DirectoryCopyResult", "DirectoryCopyItem", "PathCopyResult", "PathCopyItem", "FileReferenceResult", "FileCopyConfig", "DirectoryCopyConfig", "PathCopyConfig", "UserInfo", "LogInOutConfig", "TarnApiServerConfig", "ServerSettings", "FlashSessionInfo", "FlashSessionResult", "FlashSessionsConfig", "CodingStringResult", "CodingFileResult", "QuickTestResult", "EcuConfigurationResult", "EcuOrderEntry", "VehicleUpdateConfig", "VehicleUpdateResult", "UpdatePackageInfo", "VehicleReportConfig", "VehicleData", "UploadReportConfiguration", "VehicleInformation"]

@@ -9,7 +9,7 @@ import builtins
 import struct
 from typing import Optional, Sequence
 
-from .records import ClearDtcResult, CodingFileResult, CodingStringResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EcuConfigurationResult, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, FlashSessionInfo, FlashSessionResult, FlashSessionsConfig, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MonitoringItem, MonitoringItemDetail, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PduMonitoringItem, PduMonitoringItemDetail, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, QuickTestResult, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UserInfo, VariantIdentResult, WLanSignalData
+from .records import ClearDtcResult, CodingFileResult, CodingStringResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EcuConfigurationResult, EcuOrderEntry, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, FlashSessionInfo, FlashSessionResult, FlashSessionsConfig, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MonitoringItem, MonitoringItemDetail, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PduMonitoringItem, PduMonitoringItemDetail, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, QuickTestResult, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UpdatePackageInfo, UploadReportConfiguration, UserInfo, VariantIdentResult, VehicleData, VehicleInformation, VehicleReportConfig, VehicleUpdateConfig, VehicleUpdateResult, WLanSignalData
 
 _U32 = struct.Struct("<I")
 _u32_read = _U32.unpack_from
@@ -126,6 +126,14 @@ _S_QQII_read = struct.Struct("<QQII").unpack_from
 _S_QQII_write = struct.Struct("<QQII").pack
 _S_iI_read = struct.Struct("<iI").unpack_from
 _S_iI_write = struct.Struct("<iI").pack
+_S_Ibb_read = struct.Struct("<I??").unpack_from
+_S_Ibb_write = struct.Struct("<I??").pack
+_S_bbI_read = struct.Struct("<??I").unpack_from
+_S_bbI_write = struct.Struct("<??I").pack
+_S_IIII_read = struct.Struct("<IIII").unpack_from
+_S_IIII_write = struct.Struct("<IIII").pack
+_S_IiI_read = struct.Struct("<IiI").unpack_from
+_S_IiI_write = struct.Struct("<IiI").pack
 
 
 def read_MvciServerError(b: bytes, p: int) -> tuple[Optional[MvciServerError], int]:
@@ -2129,6 +2137,182 @@ def read_EcuConfigurationResult(b: bytes, p: int) -> tuple[Optional[EcuConfigura
     return EcuConfigurationResult(target=v_target, configuration=v_configuration, status=v_status, written=v_written, error=v_error), p
 
 
+def read_EcuOrderEntry(b: bytes, p: int) -> tuple[Optional[EcuOrderEntry], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_bus = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_address, v_gateway, v_optional = _S_Ibb_read(b, p)
+    p += 6
+    return EcuOrderEntry(target=v_target, bus=v_bus, address=v_address, gateway=v_gateway, optional=v_optional), p
+
+
+def read_VehicleUpdateConfig(b: bytes, p: int) -> tuple[Optional[VehicleUpdateConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    v_targets, p = read_texts(b, p)
+    (n,) = _u32_read(b, p)
+    p += 4
+    v_packages: list[Optional[UpdatePackageInfo]] = []
+    for _ in range(n):
+        e_v_packages, p = read_UpdatePackageInfo(b, p)
+        v_packages.append(e_v_packages)
+    v_stop_on_error, v_force, v_block_length = _S_bbI_read(b, p)
+    p += 6
+    return VehicleUpdateConfig(targets=v_targets, packages=v_packages, stop_on_error=v_stop_on_error, force=v_force, block_length=v_block_length), p
+
+
+def read_VehicleUpdateResult(b: bytes, p: int) -> tuple[Optional[VehicleUpdateResult], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_status, = _S_i_read(b, p)
+    p += 4
+    (n,) = _u32_read(b, p)
+    v_package = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_version_before = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_version_after = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_position, v_progress, v_overall_progress, v_duration = _S_IIII_read(b, p)
+    p += 16
+    v_error, p = read_KelError(b, p)
+    return VehicleUpdateResult(target=v_target, status=v_status, package=v_package, version_before=v_version_before, version_after=v_version_after, position=v_position, progress=v_progress, overall_progress=v_overall_progress, duration=v_duration, error=v_error), p
+
+
+def read_UpdatePackageInfo(b: bytes, p: int) -> tuple[Optional[UpdatePackageInfo], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_version = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_description = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_kind, = _S_I_read(b, p)
+    p += 4
+    v_targets, p = read_texts(b, p)
+    v_size, = _S_Q_read(b, p)
+    p += 8
+    (n,) = _u32_read(b, p)
+    v_checksum = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_location = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_state, = _S_i_read(b, p)
+    p += 4
+    return UpdatePackageInfo(name=v_name, version=v_version, description=v_description, kind=v_kind, targets=v_targets, size=v_size, checksum=v_checksum, location=v_location, state=v_state), p
+
+
+def read_VehicleReportConfig(b: bytes, p: int) -> tuple[Optional[VehicleReportConfig], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_title = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_comment = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_targets, p = read_texts(b, p)
+    v_identification, v_dtcs = _S_bb_read(b, p)
+    p += 2
+    return VehicleReportConfig(name=v_name, title=v_title, comment=v_comment, targets=v_targets, identification=v_identification, dtcs=v_dtcs), p
+
+
+def read_VehicleData(b: bytes, p: int) -> tuple[Optional[VehicleData], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_vin = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_model = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_target = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_variant = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_software_version = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_bus = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_address, v_status, v_dtc_count = _S_IiI_read(b, p)
+    p += 12
+    return VehicleData(vin=v_vin, model=v_model, target=v_target, variant=v_variant, software_version=v_software_version, bus=v_bus, address=v_address, status=v_status, dtc_count=v_dtc_count), p
+
+
+def read_UploadReportConfiguration(b: bytes, p: int) -> tuple[Optional[UploadReportConfiguration], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_report_file = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_folder = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_name = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_vin = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_user = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_comment = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_overwrite, v_with_twin = _S_bb_read(b, p)
+    p += 2
+    return UploadReportConfiguration(report_file=v_report_file, folder=v_folder, name=v_name, vin=v_vin, user=v_user, comment=v_comment, overwrite=v_overwrite, with_twin=v_with_twin), p
+
+
+def read_VehicleInformation(b: bytes, p: int) -> tuple[Optional[VehicleInformation], int]:
+    if not b[p]:
+        return None, p + 1
+    p += 1
+    (n,) = _u32_read(b, p)
+    v_vin = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_model = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_model_year, v_mileage = _S_II_read(b, p)
+    p += 8
+    (n,) = _u32_read(b, p)
+    v_license_plate = b[p + 4 : p + 4 + n].decode()
+    p += 4 + n
+    v_equipment, p = read_texts(b, p)
+    return VehicleInformation(vin=v_vin, model=v_model, model_year=v_model_year, mileage=v_mileage, license_plate=v_license_plate, equipment=v_equipment), p
+
+
 def read_SupportedDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
     if not b[p]:
         return None, p + 1
@@ -3425,6 +3609,110 @@ def write_EcuConfigurationResult(o: bytearray, v: Optional[EcuConfigurationResul
     write_text(o, v.configuration)
     o += _S_iI_write(v.status, v.written)
     write_KelError(o, v.error)
+
+
+def write_EcuOrderEntry(o: bytearray, v: Optional[EcuOrderEntry]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.target)
+    write_text(o, v.bus)
+    o += _S_Ibb_write(v.address, v.gateway, v.optional)
+
+
+def write_VehicleUpdateConfig(o: bytearray, v: Optional[VehicleUpdateConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_texts(o, v.targets)
+    o += _U32.pack(len(v.packages))
+    for e_packages in v.packages:
+        write_UpdatePackageInfo(o, e_packages)
+    o += _S_bbI_write(v.stop_on_error, v.force, v.block_length)
+
+
+def write_VehicleUpdateResult(o: bytearray, v: Optional[VehicleUpdateResult]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.target)
+    o += _S_i_write(v.status)
+    write_text(o, v.package)
+    write_text(o, v.version_before)
+    write_text(o, v.version_after)
+    o += _S_IIII_write(v.position, v.progress, v.overall_progress, v.duration)
+    write_KelError(o, v.error)
+
+
+def write_UpdatePackageInfo(o: bytearray, v: Optional[UpdatePackageInfo]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    write_text(o, v.version)
+    write_text(o, v.description)
+    o += _S_I_write(v.kind)
+    write_texts(o, v.targets)
+    o += _S_Q_write(v.size)
+    write_text(o, v.checksum)
+    write_text(o, v.location)
+    o += _S_i_write(v.state)
+
+
+def write_VehicleReportConfig(o: bytearray, v: Optional[VehicleReportConfig]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.name)
+    write_text(o, v.title)
+    write_text(o, v.comment)
+    write_texts(o, v.targets)
+    o += _S_bb_write(v.identification, v.dtcs)
+
+
+def write_VehicleData(o: bytearray, v: Optional[VehicleData]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.vin)
+    write_text(o, v.model)
+    write_text(o, v.target)
+    write_text(o, v.variant)
+    write_text(o, v.software_version)
+    write_text(o, v.bus)
+    o += _S_IiI_write(v.address, v.status, v.dtc_count)
+
+
+def write_UploadReportConfiguration(o: bytearray, v: Optional[UploadReportConfiguration]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.report_file)
+    write_text(o, v.folder)
+    write_text(o, v.name)
+    write_text(o, v.vin)
+    write_text(o, v.user)
+    write_text(o, v.comment)
+    o += _S_bb_write(v.overwrite, v.with_twin)
+
+
+def write_VehicleInformation(o: bytearray, v: Optional[VehicleInformation]) -> None:
+    if v is None:
+        o.append(0)
+        return
+    o.append(1)
+    write_text(o, v.vin)
+    write_text(o, v.model)
+    o += _S_II_write(v.model_year, v.mileage)
+    write_text(o, v.license_plate)
+    write_texts(o, v.equipment)
 
 
 def write_SupportedDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:

@@ -336,6 +336,57 @@ void release_EcuConfigurationResult(EcuConfigurationResult* ptr) { kel::release(
 void release_EcuConfigurationResult_array(EcuConfigurationResult** ptr, uint64_t count) {
     kel::releaseArray(ptr, count);
 }
+void release_EcuOrderEntry(EcuOrderEntry* ptr) { kel::release(ptr); }
+void release_EcuOrderEntry_array(EcuOrderEntry** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_VehicleUpdateConfig(VehicleUpdateConfig* ptr) { kel::release(ptr); }
+void release_VehicleUpdateConfig_array(VehicleUpdateConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_VehicleUpdateResult(VehicleUpdateResult* ptr) { kel::release(ptr); }
+void release_VehicleUpdateResult_array(VehicleUpdateResult** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_UpdatePackageInfo(UpdatePackageInfo* ptr) { kel::release(ptr); }
+void release_UpdatePackageInfo_array(UpdatePackageInfo** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+void release_VehicleReportConfig(VehicleReportConfig* ptr) { kel::release(ptr); }
+void release_VehicleReportConfig_array(VehicleReportConfig** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
+static_assert(offsetof(VehicleData, vin) == offsetof(ScaleConstraintInfo, itemText1));
+static_assert(offsetof(VehicleData, model) == offsetof(ScaleConstraintInfo, itemText2));
+static_assert(offsetof(VehicleData, target) == offsetof(ScaleConstraintInfo, itemText3));
+static_assert(offsetof(VehicleData, variant) == offsetof(ScaleConstraintInfo, itemText4));
+static_assert(offsetof(VehicleData, softwareVersion) == offsetof(ScaleConstraintInfo, text1));
+static_assert(offsetof(VehicleData, bus) == offsetof(ScaleConstraintInfo, text2));
+void release_VehicleData(VehicleData* ptr) {
+    release_ScaleConstraintInfo(reinterpret_cast<ScaleConstraintInfo*>(ptr));
+}
+void release_VehicleData_array(VehicleData** ptr, uint64_t count) {
+    release_ScaleConstraintInfo_array(reinterpret_cast<ScaleConstraintInfo**>(ptr), count);
+}
+static_assert(offsetof(UploadReportConfiguration, reportFile) ==
+              offsetof(ScaleConstraintInfo, itemText1));
+static_assert(offsetof(UploadReportConfiguration, folder) ==
+              offsetof(ScaleConstraintInfo, itemText2));
+static_assert(offsetof(UploadReportConfiguration, name) ==
+              offsetof(ScaleConstraintInfo, itemText3));
+static_assert(offsetof(UploadReportConfiguration, vin) == offsetof(ScaleConstraintInfo, itemText4));
+static_assert(offsetof(UploadReportConfiguration, user) == offsetof(ScaleConstraintInfo, text1));
+static_assert(offsetof(UploadReportConfiguration, comment) == offsetof(ScaleConstraintInfo, text2));
+void release_UploadReportConfiguration(UploadReportConfiguration* ptr) {
+    release_ScaleConstraintInfo(reinterpret_cast<ScaleConstraintInfo*>(ptr));
+}
+void release_UploadReportConfiguration_array(UploadReportConfiguration** ptr, uint64_t count) {
+    release_ScaleConstraintInfo_array(reinterpret_cast<ScaleConstraintInfo**>(ptr), count);
+}
+void release_VehicleInformation(VehicleInformation* ptr) { kel::release(ptr); }
+void release_VehicleInformation_array(VehicleInformation** ptr, uint64_t count) {
+    kel::releaseArray(ptr, count);
+}
 
 void kel_initialize(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->initialize(); });
@@ -965,6 +1016,37 @@ void kel_getTraceDirectory(TarnApi* api, uint8_t flag, KelError** error,
     kel::invoke(
         error, [&] { return api->getTraceDirectory(flag != 0); }, kel::out::record(directory));
 }
+void kel_createVehicleReport(TarnApi* api, VehicleReportConfig* config, KelError** error,
+                             wchar_t** reportFile) {
+    kel::invoke(
+        error, [&] { return api->createVehicleReport(kel::in::record(config)); },
+        kel::out::text(reportFile));
+}
+void kel_readEcuOrder(TarnApi* api, const wchar_t* path, KelError** error, EcuOrderEntry*** entries,
+                      uint32_t* entryCount) {
+    kel::invoke(
+        error, [&] { return api->readEcuOrder(kel::in::text(path)); },
+        kel::out::records(entries, entryCount));
+}
+void kel_filterEcuOrder(TarnApi* api, EcuOrderEntry** entries, uint32_t entryCount,
+                        wchar_t** targets, uint32_t targetCount, KelError** error,
+                        EcuOrderEntry*** filtered, uint32_t* filteredCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->filterEcuOrder(kel::in::records(entries, entryCount),
+                                       kel::in::texts(targets, targetCount));
+        },
+        kel::out::records(filtered, filteredCount));
+}
+void kel_addMissingTargetsToEcuOrder(TarnApi* api, EcuOrderEntry** entries, uint32_t entryCount,
+                                     KelError** error, EcuOrderEntry*** completed,
+                                     uint32_t* completedCount) {
+    kel::invoke(
+        error,
+        [&] { return api->addMissingTargetsToEcuOrder(kel::in::records(entries, entryCount)); },
+        kel::out::records(completed, completedCount));
+}
 void kel_lock(TarnApi* api, KelError** error, uint64_t* lockId) {
     kel::invoke(
         error, [&] { return api->lock(); }, kel::out::value(lockId));
@@ -1120,6 +1202,17 @@ void kel_renameFile(TarnApi* api, const wchar_t* path, const wchar_t* newName, K
 void kel_onConnectionBroken(TarnApi* api, KelError** error) {
     kel::invoke(error, [&] { api->onConnectionBroken(); });
 }
+void kel_getUpdatePackages(TarnApi* api, KelError** error, UpdatePackageInfo*** packages,
+                           uint32_t* packageCount) {
+    kel::invoke(
+        error, [&] { return api->getUpdatePackages(); }, kel::out::records(packages, packageCount));
+}
+void kel_getPackagesFromBroker(TarnApi* api, KelError** error, UpdatePackageInfo*** packages,
+                               uint32_t* packageCount) {
+    kel::invoke(
+        error, [&] { return api->getPackagesFromBroker(); },
+        kel::out::records(packages, packageCount));
+}
 void kel_checkUpdatesOnBroker(TarnApi* api, KelError** error, bool* available) {
     kel::invoke(
         error, [&] { return api->checkUpdatesOnBroker(); }, kel::out::value(available));
@@ -1217,6 +1310,18 @@ void kel_getPublicDirectories(TarnApi* api, KelError** error, DirectoryInfo*** d
         error, [&] { return api->getPublicDirectories(); },
         kel::out::records(directories, directoryCount));
 }
+void kel_updateVehicle(TarnApi* api, VehicleUpdateConfig* config, KelError** error,
+                       VehicleUpdateResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error, [&] { return api->updateVehicle(kel::in::record(config)); },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_updateVehicleAsync(TarnApi* api, VehicleUpdateConfig* config, KelError** error,
+                                UpdateVehicleCallbackFunction callback, void* context) {
+    return kel::start<UpdateVehicleCallbackHandler>(error, callback, context, [&](auto* handler) {
+        return api->updateVehicleAsync(kel::in::record(config), handler);
+    });
+}
 void kel_executeServiceInDefaultSession(TarnApi* api, const wchar_t* target,
                                         ServiceInput** services, uint32_t serviceCount,
                                         KelError** error, ServiceResult*** results,
@@ -1277,12 +1382,19 @@ void kel_resolvePath(TarnApi* api, const wchar_t* path, KelError** error, wchar_
     kel::invoke(
         error, [&] { return api->resolvePath(kel::in::text(path)); }, kel::out::text(resolved));
 }
+void kel_getVehicleData(TarnApi* api, KelError** error, VehicleData*** data, uint32_t* dataCount) {
+    kel::invoke(
+        error, [&] { return api->getVehicleData(); }, kel::out::records(data, dataCount));
+}
 void kel_getProjectsDetails(TarnApi* api, wchar_t** projectNames, uint32_t projectNameCount,
                             KelError** error, ProjectDetails*** details, uint32_t* detailCount) {
     kel::invoke(
         error,
         [&] { return api->getProjectsDetails(kel::in::texts(projectNames, projectNameCount)); },
         kel::out::records(details, detailCount));
+}
+void kel_uploadReport(TarnApi* api, UploadReportConfiguration* config, KelError** error) {
+    kel::invoke(error, [&] { api->uploadReport(kel::in::record(config)); });
 }
 void kel_getFileReferences(TarnApi* api, wchar_t** files, uint32_t fileCount, KelError** error,
                            FileReferenceResult*** results, uint32_t* resultCount) {
@@ -1398,6 +1510,12 @@ void kel_getCertificateChainById(TarnApi* api, const wchar_t* id, const wchar_t*
         },
         kel::out::texts(chain, chainCount));
 }
+void kel_createDefaultECUOrder(TarnApi* api, KelError** error, EcuOrderEntry*** entries,
+                               uint32_t* entryCount) {
+    kel::invoke(
+        error, [&] { return api->createDefaultECUOrder(); },
+        kel::out::records(entries, entryCount));
+}
 void kel_writeCodingFile(TarnApi* api, const wchar_t* codingFile, wchar_t** targets,
                          uint32_t targetCount, KelError** error, CodingFileResult*** results,
                          uint32_t* resultCount) {
@@ -1417,9 +1535,36 @@ uint64_t kel_writeCodingFileAsync(TarnApi* api, const wchar_t* codingFile, wchar
                                          kel::in::texts(targets, targetCount), handler);
     });
 }
+void kel_writeEcuOrder(TarnApi* api, const wchar_t* path, EcuOrderEntry** entries,
+                       uint32_t entryCount, KelError** error) {
+    kel::invoke(error, [&] {
+        api->writeEcuOrder(kel::in::text(path), kel::in::records(entries, entryCount));
+    });
+}
 void kel_getEcuOrderFilePath(TarnApi* api, KelError** error, wchar_t** path) {
     kel::invoke(
         error, [&] { return api->getEcuOrderFilePath(); }, kel::out::text(path));
+}
+void kel_performVehicleUpdate(TarnApi* api, EcuOrderEntry** entries, uint32_t entryCount,
+                              VehicleUpdateConfig* config, KelError** error,
+                              VehicleUpdateResult*** results, uint32_t* resultCount) {
+    kel::invoke(
+        error,
+        [&] {
+            return api->performVehicleUpdate(kel::in::records(entries, entryCount),
+                                             kel::in::record(config));
+        },
+        kel::out::records(results, resultCount));
+}
+uint64_t kel_performVehicleUpdateAsync(TarnApi* api, EcuOrderEntry** entries, uint32_t entryCount,
+                                       VehicleUpdateConfig* config, KelError** error,
+                                       PerformVehicleUpdateCallbackFunction callback,
+                                       void* context) {
+    return kel::start<PerformVehicleUpdateCallbackHandler>(
+        error, callback, context, [&](auto* handler) {
+            return api->performVehicleUpdateAsync(kel::in::records(entries, entryCount),
+                                                  kel::in::record(config), handler);
+        });
 }
 void kel_triggerAsyncCancels(TarnApi* api, const uint64_t* callIds, uint32_t callIdCount,
                              KelError** error) {
@@ -1448,6 +1593,13 @@ uint64_t kel_executeSequenceAsync(TarnApi* api, const wchar_t* target, const wch
 void kel_addPublicDirectory(TarnApi* api, const wchar_t* name, const wchar_t* path,
                             KelError** error) {
     kel::invoke(error, [&] { api->addPublicDirectory(kel::in::text(name), kel::in::text(path)); });
+}
+void kel_createVehicleUpdateReport(TarnApi* api, VehicleUpdateResult** results,
+                                   uint32_t resultCount, KelError** error, wchar_t** reportFile) {
+    kel::invoke(
+        error,
+        [&] { return api->createVehicleUpdateReport(kel::in::records(results, resultCount)); },
+        kel::out::text(reportFile));
 }
 void kel_getParameterInfo(TarnApi* api, ParameterInfoConfig* config, KelError** error,
                           ParameterInfo** info) {
@@ -1505,6 +1657,12 @@ void kel_stopSOVDServer(TarnApi* api, KelError** error) {
 void kel_logIn(TarnApi* api, LogInOutConfig* config, KelError** error) {
     kel::invoke(error, [&] { api->logIn(kel::in::record(config)); });
 }
+void kel_createVehicleUpdateConfig(TarnApi* api, wchar_t** targets, uint32_t targetCount,
+                                   KelError** error, VehicleUpdateConfig** config) {
+    kel::invoke(
+        error, [&] { return api->createVehicleUpdateConfig(kel::in::texts(targets, targetCount)); },
+        kel::out::record(config));
+}
 void kel_getProjectConfigurations(TarnApi* api, KelError** error, ProjectConfig*** configs,
                                   uint32_t* configCount) {
     kel::invoke(
@@ -1536,6 +1694,15 @@ void kel_setConfiguration(TarnApi* api, KelError** error, TarnApiConfig* config)
 void kel_getServerSettings(TarnApi* api, KelError** error, ServerSettings** settings) {
     kel::invoke(
         error, [&] { return api->getServerSettings(); }, kel::out::record(settings));
+}
+void kel_getSelectedVehicleInformation(TarnApi* api, KelError** error,
+                                       VehicleInformation** information) {
+    kel::invoke(
+        error, [&] { return api->getSelectedVehicleInformation(); }, kel::out::record(information));
+}
+void kel_setSelectedVehicleInformation(TarnApi* api, KelError** error,
+                                       VehicleInformation* information) {
+    kel::invoke(error, [&] { api->setSelectedVehicleInformation(kel::in::record(information)); });
 }
 void kel_getTargets(TarnApi* api, KelError** error, Target*** targets, uint32_t* targetCount) {
     kel::invoke(

@@ -129,6 +129,13 @@ class ExecuteFlashSessionsConfigCallbackHandler final
     using Handler::Handler;
 };
 
+class UpdateVehicleCallbackHandler final
+    : public kel::Handler<UpdateVehicleCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::UpdateVehicleCallback, ::VehicleUpdateResult,
+                          Varno::Kel_cpp::VehicleUpdateResult, UpdateVehicleCallbackFunction> {
+    using Handler::Handler;
+};
+
 class ExecuteServiceInDefaultSessionCallbackHandler final
     : public kel::Handler<ExecuteServiceInDefaultSessionCallbackHandler,
                           Varno::Kel_cpp::TarnApi::ExecuteServiceInDefaultSessionCallback,
@@ -148,6 +155,14 @@ class WriteCodingFileCallbackHandler final
     : public kel::Handler<WriteCodingFileCallbackHandler,
                           Varno::Kel_cpp::TarnApi::WriteCodingFileCallback, ::CodingFileResult,
                           Varno::Kel_cpp::CodingFileResult, WriteCodingFileCallbackFunction> {
+    using Handler::Handler;
+};
+
+class PerformVehicleUpdateCallbackHandler final
+    : public kel::Handler<PerformVehicleUpdateCallbackHandler,
+                          Varno::Kel_cpp::TarnApi::PerformVehicleUpdateCallback,
+                          ::VehicleUpdateResult, Varno::Kel_cpp::VehicleUpdateResult,
+                          PerformVehicleUpdateCallbackFunction> {
     using Handler::Handler;
 };
 

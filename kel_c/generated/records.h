@@ -1208,6 +1208,122 @@ struct Record<::EcuConfigurationResult> {
 };
 
 template <>
+struct Record<::EcuOrderEntry> {
+    using Engine = Varno::Kel_cpp::EcuOrderEntry;
+    static constexpr const char* name = "EcuOrderEntry";
+    static constexpr auto fields =
+        std::make_tuple(field(&::EcuOrderEntry::target, &Engine::target),
+                        field(&::EcuOrderEntry::bus, &Engine::bus),
+                        field(&::EcuOrderEntry::address, &Engine::address),
+                        field(&::EcuOrderEntry::gateway, &Engine::gateway),
+                        field(&::EcuOrderEntry::optional, &Engine::optional));
+};
+
+template <>
+struct Record<::VehicleUpdateConfig> {
+    using Engine = Varno::Kel_cpp::VehicleUpdateConfig;
+    static constexpr const char* name = "VehicleUpdateConfig";
+    static constexpr auto fields =
+        std::make_tuple(field(&::VehicleUpdateConfig::targets, &::VehicleUpdateConfig::targetCount,
+                              &Engine::targets),
+                        field(&::VehicleUpdateConfig::packages,
+                              &::VehicleUpdateConfig::packageCount, &Engine::packages),
+                        field(&::VehicleUpdateConfig::stopOnError, &Engine::stopOnError),
+                        field(&::VehicleUpdateConfig::force, &Engine::force),
+                        field(&::VehicleUpdateConfig::blockLength, &Engine::blockLength));
+};
+
+template <>
+struct Record<::VehicleUpdateResult> {
+    using Engine = Varno::Kel_cpp::VehicleUpdateResult;
+    static constexpr const char* name = "VehicleUpdateResult";
+    static constexpr auto fields =
+        std::make_tuple(field(&::VehicleUpdateResult::target, &Engine::target),
+                        field(&::VehicleUpdateResult::status, &Engine::status),
+                        field(&::VehicleUpdateResult::package, &Engine::package),
+                        field(&::VehicleUpdateResult::versionBefore, &Engine::versionBefore),
+                        field(&::VehicleUpdateResult::versionAfter, &Engine::versionAfter),
+                        field(&::VehicleUpdateResult::position, &Engine::position),
+                        field(&::VehicleUpdateResult::progress, &Engine::progress),
+                        field(&::VehicleUpdateResult::overallProgress, &Engine::overallProgress),
+                        field(&::VehicleUpdateResult::duration, &Engine::duration),
+                        field(&::VehicleUpdateResult::error, &Engine::error));
+};
+
+template <>
+struct Record<::UpdatePackageInfo> {
+    using Engine = Varno::Kel_cpp::UpdatePackageInfo;
+    static constexpr const char* name = "UpdatePackageInfo";
+    static constexpr auto fields = std::make_tuple(
+        field(&::UpdatePackageInfo::name, &Engine::name),
+        field(&::UpdatePackageInfo::version, &Engine::version),
+        field(&::UpdatePackageInfo::description, &Engine::description),
+        field(&::UpdatePackageInfo::kind, &Engine::kind),
+        field(&::UpdatePackageInfo::targets, &::UpdatePackageInfo::targetCount, &Engine::targets),
+        field(&::UpdatePackageInfo::size, &Engine::size),
+        field(&::UpdatePackageInfo::checksum, &Engine::checksum),
+        field(&::UpdatePackageInfo::location, &Engine::location),
+        field(&::UpdatePackageInfo::state, &Engine::state));
+};
+
+template <>
+struct Record<::VehicleReportConfig> {
+    using Engine = Varno::Kel_cpp::VehicleReportConfig;
+    static constexpr const char* name = "VehicleReportConfig";
+    static constexpr auto fields =
+        std::make_tuple(field(&::VehicleReportConfig::name, &Engine::name),
+                        field(&::VehicleReportConfig::title, &Engine::title),
+                        field(&::VehicleReportConfig::comment, &Engine::comment),
+                        field(&::VehicleReportConfig::targets, &::VehicleReportConfig::targetCount,
+                              &Engine::targets),
+                        field(&::VehicleReportConfig::identification, &Engine::identification),
+                        field(&::VehicleReportConfig::dtcs, &Engine::dtcs));
+};
+
+template <>
+struct Record<::VehicleData> {
+    using Engine = Varno::Kel_cpp::VehicleData;
+    static constexpr const char* name = "VehicleData";
+    static constexpr auto fields = std::make_tuple(
+        field(&::VehicleData::vin, &Engine::vin), field(&::VehicleData::model, &Engine::model),
+        field(&::VehicleData::target, &Engine::target),
+        field(&::VehicleData::variant, &Engine::variant),
+        field(&::VehicleData::softwareVersion, &Engine::softwareVersion),
+        field(&::VehicleData::bus, &Engine::bus), field(&::VehicleData::address, &Engine::address),
+        field(&::VehicleData::status, &Engine::status),
+        field(&::VehicleData::dtcCount, &Engine::dtcCount));
+};
+
+template <>
+struct Record<::UploadReportConfiguration> {
+    using Engine = Varno::Kel_cpp::UploadReportConfiguration;
+    static constexpr const char* name = "UploadReportConfiguration";
+    static constexpr auto fields =
+        std::make_tuple(field(&::UploadReportConfiguration::reportFile, &Engine::reportFile),
+                        field(&::UploadReportConfiguration::folder, &Engine::folder),
+                        field(&::UploadReportConfiguration::name, &Engine::name),
+                        field(&::UploadReportConfiguration::vin, &Engine::vin),
+                        field(&::UploadReportConfiguration::user, &Engine::user),
+                        field(&::UploadReportConfiguration::comment, &Engine::comment),
+                        field(&::UploadReportConfiguration::overwrite, &Engine::overwrite),
+                        field(&::UploadReportConfiguration::withTwin, &Engine::withTwin));
+};
+
+template <>
+struct Record<::VehicleInformation> {
+    using Engine = Varno::Kel_cpp::VehicleInformation;
+    static constexpr const char* name = "VehicleInformation";
+    static constexpr auto fields =
+        std::make_tuple(field(&::VehicleInformation::vin, &Engine::vin),
+                        field(&::VehicleInformation::model, &Engine::model),
+                        field(&::VehicleInformation::modelYear, &Engine::modelYear),
+                        field(&::VehicleInformation::mileage, &Engine::mileage),
+                        field(&::VehicleInformation::licensePlate, &Engine::licensePlate),
+                        field(&::VehicleInformation::equipment,
+                              &::VehicleInformation::equipmentCount, &Engine::equipment));
+};
+
+template <>
 struct Alias<::ReadDtcResult, Varno::Kel_cpp::SupportedDtcResult> {
     using Engine = Varno::Kel_cpp::SupportedDtcResult;
     static constexpr auto fields =

@@ -697,9 +697,23 @@ void EcuOrderFamily::writeEcuOrder(const std::wstring&,
 }
 std::wstring EcuOrderFamily::getEcuOrderFilePath() { throw unsupported("getEcuOrderFilePath"); }
 
-std::wstring VehicleUpdateFamily::createVehicleReport(std::shared_ptr<VehicleReportConfig>) {
+std::wstring VehicleReportsFamily::createVehicleReport(std::shared_ptr<VehicleReportConfig>) {
     throw unsupported("createVehicleReport");
 }
+std::vector<std::shared_ptr<VehicleData>> VehicleReportsFamily::getVehicleData() {
+    throw unsupported("getVehicleData");
+}
+std::wstring VehicleReportsFamily::createVehicleUpdateReport(
+    const std::vector<std::shared_ptr<VehicleUpdateResult>>&) {
+    throw unsupported("createVehicleUpdateReport");
+}
+std::shared_ptr<VehicleInformation> VehicleReportsFamily::getSelectedVehicleInformation() {
+    throw unsupported("getSelectedVehicleInformation");
+}
+void VehicleReportsFamily::setSelectedVehicleInformation(std::shared_ptr<VehicleInformation>) {
+    throw unsupported("setSelectedVehicleInformation");
+}
+
 void VehicleUpdateFamily::applyUpdatePackage(const std::wstring&) {
     throw unsupported("applyUpdatePackage");
 }
@@ -724,9 +738,6 @@ uint64_t VehicleUpdateFamily::updateVehicleAsync(std::shared_ptr<VehicleUpdateCo
                                                  UpdateVehicleCallback*) {
     throw unsupported("updateVehicleAsync");
 }
-std::vector<std::shared_ptr<VehicleData>> VehicleUpdateFamily::getVehicleData() {
-    throw unsupported("getVehicleData");
-}
 void VehicleUpdateFamily::uploadReport(std::shared_ptr<UploadReportConfiguration>) {
     throw unsupported("uploadReport");
 }
@@ -743,19 +754,9 @@ VehicleUpdateFamily::performVehicleUpdateAsync(const std::vector<std::shared_ptr
                                                PerformVehicleUpdateCallback*) {
     throw unsupported("performVehicleUpdateAsync");
 }
-std::wstring VehicleUpdateFamily::createVehicleUpdateReport(
-    const std::vector<std::shared_ptr<VehicleUpdateResult>>&) {
-    throw unsupported("createVehicleUpdateReport");
-}
 std::shared_ptr<VehicleUpdateConfig>
 VehicleUpdateFamily::createVehicleUpdateConfig(const std::vector<std::wstring>&) {
     throw unsupported("createVehicleUpdateConfig");
-}
-std::shared_ptr<VehicleInformation> VehicleUpdateFamily::getSelectedVehicleInformation() {
-    throw unsupported("getSelectedVehicleInformation");
-}
-void VehicleUpdateFamily::setSelectedVehicleInformation(std::shared_ptr<VehicleInformation>) {
-    throw unsupported("setSelectedVehicleInformation");
 }
 
 void FamilyRouter::initialize() { return families_.lifecycle->initialize(); }
@@ -1129,7 +1130,7 @@ std::shared_ptr<DirectoryInfo> FamilyRouter::getTraceDirectory(bool flag) {
     return families_.files->getTraceDirectory(flag);
 }
 std::wstring FamilyRouter::createVehicleReport(std::shared_ptr<VehicleReportConfig> config) {
-    return families_.vehicleUpdate->createVehicleReport(std::move(config));
+    return families_.vehicleReports->createVehicleReport(std::move(config));
 }
 std::vector<std::shared_ptr<EcuOrderEntry>> FamilyRouter::readEcuOrder(const std::wstring& path) {
     return families_.ecuOrder->readEcuOrder(path);
@@ -1354,7 +1355,7 @@ std::wstring FamilyRouter::resolvePath(const std::wstring& path) {
 void FamilyRouter::reserved189() { throw unsupported("reserved189"); }
 void FamilyRouter::reserved190() { throw unsupported("reserved190"); }
 std::vector<std::shared_ptr<VehicleData>> FamilyRouter::getVehicleData() {
-    return families_.vehicleUpdate->getVehicleData();
+    return families_.vehicleReports->getVehicleData();
 }
 std::vector<std::shared_ptr<ProjectDetails>>
 FamilyRouter::getProjectsDetails(const std::vector<std::wstring>& projectNames) {
@@ -1481,7 +1482,7 @@ void FamilyRouter::addPublicDirectory(const std::wstring& name, const std::wstri
 }
 std::wstring FamilyRouter::createVehicleUpdateReport(
     const std::vector<std::shared_ptr<VehicleUpdateResult>>& results) {
-    return families_.vehicleUpdate->createVehicleUpdateReport(results);
+    return families_.vehicleReports->createVehicleUpdateReport(results);
 }
 std::shared_ptr<ParameterInfo>
 FamilyRouter::getParameterInfo(std::shared_ptr<ParameterInfoConfig> config) {
@@ -1534,10 +1535,10 @@ std::shared_ptr<ServerSettings> FamilyRouter::getServerSettings() {
     return families_.servers->getServerSettings();
 }
 std::shared_ptr<VehicleInformation> FamilyRouter::getSelectedVehicleInformation() {
-    return families_.vehicleUpdate->getSelectedVehicleInformation();
+    return families_.vehicleReports->getSelectedVehicleInformation();
 }
 void FamilyRouter::setSelectedVehicleInformation(std::shared_ptr<VehicleInformation> information) {
-    return families_.vehicleUpdate->setSelectedVehicleInformation(std::move(information));
+    return families_.vehicleReports->setSelectedVehicleInformation(std::move(information));
 }
 std::vector<std::shared_ptr<Target>> FamilyRouter::getTargets() {
     return families_.diagnostics->getTargets();

@@ -525,6 +525,21 @@ public:
     virtual std::wstring getEcuOrderFilePath();
 };
 
+class VehicleReportsFamily {
+public:
+    VehicleReportsFamily() = default;
+    VehicleReportsFamily(const VehicleReportsFamily&) = delete;
+    VehicleReportsFamily& operator=(const VehicleReportsFamily&) = delete;
+    virtual ~VehicleReportsFamily() = default;
+
+    virtual std::wstring createVehicleReport(std::shared_ptr<VehicleReportConfig> config);
+    virtual std::vector<std::shared_ptr<VehicleData>> getVehicleData();
+    virtual std::wstring
+    createVehicleUpdateReport(const std::vector<std::shared_ptr<VehicleUpdateResult>>& results);
+    virtual std::shared_ptr<VehicleInformation> getSelectedVehicleInformation();
+    virtual void setSelectedVehicleInformation(std::shared_ptr<VehicleInformation> information);
+};
+
 class VehicleUpdateFamily {
 public:
     VehicleUpdateFamily() = default;
@@ -535,7 +550,6 @@ public:
     using UpdateVehicleCallback = TarnApi::UpdateVehicleCallback;
     using PerformVehicleUpdateCallback = TarnApi::PerformVehicleUpdateCallback;
 
-    virtual std::wstring createVehicleReport(std::shared_ptr<VehicleReportConfig> config);
     virtual void applyUpdatePackage(const std::wstring& package);
     virtual std::vector<std::shared_ptr<UpdatePackageInfo>> getUpdatePackages();
     virtual std::vector<std::shared_ptr<UpdatePackageInfo>> getPackagesFromBroker();
@@ -548,7 +562,6 @@ public:
     updateVehicle(std::shared_ptr<VehicleUpdateConfig> config);
     virtual uint64_t updateVehicleAsync(std::shared_ptr<VehicleUpdateConfig> config,
                                         UpdateVehicleCallback* callback);
-    virtual std::vector<std::shared_ptr<VehicleData>> getVehicleData();
     virtual void uploadReport(std::shared_ptr<UploadReportConfiguration> config);
     virtual void setBrokerUrl(const std::wstring& url);
     virtual void clearUpdatePackages();
@@ -559,12 +572,8 @@ public:
     performVehicleUpdateAsync(const std::vector<std::shared_ptr<EcuOrderEntry>>& entries,
                               std::shared_ptr<VehicleUpdateConfig> config,
                               PerformVehicleUpdateCallback* callback);
-    virtual std::wstring
-    createVehicleUpdateReport(const std::vector<std::shared_ptr<VehicleUpdateResult>>& results);
     virtual std::shared_ptr<VehicleUpdateConfig>
     createVehicleUpdateConfig(const std::vector<std::wstring>& targets);
-    virtual std::shared_ptr<VehicleInformation> getSelectedVehicleInformation();
-    virtual void setSelectedVehicleInformation(std::shared_ptr<VehicleInformation> information);
 };
 
 // One engine object's families; a family left as it is answers every operation
@@ -584,6 +593,7 @@ struct Families {
     std::shared_ptr<MeasurementFamily> measurement = std::make_shared<MeasurementFamily>();
     std::shared_ptr<SequencesFamily> sequences = std::make_shared<SequencesFamily>();
     std::shared_ptr<EcuOrderFamily> ecuOrder = std::make_shared<EcuOrderFamily>();
+    std::shared_ptr<VehicleReportsFamily> vehicleReports = std::make_shared<VehicleReportsFamily>();
     std::shared_ptr<VehicleUpdateFamily> vehicleUpdate = std::make_shared<VehicleUpdateFamily>();
 };
 

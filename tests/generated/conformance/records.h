@@ -192,6 +192,22 @@ inline void describe(Out& o, const QuickTestResult& r);
 inline void build(const Json& j, QuickTestResult& r);
 inline void describe(Out& o, const EcuConfigurationResult& r);
 inline void build(const Json& j, EcuConfigurationResult& r);
+inline void describe(Out& o, const EcuOrderEntry& r);
+inline void build(const Json& j, EcuOrderEntry& r);
+inline void describe(Out& o, const VehicleUpdateConfig& r);
+inline void build(const Json& j, VehicleUpdateConfig& r);
+inline void describe(Out& o, const VehicleUpdateResult& r);
+inline void build(const Json& j, VehicleUpdateResult& r);
+inline void describe(Out& o, const UpdatePackageInfo& r);
+inline void build(const Json& j, UpdatePackageInfo& r);
+inline void describe(Out& o, const VehicleReportConfig& r);
+inline void build(const Json& j, VehicleReportConfig& r);
+inline void describe(Out& o, const VehicleData& r);
+inline void build(const Json& j, VehicleData& r);
+inline void describe(Out& o, const UploadReportConfiguration& r);
+inline void build(const Json& j, UploadReportConfiguration& r);
+inline void describe(Out& o, const VehicleInformation& r);
+inline void build(const Json& j, VehicleInformation& r);
 
 inline void describe(Out& o, const MvciServerError& r) {
     o.member("code", r.code);
@@ -2076,6 +2092,183 @@ inline void build(const Json& j, EcuConfigurationResult& r) {
     set(j.at("status"), r.status);
     set(j.at("written"), r.written);
     set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const EcuOrderEntry& r) {
+    o.member("target", r.target);
+    o.member("bus", r.bus);
+    o.member("address", r.address);
+    o.member("gateway", r.gateway);
+    o.member("optional", r.optional);
+    o.end();
+}
+
+inline void build(const Json& j, EcuOrderEntry& r) {
+    set(j.at("target"), r.target);
+    set(j.at("bus"), r.bus);
+    set(j.at("address"), r.address);
+    set(j.at("gateway"), r.gateway);
+    set(j.at("optional"), r.optional);
+}
+
+inline void describe(Out& o, const VehicleUpdateConfig& r) {
+    o.member("targets", r.targets, r.targetCount);
+    o.member("targetCount", r.targetCount);
+    o.member("packages", r.packages, r.packageCount);
+    o.member("packageCount", r.packageCount);
+    o.member("stopOnError", r.stopOnError);
+    o.member("force", r.force);
+    o.member("blockLength", r.blockLength);
+    o.end();
+}
+
+inline void build(const Json& j, VehicleUpdateConfig& r) {
+    set(j.at("targets"), r.targets, r.targetCount);
+    set(j.at("packages"), r.packages, r.packageCount);
+    set(j.at("stopOnError"), r.stopOnError);
+    set(j.at("force"), r.force);
+    set(j.at("blockLength"), r.blockLength);
+}
+
+inline void describe(Out& o, const VehicleUpdateResult& r) {
+    o.member("target", r.target);
+    o.member("status", r.status);
+    o.member("package", r.package);
+    o.member("versionBefore", r.versionBefore);
+    o.member("versionAfter", r.versionAfter);
+    o.member("position", r.position);
+    o.member("progress", r.progress);
+    o.member("overallProgress", r.overallProgress);
+    o.member("duration", r.duration);
+    o.member("error", r.error);
+    o.end();
+}
+
+inline void build(const Json& j, VehicleUpdateResult& r) {
+    set(j.at("target"), r.target);
+    set(j.at("status"), r.status);
+    set(j.at("package"), r.package);
+    set(j.at("versionBefore"), r.versionBefore);
+    set(j.at("versionAfter"), r.versionAfter);
+    set(j.at("position"), r.position);
+    set(j.at("progress"), r.progress);
+    set(j.at("overallProgress"), r.overallProgress);
+    set(j.at("duration"), r.duration);
+    set(j.at("error"), r.error);
+}
+
+inline void describe(Out& o, const UpdatePackageInfo& r) {
+    o.member("name", r.name);
+    o.member("version", r.version);
+    o.member("description", r.description);
+    o.member("kind", r.kind);
+    o.member("targets", r.targets, r.targetCount);
+    o.member("targetCount", r.targetCount);
+    o.member("size", r.size);
+    o.member("checksum", r.checksum);
+    o.member("location", r.location);
+    o.member("state", r.state);
+    o.end();
+}
+
+inline void build(const Json& j, UpdatePackageInfo& r) {
+    set(j.at("name"), r.name);
+    set(j.at("version"), r.version);
+    set(j.at("description"), r.description);
+    set(j.at("kind"), r.kind);
+    set(j.at("targets"), r.targets, r.targetCount);
+    set(j.at("size"), r.size);
+    set(j.at("checksum"), r.checksum);
+    set(j.at("location"), r.location);
+    set(j.at("state"), r.state);
+}
+
+inline void describe(Out& o, const VehicleReportConfig& r) {
+    o.member("name", r.name);
+    o.member("title", r.title);
+    o.member("comment", r.comment);
+    o.member("targets", r.targets, r.targetCount);
+    o.member("targetCount", r.targetCount);
+    o.member("identification", r.identification);
+    o.member("dtcs", r.dtcs);
+    o.end();
+}
+
+inline void build(const Json& j, VehicleReportConfig& r) {
+    set(j.at("name"), r.name);
+    set(j.at("title"), r.title);
+    set(j.at("comment"), r.comment);
+    set(j.at("targets"), r.targets, r.targetCount);
+    set(j.at("identification"), r.identification);
+    set(j.at("dtcs"), r.dtcs);
+}
+
+inline void describe(Out& o, const VehicleData& r) {
+    o.member("vin", r.vin);
+    o.member("model", r.model);
+    o.member("target", r.target);
+    o.member("variant", r.variant);
+    o.member("softwareVersion", r.softwareVersion);
+    o.member("bus", r.bus);
+    o.member("address", r.address);
+    o.member("status", r.status);
+    o.member("dtcCount", r.dtcCount);
+    o.end();
+}
+
+inline void build(const Json& j, VehicleData& r) {
+    set(j.at("vin"), r.vin);
+    set(j.at("model"), r.model);
+    set(j.at("target"), r.target);
+    set(j.at("variant"), r.variant);
+    set(j.at("softwareVersion"), r.softwareVersion);
+    set(j.at("bus"), r.bus);
+    set(j.at("address"), r.address);
+    set(j.at("status"), r.status);
+    set(j.at("dtcCount"), r.dtcCount);
+}
+
+inline void describe(Out& o, const UploadReportConfiguration& r) {
+    o.member("reportFile", r.reportFile);
+    o.member("folder", r.folder);
+    o.member("name", r.name);
+    o.member("vin", r.vin);
+    o.member("user", r.user);
+    o.member("comment", r.comment);
+    o.member("overwrite", r.overwrite);
+    o.member("withTwin", r.withTwin);
+    o.end();
+}
+
+inline void build(const Json& j, UploadReportConfiguration& r) {
+    set(j.at("reportFile"), r.reportFile);
+    set(j.at("folder"), r.folder);
+    set(j.at("name"), r.name);
+    set(j.at("vin"), r.vin);
+    set(j.at("user"), r.user);
+    set(j.at("comment"), r.comment);
+    set(j.at("overwrite"), r.overwrite);
+    set(j.at("withTwin"), r.withTwin);
+}
+
+inline void describe(Out& o, const VehicleInformation& r) {
+    o.member("vin", r.vin);
+    o.member("model", r.model);
+    o.member("modelYear", r.modelYear);
+    o.member("mileage", r.mileage);
+    o.member("licensePlate", r.licensePlate);
+    o.member("equipment", r.equipment, r.equipmentCount);
+    o.member("equipmentCount", r.equipmentCount);
+    o.end();
+}
+
+inline void build(const Json& j, VehicleInformation& r) {
+    set(j.at("vin"), r.vin);
+    set(j.at("model"), r.model);
+    set(j.at("modelYear"), r.modelYear);
+    set(j.at("mileage"), r.mileage);
+    set(j.at("licensePlate"), r.licensePlate);
+    set(j.at("equipment"), r.equipment, r.equipmentCount);
 }
 
 // The scripted engine failures and what each must give.
