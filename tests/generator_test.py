@@ -167,6 +167,39 @@ class Rejected(unittest.TestCase):
                 u16 value
             """, message="differs")
 
+    def test_a_shared_release_routine_needs_the_same_leading_strings_and_nothing_else_owned(self):
+        shared = """
+            record Scale named
+                wstr text1
+                u32 value
+            """
+        iface = parsed(shared + """
+            record Info release=Scale
+                wstr a
+                wstr b
+                wstr c
+                wstr d
+                wstr e
+                u32 n
+                flag f
+            """)
+        lines = generate.shared_release(iface, iface.record("Info"))
+        self.assertIn("static_assert(offsetof(Info, e) == offsetof(Scale, text1));", lines)
+        self.assertIn("release_Scale(reinterpret_cast<Scale*>(ptr))", lines[-2])
+        strings = ["wstr a", "wstr b", "wstr c", "wstr d", "wstr e"]
+        for fields, why in [(strings[:4], "fewer strings"),
+                            (strings + ["wstr f"], "more strings"),
+                            (strings[:4] + ["u32 n", "wstr e"], "a string after a number"),
+                            (strings + ["bytes data dataLength"], "other memory")]:
+            with self.subTest(why):
+                self.assertRejected(shared.rstrip(" ") + "            record Info release=Scale\n" +
+                                    "".join(f"                {f}\n" for f in fields),
+                                    message="same wide strings")
+        self.assertRejected(shared + """
+            record Info release=Nothing
+                wstr a
+            """, message="its own release routine")
+
     def test_field_and_operation_forms(self):
         self.assertRejected("""
             record Thing
