@@ -29,9 +29,10 @@ std::string cell(const ReportJson& j, const char* key) {
     return escapeHtml(found->is_string() ? found->get<std::string>() : found->dump());
 }
 
-std::string hex(uint64_t value) {
+std::string hex(uint64_t value, int digits = 1) {
     char buffer[24];
-    std::snprintf(buffer, sizeof buffer, "0x%llX", static_cast<unsigned long long>(value));
+    std::snprintf(buffer, sizeof buffer, "0x%0*llX", digits,
+                  static_cast<unsigned long long>(value));
     return buffer;
 }
 
@@ -109,7 +110,8 @@ void unitSection(std::string& out, const ReportJson& unit) {
             out += "<table class=\"dtcs\">\n<tr><th>Code</th><th>Text</th><th>Status</th></tr>\n";
             for (const auto& d : unit.at("dtcs")) {
                 out += "<tr><td>" + cell(d, "code") + "</td><td>" + cell(d, "text") + "</td><td>" +
-                       hex(d.value("status", 0ULL)) + " " + cell(d, "statusText") + "</td></tr>\n";
+                       hex(d.value("status", 0ULL), 2) + " " + cell(d, "statusText") +
+                       "</td></tr>\n";
             }
             out += "</table>\n";
         }
