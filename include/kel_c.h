@@ -3324,13 +3324,16 @@ KEL_C_API uint64_t kel_executeSequenceAsync(TarnApi* api, KEL_KEPT const wchar_t
 
 /* ---- EcuOrder ----
  * The ECU order */
-/* Reads an ECU order from a file. Position 112.
+/* Reads an ECU order from an order file in the public directories. An empty path reads the
+ * vehicle's own order file, which gives the default order until one is written. Position 112.
  * path: kept by the caller, read only during the call.
  * On success *entries and *entryCount receive an EcuOrderEntry list, NULL and 0 when empty;
  * free it with release_EcuOrderEntry_array(entries, entryCount). */
 KEL_C_API void kel_readEcuOrder(TarnApi* api, KEL_KEPT const wchar_t* path, KelError** error,
                                 KEL_OUT EcuOrderEntry*** entries, KEL_OUT uint32_t* entryCount);
-/* Filters an ECU order down to the given targets. Position 113.
+/* Keeps the entries of the given targets, named by unit name or alias, in the order's own
+ * order; no targets keeps every entry. A target the order has no entry for fails the call.
+ * Position 113.
  * entries, targets: kept by the caller, read only during the call.
  * On success *filtered and *filteredCount receive an EcuOrderEntry list, NULL and 0 when
  * empty; free it with release_EcuOrderEntry_array(filtered, filteredCount). */
@@ -3339,7 +3342,8 @@ KEL_C_API void kel_filterEcuOrder(TarnApi* api, KEL_KEPT EcuOrderEntry** entries
                                   uint32_t targetCount, KelError** error,
                                   KEL_OUT EcuOrderEntry*** filtered,
                                   KEL_OUT uint32_t* filteredCount);
-/* Completes an ECU order with the targets that it lacks. Position 114.
+/* Completes an ECU order: the entries as given, then every unit of the vehicle that they do
+ * not name, in default order. Position 114.
  * entries: kept by the caller, read only during the call.
  * On success *completed and *completedCount receive an EcuOrderEntry list, NULL and 0 when
  * empty; free it with release_EcuOrderEntry_array(completed, completedCount). */
@@ -3347,35 +3351,41 @@ KEL_C_API void kel_addMissingTargetsToEcuOrder(TarnApi* api, KEL_KEPT EcuOrderEn
                                                uint32_t entryCount, KelError** error,
                                                KEL_OUT EcuOrderEntry*** completed,
                                                KEL_OUT uint32_t* completedCount);
-/* Creates the default ECU order. Position 220.
+/* Creates the default ECU order of the vehicle's units: the gateway first, then by bus name,
+ * then by address. Position 220.
  * On success *entries and *entryCount receive an EcuOrderEntry list, NULL and 0 when empty;
  * free it with release_EcuOrderEntry_array(entries, entryCount). */
 KEL_C_API void kel_createDefaultECUOrder(TarnApi* api, KelError** error,
                                          KEL_OUT EcuOrderEntry*** entries,
                                          KEL_OUT uint32_t* entryCount);
-/* Writes an ECU order to a file. Position 223.
+/* Writes an ECU order to an order file in the public directories, replacing it. An empty path
+ * writes the vehicle's own order file. Position 223.
  * path, entries: kept by the caller, read only during the call. */
 KEL_C_API void kel_writeEcuOrder(TarnApi* api, KEL_KEPT const wchar_t* path,
                                  KEL_KEPT EcuOrderEntry** entries, uint32_t entryCount,
                                  KelError** error);
-/* Reads the path of the ECU order file. Position 224.
+/* Reads the engine path of the vehicle's own ECU order file. Position 224.
  * On success *path receives a new string; free it with release_Memory. */
 KEL_C_API void kel_getEcuOrderFilePath(TarnApi* api, KelError** error, KEL_OUT wchar_t** path);
 
 /* ---- VehicleReports ----
  * Vehicle data, the selected vehicle and reports */
-/* Creates a vehicle report as config says; returns the report file. Position 111.
+/* Reads the units as config says and writes a vehicle report into the reports directory: an
+ * HTML page and its JSON twin of the same name; returns the HTML file's engine path.
+ * Position 111.
  * config: consumed: the library frees it with release_VehicleReportConfig, also when the call
  * fails; NULL passes no record.
  * On success *reportFile receives a new string; free it with release_Memory. */
 KEL_C_API void kel_createVehicleReport(TarnApi* api, KEL_CONSUMED VehicleReportConfig* config,
                                        KelError** error, KEL_OUT wchar_t** reportFile);
-/* Reads the vehicle data. Position 191.
+/* Reads every control unit as it is now: one entry per unit, each with the vehicle's VIN and
+ * model. Position 191.
  * On success *data and *dataCount receive a VehicleData list, NULL and 0 when empty; free it
  * with release_VehicleData_array(data, dataCount). */
 KEL_C_API void kel_getVehicleData(TarnApi* api, KelError** error, KEL_OUT VehicleData*** data,
                                   KEL_OUT uint32_t* dataCount);
-/* Creates a report of vehicle update results; returns the report file. Position 231.
+/* Writes a report of vehicle update results into the reports directory: an HTML page and its
+ * JSON twin of the same name; returns the HTML file's engine path. Position 231.
  * results: kept by the caller, read only during the call.
  * On success *reportFile receives a new string; free it with release_Memory. */
 KEL_C_API void kel_createVehicleUpdateReport(TarnApi* api, KEL_KEPT VehicleUpdateResult** results,
@@ -3386,7 +3396,8 @@ KEL_C_API void kel_createVehicleUpdateReport(TarnApi* api, KEL_KEPT VehicleUpdat
  * none; free it with release_VehicleInformation. */
 KEL_C_API void kel_getSelectedVehicleInformation(TarnApi* api, KelError** error,
                                                  KEL_OUT VehicleInformation** information);
-/* Selects a vehicle by its information. Position 250.
+/* Selects a vehicle by its information; a VIN that is not 17 digits and capital letters other
+ * than I, O and Q is refused. Position 250.
  * information: consumed: the library frees it with release_VehicleInformation, also when the
  * call fails; NULL passes no record. */
 KEL_C_API void kel_setSelectedVehicleInformation(TarnApi* api, KelError** error,

@@ -18,7 +18,7 @@ enum ErrorCode : int32_t {
     WrongLockId = 1004,
     UnknownHandle = 1005,
 
-    // Events: 1006-1009, continued at 2400-2499.
+    // Events: 1006-1009.
     UnknownEventChannel = 1006, // an event channel that was never opened or is closed
     ConnectionLost = 1007,      // carried by ConnectionBroken events, not thrown
     TooManyEventChannels = 1008,
@@ -146,6 +146,9 @@ enum ErrorCode : int32_t {
     SequenceNeedsTarget = 2004, // runSequence of a sequence that names no target
 
     // EcuOrder: 2100-2199.
+    BadEcuOrderFile = 2100,     // not an order file: its header, a line (named), its size
+    BadEcuOrder = 2101,         // an order given: a missing entry, a target empty or twice
+    TargetNotInEcuOrder = 2102, // filterEcuOrder: the order has no entry for the target
 
     // VehicleUpdate: 2200-2299.
 
@@ -153,6 +156,10 @@ enum ErrorCode : int32_t {
     DataRootUnavailable = 2300, // the data root cannot be created or used
 
     // VehicleReports: 2400-2499.
+    InvalidVin = 2400,            // not 17 digits and capital letters other than I, O and Q
+    BadVehicleInformation = 2401, // no record, a control character, a model year out of range
+    ReportExists = 2402,          // a report of that name is in the reports directory
+    BadReportArgument = 2403,     // a missing result record
 };
 
 } // namespace Varno::Kel_cpp::Reference

@@ -22,6 +22,7 @@ struct Parts {
     FlashSettings flash;
     CodingSettings coding;
     EcuOrderSettings ecuOrder;
+    VehicleReportsSettings reports;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -38,6 +39,7 @@ Parts parseParts(const VehicleDescription& description) {
     parts.flash = FlashSettings::parse(description.section("flash"), parts.ecus);
     parts.coding = CodingSettings::parse(description.section("coding"), parts.ecus);
     parts.ecuOrder = EcuOrderSettings::parse(description.section("ecuOrder"), parts.ecus);
+    parts.reports = VehicleReportsSettings::parse(description.section("vehicle"));
     return parts;
 }
 
@@ -112,6 +114,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     flash.load(std::move(parts.flash));
     coding.load(std::move(parts.coding));
     ecuOrder.load(std::move(parts.ecuOrder));
+    reports.load(std::move(parts.reports));
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -131,6 +134,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.flash = std::make_shared<Flash>(vehicle);
     families.coding = std::make_shared<Coding>(vehicle);
     families.ecuOrder = std::make_shared<EcuOrder>(vehicle);
+    families.vehicleReports = std::make_shared<VehicleReports>(vehicle);
     return families;
 }
 

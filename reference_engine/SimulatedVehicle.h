@@ -13,8 +13,8 @@
 #include "Script.h"
 #include "VehicleDescription.h"
 #include "families/coding/Coding.h"
-#include "families/ecuorder/EcuOrder.h"
 #include "families/diagnostics/Diagnostics.h"
+#include "families/ecuorder/EcuOrder.h"
 #include "families/events/Events.h"
 #include "families/files/Files.h"
 #include "families/flash/Flash.h"
@@ -23,6 +23,7 @@
 #include "families/measurement/Measurement.h"
 #include "families/monitoring/Monitoring.h"
 #include "families/projects/Projects.h"
+#include "families/reports/VehicleReports.h"
 #include "families/sequences/Sequences.h"
 #include "families/servers/Servers.h"
 #include "families/services/Cyclic.h"
@@ -83,6 +84,7 @@ public:
     FlashState flash;
     CodingState coding;
     EcuOrderState ecuOrder;
+    VehicleReportsState reports;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};

@@ -81,13 +81,11 @@ TEST_F(Frame, SecondFailureOverwritesWithoutFreeingTheFirst) {
 
 TEST_F(Frame, UnsupportedOperationNamesItself) {
     ErrorSlot error;
-    wchar_t* path = nullptr;
-    kel_getEcuOrderFilePath(api, &error, &path);
+    kel_selectDynamicProject(api, L"Dynamic", nullptr, 0, &error);
     ASSERT_TRUE(error);
-    EXPECT_EQ(path, nullptr);
     EXPECT_EQ(error->code, 1000);
     const std::wstring message = error->message;
-    EXPECT_NE(message.find(L"getEcuOrderFilePath"), std::wstring::npos)
+    EXPECT_NE(message.find(L"selectDynamicProject"), std::wstring::npos)
         << std::string(message.begin(), message.end());
     EXPECT_NE(message.find(L"does not support"), std::wstring::npos);
 }

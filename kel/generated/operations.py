@@ -1479,7 +1479,9 @@ class Operations:
         return stream.read_DirectoryInfo(_b, 0)[0]
 
     def create_vehicle_report(self, config: Optional[records.VehicleReportConfig] = None) -> str:
-        """Creates a vehicle report as config says; returns the report file.
+        """Reads the units as config says and writes a vehicle report into the reports
+        directory: an HTML page and its JSON twin of the same name; returns the HTML
+        file's engine path.
 
         C: kel_createVehicleReport; number 146; engine position 111.
 
@@ -1491,7 +1493,9 @@ class Operations:
         return _b[4:].decode()
 
     def read_ecu_order(self, path: str) -> list[Optional[records.EcuOrderEntry]]:
-        """Reads an ECU order from a file.
+        """Reads an ECU order from an order file in the public directories. An empty
+        path reads the vehicle's own order file, which gives the default order until
+        one is written.
 
         C: kel_readEcuOrder; number 143; engine position 112.
 
@@ -1509,7 +1513,9 @@ class Operations:
         return _results
 
     def filter_ecu_order(self, entries: Sequence[Optional[records.EcuOrderEntry]] = (), targets: Sequence[str] = ()) -> list[Optional[records.EcuOrderEntry]]:
-        """Filters an ECU order down to the given targets.
+        """Keeps the entries of the given targets, named by unit name or alias, in the
+        order's own order; no targets keeps every entry. A target the order has no
+        entry for fails the call.
 
         C: kel_filterEcuOrder; number 144; engine position 113.
 
@@ -1530,7 +1536,8 @@ class Operations:
         return _results
 
     def add_missing_targets_to_ecu_order(self, entries: Sequence[Optional[records.EcuOrderEntry]] = ()) -> list[Optional[records.EcuOrderEntry]]:
-        """Completes an ECU order with the targets that it lacks.
+        """Completes an ECU order: the entries as given, then every unit of the vehicle
+        that they do not name, in default order.
 
         C: kel_addMissingTargetsToEcuOrder; number 145; engine position 114.
 
@@ -2403,7 +2410,8 @@ class Operations:
         return _b[4:].decode()
 
     def get_vehicle_data(self) -> list[Optional[records.VehicleData]]:
-        """Reads the vehicle data.
+        """Reads every control unit as it is now: one entry per unit, each with the
+        vehicle's VIN and model.
 
         C: kel_getVehicleData; number 202; engine position 191.
 
@@ -2714,7 +2722,8 @@ class Operations:
         return stream.read_texts(_b, 0)[0]
 
     def create_default_ecu_order(self) -> list[Optional[records.EcuOrderEntry]]:
-        """Creates the default ECU order.
+        """Creates the default ECU order of the vehicle's units: the gateway first,
+        then by bus name, then by address.
 
         C: kel_createDefaultECUOrder; number 250; engine position 220.
 
@@ -2760,7 +2769,8 @@ class Operations:
         return self._start(c_records.start_writeCodingFileAsync, c_records.from_c_CodingFileResult, "release_CodingFileResult_array", coding_file, targets)
 
     def write_ecu_order(self, path: str, entries: Sequence[Optional[records.EcuOrderEntry]] = ()) -> None:
-        """Writes an ECU order to a file.
+        """Writes an ECU order to an order file in the public directories, replacing
+        it. An empty path writes the vehicle's own order file.
 
         C: kel_writeEcuOrder; number 255; engine position 223.
 
@@ -2774,7 +2784,7 @@ class Operations:
         self._call(255, builtins.bytes(_o))
 
     def get_ecu_order_file_path(self) -> str:
-        """Reads the path of the ECU order file.
+        """Reads the engine path of the vehicle's own ECU order file.
 
         C: kel_getEcuOrderFilePath; number 256; engine position 224.
 
@@ -2872,7 +2882,9 @@ class Operations:
         self._call(261, builtins.bytes(_o))
 
     def create_vehicle_update_report(self, results: Sequence[Optional[records.VehicleUpdateResult]] = ()) -> str:
-        """Creates a report of vehicle update results; returns the report file.
+        """Writes a report of vehicle update results into the reports directory: an
+        HTML page and its JSON twin of the same name; returns the HTML file's engine
+        path.
 
         C: kel_createVehicleUpdateReport; number 264; engine position 231.
 
@@ -3105,7 +3117,8 @@ class Operations:
         return stream.read_VehicleInformation(_b, 0)[0]
 
     def set_selected_vehicle_information(self, information: Optional[records.VehicleInformation] = None) -> None:
-        """Selects a vehicle by its information.
+        """Selects a vehicle by its information; a VIN that is not 17 digits and
+        capital letters other than I, O and Q is refused.
 
         C: kel_setSelectedVehicleInformation; number 57; engine position 250.
 

@@ -1,0 +1,34 @@
+// A report is one JSON document (README.md, "Vehicle reports"); the JSON twin is that
+// document as it is, the HTML page a rendering of it for a person, every text escaped.
+#pragma once
+
+#include <nlohmann/json.hpp>
+
+#include <cstdint>
+#include <string>
+
+namespace Varno::Kel_cpp::Reference {
+
+using ReportJson = nlohmann::ordered_json;
+
+// The wall clock, UTC: "2026-11-22T14:45:04Z" (iso) or "20261122T144504" (compact, for
+// file names).
+struct UtcTime {
+    std::string iso;
+    std::string compact;
+    static UtcTime now();
+};
+
+// `text` (UTF-8) with & < > " ' as references and control characters other than tab,
+// line feed and carriage return as U+FFFD.
+std::string escapeHtml(const std::string& text);
+
+// The ISO 14229 status bits a reader looks at first: "active, confirmed", "pending" ...
+std::string dtcStatusWords(uint32_t status);
+
+std::string renderHtml(const ReportJson& report);
+
+// The twin's text: UTF-8, invalid sequences replaced.
+std::string renderJson(const ReportJson& report);
+
+} // namespace Varno::Kel_cpp::Reference

@@ -1,0 +1,397 @@
+// The ECU order of the default vehicle and of small made-up ones: the default order's
+// rules, filtering and completing an order, and order files in the public directories
+// (written, read back, refused when malformed or outside the sandbox).
+#include "support.h"
+
+#include <cstring>
+#include <filesystem>
+#include <initializer_list>
+#include <string>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::List;
+
+using Entries = List<EcuOrderEntry, release_EcuOrderEntry_array>;
+using Names = std::vector<std::wstring>;
+
+struct Entry {
+    std::wstring target;
+    std::wstring bus;
+    uint32_t address = 0;
+    bool gateway = false;
+    bool optional = false;
+    bool operator==(const Entry&) const = default;
+};
+
+std::vector<Entry> entriesOf(const Entries& list) {
+    std::vector<Entry> out;
+    for (uint32_t i = 0; i < list.count; ++i) {
+        const EcuOrderEntry& e = *list.items[i];
+        out.push_back({e.target, e.bus, e.address, e.gateway != 0, e.optional != 0});
+    }
+    return out;
+}
+
+Names targetsOf(const Entries& list) {
+    Names out;
+    for (const auto& e : entriesOf(list)) {
+        out.push_back(e.target);
+    }
+    return out;
+}
+
+// An order as C records on the library's heap, as a caller hands one in; a null Entry
+// pointer stands for a NULL element.
+class COrder {
+public:
+    explicit COrder(std::initializer_list<const Entry*> entries) { add(entries); }
+    explicit COrder(const std::vector<Entry>& entries) {
+        std::vector<const Entry*> all;
+        for (const auto& e : entries) {
+            all.push_back(&e);
+        }
+        add(all);
+    }
+    COrder(const COrder&) = delete;
+    COrder& operator=(const COrder&) = delete;
+    ~COrder() {
+        for (auto* c : items_) {
+            release_EcuOrderEntry(c);
+        }
+    }
+    EcuOrderEntry** items() { return items_.empty() ? nullptr : items_.data(); }
+    uint32_t count() const { return static_cast<uint32_t>(items_.size()); }
+
+private:
+    template <class Pointers>
+    void add(const Pointers& entries) {
+        for (const auto* e : entries) {
+            if (e == nullptr) {
+                items_.push_back(nullptr);
+                continue;
+            }
+            auto* c = static_cast<EcuOrderEntry*>(allocate_Memory(sizeof(EcuOrderEntry)));
+            std::memset(c, 0, sizeof *c);
+            c->target = duplicate_WString(e->target.c_str());
+            c->bus = duplicate_WString(e->bus.c_str());
+            c->address = e->address;
+            c->gateway = e->gateway ? 1 : 0;
+            c->optional = e->optional ? 1 : 0;
+            items_.push_back(c);
+        }
+    }
+    std::vector<EcuOrderEntry*> items_;
+};
+
+std::vector<wchar_t*> cTargets(const Names& names) {
+    std::vector<wchar_t*> out;
+    for (const auto& n : names) {
+        out.push_back(const_cast<wchar_t*>(n.c_str()));
+    }
+    return out;
+}
+
+class EcuOrderTest : public EngineTest {
+protected:
+    void SetUp() override {
+        EngineTest::SetUp();
+        // The data root outlives a test: start without the vehicle's order file.
+        wchar_t root[4096];
+        ASSERT_GT(kelsim_dataRoot(root, 4096), 0);
+        std::error_code e;
+        std::filesystem::remove(std::filesystem::path(root) / "configuration" / "ecu-order.txt", e);
+    }
+
+    std::vector<Entry> defaultOrder() {
+        ErrorSlot error;
+        Entries out;
+        kel_createDefaultECUOrder(api, &error, &out.items, &out.count);
+        EXPECT_FALSE(error);
+        return entriesOf(out);
+    }
+    // The call's error code, 0 on success; `out` receives the result.
+    int32_t read(const wchar_t* path, std::vector<Entry>& out) {
+        ErrorSlot error;
+        Entries list;
+        kel_readEcuOrder(api, path, &error, &list.items, &list.count);
+        out = entriesOf(list);
+        return error ? error->code : 0;
+    }
+    int32_t write(const wchar_t* path, COrder& order) {
+        ErrorSlot error;
+        kel_writeEcuOrder(api, path, order.items(), order.count(), &error);
+        return error ? error->code : 0;
+    }
+    int32_t filter(COrder& order, const Names& targets, Names& out,
+                   std::wstring* details = nullptr) {
+        ErrorSlot error;
+        Entries list;
+        auto t = cTargets(targets);
+        kel_filterEcuOrder(api, order.items(), order.count(), t.empty() ? nullptr : t.data(),
+                           static_cast<uint32_t>(t.size()), &error, &list.items, &list.count);
+        out = targetsOf(list);
+        if (details != nullptr && error) {
+            *details = error->details;
+        }
+        return error ? error->code : 0;
+    }
+    int32_t addMissing(COrder& order, std::vector<Entry>& out) {
+        ErrorSlot error;
+        Entries list;
+        kel_addMissingTargetsToEcuOrder(api, order.items(), order.count(), &error, &list.items,
+                                        &list.count);
+        out = entriesOf(list);
+        return error ? error->code : 0;
+    }
+    void writeFile(const wchar_t* path, const std::string& text) {
+        ErrorSlot error;
+        uint32_t written = 0;
+        kel_writeFile(api, path, reinterpret_cast<const uint8_t*>(text.data()),
+                      static_cast<uint32_t>(text.size()), 0, 1, &error, &written);
+        ASSERT_FALSE(error) << (error ? error->code : 0);
+    }
+    std::string readFile(const wchar_t* path) {
+        ErrorSlot error;
+        void* data = nullptr;
+        uint32_t length = 0;
+        kel_readFile(api, path, 0, 0, 0, &error, &data, &length);
+        EXPECT_FALSE(error);
+        std::string text(static_cast<const char*>(data), length);
+        release_Memory(data);
+        return text;
+    }
+};
+
+TEST_F(EcuOrderTest, TheDefaultOrderPutsTheGatewayFirstThenSortsByBusAndAddress) {
+    // Units described out of order; two share a bus.
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [
+        {"name": "T2", "bus": "Body", "address": 32}, {"name": "T1", "bus": "Body", "address": 16},
+        {"name": "A", "bus": "Axle", "address": 48}, {"name": "GW", "bus": "Zone", "address": 1}],
+        "ecuOrder": {"gateway": "GW"}})"),
+              0);
+    EXPECT_EQ(defaultOrder(), (std::vector<Entry>{{L"GW", L"Zone", 1, true, false},
+                                                  {L"A", L"Axle", 48, false, false},
+                                                  {L"T1", L"Body", 16, false, false},
+                                                  {L"T2", L"Body", 32, false, false}}));
+
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "B", "bus": "Y"}, {"name": "A",
+        "bus": "X"}]})"),
+              0);
+    EXPECT_EQ(defaultOrder(),
+              (std::vector<Entry>{{L"A", L"X", 0, false, false}, {L"B", L"Y", 0, false, false}}))
+        << "no gateway: by bus alone";
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A"}], "ecuOrder": {"gateway": "Z"}})"),
+              -1)
+        << "a gateway that is no unit";
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "ecuOrder": {"file": "../order.txt"}})"), -1)
+        << "an order file outside the sandbox";
+}
+
+TEST_F(EcuOrderTest, FilteringKeepsTheOrdersOrderAndKnowsAliases) {
+    const auto order = defaultOrder();
+    ASSERT_EQ(order.size(), 6U);
+    COrder given(order);
+    Names kept;
+    ASSERT_EQ(filter(given, {L"TCM", L"Engine", L"GW", L"TCM"}, kept), 0);
+    EXPECT_EQ(kept, (Names{L"GW", L"ECM", L"TCM"})) << "order's order, once each, alias Engine";
+
+    ASSERT_EQ(filter(given, {}, kept), 0);
+    EXPECT_EQ(kept.size(), order.size()) << "no targets: the whole order";
+
+    std::wstring details;
+    EXPECT_EQ(filter(given, {L"ECM", L"Ghost", L"Nope"}, kept, &details), 2102);
+    EXPECT_TRUE(kept.empty()) << "no result on failure";
+    EXPECT_NE(details.find(L"Ghost"), std::wstring::npos);
+    EXPECT_NE(details.find(L"Nope"), std::wstring::npos);
+
+    // An entry named by an alias is found by the unit's name too.
+    const Entry byAlias{L"Gateway", L"Diagnostic CAN", 1808, true, false};
+    COrder aliased({&byAlias});
+    ASSERT_EQ(filter(aliased, {L"GW"}, kept), 0);
+    EXPECT_EQ(kept, (Names{L"Gateway"}));
+}
+
+TEST_F(EcuOrderTest, CompletingAnOrderAppendsExactlyTheMissingUnitsInDefaultOrder) {
+    const std::vector<Entry> given = {{L"TCM", L"Own bus", 5, false, true},
+                                      {L"Engine", L"", 0, false, false},
+                                      {L"Retrofit", L"Aux CAN", 0x7A0, false, true}};
+    COrder order(given);
+    std::vector<Entry> completed;
+    ASSERT_EQ(addMissing(order, completed), 0);
+    ASSERT_EQ(completed.size(), 7U);
+    EXPECT_EQ(std::vector<Entry>(completed.begin(), completed.begin() + 3), given)
+        << "given entries stay as they are, also one the vehicle lacks";
+    Names appended;
+    for (auto it = completed.begin() + 3; it != completed.end(); ++it) {
+        appended.push_back(it->target);
+    }
+    EXPECT_EQ(appended, (Names{L"GW", L"ESP", L"BCM", L"ACC"}))
+        << "the default order without TCM and the ECM (named by its alias)";
+    EXPECT_EQ(completed[3], (Entry{L"GW", L"Diagnostic CAN", 1808, true, false}));
+
+    COrder empty(std::vector<Entry>{});
+    ASSERT_EQ(addMissing(empty, completed), 0);
+    EXPECT_EQ(completed, defaultOrder());
+}
+
+TEST_F(EcuOrderTest, AnOrderHandedInNamesEachTargetOnce) {
+    const Entry ecm{L"ECM", L"Powertrain CAN", 0x7E0};
+    const Entry unnamed{L"", L"Powertrain CAN", 0x7E1};
+    COrder twice({&ecm, &ecm});
+    COrder withNull({&ecm, nullptr});
+    COrder withEmpty({&unnamed});
+    std::vector<COrder*> bad = {&twice, &withNull, &withEmpty};
+    for (auto* order : bad) {
+        std::vector<Entry> out;
+        Names kept;
+        EXPECT_EQ(addMissing(*order, out), 2101);
+        EXPECT_EQ(filter(*order, {L"ECM"}, kept), 2101);
+        EXPECT_EQ(write(L"exchange/bad-order.txt", *order), 2101);
+    }
+    // What a line could not hold unchanged is refused before anything is written.
+    const std::vector<Entry> unwritable = {{L"ECM", L"Power\ttrain", 1},
+                                           {L"ECM", L" Powertrain", 1},
+                                           {L"#ECM", L"Powertrain", 1},
+                                           {L"ECM\n", L"Powertrain", 1}};
+    for (const auto& e : unwritable) {
+        COrder order({&e});
+        EXPECT_EQ(write(L"exchange/unwritable.txt", order), 2101) << e.target << "/" << e.bus;
+    }
+    std::vector<Entry> out;
+    EXPECT_EQ(read(L"exchange/unwritable.txt", out), 1609) << "nothing was written";
+}
+
+TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactly) {
+    const std::vector<Entry> order = {
+        {L"GW", L"Diagnostic CAN", 0x710, true, false},
+        {L"ECM", L"Powertrain CAN", 0x7E0, false, false},
+        {L"Türsteuergerät", L"Komfort CAN 2", 0xFFFFFFFF, false, true},
+        {L"Retrofit", L"", 0, true, true}};
+    COrder c(order);
+    ASSERT_EQ(write(L"exchange/orders/workshop 1.txt", c), 0) << "directories are made";
+    std::vector<Entry> back;
+    ASSERT_EQ(read(L"exchange\\orders\\workshop 1.txt", back), 0);
+    EXPECT_EQ(back, order);
+
+    // The format other tools read: a header, then tab-separated columns.
+    const auto text = readFile(L"exchange/orders/workshop 1.txt");
+    EXPECT_EQ(text.rfind("# kel ECU order 1\n", 0), 0U) << text;
+    EXPECT_NE(text.find("\nGW\tDiagnostic CAN\t0x710\tgateway\n"), std::string::npos) << text;
+    EXPECT_NE(text.find("\nRetrofit\t\t0x0\tgateway\toptional\n"), std::string::npos) << text;
+
+    // Writing again replaces the order.
+    COrder shorter(std::vector<Entry>(order.begin() + 1, order.begin() + 2));
+    ASSERT_EQ(write(L"exchange/orders/workshop 1.txt", shorter), 0);
+    ASSERT_EQ(read(L"exchange/orders/workshop 1.txt", back), 0);
+    EXPECT_EQ(back, (std::vector<Entry>{order[1]}));
+}
+
+TEST_F(EcuOrderTest, TheVehiclesOrderFileStandsForTheDefaultOrderUntilWritten) {
+    ErrorSlot error;
+    wchar_t* path = nullptr;
+    kel_getEcuOrderFilePath(api, &error, &path);
+    ASSERT_FALSE(error);
+    EXPECT_STREQ(path, L"configuration/ecu-order.txt");
+    release_Memory(path);
+
+    std::vector<Entry> current;
+    ASSERT_EQ(read(L"", current), 0);
+    EXPECT_EQ(current, defaultOrder()) << "no order file yet";
+    EXPECT_EQ(read(L"configuration/ecu-order.txt", current), 1609) << "a named file must exist";
+
+    const std::vector<Entry> own = {{L"ECM", L"Powertrain CAN", 2016}, {L"GW", L"X", 1, true}};
+    COrder c(own);
+    ASSERT_EQ(write(L"", c), 0);
+    ASSERT_EQ(read(L"", current), 0);
+    EXPECT_EQ(current, own);
+    ASSERT_EQ(read(L"configuration/ecu-order.txt", current), 0);
+    EXPECT_EQ(current, own);
+
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A"}],
+        "ecuOrder": {"file": "exchange/vehicle order.txt"}})"),
+              0);
+    kel_getEcuOrderFilePath(api, &error, &path);
+    ASSERT_FALSE(error);
+    EXPECT_STREQ(path, L"exchange/vehicle order.txt");
+    release_Memory(path);
+}
+
+TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
+    const std::string header = "# kel ECU order 1\n";
+    struct Case {
+        std::string text;
+        const wchar_t* where;
+    };
+    const std::vector<Case> cases = {
+        {"ECM\tPowertrain CAN\t0x7E0\n", L"line 1:"},
+        {"# kel ECU order 2\n", L"line 1:"},
+        {header + "\n# comment\nECM\tPowertrain CAN\n", L"line 4:"},
+        {header + "ECM\tPowertrain CAN\t0x7G0\n", L"line 2:"},
+        {header + "ECM\tPowertrain CAN\t2016\n", L"line 2:"},
+        {header + "ECM\tPowertrain CAN\t0x123456789\n", L"line 2:"},
+        {header + "ECM\tPowertrain CAN\t0x7E0\tfirst\n", L"line 2:"},
+        {header + "\tPowertrain CAN\t0x7E0\n", L"line 2:"},
+        {header + "ECM\tPower\x01train\t0x7E0\n", L"line 2:"},
+        {header + "ECM\tA\t0x1\nTCM\tA\t0x2\nECM\tB\t0x3\n", L"line 4:"},
+    };
+    for (const auto& c : cases) {
+        writeFile(L"exchange/malformed.txt", c.text);
+        ErrorSlot error;
+        Entries out;
+        kel_readEcuOrder(api, L"exchange/malformed.txt", &error, &out.items, &out.count);
+        ASSERT_TRUE(error) << c.text;
+        EXPECT_EQ(error->code, 2100) << c.text;
+        EXPECT_NE(std::wstring(error->details).find(c.where), std::wstring::npos)
+            << c.text << " gave " << error->details;
+        EXPECT_EQ(out.items, nullptr);
+    }
+
+    // What is not a mistake: a byte order mark, CRLF, blanks around columns, comments.
+    writeFile(L"exchange/lenient.txt", "\xEF\xBB\xBF# kel ECU order 1\r\n"
+                                       "  # written by hand\r\n"
+                                       "\r\n"
+                                       "ECM \t Powertrain CAN \t 0X7e0 \t optional gateway\r\n");
+    std::vector<Entry> back;
+    ASSERT_EQ(read(L"exchange/lenient.txt", back), 0);
+    EXPECT_EQ(back, (std::vector<Entry>{{L"ECM", L"Powertrain CAN", 0x7E0, true, true}}));
+
+    std::string huge = header;
+    while (huge.size() <= (1U << 20)) {
+        huge += "# padding padding padding padding padding padding padding padding\n";
+    }
+    writeFile(L"exchange/huge.txt", huge);
+    EXPECT_EQ(read(L"exchange/huge.txt", back), 2100) << "over 1 MiB";
+}
+
+TEST_F(EcuOrderTest, OrderFilesStayInsideTheSandbox) {
+    const Entry ecm{L"ECM", L"Powertrain CAN", 0x7E0};
+    COrder order({&ecm});
+    struct Case {
+        const wchar_t* path;
+        int32_t read;
+        int32_t write;
+    };
+    const std::vector<Case> cases = {
+        {L"exchange/../../escaped.txt", 1606, 1606},
+        {L"/tmp/escaped.txt", 1604, 1604},
+        {L"C:\\escaped.txt", 1605, 1605},
+        {L"\\\\server\\share\\x.txt", 1603, 1603},
+        {L"nowhere/escaped.txt", 1607, 1607},
+        {L"exchange", 1611, 1613},
+    };
+    for (const auto& c : cases) {
+        std::vector<Entry> out;
+        EXPECT_EQ(read(c.path, out), c.read) << c.path;
+        EXPECT_EQ(write(c.path, order), c.write) << c.path;
+    }
+    wchar_t root[4096];
+    ASSERT_GT(kelsim_dataRoot(root, 4096), 0);
+    EXPECT_FALSE(
+        std::filesystem::exists(std::filesystem::path(root).parent_path() / "escaped.txt"));
+}
+
+} // namespace

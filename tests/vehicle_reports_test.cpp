@@ -1,0 +1,544 @@
+// Vehicle data, the selected vehicle and reports on the default vehicle: what the units
+// report now (after a clear, a flash, with a silent unit), the selection and its VIN
+// check, and the report files: the JSON twin parsed and compared with what the
+// diagnostic exports read, the HTML page checked for escaped texts.
+#include "support.h"
+
+#include <nlohmann/json.hpp>
+
+#include <algorithm>
+#include <cstring>
+#include <filesystem>
+#include <regex>
+#include <string>
+#include <vector>
+
+namespace {
+
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::List;
+using Json = nlohmann::json;
+
+using Data = List<VehicleData, release_VehicleData_array>;
+using Bytes = std::vector<uint8_t>;
+
+std::string utf8(const wchar_t* text) {
+    std::string out;
+    for (const wchar_t* p = text; p != nullptr && *p != 0; ++p) {
+        auto c = static_cast<uint32_t>(*p);
+        if (c >= 0xD800 && c < 0xDC00 && p[1] != 0) { // UTF-16 pair (Windows)
+            c = 0x10000 + ((c - 0xD800) << 10) + (static_cast<uint32_t>(*++p) - 0xDC00);
+        }
+        if (c < 0x80) {
+            out += static_cast<char>(c);
+        } else if (c < 0x800) {
+            out += static_cast<char>(0xC0 | c >> 6);
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        } else if (c < 0x10000) {
+            out += static_cast<char>(0xE0 | c >> 12);
+            out += static_cast<char>(0x80 | (c >> 6 & 0x3F));
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        } else {
+            out += static_cast<char>(0xF0 | c >> 18);
+            out += static_cast<char>(0x80 | (c >> 12 & 0x3F));
+            out += static_cast<char>(0x80 | (c >> 6 & 0x3F));
+            out += static_cast<char>(0x80 | (c & 0x3F));
+        }
+    }
+    return out;
+}
+
+wchar_t* dup(const std::wstring& text) { return duplicate_WString(text.c_str()); }
+
+// A block of `count` strings on the library's heap, as a record's string list.
+wchar_t** dupAll(const std::vector<std::wstring>& texts) {
+    if (texts.empty()) {
+        return nullptr;
+    }
+    auto** block = static_cast<wchar_t**>(allocate_Memory(texts.size() * sizeof(wchar_t*)));
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        block[i] = dup(texts[i]);
+    }
+    return block;
+}
+
+struct Information {
+    std::wstring vin;
+    std::wstring model;
+    uint32_t modelYear = 0;
+    uint32_t mileage = 0;
+    std::wstring licensePlate = {};
+    std::vector<std::wstring> equipment = {};
+    bool operator==(const Information&) const = default;
+};
+
+VehicleInformation* cInformation(const Information& i) {
+    auto* c = static_cast<VehicleInformation*>(allocate_Memory(sizeof(VehicleInformation)));
+    std::memset(c, 0, sizeof *c);
+    c->vin = dup(i.vin);
+    c->model = dup(i.model);
+    c->modelYear = i.modelYear;
+    c->mileage = i.mileage;
+    c->licensePlate = dup(i.licensePlate);
+    c->equipment = dupAll(i.equipment);
+    c->equipmentCount = static_cast<uint32_t>(i.equipment.size());
+    return c;
+}
+
+constexpr uint32_t programmingMask = 0xC3A5179E; // the ECM's level 2 in the default vehicle
+
+// The documented key algorithm, written out again: key = rotate_left_32(seed ^ mask, 3).
+Bytes keyFor(const Bytes& seed, uint32_t mask) {
+    uint32_t s = 0;
+    for (int i = 0; i < 4; ++i) {
+        s = s << 8 | seed[static_cast<std::size_t>(i)];
+    }
+    const uint32_t x = s ^ mask;
+    const uint32_t k = x << 3 | x >> 29;
+    return {static_cast<uint8_t>(k >> 24), static_cast<uint8_t>(k >> 16),
+            static_cast<uint8_t>(k >> 8), static_cast<uint8_t>(k)};
+}
+
+class VehicleReportsTest : public EngineTest {
+protected:
+    void SetUp() override {
+        EngineTest::SetUp();
+        // The data root outlives a test: start with an empty reports directory.
+        wchar_t root[4096];
+        ASSERT_GT(kelsim_dataRoot(root, 4096), 0);
+        std::error_code e;
+        for (const auto& entry :
+             std::filesystem::directory_iterator(std::filesystem::path(root) / "reports", e)) {
+            std::filesystem::remove_all(entry.path(), e);
+        }
+    }
+
+    Information selected() {
+        ErrorSlot error;
+        VehicleInformation* c = nullptr;
+        kel_getSelectedVehicleInformation(api, &error, &c);
+        EXPECT_FALSE(error);
+        if (c == nullptr) {
+            return {};
+        }
+        Information i{c->vin, c->model, c->modelYear, c->mileage, c->licensePlate, {}};
+        for (uint32_t k = 0; k < c->equipmentCount; ++k) {
+            i.equipment.emplace_back(c->equipment[k]);
+        }
+        release_VehicleInformation(c);
+        return i;
+    }
+    int32_t select(VehicleInformation* information) {
+        ErrorSlot error;
+        kel_setSelectedVehicleInformation(api, &error, information);
+        return error ? error->code : 0;
+    }
+
+    std::unique_ptr<Data> vehicleData() {
+        auto out = std::make_unique<Data>();
+        ErrorSlot error;
+        kel_getVehicleData(api, &error, &out->items, &out->count);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        return out;
+    }
+    static const VehicleData* unit(const Data& data, const wchar_t* target) {
+        for (uint32_t i = 0; i < data.count; ++i) {
+            if (std::wcscmp(data.items[i]->target, target) == 0) {
+                return data.items[i];
+            }
+        }
+        ADD_FAILURE() << "no vehicle data of " << utf8(target);
+        static const VehicleData none{};
+        return &none;
+    }
+
+    Bytes send(const wchar_t* target, const Bytes& request) {
+        auto* input = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
+        std::memset(input, 0, sizeof *input);
+        input->service = duplicate_WString(L"");
+        input->data = static_cast<uint8_t*>(allocate_Memory(request.size()));
+        std::memcpy(input->data, request.data(), request.size());
+        input->dataLength = static_cast<uint32_t>(request.size());
+        ErrorSlot error;
+        List<ServiceResult, release_ServiceResult_array> out;
+        kel_executeService(api, target, &input, 1, &error, &out.items, &out.count);
+        release_ServiceInput(input);
+        EXPECT_FALSE(error);
+        if (out.count == 0 || out.items[0]->responseCount == 0) {
+            return {};
+        }
+        const ResponseResult& r = *out.items[0]->responses[0];
+        return r.data == nullptr ? Bytes{} : Bytes(r.data, r.data + r.dataLength);
+    }
+    // The ECM in its programming session with level 2 unlocked, as a flash needs it.
+    void enterProgramming() {
+        ASSERT_EQ(send(L"ECM", {0x10, 0x02}).at(0), 0x50);
+        const auto seed = send(L"ECM", {0x27, 0x03});
+        ASSERT_EQ(seed.size(), 6U);
+        Bytes key = {0x27, 0x04};
+        const auto computed = keyFor(Bytes(seed.begin() + 2, seed.end()), programmingMask);
+        key.insert(key.end(), computed.begin(), computed.end());
+        ASSERT_EQ(send(L"ECM", key), (Bytes{0x67, 0x04}));
+    }
+
+    // The report's path, or the error code as text.
+    std::wstring report(VehicleReportConfig* config, int32_t* code = nullptr) {
+        ErrorSlot error;
+        wchar_t* path = nullptr;
+        kel_createVehicleReport(api, config, &error, &path);
+        if (code != nullptr) {
+            *code = error ? error->code : 0;
+        } else {
+            EXPECT_FALSE(error) << (error ? error->code : 0) << " "
+                                << (error ? utf8(error->details) : "");
+        }
+        std::wstring out = path != nullptr ? path : L"";
+        release_Memory(path);
+        return out;
+    }
+    std::string readFile(const std::wstring& path) {
+        ErrorSlot error;
+        void* data = nullptr;
+        uint32_t length = 0;
+        kel_readFile(api, path.c_str(), 0, 0, 0, &error, &data, &length);
+        EXPECT_FALSE(error) << utf8(path.c_str());
+        std::string text(static_cast<const char*>(data), length);
+        release_Memory(data);
+        return text;
+    }
+    Json twin(const std::wstring& html) {
+        EXPECT_EQ(html.substr(html.size() - 5), L".html");
+        return Json::parse(readFile(html.substr(0, html.size() - 5) + L".json"));
+    }
+    bool exists(const std::wstring& path) {
+        ErrorSlot error;
+        uint8_t found = 0;
+        kel_pathExists(api, path.c_str(), &error, &found);
+        EXPECT_FALSE(error);
+        return found != 0;
+    }
+};
+
+VehicleReportConfig* reportConfig(const std::wstring& name, const std::wstring& title,
+                                  const std::wstring& comment,
+                                  const std::vector<std::wstring>& targets, bool identification,
+                                  bool dtcs) {
+    auto* c = static_cast<VehicleReportConfig*>(allocate_Memory(sizeof(VehicleReportConfig)));
+    std::memset(c, 0, sizeof *c);
+    c->name = dup(name);
+    c->title = dup(title);
+    c->comment = dup(comment);
+    c->targets = dupAll(targets);
+    c->targetCount = static_cast<uint32_t>(targets.size());
+    c->identification = identification ? 1 : 0;
+    c->dtcs = dtcs ? 1 : 0;
+    return c;
+}
+
+TEST_F(VehicleReportsTest, TheSelectedVehicleRoundTripsAndStartsAsDescribed) {
+    const Information described = selected();
+    EXPECT_EQ(described.vin, L"WVWZZZ1KZ8W000417");
+    EXPECT_EQ(described.modelYear, 2008U);
+    EXPECT_EQ(described.equipment.size(), 3U);
+
+    const Information other{L"1HGCM82633A004352", L"Coupé \"GT\"", 2003, 241000, L"",
+                            {L"X1", L"Ä"}};
+    ASSERT_EQ(select(cInformation(other)), 0);
+    EXPECT_EQ(selected(), other);
+
+    // Refusals keep the selection.
+    struct Case {
+        Information information;
+        int32_t code;
+    };
+    const std::vector<Case> refused = {
+        {{L"1HGCM82633A00435", L"M"}, 2400},
+        {{L"1HGCM82633A0043521", L"M"}, 2400},
+        {{L"1HGCM82633A00435I", L"M"}, 2400},
+        {{L"1HGCM82633A00435O", L"M"}, 2400},
+        {{L"QHGCM82633A004352", L"M"}, 2400},
+        {{L"1hgcm82633a004352", L"M"}, 2400},
+        {{L"", L"M"}, 2400},
+        {{L"1HGCM82633A00435\u0663", L"M"}, 2400},
+        {{L"1HGCM82633A004352", L"M\n"}, 2401},
+        {{L"1HGCM82633A004352", L"M", 1500}, 2401},
+        {{L"1HGCM82633A004352", L"M", 0, 0, L"", {L""}}, 2401},
+    };
+    for (const auto& c : refused) {
+        EXPECT_EQ(select(cInformation(c.information)), c.code) << utf8(c.information.vin.c_str());
+    }
+    EXPECT_EQ(select(nullptr), 2401);
+    EXPECT_EQ(selected(), other);
+
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "vehicle": {"vin": "WVWZZZ1KZ8W00041I"}})"), -1)
+        << "the description's VIN is checked too";
+}
+
+TEST_F(VehicleReportsTest, VehicleDataDescribesEachUnitAsItIsNow) {
+    auto before = vehicleData();
+    ASSERT_EQ(before->count, 6U);
+    const VehicleData& ecm = *unit(*before, L"ECM");
+    EXPECT_STREQ(ecm.vin, L"WVWZZZ1KZ8W000417");
+    EXPECT_STREQ(ecm.model, selected().model.c_str());
+    EXPECT_STREQ(ecm.variant, L"ECM_EDC17_CR_2L0_V3");
+    EXPECT_STREQ(ecm.softwareVersion, L"5428");
+    EXPECT_STREQ(ecm.bus, L"Powertrain CAN");
+    EXPECT_EQ(ecm.address, 2016U);
+    EXPECT_EQ(ecm.status, 0);
+
+    // The DTC count is what readDtcs reads now.
+    const wchar_t* ecmOnly[] = {L"ECM"};
+    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+    ErrorSlot error;
+    kel_readDtcs(api, const_cast<wchar_t**>(ecmOnly), 1, nullptr, &error, &dtcs.items, &dtcs.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(dtcs.count, 1U);
+    EXPECT_GT(dtcs.items[0]->dtcCount, 0U);
+    EXPECT_EQ(ecm.dtcCount, dtcs.items[0]->dtcCount);
+
+    const VehicleData& acc = *unit(*before, L"ACC");
+    EXPECT_EQ(acc.status, 1) << "silent";
+    EXPECT_STREQ(acc.variant, L"");
+    EXPECT_STREQ(acc.softwareVersion, L"");
+    EXPECT_EQ(acc.dtcCount, 0U);
+    EXPECT_STREQ(acc.vin, L"WVWZZZ1KZ8W000417") << "every entry carries the vehicle's VIN";
+
+    List<ClearDtcResult, release_ClearDtcResult_array> cleared;
+    kel_clearAllDtcs(api, const_cast<wchar_t**>(ecmOnly), 1, &error, &cleared.items,
+                     &cleared.count);
+    ASSERT_FALSE(error);
+    auto after = vehicleData();
+    EXPECT_EQ(unit(*after, L"ECM")->dtcCount, 0U);
+    EXPECT_EQ(unit(*after, L"TCM")->dtcCount, unit(*before, L"TCM")->dtcCount);
+
+    // The VIN comes from the first unit that gives one; none gives an empty VIN.
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [
+        {"name": "Quiet", "responds": false, "identification": [
+            {"id": "F190", "name": "VIN", "value": "AAAAAAAAAAAAAAAAA", "length": 17}]},
+        {"name": "Plain"},
+        {"name": "Body", "identification": [
+            {"id": "F190", "name": "VIN", "value": "WBA00000000000001", "length": 17}]}]})"),
+              0);
+    auto made = vehicleData();
+    ASSERT_EQ(made->count, 3U);
+    EXPECT_STREQ(made->items[0]->vin, L"WBA00000000000001");
+    EXPECT_EQ(made->items[0]->status, 1);
+    EXPECT_STREQ(made->items[1]->softwareVersion, L"") << "Plain has no F189";
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "Plain"}]})"), 0);
+    EXPECT_STREQ(vehicleData()->items[0]->vin, L"");
+}
+
+TEST_F(VehicleReportsTest, VehicleDataShowsAnIncompleteAndAFlashedUpdate) {
+    const auto dtcsBefore = unit(*vehicleData(), L"ECM")->dtcCount;
+    enterProgramming();
+    ASSERT_EQ(send(L"ECM", {0x31, 0x01, 0xFF, 0x00}).at(0), 0x71) << "erased";
+    auto erased = vehicleData();
+    EXPECT_STREQ(unit(*erased, L"ECM")->softwareVersion, L"");
+    EXPECT_EQ(unit(*erased, L"ECM")->dtcCount, dtcsBefore + 1) << "programming incomplete";
+
+    const wchar_t* sessions[] = {L"ECM_SW_5430"};
+    ErrorSlot error;
+    List<FlashSessionResult, release_FlashSessionResult_array> flashed;
+    kel_executeFlashSessions(api, L"ECM", const_cast<wchar_t**>(sessions), 1, &error,
+                             &flashed.items, &flashed.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(flashed.count, 1U);
+    ASSERT_EQ(flashed.items[0]->status, 0);
+    auto now = vehicleData();
+    EXPECT_STREQ(unit(*now, L"ECM")->softwareVersion, L"5430");
+    EXPECT_EQ(unit(*now, L"ECM")->dtcCount, dtcsBefore);
+}
+
+TEST_F(VehicleReportsTest, VehicleDataIsReadOverTheBus) {
+    ErrorSlot error;
+    uint64_t monitor = 0;
+    kel_createPduMonitor(api, &error, &monitor);
+    ASSERT_FALSE(error);
+    vehicleData();
+    List<PduMonitoringItem, release_PduMonitoringItem_array> items;
+    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
+    ASSERT_FALSE(error);
+    std::vector<std::string> ecmRequests;
+    for (uint32_t i = 0; i < items.count; ++i) {
+        if (items.items[i]->value1 == 1 && std::wcscmp(items.items[i]->text1, L"ECM") == 0) {
+            ecmRequests.push_back(utf8(items.items[i]->text3));
+        }
+    }
+    EXPECT_NE(std::find(ecmRequests.begin(), ecmRequests.end(), "22 F1 89"), ecmRequests.end());
+    EXPECT_NE(std::find(ecmRequests.begin(), ecmRequests.end(), "19 02 FF"), ecmRequests.end());
+
+    kel_disconnectInterfaces(api, &error);
+    ASSERT_FALSE(error);
+    Data none;
+    kel_getVehicleData(api, &error, &none.items, &none.count);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 1404);
+}
+
+TEST_F(VehicleReportsTest, AReportHoldsWhatWasRead) {
+    const auto path = report(reportConfig(L"", L"Check <1> & \"2\"", L"Tom's <b>note</b>\nline 2",
+                                          {L"ECM", L"ACC"}, true, true));
+    const std::wregex named(LR"(reports/vehicle-WVWZZZ1KZ8W000417-\d{8}T\d{6}\.html)");
+    EXPECT_TRUE(std::regex_match(path, named)) << utf8(path.c_str());
+    const Json json = twin(path);
+    EXPECT_EQ(json["format"], "kel report 1");
+    EXPECT_EQ(json["kind"], "vehicle");
+    EXPECT_EQ(json["title"], "Check <1> & \"2\"");
+    EXPECT_EQ(json["comment"], "Tom's <b>note</b>\nline 2");
+    EXPECT_TRUE(std::regex_match(json["created"]["utc"].get<std::string>(),
+                                 std::regex(R"(\d{4}-\d\d-\d\dT\d\d:\d\d:\d\dZ)")));
+    EXPECT_EQ(json["vehicle"]["vin"], "WVWZZZ1KZ8W000417");
+    EXPECT_EQ(json["vehicle"]["model"], utf8(selected().model.c_str()));
+    ASSERT_EQ(json["units"].size(), 2U);
+
+    // The ECM's values are what the diagnostic exports read.
+    const Json& ecm = json["units"][0];
+    EXPECT_EQ(ecm["target"], "ECM");
+    EXPECT_EQ(ecm["status"], "answered");
+    EXPECT_EQ(ecm["variant"], "ECM_EDC17_CR_2L0_V3");
+    const wchar_t* ecmOnly[] = {L"ECM"};
+    ErrorSlot error;
+    List<ReadDataResult, release_ReadDataResult_array> ident;
+    kel_readIdentificationValues(api, const_cast<wchar_t**>(ecmOnly), 1, &error, &ident.items,
+                                 &ident.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(ecm["identification"].size(), ident.items[0]->parameterCount);
+    for (uint32_t i = 0; i < ident.items[0]->parameterCount; ++i) {
+        EXPECT_EQ(ecm["identification"][i]["identifier"],
+                  utf8(ident.items[0]->parameters[i]->itemText2));
+        EXPECT_EQ(ecm["identification"][i]["value"], utf8(ident.items[0]->parameters[i]->text1));
+    }
+    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+    kel_readDtcs(api, const_cast<wchar_t**>(ecmOnly), 1, nullptr, &error, &dtcs.items, &dtcs.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(ecm["dtcs"].size(), dtcs.items[0]->dtcCount);
+    for (uint32_t i = 0; i < dtcs.items[0]->dtcCount; ++i) {
+        const DtcResult& d = *dtcs.items[0]->dtcs[i];
+        EXPECT_EQ(ecm["dtcs"][i]["code"], utf8(d.text1));
+        EXPECT_EQ(ecm["dtcs"][i]["text"], utf8(d.text2));
+        EXPECT_EQ(ecm["dtcs"][i]["status"], d.value1);
+    }
+    const Json& acc = json["units"][1];
+    EXPECT_EQ(acc["status"], "silent");
+    EXPECT_EQ(acc["error"]["code"], 1010);
+    EXPECT_FALSE(acc.contains("identification"));
+
+    // The page shows the same, every text escaped.
+    const auto html = readFile(path);
+    EXPECT_NE(html.find("<title>Check &lt;1&gt; &amp; &quot;2&quot;</title>"), std::string::npos);
+    EXPECT_NE(html.find("Tom&#39;s &lt;b&gt;note&lt;/b&gt;"), std::string::npos);
+    EXPECT_EQ(html.find("<b>note"), std::string::npos);
+    EXPECT_NE(html.find("03L 906 018 JH"), std::string::npos) << "the ECM's part number";
+    EXPECT_NE(html.find(ecm["dtcs"][0]["code"].get<std::string>()), std::string::npos);
+    EXPECT_NE(html.find("silent"), std::string::npos);
+
+    // A second report reads again: the cleared DTCs are gone, and the name stays unique.
+    List<ClearDtcResult, release_ClearDtcResult_array> cleared;
+    kel_clearAllDtcs(api, const_cast<wchar_t**>(ecmOnly), 1, &error, &cleared.items,
+                     &cleared.count);
+    ASSERT_FALSE(error);
+    const auto again = report(reportConfig(L"", L"", L"", {L"ECM"}, false, true));
+    EXPECT_NE(again, path);
+    const Json second = twin(again);
+    EXPECT_EQ(second["title"], "Vehicle report");
+    EXPECT_TRUE(second["units"][0]["dtcs"].empty());
+    EXPECT_FALSE(second["units"][0].contains("identification"));
+}
+
+TEST_F(VehicleReportsTest, ReportNamesAreCheckedAndNeverOverwrite) {
+    EXPECT_EQ(report(reportConfig(L"job 17", L"", L"", {}, false, false)), L"reports/job 17.html");
+    EXPECT_TRUE(exists(L"reports/job 17.json"));
+    const Json all = twin(L"reports/job 17.html");
+    EXPECT_EQ(all["units"].size(), 6U) << "no targets: every unit";
+
+    struct Case {
+        std::wstring name;
+        int32_t code;
+    };
+    const std::vector<Case> refused = {{L"job 17", 2402},
+                                       {L"../job", 1600},
+                                       {L"sub/job", 1600},
+                                       {L"a\\b", 1600},
+                                       {L"..", 1606},
+                                       {L"tab\there", 1602},
+                                       {std::wstring(252, L'x'), 1601}};
+    for (const auto& c : refused) {
+        int32_t code = 0;
+        EXPECT_EQ(report(reportConfig(c.name, L"", L"", {}, false, false), &code), L"");
+        EXPECT_EQ(code, c.code) << utf8(c.name.c_str());
+    }
+    int32_t code = 0;
+    report(reportConfig(L"unknown unit", L"", L"", {L"ECM", L"Ghost"}, true, true), &code);
+    EXPECT_EQ(code, 1011);
+    EXPECT_FALSE(exists(L"reports/unknown unit.html")) << "nothing written";
+
+    // Without a config: every unit, identification and DTCs.
+    const Json full = twin(report(nullptr));
+    ASSERT_EQ(full["units"].size(), 6U);
+    EXPECT_TRUE(full["units"][0].contains("identification"));
+    EXPECT_TRUE(full["units"][0].contains("dtcs"));
+}
+
+TEST_F(VehicleReportsTest, AnUpdateReportListsEachResult) {
+    const auto result = [](const wchar_t* target, int32_t status, uint32_t position,
+                           const wchar_t* message) {
+        auto* r = static_cast<VehicleUpdateResult*>(allocate_Memory(sizeof(VehicleUpdateResult)));
+        std::memset(r, 0, sizeof *r);
+        r->target = dup(target);
+        r->status = status;
+        r->package = dup(L"ECM_SW_5430");
+        r->versionBefore = dup(L"5428");
+        r->versionAfter = dup(status == 0 ? L"5430" : L"");
+        r->position = position;
+        r->progress = 100;
+        r->overallProgress = 100;
+        r->duration = 45000;
+        if (message != nullptr) {
+            r->error = static_cast<KelError*>(allocate_Memory(sizeof(KelError)));
+            std::memset(r->error, 0, sizeof(KelError));
+            r->error->code = 1703;
+            r->error->message = dup(message);
+            r->error->details = dup(L"");
+        }
+        return r;
+    };
+    VehicleUpdateResult* results[] = {result(L"ECM", 0, 1, nullptr),
+                                      result(L"TCM", 2, 2, L"Image <rejected> & kept"),
+                                      result(L"ESP", 4, 3, nullptr)};
+    ErrorSlot error;
+    wchar_t* path = nullptr;
+    kel_createVehicleUpdateReport(api, results, 3, &error, &path);
+    ASSERT_FALSE(error) << error->code;
+    const std::wstring html = path;
+    release_Memory(path);
+    EXPECT_TRUE(std::regex_match(
+        html, std::wregex(LR"(reports/vehicle-update-WVWZZZ1KZ8W000417-\d{8}T\d{6}\.html)")));
+
+    const Json json = twin(html);
+    EXPECT_EQ(json["kind"], "vehicleUpdate");
+    EXPECT_EQ(json["vehicle"]["vin"], "WVWZZZ1KZ8W000417");
+    ASSERT_EQ(json["results"].size(), 3U);
+    EXPECT_EQ(json["results"][0]["statusText"], "updated");
+    EXPECT_EQ(json["results"][0]["versionAfter"], "5430");
+    EXPECT_TRUE(json["results"][0]["error"].is_null());
+    EXPECT_EQ(json["results"][1]["target"], "TCM");
+    EXPECT_EQ(json["results"][1]["statusText"], "failed");
+    EXPECT_EQ(json["results"][1]["position"], 2);
+    EXPECT_EQ(json["results"][1]["durationMs"], 45000);
+    EXPECT_EQ(json["results"][1]["error"]["code"], 1703);
+    EXPECT_EQ(json["results"][1]["error"]["message"], "Image <rejected> & kept");
+    EXPECT_EQ(json["results"][2]["statusText"], "up to date");
+    const auto page = readFile(html);
+    EXPECT_NE(page.find("Image &lt;rejected&gt; &amp; kept"), std::string::npos);
+
+    VehicleUpdateResult* withNull[] = {results[0], nullptr};
+    kel_createVehicleUpdateReport(api, withNull, 2, &error, &path);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 2403);
+    for (auto* r : results) {
+        release_VehicleUpdateResult(r);
+    }
+}
+
+} // namespace
