@@ -22,6 +22,7 @@ struct Parts {
     FlashSettings flash;
     CodingSettings coding;
     EcuOrderSettings ecuOrder;
+    VehicleUpdateSettings vehicleUpdate;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -38,6 +39,8 @@ Parts parseParts(const VehicleDescription& description) {
     parts.flash = FlashSettings::parse(description.section("flash"), parts.ecus);
     parts.coding = CodingSettings::parse(description.section("coding"), parts.ecus);
     parts.ecuOrder = EcuOrderSettings::parse(description.section("ecuOrder"), parts.ecus);
+    parts.vehicleUpdate =
+        VehicleUpdateSettings::parse(description.section("vehicleUpdate"), description.root);
     return parts;
 }
 
@@ -112,6 +115,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     flash.load(std::move(parts.flash));
     coding.load(std::move(parts.coding));
     ecuOrder.load(std::move(parts.ecuOrder));
+    vehicleUpdate.load(std::move(parts.vehicleUpdate));
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -131,6 +135,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.flash = std::make_shared<Flash>(vehicle);
     families.coding = std::make_shared<Coding>(vehicle);
     families.ecuOrder = std::make_shared<EcuOrder>(vehicle);
+    families.vehicleUpdate = std::make_shared<VehicleUpdate>(vehicle);
     return families;
 }
 

@@ -13,8 +13,8 @@
 #include "Script.h"
 #include "VehicleDescription.h"
 #include "families/coding/Coding.h"
-#include "families/ecuorder/EcuOrder.h"
 #include "families/diagnostics/Diagnostics.h"
+#include "families/ecuorder/EcuOrder.h"
 #include "families/events/Events.h"
 #include "families/files/Files.h"
 #include "families/flash/Flash.h"
@@ -27,6 +27,7 @@
 #include "families/servers/Servers.h"
 #include "families/services/Cyclic.h"
 #include "families/services/Services.h"
+#include "families/update/VehicleUpdate.h"
 
 #include <cstdint>
 #include <memory>
@@ -83,6 +84,7 @@ public:
     FlashState flash;
     CodingState coding;
     EcuOrderState ecuOrder;
+    VehicleUpdateState vehicleUpdate;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};
