@@ -397,6 +397,7 @@ TEST_F(VehicleUpdateTest, TheBrokerUrlCannotReachOutsideThePublicDirectories) {
         {L"file:exchange/a%00b", 1602},
         {L"file://server/share/broker", 2200},
         {L"file:exchange/b?x=1", 2200},
+        {L"file:exchange/%zz", 2200},
         {L"file:", 2200},
         {L"exchange/broker", 2200},
         {L"http://broker.example/updates", 2201},

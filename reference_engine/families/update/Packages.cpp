@@ -396,17 +396,20 @@ std::wstring Broker::enginePath(const std::wstring& url) {
     }
     // Percent escapes are undone before the sandbox sees the path, so "%2e%2e" is "..".
     std::string bytes;
-    for (std::size_t i = 0; i < rest.size(); ++i) {
-        if (rest[i] == L'%') {
-            const auto hex = i + 2 < rest.size() ? rest.substr(i + 1, 2) : std::wstring();
-            if (hex.size() != 2 || !std::iswxdigit(hex[0]) || !std::iswxdigit(hex[1])) {
-                throw TarnApiException(BrokerUrlRefused, L"A broken percent escape", url);
-            }
-            bytes.push_back(static_cast<char>(std::stoi(hex, nullptr, 16)));
-            i += 2;
-        } else {
-            bytes += toUtf8(std::wstring(1, rest[i]));
+    for (std::size_t i = 0; i < rest.size();) {
+        if (rest[i] != L'%') {
+            // A whole run at once, so that a surrogate pair stays one character.
+            const auto next = std::min(rest.find(L'%', i), rest.size());
+            bytes += toUtf8(rest.substr(i, next - i));
+            i = next;
+            continue;
         }
+        const auto hex = i + 2 < rest.size() ? rest.substr(i + 1, 2) : std::wstring();
+        if (hex.size() != 2 || std::iswxdigit(hex[0]) == 0 || std::iswxdigit(hex[1]) == 0) {
+            throw TarnApiException(BrokerUrlRefused, L"A broken percent escape", url);
+        }
+        bytes.push_back(static_cast<char>(std::stoi(hex, nullptr, 16)));
+        i += 3;
     }
     auto path = fromUtf8(bytes);
     if (path.empty()) {

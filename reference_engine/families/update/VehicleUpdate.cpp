@@ -195,11 +195,15 @@ VehicleUpdate::Context VehicleUpdate::ready() const {
     Sandbox box = vehicle_->files.sandbox();
     Broker broker = Broker::open(box, vehicle_->vehicleUpdate.broker());
     UpdateStore store(box.resolve(L"updates"));
-    auto vehicle = vehicle_;
-    Skipped skipped = [vehicle](const std::wstring& folder, const TarnApiException& why) {
-        post(*vehicle, EventKind::UpdatePackageSkipped, why.code,
-             L"An update package was skipped: " + why.message, folder + L": " + why.details,
-             errorOf(why));
+    // Weak: an asynchronous update's run keeps this, and must not keep the vehicle whose
+    // calls it belongs to.
+    std::weak_ptr<SimulatedVehicle> weak = vehicle_;
+    Skipped skipped = [weak](const std::wstring& folder, const TarnApiException& why) {
+        if (const auto vehicle = weak.lock()) {
+            post(*vehicle, EventKind::UpdatePackageSkipped, why.code,
+                 L"An update package was skipped: " + why.message, folder + L": " + why.details,
+                 errorOf(why));
+        }
     };
     return Context{std::move(box), std::move(broker), std::move(store),
                    vehicle_->vehicleUpdate.storeMutex(), std::move(skipped)};
