@@ -3405,7 +3405,8 @@ KEL_C_API void kel_setSelectedVehicleInformation(TarnApi* api, KelError** error,
 
 /* ---- VehicleUpdate ----
  * Update packages, the broker, the engine's own updates and vehicle updates */
-/* Applies an update package. Position 151.
+/* Applies an update package: the newest engine-component package of that name, downloaded or
+ * on the broker, after its payload's checksum is verified. Position 151.
  * package: kept by the caller, read only during the call. */
 KEL_C_API void kel_applyUpdatePackage(TarnApi* api, KEL_KEPT const wchar_t* package,
                                       KelError** error);
@@ -3427,12 +3428,15 @@ KEL_C_API void kel_checkUpdatesOnBroker(TarnApi* api, KelError** error, KEL_OUT 
 /* Updates automatically; tells whether anything was updated. Position 157.
  * On success *updated receives the result. */
 KEL_C_API void kel_autoUpdate(TarnApi* api, KelError** error, KEL_OUT bool* updated);
-/* Lists the current versions of the installed components. Position 163.
+/* Lists the current versions of the installed components; each item's texts are the
+ * component's name, its version, what it is, and the package that installed it (empty for the
+ * engine itself and its vehicle description). Position 163.
  * On success *versions and *versionCount receive a NamedItem list, NULL and 0 when empty; free
  * it with release_NamedItem_array(versions, versionCount). */
 KEL_C_API void kel_getCurrentVersions(TarnApi* api, KelError** error, KEL_OUT NamedItem*** versions,
                                       KEL_OUT uint32_t* versionCount);
-/* Tells whether the last update succeeded. Position 164.
+/* Tells whether the last update (applyUpdatePackage, autoUpdate, a vehicle update) succeeded
+ * fully; true before any update. Position 164.
  * On success *succeeded receives the result. */
 KEL_C_API void kel_checkUpdateSuccess(TarnApi* api, KelError** error, KEL_OUT bool* succeeded);
 /* Removes the temporary files of updates. Position 165. */
@@ -3460,7 +3464,8 @@ KEL_C_API uint64_t kel_updateVehicleAsync(TarnApi* api, KEL_CONSUMED VehicleUpda
  * call fails; NULL passes no record. */
 KEL_C_API void kel_uploadReport(TarnApi* api, KEL_CONSUMED UploadReportConfiguration* config,
                                 KelError** error);
-/* Sets the address of the update broker. Position 206.
+/* Sets the address of the update broker, a file: URL; an empty URL goes back to the default.
+ * Position 206.
  * url: kept by the caller, read only during the call. */
 KEL_C_API void kel_setBrokerUrl(TarnApi* api, KEL_KEPT const wchar_t* url, KelError** error);
 /* Removes the update packages at hand. Position 214. */

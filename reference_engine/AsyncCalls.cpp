@@ -216,8 +216,10 @@ void AsyncCalls::work(const std::shared_ptr<State>& state) {
 // callback run. Events are posted before the callback, which may end the engine.
 void AsyncCalls::step(State& state, Call& call, std::unique_lock<std::mutex>& lock) {
     std::shared_ptr<KelError> failure;
+    bool cancelled = false;
     if (call.cancelled) {
         failure = cancelledError(call.operation, call.id);
+        cancelled = true;
     } else if (!call.prepared) {
         lock.unlock();
         std::size_t results = 0;
@@ -237,6 +239,7 @@ void AsyncCalls::step(State& state, Call& call, std::unique_lock<std::mutex>& lo
         }
         if (call.cancelled) { // cancelled while the work ran
             failure = cancelledError(call.operation, call.id);
+            cancelled = true;
         }
     }
 
@@ -263,8 +266,13 @@ void AsyncCalls::step(State& state, Call& call, std::unique_lock<std::mutex>& lo
         }
     }
     const uint64_t id = call.id;
+    const bool windUp = cancelled && call.prepared;
     lock.unlock();
-    call.deliver(from, to, isFinal, failure);
+    if (windUp) {
+        call.deliverCancelled(failure);
+    } else {
+        call.deliver(from, to, isFinal, failure);
+    }
     lock.lock();
     if (isFinal) {
         state.calls.erase(id);

@@ -64,8 +64,8 @@ public:
 
     // Starts a call done in steps: `plan()` (on a worker, at the first report) returns
     // the steps, each a function giving one result (or a std::optional of one, empty
-    // when the step has nothing to report); every report runs its slice of the steps
-    // and hands out their results. A cancel ends the call before its next slice,
+    // when the step has nothing to report, or a std::vector of any number); every report runs its
+    // slice of the steps and hands out their results. A cancel ends the call before its next slice,
     // so each step is done whole or not at all (a copy leaves no half-copied entry).
     template <class Callback, class Plan>
     uint64_t startSteps(const char* operation, Callback* callback, Plan plan) {
@@ -73,6 +73,20 @@ public:
         auto call = std::make_shared<Stepped<Callback, Steps>>();
         call->callback = callback;
         call->plan = std::move(plan);
+        return enqueue(operation, std::move(call));
+    }
+
+    // As above; but a cancel that comes once the steps are planned ends the call with the
+    // results `windUp()` gives (on the worker, with the CallCancelled error) instead of
+    // none: a call that must not stop halfway finishes there what it has begun, and says
+    // what it left undone.
+    template <class Callback, class Plan, class WindUp>
+    uint64_t startSteps(const char* operation, Callback* callback, Plan plan, WindUp windUp) {
+        using Steps = decltype(plan());
+        auto call = std::make_shared<Stepped<Callback, Steps>>();
+        call->callback = callback;
+        call->plan = std::move(plan);
+        call->windUp = std::move(windUp);
         return enqueue(operation, std::move(call));
     }
 
@@ -89,6 +103,10 @@ private:
         virtual std::size_t prepare() = 0;
         virtual void deliver(std::size_t from, std::size_t to, bool isFinal,
                              std::shared_ptr<KelError> error) = 0;
+        // The final report of a call cancelled after its work was prepared.
+        virtual void deliverCancelled(std::shared_ptr<KelError> error) {
+            deliver(0, 0, true, std::move(error));
+        }
 
         uint64_t id = 0;
         std::string operation;
@@ -123,6 +141,18 @@ private:
     struct IsOptional : std::false_type {};
     template <class T>
     struct IsOptional<std::optional<T>> : std::true_type {};
+    template <class T>
+    struct IsVector : std::false_type {};
+    template <class T>
+    struct IsVector<std::vector<T>> : std::true_type {};
+    template <class T>
+    struct UnwrapOptional {
+        using type = T;
+    };
+    template <class T>
+    struct UnwrapOptional<std::optional<T>> {
+        using type = T;
+    };
 
     template <class Callback, class Steps>
     struct Stepped : Call {
@@ -145,6 +175,15 @@ private:
                     }
                 }
                 callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
+            } else if constexpr (IsVector<Step>::value) {
+                // A step may report several results, or none.
+                Step slice;
+                for (std::size_t i = from; i < to; ++i) {
+                    for (auto& result : steps[i]()) {
+                        slice.push_back(std::move(result));
+                    }
+                }
+                callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
             } else {
                 std::vector<Step> slice;
                 for (std::size_t i = from; i < to; ++i) {
@@ -152,6 +191,19 @@ private:
                 }
                 callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
             }
+        }
+        using Result = decltype(std::declval<Steps&>().front()());
+        using Wound = std::conditional_t<
+            IsVector<Result>::value, Result,
+            std::vector<std::conditional_t<IsOptional<Result>::value,
+                                           typename UnwrapOptional<Result>::type, Result>>>;
+        std::function<Wound()> windUp;
+        void deliverCancelled(std::shared_ptr<KelError> error) override {
+            if (!windUp) {
+                deliver(0, 0, true, std::move(error));
+                return;
+            }
+            callback->onCompleted(windUp(), id, std::move(error), true);
         }
     };
 

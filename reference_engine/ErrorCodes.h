@@ -151,6 +151,20 @@ enum ErrorCode : int32_t {
     TargetNotInEcuOrder = 2102, // filterEcuOrder: the order has no entry for the target
 
     // VehicleUpdate: 2200-2299.
+    BrokerUrlRefused = 2200, // not a file: URL of the sandbox (another host, a query, no path)
+    BrokerSchemeNotSimulated = 2201, // http:, https:, ...: only file: brokers are simulated
+    UnknownUpdatePackage = 2202,     // no package of that name is downloaded or on the broker
+    PackageCorrupt = 2203,           // its payload's size or CRC-32 differs from its manifest
+    BadManifest = 2204,              // a manifest that cannot be used (skipped with an event)
+    PackageForVehicleUpdate = 2205,  // control-unit software given to applyUpdatePackage
+    UpdateStoreUnusable = 2206,      // installed.json or last-update.json cannot be used
+    UnitNotInVehicle = 2207,         // per unit: the vehicle lacks a unit that is not optional
+    UnitNotUpdated = 2208,           // per unit: not run, an earlier unit failed
+    UnitNotProgrammable = 2209,      // per unit: no programming, or the package is not for it
+    UnitRefusedProgramming = 2210,   // per unit: session or security access refused (attached)
+    BadUpdateArgument = 2211,        // a missing config
+    UploadExists = 2212,             // the broker has a report of that name; overwrite is 0
+    ReportTwinMissing = 2213,        // withTwin, and the report has no JSON twin beside it
 
     // Lifecycle, continued: engine-wide conditions.
     DataRootUnavailable = 2300, // the data root cannot be created or used

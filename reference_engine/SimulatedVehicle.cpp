@@ -23,6 +23,7 @@ struct Parts {
     CodingSettings coding;
     EcuOrderSettings ecuOrder;
     VehicleReportsSettings reports;
+    VehicleUpdateSettings vehicleUpdate;
 };
 
 Parts parseParts(const VehicleDescription& description) {
@@ -40,6 +41,8 @@ Parts parseParts(const VehicleDescription& description) {
     parts.coding = CodingSettings::parse(description.section("coding"), parts.ecus);
     parts.ecuOrder = EcuOrderSettings::parse(description.section("ecuOrder"), parts.ecus);
     parts.reports = VehicleReportsSettings::parse(description.section("vehicle"));
+    parts.vehicleUpdate =
+        VehicleUpdateSettings::parse(description.section("vehicleUpdate"), description.root);
     return parts;
 }
 
@@ -115,6 +118,7 @@ void SimulatedVehicle::load(VehicleDescription description) {
     coding.load(std::move(parts.coding));
     ecuOrder.load(std::move(parts.ecuOrder));
     reports.load(std::move(parts.reports));
+    vehicleUpdate.load(std::move(parts.vehicleUpdate));
 }
 
 Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& vehicle,
@@ -135,6 +139,7 @@ Families SimulatedVehicle::families(const std::shared_ptr<SimulatedVehicle>& veh
     families.coding = std::make_shared<Coding>(vehicle);
     families.ecuOrder = std::make_shared<EcuOrder>(vehicle);
     families.vehicleReports = std::make_shared<VehicleReports>(vehicle);
+    families.vehicleUpdate = std::make_shared<VehicleUpdate>(vehicle);
     return families;
 }
 

@@ -28,6 +28,7 @@
 #include "families/servers/Servers.h"
 #include "families/services/Cyclic.h"
 #include "families/services/Services.h"
+#include "families/update/VehicleUpdate.h"
 
 #include <cstdint>
 #include <memory>
@@ -85,6 +86,7 @@ public:
     CodingState coding;
     EcuOrderState ecuOrder;
     VehicleReportsState reports;
+    VehicleUpdateState vehicleUpdate;
 
     // Stays the last member: it ends its calls while the rest still exists.
     AsyncCalls async{events.channels};

@@ -819,8 +819,8 @@ TEST_F(FilesTest, PublicDirectoriesAreRealFoldersAndMoreCanBeAdded) {
         names.emplace_back(publics.items[i]->name);
         EXPECT_TRUE(fs::is_directory(root / fromWide(publics.items[i]->name)));
     }
-    EXPECT_EQ(names, (std::vector<std::wstring>{L"configuration", L"exchange", L"projects",
-                                                L"reports", L"traces"}));
+    EXPECT_EQ(names, (std::vector<std::wstring>{L"broker", L"configuration", L"exchange",
+                                                L"projects", L"reports", L"traces", L"updates"}));
 
     kel_addPublicDirectory(api, L"Archive", L"reports/2026/archive", &error);
     ASSERT_FALSE(error);

@@ -1931,7 +1931,8 @@ class Operations:
         return stream.read_SystemInfo(_b, 0)[0]
 
     def apply_update_package(self, package: str) -> None:
-        """Applies an update package.
+        """Applies an update package: the newest engine-component package of that name,
+        downloaded or on the broker, after its payload's checksum is verified.
 
         C: kel_applyUpdatePackage; number 185; engine position 151.
 
@@ -2071,7 +2072,9 @@ class Operations:
         self._call(192, builtins.bytes(_o))
 
     def get_current_versions(self) -> list[Optional[records.NamedItem]]:
-        """Lists the current versions of the installed components.
+        """Lists the current versions of the installed components; each item's texts
+        are the component's name, its version, what it is, and the package that
+        installed it (empty for the engine itself and its vehicle description).
 
         C: kel_getCurrentVersions; number 191; engine position 163.
 
@@ -2088,7 +2091,8 @@ class Operations:
         return _results
 
     def check_update_success(self) -> bool:
-        """Tells whether the last update succeeded.
+        """Tells whether the last update (applyUpdatePackage, autoUpdate, a vehicle
+        update) succeeded fully; true before any update.
 
         C: kel_checkUpdateSuccess; number 193; engine position 164.
 
@@ -2585,7 +2589,8 @@ class Operations:
         return _results
 
     def set_broker_url(self, url: str) -> None:
-        """Sets the address of the update broker.
+        """Sets the address of the update broker, a file: URL; an empty URL goes back
+        to the default.
 
         C: kel_setBrokerUrl; number 237; engine position 206.
 

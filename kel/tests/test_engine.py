@@ -139,12 +139,6 @@ class Errors(EngineTest):
         self.assertEqual(raised.exception.code, -1001)
         self.assertEqual(sim.kelsim_callCount(b"readDtcs"), 0)
 
-    def test_an_operation_whose_records_are_not_built_is_not_available(self) -> None:
-        # Number 184, getUpdatePackages: its result record is only declared so far.
-        with self.assertRaises(kel.NotAvailableError) as raised:
-            self.engine._call(184, b"")
-        self.assertEqual(raised.exception.code, -1002)
-
     def test_a_text_with_a_nul_is_refused_before_the_engine(self) -> None:
         with self.assertRaises(ValueError):
             self.engine.identify_target("EC\0M")

@@ -84,6 +84,8 @@ std::wstring eventName(int32_t kind) {
         return L"SequenceStep";
     case EventKind::SequenceEnded:
         return L"SequenceEnded";
+    case EventKind::UpdatePackageSkipped:
+        return L"UpdatePackageSkipped";
     case EventKind::Scripted:
         return L"Scripted";
     }

@@ -46,7 +46,8 @@ enum class EventKind : int32_t {
     LoginFailed = 36,   // code: failures of this user in a row; detail: the user name given
     SequenceStep = 50,  // code: the service's status; text: the service; detail: run and step
     SequenceEnded = 51, // code: 0 done, 1 stopped by a failed service, 2 cancelled; detail: run
-    Scripted = 100,     // posted by tests through kelsim_postEvent (any kind >= 100)
+    UpdatePackageSkipped = 60, // code: why (error); detail: the package's folder and reason
+    Scripted = 100,            // posted by tests through kelsim_postEvent (any kind >= 100)
 };
 
 // The event's name (KelEvent::name), e.g. L"LockTaken"; L"Event<n>" for other numbers.

@@ -20,8 +20,8 @@ namespace fs = std::filesystem;
 namespace {
 
 // The public directories every engine has, folders of the same names under the data root.
-constexpr const char* standardDirectories[] = {"configuration", "exchange", "projects", "reports",
-                                               "traces"};
+constexpr const char* standardDirectories[] = {"broker",  "configuration", "exchange", "projects",
+                                               "reports", "traces",        "updates"};
 
 template <class Result>
 using Steps = std::vector<std::function<std::shared_ptr<Result>()>>;
@@ -487,7 +487,8 @@ Resolved Files::project(const Sandbox& box, const std::wstring& name) const {
             return Resolved{d, folder, Sandbox::enginePath(*d, folder)};
         }
     }
-    throw TarnApiException(OutsideSandbox, L"The selected project lies outside the projects directory",
+    throw TarnApiException(OutsideSandbox,
+                           L"The selected project lies outside the projects directory",
                            vehicle_->projects.selectedName());
 }
 

@@ -21,7 +21,6 @@
 namespace Varno::Kel_cpp::Reference {
 namespace {
 
-constexpr uint64_t transferSlices = 10;
 // Vehicle time a unit may go without a request while it writes; longer writes are
 // bridged with TesterPresent, as a tester keeps a session open.
 constexpr uint64_t quietMs = 1000;
@@ -52,9 +51,9 @@ auto& unit(Units& ecus, const std::wstring& target) {
 
 // The image of a session: its version, a NUL byte, then bytes that depend on the
 // session's name and their position, so that any byte can be made without the others.
-class Image {
+class SessionImage final : public FlashImage {
 public:
-    explicit Image(const FlashSession& session) {
+    explicit SessionImage(const FlashSession& session) : size_(session.size) {
         for (const wchar_t c : session.version) {
             header_.push_back(static_cast<uint8_t>(c));
         }
@@ -63,7 +62,8 @@ public:
             seed_ = (seed_ ^ static_cast<uint64_t>(c)) * 0x100000001B3ULL;
         }
     }
-    uint8_t at(uint64_t i) const {
+    uint64_t size() const override { return size_; }
+    uint8_t at(uint64_t i) const override {
         if (i < header_.size()) {
             return header_[i];
         }
@@ -74,8 +74,19 @@ public:
     }
 
 private:
+    uint64_t size_;
     Bytes header_;
     uint64_t seed_ = 0xCBF29CE484222325ULL;
+};
+
+class PayloadImage final : public FlashImage {
+public:
+    explicit PayloadImage(Bytes bytes) : bytes_(std::move(bytes)) {}
+    uint64_t size() const override { return bytes_.size(); }
+    uint8_t at(uint64_t i) const override { return bytes_[i]; }
+
+private:
+    Bytes bytes_;
 };
 
 std::wstring decodeVersion(const Ecu& ecu, const Bytes& response) {
@@ -142,6 +153,180 @@ std::vector<FlashSession> FlashState::sessions(const std::wstring& target) const
     return out;
 }
 
+// ---- one download ---------------------------------------------------------------------
+
+std::shared_ptr<const FlashImage> sessionImage(const FlashSession& session) {
+    return std::make_shared<SessionImage>(session);
+}
+
+std::shared_ptr<const FlashImage> payloadImage(std::vector<uint8_t> bytes) {
+    return std::make_shared<PayloadImage>(std::move(bytes));
+}
+
+FlashDownload::FlashDownload(std::shared_ptr<ControlUnits> units,
+                             std::shared_ptr<FlashSessionResult> result,
+                             std::shared_ptr<const FlashImage> image, uint32_t durationMs,
+                             std::optional<uint32_t> declaredCrc, uint32_t blockLength)
+    : units_(std::move(units)), result_(std::move(result)), image_(std::move(image)),
+      durationMs_(durationMs), declaredCrc_(declaredCrc), blockLength_(blockLength) {}
+
+std::shared_ptr<FlashSessionResult> FlashDownload::snapshot() const {
+    if (startMs_) {
+        result_->duration = static_cast<uint32_t>(VehicleClock::nowMs() - *startMs_);
+    }
+    return std::make_shared<FlashSessionResult>(*result_);
+}
+
+void FlashDownload::fail(std::shared_ptr<KelError> e) {
+    result_->status = 2;
+    result_->error = std::move(e);
+    over_ = true;
+}
+
+// Sends `request`; its positive response, or nothing once the download failed on it.
+std::optional<Bytes> FlashDownload::send(Bus& bus, Ecu& ecu, const Bytes& request,
+                                         const wchar_t* step) {
+    auto response = bus.exchange(ecu, request);
+    if (response.empty()) {
+        fail(Answers::silent(ecu));
+        return std::nullopt;
+    }
+    if (response[0] != request[0] + 0x40) {
+        auto e = Answers::negative(response, FlashStepRefused);
+        e->message = std::wstring(L"The control unit refused ") + step;
+        e->details = ecu.name + L" answered " + hexText(response) + L" to " +
+                     hexText(Bytes(request.begin(),
+                                   request.begin() + std::min<std::size_t>(request.size(), 4)));
+        fail(std::move(e));
+        return std::nullopt;
+    }
+    return response;
+}
+
+namespace {
+// The unit writes for `ms` of vehicle time; a tester keeps the session open meanwhile.
+void spend(Bus& bus, Ecu& ecu, uint64_t ms) {
+    while (ms > quietMs) {
+        VehicleClock::advance(quietMs);
+        ms -= quietMs;
+        bus.exchange(ecu, {0x3E, 0x00});
+    }
+    VehicleClock::advance(ms);
+}
+} // namespace
+
+bool FlashDownload::start() {
+    if (over_) {
+        return false;
+    }
+    auto& r = *result_;
+    r.size = image_->size();
+    r.status = 1;
+    startMs_ = VehicleClock::nowMs();
+    units_->talk([&](Bus& bus) {
+        Ecu& ecu = unit(bus.ecus, r.target);
+        touched_ = true;
+        const auto id = ecu.programming->versionId;
+        auto version =
+            send(bus, ecu, {0x22, static_cast<uint8_t>(id >> 8), static_cast<uint8_t>(id)},
+                 L"reading the software version");
+        if (!version) {
+            return;
+        }
+        r.versionBefore = decodeVersion(ecu, *version);
+        if (!send(bus, ecu, {0x31, 0x01, 0xFF, 0x00}, L"erasing the memory")) {
+            return;
+        }
+        Bytes download = {0x34, 0x00, 0x44, 0x00, 0x00, 0x00, 0x00};
+        for (int shift = 24; shift >= 0; shift -= 8) {
+            download.push_back(static_cast<uint8_t>(r.size >> shift));
+        }
+        const auto accepted = send(bus, ecu, download, L"the download");
+        if (!accepted) {
+            return;
+        }
+        const uint64_t unitBlock = ((*accepted)[2] << 8 | (*accepted)[3]) - 2U;
+        block_ = blockLength_ == 0 ? unitBlock : std::min<uint64_t>(blockLength_, unitBlock);
+    });
+    return !over_;
+}
+
+bool FlashDownload::transfer(uint64_t slice) {
+    if (over_) {
+        return false;
+    }
+    auto& r = *result_;
+    const uint64_t size = image_->size();
+    // Rounded up, so that each slice ends at its whole tenth of the image or just past it.
+    const uint64_t to = (size * slice + transferSlices - 1) / transferSlices;
+    units_->talk([&](Bus& bus) {
+        Ecu& ecu = unit(bus.ecus, r.target);
+        while (r.transferred < to) {
+            const uint64_t n = std::min(block_, to - r.transferred);
+            Bytes request = {0x36, counter_};
+            for (uint64_t i = 0; i < n; ++i) {
+                request.push_back(image_->at(r.transferred + i));
+            }
+            if (!send(bus, ecu, request, L"a block of the download")) {
+                return;
+            }
+            crc_.update(std::span<const uint8_t>(request.data() + 2, n));
+            r.transferred += n;
+            ++counter_;
+            const uint64_t due = size == 0 ? 0 : durationMs_ * r.transferred / size;
+            spend(bus, ecu, due - spentMs_);
+            spentMs_ = due;
+        }
+    });
+    if (!over_) {
+        r.progress = static_cast<uint32_t>(r.transferred * 100 / size);
+    }
+    return !over_;
+}
+
+bool FlashDownload::finish() {
+    if (over_) {
+        return false;
+    }
+    auto& r = *result_;
+    units_->talk([&](Bus& bus) {
+        Ecu& ecu = unit(bus.ecus, r.target);
+        if (!send(bus, ecu, {0x37}, L"the end of the download")) {
+            return;
+        }
+        const uint32_t crc = declaredCrc_.value_or(crc_.value());
+        Bytes check = {0x31, 0x01, 0xFF, 0x01};
+        for (int shift = 24; shift >= 0; shift -= 8) {
+            check.push_back(static_cast<uint8_t>(crc >> shift));
+        }
+        const auto checked = send(bus, ecu, check, L"the check of the software");
+        if (!checked) {
+            return;
+        }
+        const auto id = ecu.programming->versionId;
+        const auto version =
+            bus.exchange(ecu, {0x22, static_cast<uint8_t>(id >> 8), static_cast<uint8_t>(id)});
+        if (version.size() >= 3 && version[0] == 0x62) {
+            r.versionAfter = decodeVersion(ecu, version);
+        }
+        if (checked->back() != 0x00) {
+            fail(error(FlashCheckFailed, L"The control unit rejected the downloaded software",
+                       L"the CRC-32 does not match what " + ecu.name +
+                           L" received, or the image names no version it can run; its update "
+                           L"is incomplete"));
+            return;
+        }
+        r.status = 0;
+        r.progress = 100;
+        over_ = true;
+    });
+    return r.status == 0;
+}
+
+void FlashDownload::reset(ControlUnits& units, const std::wstring& target) {
+    units.talk([&](Bus& bus) { bus.exchange(unit(bus.ecus, target), {0x11, 0x01}); });
+}
+
 // ---- a run ---------------------------------------------------------------------------
 
 class Flash::Run : public std::enable_shared_from_this<Flash::Run> {
@@ -151,19 +336,23 @@ public:
 
     Run(std::shared_ptr<ControlUnits> units, const FlashSessionsConfig& config,
         const std::vector<FlashSession>& offered)
-        : units_(std::move(units)), target_(config.target), blockLength_(config.blockLength),
-          stopOnError_(config.stopOnError) {
+        : units_(std::move(units)), target_(config.target), stopOnError_(config.stopOnError) {
         for (const auto& name : config.sessions) {
-            Item item;
-            item.result = std::make_shared<FlashSessionResult>();
-            item.result->name = name;
-            item.result->target = target_;
+            auto result = std::make_shared<FlashSessionResult>();
+            result->name = name;
+            result->target = target_;
             const auto found = std::find_if(offered.begin(), offered.end(),
                                             [&](const FlashSession& s) { return s.name == name; });
-            if (found != offered.end()) {
-                item.session = *found;
+            if (found == offered.end()) {
+                items_.push_back(
+                    std::make_unique<FlashDownload>(units_, result, nullptr, 0, std::nullopt, 0));
+                known_.push_back(false);
+                continue;
             }
-            items_.push_back(std::move(item));
+            items_.push_back(std::make_unique<FlashDownload>(units_, result, sessionImage(*found),
+                                                             found->durationMs, found->checksum,
+                                                             config.blockLength));
+            known_.push_back(true);
         }
     }
 
@@ -171,11 +360,11 @@ public:
         std::vector<Step> out;
         auto self = shared_from_this();
         for (std::size_t i = 0; i < items_.size(); ++i) {
-            out.emplace_back([self, i] { return self->start(self->items_[i]); });
-            for (uint64_t k = 1; k <= transferSlices; ++k) {
-                out.emplace_back([self, i, k] { return self->transfer(self->items_[i], k); });
+            out.emplace_back([self, i] { return self->start(i); });
+            for (uint64_t k = 1; k <= FlashDownload::transferSlices; ++k) {
+                out.emplace_back([self, i, k] { return self->transfer(i, k); });
             }
-            out.emplace_back([self, i] { return self->finish(self->items_[i]); });
+            out.emplace_back([self, i] { return self->finish(i); });
         }
         out.emplace_back([self] { return self->end(); });
         return out;
@@ -193,198 +382,66 @@ public:
     }
 
 private:
-    struct Item {
-        std::optional<FlashSession> session;
-        std::shared_ptr<FlashSessionResult> result;
-        bool over = false;              // finished or failed: its later steps report nothing
-        std::optional<int64_t> startMs; // vehicle time; set once the session starts
-        uint64_t spentMs = 0;           // vehicle time the unit spent writing
-        uint64_t block = 0;             // data bytes per TransferData
-        uint8_t counter = 1;
-        Crc32 crc;
-    };
-
-    static Report snapshot(Item& item) {
-        if (item.startMs) {
-            item.result->duration = static_cast<uint32_t>(VehicleClock::nowMs() - *item.startMs);
-        }
-        return std::make_shared<FlashSessionResult>(*item.result);
-    }
-
-    Report fail(Item& item, std::shared_ptr<KelError> e) {
-        item.result->status = 2;
-        item.result->error = std::move(e);
-        item.over = true;
-        if (stopOnError_) {
+    Report outcome(FlashDownload& d) {
+        if (d.failed() && stopOnError_) {
             stopped_ = true;
         }
-        return snapshot(item);
+        return d.snapshot();
     }
 
-    // Sends `request`; its positive response, or nothing once the session failed on it.
-    std::optional<Bytes> send(Bus& bus, Ecu& ecu, Item& item, const Bytes& request,
-                              const wchar_t* step) {
-        auto response = bus.exchange(ecu, request);
-        if (response.empty()) {
-            fail(item, Answers::silent(ecu));
-            return std::nullopt;
-        }
-        if (response[0] != request[0] + 0x40) {
-            auto e = Answers::negative(response, FlashStepRefused);
-            e->message = std::wstring(L"The control unit refused ") + step;
-            e->details = ecu.name + L" answered " + hexText(response) + L" to " +
-                         hexText(Bytes(request.begin(),
-                                       request.begin() + std::min<std::size_t>(request.size(), 4)));
-            fail(item, std::move(e));
-            return std::nullopt;
-        }
-        return response;
-    }
-
-    // The unit writes for `ms` of vehicle time; a tester keeps the session open meanwhile.
-    static void spend(Bus& bus, Ecu& ecu, uint64_t ms) {
-        while (ms > quietMs) {
-            VehicleClock::advance(quietMs);
-            ms -= quietMs;
-            bus.exchange(ecu, {0x3E, 0x00});
-        }
-        VehicleClock::advance(ms);
-    }
-
-    Report start(Item& item) {
-        auto& r = *item.result;
+    Report start(std::size_t i) {
+        FlashDownload& d = *items_[i];
         if (stopped_) {
-            r.status = 3;
-            r.error = error(FlashSessionNotRun, L"The flash session was not run",
-                            L"an earlier session of the call failed");
-            item.over = true;
-            return snapshot(item);
+            auto r = d.snapshot();
+            r->status = 3;
+            r->error = error(FlashSessionNotRun, L"The flash session was not run",
+                             L"an earlier session of the call failed");
+            d.fail(nullptr); // its later steps report nothing
+            return r;
         }
-        if (!item.session) {
-            return fail(item, error(UnknownFlashSession, L"The target has no such flash session",
-                                    L"session " + r.name + L" on " + target_));
+        if (!known_[i]) {
+            const auto r = d.snapshot();
+            d.fail(error(UnknownFlashSession, L"The target has no such flash session",
+                         L"session " + r->name + L" on " + target_));
+            return outcome(d);
         }
-        const auto& s = *item.session;
-        r.size = s.size;
-        r.status = 1;
-        item.startMs = VehicleClock::nowMs();
-        units_->talk([&](Bus& bus) {
-            Ecu& ecu = unit(bus.ecus, target_);
-            touched_ = true;
-            const auto id = ecu.programming->versionId;
-            auto version = send(bus, ecu, item,
-                                {0x22, static_cast<uint8_t>(id >> 8), static_cast<uint8_t>(id)},
-                                L"reading the software version");
-            if (!version) {
-                return;
-            }
-            r.versionBefore = decodeVersion(ecu, *version);
-            if (!send(bus, ecu, item, {0x31, 0x01, 0xFF, 0x00}, L"erasing the memory")) {
-                return;
-            }
-            Bytes download = {0x34, 0x00, 0x44, 0x00, 0x00, 0x00, 0x00};
-            for (int shift = 24; shift >= 0; shift -= 8) {
-                download.push_back(static_cast<uint8_t>(s.size >> shift));
-            }
-            const auto accepted = send(bus, ecu, item, download, L"the download");
-            if (!accepted) {
-                return;
-            }
-            const uint64_t unitBlock = ((*accepted)[2] << 8 | (*accepted)[3]) - 2U;
-            item.block =
-                blockLength_ == 0 ? unitBlock : std::min<uint64_t>(blockLength_, unitBlock);
-        });
-        return snapshot(item);
+        touched_ = true;
+        d.start();
+        return outcome(d);
     }
 
-    Report transfer(Item& item, uint64_t slice) {
-        if (item.over) {
+    Report transfer(std::size_t i, uint64_t slice) {
+        FlashDownload& d = *items_[i];
+        if (d.over()) {
             return std::nullopt;
         }
-        auto& r = *item.result;
-        const auto& s = *item.session;
-        // Rounded up, so that each slice ends at its whole tenth of the image or just past it.
-        const uint64_t to = (s.size * slice + transferSlices - 1) / transferSlices;
-        const Image image(s);
-        units_->talk([&](Bus& bus) {
-            Ecu& ecu = unit(bus.ecus, target_);
-            while (r.transferred < to) {
-                const uint64_t n = std::min(item.block, to - r.transferred);
-                Bytes request = {0x36, item.counter};
-                for (uint64_t i = 0; i < n; ++i) {
-                    request.push_back(image.at(r.transferred + i));
-                }
-                if (!send(bus, ecu, item, request, L"a block of the download")) {
-                    return;
-                }
-                item.crc.update(std::span<const uint8_t>(request.data() + 2, n));
-                r.transferred += n;
-                ++item.counter;
-                const uint64_t due = s.size == 0 ? 0 : s.durationMs * r.transferred / s.size;
-                spend(bus, ecu, due - item.spentMs);
-                item.spentMs = due;
-            }
-        });
-        if (!item.over) {
-            r.progress = static_cast<uint32_t>(r.transferred * 100 / s.size);
-        }
-        return snapshot(item);
+        d.transfer(slice);
+        return outcome(d);
     }
 
-    Report finish(Item& item) {
-        if (item.over) {
+    Report finish(std::size_t i) {
+        FlashDownload& d = *items_[i];
+        if (d.over()) {
             return std::nullopt;
         }
-        auto& r = *item.result;
-        const auto& s = *item.session;
-        units_->talk([&](Bus& bus) {
-            Ecu& ecu = unit(bus.ecus, target_);
-            if (!send(bus, ecu, item, {0x37}, L"the end of the download")) {
-                return;
-            }
-            const uint32_t crc = s.checksum.value_or(item.crc.value());
-            Bytes check = {0x31, 0x01, 0xFF, 0x01};
-            for (int shift = 24; shift >= 0; shift -= 8) {
-                check.push_back(static_cast<uint8_t>(crc >> shift));
-            }
-            const auto checked = send(bus, ecu, item, check, L"the check of the software");
-            if (!checked) {
-                return;
-            }
-            const auto id = ecu.programming->versionId;
-            const auto version =
-                bus.exchange(ecu, {0x22, static_cast<uint8_t>(id >> 8), static_cast<uint8_t>(id)});
-            if (version.size() >= 3 && version[0] == 0x62) {
-                r.versionAfter = decodeVersion(ecu, version);
-            }
-            if (checked->back() != 0x00) {
-                fail(item,
-                     error(FlashCheckFailed, L"The control unit rejected the downloaded software",
-                           L"the CRC-32 does not match what " + ecu.name +
-                               L" received; its update is incomplete"));
-                return;
-            }
-            r.status = 0;
-            r.progress = 100;
-            item.over = true;
-        });
-        return snapshot(item);
+        d.finish();
+        return outcome(d);
     }
 
     // A reset ends the run: the unit leaves the programming session and starts the
     // software it has, the new one or none.
     Report end() {
         if (touched_) {
-            units_->talk([&](Bus& bus) { bus.exchange(unit(bus.ecus, target_), {0x11, 0x01}); });
+            FlashDownload::reset(*units_, target_);
         }
         return std::nullopt;
     }
 
     std::shared_ptr<ControlUnits> units_;
     std::wstring target_;
-    uint32_t blockLength_ = 0;
     bool stopOnError_ = true;
-    std::vector<Item> items_;
+    std::vector<std::unique_ptr<FlashDownload>> items_;
+    std::vector<bool> known_;
     bool stopped_ = false;
     bool touched_ = false; // a request reached the unit, so the run ends with a reset
 };

@@ -14,7 +14,9 @@
 
 namespace Varno::Kel_cpp::Reference {
 
-std::wstring Projects::getVersion() { return L"kel_cpp 0.1.0 (simulated vehicle)"; }
+std::wstring Projects::getVersion() {
+    return std::wstring(L"kel_cpp ") + engineVersion + L" (simulated vehicle)";
+}
 
 std::shared_ptr<SystemInfo> Projects::getSystemInfo() {
     const auto host = hostFigures();

@@ -1,0 +1,862 @@
+// Update packages on a broker folder and vehicle updates, as a workshop relies on them: a
+// corrupt package changes nothing, an update flashes exactly the units that need it and
+// in ECU order, a cancel leaves no unit half written, the broker cannot be pointed
+// outside the engine's folders, and engine components stay updated across a restart.
+#include "support.h"
+
+#include <algorithm>
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <mutex>
+#include <set>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+using kel_test::EngineTest;
+using kel_test::ErrorSlot;
+using kel_test::List;
+using namespace std::chrono_literals;
+
+using Bytes = std::vector<uint8_t>;
+using Packages = List<UpdatePackageInfo, release_UpdatePackageInfo_array>;
+using Results = List<VehicleUpdateResult, release_VehicleUpdateResult_array>;
+using Items = List<NamedItem, release_NamedItem_array>;
+
+// Five units: three that can be flashed on two buses, a gateway, one that cannot, and
+// one whose security level cannot be unlocked in its programming session.
+constexpr const char* updateVehicle = R"({"name": "Update test car", "version": "7",
+  "ecus": [
+    {"name": "ECM", "address": 16, "bus": "Powertrain",
+     "identification": [{"id": "F189", "name": "Software version", "value": "5428"}],
+     "security": [{"level": 2, "keyMask": "C3A5179E", "sessions": ["Programming"]}],
+     "programming": {"level": 2}},
+    {"name": "TCM", "address": 17, "bus": "Powertrain",
+     "identification": [{"id": "F189", "name": "Software version", "value": "0830"}],
+     "security": [{"level": 1, "keyMask": "11111111", "sessions": ["Programming"]}],
+     "programming": {"level": 1}},
+    {"name": "BCM", "address": 32, "bus": "Comfort",
+     "identification": [{"id": "F189", "name": "Software version", "value": "0455"}],
+     "security": [{"level": 1, "keyMask": "22222222", "sessions": ["Programming"]}],
+     "programming": {"level": 1}},
+    {"name": "DASH", "address": 40, "bus": "Comfort",
+     "identification": [{"id": "F189", "name": "Software version", "value": "12"}]},
+    {"name": "GW", "address": 48, "bus": "Gateway",
+     "identification": [{"id": "F189", "name": "Software version", "value": "0100"}],
+     "security": [{"level": 1, "keyMask": "33333333", "sessions": ["Extended"]}],
+     "programming": {"level": 1}}],
+  "ecuOrder": {"gateway": "GW"},
+  "vehicleUpdate": {"bytesPerSecond": 1000}})";
+
+// The default order of that vehicle: the gateway, then by bus and address.
+const std::vector<std::wstring> defaultOrder = {L"GW", L"BCM", L"DASH", L"ECM", L"TCM"};
+
+// CRC-32 as zip computes it, written out again so that the engine's is checked.
+uint32_t crc32(const Bytes& bytes) {
+    uint32_t crc = 0xFFFFFFFF;
+    for (const uint8_t b : bytes) {
+        crc ^= b;
+        for (int k = 0; k < 8; ++k) {
+            crc = (crc >> 1) ^ (0xEDB88320U & (0U - (crc & 1U)));
+        }
+    }
+    return ~crc;
+}
+
+std::string crcText(uint32_t crc) {
+    char text[16];
+    std::snprintf(text, sizeof text, "crc32:%08X", crc);
+    return text;
+}
+
+// What a unit runs: its version in ASCII, a NUL, then bytes.
+Bytes ecuImage(const std::string& version, std::size_t size) {
+    Bytes b(version.begin(), version.end());
+    b.push_back(0);
+    for (std::size_t i = b.size(); i < size; ++i) {
+        b.push_back(static_cast<uint8_t>(i * 7 + 3));
+    }
+    return b;
+}
+
+std::string read(const fs::path& file) {
+    std::ifstream in(file, std::ios::binary);
+    std::stringstream s;
+    s << in.rdbuf();
+    return s.str();
+}
+
+void put(const fs::path& file, const std::string& text) {
+    fs::create_directories(file.parent_path());
+    std::ofstream(file, std::ios::binary) << text;
+}
+
+// Every file below `root` with its content.
+std::map<std::string, std::string> snapshot(const fs::path& root) {
+    std::map<std::string, std::string> out;
+    std::error_code e;
+    for (fs::recursive_directory_iterator i(root, e), end; !e && i != end; i.increment(e)) {
+        if (i->is_regular_file()) {
+            out[fs::relative(i->path(), root).generic_string()] = read(i->path());
+        }
+    }
+    return out;
+}
+
+std::wstring wide(const std::string& s) { return std::wstring(s.begin(), s.end()); }
+
+wchar_t* dup(const std::wstring& s) { return duplicate_WString(s.c_str()); }
+
+template <class T>
+T* record() {
+    auto* r = static_cast<T*>(allocate_Memory(sizeof(T)));
+    std::memset(r, 0, sizeof(T));
+    return r;
+}
+
+wchar_t** texts(const std::vector<std::wstring>& values) {
+    auto** out = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*) * (values.size() + 1)));
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        out[i] = dup(values[i]);
+    }
+    return out;
+}
+
+struct Wanted {
+    std::wstring name;
+    std::wstring version;
+    std::wstring target;
+};
+
+// A config as a caller builds one by hand.
+VehicleUpdateConfig* config(const std::vector<std::wstring>& targets,
+                            const std::vector<Wanted>& packages, bool stopOnError = true,
+                            bool force = false) {
+    auto* c = record<VehicleUpdateConfig>();
+    c->targets = texts(targets);
+    c->targetCount = static_cast<uint32_t>(targets.size());
+    c->packages = static_cast<UpdatePackageInfo**>(
+        allocate_Memory(sizeof(UpdatePackageInfo*) * (packages.size() + 1)));
+    for (std::size_t i = 0; i < packages.size(); ++i) {
+        auto* p = record<UpdatePackageInfo>();
+        p->name = dup(packages[i].name);
+        p->version = dup(packages[i].version);
+        p->description = dup(L"");
+        p->checksum = dup(L"");
+        p->location = dup(L"");
+        p->kind = 1;
+        p->targets = texts({packages[i].target});
+        p->targetCount = 1;
+        c->packages[i] = p;
+    }
+    c->packageCount = static_cast<uint32_t>(packages.size());
+    c->stopOnError = stopOnError ? 1 : 0;
+    c->force = force ? 1 : 0;
+    return c;
+}
+
+class VehicleUpdateTest : public EngineTest {
+protected:
+    void SetUp() override {
+        static std::atomic<int> counter{0};
+        base = fs::temp_directory_path() /
+               ("kel_update_test-" +
+                std::to_string(std::chrono::steady_clock::now().time_since_epoch().count() %
+                               100000000) +
+                "-" + std::to_string(counter++));
+        root = base / "root";
+        outside = base / "outside";
+        put(outside / "secret.txt", "outside");
+        fs::create_directories(root);
+        EngineTest::SetUp();
+        kelsim_setDataRoot(root.wstring().c_str());
+        ASSERT_EQ(kelsim_setVehicleJson(updateVehicle), 0);
+        restart();
+    }
+    void TearDown() override {
+        EXPECT_EQ(snapshot(outside).size(), 1U) << "something outside the data root changed";
+        EngineTest::TearDown();
+        kelsim_restart();
+        std::error_code ignored;
+        fs::remove_all(base, ignored);
+    }
+
+    // A new engine on the same data root and vehicle.
+    void restart() {
+        releaseTarnApi(api);
+        kelsim_restart();
+        api = kel_getTarnApi();
+        ErrorSlot error;
+        kel_initialize(api, &error);
+        ASSERT_FALSE(error);
+    }
+
+    // Puts a package on the broker (or in `packagesFolder`); a `declared` checksum other
+    // than the payload's makes it corrupt.
+    fs::path publish(const std::string& name, const std::string& version, const std::string& kind,
+                     const std::string& target, const Bytes& payload, uint32_t declared = 0,
+                     const fs::path& packagesFolder = {}) {
+        const fs::path folder =
+            (packagesFolder.empty() ? root / "broker" / "packages" : packagesFolder) /
+            (name + "-" + version);
+        const std::string file = name + "_" + version + ".bin";
+        put(folder / file, std::string(payload.begin(), payload.end()));
+        put(folder / "manifest.json",
+            R"({"format": "kel-package", "version": 1, "name": ")" + name +
+                R"(", "packageVersion": ")" + version + R"(", "kind": ")" + kind +
+                R"(", "targets": [")" + target +
+                R"("], "description": "test package", "payload": ")" + file + R"(", "size": )" +
+                std::to_string(payload.size()) + R"(, "checksum": ")" +
+                crcText(declared != 0 ? declared : crc32(payload)) + R"("})");
+        return folder;
+    }
+    void publishEcu(const std::string& target, const std::string& version,
+                    std::size_t size = 3000) {
+        publish(target + "_SW", version, "ecu", target, ecuImage(version, size));
+    }
+
+    std::wstring version(const wchar_t* target) {
+        const wchar_t* targets[] = {target};
+        ErrorSlot error;
+        List<ReadDataResult, release_ReadDataResult_array> out;
+        kel_readIdentificationValues(api, const_cast<wchar_t**>(targets), 1, &error, &out.items,
+                                     &out.count);
+        EXPECT_FALSE(error);
+        for (uint32_t i = 0; out.count == 1 && i < out.items[0]->parameterCount; ++i) {
+            const ParameterResult& p = *out.items[0]->parameters[i];
+            if (std::wstring(p.itemText2) == L"F189") {
+                return p.text1;
+            }
+        }
+        return L"<no F189>";
+    }
+
+    std::map<std::wstring, std::wstring> versions() {
+        ErrorSlot error;
+        Items items;
+        kel_getCurrentVersions(api, &error, &items.items, &items.count);
+        EXPECT_FALSE(error);
+        std::map<std::wstring, std::wstring> out;
+        for (uint32_t i = 0; i < items.count; ++i) {
+            out[items.items[i]->itemText1] = items.items[i]->itemText2;
+        }
+        return out;
+    }
+
+    // name-version:state of each package listed.
+    std::vector<std::wstring> listed(void (*list)(TarnApi*, KelError**, UpdatePackageInfo***,
+                                                  uint32_t*)) {
+        ErrorSlot error;
+        Packages out;
+        list(api, &error, &out.items, &out.count);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        std::vector<std::wstring> names;
+        for (uint32_t i = 0; i < out.count; ++i) {
+            names.push_back(std::wstring(out.items[i]->name) + L"-" + out.items[i]->version + L":" +
+                            std::to_wstring(out.items[i]->state));
+        }
+        std::sort(names.begin(), names.end());
+        return names;
+    }
+
+    int32_t setBroker(const wchar_t* url) {
+        ErrorSlot error;
+        kel_setBrokerUrl(api, url, &error);
+        return error ? error->code : 0;
+    }
+
+    bool lastUpdateSucceeded() {
+        ErrorSlot error;
+        bool succeeded = false;
+        kel_checkUpdateSuccess(api, &error, &succeeded);
+        EXPECT_FALSE(error);
+        return succeeded;
+    }
+
+    uint64_t pduMonitor() {
+        ErrorSlot error;
+        uint64_t handle = 0;
+        kel_createPduMonitor(api, &error, &handle);
+        EXPECT_FALSE(error);
+        return handle;
+    }
+    // The units that requests went to, in the order they first appear, and how many.
+    std::vector<std::wstring> unitsTalkedTo(uint64_t monitor, std::map<std::wstring, int>* counts) {
+        ErrorSlot error;
+        List<PduMonitoringItem, release_PduMonitoringItem_array> items;
+        kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
+        EXPECT_FALSE(error);
+        std::vector<std::wstring> order;
+        for (uint32_t i = 0; i < items.count; ++i) {
+            const std::wstring unit = items.items[i]->text1;
+            if (items.items[i]->value1 == 1) {
+                ++(*counts)[unit];
+            }
+            if (order.empty() || order.back() != unit) {
+                order.push_back(unit);
+            }
+        }
+        return order;
+    }
+
+    std::unique_ptr<Results> update(VehicleUpdateConfig* c, KelError** error) {
+        auto out = std::make_unique<Results>();
+        kel_updateVehicle(api, c, error, &out->items, &out->count);
+        return out;
+    }
+
+    fs::path base, root, outside;
+};
+
+std::vector<std::wstring> statuses(const Results& r) {
+    std::vector<std::wstring> out;
+    for (uint32_t i = 0; i < r.count; ++i) {
+        out.push_back(std::wstring(r.items[i]->target) + L":" +
+                      std::to_wstring(r.items[i]->status));
+    }
+    return out;
+}
+
+// ---- the broker --------------------------------------------------------------------------
+
+TEST_F(VehicleUpdateTest, TheBrokerOffersItsValidPackagesAndSkipsTheOthersWithAnEvent) {
+    ErrorSlot error;
+    uint64_t channel = 0;
+    kel_openEventChannel(api, &error, &channel);
+    ASSERT_FALSE(error);
+    publishEcu("ECM", "5432");
+    publish("tool", "1.9", "engine", "tool", Bytes(100, 7));
+    const fs::path packages = root / "broker" / "packages";
+    put(packages / "notjson" / "manifest.json", "{nope");
+    put(packages / "nomanifest" / "payload.bin", "x");
+    put(packages / "escape" / "manifest.json",
+        R"({"format": "kel-package", "version": 1, "name": "E", "packageVersion": "1",
+            "kind": "ecu", "targets": ["ECM"], "payload": "../../exchange/x.bin", "size": 1,
+            "checksum": "crc32:00000000"})");
+    put(packages / "self" / "manifest.json",
+        R"({"format": "kel-package", "version": 1, "name": "S", "packageVersion": "1",
+            "kind": "engine", "targets": ["kel_cpp"], "payload": "p.bin", "size": 1,
+            "checksum": "crc32:00000000"})");
+    put(packages / "badsum" / "manifest.json",
+        R"({"format": "kel-package", "version": 1, "name": "B", "packageVersion": "1",
+            "kind": "ecu", "targets": ["ECM"], "payload": "p.bin", "size": 1,
+            "checksum": "crc32:12345"})");
+
+    Packages offered;
+    kel_getPackagesFromBroker(api, &error, &offered.items, &offered.count);
+    ASSERT_FALSE(error);
+    ASSERT_EQ(offered.count, 2U);
+    const UpdatePackageInfo& ecm = *offered.items[0];
+    EXPECT_STREQ(ecm.name, L"ECM_SW");
+    EXPECT_STREQ(ecm.version, L"5432");
+    EXPECT_EQ(ecm.kind, 1U);
+    ASSERT_EQ(ecm.targetCount, 1U);
+    EXPECT_STREQ(ecm.targets[0], L"ECM");
+    EXPECT_EQ(ecm.size, 3000U);
+    EXPECT_EQ(ecm.checksum, wide(crcText(crc32(ecuImage("5432", 3000)))));
+    EXPECT_STREQ(ecm.location, L"broker/packages/ECM_SW-5432");
+    EXPECT_EQ(ecm.state, 0);
+    EXPECT_STREQ(offered.items[1]->name, L"tool");
+    EXPECT_EQ(offered.items[1]->kind, 2U);
+
+    EventReport* report = nullptr;
+    kel_getCurrentEvents(api, channel, 100, &error, &report);
+    ASSERT_FALSE(error);
+    std::set<std::wstring> skipped;
+    for (uint32_t i = 0; report != nullptr && i < report->eventCount; ++i) {
+        if (report->events[i]->kind == 60) {
+            EXPECT_EQ(report->events[i]->code, 2204) << report->events[i]->detail;
+            const std::wstring detail = report->events[i]->detail;
+            skipped.insert(detail.substr(0, detail.find(L':')));
+        }
+    }
+    release_EventReport(report);
+    EXPECT_EQ(skipped,
+              (std::set<std::wstring>{L"badsum", L"escape", L"nomanifest", L"notjson", L"self"}));
+    EXPECT_TRUE(listed(kel_getUpdatePackages).empty()) << "listing downloads nothing";
+}
+
+TEST_F(VehicleUpdateTest, TheBrokerUrlCannotReachOutsideThePublicDirectories) {
+    publishEcu("ECM", "5432");
+    // Refused by the sandbox, by the URL rules, or as another scheme; nothing is made.
+    const std::vector<std::pair<const wchar_t*, int32_t>> refused = {
+        {L"file:../outside", 1606},
+        {L"file:exchange/../../outside", 1606},
+        {L"file:exchange/%2e%2e/%2E%2E/outside", 1606},
+        {L"file:///etc/passwd", 1607},
+        {L"file:/tmp", 1607},
+        {L"file:C:/Windows", 1605},
+        {L"file:exchange/a%00b", 1602},
+        {L"file://server/share/broker", 2200},
+        {L"file:exchange/b?x=1", 2200},
+        {L"file:exchange/%zz", 2200},
+        {L"file:", 2200},
+        {L"exchange/broker", 2200},
+        {L"http://broker.example/updates", 2201},
+        {L"HTTPS://broker.example/updates", 2201},
+        {L"ftp://broker.example/", 2201},
+    };
+    for (const auto& [url, code] : refused) {
+        EXPECT_EQ(setBroker(url), code) << std::string(url, url + std::wcslen(url));
+    }
+    std::error_code noLinks;
+    fs::create_directory_symlink(outside, root / "exchange" / "out", noLinks);
+    if (!noLinks) {
+        EXPECT_EQ(setBroker(L"file:exchange/out"), 1608);
+        EXPECT_EQ(setBroker(L"file:exchange/out/deeper"), 1608);
+    }
+    EXPECT_EQ(listed(kel_getPackagesFromBroker), std::vector<std::wstring>{L"ECM_SW-5432:0"})
+        << "a refused URL keeps the broker there was";
+
+    EXPECT_EQ(setBroker(L"file:exchange/mybroker"), 0);
+    EXPECT_TRUE(fs::is_directory(root / "exchange" / "mybroker")) << "made when missing";
+    EXPECT_TRUE(listed(kel_getPackagesFromBroker).empty());
+    publish("X", "1", "ecu", "ECM", ecuImage("1", 100), 0, root / "exchange" / "b2" / "packages");
+    EXPECT_EQ(setBroker(L"file:///exchange/b2"), 0);
+    EXPECT_EQ(listed(kel_getPackagesFromBroker), std::vector<std::wstring>{L"X-1:0"});
+    EXPECT_EQ(setBroker(L"file://localhost/exchange/b2"), 0);
+    EXPECT_EQ(setBroker(L""), 0);
+    EXPECT_EQ(listed(kel_getPackagesFromBroker), std::vector<std::wstring>{L"ECM_SW-5432:0"});
+}
+
+// ---- the engine's own components ----------------------------------------------------------
+
+TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeepsThem) {
+    auto before = versions();
+    EXPECT_EQ(before[L"kel_cpp"], L"0.1.0");
+    EXPECT_EQ(before[L"vehicle"], L"7");
+    EXPECT_EQ(before.count(L"tool"), 0U);
+    EXPECT_TRUE(lastUpdateSucceeded()) << "no update yet: nothing failed";
+
+    publish("tool", "1.9", "engine", "tool", Bytes(100, 1));
+    ErrorSlot error;
+    bool available = false;
+    kel_checkUpdatesOnBroker(api, &error, &available);
+    EXPECT_TRUE(available);
+    bool updated = false;
+    kel_autoUpdate(api, &error, &updated);
+    ASSERT_FALSE(error) << error->code;
+    EXPECT_TRUE(updated);
+    EXPECT_EQ(versions()[L"tool"], L"1.9");
+    kel_checkUpdatesOnBroker(api, &error, &available);
+    EXPECT_FALSE(available);
+    kel_autoUpdate(api, &error, &updated);
+    EXPECT_FALSE(updated) << "nothing newer";
+
+    // 1.10 is newer than 1.9; an older one beside it is not chosen.
+    publish("tool", "1.10", "engine", "tool", Bytes(200, 2));
+    publish("tool", "1.8", "engine", "tool", Bytes(50, 3));
+    kel_checkUpdatesOnBroker(api, &error, &available);
+    EXPECT_TRUE(available);
+    kel_autoUpdate(api, &error, &updated);
+    ASSERT_FALSE(error);
+    EXPECT_TRUE(updated);
+    EXPECT_EQ(read(root / "updates" / "components" / "tool" / "tool_1.10.bin"),
+              std::string(200, '\2'));
+    EXPECT_EQ(listed(kel_getUpdatePackages),
+              (std::vector<std::wstring>{L"tool-1.10:2", L"tool-1.9:1"}));
+
+    restart();
+    EXPECT_EQ(versions()[L"tool"], L"1.10");
+    EXPECT_TRUE(lastUpdateSucceeded());
+    kel_checkUpdatesOnBroker(api, &error, &available);
+    EXPECT_FALSE(available);
+
+    kel_clearUpdatePackages(api, &error);
+    ASSERT_FALSE(error);
+    EXPECT_TRUE(listed(kel_getUpdatePackages).empty());
+    EXPECT_EQ(versions()[L"tool"], L"1.10") << "clearing downloads uninstalls nothing";
+}
+
+TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {
+    publish("tool", "2", "engine", "tool", Bytes(100, 1));
+    ErrorSlot error;
+    kel_applyUpdatePackage(api, L"tool", &error);
+    ASSERT_FALSE(error);
+    EXPECT_TRUE(lastUpdateSucceeded());
+    const auto store = snapshot(root / "updates");
+    const auto known = versions();
+
+    // On the broker: its payload does not have the checksum its manifest gives.
+    publish("tool", "3", "engine", "tool", Bytes(100, 9), 0x1A2B3C4D);
+    ErrorSlot corrupt;
+    kel_applyUpdatePackage(api, L"tool", &corrupt);
+    ASSERT_TRUE(corrupt);
+    EXPECT_EQ(corrupt->code, 2203);
+    EXPECT_NE(std::wstring(corrupt->details).find(L"crc32:1A2B3C4D"), std::wstring::npos);
+    bool updated = true;
+    kel_autoUpdate(api, &error, &updated);
+    EXPECT_FALSE(updated);
+    EXPECT_FALSE(lastUpdateSucceeded());
+    EXPECT_EQ(versions(), known);
+    EXPECT_EQ(listed(kel_getUpdatePackages), std::vector<std::wstring>{L"tool-2:2"});
+
+    // The failed downloads stay in tmp/ until cleaned; nothing else in the store moved.
+    auto after = snapshot(root / "updates");
+    std::erase_if(after, [](const auto& f) { return f.first.starts_with("tmp/"); });
+    after.erase("last-update.json");
+    auto expected = store;
+    expected.erase("last-update.json");
+    EXPECT_EQ(after, expected);
+    EXPECT_FALSE(fs::is_empty(root / "updates" / "tmp"));
+    kel_cleanUpdateTmp(api, &error);
+    ASSERT_FALSE(error);
+    EXPECT_FALSE(fs::exists(root / "updates" / "tmp") && !fs::is_empty(root / "updates" / "tmp"));
+
+    // A downloaded copy damaged afterwards is refused as well.
+    fs::remove_all(root / "broker" / "packages" / "tool-3");
+    publish("tool", "4", "engine", "tool", Bytes(10, 4), 0, root / "updates" / "packages");
+    put(root / "updates" / "packages" / "tool-4" / "tool_4.bin", std::string(10, '\5'));
+    ErrorSlot damaged;
+    kel_applyUpdatePackage(api, L"tool", &damaged);
+    ASSERT_TRUE(damaged);
+    EXPECT_EQ(damaged->code, 2203);
+    EXPECT_EQ(versions(), known);
+
+    // Unknown names and control-unit software are not for applyUpdatePackage.
+    ErrorSlot unknown;
+    kel_applyUpdatePackage(api, L"nothing", &unknown);
+    ASSERT_TRUE(unknown);
+    EXPECT_EQ(unknown->code, 2202);
+    publishEcu("ECM", "5432");
+    ErrorSlot ecu;
+    kel_applyUpdatePackage(api, L"ECM_SW", &ecu);
+    ASSERT_TRUE(ecu);
+    EXPECT_EQ(ecu->code, 2205);
+    EXPECT_EQ(version(L"ECM"), L"5428");
+}
+
+// ---- vehicle updates ---------------------------------------------------------------------
+
+TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
+    publishEcu("ECM", "5432");
+    publishEcu("ECM", "5440");
+    publishEcu("ECM", "999");  // older by number, though "9" sorts after "5"
+    publishEcu("TCM", "0830"); // what it runs already
+    publishEcu("BCM", "0460", 5000);
+    ErrorSlot error;
+    bool available = false;
+    kel_checkUpdatesOnBroker(api, &error, &available);
+    EXPECT_TRUE(available);
+
+    VehicleUpdateConfig* made = nullptr;
+    kel_createVehicleUpdateConfig(api, nullptr, 0, &error, &made);
+    ASSERT_FALSE(error) << error->code;
+    ASSERT_NE(made, nullptr);
+    EXPECT_EQ(made->targetCount, 5U) << "no targets: every unit";
+    EXPECT_EQ(made->stopOnError, 1);
+    std::set<std::wstring> chosen;
+    for (uint32_t i = 0; i < made->packageCount; ++i) {
+        chosen.insert(std::wstring(made->packages[i]->name) + L"-" + made->packages[i]->version);
+    }
+    EXPECT_EQ(chosen, (std::set<std::wstring>{L"BCM_SW-0460", L"ECM_SW-5440"}));
+
+    const uint64_t monitor = pduMonitor();
+    const int64_t start = kelsim_clockMs();
+    auto out = update(made, &error);
+    ASSERT_FALSE(error) << error->code;
+    ASSERT_EQ(out->count, 5U);
+    for (uint32_t i = 0; i < out->count; ++i) {
+        EXPECT_EQ(out->items[i]->target, defaultOrder[i]);
+        EXPECT_EQ(out->items[i]->position, i + 1);
+        EXPECT_EQ(out->items[i]->overallProgress, 100U);
+    }
+    EXPECT_EQ(statuses(*out),
+              (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:4", L"ECM:0", L"TCM:4"}));
+    const VehicleUpdateResult& bcm = *out->items[1];
+    EXPECT_STREQ(bcm.package, L"BCM_SW");
+    EXPECT_STREQ(bcm.versionBefore, L"0455");
+    EXPECT_STREQ(bcm.versionAfter, L"0460");
+    EXPECT_EQ(bcm.progress, 100U);
+    EXPECT_EQ(bcm.error, nullptr);
+    EXPECT_GE(bcm.duration, 5000U) << "5000 bytes at 1000 bytes per second of vehicle time";
+    EXPECT_STREQ(out->items[3]->versionAfter, L"5440");
+    EXPECT_GE(kelsim_clockMs() - start, 8000);
+
+    // Only the two units heard anything, the BCM before the ECM.
+    std::map<std::wstring, int> counts;
+    const auto order = unitsTalkedTo(monitor, &counts);
+    EXPECT_EQ(order, (std::vector<std::wstring>{L"BCM", L"ECM"}));
+    EXPECT_EQ(counts.count(L"TCM") + counts.count(L"GW") + counts.count(L"DASH"), 0U);
+
+    EXPECT_EQ(version(L"ECM"), L"5440");
+    EXPECT_EQ(version(L"BCM"), L"0460");
+    EXPECT_EQ(version(L"TCM"), L"0830");
+    EXPECT_TRUE(lastUpdateSucceeded());
+    const auto stored = listed(kel_getUpdatePackages);
+    EXPECT_EQ(stored, (std::vector<std::wstring>{L"BCM_SW-0460:2", L"ECM_SW-5440:2"}));
+
+    // Done: a new config finds nothing newer.
+    kel_checkUpdatesOnBroker(api, &error, &available);
+    EXPECT_FALSE(available);
+    VehicleUpdateConfig* again = nullptr;
+    const wchar_t* ecm[] = {L"ECM"};
+    kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(ecm), 1, &error, &again);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(again->targetCount, 1U);
+    EXPECT_EQ(again->packageCount, 0U);
+    release_VehicleUpdateConfig(again);
+}
+
+TEST_F(VehicleUpdateTest, ACorruptUnitPackageFailsThatUnitAloneAndItStaysUntouched) {
+    publish("ECM_SW", "5432", "ecu", "ECM", ecuImage("5432", 3000), 0xDEADBEEF);
+    publishEcu("BCM", "0460");
+    const uint64_t monitor = pduMonitor();
+    ErrorSlot error;
+    auto out = update(config({}, {{L"ECM_SW", L"5432", L"ECM"}, {L"BCM_SW", L"0460", L"BCM"}},
+                             /*stopOnError=*/false),
+                      &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(statuses(*out),
+              (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:4", L"ECM:2", L"TCM:4"}));
+    ASSERT_NE(out->items[3]->error, nullptr);
+    EXPECT_EQ(out->items[3]->error->code, 2203);
+    std::map<std::wstring, int> counts;
+    unitsTalkedTo(monitor, &counts);
+    EXPECT_EQ(counts.count(L"ECM"), 0U) << "a package that fails its check never reaches the unit";
+    EXPECT_EQ(version(L"ECM"), L"5428");
+    EXPECT_EQ(version(L"BCM"), L"0460");
+    EXPECT_FALSE(lastUpdateSucceeded());
+}
+
+TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUnits) {
+    publishEcu("ECM", "5432");
+    publishEcu("BCM", "0460");
+    publishEcu("GW", "0200");
+    publishEcu("TCM", "0830");
+    const auto entry = [](const wchar_t* target, bool optional) {
+        auto* e = record<EcuOrderEntry>();
+        e->target = dup(target);
+        e->bus = dup(L"");
+        e->optional = optional ? 1 : 0;
+        return e;
+    };
+    std::vector<EcuOrderEntry*> entries = {entry(L"ECM", false),  entry(L"TRAILER", true),
+                                           entry(L"TCM", false),  entry(L"GW", false),
+                                           entry(L"ROOF", false), entry(L"BCM", false)};
+    const auto perform = [&](VehicleUpdateConfig* c) {
+        auto out = std::make_unique<Results>();
+        ErrorSlot error;
+        kel_performVehicleUpdate(api, entries.data(), static_cast<uint32_t>(entries.size()), c,
+                                 &error, &out->items, &out->count);
+        EXPECT_FALSE(error);
+        return out;
+    };
+    const std::vector<Wanted> wanted = {{L"ECM_SW", L"5432", L"ECM"}, {L"X", L"1", L"TRAILER"},
+                                        {L"TCM_SW", L"0830", L"TCM"}, {L"GW_SW", L"0200", L"GW"},
+                                        {L"Y", L"1", L"ROOF"},        {L"BCM_SW", L"0460", L"BCM"}};
+    // Only the covered units, in the order given; TCM already runs its package; the GW
+    // refuses security access in its programming session; ROOF is missing.
+    auto out = perform(config({L"BCM", L"GW", L"TRAILER", L"ROOF", L"ECM", L"TCM"}, wanted,
+                              /*stopOnError=*/false));
+    EXPECT_EQ(statuses(*out), (std::vector<std::wstring>{L"ECM:0", L"TRAILER:5", L"TCM:4", L"GW:2",
+                                                         L"ROOF:2", L"BCM:0"}));
+    EXPECT_EQ(out->items[2]->position, 3U);
+    EXPECT_STREQ(out->items[2]->versionBefore, L"0830");
+    ASSERT_NE(out->items[3]->error, nullptr);
+    EXPECT_EQ(out->items[3]->error->code, 2210);
+    ASSERT_NE(out->items[3]->error->negativeResponse, nullptr);
+    EXPECT_EQ(out->items[4]->error->code, 2207);
+    EXPECT_EQ(version(L"GW"), L"0100") << "the refusing unit keeps its software";
+
+    // force flashes the TCM again; a failure with stopOnError leaves the rest alone.
+    const int64_t before = kelsim_clockMs();
+    auto forced = perform(config({L"TCM", L"GW", L"ROOF", L"BCM"}, wanted, true, true));
+    EXPECT_EQ(statuses(*forced),
+              (std::vector<std::wstring>{L"TCM:0", L"GW:2", L"ROOF:3", L"BCM:3"}));
+    EXPECT_GE(kelsim_clockMs() - before, 3000) << "the TCM was written";
+    EXPECT_EQ(forced->items[3]->error->code, 2208);
+    for (auto* e : entries) {
+        release_EcuOrderEntry(e);
+    }
+}
+
+TEST_F(VehicleUpdateTest, CallsThatCannotStartAreRefusedWhole) {
+    ErrorSlot noConfig;
+    Results out;
+    kel_updateVehicle(api, nullptr, &noConfig, &out.items, &out.count);
+    ASSERT_TRUE(noConfig);
+    EXPECT_EQ(noConfig->code, 2211);
+    ErrorSlot noUpload;
+    kel_uploadReport(api, nullptr, &noUpload);
+    ASSERT_TRUE(noUpload);
+    EXPECT_EQ(noUpload->code, 2211);
+    ErrorSlot unknown;
+    VehicleUpdateConfig* c = nullptr;
+    const wchar_t* names[] = {L"ECM", L"NOPE"};
+    kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(names), 2, &unknown, &c);
+    ASSERT_TRUE(unknown);
+    EXPECT_EQ(unknown->code, 1011);
+    EXPECT_EQ(c, nullptr);
+}
+
+// What an asynchronous update reports, and the cancel it may trigger.
+struct UpdateWatch {
+    TarnApi* api = nullptr;
+    std::wstring cancelOn; // cancel once this unit reports this much progress
+    uint32_t cancelAt = 101;
+    std::mutex mutex;
+    std::condition_variable changed;
+    std::vector<std::pair<std::wstring, uint32_t>> running; // unit and progress
+    std::vector<uint32_t> overall;
+    std::vector<std::wstring> final;  // target:status of the final report
+    std::vector<int32_t> finalErrors; // their error codes, 0 for none
+    std::vector<std::wstring> finalAfter;
+    int32_t errorCode = 0;
+    bool done = false;
+
+    static void callback(VehicleUpdateResult** results, uint32_t count, bool isFinal,
+                         uint64_t callId, KelError* error, void* context) {
+        auto* self = static_cast<UpdateWatch*>(context);
+        bool cancel = false;
+        {
+            const std::lock_guard lock(self->mutex);
+            for (uint32_t i = 0; i < count; ++i) {
+                const VehicleUpdateResult& r = *results[i];
+                if (isFinal) {
+                    self->final.push_back(std::wstring(r.target) + L":" +
+                                          std::to_wstring(r.status));
+                    self->finalErrors.push_back(r.error != nullptr ? r.error->code : 0);
+                    self->finalAfter.emplace_back(r.versionAfter);
+                    continue;
+                }
+                self->overall.push_back(r.overallProgress);
+                if (r.status == 1) {
+                    self->running.emplace_back(r.target, r.progress);
+                    cancel = cancel || (r.target == self->cancelOn && r.progress >= self->cancelAt);
+                }
+            }
+            self->errorCode = error != nullptr ? error->code : self->errorCode;
+        }
+        release_VehicleUpdateResult_array(results, count);
+        release_KelError(error);
+        if (cancel) {
+            ErrorSlot ignored;
+            kel_cancelAsyncCalls(self->api, &callId, 1, &ignored);
+        }
+        const std::lock_guard lock(self->mutex);
+        self->done = self->done || isFinal;
+        self->changed.notify_all();
+    }
+    bool wait() {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, 20s, [&] { return done; });
+    }
+};
+
+TEST_F(VehicleUpdateTest, ConcurrencyAsynchronousUpdateReportsEachUnitAndTheWholeThenTheList) {
+    kelsim_setAsyncInterval("updateVehicleAsync", 0);
+    publishEcu("ECM", "5432");
+    publishEcu("BCM", "0460");
+    UpdateWatch watch;
+    watch.api = api;
+    ErrorSlot error;
+    const uint64_t id = kel_updateVehicleAsync(
+        api, config({}, {{L"ECM_SW", L"5432", L"ECM"}, {L"BCM_SW", L"0460", L"BCM"}}), &error,
+        UpdateWatch::callback, &watch);
+    ASSERT_FALSE(error);
+    ASSERT_NE(id, 0U);
+    ASSERT_TRUE(watch.wait());
+    const std::lock_guard lock(watch.mutex);
+    EXPECT_EQ(watch.errorCode, 0);
+    EXPECT_EQ(watch.final,
+              (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:4", L"ECM:0", L"TCM:4"}));
+    std::vector<std::pair<std::wstring, uint32_t>> expected;
+    for (const wchar_t* unit : {L"BCM", L"ECM"}) {
+        for (uint32_t p = 0; p <= 100; p += 10) {
+            expected.emplace_back(unit, p);
+        }
+    }
+    EXPECT_EQ(watch.running, expected) << "per unit: 0 after the erase, then each tenth";
+    EXPECT_TRUE(std::is_sorted(watch.overall.begin(), watch.overall.end()));
+    EXPECT_EQ(watch.overall.back(), 100U);
+}
+
+TEST_F(VehicleUpdateTest, ConcurrencyACancelFinishesTheUnitBeingWrittenAndLeavesTheRest) {
+    kelsim_setAsyncInterval("updateVehicleAsync", 0);
+    publishEcu("ECM", "5432");
+    publishEcu("BCM", "0460");
+    UpdateWatch watch;
+    watch.api = api;
+    watch.cancelOn = L"BCM";
+    watch.cancelAt = 30;
+    ErrorSlot error;
+    kel_updateVehicleAsync(api,
+                           config({}, {{L"ECM_SW", L"5432", L"ECM"}, {L"BCM_SW", L"0460", L"BCM"}}),
+                           &error, UpdateWatch::callback, &watch);
+    ASSERT_FALSE(error);
+    ASSERT_TRUE(watch.wait());
+    {
+        const std::lock_guard lock(watch.mutex);
+        EXPECT_EQ(watch.errorCode, 1012);
+        EXPECT_EQ(watch.final,
+                  (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:3", L"ECM:3", L"TCM:3"}));
+        EXPECT_EQ(watch.finalErrors, (std::vector<int32_t>{0, 0, 1012, 1012, 1012}));
+        EXPECT_EQ(watch.finalAfter[1], L"0460");
+        EXPECT_EQ(watch.running.back(), (std::pair<std::wstring, uint32_t>{L"BCM", 30}));
+    }
+    EXPECT_EQ(version(L"BCM"), L"0460") << "finished, not left erased";
+    EXPECT_EQ(version(L"ECM"), L"5428") << "never started";
+    EXPECT_FALSE(lastUpdateSucceeded()) << "cancelled: not all was done";
+}
+
+// ---- reports to the broker ---------------------------------------------------------------
+
+TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
+    put(root / "reports" / "r1.html", "<html>report</html>");
+    put(root / "reports" / "r1.json", R"({"vin": "WVWZZZ1KZ8W000417", "units": []})");
+    put(root / "reports" / "lonely.html", "<html>no twin</html>");
+    const auto upload = [&](const wchar_t* file, const wchar_t* folder, const wchar_t* name,
+                            bool overwrite, bool twin) {
+        auto* c = record<UploadReportConfiguration>();
+        c->reportFile = dup(file);
+        c->folder = dup(folder);
+        c->name = dup(name);
+        c->vin = dup(L"");
+        c->user = dup(L"meister");
+        c->comment = dup(L"after the update");
+        c->overwrite = overwrite ? 1 : 0;
+        c->withTwin = twin ? 1 : 0;
+        ErrorSlot error;
+        kel_uploadReport(api, c, &error);
+        return error ? error->code : 0;
+    };
+    ASSERT_EQ(upload(L"reports/r1.html", L"", L"", false, true), 0);
+    EXPECT_EQ(read(root / "broker" / "reports" / "r1.html"), "<html>report</html>");
+    EXPECT_EQ(read(root / "broker" / "reports" / "r1.json"), read(root / "reports" / "r1.json"));
+    const std::string log = read(root / "broker" / "uploads.jsonl");
+    EXPECT_NE(log.find(R"("vin":"WVWZZZ1KZ8W000417")"), std::string::npos) << log;
+    EXPECT_NE(log.find(R"("user":"meister")"), std::string::npos);
+    EXPECT_NE(log.find(R"("file":"reports/r1.html")"), std::string::npos);
+    const std::string html = "<html>report</html>";
+    EXPECT_NE(log.find(crcText(crc32(Bytes(html.begin(), html.end())))), std::string::npos);
+
+    // The same name again: refused unless it may overwrite, and nothing changed.
+    put(root / "reports" / "r1.html", "<html>second</html>");
+    EXPECT_EQ(upload(L"reports/r1.html", L"", L"", false, false), 2212);
+    EXPECT_EQ(read(root / "broker" / "reports" / "r1.html"), "<html>report</html>");
+    EXPECT_EQ(upload(L"reports/r1.html", L"", L"", true, false), 0);
+    EXPECT_EQ(read(root / "broker" / "reports" / "r1.html"), "<html>second</html>");
+    const std::string twoLines = read(root / "broker" / "uploads.jsonl");
+    EXPECT_EQ(std::count(twoLines.begin(), twoLines.end(), '\n'), 2);
+
+    // Another folder and name; then what may not be: a missing twin, a way out.
+    EXPECT_EQ(upload(L"reports/r1.html", L"workshop/2026", L"car.html", false, true), 0);
+    EXPECT_TRUE(fs::exists(root / "broker" / "workshop" / "2026" / "car.json"));
+    EXPECT_EQ(upload(L"reports/lonely.html", L"", L"", false, true), 2213);
+    EXPECT_FALSE(fs::exists(root / "broker" / "reports" / "lonely.html"));
+    EXPECT_EQ(upload(L"reports/r1.html", L"../exchange", L"", false, false), 1606);
+    EXPECT_EQ(upload(L"reports/r1.html", L"", L"../x.html", false, false), 1600);
+    EXPECT_EQ(upload(L"../outside/secret.txt", L"", L"", false, false), 1606);
+    EXPECT_EQ(upload(L"reports/none.html", L"", L"", false, false), 1609);
+}
+
+} // namespace
