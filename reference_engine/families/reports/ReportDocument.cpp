@@ -29,10 +29,10 @@ std::string cell(const ReportJson& j, const char* key) {
     return escapeHtml(found->is_string() ? found->get<std::string>() : found->dump());
 }
 
+// Addresses and status bytes: 32 bits at most.
 std::string hex(uint64_t value, int digits = 1) {
-    char buffer[24];
-    std::snprintf(buffer, sizeof buffer, "0x%0*llX", digits,
-                  static_cast<unsigned long long>(value));
+    char buffer[16];
+    std::snprintf(buffer, sizeof buffer, "0x%0*X", digits, static_cast<unsigned>(value));
     return buffer;
 }
 
