@@ -2,6 +2,7 @@
 // report now (after a clear, a flash, with a silent unit), the selection and its VIN
 // check, and the report files: the JSON twin parsed and compared with what the
 // diagnostic exports read, the HTML page checked for escaped texts.
+#include "Describe.h"
 #include "support.h"
 
 #include <nlohmann/json.hpp>
@@ -24,29 +25,7 @@ using Data = List<VehicleData, release_VehicleData_array>;
 using Bytes = std::vector<uint8_t>;
 
 std::string utf8(const wchar_t* text) {
-    std::string out;
-    for (const wchar_t* p = text; p != nullptr && *p != 0; ++p) {
-        auto c = static_cast<uint32_t>(*p);
-        if (c >= 0xD800 && c < 0xDC00 && p[1] != 0) { // UTF-16 pair (Windows)
-            c = 0x10000 + ((c - 0xD800) << 10) + (static_cast<uint32_t>(*++p) - 0xDC00);
-        }
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0 | c >> 6);
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            out += static_cast<char>(0xE0 | c >> 12);
-            out += static_cast<char>(0x80 | (c >> 6 & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | c >> 18);
-            out += static_cast<char>(0x80 | (c >> 12 & 0x3F));
-            out += static_cast<char>(0x80 | (c >> 6 & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        }
-    }
-    return out;
+    return Varno::Kel_cpp::Reference::toUtf8(text != nullptr ? text : L"");
 }
 
 wchar_t* dup(const std::wstring& text) { return duplicate_WString(text.c_str()); }

@@ -13,7 +13,7 @@ const char* const style = "body{font-family:sans-serif;margin:2em;max-width:60em
                           "th,td{border:1px solid #999;padding:0.2em 0.6em;text-align:left;"
                           "vertical-align:top}"
                           "th{background:#eee}.comment{white-space:pre-wrap}"
-                          ".silent,.failed{color:#a00}";
+                          ".silent,.failed{color:#a00}h3{font-size:1em;margin-bottom:0}";
 
 std::string text(const ReportJson& j, const char* key) {
     const auto found = j.find(key);
@@ -29,10 +29,10 @@ std::string cell(const ReportJson& j, const char* key) {
     return escapeHtml(found->is_string() ? found->get<std::string>() : found->dump());
 }
 
+// Addresses and status bytes: 32 bits at most.
 std::string hex(uint64_t value, int digits = 1) {
-    char buffer[24];
-    std::snprintf(buffer, sizeof buffer, "0x%0*llX", digits,
-                  static_cast<unsigned long long>(value));
+    char buffer[16];
+    std::snprintf(buffer, sizeof buffer, "0x%0*X", digits, static_cast<unsigned>(value));
     return buffer;
 }
 
@@ -88,8 +88,8 @@ void unitSection(std::string& out, const ReportJson& unit) {
     }
     out += "</p>\n";
     if (unit.contains("identification")) {
-        out += "<table class=\"identification\">\n<tr><th>Identifier</th><th>Name</th>"
-               "<th>Value</th></tr>\n";
+        out += "<h3>Identification</h3>\n<table class=\"identification\">\n"
+               "<tr><th>Identifier</th><th>Name</th><th>Value</th></tr>\n";
         for (const auto& v : unit.at("identification")) {
             out += "<tr><td>" + cell(v, "identifier") + "</td><td>" + cell(v, "name") + "</td><td>";
             out += v.contains("error")
@@ -100,8 +100,11 @@ void unitSection(std::string& out, const ReportJson& unit) {
         }
         out += "</table>\n";
     }
+    if (unit.contains("dtcs") || unit.contains("dtcError")) {
+        out += "<h3>DTCs</h3>\n";
+    }
     if (unit.contains("dtcError")) {
-        out += "<p class=\"failed\">DTCs: " + errorText(unit.at("dtcError")) + "</p>\n";
+        out += "<p class=\"failed\">" + errorText(unit.at("dtcError")) + "</p>\n";
     }
     if (unit.contains("dtcs")) {
         if (unit.at("dtcs").empty()) {
@@ -119,7 +122,8 @@ void unitSection(std::string& out, const ReportJson& unit) {
 }
 
 void resultTable(std::string& out, const ReportJson& results) {
-    out += "<table class=\"results\">\n<tr><th>Position</th><th>Unit</th><th>Status</th>"
+    out += "<h2>Results</h2>\n<table class=\"results\">\n"
+           "<tr><th>Position</th><th>Unit</th><th>Status</th>"
            "<th>Package</th><th>Version before</th><th>Version after</th><th>Duration</th>"
            "<th>Error</th></tr>\n";
     for (const auto& r : results) {
