@@ -290,8 +290,10 @@ protected:
         EXPECT_FALSE(error);
         return handle;
     }
-    // The units that requests went to, in the order they first appear, and how many.
-    std::vector<std::wstring> unitsTalkedTo(uint64_t monitor, std::map<std::wstring, int>* counts) {
+    // The units that requests went to, in the order they first appear, and how many; and
+    // the largest TransferData request.
+    std::vector<std::wstring> unitsTalkedTo(uint64_t monitor, std::map<std::wstring, int>* counts,
+                                            uint32_t* largestTransfer = nullptr) {
         ErrorSlot error;
         List<PduMonitoringItem, release_PduMonitoringItem_array> items;
         kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
@@ -301,6 +303,10 @@ protected:
             const std::wstring unit = items.items[i]->text1;
             if (items.items[i]->value1 == 1) {
                 ++(*counts)[unit];
+                if (largestTransfer != nullptr && items.items[i]->dataLength > 0 &&
+                    items.items[i]->data[0] == 0x36) {
+                    *largestTransfer = std::max(*largestTransfer, items.items[i]->dataLength);
+                }
             }
             if (order.empty() || order.back() != unit) {
                 order.push_back(unit);
@@ -561,6 +567,7 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     }
     EXPECT_EQ(chosen, (std::set<std::wstring>{L"BCM_SW-0460", L"ECM_SW-5440"}));
 
+    made->blockLength = 500;
     const uint64_t monitor = pduMonitor();
     const int64_t start = kelsim_clockMs();
     auto out = update(made, &error);
@@ -585,8 +592,10 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
 
     // Only the two units heard anything, the BCM before the ECM.
     std::map<std::wstring, int> counts;
-    const auto order = unitsTalkedTo(monitor, &counts);
+    uint32_t largest = 0;
+    const auto order = unitsTalkedTo(monitor, &counts, &largest);
     EXPECT_EQ(order, (std::vector<std::wstring>{L"BCM", L"ECM"}));
+    EXPECT_EQ(largest, 502U) << "blocks of 500 bytes after 36 and the counter";
     EXPECT_EQ(counts.count(L"TCM") + counts.count(L"GW") + counts.count(L"DASH"), 0U);
 
     EXPECT_EQ(version(L"ECM"), L"5440");
