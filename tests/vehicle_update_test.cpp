@@ -420,6 +420,20 @@ TEST_F(VehicleUpdateTest, TheBrokerUrlCannotReachOutsideThePublicDirectories) {
     if (!noLinks) {
         EXPECT_EQ(setBroker(L"file:exchange/out"), 1608);
         EXPECT_EQ(setBroker(L"file:exchange/out/deeper"), 1608);
+        // Inside the public directory but outside the broker folder: a package folder
+        // and a manifest that are links there are not offered.
+        const fs::path elsewhere = root / "exchange" / "elsewhere";
+        publish("P", "1", "ecu", "ECM", ecuImage("1", 10), 0, elsewhere);
+        publish("Q", "1", "ecu", "ECM", ecuImage("1", 10), 0, elsewhere);
+        const fs::path linked = root / "exchange" / "linked" / "packages";
+        fs::create_directories(linked / "Q-1");
+        fs::create_directory_symlink(elsewhere / "P-1", linked / "P-1");
+        fs::create_symlink(elsewhere / "Q-1" / "manifest.json", linked / "Q-1" / "manifest.json");
+        fs::copy_file(elsewhere / "Q-1" / "Q_1.bin", linked / "Q-1" / "Q_1.bin");
+        EXPECT_EQ(setBroker(L"file:exchange/linked"), 0);
+        EXPECT_TRUE(listed(kel_getPackagesFromBroker).empty());
+        EXPECT_EQ(setBroker(L"file:exchange/elsewhere/.."), 1606);
+        EXPECT_EQ(setBroker(L""), 0);
     }
     EXPECT_EQ(listed(kel_getPackagesFromBroker), std::vector<std::wstring>{L"ECM_SW-5432:0"})
         << "a refused URL keeps the broker there was";
