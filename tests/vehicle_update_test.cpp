@@ -8,10 +8,12 @@
 #include <atomic>
 #include <chrono>
 #include <condition_variable>
+#include <cstdio>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <map>
+#include <memory>
 #include <mutex>
 #include <set>
 #include <sstream>
@@ -288,8 +290,10 @@ protected:
         EXPECT_FALSE(error);
         return handle;
     }
-    // The units that requests went to, in the order they first appear, and how many.
-    std::vector<std::wstring> unitsTalkedTo(uint64_t monitor, std::map<std::wstring, int>* counts) {
+    // The units that requests went to, in the order they first appear, and how many; and
+    // the largest TransferData request.
+    std::vector<std::wstring> unitsTalkedTo(uint64_t monitor, std::map<std::wstring, int>* counts,
+                                            uint32_t* largestTransfer = nullptr) {
         ErrorSlot error;
         List<PduMonitoringItem, release_PduMonitoringItem_array> items;
         kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
@@ -299,6 +303,10 @@ protected:
             const std::wstring unit = items.items[i]->text1;
             if (items.items[i]->value1 == 1) {
                 ++(*counts)[unit];
+                if (largestTransfer != nullptr && items.items[i]->dataLength > 0 &&
+                    items.items[i]->data[0] == 0x36) {
+                    *largestTransfer = std::max(*largestTransfer, items.items[i]->dataLength);
+                }
             }
             if (order.empty() || order.back() != unit) {
                 order.push_back(unit);
@@ -412,6 +420,20 @@ TEST_F(VehicleUpdateTest, TheBrokerUrlCannotReachOutsideThePublicDirectories) {
     if (!noLinks) {
         EXPECT_EQ(setBroker(L"file:exchange/out"), 1608);
         EXPECT_EQ(setBroker(L"file:exchange/out/deeper"), 1608);
+        // Inside the public directory but outside the broker folder: a package folder
+        // and a manifest that are links there are not offered.
+        const fs::path elsewhere = root / "exchange" / "elsewhere";
+        publish("P", "1", "ecu", "ECM", ecuImage("1", 10), 0, elsewhere);
+        publish("Q", "1", "ecu", "ECM", ecuImage("1", 10), 0, elsewhere);
+        const fs::path linked = root / "exchange" / "linked" / "packages";
+        fs::create_directories(linked / "Q-1");
+        fs::create_directory_symlink(elsewhere / "P-1", linked / "P-1");
+        fs::create_symlink(elsewhere / "Q-1" / "manifest.json", linked / "Q-1" / "manifest.json");
+        fs::copy_file(elsewhere / "Q-1" / "Q_1.bin", linked / "Q-1" / "Q_1.bin");
+        EXPECT_EQ(setBroker(L"file:exchange/linked"), 0);
+        EXPECT_TRUE(listed(kel_getPackagesFromBroker).empty());
+        EXPECT_EQ(setBroker(L"file:exchange/elsewhere/.."), 1606);
+        EXPECT_EQ(setBroker(L""), 0);
     }
     EXPECT_EQ(listed(kel_getPackagesFromBroker), std::vector<std::wstring>{L"ECM_SW-5432:0"})
         << "a refused URL keeps the broker there was";
@@ -559,6 +581,7 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     }
     EXPECT_EQ(chosen, (std::set<std::wstring>{L"BCM_SW-0460", L"ECM_SW-5440"}));
 
+    made->blockLength = 500;
     const uint64_t monitor = pduMonitor();
     const int64_t start = kelsim_clockMs();
     auto out = update(made, &error);
@@ -583,8 +606,10 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
 
     // Only the two units heard anything, the BCM before the ECM.
     std::map<std::wstring, int> counts;
-    const auto order = unitsTalkedTo(monitor, &counts);
+    uint32_t largest = 0;
+    const auto order = unitsTalkedTo(monitor, &counts, &largest);
     EXPECT_EQ(order, (std::vector<std::wstring>{L"BCM", L"ECM"}));
+    EXPECT_EQ(largest, 502U) << "blocks of 500 bytes after 36 and the counter";
     EXPECT_EQ(counts.count(L"TCM") + counts.count(L"GW") + counts.count(L"DASH"), 0U);
 
     EXPECT_EQ(version(L"ECM"), L"5440");

@@ -343,8 +343,14 @@ std::vector<Package> listPackages(const Sandbox& box, const Resolved& packages,
                 throw TarnApiException(OutsideSandbox, L"The package folder leads outside",
                                        d.enginePath);
             }
+            // The manifest's and the payload's real places, links followed, stay in the
+            // folder too.
+            const Resolved manifest = box.child(d, L"manifest.json");
+            if (present(manifest.real) && !within(manifest.real, d.real)) {
+                throw TarnApiException(OutsideSandbox, L"The manifest leads outside its folder",
+                                       manifest.enginePath);
+            }
             auto p = readManifest(d.real, d.enginePath);
-            // The payload's real place, links followed, must stay in the folder too.
             const Resolved payload = box.child(d, p.payload);
             if (present(payload.real) && !within(payload.real, d.real)) {
                 throw TarnApiException(OutsideSandbox, L"The payload leads outside its folder",

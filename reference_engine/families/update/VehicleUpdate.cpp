@@ -245,7 +245,7 @@ public:
             }
             out.emplace_back([self, i] { return self->finish(self->visit_[i]); });
         }
-        out.emplace_back([self] { return self->end(false); });
+        out.emplace_back([self] { return self->end(); });
         return out;
     }
 
@@ -274,7 +274,7 @@ public:
                                               L"cancelled before " + u.result->target);
             }
         }
-        return end(true);
+        return end();
     }
 
 private:
@@ -464,8 +464,10 @@ private:
         return over(u, 0);
     }
 
-    Results end(bool cancelled) {
-        bool succeeded = !cancelled;
+    // Succeeded fully when every unit is done or needed nothing; a cancel that came after
+    // the last unit changed nothing.
+    Results end() {
+        bool succeeded = true;
         Results all;
         for (auto& u : visit_) {
             succeeded = succeeded && u.result->status != 2 && u.result->status != 3;
