@@ -42,8 +42,6 @@ static void guardLeave(Guard* g) { pthread_mutex_unlock(g); }
 static void guardDone(Guard* g) { pthread_mutex_destroy(g); }
 #endif
 
-/* The error the engine gives for an operation it does not offer yet. */
-#define NOT_SIMULATED_YET 1000
 #define PAYLOAD_SIZE 16384u
 
 static int failures = 0;
@@ -179,11 +177,6 @@ static void reportAndUpload(TarnApi* api, VehicleUpdateResult** results, uint32_
     KelError* error = NULL;
     wchar_t* reportFile = NULL;
     kel_createVehicleUpdateReport(api, results, count, &error, &reportFile);
-    if (error != NULL && error->code == NOT_SIMULATED_YET) {
-        printf("\nNo update report: %ls (error %d)\n", error->message, error->code);
-        release_KelError(error);
-        return;
-    }
     if (reportError("createVehicleUpdateReport", error)) {
         return;
     }

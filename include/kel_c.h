@@ -3441,7 +3441,8 @@ KEL_C_API void kel_getCurrentVersions(TarnApi* api, KelError** error, KEL_OUT Na
 KEL_C_API void kel_checkUpdateSuccess(TarnApi* api, KelError** error, KEL_OUT bool* succeeded);
 /* Removes the temporary files of updates. Position 165. */
 KEL_C_API void kel_cleanUpdateTmp(TarnApi* api, KelError** error);
-/* Updates the vehicle as config says. Position 177.
+/* Updates the vehicle as config says, in the vehicle's ECU order: its order file
+ * (kel_getEcuOrderFilePath) when there is one, else the default order. Position 177.
  * config: consumed: the library frees it with release_VehicleUpdateConfig, also when the call
  * fails; NULL passes no record.
  * On success *results and *resultCount receive a VehicleUpdateResult list, NULL and 0 when

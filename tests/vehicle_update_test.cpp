@@ -704,6 +704,37 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
     }
 }
 
+TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne) {
+    const auto updateAll = [&] {
+        ErrorSlot error;
+        VehicleUpdateConfig* made = nullptr;
+        kel_createVehicleUpdateConfig(api, nullptr, 0, &error, &made);
+        EXPECT_FALSE(error);
+        auto out = update(made, &error);
+        EXPECT_FALSE(error);
+        return statuses(*out);
+    };
+    // Nothing on the broker: every unit is up to date, visited in the default order.
+    EXPECT_EQ(updateAll(),
+              (std::vector<std::wstring>{L"GW:4", L"BCM:4", L"DASH:4", L"ECM:4", L"TCM:4"}));
+
+    std::vector<EcuOrderEntry*> entries;
+    for (const wchar_t* target : {L"TCM", L"ECM", L"GW", L"DASH", L"BCM"}) {
+        auto* e = record<EcuOrderEntry>();
+        e->target = dup(target);
+        e->bus = dup(L"any");
+        entries.push_back(e);
+    }
+    ErrorSlot error;
+    kel_writeEcuOrder(api, L"", entries.data(), static_cast<uint32_t>(entries.size()), &error);
+    ASSERT_FALSE(error) << error->code;
+    for (auto* e : entries) {
+        release_EcuOrderEntry(e);
+    }
+    EXPECT_EQ(updateAll(),
+              (std::vector<std::wstring>{L"TCM:4", L"ECM:4", L"GW:4", L"DASH:4", L"BCM:4"}));
+}
+
 TEST_F(VehicleUpdateTest, CallsThatCannotStartAreRefusedWhole) {
     ErrorSlot noConfig;
     Results out;

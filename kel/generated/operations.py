@@ -2246,7 +2246,8 @@ class Operations:
         return _results
 
     def update_vehicle(self, config: Optional[records.VehicleUpdateConfig] = None) -> list[Optional[records.VehicleUpdateResult]]:
-        """Updates the vehicle as config says.
+        """Updates the vehicle as config says, in the vehicle's ECU order: its order
+        file (kel_getEcuOrderFilePath) when there is one, else the default order.
 
         C: kel_updateVehicle; number 211; engine position 177.
 
@@ -2264,7 +2265,8 @@ class Operations:
         return _results
 
     def update_vehicle_async(self, config: Optional[records.VehicleUpdateConfig] = None) -> AsyncCall:
-        """Updates the vehicle as config says.
+        """Updates the vehicle as config says, in the vehicle's ECU order: its order
+        file (kel_getEcuOrderFilePath) when there is one, else the default order.
 
         Runs asynchronously: the handle iterates over the reports, gives the results
         with result() or await, and cancel() cancels it.

@@ -731,10 +731,9 @@ VehicleUpdate::createVehicleUpdateConfig(const std::vector<std::wstring>& target
     return config;
 }
 
-std::vector<std::shared_ptr<EcuOrderEntry>> VehicleUpdate::defaultOrder() const {
-    // A copy, so that the order's own lock is not taken under the units' lock.
-    const auto ecus = vehicle_->units->read([](const std::vector<Ecu>& e) { return e; });
-    return vehicle_->ecuOrder.defaultOrder(ecus);
+// The workshop's order file when the vehicle has one, else the default order.
+std::vector<std::shared_ptr<EcuOrderEntry>> VehicleUpdate::vehicleOrder() const {
+    return vehicleEcuOrder(*vehicle_);
 }
 
 std::shared_ptr<VehicleUpdate::Run>
@@ -794,12 +793,12 @@ VehicleUpdate::performVehicleUpdateAsync(const std::vector<std::shared_ptr<EcuOr
 
 std::vector<std::shared_ptr<VehicleUpdateResult>>
 VehicleUpdate::updateVehicle(std::shared_ptr<VehicleUpdateConfig> config) {
-    return prepare(defaultOrder(), config, L"updateVehicle")->runAll();
+    return prepare(vehicleOrder(), config, L"updateVehicle")->runAll();
 }
 
 uint64_t VehicleUpdate::updateVehicleAsync(std::shared_ptr<VehicleUpdateConfig> config,
                                            UpdateVehicleCallback* callback) {
-    auto run = prepare(defaultOrder(), config, L"updateVehicle");
+    auto run = prepare(vehicleOrder(), config, L"updateVehicle");
     return vehicle_->async.startSteps(
         "updateVehicleAsync", callback, [run] { return run->steps(); },
         [run] { return run->windUp(); });

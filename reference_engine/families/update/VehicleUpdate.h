@@ -87,7 +87,7 @@ private:
     std::shared_ptr<Run> prepare(const std::vector<std::shared_ptr<EcuOrderEntry>>& entries,
                                  const std::shared_ptr<VehicleUpdateConfig>& config,
                                  const wchar_t* operation) const;
-    std::vector<std::shared_ptr<EcuOrderEntry>> defaultOrder() const;
+    std::vector<std::shared_ptr<EcuOrderEntry>> vehicleOrder() const;
 
     std::shared_ptr<SimulatedVehicle> vehicle_;
 };
