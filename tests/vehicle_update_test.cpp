@@ -868,7 +868,8 @@ TEST_F(VehicleUpdateTest, ConcurrencyACancelFinishesTheUnitBeingWrittenAndLeaves
 
 TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
     put(root / "reports" / "r1.html", "<html>report</html>");
-    put(root / "reports" / "r1.json", R"({"vin": "WVWZZZ1KZ8W000417", "units": []})");
+    put(root / "reports" / "r1.json",
+        R"({"format": "kel report 1", "vehicle": {"vin": "WVWZZZ1KZ8W000417"}, "units": []})");
     put(root / "reports" / "lonely.html", "<html>no twin</html>");
     const auto upload = [&](const wchar_t* file, const wchar_t* folder, const wchar_t* name,
                             bool overwrite, bool twin) {

@@ -856,7 +856,8 @@ void VehicleUpdate::uploadReport(std::shared_ptr<UploadReportConfiguration> conf
             try {
                 const auto bytes = readRange(twin->real, 0, 1024 * 1024, false);
                 const auto j = nlohmann::json::parse(bytes.begin(), bytes.end());
-                vin = fromUtf8(j.value("vin", std::string()));
+                // The reports' JSON form: {"format": "kel report 1", "vehicle": {"vin": ...}}.
+                vin = fromUtf8(j.at("vehicle").value("vin", std::string()));
             } catch (const std::exception&) {
                 // A twin that names no VIN leaves the log's empty.
             }
