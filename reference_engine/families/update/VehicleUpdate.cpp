@@ -604,8 +604,9 @@ bool VehicleUpdate::autoUpdate() {
         bool changed = false;
         bool attempted = false;
         bool failed = false;
-        for (const auto& [component, packages] : byComponent) {
+        for (const auto& [name, packages] : byComponent) {
             const Package* best = newest(packages);
+            const std::wstring& component = name; // a lambda cannot capture a binding
             const auto installed = std::find_if(components.begin(), components.end(),
                                                 [&](const auto& k) { return k.name == component; });
             if (installed != components.end() &&
