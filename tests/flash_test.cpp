@@ -4,6 +4,7 @@
 // incomplete update that a new flash repairs. Also the quick test, which reads every
 // unit's variant and DTCs in one pass.
 #include "support.h"
+#include "uds.h"
 
 #include <algorithm>
 #include <chrono>
@@ -25,55 +26,14 @@ using Results = List<FlashSessionResult, release_FlashSessionResult_array>;
 using Infos = List<FlashSessionInfo, release_FlashSessionInfo_array>;
 using QuickTests = List<QuickTestResult, release_QuickTestResult_array>;
 
-constexpr uint32_t programmingMask = 0xC3A5179E; // the ECM's level 2 in the default vehicle
-
-// The documented key algorithm, written out again: key = rotate_left_32(seed ^ mask, 3).
-Bytes keyFor(const Bytes& seed, uint32_t mask) {
-    uint32_t s = 0;
-    for (int i = 0; i < 4; ++i) {
-        s = s << 8 | seed[static_cast<std::size_t>(i)];
-    }
-    const uint32_t x = s ^ mask;
-    const uint32_t k = x << 3 | x >> 29;
-    return {static_cast<uint8_t>(k >> 24), static_cast<uint8_t>(k >> 16),
-            static_cast<uint8_t>(k >> 8), static_cast<uint8_t>(k)};
-}
-
 class FlashTest : public EngineTest {
 protected:
-    // Sends raw request bytes to a unit; its response bytes, empty when it stayed silent.
     Bytes send(const wchar_t* target, const Bytes& request) {
-        auto* input = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
-        std::memset(input, 0, sizeof *input);
-        input->service = duplicate_WString(L"");
-        input->data = static_cast<uint8_t*>(allocate_Memory(request.size()));
-        std::memcpy(input->data, request.data(), request.size());
-        input->dataLength = static_cast<uint32_t>(request.size());
-        ErrorSlot error;
-        List<ServiceResult, release_ServiceResult_array> out;
-        kel_executeService(api, target, &input, 1, &error, &out.items, &out.count);
-        release_ServiceInput(input);
-        EXPECT_FALSE(error);
-        if (out.count == 0 || out.items[0]->responseCount == 0) {
-            return {};
-        }
-        const ResponseResult& r = *out.items[0]->responses[0];
-        return r.data == nullptr ? Bytes{} : Bytes(r.data, r.data + r.dataLength);
+        return kel_test::sendRaw(api, target, request);
     }
 
     // The ECM in its programming session with level 2 unlocked, as a flash needs it.
-    void enterProgramming() {
-        ASSERT_EQ(send(L"ECM", {0x10, 0x02}).at(0), 0x50);
-        const auto seed = send(L"ECM", {0x27, 0x03});
-        ASSERT_EQ(seed.size(), 6U);
-        if (std::all_of(seed.begin() + 2, seed.end(), [](uint8_t b) { return b == 0; })) {
-            return; // still unlocked
-        }
-        Bytes key = {0x27, 0x04};
-        const auto computed = keyFor(Bytes(seed.begin() + 2, seed.end()), programmingMask);
-        key.insert(key.end(), computed.begin(), computed.end());
-        ASSERT_EQ(send(L"ECM", key), (Bytes{0x67, 0x04}));
-    }
+    void enterProgramming() { kel_test::enterEcmProgramming(api); }
 
     std::unique_ptr<Results> flash(std::vector<const wchar_t*> sessions,
                                    const wchar_t* target = L"ECM") {
@@ -370,7 +330,7 @@ TEST_F(FlashTest, AnImageTheUnitRejectsLeavesItIncompleteAndASilentUnitIsReporte
         ASSERT_EQ(send(L"PCM", {0x10, 0x02}).at(0), 0x50);
         const auto seed = send(L"PCM", {0x27, 0x01});
         Bytes key = {0x27, 0x02};
-        const auto k = keyFor(Bytes(seed.begin() + 2, seed.end()), 0);
+        const auto k = kel_test::keyFor(seed.data() + 2, 0);
         key.insert(key.end(), k.begin(), k.end());
         ASSERT_EQ(send(L"PCM", key), (Bytes{0x67, 0x02}));
     };

@@ -3,6 +3,7 @@
 // Parameter trees, negative responses, session and security rules, the lockout, one
 // state for services and identification, vehicle unlock, descriptions and cancelling.
 #include "support.h"
+#include "uds.h"
 
 #include <Kel_cpp/Records.h>
 
@@ -33,17 +34,7 @@ using Bytes = std::vector<uint8_t>;
 constexpr uint32_t ecmAddress = 2016;
 constexpr uint32_t ecmKeyMask = 0x5A3C96E1;
 
-// The documented key algorithm, written out again: key = rotate_left_32(seed ^ mask, 3).
-Bytes keyFor(const uint8_t* seed, uint32_t mask) {
-    uint32_t s = 0;
-    for (int i = 0; i < 4; ++i) {
-        s = s << 8 | seed[i];
-    }
-    const uint32_t x = s ^ mask;
-    const uint32_t k = x << 3 | x >> 29;
-    return {static_cast<uint8_t>(k >> 24), static_cast<uint8_t>(k >> 16),
-            static_cast<uint8_t>(k >> 8), static_cast<uint8_t>(k)};
-}
+using kel_test::keyFor;
 
 ParameterInput* param(const wchar_t* name, const wchar_t* value,
                       std::vector<ParameterInput*> children = {}) {

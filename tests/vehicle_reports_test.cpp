@@ -4,6 +4,7 @@
 // diagnostic exports read, the HTML page checked for escaped texts.
 #include "Describe.h"
 #include "support.h"
+#include "uds.h"
 
 #include <nlohmann/json.hpp>
 
@@ -65,20 +66,6 @@ VehicleInformation* cInformation(const Information& i) {
     return c;
 }
 
-constexpr uint32_t programmingMask = 0xC3A5179E; // the ECM's level 2 in the default vehicle
-
-// The documented key algorithm, written out again: key = rotate_left_32(seed ^ mask, 3).
-Bytes keyFor(const Bytes& seed, uint32_t mask) {
-    uint32_t s = 0;
-    for (int i = 0; i < 4; ++i) {
-        s = s << 8 | seed[static_cast<std::size_t>(i)];
-    }
-    const uint32_t x = s ^ mask;
-    const uint32_t k = x << 3 | x >> 29;
-    return {static_cast<uint8_t>(k >> 24), static_cast<uint8_t>(k >> 16),
-            static_cast<uint8_t>(k >> 8), static_cast<uint8_t>(k)};
-}
-
 class VehicleReportsTest : public EngineTest {
 protected:
     void SetUp() override {
@@ -133,33 +120,10 @@ protected:
     }
 
     Bytes send(const wchar_t* target, const Bytes& request) {
-        auto* input = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
-        std::memset(input, 0, sizeof *input);
-        input->service = duplicate_WString(L"");
-        input->data = static_cast<uint8_t*>(allocate_Memory(request.size()));
-        std::memcpy(input->data, request.data(), request.size());
-        input->dataLength = static_cast<uint32_t>(request.size());
-        ErrorSlot error;
-        List<ServiceResult, release_ServiceResult_array> out;
-        kel_executeService(api, target, &input, 1, &error, &out.items, &out.count);
-        release_ServiceInput(input);
-        EXPECT_FALSE(error);
-        if (out.count == 0 || out.items[0]->responseCount == 0) {
-            return {};
-        }
-        const ResponseResult& r = *out.items[0]->responses[0];
-        return r.data == nullptr ? Bytes{} : Bytes(r.data, r.data + r.dataLength);
+        return kel_test::sendRaw(api, target, request);
     }
     // The ECM in its programming session with level 2 unlocked, as a flash needs it.
-    void enterProgramming() {
-        ASSERT_EQ(send(L"ECM", {0x10, 0x02}).at(0), 0x50);
-        const auto seed = send(L"ECM", {0x27, 0x03});
-        ASSERT_EQ(seed.size(), 6U);
-        Bytes key = {0x27, 0x04};
-        const auto computed = keyFor(Bytes(seed.begin() + 2, seed.end()), programmingMask);
-        key.insert(key.end(), computed.begin(), computed.end());
-        ASSERT_EQ(send(L"ECM", key), (Bytes{0x67, 0x04}));
-    }
+    void enterProgramming() { kel_test::enterEcmProgramming(api); }
 
     // The report's path, or the error code as text.
     std::wstring report(VehicleReportConfig* config, int32_t* code = nullptr) {

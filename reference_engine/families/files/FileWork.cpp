@@ -3,12 +3,12 @@
 #include "DataRoot.h"
 #include "Describe.h"
 #include "ErrorCodes.h"
+#include "WallClock.h"
 
 #include <algorithm>
 #include <atomic>
 #include <chrono>
 #include <cstdio>
-#include <ctime>
 #include <system_error>
 
 namespace Varno::Kel_cpp::Reference {
@@ -83,16 +83,7 @@ struct PartFile {
 };
 
 std::wstring isoTime(std::chrono::system_clock::time_point t) {
-    const std::time_t seconds = std::chrono::system_clock::to_time_t(t);
-    std::tm utc{};
-#if defined(_WIN32)
-    gmtime_s(&utc, &seconds);
-#else
-    gmtime_r(&seconds, &utc);
-#endif
-    char text[32];
-    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
-    return fromUtf8(text);
+    return fromUtf8(UtcTime::at(t).iso);
 }
 
 // What files and directories share: name, attributes, engine path, modification time.

@@ -137,26 +137,6 @@ void resultTable(std::string& out, const ReportJson& results) {
 
 } // namespace
 
-UtcTime UtcTime::now() {
-    using namespace std::chrono;
-    const auto seconds = floor<std::chrono::seconds>(system_clock::now());
-    const auto day = floor<days>(seconds);
-    const year_month_day date{day};
-    const hh_mm_ss time{seconds - day};
-    char iso[32];
-    char compact[32];
-    std::snprintf(iso, sizeof iso, "%04d-%02u-%02uT%02d:%02d:%02dZ", static_cast<int>(date.year()),
-                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                  static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
-                  static_cast<int>(time.seconds().count()));
-    std::snprintf(compact, sizeof compact, "%04d%02u%02uT%02d%02d%02d",
-                  static_cast<int>(date.year()), static_cast<unsigned>(date.month()),
-                  static_cast<unsigned>(date.day()), static_cast<int>(time.hours().count()),
-                  static_cast<int>(time.minutes().count()),
-                  static_cast<int>(time.seconds().count()));
-    return {iso, compact};
-}
-
 std::string escapeHtml(const std::string& text) {
     std::string out;
     out.reserve(text.size());

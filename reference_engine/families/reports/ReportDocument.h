@@ -2,6 +2,8 @@
 // document as it is, the HTML page a rendering of it for a person, every text escaped.
 #pragma once
 
+#include "WallClock.h"
+
 #include <nlohmann/json.hpp>
 
 #include <cstdint>
@@ -10,14 +12,6 @@
 namespace Varno::Kel_cpp::Reference {
 
 using ReportJson = nlohmann::ordered_json;
-
-// The wall clock, UTC: "2026-11-22T14:45:04Z" (iso) or "20261122T144504" (compact, for
-// file names).
-struct UtcTime {
-    std::string iso;
-    std::string compact;
-    static UtcTime now();
-};
 
 // `text` (UTF-8) with & < > " ' as references and control characters other than tab,
 // line feed and carriage return as U+FFFD.

@@ -11,13 +11,13 @@
 #include "ErrorCodes.h"
 #include "SimulatedVehicle.h"
 #include "VehicleClock.h"
+#include "WallClock.h"
 #include "families/diagnostics/Answers.h"
 #include "families/files/FileWork.h"
 #include "families/flash/Flash.h"
 
 #include <algorithm>
 #include <chrono>
-#include <ctime>
 #include <functional>
 #include <map>
 #include <optional>
@@ -83,19 +83,7 @@ const Package* newest(const std::vector<const Package*>& packages) {
     return best;
 }
 
-std::wstring utcNow() {
-    const std::time_t seconds =
-        std::chrono::system_clock::to_time_t(std::chrono::system_clock::now());
-    std::tm utc{};
-#if defined(_WIN32)
-    gmtime_s(&utc, &seconds);
-#else
-    gmtime_r(&seconds, &utc);
-#endif
-    char text[32];
-    std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc);
-    return fromUtf8(text);
-}
+std::wstring utcNow() { return fromUtf8(UtcTime::now().iso); }
 
 std::wstring lastName(const std::wstring& enginePath) {
     return enginePath.substr(enginePath.rfind(L'/') + 1);
