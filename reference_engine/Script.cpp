@@ -32,8 +32,12 @@ Script::Call::Call(CallClock& clock, Script& script, const char* operation, std:
         if (clock.admit) {
             clock.admit(operation);
         }
-    } catch (...) {
+    } catch (const TarnApiException& failure) {
+        code_ = failure.code;
         finish(true); // a failed call is still the previous call
+        throw;
+    } catch (...) {
+        finish(true);
         throw;
     }
 }
@@ -44,7 +48,7 @@ void Script::Call::finish(bool failed) {
         std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count());
     clock_.finished(micros, failed);
     if (ticket_ != 0) {
-        clock_.listener->finished(ticket_, operation_, arguments_, micros, failed);
+        clock_.listener->finished(ticket_, operation_, arguments_, micros, failed, code_);
     }
 }
 

@@ -53,9 +53,10 @@ public:
     // Before a call: a ticket for finished(), or 0 when nobody listens (then the call's
     // arguments are not kept for it).
     virtual uint64_t begin() = 0;
-    // After it, also after a failure. Must not throw.
+    // After it, also after a failure, with the engine's error code when the call ended
+    // with one (empty when it failed otherwise). Must not throw.
     virtual void finished(uint64_t ticket, std::string_view operation, const std::string& arguments,
-                          uint64_t micros, bool failed) noexcept = 0;
+                          uint64_t micros, bool failed, std::optional<int32_t> code) noexcept = 0;
 };
 
 // What every call through one engine object passes: the check whether the object may
@@ -104,6 +105,9 @@ public:
         Call& operator=(const Call&) = delete;
         ~Call() { finish(std::uncaught_exceptions() > unwinding_); }
 
+        // The call is ending with the engine error `code` (the exception is on its way).
+        void failedWith(int32_t code) { code_ = code; }
+
     private:
         void finish(bool failed);
         CallClock& clock_;
@@ -112,6 +116,7 @@ public:
         uint64_t ticket_ = 0;                        // the listener's, 0 when nobody listens
         std::string arguments_;                      // kept for the listener only
         int unwinding_ = std::uncaught_exceptions(); // more at the end: the call failed
+        std::optional<int32_t> code_;                // the engine error it failed with
     };
 
     // Records the call and applies what is scripted for it (delay, failure).

@@ -435,33 +435,38 @@ TEST_F(Monitoring, ApiTraceShowsTheCallsMadeWithSecretsMasked) {
     int32_t state = 0;
     kel_getState(api, &stateError, &state);
     ASSERT_TRUE(stateError);
+    // A refusal of the vehicle itself, not a scripted one.
+    EXPECT_EQ(errorOf(kel_releasePduMonitor, uint64_t{987654}), UnknownMonitor);
 
     const std::string text = apiTrace(trace);
     EXPECT_EQ(text.find("Hunter2-Secret"), std::string::npos) << text;
     const auto lines = traceLines(text);
-    ASSERT_EQ(lines.size(), 3u) << text;
+    ASSERT_EQ(lines.size(), 4u) << text;
     EXPECT_EQ(lines[0][0], "1");
     EXPECT_EQ(lines[0][2], "getApiTraceContent");
     EXPECT_EQ(lines[0][5], "[" + std::to_string(trace) + ",0,0]");
     EXPECT_EQ(lines[1][0], "2");
     EXPECT_EQ(lines[1][2], "thirdPartyLogin");
     EXPECT_EQ(lines[1][3].substr(lines[1][3].size() - 2), "us");
-    EXPECT_EQ(lines[1][4], loginError ? "failed" : "ok");
+    EXPECT_EQ(lines[1][4], loginError ? "failed:" + std::to_string(loginError->code) : "ok");
     EXPECT_EQ(lines[1][5], R"(["***"])");
     EXPECT_EQ(lines[2][0], "3");
     EXPECT_EQ(lines[2][2], "getState");
-    EXPECT_EQ(lines[2][4], "failed");
+    EXPECT_EQ(lines[2][4], "failed:77"); // the error code the call failed with
     EXPECT_EQ(lines[2][5], "[]");
+    EXPECT_EQ(lines[3][2], "releasePduMonitor");
+    EXPECT_EQ(lines[3][4], "failed:" + std::to_string(UnknownMonitor));
+    EXPECT_EQ(lines[3][5], "[987654]");
     EXPECT_LE(std::stoll(lines[0][1]), std::stoll(lines[2][1]));
 
     // Taken out: the next read has only the read before it, numbered on.
     const std::string next = apiTrace(trace, 0, 1);
     ASSERT_EQ(traceLines(next).size(), 1u) << next;
-    EXPECT_EQ(traceLines(next)[0][0], "4");
+    EXPECT_EQ(traceLines(next)[0][0], "5");
     // value1 hands out whole lines, at least one; 1 left the line above, so it comes again.
     const std::string first = apiTrace(trace, 5, 0);
     EXPECT_EQ(first, next);
-    // Now 5 and 6 are there; a limit that fits one line gives one.
+    // Now 6 and 7 are there; a limit that fits one line gives one.
     const std::string two = apiTrace(trace, 0, 1);
     ASSERT_EQ(traceLines(two).size(), 2u) << two;
     const auto firstLength = static_cast<uint32_t>(two.find('\n') + 1);

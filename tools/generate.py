@@ -734,11 +734,14 @@ def engine_front_cpp(iface: kelidl.Interface) -> str:
         recorded = [f"Secret{{{p.name}}}" if p.secret else p.name for p in op.inputs]
         recorded += ["callback"] if op.is_async else []
         out.append(f"{ret} EngineFront::{op.name}({rest} {{")
-        out.append(f'    const auto call = script_->enter(*clock_, "{op.name}"' +
+        out.append(f'    auto call = script_->enter(*clock_, "{op.name}"' +
                    "".join(f", {n}" for n in recorded) + ");")
-        out += scripted_return(op)
-        out.append(f"    return vehicle_->{op.name}({', '.join(names)});")
-        out.append("}")
+        # The call's error code reaches the API trace; the exception goes on as it came.
+        out.append("    try {")
+        out += ["    " + line for line in scripted_return(op)]
+        out.append(f"        return vehicle_->{op.name}({', '.join(names)});")
+        out += ["    } catch (const TarnApiException& failure) {",
+                "        call.failedWith(failure.code);", "        throw;", "    }", "}"]
     out += ["", f"}} // namespace {ENGINE_NS}::Reference"]
     return "\n".join(out) + "\n"
 

@@ -319,12 +319,19 @@ MonitoringState::Link& MonitoringState::link(uint64_t handle) {
 uint64_t MonitoringState::begin() { return apiTraceCount_.load() == 0 ? 0 : ++tickets_; }
 
 void MonitoringState::finished(uint64_t ticket, std::string_view operation,
-                               const std::string& arguments, uint64_t micros,
-                               bool failed) noexcept {
+                               const std::string& arguments, uint64_t micros, bool failed,
+                               std::optional<int32_t> code) noexcept {
     try {
         std::string tail = " " + std::to_string(VehicleClock::nowMs()) + " ";
         tail.append(operation);
-        tail += " " + std::to_string(micros) + "us " + (failed ? "failed " : "ok ");
+        tail += " " + std::to_string(micros) + "us ";
+        if (!failed) {
+            tail += "ok ";
+        } else if (code) {
+            tail += "failed:" + std::to_string(*code) + " ";
+        } else {
+            tail += "failed ";
+        }
         tail += cut(arguments, maxTracedArguments) + "\n";
         const std::lock_guard lock(mutex_);
         for (auto& [handle, trace] : apiTraces_) {

@@ -74,7 +74,7 @@ public:
 
     uint64_t begin() override;
     void finished(uint64_t ticket, std::string_view operation, const std::string& arguments,
-                  uint64_t micros, bool failed) noexcept override;
+                  uint64_t micros, bool failed, std::optional<int32_t> code) noexcept override;
 
     // Writes what the PDU monitor holds (it keeps it) to `traces/<name>`
     // (kelsim_savePduMonitor). Throws the sandbox's refusals, UnknownMonitor, FileIoFailed.
