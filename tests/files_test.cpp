@@ -133,12 +133,7 @@ wchar_t** strings(std::vector<std::wstring>& values, std::vector<wchar_t*>& poin
 class FilesTest : public kel_test::EngineTest {
 protected:
     void SetUp() override {
-        static std::atomic<int> counter{0};
-        base = fs::temp_directory_path() /
-               ("kel_files_test-" +
-                std::to_string(std::chrono::steady_clock::now().time_since_epoch().count() %
-                               100000000) +
-                "-" + std::to_string(counter++));
+        base = kel_test::freshTempPath("kel_files_test");
         root = base / "root";
         outside = base / "outside";
         fs::create_directories(root);

@@ -16,6 +16,7 @@
 
 namespace {
 
+using kel_test::AsyncWatch;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
@@ -213,16 +214,11 @@ TEST_F(FlashTest, CallsThatCannotStartAreRefusedWhole) {
 }
 
 // What an asynchronous flash reports, and the cancel it may trigger.
-struct FlashWatch {
-    TarnApi* api = nullptr;
-    uint32_t cancelAt = 101; // cancel the call once a report shows this much progress
-    std::mutex mutex;
-    std::condition_variable changed;
+struct FlashWatch : AsyncWatch {
+    uint32_t cancelAt = 101;         // cancel the call once a report shows this much progress
     std::vector<uint32_t> progress;  // of every running report, in order
     std::vector<int32_t> finals;     // statuses of the sessions' last results
     std::vector<std::wstring> after; // their versions after
-    int32_t errorCode = 0;
-    bool done = false;
 
     static void callback(FlashSessionResult** results, uint32_t count, bool isFinal,
                          uint64_t callId, KelError* error, void* context) {
@@ -243,17 +239,7 @@ struct FlashWatch {
         }
         release_FlashSessionResult_array(results, count);
         release_KelError(error);
-        if (cancel) {
-            ErrorSlot ignored;
-            kel_cancelAsyncCalls(self->api, &callId, 1, &ignored);
-        }
-        const std::lock_guard lock(self->mutex);
-        self->done = self->done || isFinal;
-        self->changed.notify_all();
-    }
-    bool wait() {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, 10s, [&] { return done; });
+        self->reported(callId, cancel, isFinal);
     }
 };
 

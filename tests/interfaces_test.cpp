@@ -18,6 +18,7 @@ namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::freshTempPath;
 using kel_test::List;
 using namespace std::chrono_literals;
 
@@ -593,10 +594,7 @@ TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {
 }
 
 TEST_F(Interfaces, SavedConfigurationIsWhatTheNextEngineStartsWith) {
-    const auto root = std::filesystem::temp_directory_path() /
-                      ("kel_interfaces_test_" +
-                       std::to_string(::testing::UnitTest::GetInstance()->random_seed()));
-    std::filesystem::remove_all(root);
+    const auto root = freshTempPath("kel_interfaces_test");
     kelsim_setDataRoot(root.wstring().c_str());
     ErrorSlot error;
     kel_removeInterface(api, L"VCI2", &error);

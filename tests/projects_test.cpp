@@ -60,11 +60,7 @@ uint32_t processId() {
 class ProjectsTest : public ::testing::Test {
 protected:
     void SetUp() override {
-        static std::atomic<int> counter{0};
-        root = std::filesystem::temp_directory_path() /
-               ("kel_projects_test-" +
-                std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()) + "-" +
-                std::to_string(counter++));
+        root = kel_test::freshTempPath("kel_projects_test");
         kelsim_reset();
         kelsim_setDataRoot(root.wstring().c_str());
         start();

@@ -20,6 +20,7 @@ namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::freshTempPath;
 using kel_test::lastArguments;
 using kel_test::List;
 using Varno::Kel_cpp::Reference::describe;
@@ -307,10 +308,7 @@ TEST_F(ScriptedConcurrency, ManyThreadsTakeEachScriptedResultOnce) {
 // The data root every persisting family builds on: the scripted folder wins, is created
 // on first use, and reset goes back to a per-process folder that is a different one.
 TEST(DataRoot, IsTheScriptedFolderCreatedOnFirstUseUntilReset) {
-    const auto scratch =
-        std::filesystem::temp_directory_path() /
-        ("kel_data_root_test_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()));
-    std::filesystem::remove_all(scratch);
+    const auto scratch = freshTempPath("kel_data_root_test");
     const auto chosen = scratch / pathFromWide(L"r\u00e9pertoire");
     kelsim_setDataRoot(wideFromPath(chosen).c_str());
     EXPECT_FALSE(std::filesystem::exists(chosen)) << "made before it was used";

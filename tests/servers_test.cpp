@@ -24,6 +24,7 @@ namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::freshTempPath;
 namespace ref = Varno::Kel_cpp::Reference;
 
 enum : int32_t {
@@ -137,12 +138,7 @@ struct Event {
 class Servers : public EngineTest {
 protected:
     void SetUp() override {
-        static std::atomic<int> count{0};
-        root_ = std::filesystem::temp_directory_path() /
-                ("kel_servers_test_" +
-                 std::to_string(::testing::UnitTest::GetInstance()->current_test_info()->line()) +
-                 "_" + std::to_string(count++));
-        std::filesystem::remove_all(root_);
+        root_ = freshTempPath("kel_servers_test");
         EngineTest::SetUp();
         ASSERT_EQ(kelsim_setVehicleJson(vehicle), 0);
         restart();

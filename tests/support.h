@@ -7,8 +7,13 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <chrono>
+#include <condition_variable>
+#include <filesystem>
 #include <kel_sim.h>
 #include <memory>
+#include <mutex>
 #include <string>
 
 namespace kel_test {
@@ -34,6 +39,41 @@ struct List {
     List(const List&) = delete;
     List& operator=(const List&) = delete;
     ~List() { Release(items, count); }
+};
+
+// A path in the temporary folder that no other test uses, for a data root or scratch
+// folder of its own; not created. Kept short: the sandbox tests nest deep paths in it.
+inline std::filesystem::path freshTempPath(const std::string& prefix) {
+    static std::atomic<int> counter{0};
+    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
+    return std::filesystem::temp_directory_path() /
+           (prefix + "-" + std::to_string(now % 100000000) + "-" + std::to_string(counter++));
+}
+
+// What a test's watcher of an asynchronous call has in common: its callback records a
+// report under `mutex`, releases it, then calls reported(), which cancels the call when
+// the report asked for it and marks the final report for wait().
+struct AsyncWatch {
+    TarnApi* api = nullptr;
+    std::mutex mutex;
+    std::condition_variable changed;
+    int32_t errorCode = 0; // of the last report that carried an error
+    bool done = false;
+
+    void reported(uint64_t callId, bool cancel, bool isFinal) {
+        if (cancel) {
+            KelError* ignored = nullptr;
+            kel_cancelAsyncCalls(api, &callId, 1, &ignored);
+            release_KelError(ignored);
+        }
+        const std::lock_guard lock(mutex);
+        done = done || isFinal;
+        changed.notify_all();
+    }
+    bool wait() {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, std::chrono::seconds(20), [&] { return done; });
+    }
 };
 
 inline std::string lastArguments(const char* operation) {

@@ -23,8 +23,10 @@
 namespace {
 
 namespace fs = std::filesystem;
+using kel_test::AsyncWatch;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::freshTempPath;
 using kel_test::List;
 using namespace std::chrono_literals;
 
@@ -168,12 +170,7 @@ VehicleUpdateConfig* config(const std::vector<std::wstring>& targets,
 class VehicleUpdateTest : public EngineTest {
 protected:
     void SetUp() override {
-        static std::atomic<int> counter{0};
-        base = fs::temp_directory_path() /
-               ("kel_update_test-" +
-                std::to_string(std::chrono::steady_clock::now().time_since_epoch().count() %
-                               100000000) +
-                "-" + std::to_string(counter++));
+        base = freshTempPath("kel_update_test");
         root = base / "root";
         outside = base / "outside";
         put(outside / "secret.txt", "outside");
@@ -755,19 +752,14 @@ TEST_F(VehicleUpdateTest, CallsThatCannotStartAreRefusedWhole) {
 }
 
 // What an asynchronous update reports, and the cancel it may trigger.
-struct UpdateWatch {
-    TarnApi* api = nullptr;
+struct UpdateWatch : AsyncWatch {
     std::wstring cancelOn; // cancel once this unit reports this much progress
     uint32_t cancelAt = 101;
-    std::mutex mutex;
-    std::condition_variable changed;
     std::vector<std::pair<std::wstring, uint32_t>> running; // unit and progress
     std::vector<uint32_t> overall;
     std::vector<std::wstring> final;  // target:status of the final report
     std::vector<int32_t> finalErrors; // their error codes, 0 for none
     std::vector<std::wstring> finalAfter;
-    int32_t errorCode = 0;
-    bool done = false;
 
     static void callback(VehicleUpdateResult** results, uint32_t count, bool isFinal,
                          uint64_t callId, KelError* error, void* context) {
@@ -794,17 +786,7 @@ struct UpdateWatch {
         }
         release_VehicleUpdateResult_array(results, count);
         release_KelError(error);
-        if (cancel) {
-            ErrorSlot ignored;
-            kel_cancelAsyncCalls(self->api, &callId, 1, &ignored);
-        }
-        const std::lock_guard lock(self->mutex);
-        self->done = self->done || isFinal;
-        self->changed.notify_all();
-    }
-    bool wait() {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, 20s, [&] { return done; });
+        self->reported(callId, cancel, isFinal);
     }
 };
 
