@@ -70,8 +70,11 @@ Ecu* find(std::vector<Ecu>& ecus, const std::wstring& target) {
 }
 
 Bytes didRequest(uint8_t sid, uint16_t id, const Bytes& data = {}) {
-    Bytes request = {sid, static_cast<uint8_t>(id >> 8), static_cast<uint8_t>(id)};
-    request.insert(request.end(), data.begin(), data.end());
+    Bytes request(3 + data.size());
+    request[0] = sid;
+    request[1] = static_cast<uint8_t>(id >> 8);
+    request[2] = static_cast<uint8_t>(id);
+    std::copy(data.begin(), data.end(), request.begin() + 3);
     return request;
 }
 

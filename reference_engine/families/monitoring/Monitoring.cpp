@@ -186,7 +186,9 @@ std::vector<MonitoredExchange> readTraceFile(const std::string& text, const std:
     std::string line;
     std::size_t number = 0;
     bool header = false;
-    std::optional<uint64_t> open; // the exchange of the last request, until its response
+    // The exchange of the last request, until its response; 0 while none is open (exchange
+    // numbers start at 1).
+    uint64_t open = 0;
     try {
         while (std::getline(in, line)) {
             ++number;
@@ -223,7 +225,7 @@ std::vector<MonitoredExchange> readTraceFile(const std::string& text, const std:
                 if (open == exchange) {
                     entries.back().response = bytes;
                 }
-                open.reset();
+                open = 0;
             } else {
                 throw std::invalid_argument("direction is \"request\" or \"response\"");
             }
