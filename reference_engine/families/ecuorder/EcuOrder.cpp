@@ -174,7 +174,7 @@ EcuOrderSettings EcuOrderSettings::parse(const nlohmann::json& section,
                                          const std::vector<Ecu>& ecus) {
     EcuOrderSettings settings;
     try {
-        settings.gateway = fromUtf8(section.value("gateway", std::string()));
+        settings.gateway = textMember(section, "gateway");
         settings.file = fromUtf8(section.value("file", toUtf8(settings.file)));
         splitEnginePath(settings.file);
     } catch (const TarnApiException& e) {
