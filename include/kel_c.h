@@ -939,15 +939,15 @@ struct ModuleDyn {
     wchar_t* address;  /* its network address */
     InterfaceInformationItem*
         vendorModule;                /* the vendor module that drives it; NULL when it has none */
-    uint8_t connected;               /* 1 while it is connected */
+    uint8_t flag1;                   /* 1 while the module is connected */
     wchar_t* serialNumber;           /* its serial number */
     wchar_t* firmware;               /* its firmware version */
     wchar_t* network;                /* the network it was found on */
     ResourceInformation** resources; /* its resources */
     uint32_t resourceCount;
-    uint32_t port;     /* the TCP port it listens on */
-    uint8_t exclusive; /* 1 when it was connected for exclusive use */
-    uint64_t handle;   /* the engine's handle of the module, never 0 */
+    uint32_t port;   /* the TCP port it listens on */
+    uint8_t flag2;   /* 1 when the module was connected for exclusive use */
+    uint64_t handle; /* the engine's handle of the module, never 0 */
 };
 
 /* A device registered with the engine: one per interface the engine knows.
@@ -972,8 +972,8 @@ struct DeviceInfo {
     uint32_t moduleCount;
     wchar_t* text8;   /* a description */
     uint8_t flag;     /* 1 while connected */
-    uint64_t value6;  /* the engine's handle of the interface */
-    uint32_t value7;  /* 1 for a dynamic interface, 0 for a configured one */
+    uint64_t handle;  /* the engine's handle of the interface */
+    uint32_t value6;  /* 1 for a dynamic interface, 0 for a configured one */
     uint64_t value8;  /* reserved, 0 */
     uint64_t value9;  /* reserved, 0 */
     uint64_t value10; /* reserved, 0 */

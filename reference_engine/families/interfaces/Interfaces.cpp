@@ -232,7 +232,7 @@ std::shared_ptr<ModuleDyn> moduleDyn(const Interface& i) {
     if (!i.vendorModules.empty()) {
         m->vendorModule = std::make_shared<InterfaceInformationItem>(i.vendorModules.front());
     }
-    m->connected = i.connected;
+    m->flag1 = i.connected;
     m->serialNumber = i.serialNumber;
     m->firmware = i.firmware;
     m->network = i.network;
@@ -240,7 +240,7 @@ std::shared_ptr<ModuleDyn> moduleDyn(const Interface& i) {
         m->resources.push_back(std::make_shared<ResourceInformation>(res));
     }
     m->port = i.port;
-    m->exclusive = i.exclusive;
+    m->flag2 = i.exclusive;
     m->handle = i.handle;
     return m;
 }
@@ -782,8 +782,8 @@ std::vector<std::shared_ptr<DeviceInfo>> Interfaces::getRegisteredDevices() {
         }
         d->text8 = i.description;
         d->flag = i.connected;
-        d->value6 = i.handle;
-        d->value7 = i.dynamic ? 1 : 0;
+        d->handle = i.handle;
+        d->value6 = i.dynamic ? 1 : 0;
         out.push_back(std::move(d));
     }
     return out;
