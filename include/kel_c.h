@@ -939,15 +939,15 @@ struct ModuleDyn {
     wchar_t* address;  /* its network address */
     InterfaceInformationItem*
         vendorModule;                /* the vendor module that drives it; NULL when it has none */
-    uint8_t connected;               /* 1 while it is connected */
+    uint8_t flag1;                   /* 1 while the module is connected */
     wchar_t* serialNumber;           /* its serial number */
     wchar_t* firmware;               /* its firmware version */
     wchar_t* network;                /* the network it was found on */
     ResourceInformation** resources; /* its resources */
     uint32_t resourceCount;
-    uint32_t port;     /* the TCP port it listens on */
-    uint8_t exclusive; /* 1 when it was connected for exclusive use */
-    uint64_t handle;   /* the engine's handle of the module, never 0 */
+    uint32_t port;   /* the TCP port it listens on */
+    uint8_t flag2;   /* 1 when the module was connected for exclusive use */
+    uint64_t handle; /* the engine's handle of the module, never 0 */
 };
 
 /* A device registered with the engine: one per interface the engine knows.
@@ -972,8 +972,8 @@ struct DeviceInfo {
     uint32_t moduleCount;
     wchar_t* text8;   /* a description */
     uint8_t flag;     /* 1 while connected */
-    uint64_t value6;  /* the engine's handle of the interface */
-    uint32_t value7;  /* 1 for a dynamic interface, 0 for a configured one */
+    uint64_t handle;  /* the engine's handle of the interface */
+    uint32_t value6;  /* 1 for a dynamic interface, 0 for a configured one */
     uint64_t value8;  /* reserved, 0 */
     uint64_t value9;  /* reserved, 0 */
     uint64_t value10; /* reserved, 0 */
@@ -1547,8 +1547,10 @@ struct VehicleInformation {
  * Every kel_getTarnApi is matched by one releaseTarnApi; getting the same engine object
  * twice returns the same address and counts two uses. */
 KEL_C_API TarnApi* kel_getTarnApi(void);
-/* The same for the engine object of the remote connection with `handle`. After an error
- * it returns NULL and *error holds the error record (free it with release_KelError). */
+/* The same for a remote connection to the engine object whose engine handle (kel_getHandle)
+ * is `handle`: the same connection again while it lives. An address, as
+ * kel_connectRemoteServer hands out, is no handle (error 1005). After an error it returns
+ * NULL and *error holds the error record (free it with release_KelError). */
 KEL_C_API TarnApi* kel_getRemoteConnectionByHandle(uint64_t handle, KelError** error);
 /* Gives back one use of an engine object; the last one lets the library's reference go.
  * NULL and addresses never handed out are ignored. */
@@ -1576,9 +1578,10 @@ KEL_C_API void release_StringArray(KEL_CONSUMED wchar_t** ptr, uint64_t count);
  * engine error), then the results or the error record. Fetch it with kel_call_result,
  * which copies it into `destination` (at least *outSize bytes), frees it and returns
  * `destination`; a second call on the same stream copies nothing. `handle` 0 is the local
- * engine, any other value the engine object with that handle (see kel_getHandle); when
- * the engine rejects the handle, every operation answers status 0 with the engine's
- * error. Unknown numbers leave the outputs alone. */
+ * engine; any other value is an engine handle (kel_getHandle, not an address), and the call
+ * goes to the remote connection that kel_getRemoteConnectionByHandle gives for it. When the
+ * engine rejects the handle, every operation answers status 0 with the engine's error.
+ * Unknown numbers leave the outputs alone. */
 KEL_C_API void kel_call(uint64_t handle, int32_t operation, KEL_KEPT const void* input,
                         KEL_OUT void** outStream, KEL_OUT uint64_t* outSize);
 KEL_C_API void* kel_call_result(KEL_CONSUMED void* stream, KEL_OUT void* destination);
@@ -2002,7 +2005,9 @@ KEL_C_API void kel_triggerAsyncCancels(TarnApi* api, KEL_KEPT const uint64_t* ca
 /* Reads the engine's state number; the engine defines its values. Position 242.
  * On success *state receives the result. */
 KEL_C_API void kel_getState(TarnApi* api, KelError** error, KEL_OUT int32_t* state);
-/* Reads the engine object's 64-bit handle, by which kel_call reaches it. Position 254.
+/* Reads the engine object's 64-bit engine handle, which is not its address. Given to
+ * kel_getRemoteConnectionByHandle or kel_call it reaches the remote connection to this object;
+ * a remote connection's own handle is what kel_reconnectRemoteServer takes. Position 254.
  * On success *handle receives the result. */
 KEL_C_API void kel_getHandle(TarnApi* api, KelError** error, KEL_OUT uint64_t* handle);
 /* Reads the engine's call duration; the engine defines what it measures and its unit.
@@ -2317,7 +2322,8 @@ KEL_C_API void kel_updateCyclicServices(TarnApi* api, uint64_t cyclic,
 KEL_C_API void kel_unlockVehicle(TarnApi* api, KEL_KEPT const wchar_t* target,
                                  KEL_KEPT ServiceInput** services, uint32_t serviceCount,
                                  KelError** error, KEL_OUT UnlockResult** result);
-/* Releases a vehicle unlock; value is passed to the engine unchanged. Position 147.
+/* Releases a vehicle unlock; value is passed to the engine unchanged. Through kel_call (number
+ * 179) the answer is the status byte alone; py_call writes no result. Position 147.
  * The engine's result is not handed out. */
 KEL_C_API void kel_releaseVehicleUnlock(TarnApi* api, uint64_t value, KelError** error);
 /* Executes diagnostic services on one target, as kel_executeService does, in the default
@@ -2514,8 +2520,9 @@ KEL_C_API void kel_stopServer(TarnApi* api, KEL_KEPT const wchar_t* reason, KelE
 /* Restarts the engine's server at the same address; with endClients not 0 its remote
  * connections end, otherwise they stay. Position 6. */
 KEL_C_API void kel_restartServer(TarnApi* api, int32_t endClients, KelError** error);
-/* Connects to the engine's server at the given address and hands out the remote engine object.
- * Position 37.
+/* Connects to the engine's server at the given address and hands out the remote engine
+ * object's address, not its engine handle (kel_getHandle reads that, for
+ * kel_reconnectRemoteServer). Position 37.
  * address: kept by the caller, read only during the call.
  * On success *handle receives the address of the new engine object as a 64-bit value: use it
  * as (TarnApi*)(uintptr_t)handle, and give it back with releaseTarnApi. */
@@ -2555,8 +2562,9 @@ KEL_C_API void kel_getServerUserManagement(TarnApi* api, KelError** error,
 KEL_C_API void kel_setServerUserManagement(TarnApi* api, uint8_t enabled, KelError** error);
 /* Ends every remote connection to the engine. Position 133. */
 KEL_C_API void kel_disconnectAllClients(TarnApi* api, KelError** error);
-/* Renews the remote connection whose engine handle is given (kel_getHandle); tells whether it
- * is connected again (not while the server is stopped). Position 172.
+/* Renews the remote connection whose engine handle is given (kel_getHandle, not the address
+ * that kel_connectRemoteServer hands out); tells whether it is connected again (not while the
+ * server is stopped). Position 172.
  * On success *reconnected receives the result. */
 KEL_C_API void kel_reconnectRemoteServer(TarnApi* api, uint64_t handle, KelError** error,
                                          KEL_OUT uint8_t* reconnected);

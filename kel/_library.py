@@ -107,7 +107,12 @@ def _open(path: pathlib.Path) -> Any:
 
 def _declare(lib: Any) -> Any:
     for name, (result, arguments) in {**RUNTIME_EXPORTS, **c_records.EXPORTS}.items():
-        function = getattr(lib, name)
+        try:
+            function = getattr(lib, name)
+        except AttributeError:
+            # Loaded, but another library (or a kel_c of another interface); the callers
+            # name the file.
+            raise LibraryNotFound(f"it is not kel_c (it has no {name})") from None
         function.restype = result
         function.argtypes = arguments
     return lib

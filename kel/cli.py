@@ -1,8 +1,8 @@
 """The command line for the bench: `python3 -m kel dtcs`, `kel identify --json`, ...
 
 Readable tables by default, --json for scripts. Exit code 0 on success, 1 when the
-engine reports an error (its code and message on stderr), 2 for a wrong command line
-or an operation this build does not offer."""
+engine reports an error (its code and message on stderr), 2 for a wrong command line,
+a library that is missing or is not kel_c, or an operation this build does not offer."""
 
 from __future__ import annotations
 
@@ -11,6 +11,7 @@ import dataclasses
 import json
 import os
 import sys
+import unicodedata
 from typing import Any, Callable, Optional, Sequence, TextIO
 
 from . import _library
@@ -30,8 +31,19 @@ def _plain(value: Any) -> Any:
     return value
 
 
+def _printable(text: str) -> str:
+    """Engine texts may echo what a caller passed in: control characters (an escape
+    sequence, a line break) are shown escaped, so that they cannot act on the terminal or
+    break a table's lines."""
+    def shown(c: str) -> str:
+        if unicodedata.category(c) not in ("Cc", "Zl", "Zp"):
+            return c
+        return f"\\x{ord(c):02x}" if ord(c) < 0x100 else f"\\u{ord(c):04x}"
+    return "".join(shown(c) for c in text)
+
+
 def _table(out: TextIO, header: Sequence[str], rows: list[Sequence[Any]]) -> None:
-    cells = [[str(c) for c in header]] + [[str(c) for c in row] for row in rows]
+    cells = [[_printable(str(c)) for c in header]] + [[_printable(str(c)) for c in row] for row in rows]
     # A short row's last cell (an error in place of the columns) runs on unaligned.
     widths = [max([len(row[i]) for row in cells if i < len(row) - (len(row) < len(header))] or [0])
               for i in range(len(header))]
@@ -182,7 +194,8 @@ def cmd_events(engine: Engine, args: argparse.Namespace, o: Output) -> int:
                 o.out.write(json.dumps(_plain(event), ensure_ascii=False) + "\n")
             else:
                 error = f"  [{_error_text(event.error)}]" if event.error else ""
-                o.out.write(f"{event.kind:<4}  {event.name:<18}  {event.code:<4}  {event.text}  {event.detail}{error}\n")
+                o.out.write(_printable(f"{event.kind:<4}  {event.name:<18}  {event.code:<4}  {event.text}  "
+                                       f"{event.detail}{error}") + "\n")
             o.out.flush()
     return 0
 
@@ -258,7 +271,7 @@ def main(argv: Optional[Sequence[str]] = None, out: TextIO = sys.stdout) -> int:
             code: int = args.run(engine, args, Output(args.json, out))
             return code
     except EngineError as e:
-        sys.stderr.write(f"kel: {_error_text(e.record)}\n")
+        sys.stderr.write(f"kel: {_printable(_error_text(e.record))}\n")
         return 1
     except LibraryNotFound as e:
         sys.stderr.write(f"kel: {e}\n")

@@ -38,8 +38,9 @@ class Engine(Operations):
 
     @classmethod
     def remote(cls, handle: int, *, library: Optional[str] = None) -> Engine:
-        """The engine object of the remote connection with `handle`: an engine of its own,
-        released at the end of its `with` block; it is not initialised or ended."""
+        """The remote connection to the engine object whose engine handle is `handle`
+        (its `get_handle()`, not its `address`): an engine of its own, released at the end
+        of its `with` block; it is not initialised or ended."""
         lib = _library.load(library)
         error = ctypes.c_void_p()
         api = lib.kel_getRemoteConnectionByHandle(handle, ctypes.byref(error))

@@ -93,7 +93,7 @@ Parameter parseParameter(const json& j) {
     p.value = wtext(j, "value");
     p.unit = wtext(j, "unit");
     p.raw = hexBytes(j.value("raw", std::string()));
-    for (const auto& child : j.value("children", json::array())) {
+    for (const auto& child : arrayMember(j, "children")) {
         p.children.push_back(parseParameter(child));
     }
     return p;
@@ -141,7 +141,7 @@ Codec parseCodec(const json& j, const char* fallback) {
     if (j.contains("max")) {
         c.max = j.at("max").get<double>();
     }
-    for (const auto& v : j.value("values", json::array())) {
+    for (const auto& v : arrayMember(j, "values")) {
         c.names.emplace_back(v.at("value").get<uint32_t>(),
                              fromUtf8(v.at("name").get<std::string>()));
     }
@@ -171,7 +171,7 @@ std::vector<uint8_t> sessionIds(const json& list, const std::vector<Session>& se
 
 Access parseAccess(const json& j, const std::vector<Session>& sessions) {
     Access a;
-    a.sessions = sessionIds(j.value("sessions", json::array()), sessions);
+    a.sessions = sessionIds(arrayMember(j, "sessions"), sessions);
     a.level = j.value("level", uint8_t{0});
     return a;
 }
@@ -217,7 +217,7 @@ ParameterSpec parseSpec(const json& j) {
         p.constant = hexBytes(j.at("const").get<std::string>());
     } else if (j.contains("children")) {
         p.kind = ParameterSpec::Kind::Structure;
-        for (const auto& child : j.at("children")) {
+        for (const auto& child : arrayMember(j, "children", true)) {
             p.children.push_back(parseSpec(child));
         }
         p.repeated = j.value("repeated", false);
@@ -456,7 +456,7 @@ Motion parseMotion(const json& j, const std::vector<MeasurementValue>& earlier, 
 
 // A unit's "measurements": data identifiers whose value the unit computes at each read.
 void parseMeasurements(const json& j, Ecu& ecu) {
-    for (const auto& v : j.value("measurements", json::array())) {
+    for (const auto& v : arrayMember(j, "measurements")) {
         DataIdentifier d;
         d.id = static_cast<uint16_t>(hexNumber(v.at("id"), 0xFFFF));
         d.name = fromUtf8(v.at("name").get<std::string>());
@@ -492,11 +492,11 @@ Ecu parseEcu(const json& j) {
     ecu.address = j.value("address", 0);
     ecu.responds = j.value("responds", true);
     ecu.responseTimeoutMs = j.value("responseTimeoutMs", 1000U);
-    for (const auto& a : j.value("aliases", json::array())) {
+    for (const auto& a : arrayMember(j, "aliases")) {
         ecu.aliases.push_back(fromUtf8(a.get<std::string>()));
     }
     if (j.contains("sessions")) {
-        for (const auto& s : j.at("sessions")) {
+        for (const auto& s : arrayMember(j, "sessions", true)) {
             ecu.sessions.push_back(
                 {s.at("id").get<uint8_t>(), fromUtf8(s.at("name").get<std::string>())});
         }
@@ -509,14 +509,14 @@ Ecu parseEcu(const json& j) {
     }
     ecu.sessionTimeoutMs = j.value("sessionTimeoutMs", 5000U);
     if (j.contains("security")) {
-        for (const auto& s : j.at("security")) {
+        for (const auto& s : arrayMember(j, "security", true)) {
             SecurityLevel level;
             level.level = s.value("level", uint8_t{1});
             if (level.level < 1 || level.level > 0x3F) {
                 throw std::invalid_argument("security levels are 1 to 63");
             }
             level.keyMask = hexNumber(s.at("keyMask"), 0xFFFFFFFF);
-            level.sessions = sessionIds(s.value("sessions", json::array()), ecu.sessions);
+            level.sessions = sessionIds(arrayMember(s, "sessions"), ecu.sessions);
             level.attempts = std::max(1U, s.value("attempts", 3U));
             level.lockoutMs = s.value("lockoutMs", 10000U);
             ecu.security.push_back(level);
@@ -527,10 +527,10 @@ Ecu parseEcu(const json& j) {
         level.sessions = {3};
         ecu.security.push_back(level);
     }
-    for (const auto& v : j.value("identification", json::array())) {
+    for (const auto& v : arrayMember(j, "identification")) {
         ecu.data.push_back(parseDataIdentifier(v, true, ecu.sessions));
     }
-    for (const auto& v : j.value("dataIdentifiers", json::array())) {
+    for (const auto& v : arrayMember(j, "dataIdentifiers")) {
         ecu.data.push_back(parseDataIdentifier(v, false, ecu.sessions));
     }
     parseMeasurements(j, ecu);
@@ -550,7 +550,7 @@ Ecu parseEcu(const json& j) {
             }
         }
     }
-    for (const auto& d : j.value("dtcs", json::array())) {
+    for (const auto& d : arrayMember(j, "dtcs")) {
         Dtc dtc;
         dtc.display = fromUtf8(d.at("code").get<std::string>());
         dtc.code = ControlUnits::dtcNumber(dtc.display, d.value("failureType", uint8_t{0}));
@@ -560,7 +560,7 @@ Ecu parseEcu(const json& j) {
         dtc.severity = d.value("severity", 0);
         dtc.snapshot = parseParameters(d, "snapshot");
         dtc.extended = parseParameters(d, "extended");
-        for (const auto& group : d.value("specialData", json::array())) {
+        for (const auto& group : arrayMember(d, "specialData")) {
             std::vector<SpecialItem> items;
             for (const auto& item : group) {
                 items.push_back({wtext(item, "name"), wtext(item, "value"), wtext(item, "unit")});
@@ -572,10 +572,10 @@ Ecu parseEcu(const json& j) {
     }
     ecu.services = standardServices(ecu);
     addProgramming(j, ecu);
-    for (const auto& r : j.value("routines", json::array())) {
+    for (const auto& r : arrayMember(j, "routines")) {
         ecu.services.push_back(parseRoutine(r, ecu.sessions));
     }
-    for (const auto& s : j.value("services", json::array())) {
+    for (const auto& s : arrayMember(j, "services")) {
         ecu.services.push_back(parseService(s, ecu.sessions));
     }
     for (std::size_t i = 0; i < ecu.services.size(); ++i) {
@@ -1184,7 +1184,7 @@ uint32_t ControlUnits::dtcNumber(const std::wstring& display, uint8_t failureTyp
 std::vector<Ecu> ControlUnits::parse(const nlohmann::json& root) {
     try {
         std::vector<Ecu> ecus;
-        for (const auto& j : root.at("ecus")) {
+        for (const auto& j : arrayMember(root, "ecus", true)) {
             ecus.push_back(parseEcu(j));
         }
         return ecus;

@@ -22,7 +22,8 @@ struct VehicleDescription {
     // every part then starts from its defaults.
     void reject(const TarnApiException& e);
 
-    // The family's section, or an empty object when the description has none.
+    // The family's section, or an empty object when the description has none. Throws
+    // TarnApiException BadVehicleDescription when the section is there but no object.
     const nlohmann::json& section(const char* family) const;
 };
 
@@ -31,10 +32,20 @@ struct VehicleDescription {
 // JSON. Checking its parts is the vehicle's business.
 VehicleDescription readVehicleDescription();
 
-// The whole number `key` of a section, `fallback` when it is absent. Throws
-// std::invalid_argument naming the member when it is not a number from least to most.
-uint64_t wholeNumber(const nlohmann::json& section, const char* key, uint64_t fallback,
+// Members of a section (or of an object within one), read with their types checked: a
+// member of the wrong type is refused, not read as its default or as a one-element list.
+// Each throws std::invalid_argument naming the member; the section's reader adds the
+// section. `object` itself must be an object.
+//
+// The whole number `key`, `fallback` when it is absent, else a number from least to most.
+uint64_t wholeNumber(const nlohmann::json& object, const char* key, uint64_t fallback,
                      uint64_t least, uint64_t most);
+// The array `key`; an empty array when it is absent and not `required`.
+const nlohmann::json& arrayMember(const nlohmann::json& object, const char* key,
+                                  bool required = false);
+// The string `key`; `fallback` when it is absent.
+std::wstring textMember(const nlohmann::json& object, const char* key,
+                        const std::wstring& fallback = {});
 
 // JSON text as a description; throws TarnApiException BadVehicleDescription.
 nlohmann::json parseVehicleJson(const std::string& text);

@@ -162,6 +162,10 @@ TEST_F(Interfaces, ResourcesAreAddedWithTheirPinAndRemovedByName) {
     ASSERT_FALSE(getError);
     ASSERT_EQ(devices.count, 4u);
     EXPECT_EQ(devices.items[0]->value3, 3u) << "VCI1 now has three resources";
+    // The u32 after the 64-bit handle tells a dynamic interface from a configured one.
+    EXPECT_EQ(devices.items[0]->value6, 0u) << "VCI1 is configured";
+    EXPECT_EQ(devices.items[3]->value6, 1u) << "WVCI-9 is dynamic";
+    EXPECT_NE(devices.items[3]->handle, devices.items[0]->handle);
 
     ErrorSlot scanError;
     List<ScanInterfaceResult, release_ScanInterfaceResult_array> results;
@@ -343,8 +347,8 @@ TEST_F(Interfaces, DetectionFindsTheDynamicInterfacesAndConnectsThem) {
     EXPECT_EQ(names(free.items, free.count), (std::vector<std::wstring>{L"WVCI-9"}));
     List<ModuleDyn, release_ModuleDyn_array> again;
     kel_detectDynInterfacesEx(api, 0, &error, &again.items, &again.count);
-    EXPECT_EQ(again.items[0]->connected, 1);
-    EXPECT_EQ(again.items[0]->exclusive, 1);
+    EXPECT_EQ(again.items[0]->flag1, 1) << "connected";
+    EXPECT_EQ(again.items[0]->flag2, 1) << "for exclusive use";
 
     // The dynamic interface alone carries diagnostic calls.
     kel_disconnectInterfaces(api, &error);

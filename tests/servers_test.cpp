@@ -523,6 +523,25 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     ASSERT_EQ(handler.heard().size(), 1U);
     const std::wstring name = handler.heard()[0].substr(1);
 
+    // connectRemoteServer hands out an address; reconnectRemoteServer takes the engine
+    // handle that kel_getHandle reads from it (below), as getRemoteConnectionByHandle and
+    // kel_call take engine handles. Each refuses the address.
+    EXPECT_EQ(code([&](KelError** e) { kel_getRemoteConnectionByHandle(registered, e); }), 1005);
+    uint8_t unchanged = 7;
+    EXPECT_EQ(
+        code([&](KelError** e) { kel_reconnectRemoteServer(client, registered, e, &unchanged); }),
+        1005);
+    void* stream = nullptr;
+    uint64_t size = 0;
+    kel_call(registered, 49, nullptr, &stream, &size); // getState
+    std::vector<uint8_t> streamed(size);
+    kel_call_result(stream, streamed.data());
+    ASSERT_GE(streamed.size(), 6U);
+    EXPECT_EQ(streamed[0], 0) << "status byte: failed";
+    int32_t streamedCode = 0;
+    std::memcpy(&streamedCode, streamed.data() + 2, 4);
+    EXPECT_EQ(streamedCode, 1005);
+
     ServerSettings* settings = nullptr;
     kel_getServerSettings(client, &error, &settings);
     ASSERT_NE(settings, nullptr);

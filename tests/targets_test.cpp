@@ -2,6 +2,9 @@
 // the exports.
 #include "support.h"
 
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <utility>
 #include <vector>
@@ -151,6 +154,44 @@ TEST_F(TargetsFamily, BadDescriptionIsRefusedAndKeepsTheVehicle) {
     kel_getTargets(api, &error, &out.items, &out.count);
     ASSERT_FALSE(error);
     EXPECT_EQ(out.count, 6U);
+}
+
+// A member of the wrong type in a known section is refused, not taken for its default
+// (or a string for a one-element list). A description from KEL_SIM_VEHICLE is not checked
+// first, so the units' answer shows the reason.
+TEST_F(TargetsFamily, WrongTypesRefuseTheDescriptionNamingWhere) {
+    const auto file = kel_test::freshTempPath("vehicle") += ".json";
+    const auto useEnvironment = [&](const char* value) {
+#ifdef _WIN32
+        _putenv_s("KEL_SIM_VEHICLE", value);
+#else
+        value[0] != '\0' ? setenv("KEL_SIM_VEHICLE", value, 1) : unsetenv("KEL_SIM_VEHICLE");
+#endif
+        kelsim_setVehicleJson(nullptr);
+    };
+    const std::vector<std::pair<std::string, std::wstring>> cases = {
+        {R"({"ecus": [], "lifecycle": []})", L"lifecycle: expected an object"},
+        {R"({"ecus": [], "lifecycle": null})", L"lifecycle: expected an object"},
+        {R"({"ecus": [], "vehicle": {"equipment": "DSG"}})",
+         L"vehicle: equipment: expected an array"},
+        {R"({"ecus": [], "version": 5})", L"version: expected a string"},
+        {R"({"ecus": [{"name": "A"}, {"name": "E\u0000CM"}]})",
+         L"ecus[1].name: a string holds a NUL"},
+        {R"({"ecus": {"name": "A"}})", L"ecus: expected an array"},
+    };
+    for (const auto& [text, where] : cases) {
+        EXPECT_EQ(kelsim_setVehicleJson(text.c_str()), -1) << text;
+        std::ofstream(file, std::ios::binary) << text;
+        useEnvironment(file.string().c_str());
+        ErrorSlot error;
+        Targets out;
+        kel_getTargets(api, &error, &out.items, &out.count);
+        ASSERT_TRUE(error) << text;
+        EXPECT_EQ(error->code, 1013);
+        EXPECT_NE(std::wstring(error->details).find(where), std::wstring::npos) << error->details;
+    }
+    useEnvironment("");
+    std::filesystem::remove(file);
 }
 
 TEST_F(TargetsFamily, FilteredTargetsApplyTheGivenFiltersWithoutConsumingThem) {

@@ -493,6 +493,20 @@ TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeep
     ASSERT_FALSE(error);
     EXPECT_TRUE(listed(kel_getUpdatePackages).empty());
     EXPECT_EQ(versions()[L"tool"], L"1.10") << "clearing downloads uninstalls nothing";
+
+    // Installed packages are kept by whole name: installing tool leaves tool-extra installed.
+    publish("tool-extra", "1", "engine", "extra", Bytes(10, 4));
+    kel_applyUpdatePackage(api, L"tool-extra", &error);
+    publish("tool", "1.11", "engine", "tool", Bytes(10, 5));
+    kel_applyUpdatePackage(api, L"tool", &error);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(listed(kel_getUpdatePackages),
+              (std::vector<std::wstring>{L"tool-1.11:2", L"tool-extra-1:2"}));
+    // A store that listed "<name>-<version>" texts is read through the packages' manifests.
+    put(root / "updates" / "installed.json",
+        R"({"format": "kel-update-store", "version": 1, "packages": ["tool-extra-1"]})");
+    EXPECT_EQ(listed(kel_getUpdatePackages),
+              (std::vector<std::wstring>{L"tool-1.11:1", L"tool-extra-1:2"}));
 }
 
 TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {

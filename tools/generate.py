@@ -368,8 +368,10 @@ C_FRAME = """\
  * Every kel_getTarnApi is matched by one releaseTarnApi; getting the same engine object
  * twice returns the same address and counts two uses. */
 KEL_C_API TarnApi* kel_getTarnApi(void);
-/* The same for the engine object of the remote connection with `handle`. After an error
- * it returns NULL and *error holds the error record (free it with release_KelError). */
+/* The same for a remote connection to the engine object whose engine handle (kel_getHandle)
+ * is `handle`: the same connection again while it lives. An address, as
+ * kel_connectRemoteServer hands out, is no handle (error 1005). After an error it returns
+ * NULL and *error holds the error record (free it with release_KelError). */
 KEL_C_API TarnApi* kel_getRemoteConnectionByHandle(uint64_t handle, KelError** error);
 /* Gives back one use of an engine object; the last one lets the library's reference go.
  * NULL and addresses never handed out are ignored. */
@@ -397,9 +399,10 @@ KEL_C_API void release_StringArray(KEL_CONSUMED wchar_t** ptr, uint64_t count);
  * engine error), then the results or the error record. Fetch it with kel_call_result,
  * which copies it into `destination` (at least *outSize bytes), frees it and returns
  * `destination`; a second call on the same stream copies nothing. `handle` 0 is the local
- * engine, any other value the engine object with that handle (see kel_getHandle); when
- * the engine rejects the handle, every operation answers status 0 with the engine's
- * error. Unknown numbers leave the outputs alone. */
+ * engine; any other value is an engine handle (kel_getHandle, not an address), and the call
+ * goes to the remote connection that kel_getRemoteConnectionByHandle gives for it. When the
+ * engine rejects the handle, every operation answers status 0 with the engine's error.
+ * Unknown numbers leave the outputs alone. */
 KEL_C_API void kel_call(uint64_t handle, int32_t operation, KEL_KEPT const void* input,
                         KEL_OUT void** outStream, KEL_OUT uint64_t* outSize);
 KEL_C_API void* kel_call_result(KEL_CONSUMED void* stream, KEL_OUT void* destination);

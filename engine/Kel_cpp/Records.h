@@ -738,13 +738,13 @@ public:
     std::wstring kind;
     std::wstring address;
     std::shared_ptr<InterfaceInformationItem> vendorModule;
-    bool connected = false;
+    bool flag1 = false;
     std::wstring serialNumber;
     std::wstring firmware;
     std::wstring network;
     std::vector<std::shared_ptr<ResourceInformation>> resources;
     uint32_t port = 0;
-    bool exclusive = false;
+    bool flag2 = false;
     uint64_t handle = 0;
 };
 
@@ -767,8 +767,8 @@ public:
     std::vector<std::wstring> modules;
     std::wstring text8;
     bool flag = false;
-    uint64_t value6 = 0;
-    uint32_t value7 = 0;
+    uint64_t handle = 0;
+    uint32_t value6 = 0;
     uint64_t value8 = 0;
     uint64_t value9 = 0;
     uint64_t value10 = 0;

@@ -578,11 +578,10 @@ struct Of<ModuleDyn> {
         member("name", &ModuleDyn::name), member("longName", &ModuleDyn::longName),
         member("vendor", &ModuleDyn::vendor), member("kind", &ModuleDyn::kind),
         member("address", &ModuleDyn::address), member("vendorModule", &ModuleDyn::vendorModule),
-        member("connected", &ModuleDyn::connected),
-        member("serialNumber", &ModuleDyn::serialNumber), member("firmware", &ModuleDyn::firmware),
-        member("network", &ModuleDyn::network), member("resources", &ModuleDyn::resources),
-        member("port", &ModuleDyn::port), member("exclusive", &ModuleDyn::exclusive),
-        member("handle", &ModuleDyn::handle));
+        member("flag1", &ModuleDyn::flag1), member("serialNumber", &ModuleDyn::serialNumber),
+        member("firmware", &ModuleDyn::firmware), member("network", &ModuleDyn::network),
+        member("resources", &ModuleDyn::resources), member("port", &ModuleDyn::port),
+        member("flag2", &ModuleDyn::flag2), member("handle", &ModuleDyn::handle));
 };
 
 template <>
@@ -596,7 +595,7 @@ struct Of<DeviceInfo> {
         member("text6", &DeviceInfo::text6), member("protocols", &DeviceInfo::protocols),
         member("text7", &DeviceInfo::text7), member("modules", &DeviceInfo::modules),
         member("text8", &DeviceInfo::text8), member("flag", &DeviceInfo::flag),
-        member("value6", &DeviceInfo::value6), member("value7", &DeviceInfo::value7),
+        member("handle", &DeviceInfo::handle), member("value6", &DeviceInfo::value6),
         member("value8", &DeviceInfo::value8), member("value9", &DeviceInfo::value9),
         member("value10", &DeviceInfo::value10));
 };

@@ -295,11 +295,11 @@ class C_DynInterfaceDetection(ctypes.Structure):
 
 
 class C_ModuleDyn(ctypes.Structure):
-    _fields_ = [("name", ctypes.c_void_p), ("longName", ctypes.c_void_p), ("vendor", ctypes.c_void_p), ("kind", ctypes.c_void_p), ("address", ctypes.c_void_p), ("vendorModule", ctypes.c_void_p), ("connected", ctypes.c_uint8), ("serialNumber", ctypes.c_void_p), ("firmware", ctypes.c_void_p), ("network", ctypes.c_void_p), ("resources", ctypes.c_void_p), ("resourceCount", ctypes.c_uint32), ("port", ctypes.c_uint32), ("exclusive", ctypes.c_uint8), ("handle", ctypes.c_uint64)]
+    _fields_ = [("name", ctypes.c_void_p), ("longName", ctypes.c_void_p), ("vendor", ctypes.c_void_p), ("kind", ctypes.c_void_p), ("address", ctypes.c_void_p), ("vendorModule", ctypes.c_void_p), ("flag1", ctypes.c_uint8), ("serialNumber", ctypes.c_void_p), ("firmware", ctypes.c_void_p), ("network", ctypes.c_void_p), ("resources", ctypes.c_void_p), ("resourceCount", ctypes.c_uint32), ("port", ctypes.c_uint32), ("flag2", ctypes.c_uint8), ("handle", ctypes.c_uint64)]
 
 
 class C_DeviceInfo(ctypes.Structure):
-    _fields_ = [("text1", ctypes.c_void_p), ("value1", ctypes.c_uint32), ("value2", ctypes.c_uint32), ("text2", ctypes.c_void_p), ("text3", ctypes.c_void_p), ("value3", ctypes.c_uint32), ("text4", ctypes.c_void_p), ("text5", ctypes.c_void_p), ("value4", ctypes.c_uint32), ("value5", ctypes.c_uint32), ("text6", ctypes.c_void_p), ("protocols", ctypes.c_void_p), ("protocolCount", ctypes.c_uint32), ("text7", ctypes.c_void_p), ("modules", ctypes.c_void_p), ("moduleCount", ctypes.c_uint32), ("text8", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("value6", ctypes.c_uint64), ("value7", ctypes.c_uint32), ("value8", ctypes.c_uint64), ("value9", ctypes.c_uint64), ("value10", ctypes.c_uint64)]
+    _fields_ = [("text1", ctypes.c_void_p), ("value1", ctypes.c_uint32), ("value2", ctypes.c_uint32), ("text2", ctypes.c_void_p), ("text3", ctypes.c_void_p), ("value3", ctypes.c_uint32), ("text4", ctypes.c_void_p), ("text5", ctypes.c_void_p), ("value4", ctypes.c_uint32), ("value5", ctypes.c_uint32), ("text6", ctypes.c_void_p), ("protocols", ctypes.c_void_p), ("protocolCount", ctypes.c_uint32), ("text7", ctypes.c_void_p), ("modules", ctypes.c_void_p), ("moduleCount", ctypes.c_uint32), ("text8", ctypes.c_void_p), ("flag", ctypes.c_uint8), ("handle", ctypes.c_uint64), ("value6", ctypes.c_uint32), ("value8", ctypes.c_uint64), ("value9", ctypes.c_uint64), ("value10", ctypes.c_uint64)]
 
 
 class C_PhysicalLinksOnModule(ctypes.Structure):
@@ -1296,13 +1296,13 @@ def from_c_ModuleDyn(address: Optional[int]) -> Optional[records.ModuleDyn]:
         kind=_text(s.kind),
         address=_text(s.address),
         vendor_module=from_c_InterfaceInformationItem(s.vendorModule),
-        connected=bool(s.connected),
+        flag1=bool(s.flag1),
         serial_number=_text(s.serialNumber),
         firmware=_text(s.firmware),
         network=_text(s.network),
         resources=from_c_list(s.resources, s.resourceCount, from_c_ResourceInformation),
         port=s.port,
-        exclusive=bool(s.exclusive),
+        flag2=bool(s.flag2),
         handle=s.handle,
     )
 
@@ -1328,8 +1328,8 @@ def from_c_DeviceInfo(address: Optional[int]) -> Optional[records.DeviceInfo]:
         modules=_texts(s.modules, s.moduleCount),
         text8=_text(s.text8),
         flag=bool(s.flag),
+        handle=s.handle,
         value6=s.value6,
-        value7=s.value7,
         value8=s.value8,
         value9=s.value9,
         value10=s.value10,
@@ -2740,13 +2740,13 @@ def to_c_ModuleDyn(lib: Any, v: Optional[records.ModuleDyn]) -> int:
     s.kind = lib.duplicate_WString(v.kind)
     s.address = lib.duplicate_WString(v.address)
     s.vendorModule = to_c_InterfaceInformationItem(lib, v.vendor_module)
-    s.connected = v.connected
+    s.flag1 = v.flag1
     s.serialNumber = lib.duplicate_WString(v.serial_number)
     s.firmware = lib.duplicate_WString(v.firmware)
     s.network = lib.duplicate_WString(v.network)
     s.resources, s.resourceCount = heap_list(lib, v.resources, to_c_ResourceInformation)
     s.port = v.port
-    s.exclusive = v.exclusive
+    s.flag2 = v.flag2
     s.handle = v.handle
     return address
 
@@ -2772,8 +2772,8 @@ def to_c_DeviceInfo(lib: Any, v: Optional[records.DeviceInfo]) -> int:
     s.modules, s.moduleCount = heap_texts(lib, v.modules, False)
     s.text8 = lib.duplicate_WString(v.text8)
     s.flag = v.flag
+    s.handle = v.handle
     s.value6 = v.value6
-    s.value7 = v.value7
     s.value8 = v.value8
     s.value9 = v.value9
     s.value10 = v.value10

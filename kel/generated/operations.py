@@ -527,7 +527,8 @@ class Operations:
 
     def connect_remote_server(self, address: str) -> Engine:
         """Connects to the engine's server at the given address and hands out the
-        remote engine object.
+        remote engine object's address, not its engine handle (kel_getHandle reads
+        that, for kel_reconnectRemoteServer).
 
         C: kel_connectRemoteServer; number 36; engine position 37.
 
@@ -1881,7 +1882,9 @@ class Operations:
         return stream.read_UnlockResult(_b, 0)[0]
 
     def release_vehicle_unlock(self, value: int) -> None:
-        """Releases a vehicle unlock; value is passed to the engine unchanged.
+        """Releases a vehicle unlock; value is passed to the engine unchanged. Through
+        kel_call (number 179) the answer is the status byte alone; py_call writes no
+        result.
 
         C: kel_releaseVehicleUnlock; number 179; engine position 147.
 
@@ -2183,8 +2186,9 @@ class Operations:
         return _results
 
     def reconnect_remote_server(self, handle: int) -> bool:
-        """Renews the remote connection whose engine handle is given (kel_getHandle);
-        tells whether it is connected again (not while the server is stopped).
+        """Renews the remote connection whose engine handle is given (kel_getHandle,
+        not the address that kel_connectRemoteServer hands out); tells whether it is
+        connected again (not while the server is stopped).
 
         C: kel_reconnectRemoteServer; number 199; engine position 172.
 
@@ -3175,7 +3179,10 @@ class Operations:
         return stream.read_TransmissionInfo(_b, 0)[0]
 
     def get_handle(self) -> int:
-        """Reads the engine object's 64-bit handle, by which kel_call reaches it.
+        """Reads the engine object's 64-bit engine handle, which is not its address.
+        Given to kel_getRemoteConnectionByHandle or kel_call it reaches the remote
+        connection to this object; a remote connection's own handle is what
+        kel_reconnectRemoteServer takes.
 
         C: kel_getHandle; number 61; engine position 254.
 

@@ -1085,8 +1085,8 @@ class ModuleDyn:
     """Its network address."""
     vendor_module: Optional[InterfaceInformationItem] = None
     """The vendor module that drives it; None when it has none."""
-    connected: bool = False
-    """1 while it is connected."""
+    flag1: bool = False
+    """1 while the module is connected."""
     serial_number: str = ""
     """Its serial number."""
     firmware: str = ""
@@ -1097,8 +1097,8 @@ class ModuleDyn:
     """Its resources."""
     port: int = 0
     """The TCP port it listens on."""
-    exclusive: bool = False
-    """1 when it was connected for exclusive use."""
+    flag2: bool = False
+    """1 when the module was connected for exclusive use."""
     handle: int = 0
     """The engine's handle of the module, never 0."""
 
@@ -1138,9 +1138,9 @@ class DeviceInfo:
     """A description."""
     flag: bool = False
     """1 while connected."""
-    value6: int = 0
+    handle: int = 0
     """The engine's handle of the interface."""
-    value7: int = 0
+    value6: int = 0
     """1 for a dynamic interface, 0 for a configured one."""
     value8: int = 0
     """Reserved, 0."""

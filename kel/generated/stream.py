@@ -1449,7 +1449,7 @@ def read_ModuleDyn(b: bytes, p: int) -> tuple[Optional[ModuleDyn], int]:
     v_address = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_vendor_module, p = read_InterfaceInformationItem(b, p)
-    v_connected, = _S_b_read(b, p)
+    v_flag1, = _S_b_read(b, p)
     p += 1
     (n,) = _u32_read(b, p)
     v_serial_number = b[p + 4 : p + 4 + n].decode()
@@ -1466,9 +1466,9 @@ def read_ModuleDyn(b: bytes, p: int) -> tuple[Optional[ModuleDyn], int]:
     for _ in range(n):
         e_v_resources, p = read_ResourceInformation(b, p)
         v_resources.append(e_v_resources)
-    v_port, v_exclusive, v_handle = _S_IbQ_read(b, p)
+    v_port, v_flag2, v_handle = _S_IbQ_read(b, p)
     p += 13
-    return ModuleDyn(name=v_name, long_name=v_long_name, vendor=v_vendor, kind=v_kind, address=v_address, vendor_module=v_vendor_module, connected=v_connected, serial_number=v_serial_number, firmware=v_firmware, network=v_network, resources=v_resources, port=v_port, exclusive=v_exclusive, handle=v_handle), p
+    return ModuleDyn(name=v_name, long_name=v_long_name, vendor=v_vendor, kind=v_kind, address=v_address, vendor_module=v_vendor_module, flag1=v_flag1, serial_number=v_serial_number, firmware=v_firmware, network=v_network, resources=v_resources, port=v_port, flag2=v_flag2, handle=v_handle), p
 
 
 def read_DeviceInfo(b: bytes, p: int) -> tuple[Optional[DeviceInfo], int]:
@@ -1507,9 +1507,9 @@ def read_DeviceInfo(b: bytes, p: int) -> tuple[Optional[DeviceInfo], int]:
     (n,) = _u32_read(b, p)
     v_text8 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    v_flag, v_value6, v_value7, v_value8, v_value9, v_value10 = _S_bQIQQQ_read(b, p)
+    v_flag, v_handle, v_value6, v_value8, v_value9, v_value10 = _S_bQIQQQ_read(b, p)
     p += 37
-    return DeviceInfo(text1=v_text1, value1=v_value1, value2=v_value2, text2=v_text2, text3=v_text3, value3=v_value3, text4=v_text4, text5=v_text5, value4=v_value4, value5=v_value5, text6=v_text6, protocols=v_protocols, text7=v_text7, modules=v_modules, text8=v_text8, flag=v_flag, value6=v_value6, value7=v_value7, value8=v_value8, value9=v_value9, value10=v_value10), p
+    return DeviceInfo(text1=v_text1, value1=v_value1, value2=v_value2, text2=v_text2, text3=v_text3, value3=v_value3, text4=v_text4, text5=v_text5, value4=v_value4, value5=v_value5, text6=v_text6, protocols=v_protocols, text7=v_text7, modules=v_modules, text8=v_text8, flag=v_flag, handle=v_handle, value6=v_value6, value8=v_value8, value9=v_value9, value10=v_value10), p
 
 
 def read_PhysicalLinksOnModule(b: bytes, p: int) -> tuple[Optional[PhysicalLinksOnModule], int]:
@@ -3175,14 +3175,14 @@ def write_ModuleDyn(o: bytearray, v: Optional[ModuleDyn]) -> None:
     write_text(o, v.kind)
     write_text(o, v.address)
     write_InterfaceInformationItem(o, v.vendor_module)
-    o += _S_b_write(v.connected)
+    o += _S_b_write(v.flag1)
     write_text(o, v.serial_number)
     write_text(o, v.firmware)
     write_text(o, v.network)
     o += _U32.pack(len(v.resources))
     for e_resources in v.resources:
         write_ResourceInformation(o, e_resources)
-    o += _S_IbQ_write(v.port, v.exclusive, v.handle)
+    o += _S_IbQ_write(v.port, v.flag2, v.handle)
 
 
 def write_DeviceInfo(o: bytearray, v: Optional[DeviceInfo]) -> None:
@@ -3203,7 +3203,7 @@ def write_DeviceInfo(o: bytearray, v: Optional[DeviceInfo]) -> None:
     write_text(o, v.text7)
     write_texts(o, v.modules)
     write_text(o, v.text8)
-    o += _S_bQIQQQ_write(v.flag, v.value6, v.value7, v.value8, v.value9, v.value10)
+    o += _S_bQIQQQ_write(v.flag, v.handle, v.value6, v.value8, v.value9, v.value10)
 
 
 def write_PhysicalLinksOnModule(o: bytearray, v: Optional[PhysicalLinksOnModule]) -> None:

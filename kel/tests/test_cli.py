@@ -6,6 +6,7 @@ import contextlib
 import io
 import json
 import os
+import pathlib
 import subprocess
 import sys
 import unittest
@@ -74,6 +75,13 @@ class CommandLine(EngineTest):
         code, out, _ = self.main("--json", "info")
         self.assertEqual((code, json.loads(out)["state"]), (0, 1))
 
+    def test_control_characters_that_engine_texts_echo_are_escaped_in_tables(self) -> None:
+        code, out, _ = self.main("identify", "E\x1b[2J\nX")
+        self.assertEqual(code, 0)
+        self.assertNotIn("\x1b", out)
+        self.assertEqual(out.splitlines()[1].split()[0], "E\\x1b[2J\\x0aX")
+        self.assertEqual(len(out.splitlines()), 2, "one line per row")
+
     def test_operations_of_families_not_built_exit_2(self) -> None:
         if hasattr(kel.Engine, "get_service_infos"):
             self.skipTest("the Services family is built")
@@ -86,6 +94,11 @@ class CommandLine(EngineTest):
         done = run("info", **{kel.ENVIRONMENT: "/nowhere/libkel_c.so"})
         self.assertEqual(done.returncode, 2)
         self.assertIn("/nowhere/libkel_c.so", done.stderr)
+        # A library that loads but is not kel_c (here the engine beside it) is refused alike.
+        engine = pathlib.Path(kel.load()._name).parent / ("kel_cpp.dll" if sys.platform == "win32" else "libkel_cpp.so")
+        done = run("--library", str(engine), "info")
+        self.assertEqual((done.returncode, len(done.stderr.splitlines())), (2, 1), done.stderr)
+        self.assertIn("is not kel_c", done.stderr)
 
 
 if __name__ == "__main__":

@@ -749,13 +749,12 @@ struct Record<::ModuleDyn> {
         field(&::ModuleDyn::vendor, &Engine::vendor), field(&::ModuleDyn::kind, &Engine::kind),
         field(&::ModuleDyn::address, &Engine::address),
         field(&::ModuleDyn::vendorModule, &Engine::vendorModule),
-        field(&::ModuleDyn::connected, &Engine::connected),
+        field(&::ModuleDyn::flag1, &Engine::flag1),
         field(&::ModuleDyn::serialNumber, &Engine::serialNumber),
         field(&::ModuleDyn::firmware, &Engine::firmware),
         field(&::ModuleDyn::network, &Engine::network),
         field(&::ModuleDyn::resources, &::ModuleDyn::resourceCount, &Engine::resources),
-        field(&::ModuleDyn::port, &Engine::port),
-        field(&::ModuleDyn::exclusive, &Engine::exclusive),
+        field(&::ModuleDyn::port, &Engine::port), field(&::ModuleDyn::flag2, &Engine::flag2),
         field(&::ModuleDyn::handle, &Engine::handle));
 };
 
@@ -774,8 +773,8 @@ struct Record<::DeviceInfo> {
         field(&::DeviceInfo::text7, &Engine::text7),
         field(&::DeviceInfo::modules, &::DeviceInfo::moduleCount, &Engine::modules),
         field(&::DeviceInfo::text8, &Engine::text8), field(&::DeviceInfo::flag, &Engine::flag),
+        field(&::DeviceInfo::handle, &Engine::handle),
         field(&::DeviceInfo::value6, &Engine::value6),
-        field(&::DeviceInfo::value7, &Engine::value7),
         field(&::DeviceInfo::value8, &Engine::value8),
         field(&::DeviceInfo::value9, &Engine::value9),
         field(&::DeviceInfo::value10, &Engine::value10));

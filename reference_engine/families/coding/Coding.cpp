@@ -273,7 +273,7 @@ std::wstring hexDigits(uint32_t value, int digits) {
 CodingSettings CodingSettings::parse(const nlohmann::json& section, const std::vector<Ecu>& ecus) {
     CodingSettings settings;
     try {
-        for (const auto& j : section.value("codings", nlohmann::json::array())) {
+        for (const auto& j : arrayMember(section, "codings")) {
             CodingPlace place{fromUtf8(j.at("target").get<std::string>()), identifierOf(j)};
             writable(ecus, place.target, place.identifier);
             if (placeOf(settings, place.target) != nullptr) {
@@ -281,11 +281,11 @@ CodingSettings CodingSettings::parse(const nlohmann::json& section, const std::v
             }
             settings.codings.push_back(std::move(place));
         }
-        for (const auto& j : section.value("configurations", nlohmann::json::array())) {
+        for (const auto& j : arrayMember(section, "configurations")) {
             EcuConfiguration c;
             c.name = fromUtf8(j.at("name").get<std::string>());
-            c.description = fromUtf8(j.value("description", std::string()));
-            for (const auto& w : j.at("writes")) {
+            c.description = textMember(j, "description");
+            for (const auto& w : arrayMember(j, "writes", true)) {
                 ConfigurationWrite write{fromUtf8(w.at("target").get<std::string>()),
                                          identifierOf(w),
                                          fromUtf8(w.at("value").get<std::string>())};

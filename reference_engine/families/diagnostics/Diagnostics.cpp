@@ -31,7 +31,7 @@ void postCleared(SimulatedVehicle& vehicle, int32_t cleared) {
 DiagnosticsSettings DiagnosticsSettings::parse(const nlohmann::json& section) {
     try {
         DiagnosticsSettings settings;
-        for (const auto& f : section.value("sessionFilters", nlohmann::json::array())) {
+        for (const auto& f : arrayMember(section, "sessionFilters")) {
             auto filter = std::make_shared<TargetFilter>();
             filter->pattern = fromUtf8(f.at("pattern").get<std::string>());
             filter->flag = f.value("flag", uint8_t{0});

@@ -11,6 +11,9 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <string_view>
+#include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace Varno::Kel_cpp::Reference {
@@ -38,8 +41,10 @@ std::wstring trim(const std::wstring& text) {
 std::wstring entryName(std::size_t index) { return L"entry " + std::to_wstring(index + 1); }
 
 // What every order a caller hands in must be: entries that are there, each with a target
-// of its own.
+// of its own. Orders run to 100k entries, so the duplicate check is one hash lookup each.
 void checkEntries(const EcuOrderEntries& entries) {
+    std::unordered_set<std::wstring_view> seen;
+    seen.reserve(entries.size());
     for (std::size_t i = 0; i < entries.size(); ++i) {
         if (!entries[i]) {
             badOrder(entryName(i) + L" is missing");
@@ -47,10 +52,8 @@ void checkEntries(const EcuOrderEntries& entries) {
         if (entries[i]->target.empty()) {
             badOrder(entryName(i) + L" names no target");
         }
-        for (std::size_t j = 0; j < i; ++j) {
-            if (entries[j]->target == entries[i]->target) {
-                badOrder(entryName(i) + L" names " + entries[i]->target + L" again");
-            }
+        if (!seen.insert(entries[i]->target).second) {
+            badOrder(entryName(i) + L" names " + entries[i]->target + L" again");
         }
     }
 }
@@ -174,7 +177,7 @@ EcuOrderSettings EcuOrderSettings::parse(const nlohmann::json& section,
                                          const std::vector<Ecu>& ecus) {
     EcuOrderSettings settings;
     try {
-        settings.gateway = fromUtf8(section.value("gateway", std::string()));
+        settings.gateway = textMember(section, "gateway");
         settings.file = fromUtf8(section.value("file", toUtf8(settings.file)));
         splitEnginePath(settings.file);
     } catch (const TarnApiException& e) {
@@ -241,7 +244,7 @@ EcuOrderEntries parseEcuOrder(const std::string& bytes, const std::wstring& wher
         fail(1, L"an ECU order file begins with \"" + fromUtf8(header) + L"\"");
     }
     EcuOrderEntries entries;
-    std::vector<std::size_t> numbers; // each entry's line
+    std::unordered_map<std::wstring, std::size_t> lineOf; // each target's line
     for (std::size_t i = 1; i < lines.size(); ++i) {
         const auto number = i + 1;
         if (trim(lines[i]).empty() || trim(lines[i]).front() == L'#') {
@@ -278,14 +281,12 @@ EcuOrderEntries parseEcuOrder(const std::string& bytes, const std::wstring& wher
                 }
             }
         }
-        for (std::size_t k = 0; k < entries.size(); ++k) {
-            if (entries[k]->target == entry->target) {
-                fail(number, entry->target + L" is named on line " + std::to_wstring(numbers[k]) +
-                                 L" already");
-            }
+        const auto [earlier, added] = lineOf.emplace(entry->target, number);
+        if (!added) {
+            fail(number, entry->target + L" is named on line " + std::to_wstring(earlier->second) +
+                             L" already");
         }
         entries.push_back(std::move(entry));
-        numbers.push_back(number);
     }
     return entries;
 }

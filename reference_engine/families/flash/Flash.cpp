@@ -101,11 +101,11 @@ std::wstring decodeVersion(const Ecu& ecu, const Bytes& response) {
 FlashSettings FlashSettings::parse(const nlohmann::json& section, const std::vector<Ecu>& ecus) {
     FlashSettings settings;
     try {
-        for (const auto& j : section.value("sessions", nlohmann::json::array())) {
+        for (const auto& j : arrayMember(section, "sessions")) {
             FlashSession s;
             s.name = fromUtf8(j.at("name").get<std::string>());
             s.target = fromUtf8(j.at("target").get<std::string>());
-            s.description = fromUtf8(j.value("description", std::string()));
+            s.description = textMember(j, "description");
             s.version = fromUtf8(j.at("version").get<std::string>());
             s.size = wholeNumber(j, "size", 65536, s.version.size() + 1, 0xFFFFFFFFULL);
             s.durationMs = static_cast<uint32_t>(wholeNumber(j, "durationMs", 30000, 0, 86400000));

@@ -109,14 +109,14 @@ Interface parseInterface(const Json& j) {
     i.connected = j.value("connected", false);
     i.dynamic = j.value("dynamic", false);
     i.enabled = j.value("enabled", true);
-    for (const auto& m : j.value("vendorModules", Json::array())) {
+    for (const auto& m : arrayMember(j, "vendorModules")) {
         i.vendorModules.push_back(parseModule(m));
     }
     uint32_t id = 0;
-    for (const auto& r : j.value("resources", Json::array())) {
+    for (const auto& r : arrayMember(j, "resources")) {
         i.resources.push_back(parseResource(r, ++id));
     }
-    for (const auto& l : j.value("links", Json::array())) {
+    for (const auto& l : arrayMember(j, "links")) {
         i.links.push_back(parseLink(l));
     }
     if (j.contains("wlan")) {
@@ -232,7 +232,7 @@ std::shared_ptr<ModuleDyn> moduleDyn(const Interface& i) {
     if (!i.vendorModules.empty()) {
         m->vendorModule = std::make_shared<InterfaceInformationItem>(i.vendorModules.front());
     }
-    m->connected = i.connected;
+    m->flag1 = i.connected;
     m->serialNumber = i.serialNumber;
     m->firmware = i.firmware;
     m->network = i.network;
@@ -240,7 +240,7 @@ std::shared_ptr<ModuleDyn> moduleDyn(const Interface& i) {
         m->resources.push_back(std::make_shared<ResourceInformation>(res));
     }
     m->port = i.port;
-    m->exclusive = i.exclusive;
+    m->flag2 = i.exclusive;
     m->handle = i.handle;
     return m;
 }
@@ -281,7 +281,7 @@ InterfacesSettings InterfacesSettings::parse(const nlohmann::json& section) {
         if (section.contains("interfaces")) {
             s.interfaces = parseInterfaces(section.at("interfaces"));
         }
-        for (const auto& p : section.value("providers", Json::array())) {
+        for (const auto& p : arrayMember(section, "providers")) {
             InterfaceProvider provider;
             setNames(provider, p, "name", "description", "vendor", "version");
             provider.text = text(p, "library");
@@ -289,11 +289,11 @@ InterfacesSettings InterfacesSettings::parse(const nlohmann::json& section) {
             provider.flag = p.value("enabled", true);
             s.providers.push_back(std::move(provider));
         }
-        for (const auto& k : section.value("supported", Json::array())) {
+        for (const auto& k : arrayMember(section, "supported")) {
             SupportedInterface kind;
             kind.text1 = fromUtf8(k.at("kind").get<std::string>());
             kind.text2 = text(k, "description");
-            for (const auto& p : k.value("protocols", Json::array())) {
+            for (const auto& p : arrayMember(k, "protocols")) {
                 kind.names.push_back(fromUtf8(p.get<std::string>()));
             }
             kind.value = static_cast<uint32_t>(wholeNumber(k, "maxInterfaces", 1, 0, 0xFFFFFFFF));
@@ -305,10 +305,10 @@ InterfacesSettings InterfacesSettings::parse(const nlohmann::json& section) {
         s.doip.value2 = static_cast<uint32_t>(wholeNumber(doip, "announceWaitMs", 500, 0, 60000));
         s.doip.text = text(doip, "broadcastAddress", "255.255.255.255");
         s.doip.value3 = static_cast<uint32_t>(wholeNumber(doip, "tcpPort", 13400, 1, 0xFFFF));
-        for (const auto& a : doip.value("adapters", Json::array())) {
+        for (const auto& a : arrayMember(doip, "adapters")) {
             s.doip.strings.push_back(fromUtf8(a.get<std::string>()));
         }
-        for (const auto& e : doip.value("entities", Json::array())) {
+        for (const auto& e : arrayMember(doip, "entities")) {
             DoIPEntity entity;
             entity.logicalAddress =
                 static_cast<uint32_t>(wholeNumber(e, "logicalAddress", 0, 0, 0xFFFF));
@@ -782,8 +782,8 @@ std::vector<std::shared_ptr<DeviceInfo>> Interfaces::getRegisteredDevices() {
         }
         d->text8 = i.description;
         d->flag = i.connected;
-        d->value6 = i.handle;
-        d->value7 = i.dynamic ? 1 : 0;
+        d->handle = i.handle;
+        d->value6 = i.dynamic ? 1 : 0;
         out.push_back(std::move(d));
     }
     return out;

@@ -207,12 +207,12 @@ VehicleReportsSettings VehicleReportsSettings::parse(const nlohmann::json& secti
     VehicleReportsSettings settings;
     auto& v = settings.vehicle;
     try {
-        v.vin = fromUtf8(section.value("vin", std::string()));
-        v.model = fromUtf8(section.value("model", std::string()));
+        v.vin = textMember(section, "vin");
+        v.model = textMember(section, "model");
         v.modelYear = static_cast<uint32_t>(wholeNumber(section, "modelYear", 0, 0, 2100));
         v.mileage = static_cast<uint32_t>(wholeNumber(section, "mileage", 0, 0, 0xFFFFFFFFULL));
-        v.licensePlate = fromUtf8(section.value("licensePlate", std::string()));
-        for (const auto& code : section.value("equipment", nlohmann::json::array())) {
+        v.licensePlate = textMember(section, "licensePlate");
+        for (const auto& code : arrayMember(section, "equipment")) {
             v.equipment.push_back(fromUtf8(code.get<std::string>()));
         }
         // No VIN in the description: none is selected until a caller selects one.

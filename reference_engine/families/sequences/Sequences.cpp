@@ -32,7 +32,7 @@ std::shared_ptr<ParameterInput> parseValue(const json& j, const Sequence& sequen
                      [&](const auto& d) { return d.first == p->value.substr(1); })) {
         throw std::invalid_argument("the sequence has no parameter " + toUtf8(p->value));
     }
-    for (const auto& child : j.value("children", json::array())) {
+    for (const auto& child : arrayMember(j, "children")) {
         p->children.push_back(parseValue(child, sequence));
     }
     return p;
@@ -42,14 +42,14 @@ Sequence parseSequence(const std::string& name, const json& j) {
     Sequence s;
     s.name = fromUtf8(name);
     s.target = text(j, "target");
-    for (const auto& p : j.value("parameters", json::array())) {
+    for (const auto& p : arrayMember(j, "parameters")) {
         std::optional<std::wstring> fallback;
         if (p.contains("default")) {
             fallback = text(p, "default");
         }
         s.parameters.emplace_back(text(p, "name"), std::move(fallback));
     }
-    for (const auto& j2 : j.at("steps")) {
+    for (const auto& j2 : arrayMember(j, "steps", true)) {
         SequenceStep step;
         step.service = std::make_shared<ServiceInput>();
         step.service->service = text(j2, "service");
@@ -62,7 +62,7 @@ Sequence parseSequence(const std::string& name, const json& j) {
         if (step.service->service.empty() == step.service->data.empty()) {
             throw std::invalid_argument("a step gives its \"service\" or its \"request\" bytes");
         }
-        for (const auto& v : j2.value("parameters", json::array())) {
+        for (const auto& v : arrayMember(j2, "parameters")) {
             step.service->parameters.push_back(parseValue(v, s));
         }
         step.continueOnError = j2.value("continueOnError", false);

@@ -97,6 +97,41 @@ std::wstring plainName(const json& j, const char* key) {
     return value;
 }
 
+struct InstalledPackage {
+    std::wstring name;
+    std::wstring version;
+};
+
+// The "packages" of installed.json: {"name", "version"} objects. A store written before
+// names were kept apart lists "<name>-<version>" texts, which cannot be split where a name
+// holds a dash; such an entry is read from the manifest of its folder in `packages`, and is
+// left out when that folder cannot be listed (then it marks nothing either).
+std::vector<InstalledPackage> installedPackages(const json& installed, const fs::path& packages) {
+    std::vector<InstalledPackage> out;
+    const auto list = installed.find("packages");
+    if (list == installed.end() || !list->is_array()) {
+        return out;
+    }
+    for (const auto& entry : *list) {
+        if (entry.is_object() && entry.contains("name") && entry["name"].is_string() &&
+            entry.contains("version") && entry["version"].is_string()) {
+            out.push_back({fromUtf8(entry["name"].get<std::string>()),
+                           fromUtf8(entry["version"].get<std::string>())});
+        } else if (entry.is_string()) {
+            try {
+                const auto folder = fromUtf8(entry.get<std::string>());
+                checkName(folder);
+                const auto p = readManifest(packages / pathFromWide(folder), folder);
+                out.push_back({p.name, p.version});
+            } catch (const TarnApiException&) { // not a folder, or none that can be listed
+            }
+        } else {
+            storeUnusable(L"installed.json", L"a package entry is not {\"name\", \"version\"}");
+        }
+    }
+    return out;
+}
+
 std::wstring crcText(uint32_t crc) {
     wchar_t buffer[16];
     std::swprintf(buffer, 16, L"crc32:%08X", crc);
@@ -464,11 +499,11 @@ Resolved Broker::directory(const Sandbox& box, const std::wstring& relative) con
 std::vector<Package> UpdateStore::packages(const Sandbox& box, const Skipped& skipped) const {
     const json installed = readInstalled();
     auto out = listPackages(box, box.child(root_, L"packages"), root_.real, skipped);
+    const auto installedOnes = installedPackages(installed, path("packages"));
     for (auto& p : out) {
         p.downloaded = true;
-        for (const auto& name : installed.value("packages", json::array())) {
-            p.installed = p.installed ||
-                          (name.is_string() && fromUtf8(name.get<std::string>()) == p.storeName());
+        for (const auto& entry : installedOnes) {
+            p.installed = p.installed || (entry.name == p.name && entry.version == p.version);
         }
     }
     return out;
@@ -537,13 +572,14 @@ void UpdateStore::markInstalled(const Package& p) const {
     json installed = readInstalled();
     json kept = json::array();
     // One installed version per package name: the others are merely downloaded again.
-    for (const auto& name : installed.value("packages", json::array())) {
-        const auto text = name.is_string() ? fromUtf8(name.get<std::string>()) : L"";
-        if (text.rfind(p.name + L"-", 0) != 0) {
-            kept.push_back(name);
+    // Whole names: "tool" and "tool-extra" are two packages, however "<name>-<version>"
+    // reads.
+    for (const auto& entry : installedPackages(installed, path("packages"))) {
+        if (entry.name != p.name) {
+            kept.push_back({{"name", toUtf8(entry.name)}, {"version", toUtf8(entry.version)}});
         }
     }
-    kept.push_back(toUtf8(p.storeName()));
+    kept.push_back({{"name", toUtf8(p.name)}, {"version", toUtf8(p.version)}});
     installed["packages"] = kept;
     writeInstalled(installed);
 }
@@ -620,7 +656,7 @@ json UpdateStore::readInstalled() const {
 void UpdateStore::writeInstalled(const json& installed) const {
     json out = installed;
     out["format"] = "kel-update-store";
-    out["version"] = 1;
+    out["version"] = 2;
     writeJson(path("installed.json"), out);
 }
 

@@ -101,18 +101,17 @@ std::wstring stem(const std::wstring& name) {
 VehicleUpdateSettings VehicleUpdateSettings::parse(const nlohmann::json& section,
                                                    const nlohmann::json& root) {
     VehicleUpdateSettings settings;
+    // "name" and "version" stand at the top of the description, the rest in the section.
+    const char* where = "";
     try {
+        settings.vehicleName = textMember(root, "name");
+        settings.vehicleVersion = textMember(root, "version", settings.vehicleVersion);
+        where = "vehicleUpdate: ";
         settings.bytesPerSecond =
             static_cast<uint32_t>(wholeNumber(section, "bytesPerSecond", 4096, 1, 100000000));
-        settings.vehicleName = fromUtf8(root.value("name", std::string()));
-        const auto version = root.find("version");
-        if (version != root.end()) {
-            settings.vehicleVersion =
-                fromUtf8(version->is_string() ? version->get<std::string>() : version->dump());
-        }
     } catch (const std::exception& e) {
         throw TarnApiException(BadVehicleDescription, L"The vehicle description is not valid",
-                               fromUtf8(std::string("vehicleUpdate: ") + e.what()));
+                               fromUtf8(where + std::string(e.what())));
     }
     return settings;
 }

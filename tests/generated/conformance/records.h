@@ -1387,14 +1387,14 @@ inline void describe(Out& o, const ModuleDyn& r) {
     o.member("kind", r.kind);
     o.member("address", r.address);
     o.member("vendorModule", r.vendorModule);
-    o.member("connected", r.connected);
+    o.member("flag1", r.flag1);
     o.member("serialNumber", r.serialNumber);
     o.member("firmware", r.firmware);
     o.member("network", r.network);
     o.member("resources", r.resources, r.resourceCount);
     o.member("resourceCount", r.resourceCount);
     o.member("port", r.port);
-    o.member("exclusive", r.exclusive);
+    o.member("flag2", r.flag2);
     o.member("handle", r.handle);
     o.end();
 }
@@ -1406,13 +1406,13 @@ inline void build(const Json& j, ModuleDyn& r) {
     set(j.at("kind"), r.kind);
     set(j.at("address"), r.address);
     set(j.at("vendorModule"), r.vendorModule);
-    set(j.at("connected"), r.connected);
+    set(j.at("flag1"), r.flag1);
     set(j.at("serialNumber"), r.serialNumber);
     set(j.at("firmware"), r.firmware);
     set(j.at("network"), r.network);
     set(j.at("resources"), r.resources, r.resourceCount);
     set(j.at("port"), r.port);
-    set(j.at("exclusive"), r.exclusive);
+    set(j.at("flag2"), r.flag2);
     set(j.at("handle"), r.handle);
 }
 
@@ -1435,8 +1435,8 @@ inline void describe(Out& o, const DeviceInfo& r) {
     o.member("moduleCount", r.moduleCount);
     o.member("text8", r.text8);
     o.member("flag", r.flag);
+    o.member("handle", r.handle);
     o.member("value6", r.value6);
-    o.member("value7", r.value7);
     o.member("value8", r.value8);
     o.member("value9", r.value9);
     o.member("value10", r.value10);
@@ -1460,8 +1460,8 @@ inline void build(const Json& j, DeviceInfo& r) {
     set(j.at("modules"), r.modules, r.moduleCount);
     set(j.at("text8"), r.text8);
     set(j.at("flag"), r.flag);
+    set(j.at("handle"), r.handle);
     set(j.at("value6"), r.value6);
-    set(j.at("value7"), r.value7);
     set(j.at("value8"), r.value8);
     set(j.at("value9"), r.value9);
     set(j.at("value10"), r.value10);
