@@ -291,6 +291,27 @@ TEST(Utf8Encode, UnpairedSurrogatesBecomeReplacements) {
     EXPECT_EQ(fromUtf8("\xC0\xAF"), L"\uFFFD") << "an overlong slash";
 }
 
+// ---- faults inside the engine ------------------------------------------------------
+
+using EngineFaults = EngineTest;
+using kel_test::ErrorSlot;
+
+// Whatever a family throws leaves the engine as its internal error, with the fault's
+// text: the binding converts engine errors alone, so anything else ended the process.
+TEST_F(EngineFaults, AnExceptionThatIsNoEngineErrorBecomesTheInternalError) {
+    kelsim_throwNext("getState", 1, "broken \xFF invariant");
+    ErrorSlot error;
+    int32_t state = -7;
+    kel_getState(api, &error, &state);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 2301);
+    EXPECT_STREQ(error->details, L"broken \uFFFD invariant");
+    EXPECT_EQ(state, -7);
+    ErrorSlot next;
+    kel_getState(api, &next, &state);
+    EXPECT_FALSE(next) << "the engine goes on";
+}
+
 // ---- the local engine under py_call --------------------------------------------
 
 using PyCallConcurrency = EngineTest;

@@ -35,6 +35,11 @@ KEL_SIM_API void kelsim_failNextWithMvci(const char* operation, uint32_t count, 
                                          const wchar_t* vendorCodeText, const wchar_t* extraText,
                                          int32_t extraCode);
 
+/* The next `count` calls of `operation` throw, where the vehicle would be called, an
+ * exception that is not an engine error (a std::runtime_error with `what`), as a fault
+ * in a family would; the engine turns it into its internal error (2301). */
+KEL_SIM_API void kelsim_throwNext(const char* operation, uint32_t count, const char* what);
+
 /* Every call of `operation` first waits `milliseconds` (0 removes the delay). */
 KEL_SIM_API void kelsim_setDelay(const char* operation, uint32_t milliseconds);
 
