@@ -99,7 +99,8 @@ std::wstring fromUtf8(const std::string& text) {
 
 std::filesystem::path pathFromWide(const std::wstring& text) {
 #if defined(_WIN32)
-    return std::filesystem::path(text);
+    // The same name as on Linux: an unpaired surrogate is replaced here too.
+    return std::filesystem::path(fromUtf8(toUtf8(text)));
 #else
     const std::string utf8 = toUtf8(text);
     return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));
