@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <stdexcept>
 #include <utility>
 
 namespace Varno::Kel_cpp::Reference {
@@ -39,6 +40,8 @@ AsyncScript scriptFor(const std::string& operation) {
         script.failures = 0;
         script.failure.reset();
     }
+    script.faults = entry.faults > 0 ? 1 : 0;
+    entry.faults -= script.faults;
     return script;
 }
 
@@ -90,6 +93,14 @@ void scriptAsyncFailure(const std::string& operation, uint32_t count,
     auto& entry = s.byOperation[operation];
     entry.failures = count;
     entry.failure = std::move(error);
+}
+
+void scriptAsyncFault(const std::string& operation, uint32_t count, std::string what) {
+    auto& s = scripts();
+    const std::lock_guard lock(s.mutex);
+    auto& entry = s.byOperation[operation];
+    entry.faults = count;
+    entry.fault = std::move(what);
 }
 
 void resetAsyncScripts() {
@@ -273,6 +284,9 @@ void AsyncCalls::step(State& state, Call& call, std::unique_lock<std::mutex>& lo
     // the results of the steps before it go along.
     lock.unlock();
     try {
+        if (call.script.faults > 0 && !failure) {
+            throw std::runtime_error(call.script.fault); // kelsim_throwAsync
+        }
         call.collect(from, to, cancelled && call.prepared);
     } catch (...) {
         if (!failure) {

@@ -34,11 +34,14 @@ struct AsyncScript {
     uint32_t intervalMs = 5; // before each report
     uint32_t failures = 0;   // the next calls end with `failure`
     std::shared_ptr<KelError> failure;
+    uint32_t faults = 0; // the next calls' work throws a std::runtime_error with `fault`
+    std::string fault;
 };
 void scriptAsyncReports(const std::string& operation, uint32_t reports);
 void scriptAsyncInterval(const std::string& operation, uint32_t milliseconds);
 void scriptAsyncFailure(const std::string& operation, uint32_t count,
                         std::shared_ptr<KelError> error);
+void scriptAsyncFault(const std::string& operation, uint32_t count, std::string what);
 void resetAsyncScripts();
 
 class AsyncCalls {
