@@ -2,12 +2,14 @@
 
 #include "Describe.h"
 #include "ErrorCodes.h"
+#include "Script.h"
 #include "families/events/EventChannels.h"
 
 #include <Kel_cpp/TarnApiException.h>
 
 #include <algorithm>
 #include <atomic>
+#include <stdexcept>
 #include <utility>
 
 namespace Varno::Kel_cpp::Reference {
@@ -38,6 +40,8 @@ AsyncScript scriptFor(const std::string& operation) {
         script.failures = 0;
         script.failure.reset();
     }
+    script.faults = entry.faults > 0 ? 1 : 0;
+    entry.faults -= script.faults;
     return script;
 }
 
@@ -91,6 +95,14 @@ void scriptAsyncFailure(const std::string& operation, uint32_t count,
     entry.failure = std::move(error);
 }
 
+void scriptAsyncFault(const std::string& operation, uint32_t count, std::string what) {
+    auto& s = scripts();
+    const std::lock_guard lock(s.mutex);
+    auto& entry = s.byOperation[operation];
+    entry.faults = count;
+    entry.fault = std::move(what);
+}
+
 void resetAsyncScripts() {
     auto& s = scripts();
     const std::lock_guard lock(s.mutex);
@@ -130,11 +142,27 @@ AsyncCalls::~AsyncCalls() {
     }
     state_->wake.notify_all();
     for (const auto& call : waiting) {
-        call->deliver(0, 0, true, cancelledError(call->operation, call->id));
+        deliverFinal(*call, cancelledError(call->operation, call->id));
     }
     for (auto& worker : workers_) {
         worker.detach();
     }
+}
+
+// A callback that throws has nobody left to tell; the worker must go on for the others.
+void AsyncCalls::hand(Call& call, bool isFinal, std::shared_ptr<KelError> error) {
+    try {
+        call.hand(isFinal, std::move(error));
+    } catch (...) { // NOLINT(bugprone-empty-catch)
+    }
+}
+
+void AsyncCalls::deliverFinal(Call& call, std::shared_ptr<KelError> error) {
+    try {
+        call.collect(0, 0, false);
+    } catch (...) { // NOLINT(bugprone-empty-catch): nothing to collect, nothing to throw
+    }
+    hand(call, true, std::move(error));
 }
 
 uint64_t AsyncCalls::enqueue(const char* operation, std::shared_ptr<Call> call) {
@@ -225,8 +253,8 @@ void AsyncCalls::step(State& state, Call& call, std::unique_lock<std::mutex>& lo
         std::size_t results = 0;
         try {
             results = call.prepare();
-        } catch (const TarnApiException& exception) {
-            failure = errorOf(exception);
+        } catch (...) {
+            failure = errorOf(currentEngineError());
         }
         lock.lock();
         call.prepared = true;
@@ -252,6 +280,21 @@ void AsyncCalls::step(State& state, Call& call, std::unique_lock<std::mutex>& lo
         to = call.results * (k + 1) / call.reports;
         isFinal = k + 1 == call.reports;
     }
+    // The steps run outside the lock; one that throws ends the call with its error, and
+    // the results of the steps before it go along.
+    lock.unlock();
+    try {
+        if (call.script.faults > 0 && !failure) {
+            throw std::runtime_error(call.script.fault); // kelsim_throwAsync
+        }
+        call.collect(from, to, cancelled && call.prepared);
+    } catch (...) {
+        if (!failure) {
+            failure = errorOf(currentEngineError());
+        }
+        isFinal = true;
+    }
+    lock.lock();
     if (state.events != nullptr) {
         const auto detail = callDetail(call.operation, call.id);
         if (isFinal) {
@@ -266,13 +309,8 @@ void AsyncCalls::step(State& state, Call& call, std::unique_lock<std::mutex>& lo
         }
     }
     const uint64_t id = call.id;
-    const bool windUp = cancelled && call.prepared;
     lock.unlock();
-    if (windUp) {
-        call.deliverCancelled(failure);
-    } else {
-        call.deliver(from, to, isFinal, failure);
-    }
+    hand(call, isFinal, failure);
     lock.lock();
     if (isFinal) {
         state.calls.erase(id);

@@ -34,11 +34,14 @@ struct AsyncScript {
     uint32_t intervalMs = 5; // before each report
     uint32_t failures = 0;   // the next calls end with `failure`
     std::shared_ptr<KelError> failure;
+    uint32_t faults = 0; // the next calls' work throws a std::runtime_error with `fault`
+    std::string fault;
 };
 void scriptAsyncReports(const std::string& operation, uint32_t reports);
 void scriptAsyncInterval(const std::string& operation, uint32_t milliseconds);
 void scriptAsyncFailure(const std::string& operation, uint32_t count,
                         std::shared_ptr<KelError> error);
+void scriptAsyncFault(const std::string& operation, uint32_t count, std::string what);
 void resetAsyncScripts();
 
 class AsyncCalls {
@@ -97,16 +100,16 @@ public:
     std::size_t running() const;
 
 private:
+    // A report is made in two halves, so that what the work throws is caught on the
+    // worker before any callback runs: collect() runs the steps of results [from, to) (or
+    // the wind-up of a call cancelled after it was prepared) and may throw; hand() gives
+    // what was collected to the callback.
     struct Call {
         virtual ~Call() = default;
         // Runs the work; returns the number of results.
         virtual std::size_t prepare() = 0;
-        virtual void deliver(std::size_t from, std::size_t to, bool isFinal,
-                             std::shared_ptr<KelError> error) = 0;
-        // The final report of a call cancelled after its work was prepared.
-        virtual void deliverCancelled(std::shared_ptr<KelError> error) {
-            deliver(0, 0, true, std::move(error));
-        }
+        virtual void collect(std::size_t from, std::size_t to, bool windUp) = 0;
+        virtual void hand(bool isFinal, std::shared_ptr<KelError> error) = 0;
 
         uint64_t id = 0;
         std::string operation;
@@ -125,15 +128,18 @@ private:
         Callback* callback = nullptr;
         std::function<Results()> work;
         Results values;
+        Results slice;
         std::size_t prepare() override {
             values = work();
             return values.size();
         }
-        void deliver(std::size_t from, std::size_t to, bool isFinal,
-                     std::shared_ptr<KelError> error) override {
-            Results slice(values.begin() + static_cast<std::ptrdiff_t>(from),
-                          values.begin() + static_cast<std::ptrdiff_t>(to));
+        void collect(std::size_t from, std::size_t to, bool /*windUp*/) override {
+            slice.assign(values.begin() + static_cast<std::ptrdiff_t>(from),
+                         values.begin() + static_cast<std::ptrdiff_t>(to));
+        }
+        void hand(bool isFinal, std::shared_ptr<KelError> error) override {
             callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
+            slice.clear();
         }
     };
 
@@ -163,47 +169,39 @@ private:
             steps = plan();
             return steps.size();
         }
-        void deliver(std::size_t from, std::size_t to, bool isFinal,
-                     std::shared_ptr<KelError> error) override {
-            using Step = decltype(steps.front()());
-            if constexpr (IsOptional<Step>::value) {
-                // A step that has nothing to report (its work ended early) adds nothing.
-                std::vector<typename Step::value_type> slice;
-                for (std::size_t i = from; i < to; ++i) {
-                    if (auto result = steps[i]()) {
-                        slice.push_back(std::move(*result));
-                    }
-                }
-                callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
-            } else if constexpr (IsVector<Step>::value) {
-                // A step may report several results, or none.
-                Step slice;
-                for (std::size_t i = from; i < to; ++i) {
-                    for (auto& result : steps[i]()) {
-                        slice.push_back(std::move(result));
-                    }
-                }
-                callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
-            } else {
-                std::vector<Step> slice;
-                for (std::size_t i = from; i < to; ++i) {
-                    slice.push_back(steps[i]());
-                }
-                callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
-            }
-        }
         using Result = decltype(std::declval<Steps&>().front()());
         using Wound = std::conditional_t<
             IsVector<Result>::value, Result,
             std::vector<std::conditional_t<IsOptional<Result>::value,
                                            typename UnwrapOptional<Result>::type, Result>>>;
         std::function<Wound()> windUp;
-        void deliverCancelled(std::shared_ptr<KelError> error) override {
-            if (!windUp) {
-                deliver(0, 0, true, std::move(error));
+        Wound slice; // what a step that throws leaves here goes with the call's error
+        void collect(std::size_t from, std::size_t to, bool cancelled) override {
+            if (cancelled) {
+                if (windUp) {
+                    slice = windUp();
+                }
                 return;
             }
-            callback->onCompleted(windUp(), id, std::move(error), true);
+            for (std::size_t i = from; i < to; ++i) {
+                if constexpr (IsOptional<Result>::value) {
+                    // A step that has nothing to report (its work ended early) adds nothing.
+                    if (auto result = steps[i]()) {
+                        slice.push_back(std::move(*result));
+                    }
+                } else if constexpr (IsVector<Result>::value) {
+                    // A step may report several results, or none.
+                    for (auto& result : steps[i]()) {
+                        slice.push_back(std::move(result));
+                    }
+                } else {
+                    slice.push_back(steps[i]());
+                }
+            }
+        }
+        void hand(bool isFinal, std::shared_ptr<KelError> error) override {
+            callback->onCompleted(std::move(slice), id, std::move(error), isFinal);
+            slice.clear();
         }
     };
 
@@ -219,6 +217,8 @@ private:
     uint64_t enqueue(const char* operation, std::shared_ptr<Call> call);
     static void work(const std::shared_ptr<State>& state);
     static void step(State& state, Call& call, std::unique_lock<std::mutex>& lock);
+    static void hand(Call& call, bool isFinal, std::shared_ptr<KelError> error);
+    static void deliverFinal(Call& call, std::shared_ptr<KelError> error);
 
     std::shared_ptr<State> state_;
     std::vector<std::thread> workers_;

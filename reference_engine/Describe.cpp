@@ -5,6 +5,10 @@
 namespace Varno::Kel_cpp::Reference {
 namespace {
 
+constexpr char32_t replacement = 0xFFFD;
+
+bool isCharacter(char32_t c) { return c < 0xD800 || (c > 0xDFFF && c <= 0x10FFFF); }
+
 void append(std::string& out, char32_t c) {
     if (c < 0x80) {
         out += static_cast<char>(c);
@@ -25,7 +29,11 @@ void append(std::string& out, char32_t c) {
 
 } // namespace
 
-// wchar_t is UTF-16 on Windows (surrogate pairs joined) and UTF-32 elsewhere.
+// wchar_t is UTF-16 on Windows (surrogate pairs joined) and UTF-32 elsewhere. Text with
+// no UTF-8 form (an unpaired surrogate, a value above U+10FFFF) is replaced by U+FFFD, as
+// the binding's stream codec does: every family converts here, so the same wide text
+// gives the same UTF-8 whether it came through an export or a dispatcher, and nothing
+// downstream (the JSON writer, a file name) ever sees a byte sequence that is not UTF-8.
 std::string toUtf8(const std::wstring& text) {
     std::string out;
     out.reserve(text.size());
@@ -40,12 +48,13 @@ std::string toUtf8(const std::wstring& text) {
                 }
             }
         }
-        append(out, c);
+        append(out, isCharacter(c) ? c : replacement);
     }
     return out;
 }
 
-// Enough for configuration text: well-formed UTF-8 in, bad bytes become U+FFFD.
+// Bad bytes, encoded surrogates, overlong forms and values above U+10FFFF become U+FFFD,
+// so that what comes back from a file is always text toUtf8 writes back unchanged.
 std::wstring fromUtf8(const std::string& text) {
     std::wstring out;
     for (std::size_t i = 0; i < text.size();) {
@@ -61,7 +70,7 @@ std::wstring fromUtf8(const std::string& text) {
                 (static_cast<unsigned char>(text[i + static_cast<std::size_t>(k)]) & 0xC0) == 0x80;
         }
         if (!valid) {
-            out += static_cast<wchar_t>(0xFFFD);
+            out += static_cast<wchar_t>(replacement);
             ++i;
             continue;
         }
@@ -71,6 +80,10 @@ std::wstring fromUtf8(const std::string& text) {
                 (static_cast<unsigned char>(text[i + static_cast<std::size_t>(k)]) & 0x3F);
         }
         i += static_cast<std::size_t>(extra) + 1;
+        static constexpr char32_t shortest[] = {0, 0x80, 0x800, 0x10000};
+        if (!isCharacter(c) || c < shortest[extra]) {
+            c = replacement;
+        }
         if constexpr (sizeof(wchar_t) == 2) {
             if (c >= 0x10000) {
                 c -= 0x10000;
@@ -86,7 +99,8 @@ std::wstring fromUtf8(const std::string& text) {
 
 std::filesystem::path pathFromWide(const std::wstring& text) {
 #if defined(_WIN32)
-    return std::filesystem::path(text);
+    // The same name as on Linux: an unpaired surrogate is replaced here too.
+    return std::filesystem::path(fromUtf8(toUtf8(text)));
 #else
     const std::string utf8 = toUtf8(text);
     return std::filesystem::path(std::u8string(utf8.begin(), utf8.end()));

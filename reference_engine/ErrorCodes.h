@@ -168,6 +168,7 @@ enum ErrorCode : int32_t {
 
     // Lifecycle, continued: engine-wide conditions.
     DataRootUnavailable = 2300, // the data root cannot be created or used
+    InternalError = 2301,       // a fault of the engine, not of the call: the details say what
 
     // VehicleReports: 2400-2499.
     InvalidVin = 2400,            // not 17 digits and capital letters other than I, O and Q

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <condition_variable>
+#include <stdexcept>
 #include <thread>
 
 namespace Varno::Kel_cpp::Reference {
@@ -12,6 +13,24 @@ TarnApiException unsupported(const char* operation) {
     const std::wstring name = fromUtf8(operation);
     return {NotSupported, name + L": the simulated vehicle does not support this operation yet",
             L"operation " + name + L" belongs to a family the reference engine has not built"};
+}
+
+TarnApiException currentEngineError() {
+    try {
+        throw;
+    } catch (const TarnApiException& failure) {
+        return failure;
+    } catch (const std::exception& fault) {
+        return {InternalError, L"Internal error", fromUtf8(fault.what())};
+    } catch (...) {
+        return {InternalError, L"Internal error", L"an exception of an unknown type"};
+    }
+}
+
+void Script::Call::rethrow() {
+    TarnApiException failure = currentEngineError();
+    code_ = failure.code;
+    throw failure;
 }
 
 const std::shared_ptr<Script>& Script::global() {
@@ -32,13 +51,11 @@ Script::Call::Call(CallClock& clock, Script& script, const char* operation, std:
         if (clock.admit) {
             clock.admit(operation);
         }
-    } catch (const TarnApiException& failure) {
+    } catch (...) {
+        const TarnApiException failure = currentEngineError();
         code_ = failure.code;
         finish(true); // a failed call is still the previous call
-        throw;
-    } catch (...) {
-        finish(true);
-        throw;
+        throw failure;
     }
 }
 
@@ -80,6 +97,13 @@ void Script::failNext(const std::string& operation, uint32_t count,
     auto& entry = entries_[operation];
     entry.failures = count;
     entry.failure = exception;
+}
+
+void Script::throwNext(const std::string& operation, uint32_t count, std::string what) {
+    const std::lock_guard lock(mutex_);
+    auto& entry = entries_[operation];
+    entry.faults = count;
+    entry.fault = std::move(what);
 }
 
 void Script::setDelay(const std::string& operation, std::chrono::milliseconds delay) {
@@ -143,6 +167,10 @@ std::string Script::lastScriptError() const {
 std::optional<std::any> Script::takeResult(const char* operation) {
     const std::lock_guard lock(mutex_);
     const auto found = entries_.find(std::string_view(operation));
+    if (found != entries_.end() && found->second.faults > 0) {
+        --found->second.faults;
+        throw std::runtime_error(found->second.fault);
+    }
     if (found == entries_.end() || found->second.results.empty()) {
         return std::nullopt;
     }

@@ -28,6 +28,12 @@ namespace Varno::Kel_cpp::Reference {
 // The exception an operation of a family the simulated vehicle does not have yet throws.
 TarnApiException unsupported(const char* operation);
 
+// The exception in flight (call it inside a catch block) as an engine error. Callers
+// catch TarnApiException alone (the binding converts nothing else), so anything else a
+// family throws becomes InternalError with its text in the details: the process survives
+// the fault, and the call says what it was.
+TarnApiException currentEngineError();
+
 // How the scripted result of one operation is read: the generated table has one entry
 // per operation. `parse` turns the JSON text into the value the operation returns (for
 // an asynchronous operation: the results its callback receives; for a void one: an
@@ -107,6 +113,9 @@ public:
 
         // The call is ending with the engine error `code` (the exception is on its way).
         void failedWith(int32_t code) { code_ = code; }
+        // Ends the call with the exception in flight (inside a catch block), as an engine
+        // error: currentEngineError().
+        [[noreturn]] void rethrow();
 
     private:
         void finish(bool failed);
@@ -127,6 +136,9 @@ public:
 
     // The next `count` calls of `operation` throw `exception` before reaching the vehicle.
     void failNext(const std::string& operation, uint32_t count, const TarnApiException& exception);
+    // The next `count` calls of `operation` throw a std::runtime_error with `what` where the
+    // vehicle would be called, as a fault in a family would.
+    void throwNext(const std::string& operation, uint32_t count, std::string what);
     // Every call of `operation` first waits this long.
     void setDelay(const std::string& operation, std::chrono::milliseconds delay);
     std::optional<std::string> lastArguments(const std::string& operation) const;
@@ -171,6 +183,8 @@ private:
         std::string lastArguments;
         uint32_t failures = 0;
         TarnApiException failure;
+        uint32_t faults = 0; // throwNext
+        std::string fault;
         std::chrono::milliseconds delay{0};
         std::deque<std::any> results; // scripted, oldest first
     };

@@ -52,6 +52,10 @@ void kelsim_failNextWithMvci(const char* operation, uint32_t count, int32_t code
                                TarnApiException(code, text(message), text(details), subCode, mvci));
 }
 
+void kelsim_throwNext(const char* operation, uint32_t count, const char* what) {
+    Script::global()->throwNext(operation, count, what != nullptr ? what : "");
+}
+
 void kelsim_setDelay(const char* operation, uint32_t milliseconds) {
     Script::global()->setDelay(operation, std::chrono::milliseconds(milliseconds));
 }

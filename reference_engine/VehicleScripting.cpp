@@ -59,6 +59,10 @@ void kelsim_failAsync(const char* operation, uint32_t count, int32_t code, const
     scriptAsyncFailure(operation, count, std::move(error));
 }
 
+void kelsim_throwAsync(const char* operation, uint32_t count, const char* what) {
+    scriptAsyncFault(operation, count, what != nullptr ? what : "");
+}
+
 int64_t kelsim_runningAsyncCalls(uint64_t handle) {
     const auto vehicle = vehicleByHandle(handle);
     return vehicle ? static_cast<int64_t>(vehicle->async.running()) : -1;

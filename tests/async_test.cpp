@@ -293,6 +293,26 @@ TEST_F(AsyncConcurrency, ScriptedFailureArrivesInTheFinalReport) {
     EXPECT_EQ(failed, 1) << "only the next call fails";
 }
 
+// A fault in the work (an exception that is no engine error) ends that call with the
+// internal error on its worker; it ended the process. The next call is served as ever.
+TEST_F(AsyncConcurrency, AFaultInTheWorkEndsTheCallNotTheProcess) {
+    kelsim_throwAsync("identifyAllTargetsAsync", 1, "broken");
+    IdentCollector collector;
+    ErrorSlot error;
+    kel_identifyAllTargetsAsync(api, &error, IdentCollector::callback, &collector);
+    kel_identifyAllTargetsAsync(api, &error, IdentCollector::callback, &collector);
+    ASSERT_FALSE(error);
+    ASSERT_TRUE(collector.waitForFinals(2));
+    std::vector<int32_t> finals;
+    for (const auto& r : collector.reports()) {
+        if (r.isFinal) {
+            finals.push_back(r.errorCode);
+        }
+    }
+    std::sort(finals.begin(), finals.end());
+    EXPECT_EQ(finals, (std::vector<int32_t>{0, 2301}));
+}
+
 TEST_F(AsyncConcurrency, AsyncClearsChangeTheFaultMemory) {
     ClearCollector collector;
     ErrorSlot error;

@@ -775,6 +775,72 @@ void asyncFailure(TarnApi* api, std::span<const Case> cases) {
     }
 }
 
+// ---- text with no UTF-8 form -----------------------------------------------------------------
+
+// The engine error a fault inside the engine becomes (ErrorCodes.h): text, whatever it
+// holds, must be handled by the engine's rule for it, never by its net for faults.
+constexpr int32_t internalError = 2301;
+
+// The inputs as given (\\udc00 and \\ud800 read as lone UTF-16 units) and, with 32-bit
+// wchar_t, with a value above U+10FFFF where the high surrogate was (the JSON reader
+// takes F4 90 80 80 as it is).
+inline std::vector<std::string> noUtf8Forms(const char* inputs) {
+    std::vector<std::string> forms{inputs};
+    if constexpr (sizeof(wchar_t) == 4) {
+        std::string beyond = inputs;
+        for (std::size_t at = beyond.find("\\ud800"); at != std::string::npos;
+             at = beyond.find("\\ud800", at)) {
+            beyond.replace(at, 6, "\xF4\x90\x80\x80");
+        }
+        forms.push_back(std::move(beyond));
+    }
+    return forms;
+}
+
+// Each call returns, normally or with an engine error of its own; the process survives.
+template <class Op>
+void noUtf8(TarnApi* api, std::span<const char* const> cases) {
+    for (const char* inputs : cases) {
+        for (const std::string& form : noUtf8Forms(inputs)) {
+            SCOPED_TRACE(form);
+            typename Op::Result out;
+            fillCanary(out);
+            KelError* error = nullptr;
+            Op::call(api, Json::parse(form), &error, out);
+            if (error != nullptr) {
+                EXPECT_NE(error->code, internalError) << errorView(error);
+                release_KelError(error);
+            } else {
+                out.release();
+            }
+        }
+    }
+}
+
+// The asynchronous form: refused at once, or started and ended by a final report.
+template <class Op>
+void asyncNoUtf8(TarnApi* api, std::span<const char* const> cases) {
+    for (const char* inputs : cases) {
+        for (const std::string& form : noUtf8Forms(inputs)) {
+            SCOPED_TRACE(form);
+            typename Op::Reports reports;
+            KelError* error = nullptr;
+            const uint64_t id = Op::call(api, Json::parse(form), &error, reports);
+            if (error != nullptr) {
+                EXPECT_NE(error->code, internalError) << errorView(error);
+                release_KelError(error);
+                continue;
+            }
+            ASSERT_NE(id, 0U);
+            ASSERT_TRUE(reports.waitFinal(reportLimit)) << "no final report";
+            const std::lock_guard lock(reports.mutex);
+            EXPECT_EQ(reports.error.find("\"code\":" + std::to_string(internalError)),
+                      std::string::npos)
+                << reports.error;
+        }
+    }
+}
+
 // ---- by number -------------------------------------------------------------------------------
 
 struct Streamed {

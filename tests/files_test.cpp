@@ -7,6 +7,7 @@
 #include <OTXStream.h>
 #include <algorithm>
 #include <atomic>
+#include <barrier>
 #include <chrono>
 #include <condition_variable>
 #include <cstring>
@@ -729,6 +730,42 @@ TEST_F(FilesTest, ReadAndWriteRealFilesWithOffsetsModesAndNonAsciiNames) {
     EXPECT_GT(info->value3, 1600000000000ULL);        // milliseconds since 1970
     EXPECT_EQ(std::wstring(info->text2).size(), 20U); // 2026-11-22T07:42:00Z
     release_FileInfo(info);
+}
+
+using FilesConcurrency = FilesTest;
+
+// Two writers creating one new file at the same moment: exactly one is told it created
+// the file, and the file holds that writer's data (a check before a replacing rename let
+// both through now and then, and one writer's data was lost).
+TEST_F(FilesConcurrency, OfTwoWritersCreatingOneFileExactlyOneWins) {
+    constexpr int rounds = 300;
+    std::barrier start(2);
+    std::vector<int32_t> codes[2];
+    // Enough data that writing it takes longer than the writers' start differs.
+    const std::string data[] = {std::string(4 * 1024, 'A'), std::string(4 * 1024, 'B')};
+    const auto writer = [&](int id) {
+        const auto* bytes = reinterpret_cast<const uint8_t*>(data[id].data());
+        for (int round = 0; round < rounds; ++round) {
+            const std::wstring path = L"exchange/race-" + std::to_wstring(round);
+            start.arrive_and_wait();
+            ErrorSlot error;
+            uint32_t written = 0;
+            kel_writeFile(api, path.c_str(), bytes, 4 * 1024, 2, 0, &error, &written);
+            codes[id].push_back(error ? error->code : 0);
+        }
+    };
+    std::thread other(writer, 1);
+    writer(0);
+    other.join();
+    for (int round = 0; round < rounds; ++round) {
+        SCOPED_TRACE(round);
+        const int32_t first = codes[0][static_cast<std::size_t>(round)];
+        const int32_t second = codes[1][static_cast<std::size_t>(round)];
+        EXPECT_EQ((first == 0) + (second == 0), 1) << first << " " << second;
+        EXPECT_EQ(first + second, Exists);
+        const auto file = real(L"exchange/race-" + std::to_wstring(round));
+        EXPECT_TRUE(contents(file) == data[first == 0 ? 0 : 1]) << "not the winner's data";
+    }
 }
 
 TEST_F(FilesTest, AnEmptyFileIsReadIntoAnAllocatedBuffer) {

@@ -3,6 +3,7 @@
 // thread restarts it.
 #include "support.h"
 
+#include <Describe.h>
 #include <OTXStream.h>
 #include <atomic>
 #include <cstring>
@@ -267,18 +268,48 @@ TEST(Utf8Decode, EachMaximalSubpartBecomesOneReplacement) {
 }
 
 // Wide text that is no character (an unpaired surrogate) becomes U+FFFD, never a
-// three-byte encoding of the surrogate.
+// three-byte encoding of the surrogate: in the binding's codec and in the engine's, which
+// every family converts through (its JSON writer throws on anything but UTF-8).
 TEST(Utf8Encode, UnpairedSurrogatesBecomeReplacements) {
     const std::string replacement = "\xEF\xBF\xBD";
-    EXPECT_EQ(kel::utf8::encode(std::wstring{static_cast<wchar_t>(0xD800)}), replacement);
-    EXPECT_EQ(kel::utf8::encode(std::wstring{L'a', static_cast<wchar_t>(0xDC00), L'b'}),
-              "a" + replacement + "b");
-    EXPECT_EQ(
-        kel::utf8::encode(std::wstring{static_cast<wchar_t>(0xDC00), static_cast<wchar_t>(0xD800)}),
-        replacement + replacement);
-    if constexpr (sizeof(wchar_t) == 4) {
-        EXPECT_EQ(kel::utf8::encode(std::wstring{static_cast<wchar_t>(0x110000)}), replacement);
+    const auto high = static_cast<wchar_t>(0xD800);
+    const auto low = static_cast<wchar_t>(0xDC00);
+    for (auto* encode :
+         {+[](const std::wstring& t) { return kel::utf8::encode(t); },
+          +[](const std::wstring& t) { return Varno::Kel_cpp::Reference::toUtf8(t); }}) {
+        EXPECT_EQ(encode(std::wstring{high}), replacement);
+        EXPECT_EQ(encode(std::wstring{L'a', low, L'b'}), "a" + replacement + "b");
+        EXPECT_EQ(encode(std::wstring{low, high}), replacement + replacement);
+        if constexpr (sizeof(wchar_t) == 4) {
+            EXPECT_EQ(encode(std::wstring{static_cast<wchar_t>(0x110000)}), replacement);
+        }
     }
+    // Nor does the engine read a surrogate or a value above U+10FFFF back from a file.
+    using Varno::Kel_cpp::Reference::fromUtf8;
+    EXPECT_EQ(fromUtf8("a\xED\xA0\x80"), L"a\uFFFD");
+    EXPECT_EQ(fromUtf8("\xF4\x90\x80\x80"), L"\uFFFD");
+    EXPECT_EQ(fromUtf8("\xC0\xAF"), L"\uFFFD") << "an overlong slash";
+}
+
+// ---- faults inside the engine ------------------------------------------------------
+
+using EngineFaults = EngineTest;
+using kel_test::ErrorSlot;
+
+// Whatever a family throws leaves the engine as its internal error, with the fault's
+// text: the binding converts engine errors alone, so anything else ended the process.
+TEST_F(EngineFaults, AnExceptionThatIsNoEngineErrorBecomesTheInternalError) {
+    kelsim_throwNext("getState", 1, "broken \xFF invariant");
+    ErrorSlot error;
+    int32_t state = -7;
+    kel_getState(api, &error, &state);
+    ASSERT_TRUE(error);
+    EXPECT_EQ(error->code, 2301);
+    EXPECT_STREQ(error->details, L"broken \uFFFD invariant");
+    EXPECT_EQ(state, -7);
+    ErrorSlot next;
+    kel_getState(api, &next, &state);
+    EXPECT_FALSE(next) << "the engine goes on";
 }
 
 // ---- the local engine under py_call --------------------------------------------

@@ -6,12 +6,17 @@
 // so that they also run under ThreadSanitizer.
 #include "support.h"
 
+#include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstring>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <mutex>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace {
@@ -614,6 +619,58 @@ TEST_F(Interfaces, SavedConfigurationIsWhatTheNextEngineStartsWith) {
     EXPECT_EQ(restarted[0].name, L"VCI1");
     EXPECT_EQ(restarted[1].name, L"WVCI-7");
 
+    kelsim_setDataRoot(L"");
+    std::filesystem::remove_all(root);
+}
+
+// Saves are written beside and renamed over: a reader never finds the file empty or cut
+// short, even while saves follow each other. A name with no UTF-8 form is saved with
+// U+FFFD in its place (writing it cut the file to 0 bytes and ended the process).
+TEST_F(InterfacesConcurrency, SavedConfigurationIsAlwaysWholeAndKeepsReplacedText) {
+    const auto root = freshTempPath("kel_interfaces_test");
+    kelsim_setDataRoot(root.wstring().c_str());
+    const std::wstring name{L'V', L'C', L'I', static_cast<wchar_t>(0xD800)};
+    auto* info = zeroed<InterfaceInformation>();
+    for (wchar_t** text : {&info->itemText1, &info->itemText2, &info->itemText3, &info->itemText4,
+                           &info->text1, &info->text2}) {
+        *text = dup(text == &info->itemText1 ? name.c_str() : L"");
+    }
+    ErrorSlot error;
+    InterfaceInformation* added = nullptr;
+    kel_addInterface(api, info, L"", L"", L"", &error, &added);
+    ASSERT_FALSE(error);
+    release_InterfaceInformation(added);
+
+    const auto file = root / "interfaces" / "configuration.json";
+    std::atomic<bool> saving{true};
+    std::atomic<int> reads{0};
+    std::atomic<int> partial{0};
+    kel_saveInterfaceConfiguration(api, &error);
+    ASSERT_FALSE(error);
+    std::thread reader([&] {
+        while (saving) {
+            std::ifstream in(file, std::ios::binary);
+            const std::string text((std::istreambuf_iterator<char>(in)), {});
+            partial += text.empty() || text.back() != '}' ? 1 : 0;
+            ++reads;
+        }
+    });
+    for (int i = 0; i < 200; ++i) {
+        ErrorSlot again;
+        kel_saveInterfaceConfiguration(api, &again);
+        EXPECT_FALSE(again);
+    }
+    saving = false;
+    reader.join();
+    EXPECT_EQ(partial, 0) << "of " << reads << " reads";
+
+    releaseTarnApi(api);
+    kelsim_restart();
+    api = kel_getTarnApi();
+    kel_initialize(api, &error);
+    const auto restarted = scan(api, {});
+    EXPECT_TRUE(std::any_of(restarted.begin(), restarted.end(),
+                            [](const Scan& s) { return s.name == L"VCI\uFFFD"; }));
     kelsim_setDataRoot(L"");
     std::filesystem::remove_all(root);
 }

@@ -379,6 +379,23 @@ TEST_F(Servers, UsersAndUserManagementSurviveARestart) {
               UsersUnreadable);
 }
 
+// Names and passwords with no UTF-8 form (an unpaired surrogate) are stored with U+FFFD
+// in their place, the engine's one rule for such text (they ended the process); the
+// password given the same way still logs in.
+TEST_F(Servers, TextWithNoUtf8FormIsStoredWithReplacements) {
+    const std::wstring name{L'A', static_cast<wchar_t>(0xD800), L'n'};
+    const std::wstring secret{L'p', static_cast<wchar_t>(0xDC00)};
+    ASSERT_EQ(addUser(api, name.c_str(), secret.c_str(), Administrator), 0);
+    EXPECT_EQ(code([&](KelError** e) {
+                  kel_updateUser(api, name.c_str(), name.c_str(), secret.c_str(), Operator, e);
+              }),
+              0);
+    restart(); // the users file was written whole
+    EXPECT_EQ((users(api)),
+              (std::vector<std::pair<std::wstring, uint32_t>>{{L"A\uFFFDn", Operator}}));
+    EXPECT_EQ(logIn(remote(), L"A\uFFFDn", secret.c_str()), 0);
+}
+
 TEST_F(Servers, NoPasswordAppearsInResultsEventsTracesRecordsOrFiles) {
     const uint64_t channel = openChannel();
     auto recorder = std::make_shared<Vutil::TraceRecorder>();

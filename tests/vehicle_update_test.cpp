@@ -867,6 +867,8 @@ TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
     put(root / "reports" / "r1.json",
         R"({"format": "kel report 1", "vehicle": {"vin": "WVWZZZ1KZ8W000417"}, "units": []})");
     put(root / "reports" / "lonely.html", "<html>no twin</html>");
+    std::wstring details; // of the last refusal
+    std::wstring comment = L"after the update";
     const auto upload = [&](const wchar_t* file, const wchar_t* folder, const wchar_t* name,
                             bool overwrite, bool twin) {
         auto* c = record<UploadReportConfiguration>();
@@ -875,11 +877,12 @@ TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
         c->name = dup(name);
         c->vin = dup(L"");
         c->user = dup(L"meister");
-        c->comment = dup(L"after the update");
+        c->comment = dup(comment.c_str());
         c->overwrite = overwrite ? 1 : 0;
         c->withTwin = twin ? 1 : 0;
         ErrorSlot error;
         kel_uploadReport(api, c, &error);
+        details = error ? error->details : L"";
         return error ? error->code : 0;
     };
     ASSERT_EQ(upload(L"reports/r1.html", L"", L"", false, true), 0);
@@ -907,9 +910,36 @@ TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
     EXPECT_EQ(upload(L"reports/lonely.html", L"", L"", false, true), 2213);
     EXPECT_FALSE(fs::exists(root / "broker" / "reports" / "lonely.html"));
     EXPECT_EQ(upload(L"reports/r1.html", L"../exchange", L"", false, false), 1606);
+    EXPECT_EQ(details, L"../exchange") << "the folder as given, no stand-in of the engine's";
     EXPECT_EQ(upload(L"reports/r1.html", L"", L"../x.html", false, false), 1600);
     EXPECT_EQ(upload(L"../outside/secret.txt", L"", L"", false, false), 1606);
     EXPECT_EQ(upload(L"reports/none.html", L"", L"", false, false), 1609);
+
+    // The broker's own files are no reports: its root is not a report folder, nor is the
+    // log's name a report's (an upload there replaced the log).
+    const std::string logBefore = read(root / "broker" / "uploads.jsonl");
+    EXPECT_EQ(upload(L"reports/r1.html", L".", L"uploads.jsonl", true, false), 2211);
+    EXPECT_EQ(upload(L"reports/r1.html", L"./", L"r2.html", true, false), 2211);
+    EXPECT_EQ(upload(L"reports/r1.html", L"reports", L"uploads.jsonl", true, false), 2211);
+    EXPECT_EQ(read(root / "broker" / "uploads.jsonl"), logBefore);
+
+    // Text with no UTF-8 form is logged with U+FFFD (it ended the process, the report
+    // copied and its line unwritten).
+    comment = std::wstring{L'n', static_cast<wchar_t>(0xDC00)};
+    EXPECT_EQ(upload(L"reports/r1.html", L"", L"r3.html", false, false), 0);
+    EXPECT_NE(read(root / "broker" / "uploads.jsonl").find("\"comment\":\"n\xEF\xBF\xBD\""),
+              std::string::npos);
+
+    // A line that cannot be written undoes the upload: a new report goes again, a
+    // replaced one comes back, and nothing is left beside them.
+    fs::remove(root / "broker" / "uploads.jsonl");
+    fs::create_directory(root / "broker" / "uploads.jsonl");
+    put(root / "reports" / "r1.html", "<html>third</html>");
+    EXPECT_EQ(upload(L"reports/r1.html", L"", L"r4.html", false, false), 1611);
+    EXPECT_EQ(upload(L"reports/r1.html", L"", L"r3.html", true, false), 1611);
+    EXPECT_FALSE(fs::exists(root / "broker" / "reports" / "r4.html"));
+    EXPECT_EQ(read(root / "broker" / "reports" / "r3.html"), "<html>second</html>");
+    EXPECT_EQ(std::distance(fs::directory_iterator(root / "broker" / "reports"), {}), 3);
 }
 
 } // namespace

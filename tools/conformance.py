@@ -13,7 +13,9 @@ Standard library only; called by tools/generate.py.
 
 from __future__ import annotations
 
+import copy
 import dataclasses
+import json
 import struct
 
 import kelidl
@@ -889,10 +891,80 @@ def family_file(iface: kelidl.Interface, family: str, ops: list[kelidl.Operation
             out += cases_table(op, cases)
         if iface.exported(op):
             out += export_block(iface, op, cases, family)
+            out += surrogate_block(iface, op, family)
         if op.otx is not None:
             out += number_block(iface, op, cases, family)
     out += ["} // namespace"]
     return "\n".join(out) + "\n"
+
+
+# ---- text with no UTF-8 form -------------------------------------------------------------
+
+# Stand-ins for an unpaired low and high surrogate while a case's JSON is built; the
+# C++ side reads the \\u escapes they become as the lone UTF-16 units (and, with 32-bit
+# wchar_t, also puts a value above U+10FFFF where the high one was).
+LONE_LOW, LONE_HIGH = "\ufdd0", "\ufdd1"
+
+
+def text_slots(value, key: tuple = ()) -> list[tuple[tuple, list]]:
+    """The wide strings among C inputs given as JSON (every string there is one): each as
+    (what kind of string it is, its place), the first of each kind only, so that a tree
+    of records adds a case per member rather than per node."""
+    found: list[tuple[tuple, list]] = []
+    seen: set[tuple] = set()
+
+    def walk(v, kind: tuple, place: list) -> None:
+        if isinstance(v, str):
+            if kind not in seen:
+                seen.add(kind)
+                found.append((kind, place))
+        elif isinstance(v, list):
+            for i, e in enumerate(v):
+                walk(e, kind + ("[]",), place + [i])
+        elif isinstance(v, dict):
+            for name, e in v.items():
+                walk(e, (name,), place + [name])
+
+    walk(value, key, [])
+    return found
+
+
+def surrogate_inputs(iface: kelidl.Interface, op: kelidl.Operation, salt: int) -> list[str]:
+    """The full variant's C inputs once per wide-string input (also inside records and
+    string lists), that string framed by an unpaired low and high surrogate."""
+    model = Model(iface, VARIANTS[0], salt)
+    params = [model.param(p) for p in op.params]
+    inputs = [json.loads(c_param_json(iface, p, x, model.source)) for p, x in zip(op.params, params)]
+    out = []
+    for i in range(len(inputs)):
+        for _, place in text_slots(inputs[i], (i,)):
+            changed = copy.deepcopy(inputs)
+            holder = changed[i] if place else changed
+            at = place[-1] if place else i
+            for step in place[:-1]:
+                holder = holder[step]
+            holder[at] = LONE_LOW + holder[at] + LONE_HIGH
+            text = json.dumps(changed, ensure_ascii=False, separators=(",", ":"))
+            out.append(text.replace(LONE_LOW, "\\udc00").replace(LONE_HIGH, "\\ud800"))
+    return out
+
+
+def surrogate_block(iface: kelidl.Interface, op: kelidl.Operation, family: str) -> list[str]:
+    """Every wide-string input of the export (and of its asynchronous form) with text that
+    has no UTF-8 form: each call returns, normally or with an engine error."""
+    inputs = surrogate_inputs(iface, op, op.position)
+    if not inputs:
+        return []
+    table = f"k{ident(op.name)}NoUtf8"
+    out = [f"const char* const {table}[] = {{"]
+    out += [f"    {c_string(text, '    ')}," for text in inputs]
+    out += ["};", f"TEST_F({family}, {op.name}_TextWithNoUtf8Form) {{ "
+            f"kc::noUtf8<{ident(op.name)}Export>(api, {table}); }}"]
+    for a in iface.operations:
+        if a.is_async and a.sync is op and iface.exported(a):
+            out.append(f"TEST_F({family}, {a.name}_TextWithNoUtf8Form) {{ "
+                       f"kc::asyncNoUtf8<{ident(a.name)}Export>(api, {table}); }}")
+    return out + [""]
 
 
 def c_members(iface: kelidl.Interface, rec: kelidl.Record) -> list:

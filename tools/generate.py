@@ -739,14 +739,20 @@ def engine_front_cpp(iface: kelidl.Interface) -> str:
         out.append(f"{ret} EngineFront::{op.name}({rest} {{")
         out.append(f'    auto call = script_->enter(*clock_, "{op.name}"' +
                    "".join(f", {n}" for n in recorded) + ");")
-        # The call's error code reaches the API trace; the exception goes on as it came.
+        # Every exception leaves as an engine error, its code in the API trace (front_catch).
         out.append("    try {")
         out += ["    " + line for line in scripted_return(op)]
         out.append(f"        return vehicle_->{op.name}({', '.join(names)});")
-        out += ["    } catch (const TarnApiException& failure) {",
-                "        call.failedWith(failure.code);", "        throw;", "    }", "}"]
+        out += front_catch()
     out += ["", f"}} // namespace {ENGINE_NS}::Reference"]
     return "\n".join(out) + "\n"
+
+
+def front_catch() -> list[str]:
+    """The end of every call of the engine front: whatever the family threw leaves as an
+    engine error (the binding catches nothing else), and the call's error code reaches the
+    API trace."""
+    return ["    } catch (...) {", "        call.rethrow();", "    }", "}"]
 
 
 def family_class(family: str) -> str:

@@ -27,8 +27,12 @@ def read_texts(b: bytes, p: int) -> tuple[list[str], int]:
 
 
 def write_text(o: bytearray, text: str) -> None:
-    """Input strings travel NUL-terminated, so a NUL inside cannot travel."""
-    data = text.encode()
+    """Input strings travel NUL-terminated, so a NUL inside cannot travel. An unpaired
+    surrogate has no UTF-8 form: U+FFFD takes its place, as in the engine and the library."""
+    try:
+        data = text.encode()
+    except UnicodeEncodeError:
+        data = "".join("\ufffd" if "\ud800" <= c <= "\udfff" else c for c in text).encode()
     if b"\0" in data:
         raise ValueError(f"a text with a NUL character cannot be passed: {text!r}")
     o += data

@@ -8,7 +8,7 @@ import unittest
 import kel
 from kel.generated import stream
 
-from .support import EngineTest, script, sim
+from .support import EngineTest, last_arguments, script, sim
 
 
 class TypicalPath(EngineTest):
@@ -143,6 +143,11 @@ class Errors(EngineTest):
         with self.assertRaises(ValueError):
             self.engine.identify_target("EC\0M")
         self.assertEqual(sim.kelsim_callCount(b"identifyTarget"), 0)
+
+    def test_an_unpaired_surrogate_travels_as_a_replacement(self) -> None:
+        # It has no UTF-8 form; encoding it raised before the call was made.
+        self.engine.identify_target("EC\udc00M")
+        self.assertEqual(last_arguments("identifyTarget"), ["EC\ufffdM"])
 
     def test_the_stream_reader_needs_no_more_than_the_result(self) -> None:
         # Every record ends exactly where the next begins: a list read whole leaves nothing.

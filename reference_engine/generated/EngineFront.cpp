@@ -17,9 +17,8 @@ void EngineFront::initialize() {
             return;
         }
         return vehicle_->initialize();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::end() {
@@ -29,9 +28,8 @@ void EngineFront::end() {
             return;
         }
         return vehicle_->end();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::startServer(const std::wstring& name) {
@@ -41,9 +39,8 @@ std::wstring EngineFront::startServer(const std::wstring& name) {
             return std::move(*scripted);
         }
         return vehicle_->startServer(name);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::stopServer(const std::wstring& reason) {
@@ -53,9 +50,8 @@ void EngineFront::stopServer(const std::wstring& reason) {
             return;
         }
         return vehicle_->stopServer(reason);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::restartServer(int32_t endClients) {
@@ -65,9 +61,8 @@ void EngineFront::restartServer(int32_t endClients) {
             return;
         }
         return vehicle_->restartServer(endClients);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<ProjectConfig>
@@ -79,9 +74,8 @@ EngineFront::getProjectConfiguration(const std::wstring& projectName) {
             return std::move(*scripted);
         }
         return vehicle_->getProjectConfiguration(projectName);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setProjectConfiguration(const std::wstring& projectName,
@@ -92,9 +86,8 @@ void EngineFront::setProjectConfiguration(const std::wstring& projectName,
             return;
         }
         return vehicle_->setProjectConfiguration(projectName, config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::saveProjectConfiguration(const std::wstring& projectName) {
@@ -104,9 +97,8 @@ void EngineFront::saveProjectConfiguration(const std::wstring& projectName) {
             return;
         }
         return vehicle_->saveProjectConfiguration(projectName);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::createMonitoringLink(const std::wstring& name) {
@@ -116,9 +108,8 @@ uint64_t EngineFront::createMonitoringLink(const std::wstring& name) {
             return std::move(*scripted);
         }
         return vehicle_->createMonitoringLink(name);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<MonitoringItem>>
@@ -130,9 +121,8 @@ EngineFront::getMonitoringItems(uint64_t handle, uint32_t value1, int32_t value2
             return std::move(*scripted);
         }
         return vehicle_->getMonitoringItems(handle, value1, value2);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::releaseMonitoringLink(uint64_t handle) {
@@ -142,9 +132,8 @@ void EngineFront::releaseMonitoringLink(uint64_t handle) {
             return;
         }
         return vehicle_->releaseMonitoringLink(handle);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<PduMonitoringItem>>
@@ -156,9 +145,8 @@ EngineFront::getPduMonitoringItems(uint64_t handle, uint32_t value1, int32_t val
             return std::move(*scripted);
         }
         return vehicle_->getPduMonitoringItems(handle, value1, value2);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::createPduMonitor() {
@@ -168,9 +156,8 @@ uint64_t EngineFront::createPduMonitor() {
             return std::move(*scripted);
         }
         return vehicle_->createPduMonitor();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::saveConfiguration() {
@@ -180,9 +167,8 @@ void EngineFront::saveConfiguration() {
             return;
         }
         return vehicle_->saveConfiguration();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::releasePduMonitor(uint64_t handle) {
@@ -192,9 +178,8 @@ void EngineFront::releasePduMonitor(uint64_t handle) {
             return;
         }
         return vehicle_->releasePduMonitor(handle);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<VariantIdentResult>> EngineFront::identifyAllTargets() {
@@ -205,9 +190,8 @@ std::vector<std::shared_ptr<VariantIdentResult>> EngineFront::identifyAllTargets
             return std::move(*scripted);
         }
         return vehicle_->identifyAllTargets();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::identifyAllTargetsAsync(IdentifyAllTargetsCallback* callback) {
@@ -218,9 +202,8 @@ uint64_t EngineFront::identifyAllTargetsAsync(IdentifyAllTargetsCallback* callba
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->identifyAllTargetsAsync(callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ReadDataResult>>
@@ -232,9 +215,8 @@ EngineFront::readIdentificationValues(const std::vector<std::wstring>& targets) 
             return std::move(*scripted);
         }
         return vehicle_->readIdentificationValues(targets);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::readIdentificationValuesAsync(const std::vector<std::wstring>& targets,
@@ -246,9 +228,8 @@ uint64_t EngineFront::readIdentificationValuesAsync(const std::vector<std::wstri
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->readIdentificationValuesAsync(targets, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ReadDataResult>>
@@ -261,9 +242,8 @@ EngineFront::readDataByIdentifiers(const std::wstring& target,
             return std::move(*scripted);
         }
         return vehicle_->readDataByIdentifiers(target, identifiers);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<VariantIdentResult> EngineFront::identifyTarget(const std::wstring& target) {
@@ -274,9 +254,8 @@ std::shared_ptr<VariantIdentResult> EngineFront::identifyTarget(const std::wstri
             return std::move(*scripted);
         }
         return vehicle_->identifyTarget(target);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ReadDtcResult>>
@@ -289,9 +268,8 @@ EngineFront::readDtcs(const std::vector<std::wstring>& targets,
             return std::move(*scripted);
         }
         return vehicle_->readDtcs(targets, config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::readDtcsAsync(const std::vector<std::wstring>& targets,
@@ -304,9 +282,8 @@ uint64_t EngineFront::readDtcsAsync(const std::vector<std::wstring>& targets,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->readDtcsAsync(targets, config, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<SupportedDtcResult>>
@@ -319,9 +296,8 @@ EngineFront::readSupportedDtcs(const std::vector<std::wstring>& targets,
             return std::move(*scripted);
         }
         return vehicle_->readSupportedDtcs(targets, config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::readSupportedDtcsAsync(const std::vector<std::wstring>& targets,
@@ -334,9 +310,8 @@ uint64_t EngineFront::readSupportedDtcsAsync(const std::vector<std::wstring>& ta
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->readSupportedDtcsAsync(targets, config, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ClearDtcResult>>
@@ -348,9 +323,8 @@ EngineFront::clearAllDtcs(const std::vector<std::wstring>& targets) {
             return std::move(*scripted);
         }
         return vehicle_->clearAllDtcs(targets);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::clearAllDtcsAsync(const std::vector<std::wstring>& targets,
@@ -362,9 +336,8 @@ uint64_t EngineFront::clearAllDtcsAsync(const std::vector<std::wstring>& targets
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->clearAllDtcsAsync(targets, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ServiceInfo>>
@@ -377,9 +350,8 @@ EngineFront::getServiceInfos(const std::wstring& text1, const std::wstring& text
             return std::move(*scripted);
         }
         return vehicle_->getServiceInfos(text1, text2, names, value);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<FlashSessionInfo>>
@@ -391,9 +363,8 @@ EngineFront::getFlashSessionInfos(const std::wstring& target) {
             return std::move(*scripted);
         }
         return vehicle_->getFlashSessionInfos(target);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<FlashSessionResult>>
@@ -406,9 +377,8 @@ EngineFront::executeFlashSessions(const std::wstring& target,
             return std::move(*scripted);
         }
         return vehicle_->executeFlashSessions(target, sessions);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::executeFlashSessionsAsync(const std::wstring& target,
@@ -421,9 +391,8 @@ uint64_t EngineFront::executeFlashSessionsAsync(const std::wstring& target,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->executeFlashSessionsAsync(target, sessions, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<CodingStringResult>>
@@ -435,9 +404,8 @@ EngineFront::readCodingStrings(const std::vector<std::wstring>& targets) {
             return std::move(*scripted);
         }
         return vehicle_->readCodingStrings(targets);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::readCodingStringsAsync(const std::vector<std::wstring>& targets,
@@ -449,9 +417,8 @@ uint64_t EngineFront::readCodingStringsAsync(const std::vector<std::wstring>& ta
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->readCodingStringsAsync(targets, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<QuickTestResult>>
@@ -464,9 +431,8 @@ EngineFront::performQuickTest(const std::vector<std::wstring>& targets,
             return std::move(*scripted);
         }
         return vehicle_->performQuickTest(targets, config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::performQuickTestAsync(const std::vector<std::wstring>& targets,
@@ -479,18 +445,16 @@ uint64_t EngineFront::performQuickTestAsync(const std::vector<std::wstring>& tar
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->performQuickTestAsync(targets, config, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<TarnApi> EngineFront::connectRemoteServer(const std::wstring& address) {
     auto call = script_->enter(*clock_, "connectRemoteServer", address);
     try {
         return vehicle_->connectRemoteServer(address);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ParameterInfo>>
@@ -502,9 +466,8 @@ EngineFront::getMeasurementValueInfos(const std::wstring& target) {
             return std::move(*scripted);
         }
         return vehicle_->getMeasurementValueInfos(target);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::registerMeasurementValues(const std::wstring& target,
@@ -515,9 +478,8 @@ uint64_t EngineFront::registerMeasurementValues(const std::wstring& target,
             return std::move(*scripted);
         }
         return vehicle_->registerMeasurementValues(target, names);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ReadDataResult>>
@@ -529,9 +491,8 @@ EngineFront::getMeasurementValues(uint64_t registration) {
             return std::move(*scripted);
         }
         return vehicle_->getMeasurementValues(registration);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::unregisterMeasurementValues(uint64_t registration) {
@@ -541,9 +502,8 @@ void EngineFront::unregisterMeasurementValues(uint64_t registration) {
             return;
         }
         return vehicle_->unregisterMeasurementValues(registration);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ParameterInfo>>
@@ -555,9 +515,8 @@ EngineFront::getIdentificationValueInfos(const std::wstring& target) {
             return std::move(*scripted);
         }
         return vehicle_->getIdentificationValueInfos(target);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::cancelAllAsyncCalls() {
@@ -567,9 +526,8 @@ void EngineFront::cancelAllAsyncCalls() {
             return;
         }
         return vehicle_->cancelAllAsyncCalls();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<uint8_t> EngineFront::createSeed(uint32_t value1, uint32_t value2) {
@@ -579,9 +537,8 @@ std::vector<uint8_t> EngineFront::createSeed(uint32_t value1, uint32_t value2) {
             return std::move(*scripted);
         }
         return vehicle_->createSeed(value1, value2);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::sendKey(const std::vector<uint8_t>& key) {
@@ -591,9 +548,8 @@ void EngineFront::sendKey(const std::vector<uint8_t>& key) {
             return;
         }
         return vehicle_->sendKey(key);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::openEventChannel() {
@@ -603,9 +559,8 @@ uint64_t EngineFront::openEventChannel() {
             return std::move(*scripted);
         }
         return vehicle_->openEventChannel();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::closeEventChannel(uint64_t channel) {
@@ -615,9 +570,8 @@ void EngineFront::closeEventChannel(uint64_t channel) {
             return;
         }
         return vehicle_->closeEventChannel(channel);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<EventReport> EngineFront::getCurrentEvents(uint64_t channel, uint32_t limit) {
@@ -627,9 +581,8 @@ std::shared_ptr<EventReport> EngineFront::getCurrentEvents(uint64_t channel, uin
             return std::move(*scripted);
         }
         return vehicle_->getCurrentEvents(channel, limit);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::openTraceFileMonitoringLink(uint64_t handle, const std::wstring& traceFile) {
@@ -639,9 +592,8 @@ void EngineFront::openTraceFileMonitoringLink(uint64_t handle, const std::wstrin
             return;
         }
         return vehicle_->openTraceFileMonitoringLink(handle, traceFile);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::startTraceFileMonitoringLink(uint64_t handle) {
@@ -651,9 +603,8 @@ void EngineFront::startTraceFileMonitoringLink(uint64_t handle) {
             return;
         }
         return vehicle_->startTraceFileMonitoringLink(handle);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::stopTraceFileMonitoringLink(uint64_t handle) {
@@ -663,9 +614,8 @@ void EngineFront::stopTraceFileMonitoringLink(uint64_t handle) {
             return;
         }
         return vehicle_->stopTraceFileMonitoringLink(handle);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::closeTraceFileMonitoringLink(uint64_t handle) {
@@ -675,9 +625,8 @@ void EngineFront::closeTraceFileMonitoringLink(uint64_t handle) {
             return;
         }
         return vehicle_->closeTraceFileMonitoringLink(handle);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::saveInterfaceConfiguration() {
@@ -687,9 +636,8 @@ void EngineFront::saveInterfaceConfiguration() {
             return;
         }
         return vehicle_->saveInterfaceConfiguration();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ScanInterfaceResult>>
@@ -701,9 +649,8 @@ EngineFront::scanInterfaceConnection(const std::vector<std::wstring>& interfaces
             return std::move(*scripted);
         }
         return vehicle_->scanInterfaceConnection(interfaces);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::scanInterfaceConnectionAsync(const std::vector<std::wstring>& interfaces,
@@ -715,9 +662,8 @@ uint64_t EngineFront::scanInterfaceConnectionAsync(const std::vector<std::wstrin
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->scanInterfaceConnectionAsync(interfaces, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::disconnect() {
@@ -727,9 +673,8 @@ void EngineFront::disconnect() {
             return;
         }
         return vehicle_->disconnect();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::getInterfaceLongName(const std::wstring& name) {
@@ -739,9 +684,8 @@ std::wstring EngineFront::getInterfaceLongName(const std::wstring& name) {
             return std::move(*scripted);
         }
         return vehicle_->getInterfaceLongName(name);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ReadDataResult>>
@@ -754,9 +698,8 @@ EngineFront::readMeasurementValues(const std::wstring& target,
             return std::move(*scripted);
         }
         return vehicle_->readMeasurementValues(target, names);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::readMeasurementValuesAsync(const std::wstring& target,
@@ -769,9 +712,8 @@ uint64_t EngineFront::readMeasurementValuesAsync(const std::wstring& target,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->readMeasurementValuesAsync(target, names, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<uint8_t> EngineFront::readFile(const std::wstring& path, uint64_t value1,
@@ -782,9 +724,8 @@ std::vector<uint8_t> EngineFront::readFile(const std::wstring& path, uint64_t va
             return std::move(*scripted);
         }
         return vehicle_->readFile(path, value1, value2, flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::connectInterfaces() {
@@ -794,9 +735,8 @@ void EngineFront::connectInterfaces() {
             return;
         }
         return vehicle_->connectInterfaces();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::disconnectInterfaces() {
@@ -806,9 +746,8 @@ void EngineFront::disconnectInterfaces() {
             return;
         }
         return vehicle_->disconnectInterfaces();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::executeDoIPBroadcast() {
@@ -818,9 +757,8 @@ void EngineFront::executeDoIPBroadcast() {
             return;
         }
         return vehicle_->executeDoIPBroadcast();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::refreshProjectList() {
@@ -830,9 +768,8 @@ void EngineFront::refreshProjectList() {
             return;
         }
         return vehicle_->refreshProjectList();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<VariantIdentResult>>
@@ -844,9 +781,8 @@ EngineFront::identifyTargets(const std::vector<std::wstring>& targets) {
             return std::move(*scripted);
         }
         return vehicle_->identifyTargets(targets);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::identifyTargetsAsync(const std::vector<std::wstring>& targets,
@@ -858,9 +794,8 @@ uint64_t EngineFront::identifyTargetsAsync(const std::vector<std::wstring>& targ
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->identifyTargetsAsync(targets, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ParameterInfo>>
@@ -872,9 +807,8 @@ EngineFront::getActuatorServiceInfos(const std::wstring& text1, const std::wstri
             return std::move(*scripted);
         }
         return vehicle_->getActuatorServiceInfos(text1, text2);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::releaseSocketBridge(uint64_t bridge) {
@@ -884,9 +818,8 @@ void EngineFront::releaseSocketBridge(uint64_t bridge) {
             return;
         }
         return vehicle_->releaseSocketBridge(bridge);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::createSocketBridge(uint32_t value1, uint32_t value2) {
@@ -896,9 +829,8 @@ uint64_t EngineFront::createSocketBridge(uint32_t value1, uint32_t value2) {
             return std::move(*scripted);
         }
         return vehicle_->createSocketBridge(value1, value2);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved70() {
@@ -908,9 +840,8 @@ void EngineFront::reserved70() {
             return;
         }
         return vehicle_->reserved70();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved71() {
@@ -920,9 +851,8 @@ void EngineFront::reserved71() {
             return;
         }
         return vehicle_->reserved71();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved72() {
@@ -932,9 +862,8 @@ void EngineFront::reserved72() {
             return;
         }
         return vehicle_->reserved72();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ParameterInfo>>
@@ -947,9 +876,8 @@ EngineFront::getSingleMeasurementValueInfos(const std::wstring& target,
             return std::move(*scripted);
         }
         return vehicle_->getSingleMeasurementValueInfos(target, names);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<Target>>
@@ -961,9 +889,8 @@ EngineFront::getFilteredTargets(const std::vector<std::shared_ptr<TargetFilter>>
             return std::move(*scripted);
         }
         return vehicle_->getFilteredTargets(filters);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::isProjectConversionRequired(const std::wstring& projectPath) {
@@ -973,9 +900,8 @@ bool EngineFront::isProjectConversionRequired(const std::wstring& projectPath) {
             return std::move(*scripted);
         }
         return vehicle_->isProjectConversionRequired(projectPath);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::convertProject(const std::wstring& projectPath) {
@@ -985,9 +911,8 @@ void EngineFront::convertProject(const std::wstring& projectPath) {
             return;
         }
         return vehicle_->convertProject(projectPath);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::saveMoxConfiguration() {
@@ -997,9 +922,8 @@ void EngineFront::saveMoxConfiguration() {
             return;
         }
         return vehicle_->saveMoxConfiguration();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t
@@ -1012,9 +936,8 @@ EngineFront::startCyclicServices(const std::wstring& target,
             return std::move(*scripted);
         }
         return vehicle_->startCyclicServices(target, services, cycleTime);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ServiceResult>> EngineFront::getCyclicResults(uint64_t cyclic) {
@@ -1025,9 +948,8 @@ std::vector<std::shared_ptr<ServiceResult>> EngineFront::getCyclicResults(uint64
             return std::move(*scripted);
         }
         return vehicle_->getCyclicResults(cyclic);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::stopCyclicServices(uint64_t cyclic) {
@@ -1037,9 +959,8 @@ void EngineFront::stopCyclicServices(uint64_t cyclic) {
             return;
         }
         return vehicle_->stopCyclicServices(cyclic);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<ProjectDetails> EngineFront::getProjectDetails() {
@@ -1050,9 +971,8 @@ std::shared_ptr<ProjectDetails> EngineFront::getProjectDetails() {
             return std::move(*scripted);
         }
         return vehicle_->getProjectDetails();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::clearLinkCache() {
@@ -1062,9 +982,8 @@ void EngineFront::clearLinkCache() {
             return;
         }
         return vehicle_->clearLinkCache();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::addResource(const std::wstring& name,
@@ -1075,9 +994,8 @@ void EngineFront::addResource(const std::wstring& name,
             return;
         }
         return vehicle_->addResource(name, resource, value);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::removeInterface(const std::wstring& name) {
@@ -1087,9 +1005,8 @@ void EngineFront::removeInterface(const std::wstring& name) {
             return;
         }
         return vehicle_->removeInterface(name);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<InterfaceInformation>
@@ -1103,9 +1020,8 @@ EngineFront::addInterface(std::shared_ptr<InterfaceInformation> interfaceInfo,
             return std::move(*scripted);
         }
         return vehicle_->addInterface(interfaceInfo, text1, text2, text3);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::removeResource(const std::wstring& name1, const std::wstring& name2) {
@@ -1115,9 +1031,8 @@ void EngineFront::removeResource(const std::wstring& name1, const std::wstring& 
             return;
         }
         return vehicle_->removeResource(name1, name2);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<SystemProperty> EngineFront::getSystemProperty(const std::wstring& name) {
@@ -1128,9 +1043,8 @@ std::shared_ptr<SystemProperty> EngineFront::getSystemProperty(const std::wstrin
             return std::move(*scripted);
         }
         return vehicle_->getSystemProperty(name);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::resetSystemProperty(const std::wstring& name) {
@@ -1140,9 +1054,8 @@ void EngineFront::resetSystemProperty(const std::wstring& name) {
             return;
         }
         return vehicle_->resetSystemProperty(name);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setSystemProperty(std::shared_ptr<SystemProperty> property) {
@@ -1152,9 +1065,8 @@ void EngineFront::setSystemProperty(std::shared_ptr<SystemProperty> property) {
             return;
         }
         return vehicle_->setSystemProperty(property);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::wstring>
@@ -1165,9 +1077,8 @@ EngineFront::getVendorModuleNames(std::shared_ptr<InterfaceInformation> interfac
             return std::move(*scripted);
         }
         return vehicle_->getVendorModuleNames(interfaceInfo);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::wstring> EngineFront::getVendorModuleNamesEx(const std::wstring& text) {
@@ -1178,9 +1089,8 @@ std::vector<std::wstring> EngineFront::getVendorModuleNamesEx(const std::wstring
             return std::move(*scripted);
         }
         return vehicle_->getVendorModuleNamesEx(text);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ServiceResult>>
@@ -1193,9 +1103,8 @@ EngineFront::executeService(const std::wstring& target,
             return std::move(*scripted);
         }
         return vehicle_->executeService(target, services);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t
@@ -1209,9 +1118,8 @@ EngineFront::executeServiceAsync(const std::wstring& target,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->executeServiceAsync(target, services, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ModuleDyn>>
@@ -1223,9 +1131,8 @@ EngineFront::detectDynInterfaces(uint32_t value, std::shared_ptr<DynInterfaceDet
             return std::move(*scripted);
         }
         return vehicle_->detectDynInterfaces(value, detection);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::detectDynInterfacesAsync(uint32_t value,
@@ -1238,9 +1145,8 @@ uint64_t EngineFront::detectDynInterfacesAsync(uint32_t value,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->detectDynInterfacesAsync(value, detection, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::connectDynInterface(const std::wstring& name, bool flag,
@@ -1251,9 +1157,8 @@ void EngineFront::connectDynInterface(const std::wstring& name, bool flag,
             return;
         }
         return vehicle_->connectDynInterface(name, flag, detection);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::disconnectDynInterfaces(const std::vector<std::wstring>& names) {
@@ -1263,9 +1168,8 @@ void EngineFront::disconnectDynInterfaces(const std::vector<std::wstring>& names
             return;
         }
         return vehicle_->disconnectDynInterfaces(names);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::updateCyclicServices(uint64_t cyclic,
@@ -1276,9 +1180,8 @@ void EngineFront::updateCyclicServices(uint64_t cyclic,
             return;
         }
         return vehicle_->updateCyclicServices(cyclic, services);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::cancelAsyncCalls(const std::vector<uint64_t>& callIds) {
@@ -1288,9 +1191,8 @@ void EngineFront::cancelAsyncCalls(const std::vector<uint64_t>& callIds) {
             return;
         }
         return vehicle_->cancelAsyncCalls(callIds);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<DirectoryInfo> EngineFront::getProjectDirectory(bool flag) {
@@ -1301,9 +1203,8 @@ std::shared_ptr<DirectoryInfo> EngineFront::getProjectDirectory(bool flag) {
             return std::move(*scripted);
         }
         return vehicle_->getProjectDirectory(flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<DirectoryInfo> EngineFront::getSelectedProjectDirectory(bool flag) {
@@ -1314,9 +1215,8 @@ std::shared_ptr<DirectoryInfo> EngineFront::getSelectedProjectDirectory(bool fla
             return std::move(*scripted);
         }
         return vehicle_->getSelectedProjectDirectory(flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint32_t EngineFront::writeFile(const std::wstring& path, const std::vector<uint8_t>& data,
@@ -1327,9 +1227,8 @@ uint32_t EngineFront::writeFile(const std::wstring& path, const std::vector<uint
             return std::move(*scripted);
         }
         return vehicle_->writeFile(path, data, value, flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<KelError>
@@ -1340,9 +1239,8 @@ EngineFront::deleteFiles(const std::vector<std::shared_ptr<FileInfo>>& files) {
             return std::move(*scripted);
         }
         return vehicle_->deleteFiles(files);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<DirectoryInfo>>
@@ -1355,9 +1253,8 @@ EngineFront::findDirectories(std::shared_ptr<DirectoryInfo> directory, const std
             return std::move(*scripted);
         }
         return vehicle_->findDirectories(directory, pattern, flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<FileInfo>>
@@ -1369,9 +1266,8 @@ EngineFront::findFiles(const std::wstring& directory, const std::wstring& patter
             return std::move(*scripted);
         }
         return vehicle_->findFiles(directory, pattern, flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<DirectoryInfo>
@@ -1383,9 +1279,8 @@ EngineFront::initializeDirectoryElements(std::shared_ptr<DirectoryInfo> director
             return std::move(*scripted);
         }
         return vehicle_->initializeDirectoryElements(directory, flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<FileInfo> EngineFront::createFile(std::shared_ptr<DirectoryInfo> parent,
@@ -1396,9 +1291,8 @@ std::shared_ptr<FileInfo> EngineFront::createFile(std::shared_ptr<DirectoryInfo>
             return std::move(*scripted);
         }
         return vehicle_->createFile(parent, name);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<DirectoryInfo> EngineFront::createDirectory(std::shared_ptr<DirectoryInfo> parent,
@@ -1409,9 +1303,8 @@ std::shared_ptr<DirectoryInfo> EngineFront::createDirectory(std::shared_ptr<Dire
             return std::move(*scripted);
         }
         return vehicle_->createDirectory(parent, name);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<KelError> EngineFront::deleteDirectory(const std::wstring& path) {
@@ -1421,9 +1314,8 @@ std::shared_ptr<KelError> EngineFront::deleteDirectory(const std::wstring& path)
             return std::move(*scripted);
         }
         return vehicle_->deleteDirectory(path);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<DirectoryInfo> EngineFront::getTraceDirectory(bool flag) {
@@ -1434,9 +1326,8 @@ std::shared_ptr<DirectoryInfo> EngineFront::getTraceDirectory(bool flag) {
             return std::move(*scripted);
         }
         return vehicle_->getTraceDirectory(flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::createVehicleReport(std::shared_ptr<VehicleReportConfig> config) {
@@ -1446,9 +1337,8 @@ std::wstring EngineFront::createVehicleReport(std::shared_ptr<VehicleReportConfi
             return std::move(*scripted);
         }
         return vehicle_->createVehicleReport(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<EcuOrderEntry>> EngineFront::readEcuOrder(const std::wstring& path) {
@@ -1459,9 +1349,8 @@ std::vector<std::shared_ptr<EcuOrderEntry>> EngineFront::readEcuOrder(const std:
             return std::move(*scripted);
         }
         return vehicle_->readEcuOrder(path);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<EcuOrderEntry>>
@@ -1474,9 +1363,8 @@ EngineFront::filterEcuOrder(const std::vector<std::shared_ptr<EcuOrderEntry>>& e
             return std::move(*scripted);
         }
         return vehicle_->filterEcuOrder(entries, targets);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<EcuOrderEntry>> EngineFront::addMissingTargetsToEcuOrder(
@@ -1488,9 +1376,8 @@ std::vector<std::shared_ptr<EcuOrderEntry>> EngineFront::addMissingTargetsToEcuO
             return std::move(*scripted);
         }
         return vehicle_->addMissingTargetsToEcuOrder(entries);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::lock() {
@@ -1500,9 +1387,8 @@ uint64_t EngineFront::lock() {
             return std::move(*scripted);
         }
         return vehicle_->lock();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::unlock(uint64_t lockId) {
@@ -1512,9 +1398,8 @@ void EngineFront::unlock(uint64_t lockId) {
             return;
         }
         return vehicle_->unlock(lockId);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::isLocked() {
@@ -1524,9 +1409,8 @@ bool EngineFront::isLocked() {
             return std::move(*scripted);
         }
         return vehicle_->isLocked();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::breakLock() {
@@ -1536,9 +1420,8 @@ void EngineFront::breakLock() {
             return;
         }
         return vehicle_->breakLock();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setEthernetPinState(uint8_t state, const std::vector<std::wstring>& interfaces) {
@@ -1548,9 +1431,8 @@ void EngineFront::setEthernetPinState(uint8_t state, const std::vector<std::wstr
             return;
         }
         return vehicle_->setEthernetPinState(state, interfaces);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint32_t EngineFront::getEthernetPinState(const std::wstring& interfaceName) {
@@ -1560,9 +1442,8 @@ uint32_t EngineFront::getEthernetPinState(const std::wstring& interfaceName) {
             return std::move(*scripted);
         }
         return vehicle_->getEthernetPinState(interfaceName);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ModuleDyn>> EngineFront::detectDynInterfacesEx(uint32_t value) {
@@ -1573,9 +1454,8 @@ std::vector<std::shared_ptr<ModuleDyn>> EngineFront::detectDynInterfacesEx(uint3
             return std::move(*scripted);
         }
         return vehicle_->detectDynInterfacesEx(value);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::detectDynInterfacesExAsync(uint32_t value,
@@ -1587,9 +1467,8 @@ uint64_t EngineFront::detectDynInterfacesExAsync(uint32_t value,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->detectDynInterfacesExAsync(value, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::connectDynInterfaceEx(const std::wstring& name, bool flag) {
@@ -1599,9 +1478,8 @@ void EngineFront::connectDynInterfaceEx(const std::wstring& name, bool flag) {
             return;
         }
         return vehicle_->connectDynInterfaceEx(name, flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::addUser(const std::wstring& name, const std::wstring& password, uint32_t role) {
@@ -1611,9 +1489,8 @@ void EngineFront::addUser(const std::wstring& name, const std::wstring& password
             return;
         }
         return vehicle_->addUser(name, password, role);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::removeUser(const std::wstring& name) {
@@ -1623,9 +1500,8 @@ void EngineFront::removeUser(const std::wstring& name) {
             return;
         }
         return vehicle_->removeUser(name);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<UserInfo>> EngineFront::getUsers() {
@@ -1635,9 +1511,8 @@ std::vector<std::shared_ptr<UserInfo>> EngineFront::getUsers() {
             return std::move(*scripted);
         }
         return vehicle_->getUsers();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::logOut(std::shared_ptr<LogInOutConfig> config) {
@@ -1647,9 +1522,8 @@ void EngineFront::logOut(std::shared_ptr<LogInOutConfig> config) {
             return;
         }
         return vehicle_->logOut(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::updateUser(const std::wstring& name, const std::wstring& newName,
@@ -1660,9 +1534,8 @@ void EngineFront::updateUser(const std::wstring& name, const std::wstring& newNa
             return;
         }
         return vehicle_->updateUser(name, newName, newPassword, role);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::getServerUserManagement() {
@@ -1672,9 +1545,8 @@ bool EngineFront::getServerUserManagement() {
             return std::move(*scripted);
         }
         return vehicle_->getServerUserManagement();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setServerUserManagement(bool enabled) {
@@ -1684,9 +1556,8 @@ void EngineFront::setServerUserManagement(bool enabled) {
             return;
         }
         return vehicle_->setServerUserManagement(enabled);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::registerServerHandler(std::shared_ptr<ServerHandler> handler) {
@@ -1696,9 +1567,8 @@ void EngineFront::registerServerHandler(std::shared_ptr<ServerHandler> handler) 
             return;
         }
         return vehicle_->registerServerHandler(handler);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved132() {
@@ -1708,9 +1578,8 @@ void EngineFront::reserved132() {
             return;
         }
         return vehicle_->reserved132();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::disconnectAllClients() {
@@ -1720,9 +1589,8 @@ void EngineFront::disconnectAllClients() {
             return;
         }
         return vehicle_->disconnectAllClients();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::testSocketBridge(uint64_t bridge) {
@@ -1732,9 +1600,8 @@ bool EngineFront::testSocketBridge(uint64_t bridge) {
             return std::move(*scripted);
         }
         return vehicle_->testSocketBridge(bridge);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved135() {
@@ -1744,9 +1611,8 @@ void EngineFront::reserved135() {
             return;
         }
         return vehicle_->reserved135();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<FileCopyResult>>
@@ -1758,9 +1624,8 @@ EngineFront::copyFiles(std::shared_ptr<FileCopyConfig> config) {
             return std::move(*scripted);
         }
         return vehicle_->copyFiles(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::copyFilesAsync(std::shared_ptr<FileCopyConfig> config,
@@ -1772,9 +1637,8 @@ uint64_t EngineFront::copyFilesAsync(std::shared_ptr<FileCopyConfig> config,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->copyFilesAsync(config, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<DirectoryCopyResult>>
@@ -1786,9 +1650,8 @@ EngineFront::copyDirectories(std::shared_ptr<DirectoryCopyConfig> config) {
             return std::move(*scripted);
         }
         return vehicle_->copyDirectories(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::copyDirectoriesAsync(std::shared_ptr<DirectoryCopyConfig> config,
@@ -1800,9 +1663,8 @@ uint64_t EngineFront::copyDirectoriesAsync(std::shared_ptr<DirectoryCopyConfig> 
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->copyDirectoriesAsync(config, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::calculateChecksum(const std::wstring& path, int32_t algorithm) {
@@ -1812,9 +1674,8 @@ std::wstring EngineFront::calculateChecksum(const std::wstring& path, int32_t al
             return std::move(*scripted);
         }
         return vehicle_->calculateChecksum(path, algorithm);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved141() {
@@ -1824,9 +1685,8 @@ void EngineFront::reserved141() {
             return;
         }
         return vehicle_->reserved141();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved142() {
@@ -1836,9 +1696,8 @@ void EngineFront::reserved142() {
             return;
         }
         return vehicle_->reserved142();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved143() {
@@ -1848,9 +1707,8 @@ void EngineFront::reserved143() {
             return;
         }
         return vehicle_->reserved143();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved144() {
@@ -1860,9 +1718,8 @@ void EngineFront::reserved144() {
             return;
         }
         return vehicle_->reserved144();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::runSequence(const std::wstring& sequence,
@@ -1873,9 +1730,8 @@ uint64_t EngineFront::runSequence(const std::wstring& sequence,
             return std::move(*scripted);
         }
         return vehicle_->runSequence(sequence, arguments);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<UnlockResult>
@@ -1887,9 +1743,8 @@ EngineFront::unlockVehicle(const std::wstring& target,
             return std::move(*scripted);
         }
         return vehicle_->unlockVehicle(target, services);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::releaseVehicleUnlock(uint64_t value) {
@@ -1899,9 +1754,8 @@ uint64_t EngineFront::releaseVehicleUnlock(uint64_t value) {
             return std::move(*scripted);
         }
         return vehicle_->releaseVehicleUnlock(value);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::cancelSequence(uint64_t run) {
@@ -1911,9 +1765,8 @@ void EngineFront::cancelSequence(uint64_t run) {
             return;
         }
         return vehicle_->cancelSequence(run);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<DeviceInfo>> EngineFront::getRegisteredDevices() {
@@ -1924,9 +1777,8 @@ std::vector<std::shared_ptr<DeviceInfo>> EngineFront::getRegisteredDevices() {
             return std::move(*scripted);
         }
         return vehicle_->getRegisteredDevices();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<SystemInfo> EngineFront::getSystemInfo() {
@@ -1936,9 +1788,8 @@ std::shared_ptr<SystemInfo> EngineFront::getSystemInfo() {
             return std::move(*scripted);
         }
         return vehicle_->getSystemInfo();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::applyUpdatePackage(const std::wstring& package) {
@@ -1948,9 +1799,8 @@ void EngineFront::applyUpdatePackage(const std::wstring& package) {
             return;
         }
         return vehicle_->applyUpdatePackage(package);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::renameFile(const std::wstring& path, const std::wstring& newName) {
@@ -1960,9 +1810,8 @@ void EngineFront::renameFile(const std::wstring& path, const std::wstring& newNa
             return;
         }
         return vehicle_->renameFile(path, newName);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::onConnectionBroken() {
@@ -1972,9 +1821,8 @@ void EngineFront::onConnectionBroken() {
             return;
         }
         return vehicle_->onConnectionBroken();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<UpdatePackageInfo>> EngineFront::getUpdatePackages() {
@@ -1985,9 +1833,8 @@ std::vector<std::shared_ptr<UpdatePackageInfo>> EngineFront::getUpdatePackages()
             return std::move(*scripted);
         }
         return vehicle_->getUpdatePackages();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<UpdatePackageInfo>> EngineFront::getPackagesFromBroker() {
@@ -1998,9 +1845,8 @@ std::vector<std::shared_ptr<UpdatePackageInfo>> EngineFront::getPackagesFromBrok
             return std::move(*scripted);
         }
         return vehicle_->getPackagesFromBroker();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::checkUpdatesOnBroker() {
@@ -2010,9 +1856,8 @@ bool EngineFront::checkUpdatesOnBroker() {
             return std::move(*scripted);
         }
         return vehicle_->checkUpdatesOnBroker();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::autoUpdate() {
@@ -2022,9 +1867,8 @@ bool EngineFront::autoUpdate() {
             return std::move(*scripted);
         }
         return vehicle_->autoUpdate();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<DirectoryInfo> EngineFront::getConfigDirectory(bool flag) {
@@ -2035,9 +1879,8 @@ std::shared_ptr<DirectoryInfo> EngineFront::getConfigDirectory(bool flag) {
             return std::move(*scripted);
         }
         return vehicle_->getConfigDirectory(flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved159() {
@@ -2047,9 +1890,8 @@ void EngineFront::reserved159() {
             return;
         }
         return vehicle_->reserved159();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::createApiTraceMonitor() {
@@ -2059,9 +1901,8 @@ uint64_t EngineFront::createApiTraceMonitor() {
             return std::move(*scripted);
         }
         return vehicle_->createApiTraceMonitor();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<uint8_t> EngineFront::getApiTraceContent(uint64_t handle, uint32_t value1,
@@ -2072,9 +1913,8 @@ std::vector<uint8_t> EngineFront::getApiTraceContent(uint64_t handle, uint32_t v
             return std::move(*scripted);
         }
         return vehicle_->getApiTraceContent(handle, value1, value2);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::releaseApiTraceMonitor(uint64_t handle) {
@@ -2084,9 +1924,8 @@ void EngineFront::releaseApiTraceMonitor(uint64_t handle) {
             return;
         }
         return vehicle_->releaseApiTraceMonitor(handle);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<NamedItem>> EngineFront::getCurrentVersions() {
@@ -2097,9 +1936,8 @@ std::vector<std::shared_ptr<NamedItem>> EngineFront::getCurrentVersions() {
             return std::move(*scripted);
         }
         return vehicle_->getCurrentVersions();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::checkUpdateSuccess() {
@@ -2109,9 +1947,8 @@ bool EngineFront::checkUpdateSuccess() {
             return std::move(*scripted);
         }
         return vehicle_->checkUpdateSuccess();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::cleanUpdateTmp() {
@@ -2121,9 +1958,8 @@ void EngineFront::cleanUpdateTmp() {
             return;
         }
         return vehicle_->cleanUpdateTmp();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<FlashSessionResult>>
@@ -2135,9 +1971,8 @@ EngineFront::executeFlashSessionsConfig(std::shared_ptr<FlashSessionsConfig> con
             return std::move(*scripted);
         }
         return vehicle_->executeFlashSessionsConfig(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t
@@ -2150,9 +1985,8 @@ EngineFront::executeFlashSessionsConfigAsync(std::shared_ptr<FlashSessionsConfig
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->executeFlashSessionsConfigAsync(config, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<LoadDatabaseResult>>
@@ -2164,9 +1998,8 @@ EngineFront::loadDatabaseFile(const std::vector<std::wstring>& files) {
             return std::move(*scripted);
         }
         return vehicle_->loadDatabaseFile(files);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<FileInfo>>
@@ -2180,9 +2013,8 @@ EngineFront::copyProjectWithFilters(const std::vector<std::shared_ptr<FileFilter
             return std::move(*scripted);
         }
         return vehicle_->copyProjectWithFilters(filters, flag, config, text);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved170() {
@@ -2192,9 +2024,8 @@ void EngineFront::reserved170() {
             return;
         }
         return vehicle_->reserved170();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved171() {
@@ -2204,9 +2035,8 @@ void EngineFront::reserved171() {
             return;
         }
         return vehicle_->reserved171();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::reconnectRemoteServer(uint64_t handle) {
@@ -2216,9 +2046,8 @@ bool EngineFront::reconnectRemoteServer(uint64_t handle) {
             return std::move(*scripted);
         }
         return vehicle_->reconnectRemoteServer(handle);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::wstring>
@@ -2230,9 +2059,8 @@ EngineFront::filterFiles(const std::vector<std::shared_ptr<FileFilter>>& filters
             return std::move(*scripted);
         }
         return vehicle_->filterFiles(filters, text);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved174() {
@@ -2242,9 +2070,8 @@ void EngineFront::reserved174() {
             return;
         }
         return vehicle_->reserved174();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<LoadDatabaseResult>>
@@ -2256,9 +2083,8 @@ EngineFront::unloadDatabaseFile(const std::vector<std::wstring>& files) {
             return std::move(*scripted);
         }
         return vehicle_->unloadDatabaseFile(files);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<DirectoryInfo>> EngineFront::getPublicDirectories() {
@@ -2269,9 +2095,8 @@ std::vector<std::shared_ptr<DirectoryInfo>> EngineFront::getPublicDirectories() 
             return std::move(*scripted);
         }
         return vehicle_->getPublicDirectories();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<VehicleUpdateResult>>
@@ -2283,9 +2108,8 @@ EngineFront::updateVehicle(std::shared_ptr<VehicleUpdateConfig> config) {
             return std::move(*scripted);
         }
         return vehicle_->updateVehicle(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::updateVehicleAsync(std::shared_ptr<VehicleUpdateConfig> config,
@@ -2297,9 +2121,8 @@ uint64_t EngineFront::updateVehicleAsync(std::shared_ptr<VehicleUpdateConfig> co
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->updateVehicleAsync(config, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ServiceResult>> EngineFront::executeServiceInDefaultSession(
@@ -2311,9 +2134,8 @@ std::vector<std::shared_ptr<ServiceResult>> EngineFront::executeServiceInDefault
             return std::move(*scripted);
         }
         return vehicle_->executeServiceInDefaultSession(target, services);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::executeServiceInDefaultSessionAsync(
@@ -2327,9 +2149,8 @@ uint64_t EngineFront::executeServiceInDefaultSessionAsync(
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->executeServiceInDefaultSessionAsync(target, services, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<TargetStatus>>
@@ -2341,9 +2162,8 @@ EngineFront::getTargetStatus(const std::vector<std::wstring>& targets) {
             return std::move(*scripted);
         }
         return vehicle_->getTargetStatus(targets);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<PhysicalLinksOnModule>>
@@ -2355,9 +2175,8 @@ EngineFront::getPhysicalLinks(const std::vector<std::wstring>& modules) {
             return std::move(*scripted);
         }
         return vehicle_->getPhysicalLinks(modules);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<PhysicalLinksOnModule>>
@@ -2369,9 +2188,8 @@ EngineFront::setPhysicalLinks(const std::vector<std::shared_ptr<PhysicalLinksOnM
             return std::move(*scripted);
         }
         return vehicle_->setPhysicalLinks(links);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::moveFile(const std::wstring& source, const std::wstring& target) {
@@ -2381,9 +2199,8 @@ bool EngineFront::moveFile(const std::wstring& source, const std::wstring& targe
             return std::move(*scripted);
         }
         return vehicle_->moveFile(source, target);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::moveDirectory(const std::wstring& source, const std::wstring& target) {
@@ -2393,9 +2210,8 @@ bool EngineFront::moveDirectory(const std::wstring& source, const std::wstring& 
             return std::move(*scripted);
         }
         return vehicle_->moveDirectory(source, target);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::pathExists(const std::wstring& path) {
@@ -2405,9 +2221,8 @@ bool EngineFront::pathExists(const std::wstring& path) {
             return std::move(*scripted);
         }
         return vehicle_->pathExists(path);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved187() {
@@ -2417,9 +2232,8 @@ void EngineFront::reserved187() {
             return;
         }
         return vehicle_->reserved187();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::resolvePath(const std::wstring& path) {
@@ -2429,9 +2243,8 @@ std::wstring EngineFront::resolvePath(const std::wstring& path) {
             return std::move(*scripted);
         }
         return vehicle_->resolvePath(path);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved189() {
@@ -2441,9 +2254,8 @@ void EngineFront::reserved189() {
             return;
         }
         return vehicle_->reserved189();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved190() {
@@ -2453,9 +2265,8 @@ void EngineFront::reserved190() {
             return;
         }
         return vehicle_->reserved190();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<VehicleData>> EngineFront::getVehicleData() {
@@ -2466,9 +2277,8 @@ std::vector<std::shared_ptr<VehicleData>> EngineFront::getVehicleData() {
             return std::move(*scripted);
         }
         return vehicle_->getVehicleData();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ProjectDetails>>
@@ -2480,9 +2290,8 @@ EngineFront::getProjectsDetails(const std::vector<std::wstring>& projectNames) {
             return std::move(*scripted);
         }
         return vehicle_->getProjectsDetails(projectNames);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::uploadReport(std::shared_ptr<UploadReportConfiguration> config) {
@@ -2492,9 +2301,8 @@ void EngineFront::uploadReport(std::shared_ptr<UploadReportConfiguration> config
             return;
         }
         return vehicle_->uploadReport(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<FileReferenceResult>>
@@ -2506,9 +2314,8 @@ EngineFront::getFileReferences(const std::vector<std::wstring>& files) {
             return std::move(*scripted);
         }
         return vehicle_->getFileReferences(files);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::onConnectionClosed() {
@@ -2518,9 +2325,8 @@ void EngineFront::onConnectionClosed() {
             return;
         }
         return vehicle_->onConnectionClosed();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::openTerminal() {
@@ -2530,9 +2336,8 @@ bool EngineFront::openTerminal() {
             return std::move(*scripted);
         }
         return vehicle_->openTerminal();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::closeTerminal() {
@@ -2542,9 +2347,8 @@ void EngineFront::closeTerminal() {
             return;
         }
         return vehicle_->closeTerminal();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved198() {
@@ -2554,9 +2358,8 @@ void EngineFront::reserved198() {
             return;
         }
         return vehicle_->reserved198();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved199() {
@@ -2566,9 +2369,8 @@ void EngineFront::reserved199() {
             return;
         }
         return vehicle_->reserved199();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::isDirectory(const std::wstring& path) {
@@ -2578,9 +2380,8 @@ bool EngineFront::isDirectory(const std::wstring& path) {
             return std::move(*scripted);
         }
         return vehicle_->isDirectory(path);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<DirectoryInfo> EngineFront::getDirectoryInfo(const std::wstring& path, bool flag) {
@@ -2590,9 +2391,8 @@ std::shared_ptr<DirectoryInfo> EngineFront::getDirectoryInfo(const std::wstring&
             return std::move(*scripted);
         }
         return vehicle_->getDirectoryInfo(path, flag);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<FileInfo> EngineFront::getFileInfo(const std::wstring& path) {
@@ -2602,9 +2402,8 @@ std::shared_ptr<FileInfo> EngineFront::getFileInfo(const std::wstring& path) {
             return std::move(*scripted);
         }
         return vehicle_->getFileInfo(path);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::isFile(const std::wstring& path) {
@@ -2614,9 +2413,8 @@ bool EngineFront::isFile(const std::wstring& path) {
             return std::move(*scripted);
         }
         return vehicle_->isFile(path);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<WLanSignalData> EngineFront::getWLanSignalData(const std::wstring& interfaceName) {
@@ -2627,9 +2425,8 @@ std::shared_ptr<WLanSignalData> EngineFront::getWLanSignalData(const std::wstrin
             return std::move(*scripted);
         }
         return vehicle_->getWLanSignalData(interfaceName);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<KelError>> EngineFront::clearDoIPEcuCollection() {
@@ -2640,9 +2437,8 @@ std::vector<std::shared_ptr<KelError>> EngineFront::clearDoIPEcuCollection() {
             return std::move(*scripted);
         }
         return vehicle_->clearDoIPEcuCollection();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setBrokerUrl(const std::wstring& url) {
@@ -2652,9 +2448,8 @@ void EngineFront::setBrokerUrl(const std::wstring& url) {
             return;
         }
         return vehicle_->setBrokerUrl(url);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<PathCopyResult>>
@@ -2666,9 +2461,8 @@ EngineFront::copyPath(std::shared_ptr<PathCopyConfig> config) {
             return std::move(*scripted);
         }
         return vehicle_->copyPath(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::copyPathAsync(std::shared_ptr<PathCopyConfig> config,
@@ -2680,9 +2474,8 @@ uint64_t EngineFront::copyPathAsync(std::shared_ptr<PathCopyConfig> config,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->copyPathAsync(config, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved209() {
@@ -2692,9 +2485,8 @@ void EngineFront::reserved209() {
             return;
         }
         return vehicle_->reserved209();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved210() {
@@ -2704,9 +2496,8 @@ void EngineFront::reserved210() {
             return;
         }
         return vehicle_->reserved210();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved211() {
@@ -2716,9 +2507,8 @@ void EngineFront::reserved211() {
             return;
         }
         return vehicle_->reserved211();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::reserved212() {
@@ -2728,9 +2518,8 @@ void EngineFront::reserved212() {
             return;
         }
         return vehicle_->reserved212();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 bool EngineFront::thirdPartyLogin(const std::wstring& code) {
@@ -2740,9 +2529,8 @@ bool EngineFront::thirdPartyLogin(const std::wstring& code) {
             return std::move(*scripted);
         }
         return vehicle_->thirdPartyLogin(code);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::clearUpdatePackages() {
@@ -2752,9 +2540,8 @@ void EngineFront::clearUpdatePackages() {
             return;
         }
         return vehicle_->clearUpdatePackages();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::getThirdPartyLoginUrl(const std::wstring& provider) {
@@ -2764,9 +2551,8 @@ std::wstring EngineFront::getThirdPartyLoginUrl(const std::wstring& provider) {
             return std::move(*scripted);
         }
         return vehicle_->getThirdPartyLoginUrl(provider);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::selectDynamicProject(const std::wstring& projectName,
@@ -2777,9 +2563,8 @@ void EngineFront::selectDynamicProject(const std::wstring& projectName,
             return;
         }
         return vehicle_->selectDynamicProject(projectName, items);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::getCertificateByPublicKey(const std::wstring& publicKey,
@@ -2793,9 +2578,8 @@ std::wstring EngineFront::getCertificateByPublicKey(const std::wstring& publicKe
             return std::move(*scripted);
         }
         return vehicle_->getCertificateByPublicKey(publicKey, text2, text3, text4);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring
@@ -2809,9 +2593,8 @@ EngineFront::createCertificateFromCSR(const std::wstring& text1, const std::wstr
             return std::move(*scripted);
         }
         return vehicle_->createCertificateFromCSR(text1, text2, text3, text4, text5, text6);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::wstring> EngineFront::getCertificateChainById(const std::wstring& id,
@@ -2824,9 +2607,8 @@ std::vector<std::wstring> EngineFront::getCertificateChainById(const std::wstrin
             return std::move(*scripted);
         }
         return vehicle_->getCertificateChainById(id, text2, text3);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<EcuOrderEntry>> EngineFront::createDefaultECUOrder() {
@@ -2837,9 +2619,8 @@ std::vector<std::shared_ptr<EcuOrderEntry>> EngineFront::createDefaultECUOrder()
             return std::move(*scripted);
         }
         return vehicle_->createDefaultECUOrder();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<CodingFileResult>>
@@ -2852,9 +2633,8 @@ EngineFront::writeCodingFile(const std::wstring& codingFile,
             return std::move(*scripted);
         }
         return vehicle_->writeCodingFile(codingFile, targets);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::writeCodingFileAsync(const std::wstring& codingFile,
@@ -2867,9 +2647,8 @@ uint64_t EngineFront::writeCodingFileAsync(const std::wstring& codingFile,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->writeCodingFileAsync(codingFile, targets, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::writeEcuOrder(const std::wstring& path,
@@ -2880,9 +2659,8 @@ void EngineFront::writeEcuOrder(const std::wstring& path,
             return;
         }
         return vehicle_->writeEcuOrder(path, entries);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::getEcuOrderFilePath() {
@@ -2892,9 +2670,8 @@ std::wstring EngineFront::getEcuOrderFilePath() {
             return std::move(*scripted);
         }
         return vehicle_->getEcuOrderFilePath();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<VehicleUpdateResult>>
@@ -2907,9 +2684,8 @@ EngineFront::performVehicleUpdate(const std::vector<std::shared_ptr<EcuOrderEntr
             return std::move(*scripted);
         }
         return vehicle_->performVehicleUpdate(entries, config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t
@@ -2923,9 +2699,8 @@ EngineFront::performVehicleUpdateAsync(const std::vector<std::shared_ptr<EcuOrde
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->performVehicleUpdateAsync(entries, config, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::triggerAsyncCancels(const std::vector<uint64_t>& callIds) {
@@ -2935,9 +2710,8 @@ void EngineFront::triggerAsyncCancels(const std::vector<uint64_t>& callIds) {
             return;
         }
         return vehicle_->triggerAsyncCancels(callIds);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ServiceResult>>
@@ -2950,9 +2724,8 @@ EngineFront::executeSequence(const std::wstring& target, const std::wstring& seq
             return std::move(*scripted);
         }
         return vehicle_->executeSequence(target, sequence, parameters);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t
@@ -2967,9 +2740,8 @@ EngineFront::executeSequenceAsync(const std::wstring& target, const std::wstring
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->executeSequenceAsync(target, sequence, parameters, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::addPublicDirectory(const std::wstring& name, const std::wstring& path) {
@@ -2979,9 +2751,8 @@ void EngineFront::addPublicDirectory(const std::wstring& name, const std::wstrin
             return;
         }
         return vehicle_->addPublicDirectory(name, path);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::createVehicleUpdateReport(
@@ -2992,9 +2763,8 @@ std::wstring EngineFront::createVehicleUpdateReport(
             return std::move(*scripted);
         }
         return vehicle_->createVehicleUpdateReport(results);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<ParameterInfo>
@@ -3005,9 +2775,8 @@ EngineFront::getParameterInfo(std::shared_ptr<ParameterInfoConfig> config) {
             return std::move(*scripted);
         }
         return vehicle_->getParameterInfo(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<EcuConfigurationResult>>
@@ -3020,9 +2789,8 @@ EngineFront::performEcuConfiguration(const std::vector<std::wstring>& targets,
             return std::move(*scripted);
         }
         return vehicle_->performEcuConfiguration(targets, configuration);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::performEcuConfigurationAsync(const std::vector<std::wstring>& targets,
@@ -3036,9 +2804,8 @@ uint64_t EngineFront::performEcuConfigurationAsync(const std::vector<std::wstrin
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->performEcuConfigurationAsync(targets, configuration, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ClearDtcResult>>
@@ -3050,9 +2817,8 @@ EngineFront::clearSpecificDtcs(const std::wstring& target, const std::vector<uin
             return std::move(*scripted);
         }
         return vehicle_->clearSpecificDtcs(target, dtcCodes);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::clearSpecificDtcsAsync(const std::wstring& target,
@@ -3065,9 +2831,8 @@ uint64_t EngineFront::clearSpecificDtcsAsync(const std::wstring& target,
             return script_->deliver(callback, std::move(*scripted));
         }
         return vehicle_->clearSpecificDtcsAsync(target, dtcCodes, callback);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::startSOVDServer() {
@@ -3077,9 +2842,8 @@ void EngineFront::startSOVDServer() {
             return;
         }
         return vehicle_->startSOVDServer();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::stopSOVDServer() {
@@ -3089,9 +2853,8 @@ void EngineFront::stopSOVDServer() {
             return;
         }
         return vehicle_->stopSOVDServer();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::logIn(std::shared_ptr<LogInOutConfig> config) {
@@ -3101,9 +2864,8 @@ void EngineFront::logIn(std::shared_ptr<LogInOutConfig> config) {
             return;
         }
         return vehicle_->logIn(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<VehicleUpdateConfig>
@@ -3115,9 +2877,8 @@ EngineFront::createVehicleUpdateConfig(const std::vector<std::wstring>& targets)
             return std::move(*scripted);
         }
         return vehicle_->createVehicleUpdateConfig(targets);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<ProjectConfig>> EngineFront::getProjectConfigurations() {
@@ -3128,9 +2889,8 @@ std::vector<std::shared_ptr<ProjectConfig>> EngineFront::getProjectConfiguration
             return std::move(*scripted);
         }
         return vehicle_->getProjectConfigurations();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 int32_t EngineFront::getState() {
@@ -3140,9 +2900,8 @@ int32_t EngineFront::getState() {
             return std::move(*scripted);
         }
         return vehicle_->getState();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::getVersion() {
@@ -3152,9 +2911,8 @@ std::wstring EngineFront::getVersion() {
             return std::move(*scripted);
         }
         return vehicle_->getVersion();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::getSelectedProject() {
@@ -3164,9 +2922,8 @@ std::wstring EngineFront::getSelectedProject() {
             return std::move(*scripted);
         }
         return vehicle_->getSelectedProject();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setSelectedProject(const std::wstring& projectName) {
@@ -3176,9 +2933,8 @@ void EngineFront::setSelectedProject(const std::wstring& projectName) {
             return;
         }
         return vehicle_->setSelectedProject(projectName);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<TarnApiConfig> EngineFront::getConfiguration() {
@@ -3188,9 +2944,8 @@ std::shared_ptr<TarnApiConfig> EngineFront::getConfiguration() {
             return std::move(*scripted);
         }
         return vehicle_->getConfiguration();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setConfiguration(std::shared_ptr<TarnApiConfig> config) {
@@ -3200,9 +2955,8 @@ void EngineFront::setConfiguration(std::shared_ptr<TarnApiConfig> config) {
             return;
         }
         return vehicle_->setConfiguration(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<ServerSettings> EngineFront::getServerSettings() {
@@ -3213,9 +2967,8 @@ std::shared_ptr<ServerSettings> EngineFront::getServerSettings() {
             return std::move(*scripted);
         }
         return vehicle_->getServerSettings();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<VehicleInformation> EngineFront::getSelectedVehicleInformation() {
@@ -3226,9 +2979,8 @@ std::shared_ptr<VehicleInformation> EngineFront::getSelectedVehicleInformation()
             return std::move(*scripted);
         }
         return vehicle_->getSelectedVehicleInformation();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setSelectedVehicleInformation(std::shared_ptr<VehicleInformation> information) {
@@ -3238,9 +2990,8 @@ void EngineFront::setSelectedVehicleInformation(std::shared_ptr<VehicleInformati
             return;
         }
         return vehicle_->setSelectedVehicleInformation(information);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<Target>> EngineFront::getTargets() {
@@ -3250,9 +3001,8 @@ std::vector<std::shared_ptr<Target>> EngineFront::getTargets() {
             return std::move(*scripted);
         }
         return vehicle_->getTargets();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<ProcessInfo> EngineFront::getProcessInfo() {
@@ -3262,9 +3012,8 @@ std::shared_ptr<ProcessInfo> EngineFront::getProcessInfo() {
             return std::move(*scripted);
         }
         return vehicle_->getProcessInfo();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<TransmissionInfo> EngineFront::getTransmissionInfo() {
@@ -3275,9 +3024,8 @@ std::shared_ptr<TransmissionInfo> EngineFront::getTransmissionInfo() {
             return std::move(*scripted);
         }
         return vehicle_->getTransmissionInfo();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::getHandle() {
@@ -3287,9 +3035,8 @@ uint64_t EngineFront::getHandle() {
             return std::move(*scripted);
         }
         return vehicle_->getHandle();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<MoxConfig> EngineFront::getMoxConfiguration() {
@@ -3299,9 +3046,8 @@ std::shared_ptr<MoxConfig> EngineFront::getMoxConfiguration() {
             return std::move(*scripted);
         }
         return vehicle_->getMoxConfiguration();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setMoxConfiguration(std::shared_ptr<MoxConfig> config) {
@@ -3311,9 +3057,8 @@ void EngineFront::setMoxConfiguration(std::shared_ptr<MoxConfig> config) {
             return;
         }
         return vehicle_->setMoxConfiguration(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<InterfaceConfiguration> EngineFront::getInterfaceConfiguration() {
@@ -3324,9 +3069,8 @@ std::shared_ptr<InterfaceConfiguration> EngineFront::getInterfaceConfiguration()
             return std::move(*scripted);
         }
         return vehicle_->getInterfaceConfiguration();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setInterfaceConfiguration(std::shared_ptr<InterfaceConfiguration> config) {
@@ -3336,9 +3080,8 @@ void EngineFront::setInterfaceConfiguration(std::shared_ptr<InterfaceConfigurati
             return;
         }
         return vehicle_->setInterfaceConfiguration(config);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::wstring> EngineFront::getMonitoringLinks() {
@@ -3348,9 +3091,8 @@ std::vector<std::wstring> EngineFront::getMonitoringLinks() {
             return std::move(*scripted);
         }
         return vehicle_->getMonitoringLinks();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<GlobalProtocolParameterSet>>
@@ -3363,9 +3105,8 @@ EngineFront::getGlobalProtocolParameterSets() {
             return std::move(*scripted);
         }
         return vehicle_->getGlobalProtocolParameterSets();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setGlobalProtocolParameterSets(
@@ -3376,9 +3117,8 @@ void EngineFront::setGlobalProtocolParameterSets(
             return;
         }
         return vehicle_->setGlobalProtocolParameterSets(sets);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<StatusInfo> EngineFront::getStatusInfo() {
@@ -3388,9 +3128,8 @@ std::shared_ptr<StatusInfo> EngineFront::getStatusInfo() {
             return std::move(*scripted);
         }
         return vehicle_->getStatusInfo();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<TargetFilter>> EngineFront::getSessionTargetFilters() {
@@ -3401,9 +3140,8 @@ std::vector<std::shared_ptr<TargetFilter>> EngineFront::getSessionTargetFilters(
             return std::move(*scripted);
         }
         return vehicle_->getSessionTargetFilters();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setSessionTargetFilters(
@@ -3414,9 +3152,8 @@ void EngineFront::setSessionTargetFilters(
             return;
         }
         return vehicle_->setSessionTargetFilters(filters);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<SupportedInterface>> EngineFront::getSupportedInterfaces() {
@@ -3427,9 +3164,8 @@ std::vector<std::shared_ptr<SupportedInterface>> EngineFront::getSupportedInterf
             return std::move(*scripted);
         }
         return vehicle_->getSupportedInterfaces();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::vector<std::shared_ptr<InterfaceProvider>> EngineFront::getInterfaceProviders() {
@@ -3440,9 +3176,8 @@ std::vector<std::shared_ptr<InterfaceProvider>> EngineFront::getInterfaceProvide
             return std::move(*scripted);
         }
         return vehicle_->getInterfaceProviders();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setInterfaceProviders(
@@ -3453,9 +3188,8 @@ void EngineFront::setInterfaceProviders(
             return;
         }
         return vehicle_->setInterfaceProviders(providers);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::wstring EngineFront::getCurrentDebugTraceDirectory() {
@@ -3465,9 +3199,8 @@ std::wstring EngineFront::getCurrentDebugTraceDirectory() {
             return std::move(*scripted);
         }
         return vehicle_->getCurrentDebugTraceDirectory();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<TarnApiServerConfig> EngineFront::getServerConfiguration() {
@@ -3478,9 +3211,8 @@ std::shared_ptr<TarnApiServerConfig> EngineFront::getServerConfiguration() {
             return std::move(*scripted);
         }
         return vehicle_->getServerConfiguration();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 uint64_t EngineFront::getCallDuration() {
@@ -3490,9 +3222,8 @@ uint64_t EngineFront::getCallDuration() {
             return std::move(*scripted);
         }
         return vehicle_->getCallDuration();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 void EngineFront::setStatusText(const std::wstring& text) {
@@ -3502,9 +3233,8 @@ void EngineFront::setStatusText(const std::wstring& text) {
             return;
         }
         return vehicle_->setStatusText(text);
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 std::shared_ptr<DoIPParameter> EngineFront::getDefaultDoIPParameter() {
@@ -3515,9 +3245,8 @@ std::shared_ptr<DoIPParameter> EngineFront::getDefaultDoIPParameter() {
             return std::move(*scripted);
         }
         return vehicle_->getDefaultDoIPParameter();
-    } catch (const TarnApiException& failure) {
-        call.failedWith(failure.code);
-        throw;
+    } catch (...) {
+        call.rethrow();
     }
 }
 

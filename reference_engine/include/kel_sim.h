@@ -35,6 +35,11 @@ KEL_SIM_API void kelsim_failNextWithMvci(const char* operation, uint32_t count, 
                                          const wchar_t* vendorCodeText, const wchar_t* extraText,
                                          int32_t extraCode);
 
+/* The next `count` calls of `operation` throw, where the vehicle would be called, an
+ * exception that is not an engine error (a std::runtime_error with `what`), as a fault
+ * in a family would; the engine turns it into its internal error (2301). */
+KEL_SIM_API void kelsim_throwNext(const char* operation, uint32_t count, const char* what);
+
 /* Every call of `operation` first waits `milliseconds` (0 removes the delay). */
 KEL_SIM_API void kelsim_setDelay(const char* operation, uint32_t milliseconds);
 
@@ -114,6 +119,11 @@ KEL_SIM_API void kelsim_setAsyncInterval(const char* operation, uint32_t millise
  * this error and no results. */
 KEL_SIM_API void kelsim_failAsync(const char* operation, uint32_t count, int32_t code,
                                   const wchar_t* message, const wchar_t* details);
+/* The next `count` calls start normally, and their work throws on the engine's worker an
+ * exception that is not an engine error (a std::runtime_error with `what`), as a fault
+ * in a family would: the call ends with one final report carrying the internal error
+ * (2301). */
+KEL_SIM_API void kelsim_throwAsync(const char* operation, uint32_t count, const char* what);
 /* Asynchronous calls still running on the vehicle of the engine object with `handle`,
  * or -1 when no live engine object has it. */
 KEL_SIM_API int64_t kelsim_runningAsyncCalls(uint64_t handle);

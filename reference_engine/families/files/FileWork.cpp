@@ -3,10 +3,10 @@
 #include "DataRoot.h"
 #include "Describe.h"
 #include "ErrorCodes.h"
+#include "SafeFiles.h"
 #include "WallClock.h"
 
 #include <algorithm>
-#include <atomic>
 #include <chrono>
 #include <cstdio>
 #include <system_error>
@@ -45,14 +45,6 @@ bool seek(std::FILE* f, uint64_t offset) {
 #endif
 }
 
-// A hidden name beside `target` for a file that is not whole yet.
-fs::path partFile(const fs::path& target) {
-    static std::atomic<uint64_t> counter{0};
-    const auto now = std::chrono::steady_clock::now().time_since_epoch().count();
-    return target.parent_path() /
-           (".kel-part-" + std::to_string(now % 1000000007) + "-" + std::to_string(counter++));
-}
-
 void writeAll(std::FILE* f, const std::vector<uint8_t>& data, const fs::path& path) {
     for (std::size_t done = 0; done < data.size();) {
         const std::size_t n = std::min(chunkSize, data.size() - done);
@@ -72,9 +64,14 @@ struct PartFile {
             fs::remove(path, ignored);
         }
     }
-    void placeAs(const fs::path& target) {
-        std::error_code e;
-        fs::rename(path, target, e);
+    // Over an existing file when `replace`; else only where none is, in one step, so
+    // that of two callers creating one file exactly one succeeds.
+    void placeAs(const fs::path& target, bool replace) {
+        const std::error_code e =
+            replace ? renameOver(path, target) : renameNoReplace(path, target);
+        if (e == std::errc::file_exists) {
+            throw TarnApiException(PathExists, L"The file exists", wideFromPath(target.filename()));
+        }
         if (e) {
             ioFailed(L"The file cannot be put in place", target, e);
         }
@@ -281,7 +278,7 @@ void writeData(const fs::path& file, const std::vector<uint8_t>& data, uint32_t 
                                L"Unknown write mode; 0 replaces, 1 appends, 2 creates",
                                std::to_wstring(mode));
     }
-    PartFile part{partFile(file)};
+    PartFile part{partFileBeside(file)};
     {
         const File f = open(part.path, "wb");
         if (!f) {
@@ -292,7 +289,7 @@ void writeData(const fs::path& file, const std::vector<uint8_t>& data, uint32_t 
             ioFailed(L"The file cannot be written", file, {});
         }
     }
-    part.placeAs(file);
+    part.placeAs(file, mode == ReplaceFile);
 }
 
 void copyWhole(const fs::path& from, const fs::path& to, bool overwrite) {
@@ -305,12 +302,12 @@ void copyWhole(const fs::path& from, const fs::path& to, bool overwrite) {
     if (fs::exists(status) && !overwrite) {
         throw TarnApiException(PathExists, L"The target exists", wideFromPath(to.filename()));
     }
-    PartFile part{partFile(to)};
+    PartFile part{partFileBeside(to)};
     fs::copy_file(from, part.path, fs::copy_options::overwrite_existing, e);
     if (e) {
         ioFailed(L"The file cannot be copied", from, e);
     }
-    part.placeAs(to);
+    part.placeAs(to, overwrite);
 }
 
 } // namespace Varno::Kel_cpp::Reference

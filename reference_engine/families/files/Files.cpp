@@ -8,6 +8,7 @@
 #include "Describe.h"
 #include "ErrorCodes.h"
 #include "FileWork.h"
+#include "SafeFiles.h"
 #include "SimulatedVehicle.h"
 
 #include <algorithm>
@@ -686,8 +687,11 @@ void Files::renameFile(const std::wstring& path, const std::wstring& newName) {
     if (present(to.real)) {
         throw TarnApiException(PathExists, L"The new name is taken", to.enginePath);
     }
-    std::error_code e;
-    fs::rename(from.real, to.real, e);
+    // The check above names the common case; the rename itself refuses a name taken since.
+    const std::error_code e = renameNoReplace(from.real, to.real);
+    if (e == std::errc::file_exists) {
+        throw TarnApiException(PathExists, L"The new name is taken", to.enginePath);
+    }
     if (e) {
         throw TarnApiException(FileIoFailed, L"The file cannot be renamed", from.enginePath);
     }
@@ -718,7 +722,10 @@ bool move(const Sandbox& box, const std::wstring& source, const std::wstring& ta
     }
     std::error_code e;
     fs::create_directories(to.real.parent_path(), e);
-    fs::rename(from.real, to.real, e);
+    e = renameNoReplace(from.real, to.real);
+    if (e == std::errc::file_exists) {
+        return false; // taken since the check
+    }
     if (e) {
         throw TarnApiException(FileIoFailed, L"The entry cannot be moved",
                                from.enginePath + L": " + fromUtf8(e.message()));

@@ -5,6 +5,7 @@
 #include "DataRoot.h"
 #include "Describe.h"
 #include "ErrorCodes.h"
+#include "SafeFiles.h"
 #include "SimulatedVehicle.h"
 #include "families/diagnostics/Answers.h"
 
@@ -379,11 +380,10 @@ void InterfacesState::save() const {
         j["interfaces"].push_back(writeInterface(i));
     }
     const auto file = savedConfiguration();
-    std::ofstream out(file, std::ios::trunc);
-    out << j.dump(2);
-    if (!out) {
+    const std::error_code error = writeWhole(file, j.dump(2));
+    if (error) {
         fail(ConfigurationUnsaved, L"The interface configuration cannot be saved",
-             wideFromPath(file));
+             wideFromPath(file) + L": " + fromUtf8(error.message()));
     }
 }
 

@@ -5,6 +5,7 @@
 
 #include "Describe.h"
 #include "ErrorCodes.h"
+#include "SafeFiles.h"
 #include "SimulatedVehicle.h"
 #include "VehicleClock.h"
 #include "VehicleDescription.h"
@@ -359,11 +360,7 @@ void MonitoringState::save(SimulatedVehicle& vehicle, uint64_t monitor, const st
         const std::lock_guard lock(mutex_);
         pdus = find(pduMonitors_, monitor, L"PDU monitor").pdus;
     }
-    const std::string text = writeTraceFile(pdus);
-    std::ofstream out(target.real, std::ios::binary | std::ios::trunc);
-    out.write(text.data(), static_cast<std::streamsize>(text.size()));
-    out.close();
-    if (!out) {
+    if (writeWhole(target.real, writeTraceFile(pdus))) {
         fail(FileIoFailed, L"The trace file cannot be written", target.enginePath);
     }
 }

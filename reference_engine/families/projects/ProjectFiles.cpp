@@ -2,6 +2,7 @@
 
 #include "DataRoot.h"
 #include "ErrorCodes.h"
+#include "SafeFiles.h"
 
 #include <Kel_cpp/TarnApiException.h>
 
@@ -31,20 +32,8 @@ std::optional<Json> readJsonFile(const std::filesystem::path& file) {
 }
 
 void writeJsonFile(const std::filesystem::path& file, const Json& json) {
-    auto temporary = file;
-    temporary += ".new";
-    {
-        std::ofstream out(temporary, std::ios::binary | std::ios::trunc);
-        out << json.dump(2) << '\n';
-        if (!out.flush()) {
-            throw TarnApiException(CannotWriteFile, L"The file cannot be written",
-                                   wideFromPath(file));
-        }
-    }
-    std::error_code error;
-    std::filesystem::rename(temporary, file, error);
+    const std::error_code error = writeWhole(file, json.dump(2) + "\n");
     if (error) {
-        std::filesystem::remove(temporary, error);
         throw TarnApiException(CannotWriteFile, L"The file cannot be written",
                                wideFromPath(file) + L": " + fromUtf8(error.message()));
     }

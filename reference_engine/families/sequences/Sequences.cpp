@@ -276,8 +276,10 @@ void SequencesState::work() {
         std::shared_ptr<ServiceResult> result;
         try {
             result = work->step(index);
-        } catch (const TarnApiException&) {
-            result = nullptr; // the units cannot be used, or the target is gone
+        } catch (...) {
+            // The units cannot be used, or the target is gone; a fault ends the run too,
+            // rather than the process from this thread.
+            result = nullptr;
         }
         const auto run = L"run " + std::to_wstring(id);
         if (result) {

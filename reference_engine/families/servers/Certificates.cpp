@@ -2,6 +2,7 @@
 
 #include "DataRoot.h"
 #include "Describe.h"
+#include "SafeFiles.h"
 
 #include <algorithm>
 #include <fstream>
@@ -170,8 +171,9 @@ std::vector<Certificate> readCertificateStore(const std::filesystem::path& folde
     const std::filesystem::directory_iterator none;
     if (std::none_of(std::filesystem::directory_iterator(folder), none, isPem)) {
         for (const auto& bundled : bundledCertificates()) {
-            std::ofstream(folder / (std::string(bundled.id) + ".pem"), std::ios::binary)
-                << bundled.pem << '\n';
+            // A store that cannot be written is read as it is: without them.
+            static_cast<void>(writeWhole(folder / (std::string(bundled.id) + ".pem"),
+                                         std::string(bundled.pem) + "\n"));
         }
     }
     std::vector<Certificate> store;

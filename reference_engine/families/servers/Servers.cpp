@@ -4,6 +4,7 @@
 #include "DataRoot.h"
 #include "Describe.h"
 #include "IdentityProvider.h"
+#include "SafeFiles.h"
 #include "SimulatedVehicle.h"
 #include "VehicleClock.h"
 #include "VehicleDescription.h"
@@ -170,18 +171,7 @@ void ServersState::saveUsersLocked() {
                          {"hash", toHex(user.password.hash)}});
     }
     const nlohmann::json json{{"userManagement", userManagement_}, {"users", users}};
-    // Written beside and moved over, so that a file is always whole.
-    auto written = usersFile_;
-    written += ".new";
-    {
-        std::ofstream out(written, std::ios::binary | std::ios::trunc);
-        out << json.dump(2) << '\n';
-        if (!out) {
-            throw usersUnreadable(written, "cannot be written");
-        }
-    }
-    std::error_code error;
-    std::filesystem::rename(written, usersFile_, error);
+    const std::error_code error = writeWhole(usersFile_, json.dump(2) + "\n");
     if (error) {
         throw usersUnreadable(usersFile_, error.message());
     }

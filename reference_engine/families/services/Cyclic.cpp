@@ -143,9 +143,10 @@ void CyclicJobs::run() {
                 }
                 return out;
             });
-        } catch (const TarnApiException&) { // NOLINT(bugprone-empty-catch)
+        } catch (...) { // NOLINT(bugprone-empty-catch)
             // The units cannot be used (a description that is not valid); a reload that
-            // made them so also ends this job.
+            // made them so also ends this job. Anything else thrown here would end the
+            // process from this thread: the cycle just reports nothing.
         }
         for (auto& r : results) {
             if (!r->request) { // not sent: the request carries the cycle all the same

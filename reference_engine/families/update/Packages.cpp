@@ -475,8 +475,20 @@ std::vector<Package> Broker::packages(const Sandbox& box, const Skipped& skipped
 }
 
 Resolved Broker::directory(const Sandbox& box, const std::wstring& relative) const {
-    auto names = splitEnginePath(L"x/" + relative);
-    names.erase(names.begin()); // the stand-in for the broker
+    const auto itself = [&] {
+        throw TarnApiException(BadUpdateArgument,
+                               L"The broker's own folder is not a report folder (its upload log "
+                               L"is there)",
+                               relative);
+    };
+    // "." (or "./") names the broker itself; anything else is split as given, so that a
+    // refusal shows the folder the caller wrote.
+    if (!relative.empty() && relative.find(L"..") == std::wstring::npos &&
+        std::all_of(relative.begin(), relative.end(),
+                    [](wchar_t c) { return c == L'.' || c == L'/' || c == L'\\'; })) {
+        itself();
+    }
+    const auto names = splitEnginePath(relative);
     Resolved at = folder;
     for (const auto& name : names) {
         const Resolved parent = at;
@@ -490,6 +502,10 @@ Resolved Broker::directory(const Sandbox& box, const std::wstring& relative) con
             throw TarnApiException(OutsideSandbox, L"The folder leads outside the broker",
                                    at.enginePath);
         }
+    }
+    std::error_code e;
+    if (std::filesystem::equivalent(at.real, folder.real, e)) {
+        itself(); // through a link
     }
     return at;
 }

@@ -9,6 +9,7 @@
 #include "ControlUnits.h"
 #include "Describe.h"
 #include "ErrorCodes.h"
+#include "SafeFiles.h"
 #include "SimulatedVehicle.h"
 #include "VehicleClock.h"
 #include "WallClock.h"
@@ -93,6 +94,76 @@ std::wstring stem(const std::wstring& name) {
     const auto dot = name.rfind(L'.');
     return dot == std::wstring::npos || dot == 0 ? name : name.substr(0, dot);
 }
+
+// The broker's log of uploads, in its root folder.
+const std::wstring uploadLogName = L"uploads.jsonl";
+
+// Windows finds a file whatever the case of its name.
+bool sameNameIgnoringCase(const std::wstring& a, const std::wstring& b) {
+    const auto lower = [](wchar_t c) { return c >= L'A' && c <= L'Z' ? c - L'A' + L'a' : c; };
+    return a.size() == b.size() &&
+           std::equal(a.begin(), a.end(), b.begin(),
+                      [&](wchar_t x, wchar_t y) { return lower(x) == lower(y); });
+}
+
+// The copies of one upload, undone unless kept: a new file goes again, a replaced one
+// comes back from the copy kept aside beside it.
+class UploadCopies {
+public:
+    UploadCopies() = default;
+    UploadCopies(const UploadCopies&) = delete;
+    UploadCopies& operator=(const UploadCopies&) = delete;
+    ~UploadCopies() {
+        for (auto it = placed_.rbegin(); it != placed_.rend(); ++it) {
+            std::error_code ignored;
+            if (it->aside.empty()) {
+                std::filesystem::remove(it->target, ignored);
+            } else if (renameOver(it->aside, it->target)) {
+                std::filesystem::remove(it->aside, ignored);
+            }
+        }
+    }
+
+    void put(const std::filesystem::path& from, const std::filesystem::path& to, bool overwrite) {
+        Placed placed{to, {}};
+        std::error_code e;
+        if (overwrite && std::filesystem::is_regular_file(to, e)) {
+            placed.aside = partFileBeside(to);
+            std::filesystem::copy_file(to, placed.aside, e);
+            if (e) {
+                std::filesystem::remove(placed.aside, e);
+                throw TarnApiException(FileIoFailed, L"The report it replaces cannot be kept aside",
+                                       wideFromPath(to.filename()));
+            }
+        }
+        try {
+            copyWhole(from, to, overwrite);
+        } catch (...) {
+            if (!placed.aside.empty()) {
+                std::filesystem::remove(placed.aside, e);
+            }
+            throw;
+        }
+        placed_.push_back(std::move(placed));
+    }
+
+    void keep() {
+        for (const auto& placed : placed_) {
+            std::error_code ignored;
+            if (!placed.aside.empty()) {
+                std::filesystem::remove(placed.aside, ignored);
+            }
+        }
+        placed_.clear();
+    }
+
+private:
+    struct Placed {
+        std::filesystem::path target;
+        std::filesystem::path aside; // the replaced file's copy; empty: the file is new
+    };
+    std::vector<Placed> placed_;
+};
 
 } // namespace
 
@@ -818,6 +889,21 @@ void VehicleUpdate::uploadReport(std::shared_ptr<UploadReportConfiguration> conf
         }
     }
     const std::wstring folder = config->folder.empty() ? std::wstring(L"reports") : config->folder;
+    if (sameNameIgnoringCase(name, uploadLogName)) {
+        throw TarnApiException(BadUpdateArgument, L"A report cannot take the upload log's name",
+                               name);
+    }
+    std::wstring vin = config->vin;
+    if (vin.empty() && twin) {
+        try {
+            const auto bytes = readRange(twin->real, 0, 1024 * 1024, false);
+            const auto j = nlohmann::json::parse(bytes.begin(), bytes.end());
+            // The reports' JSON form: {"format": "kel report 1", "vehicle": {"vin": ...}}.
+            vin = fromUtf8(j.at("vehicle").value("vin", std::string()));
+        } catch (const std::exception&) {
+            // A twin that names no VIN leaves the log's empty.
+        }
+    }
     c.withStore([&] {
         const Resolved directory = c.broker.directory(c.box, folder);
         const auto place = [&](const std::wstring& file) {
@@ -834,22 +920,8 @@ void VehicleUpdate::uploadReport(std::shared_ptr<UploadReportConfiguration> conf
         if (twin) {
             twinTo = place(stem(name) + L".json");
         }
-        // Both checked before either is copied: an upload is whole or not at all.
-        copyWhole(report.real, to.real, config->overwrite);
-        if (twin) {
-            copyWhole(twin->real, twinTo->real, config->overwrite);
-        }
-        std::wstring vin = config->vin;
-        if (vin.empty() && twin) {
-            try {
-                const auto bytes = readRange(twin->real, 0, 1024 * 1024, false);
-                const auto j = nlohmann::json::parse(bytes.begin(), bytes.end());
-                // The reports' JSON form: {"format": "kel report 1", "vehicle": {"vin": ...}}.
-                vin = fromUtf8(j.at("vehicle").value("vin", std::string()));
-            } catch (const std::exception&) {
-                // A twin that names no VIN leaves the log's empty.
-            }
-        }
+        // The log line is made before anything is copied (of the report, which the copy
+        // equals): what can fail then is the file system alone, and that undoes the copies.
         uint64_t size = 0;
         const nlohmann::json line = {
             {"time", toUtf8(utcNow())},
@@ -859,11 +931,19 @@ void VehicleUpdate::uploadReport(std::shared_ptr<UploadReportConfiguration> conf
             {"file", toUtf8(folder + L"/" + name)},
             {"twin", twinTo ? nlohmann::json(toUtf8(folder + L"/" + stem(name) + L".json"))
                             : nlohmann::json()},
-            {"checksum", toUtf8(fileChecksum(to.real, size))},
+            {"checksum", toUtf8(fileChecksum(report.real, size))},
             {"size", size}};
         const auto text = line.dump() + "\n";
-        const Resolved log = c.box.child(c.broker.folder, L"uploads.jsonl");
+        const Resolved log = c.box.child(c.broker.folder, uploadLogName);
+        // Both checked before either is copied: an upload is whole or not at all. Each copy
+        // is put in place whole; a replaced report is kept aside until the line is written.
+        UploadCopies copies;
+        copies.put(report.real, to.real, config->overwrite);
+        if (twin) {
+            copies.put(twin->real, twinTo->real, config->overwrite);
+        }
         writeData(log.real, std::vector<uint8_t>(text.begin(), text.end()), AppendToFile);
+        copies.keep();
     });
 }
 

@@ -119,6 +119,17 @@ TEST_F(Coding, readCodingStringsAsync_Failure) {
     kc::asyncFailure<ReadCodingStringsAsyncExport>(api, kReadCodingStringsCases);
 }
 
+const char* const kReadCodingStringsNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 33.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 33.2\"]]",
+};
+TEST_F(Coding, readCodingStrings_TextWithNoUtf8Form) {
+    kc::noUtf8<ReadCodingStringsExport>(api, kReadCodingStringsNoUtf8);
+}
+TEST_F(Coding, readCodingStringsAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ReadCodingStringsAsyncExport>(api, kReadCodingStringsNoUtf8);
+}
+
 const kc::Number kNumber32{32, "readCodingStrings", kReadCodingStringsCases};
 
 TEST_F(CodingByNumber, n32_readCodingStrings_KelCall) { kc::kelCall(api, kNumber32); }
@@ -157,6 +168,13 @@ TEST_F(Coding, calculateChecksum_Exchange) {
 }
 TEST_F(Coding, calculateChecksum_Failure) {
     kc::failure<CalculateChecksumExport>(api, kCalculateChecksumCases);
+}
+
+const char* const kCalculateChecksumNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 140.1\\ud800\",-2147483648]",
+};
+TEST_F(Coding, calculateChecksum_TextWithNoUtf8Form) {
+    kc::noUtf8<CalculateChecksumExport>(api, kCalculateChecksumNoUtf8);
 }
 
 const kc::Number kNumber169{169, "calculateChecksum", kCalculateChecksumCases};
@@ -279,6 +297,19 @@ TEST_F(Coding, writeCodingFileAsync_Failure) {
     kc::asyncFailure<WriteCodingFileAsyncExport>(api, kWriteCodingFileCases);
 }
 
+const char* const kWriteCodingFileNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 221.1\\ud800\",[\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 221.2\",\"\",\"K\303\274hler\\t\360\237\224\247 221.3\"]]",
+    "[\"Pr\303\274fstand \342\202\254 221.1\",[\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 221.2\\ud800\",\"\",\"K\303\274hler\\t\360\237\224\247 221.3\"]]",
+};
+TEST_F(Coding, writeCodingFile_TextWithNoUtf8Form) {
+    kc::noUtf8<WriteCodingFileExport>(api, kWriteCodingFileNoUtf8);
+}
+TEST_F(Coding, writeCodingFileAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<WriteCodingFileAsyncExport>(api, kWriteCodingFileNoUtf8);
+}
+
 const kc::Number kNumber251{251, "writeCodingFile", kWriteCodingFileCases};
 
 TEST_F(CodingByNumber, n251_writeCodingFile_KelCall) { kc::kelCall(api, kNumber251); }
@@ -387,6 +418,19 @@ TEST_F(Coding, performEcuConfigurationAsync_Exchange) {
 }
 TEST_F(Coding, performEcuConfigurationAsync_Failure) {
     kc::asyncFailure<PerformEcuConfigurationAsyncExport>(api, kPerformEcuConfigurationCases);
+}
+
+const char* const kPerformEcuConfigurationNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 233.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 233.2\"],\"K\303\274hler\\t\360\237\224\247 233.3\"]",
+    "[[\"Pr\303\274fstand \342\202\254 233.1\",\"\",\"\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 233.2\"],\"\\udc00K\303\274hler\\t\360\237\224\247 233.3\\ud800\"]",
+};
+TEST_F(Coding, performEcuConfiguration_TextWithNoUtf8Form) {
+    kc::noUtf8<PerformEcuConfigurationExport>(api, kPerformEcuConfigurationNoUtf8);
+}
+TEST_F(Coding, performEcuConfigurationAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<PerformEcuConfigurationAsyncExport>(api, kPerformEcuConfigurationNoUtf8);
 }
 
 const kc::Number kNumber267{267, "performEcuConfiguration", kPerformEcuConfigurationCases};

@@ -407,6 +407,17 @@ TEST_F(Diagnostics, readIdentificationValuesAsync_Failure) {
     kc::asyncFailure<ReadIdentificationValuesAsyncExport>(api, kReadIdentificationValuesCases);
 }
 
+const char* const kReadIdentificationValuesNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 19.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 19.2\"]]",
+};
+TEST_F(Diagnostics, readIdentificationValues_TextWithNoUtf8Form) {
+    kc::noUtf8<ReadIdentificationValuesExport>(api, kReadIdentificationValuesNoUtf8);
+}
+TEST_F(Diagnostics, readIdentificationValuesAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ReadIdentificationValuesAsyncExport>(api, kReadIdentificationValuesNoUtf8);
+}
+
 const kc::Number kNumber19{19, "readIdentificationValues", kReadIdentificationValuesCases};
 
 TEST_F(DiagnosticsByNumber, n19_readIdentificationValues_KelCall) { kc::kelCall(api, kNumber19); }
@@ -707,6 +718,16 @@ TEST_F(Diagnostics, readDataByIdentifiers_Failure) {
     kc::failure<ReadDataByIdentifiersExport>(api, kReadDataByIdentifiersCases);
 }
 
+const char* const kReadDataByIdentifiersNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 21.1\\ud800\",[\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 21.2\",\"\",\"K\303\274hler\\t\360\237\224\247 21.3\"]]",
+    "[\"Pr\303\274fstand \342\202\254 21.1\",[\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 21.2\\ud800\",\"\",\"K\303\274hler\\t\360\237\224\247 21.3\"]]",
+};
+TEST_F(Diagnostics, readDataByIdentifiers_TextWithNoUtf8Form) {
+    kc::noUtf8<ReadDataByIdentifiersExport>(api, kReadDataByIdentifiersNoUtf8);
+}
+
 const kc::Number kNumber21{21, "readDataByIdentifiers", kReadDataByIdentifiersCases};
 
 TEST_F(DiagnosticsByNumber, n21_readDataByIdentifiers_KelCall) { kc::kelCall(api, kNumber21); }
@@ -783,6 +804,13 @@ TEST_F(Diagnostics, identifyTarget_Exchange) {
 }
 TEST_F(Diagnostics, identifyTarget_Failure) {
     kc::failure<IdentifyTargetExport>(api, kIdentifyTargetCases);
+}
+
+const char* const kIdentifyTargetNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 22.1\\ud800\"]",
+};
+TEST_F(Diagnostics, identifyTarget_TextWithNoUtf8Form) {
+    kc::noUtf8<IdentifyTargetExport>(api, kIdentifyTargetNoUtf8);
 }
 
 const kc::Number kNumber22{22, "identifyTarget", kIdentifyTargetCases};
@@ -1288,6 +1316,18 @@ TEST_F(Diagnostics, readDtcsAsync_Exchange) {
 }
 TEST_F(Diagnostics, readDtcsAsync_Failure) {
     kc::asyncFailure<ReadDtcsAsyncExport>(api, kReadDtcsCases);
+}
+
+const char* const kReadDtcsNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 23.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 23.2\"],{\"value\":-2147483648,\"flag1\":255,\"flag2\":128"
+    ",\"flag3\":127}]",
+};
+TEST_F(Diagnostics, readDtcs_TextWithNoUtf8Form) {
+    kc::noUtf8<ReadDtcsExport>(api, kReadDtcsNoUtf8);
+}
+TEST_F(Diagnostics, readDtcsAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ReadDtcsAsyncExport>(api, kReadDtcsNoUtf8);
 }
 
 const kc::Number kNumber23{23, "readDtcs", kReadDtcsCases};
@@ -1797,6 +1837,18 @@ TEST_F(Diagnostics, readSupportedDtcsAsync_Failure) {
     kc::asyncFailure<ReadSupportedDtcsAsyncExport>(api, kReadSupportedDtcsCases);
 }
 
+const char* const kReadSupportedDtcsNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 25.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 25.2\"],{\"value\":-2147483648,\"flag1\":255,\"flag2\":128"
+    ",\"flag3\":127}]",
+};
+TEST_F(Diagnostics, readSupportedDtcs_TextWithNoUtf8Form) {
+    kc::noUtf8<ReadSupportedDtcsExport>(api, kReadSupportedDtcsNoUtf8);
+}
+TEST_F(Diagnostics, readSupportedDtcsAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ReadSupportedDtcsAsyncExport>(api, kReadSupportedDtcsNoUtf8);
+}
+
 const kc::Number kNumber25{25, "readSupportedDtcs", kReadSupportedDtcsCases};
 
 TEST_F(DiagnosticsByNumber, n25_readSupportedDtcs_KelCall) { kc::kelCall(api, kNumber25); }
@@ -1894,6 +1946,17 @@ TEST_F(Diagnostics, clearAllDtcsAsync_Exchange) {
 }
 TEST_F(Diagnostics, clearAllDtcsAsync_Failure) {
     kc::asyncFailure<ClearAllDtcsAsyncExport>(api, kClearAllDtcsCases);
+}
+
+const char* const kClearAllDtcsNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 27.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 27.2\"]]",
+};
+TEST_F(Diagnostics, clearAllDtcs_TextWithNoUtf8Form) {
+    kc::noUtf8<ClearAllDtcsExport>(api, kClearAllDtcsNoUtf8);
+}
+TEST_F(Diagnostics, clearAllDtcsAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ClearAllDtcsAsyncExport>(api, kClearAllDtcsNoUtf8);
 }
 
 const kc::Number kNumber27{27, "clearAllDtcs", kClearAllDtcsCases};
@@ -2411,6 +2474,18 @@ TEST_F(Diagnostics, performQuickTestAsync_Failure) {
     kc::asyncFailure<PerformQuickTestAsyncExport>(api, kPerformQuickTestCases);
 }
 
+const char* const kPerformQuickTestNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 35.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 35.2\"],{\"value\":-2147483648,\"flag1\":255,\"flag2\":128"
+    ",\"flag3\":127}]",
+};
+TEST_F(Diagnostics, performQuickTest_TextWithNoUtf8Form) {
+    kc::noUtf8<PerformQuickTestExport>(api, kPerformQuickTestNoUtf8);
+}
+TEST_F(Diagnostics, performQuickTestAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<PerformQuickTestAsyncExport>(api, kPerformQuickTestNoUtf8);
+}
+
 const kc::Number kNumber34{34, "performQuickTest", kPerformQuickTestCases};
 
 TEST_F(DiagnosticsByNumber, n34_performQuickTest_KelCall) { kc::kelCall(api, kNumber34); }
@@ -2514,6 +2589,17 @@ TEST_F(Diagnostics, identifyTargetsAsync_Exchange) {
 }
 TEST_F(Diagnostics, identifyTargetsAsync_Failure) {
     kc::asyncFailure<IdentifyTargetsAsyncExport>(api, kIdentifyTargetsCases);
+}
+
+const char* const kIdentifyTargetsNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 65.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 65.2\"]]",
+};
+TEST_F(Diagnostics, identifyTargets_TextWithNoUtf8Form) {
+    kc::noUtf8<IdentifyTargetsExport>(api, kIdentifyTargetsNoUtf8);
+}
+TEST_F(Diagnostics, identifyTargetsAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<IdentifyTargetsAsyncExport>(api, kIdentifyTargetsNoUtf8);
 }
 
 const kc::Number kNumber86{86, "identifyTargets", kIdentifyTargetsCases};
@@ -2652,6 +2738,15 @@ TEST_F(Diagnostics, getFilteredTargets_Failure) {
     kc::failure<GetFilteredTargetsExport>(api, kGetFilteredTargetsCases);
 }
 
+const char* const kGetFilteredTargetsNoUtf8[] = {
+    "[[{\"pattern\":\"\\udc00Pr\303\274fstand \342\202\254 74.1\\ud800\",\"flag\":255,\"value"
+    "\":-2147483648},{\"pattern\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 74."
+    "2\",\"flag\":128,\"value\":2147483647}]]",
+};
+TEST_F(Diagnostics, getFilteredTargets_TextWithNoUtf8Form) {
+    kc::noUtf8<GetFilteredTargetsExport>(api, kGetFilteredTargetsNoUtf8);
+}
+
 const kc::Number kNumber97{97, "getFilteredTargets", kGetFilteredTargetsCases};
 
 TEST_F(DiagnosticsByNumber, n97_getFilteredTargets_KelCall) { kc::kelCall(api, kNumber97); }
@@ -2753,6 +2848,14 @@ TEST_F(Diagnostics, getTargetStatus_Failure) {
     kc::failure<GetTargetStatusExport>(api, kGetTargetStatusCases);
 }
 
+const char* const kGetTargetStatusNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 181.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 181.2\"]]",
+};
+TEST_F(Diagnostics, getTargetStatus_TextWithNoUtf8Form) {
+    kc::noUtf8<GetTargetStatusExport>(api, kGetTargetStatusNoUtf8);
+}
+
 const kc::Number kNumber215{215, "getTargetStatus", kGetTargetStatusCases};
 
 TEST_F(DiagnosticsByNumber, n215_getTargetStatus_KelCall) { kc::kelCall(api, kNumber215); }
@@ -2847,6 +2950,16 @@ TEST_F(Diagnostics, clearSpecificDtcsAsync_Exchange) {
 }
 TEST_F(Diagnostics, clearSpecificDtcsAsync_Failure) {
     kc::asyncFailure<ClearSpecificDtcsAsyncExport>(api, kClearSpecificDtcsCases);
+}
+
+const char* const kClearSpecificDtcsNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 235.1\\ud800\",[4294967295,0,2147483648]]",
+};
+TEST_F(Diagnostics, clearSpecificDtcs_TextWithNoUtf8Form) {
+    kc::noUtf8<ClearSpecificDtcsExport>(api, kClearSpecificDtcsNoUtf8);
+}
+TEST_F(Diagnostics, clearSpecificDtcsAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ClearSpecificDtcsAsyncExport>(api, kClearSpecificDtcsNoUtf8);
 }
 
 const kc::Number kNumber268{268, "clearSpecificDtcs", kClearSpecificDtcsCases};
@@ -3061,6 +3174,15 @@ TEST_F(Diagnostics, setSessionTargetFilters_Exchange) {
 }
 TEST_F(Diagnostics, setSessionTargetFilters_Failure) {
     kc::failure<SetSessionTargetFiltersExport>(api, kSetSessionTargetFiltersCases);
+}
+
+const char* const kSetSessionTargetFiltersNoUtf8[] = {
+    "[[{\"pattern\":\"\\udc00Pr\303\274fstand \342\202\254 264.1\\ud800\",\"flag\":255,\"valu"
+    "e\":-2147483648},{\"pattern\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 26"
+    "4.2\",\"flag\":128,\"value\":2147483647}]]",
+};
+TEST_F(Diagnostics, setSessionTargetFilters_TextWithNoUtf8Form) {
+    kc::noUtf8<SetSessionTargetFiltersExport>(api, kSetSessionTargetFiltersNoUtf8);
 }
 
 const kc::Number kNumber91{91, "setSessionTargetFilters", kSetSessionTargetFiltersCases};

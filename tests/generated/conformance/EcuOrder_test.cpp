@@ -59,6 +59,13 @@ TEST_F(EcuOrder, readEcuOrder_Exchange) {
 }
 TEST_F(EcuOrder, readEcuOrder_Failure) { kc::failure<ReadEcuOrderExport>(api, kReadEcuOrderCases); }
 
+const char* const kReadEcuOrderNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 112.1\\ud800\"]",
+};
+TEST_F(EcuOrder, readEcuOrder_TextWithNoUtf8Form) {
+    kc::noUtf8<ReadEcuOrderExport>(api, kReadEcuOrderNoUtf8);
+}
+
 const kc::Number kNumber143{143, "readEcuOrder", kReadEcuOrderCases};
 
 TEST_F(EcuOrderByNumber, n143_readEcuOrder_KelCall) { kc::kelCall(api, kNumber143); }
@@ -142,6 +149,27 @@ TEST_F(EcuOrder, filterEcuOrder_Failure) {
     kc::failure<FilterEcuOrderExport>(api, kFilterEcuOrderCases);
 }
 
+const char* const kFilterEcuOrderNoUtf8[] = {
+    "[[{\"target\":\"\\udc00Pr\303\274fstand \342\202\254 113.1\\ud800\",\"bus\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 113.2\",\"address\":4294967295,\"gateway\""
+    ":128,\"optional\":0},{\"target\":\"K\303\274hler\\t\360\237\224\247 113.3\",\"bus\":\"sa"
+    "y \\\"\303\251\\\" 113.4\",\"address\":2147483648,\"gateway\":255,\"optional\":0}],[\"ba"
+    "ck\\\\slash \303\237 113.5\",\"\",\"Z\303\274ndung \360\237\232\227 113.6\"]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 113.1\",\"bus\":\"\\udc00\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 113.2\\ud800\",\"address\":4294967295,\"gateway\":"
+    "128,\"optional\":0},{\"target\":\"K\303\274hler\\t\360\237\224\247 113.3\",\"bus\":\"say"
+    " \\\"\303\251\\\" 113.4\",\"address\":2147483648,\"gateway\":255,\"optional\":0}],[\"bac"
+    "k\\\\slash \303\237 113.5\",\"\",\"Z\303\274ndung \360\237\232\227 113.6\"]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 113.1\",\"bus\":\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 113.2\",\"address\":4294967295,\"gateway\":128,\"optional"
+    "\":0},{\"target\":\"K\303\274hler\\t\360\237\224\247 113.3\",\"bus\":\"say \\\"\303\251"
+    "\\\" 113.4\",\"address\":2147483648,\"gateway\":255,\"optional\":0}],[\"\\udc00back\\\\s"
+    "lash \303\237 113.5\\ud800\",\"\",\"Z\303\274ndung \360\237\232\227 113.6\"]]",
+};
+TEST_F(EcuOrder, filterEcuOrder_TextWithNoUtf8Form) {
+    kc::noUtf8<FilterEcuOrderExport>(api, kFilterEcuOrderNoUtf8);
+}
+
 const kc::Number kNumber144{144, "filterEcuOrder", kFilterEcuOrderCases};
 
 TEST_F(EcuOrderByNumber, n144_filterEcuOrder_KelCall) { kc::kelCall(api, kNumber144); }
@@ -215,6 +243,20 @@ TEST_F(EcuOrder, addMissingTargetsToEcuOrder_Exchange) {
 }
 TEST_F(EcuOrder, addMissingTargetsToEcuOrder_Failure) {
     kc::failure<AddMissingTargetsToEcuOrderExport>(api, kAddMissingTargetsToEcuOrderCases);
+}
+
+const char* const kAddMissingTargetsToEcuOrderNoUtf8[] = {
+    "[[{\"target\":\"\\udc00Pr\303\274fstand \342\202\254 114.1\\ud800\",\"bus\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 114.2\",\"address\":4294967295,\"gateway\""
+    ":128,\"optional\":0},{\"target\":\"K\303\274hler\\t\360\237\224\247 114.3\",\"bus\":\"sa"
+    "y \\\"\303\251\\\" 114.4\",\"address\":2147483648,\"gateway\":255,\"optional\":0}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 114.1\",\"bus\":\"\\udc00\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 114.2\\ud800\",\"address\":4294967295,\"gateway\":"
+    "128,\"optional\":0},{\"target\":\"K\303\274hler\\t\360\237\224\247 114.3\",\"bus\":\"say"
+    " \\\"\303\251\\\" 114.4\",\"address\":2147483648,\"gateway\":255,\"optional\":0}]]",
+};
+TEST_F(EcuOrder, addMissingTargetsToEcuOrder_TextWithNoUtf8Form) {
+    kc::noUtf8<AddMissingTargetsToEcuOrderExport>(api, kAddMissingTargetsToEcuOrderNoUtf8);
 }
 
 const kc::Number kNumber145{145, "addMissingTargetsToEcuOrder", kAddMissingTargetsToEcuOrderCases};
@@ -332,6 +374,27 @@ TEST_F(EcuOrder, writeEcuOrder_Exchange) {
 }
 TEST_F(EcuOrder, writeEcuOrder_Failure) {
     kc::failure<WriteEcuOrderExport>(api, kWriteEcuOrderCases);
+}
+
+const char* const kWriteEcuOrderNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 223.1\\ud800\",[{\"target\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 223.2\",\"bus\":\"K\303\274hler\\t\360\237\224\247"
+    " 223.3\",\"address\":4294967295,\"gateway\":128,\"optional\":0},{\"target\":\"say \\\""
+    "\303\251\\\" 223.4\",\"bus\":\"back\\\\slash \303\237 223.5\",\"address\":2147483648,\"g"
+    "ateway\":255,\"optional\":0}]]",
+    "[\"Pr\303\274fstand \342\202\254 223.1\",[{\"target\":\"\\udc00\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 223.2\\ud800\",\"bus\":\"K\303\274hler\\t\360\237\224\247 "
+    "223.3\",\"address\":4294967295,\"gateway\":128,\"optional\":0},{\"target\":\"say \\\""
+    "\303\251\\\" 223.4\",\"bus\":\"back\\\\slash \303\237 223.5\",\"address\":2147483648,\"g"
+    "ateway\":255,\"optional\":0}]]",
+    "[\"Pr\303\274fstand \342\202\254 223.1\",[{\"target\":\"\346\227\245\346\234\254\350\252"
+    "\236 \360\235\204\236 223.2\",\"bus\":\"\\udc00K\303\274hler\\t\360\237\224\247 223.3\\u"
+    "d800\",\"address\":4294967295,\"gateway\":128,\"optional\":0},{\"target\":\"say \\\"\303"
+    "\251\\\" 223.4\",\"bus\":\"back\\\\slash \303\237 223.5\",\"address\":2147483648,\"gatew"
+    "ay\":255,\"optional\":0}]]",
+};
+TEST_F(EcuOrder, writeEcuOrder_TextWithNoUtf8Form) {
+    kc::noUtf8<WriteEcuOrderExport>(api, kWriteEcuOrderNoUtf8);
 }
 
 const kc::Number kNumber255{255, "writeEcuOrder", kWriteEcuOrderCases};

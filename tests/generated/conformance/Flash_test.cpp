@@ -70,6 +70,13 @@ TEST_F(Flash, getFlashSessionInfos_Failure) {
     kc::failure<GetFlashSessionInfosExport>(api, kGetFlashSessionInfosCases);
 }
 
+const char* const kGetFlashSessionInfosNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 30.1\\ud800\"]",
+};
+TEST_F(Flash, getFlashSessionInfos_TextWithNoUtf8Form) {
+    kc::noUtf8<GetFlashSessionInfosExport>(api, kGetFlashSessionInfosNoUtf8);
+}
+
 const kc::Number kNumber113{113, "getFlashSessionInfos", kGetFlashSessionInfosCases};
 
 TEST_F(FlashByNumber, n113_getFlashSessionInfos_KelCall) { kc::kelCall(api, kNumber113); }
@@ -197,6 +204,19 @@ TEST_F(Flash, executeFlashSessionsAsync_Exchange) {
 }
 TEST_F(Flash, executeFlashSessionsAsync_Failure) {
     kc::asyncFailure<ExecuteFlashSessionsAsyncExport>(api, kExecuteFlashSessionsCases);
+}
+
+const char* const kExecuteFlashSessionsNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 31.1\\ud800\",[\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 31.2\",\"\",\"K\303\274hler\\t\360\237\224\247 31.3\"]]",
+    "[\"Pr\303\274fstand \342\202\254 31.1\",[\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 31.2\\ud800\",\"\",\"K\303\274hler\\t\360\237\224\247 31.3\"]]",
+};
+TEST_F(Flash, executeFlashSessions_TextWithNoUtf8Form) {
+    kc::noUtf8<ExecuteFlashSessionsExport>(api, kExecuteFlashSessionsNoUtf8);
+}
+TEST_F(Flash, executeFlashSessionsAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ExecuteFlashSessionsAsyncExport>(api, kExecuteFlashSessionsNoUtf8);
 }
 
 const kc::Number kNumber117{117, "executeFlashSessions", kExecuteFlashSessionsCases};
@@ -328,6 +348,21 @@ TEST_F(Flash, executeFlashSessionsConfigAsync_Exchange) {
 }
 TEST_F(Flash, executeFlashSessionsConfigAsync_Failure) {
     kc::asyncFailure<ExecuteFlashSessionsConfigAsyncExport>(api, kExecuteFlashSessionsConfigCases);
+}
+
+const char* const kExecuteFlashSessionsConfigNoUtf8[] = {
+    "[{\"target\":\"\\udc00Pr\303\274fstand \342\202\254 166.1\\ud800\",\"sessions\":[\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 166.2\",\"K\303\274hler\\t\360\237\224"
+    "\247 166.3\"],\"blockLength\":4294967295,\"stopOnError\":128}]",
+    "[{\"target\":\"Pr\303\274fstand \342\202\254 166.1\",\"sessions\":[\"\\udc00\346\227\245"
+    "\346\234\254\350\252\236 \360\235\204\236 166.2\\ud800\",\"K\303\274hler\\t\360\237\224"
+    "\247 166.3\"],\"blockLength\":4294967295,\"stopOnError\":128}]",
+};
+TEST_F(Flash, executeFlashSessionsConfig_TextWithNoUtf8Form) {
+    kc::noUtf8<ExecuteFlashSessionsConfigExport>(api, kExecuteFlashSessionsConfigNoUtf8);
+}
+TEST_F(Flash, executeFlashSessionsConfigAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ExecuteFlashSessionsConfigAsyncExport>(api, kExecuteFlashSessionsConfigNoUtf8);
 }
 
 const kc::Number kNumber195{195, "executeFlashSessionsConfig", kExecuteFlashSessionsConfigCases};

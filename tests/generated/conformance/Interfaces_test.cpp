@@ -196,6 +196,17 @@ TEST_F(Interfaces, scanInterfaceConnectionAsync_Failure) {
     kc::asyncFailure<ScanInterfaceConnectionAsyncExport>(api, kScanInterfaceConnectionCases);
 }
 
+const char* const kScanInterfaceConnectionNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 54.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 54.2\"]]",
+};
+TEST_F(Interfaces, scanInterfaceConnection_TextWithNoUtf8Form) {
+    kc::noUtf8<ScanInterfaceConnectionExport>(api, kScanInterfaceConnectionNoUtf8);
+}
+TEST_F(Interfaces, scanInterfaceConnectionAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ScanInterfaceConnectionAsyncExport>(api, kScanInterfaceConnectionNoUtf8);
+}
+
 const kc::Number kNumber71{71, "scanInterfaceConnection", kScanInterfaceConnectionCases};
 
 TEST_F(InterfacesByNumber, n71_scanInterfaceConnection_KelCall) { kc::kelCall(api, kNumber71); }
@@ -235,6 +246,13 @@ TEST_F(Interfaces, getInterfaceLongName_Exchange) {
 }
 TEST_F(Interfaces, getInterfaceLongName_Failure) {
     kc::failure<GetInterfaceLongNameExport>(api, kGetInterfaceLongNameCases);
+}
+
+const char* const kGetInterfaceLongNameNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 57.1\\ud800\"]",
+};
+TEST_F(Interfaces, getInterfaceLongName_TextWithNoUtf8Form) {
+    kc::noUtf8<GetInterfaceLongNameExport>(api, kGetInterfaceLongNameNoUtf8);
 }
 
 const kc::Number kNumber73{73, "getInterfaceLongName", kGetInterfaceLongNameCases};
@@ -472,6 +490,32 @@ TEST_F(Interfaces, addResource_Exchange) {
 }
 TEST_F(Interfaces, addResource_Failure) { kc::failure<AddResourceExport>(api, kAddResourceCases); }
 
+const char* const kAddResourceNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 83.1\\ud800\",{\"itemText1\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 83.2\",\"itemText2\":\"K\303\274hler\\t\360\237"
+    "\224\247 83.3\",\"itemText3\":\"say \\\"\303\251\\\" 83.4\",\"itemText4\":\"back\\\\slas"
+    "h \303\237 83.5\",\"id\":4294967295,\"pin\":2147483648,\"inUse\":128},65535]",
+    "[\"Pr\303\274fstand \342\202\254 83.1\",{\"itemText1\":\"\\udc00\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 83.2\\ud800\",\"itemText2\":\"K\303\274hler\\t\360\237\224"
+    "\247 83.3\",\"itemText3\":\"say \\\"\303\251\\\" 83.4\",\"itemText4\":\"back\\\\slash "
+    "\303\237 83.5\",\"id\":4294967295,\"pin\":2147483648,\"inUse\":128},65535]",
+    "[\"Pr\303\274fstand \342\202\254 83.1\",{\"itemText1\":\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 83.2\",\"itemText2\":\"\\udc00K\303\274hler\\t\360\237\224\247"
+    " 83.3\\ud800\",\"itemText3\":\"say \\\"\303\251\\\" 83.4\",\"itemText4\":\"back\\\\slash"
+    " \303\237 83.5\",\"id\":4294967295,\"pin\":2147483648,\"inUse\":128},65535]",
+    "[\"Pr\303\274fstand \342\202\254 83.1\",{\"itemText1\":\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 83.2\",\"itemText2\":\"K\303\274hler\\t\360\237\224\247 83.3\""
+    ",\"itemText3\":\"\\udc00say \\\"\303\251\\\" 83.4\\ud800\",\"itemText4\":\"back\\\\slash"
+    " \303\237 83.5\",\"id\":4294967295,\"pin\":2147483648,\"inUse\":128},65535]",
+    "[\"Pr\303\274fstand \342\202\254 83.1\",{\"itemText1\":\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 83.2\",\"itemText2\":\"K\303\274hler\\t\360\237\224\247 83.3\""
+    ",\"itemText3\":\"say \\\"\303\251\\\" 83.4\",\"itemText4\":\"\\udc00back\\\\slash \303"
+    "\237 83.5\\ud800\",\"id\":4294967295,\"pin\":2147483648,\"inUse\":128},65535]",
+};
+TEST_F(Interfaces, addResource_TextWithNoUtf8Form) {
+    kc::noUtf8<AddResourceExport>(api, kAddResourceNoUtf8);
+}
+
 const kc::Number kNumber109{109, "addResource", kAddResourceCases};
 
 TEST_F(InterfacesByNumber, n109_addResource_KelCall) { kc::kelCall(api, kNumber109); }
@@ -505,6 +549,13 @@ TEST_F(Interfaces, removeInterface_Exchange) {
 }
 TEST_F(Interfaces, removeInterface_Failure) {
     kc::failure<RemoveInterfaceExport>(api, kRemoveInterfaceCases);
+}
+
+const char* const kRemoveInterfaceNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 84.1\\ud800\"]",
+};
+TEST_F(Interfaces, removeInterface_TextWithNoUtf8Form) {
+    kc::noUtf8<RemoveInterfaceExport>(api, kRemoveInterfaceNoUtf8);
 }
 
 const kc::Number kNumber110{110, "removeInterface", kRemoveInterfaceCases};
@@ -733,6 +784,174 @@ TEST_F(Interfaces, addInterface_Failure) {
     kc::failure<AddInterfaceExport>(api, kAddInterfaceCases);
 }
 
+const char* const kAddInterfaceNoUtf8[] = {
+    "[{\"itemText1\":\"\\udc00Pr\303\274fstand \342\202\254 85.1\\ud800\",\"itemText2\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.2\",\"itemText3\":\"K\303\274hl"
+    "er\\t\360\237\224\247 85.3\",\"itemText4\":\"say \\\"\303\251\\\" 85.4\",\"resources\":["
+    "{\"itemText1\":\"back\\\\slash \303\237 85.5\",\"itemText2\":\"Z\303\274ndung \360\237"
+    "\232\227 85.6\",\"itemText3\":\"Pr\303\274fstand \342\202\254 85.7\",\"itemText4\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.8\",\"id\":4294967295,\"pin\":2"
+    "147483648,\"inUse\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.9\",\"item"
+    "Text2\":\"say \\\"\303\251\\\" 85.10\",\"itemText3\":\"back\\\\slash \303\237 85.11\",\""
+    "itemText4\":\"Z\303\274ndung \360\237\232\227 85.12\",\"id\":2147483647,\"pin\":15242990"
+    "97,\"inUse\":0}],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 85."
+    "13\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.14\",\"flag3\""
+    ":2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.15\",\"itemText2\":\""
+    "say \\\"\303\251\\\" 85.16\",\"itemText3\":\"back\\\\slash \303\237 85.17\",\"itemText4"
+    "\":\"Z\303\274ndung \360\237\232\227 85.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 85.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 85.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 85.22\"}],\"value\":9223372036854775809},\"back\\\\slash \303\237 85.23\",\"Z"
+    "\303\274ndung \360\237\232\227 85.24\",\"Pr\303\274fstand \342\202\254 85.25\"]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.1\",\"itemText2\":\"\\udc00\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 85.2\\ud800\",\"itemText3\":\"K\303\274hle"
+    "r\\t\360\237\224\247 85.3\",\"itemText4\":\"say \\\"\303\251\\\" 85.4\",\"resources\":[{"
+    "\"itemText1\":\"back\\\\slash \303\237 85.5\",\"itemText2\":\"Z\303\274ndung \360\237"
+    "\232\227 85.6\",\"itemText3\":\"Pr\303\274fstand \342\202\254 85.7\",\"itemText4\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.8\",\"id\":4294967295,\"pin\":2"
+    "147483648,\"inUse\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.9\",\"item"
+    "Text2\":\"say \\\"\303\251\\\" 85.10\",\"itemText3\":\"back\\\\slash \303\237 85.11\",\""
+    "itemText4\":\"Z\303\274ndung \360\237\232\227 85.12\",\"id\":2147483647,\"pin\":15242990"
+    "97,\"inUse\":0}],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 85."
+    "13\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.14\",\"flag3\""
+    ":2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.15\",\"itemText2\":\""
+    "say \\\"\303\251\\\" 85.16\",\"itemText3\":\"back\\\\slash \303\237 85.17\",\"itemText4"
+    "\":\"Z\303\274ndung \360\237\232\227 85.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 85.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 85.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 85.22\"}],\"value\":9223372036854775809},\"back\\\\slash \303\237 85.23\",\"Z"
+    "\303\274ndung \360\237\232\227 85.24\",\"Pr\303\274fstand \342\202\254 85.25\"]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.2\",\"itemText3\":\"\\udc00K\303\274hler\\t\360"
+    "\237\224\247 85.3\\ud800\",\"itemText4\":\"say \\\"\303\251\\\" 85.4\",\"resources\":[{"
+    "\"itemText1\":\"back\\\\slash \303\237 85.5\",\"itemText2\":\"Z\303\274ndung \360\237"
+    "\232\227 85.6\",\"itemText3\":\"Pr\303\274fstand \342\202\254 85.7\",\"itemText4\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.8\",\"id\":4294967295,\"pin\":2"
+    "147483648,\"inUse\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.9\",\"item"
+    "Text2\":\"say \\\"\303\251\\\" 85.10\",\"itemText3\":\"back\\\\slash \303\237 85.11\",\""
+    "itemText4\":\"Z\303\274ndung \360\237\232\227 85.12\",\"id\":2147483647,\"pin\":15242990"
+    "97,\"inUse\":0}],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 85."
+    "13\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.14\",\"flag3\""
+    ":2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.15\",\"itemText2\":\""
+    "say \\\"\303\251\\\" 85.16\",\"itemText3\":\"back\\\\slash \303\237 85.17\",\"itemText4"
+    "\":\"Z\303\274ndung \360\237\232\227 85.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 85.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 85.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 85.22\"}],\"value\":9223372036854775809},\"back\\\\slash \303\237 85.23\",\"Z"
+    "\303\274ndung \360\237\232\227 85.24\",\"Pr\303\274fstand \342\202\254 85.25\"]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.2\",\"itemText3\":\"K\303\274hler\\t\360\237"
+    "\224\247 85.3\",\"itemText4\":\"\\udc00say \\\"\303\251\\\" 85.4\\ud800\",\"resources\":"
+    "[{\"itemText1\":\"back\\\\slash \303\237 85.5\",\"itemText2\":\"Z\303\274ndung \360\237"
+    "\232\227 85.6\",\"itemText3\":\"Pr\303\274fstand \342\202\254 85.7\",\"itemText4\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.8\",\"id\":4294967295,\"pin\":2"
+    "147483648,\"inUse\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.9\",\"item"
+    "Text2\":\"say \\\"\303\251\\\" 85.10\",\"itemText3\":\"back\\\\slash \303\237 85.11\",\""
+    "itemText4\":\"Z\303\274ndung \360\237\232\227 85.12\",\"id\":2147483647,\"pin\":15242990"
+    "97,\"inUse\":0}],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 85."
+    "13\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.14\",\"flag3\""
+    ":2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.15\",\"itemText2\":\""
+    "say \\\"\303\251\\\" 85.16\",\"itemText3\":\"back\\\\slash \303\237 85.17\",\"itemText4"
+    "\":\"Z\303\274ndung \360\237\232\227 85.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 85.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 85.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 85.22\"}],\"value\":9223372036854775809},\"back\\\\slash \303\237 85.23\",\"Z"
+    "\303\274ndung \360\237\232\227 85.24\",\"Pr\303\274fstand \342\202\254 85.25\"]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.2\",\"itemText3\":\"K\303\274hler\\t\360\237"
+    "\224\247 85.3\",\"itemText4\":\"say \\\"\303\251\\\" 85.4\",\"resources\":[{\"itemText1"
+    "\":\"back\\\\slash \303\237 85.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 85.6"
+    "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 85.7\",\"itemText4\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.8\",\"id\":4294967295,\"pin\":2147483648,\"inUs"
+    "e\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.9\",\"itemText2\":\"say \\"
+    "\"\303\251\\\" 85.10\",\"itemText3\":\"back\\\\slash \303\237 85.11\",\"itemText4\":\"Z"
+    "\303\274ndung \360\237\232\227 85.12\",\"id\":2147483647,\"pin\":1524299097,\"inUse\":0}"
+    "],\"flag1\":255,\"flag2\":0,\"text1\":\"\\udc00Pr\303\274fstand \342\202\254 85.13\\ud80"
+    "0\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.14\",\"flag3\":"
+    "2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.15\",\"itemText2\":\"s"
+    "ay \\\"\303\251\\\" 85.16\",\"itemText3\":\"back\\\\slash \303\237 85.17\",\"itemText4\""
+    ":\"Z\303\274ndung \360\237\232\227 85.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 85.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 85.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 85.22\"}],\"value\":9223372036854775809},\"back\\\\slash \303\237 85.23\",\"Z"
+    "\303\274ndung \360\237\232\227 85.24\",\"Pr\303\274fstand \342\202\254 85.25\"]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.2\",\"itemText3\":\"K\303\274hler\\t\360\237"
+    "\224\247 85.3\",\"itemText4\":\"say \\\"\303\251\\\" 85.4\",\"resources\":[{\"itemText1"
+    "\":\"back\\\\slash \303\237 85.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 85.6"
+    "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 85.7\",\"itemText4\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.8\",\"id\":4294967295,\"pin\":2147483648,\"inUs"
+    "e\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.9\",\"itemText2\":\"say \\"
+    "\"\303\251\\\" 85.10\",\"itemText3\":\"back\\\\slash \303\237 85.11\",\"itemText4\":\"Z"
+    "\303\274ndung \360\237\232\227 85.12\",\"id\":2147483647,\"pin\":1524299097,\"inUse\":0}"
+    "],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 85.13\",\"text2\":"
+    "\"\\udc00\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.14\\ud800\",\"flag3\":"
+    "2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.15\",\"itemText2\":\"s"
+    "ay \\\"\303\251\\\" 85.16\",\"itemText3\":\"back\\\\slash \303\237 85.17\",\"itemText4\""
+    ":\"Z\303\274ndung \360\237\232\227 85.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 85.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 85.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 85.22\"}],\"value\":9223372036854775809},\"back\\\\slash \303\237 85.23\",\"Z"
+    "\303\274ndung \360\237\232\227 85.24\",\"Pr\303\274fstand \342\202\254 85.25\"]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.2\",\"itemText3\":\"K\303\274hler\\t\360\237"
+    "\224\247 85.3\",\"itemText4\":\"say \\\"\303\251\\\" 85.4\",\"resources\":[{\"itemText1"
+    "\":\"back\\\\slash \303\237 85.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 85.6"
+    "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 85.7\",\"itemText4\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.8\",\"id\":4294967295,\"pin\":2147483648,\"inUs"
+    "e\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.9\",\"itemText2\":\"say \\"
+    "\"\303\251\\\" 85.10\",\"itemText3\":\"back\\\\slash \303\237 85.11\",\"itemText4\":\"Z"
+    "\303\274ndung \360\237\232\227 85.12\",\"id\":2147483647,\"pin\":1524299097,\"inUse\":0}"
+    "],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 85.13\",\"text2\":"
+    "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.14\",\"flag3\":2,\"items\":[{"
+    "\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.15\",\"itemText2\":\"say \\\"\303"
+    "\251\\\" 85.16\",\"itemText3\":\"back\\\\slash \303\237 85.17\",\"itemText4\":\"Z\303"
+    "\274ndung \360\237\232\227 85.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.19"
+    "\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.20\",\"itemT"
+    "ext3\":\"K\303\274hler\\t\360\237\224\247 85.21\",\"itemText4\":\"say \\\"\303\251\\\" 8"
+    "5.22\"}],\"value\":9223372036854775809},\"\\udc00back\\\\slash \303\237 85.23\\ud800\","
+    "\"Z\303\274ndung \360\237\232\227 85.24\",\"Pr\303\274fstand \342\202\254 85.25\"]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.2\",\"itemText3\":\"K\303\274hler\\t\360\237"
+    "\224\247 85.3\",\"itemText4\":\"say \\\"\303\251\\\" 85.4\",\"resources\":[{\"itemText1"
+    "\":\"back\\\\slash \303\237 85.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 85.6"
+    "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 85.7\",\"itemText4\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.8\",\"id\":4294967295,\"pin\":2147483648,\"inUs"
+    "e\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.9\",\"itemText2\":\"say \\"
+    "\"\303\251\\\" 85.10\",\"itemText3\":\"back\\\\slash \303\237 85.11\",\"itemText4\":\"Z"
+    "\303\274ndung \360\237\232\227 85.12\",\"id\":2147483647,\"pin\":1524299097,\"inUse\":0}"
+    "],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 85.13\",\"text2\":"
+    "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.14\",\"flag3\":2,\"items\":[{"
+    "\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.15\",\"itemText2\":\"say \\\"\303"
+    "\251\\\" 85.16\",\"itemText3\":\"back\\\\slash \303\237 85.17\",\"itemText4\":\"Z\303"
+    "\274ndung \360\237\232\227 85.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.19"
+    "\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.20\",\"itemT"
+    "ext3\":\"K\303\274hler\\t\360\237\224\247 85.21\",\"itemText4\":\"say \\\"\303\251\\\" 8"
+    "5.22\"}],\"value\":9223372036854775809},\"back\\\\slash \303\237 85.23\",\"\\udc00Z\303"
+    "\274ndung \360\237\232\227 85.24\\ud800\",\"Pr\303\274fstand \342\202\254 85.25\"]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.2\",\"itemText3\":\"K\303\274hler\\t\360\237"
+    "\224\247 85.3\",\"itemText4\":\"say \\\"\303\251\\\" 85.4\",\"resources\":[{\"itemText1"
+    "\":\"back\\\\slash \303\237 85.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 85.6"
+    "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 85.7\",\"itemText4\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 85.8\",\"id\":4294967295,\"pin\":2147483648,\"inUs"
+    "e\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.9\",\"itemText2\":\"say \\"
+    "\"\303\251\\\" 85.10\",\"itemText3\":\"back\\\\slash \303\237 85.11\",\"itemText4\":\"Z"
+    "\303\274ndung \360\237\232\227 85.12\",\"id\":2147483647,\"pin\":1524299097,\"inUse\":0}"
+    "],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 85.13\",\"text2\":"
+    "\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.14\",\"flag3\":2,\"items\":[{"
+    "\"itemText1\":\"K\303\274hler\\t\360\237\224\247 85.15\",\"itemText2\":\"say \\\"\303"
+    "\251\\\" 85.16\",\"itemText3\":\"back\\\\slash \303\237 85.17\",\"itemText4\":\"Z\303"
+    "\274ndung \360\237\232\227 85.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202\254 85.19"
+    "\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 85.20\",\"itemT"
+    "ext3\":\"K\303\274hler\\t\360\237\224\247 85.21\",\"itemText4\":\"say \\\"\303\251\\\" 8"
+    "5.22\"}],\"value\":9223372036854775809},\"back\\\\slash \303\237 85.23\",\"Z\303\274ndun"
+    "g \360\237\232\227 85.24\",\"\\udc00Pr\303\274fstand \342\202\254 85.25\\ud800\"]",
+};
+TEST_F(Interfaces, addInterface_TextWithNoUtf8Form) {
+    kc::noUtf8<AddInterfaceExport>(api, kAddInterfaceNoUtf8);
+}
+
 const kc::Number kNumber108{108, "addInterface", kAddInterfaceCases};
 
 TEST_F(InterfacesByNumber, n108_addInterface_KelCall) { kc::kelCall(api, kNumber108); }
@@ -777,6 +996,16 @@ TEST_F(Interfaces, removeResource_Exchange) {
 }
 TEST_F(Interfaces, removeResource_Failure) {
     kc::failure<RemoveResourceExport>(api, kRemoveResourceCases);
+}
+
+const char* const kRemoveResourceNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 86.1\\ud800\",\"\346\227\245\346\234\254\350\252"
+    "\236 \360\235\204\236 86.2\"]",
+    "[\"Pr\303\274fstand \342\202\254 86.1\",\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 86.2\\ud800\"]",
+};
+TEST_F(Interfaces, removeResource_TextWithNoUtf8Form) {
+    kc::noUtf8<RemoveResourceExport>(api, kRemoveResourceNoUtf8);
 }
 
 const kc::Number kNumber112{112, "removeResource", kRemoveResourceCases};
@@ -927,6 +1156,114 @@ TEST_F(Interfaces, getVendorModuleNames_Failure) {
     kc::failure<GetVendorModuleNamesExport>(api, kGetVendorModuleNamesCases);
 }
 
+const char* const kGetVendorModuleNamesNoUtf8[] = {
+    "[{\"itemText1\":\"\\udc00Pr\303\274fstand \342\202\254 90.1\\ud800\",\"itemText2\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.2\",\"itemText3\":\"K\303\274hl"
+    "er\\t\360\237\224\247 90.3\",\"itemText4\":\"say \\\"\303\251\\\" 90.4\",\"resources\":["
+    "{\"itemText1\":\"back\\\\slash \303\237 90.5\",\"itemText2\":\"Z\303\274ndung \360\237"
+    "\232\227 90.6\",\"itemText3\":\"Pr\303\274fstand \342\202\254 90.7\",\"itemText4\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.8\",\"id\":4294967295,\"pin\":2"
+    "147483648,\"inUse\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.9\",\"item"
+    "Text2\":\"say \\\"\303\251\\\" 90.10\",\"itemText3\":\"back\\\\slash \303\237 90.11\",\""
+    "itemText4\":\"Z\303\274ndung \360\237\232\227 90.12\",\"id\":2147483647,\"pin\":15245016"
+    "13,\"inUse\":0}],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 90."
+    "13\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.14\",\"flag3\""
+    ":2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.15\",\"itemText2\":\""
+    "say \\\"\303\251\\\" 90.16\",\"itemText3\":\"back\\\\slash \303\237 90.17\",\"itemText4"
+    "\":\"Z\303\274ndung \360\237\232\227 90.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 90.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 90.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 90.22\"}],\"value\":9223372036854775809}]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 90.1\",\"itemText2\":\"\\udc00\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 90.2\\ud800\",\"itemText3\":\"K\303\274hle"
+    "r\\t\360\237\224\247 90.3\",\"itemText4\":\"say \\\"\303\251\\\" 90.4\",\"resources\":[{"
+    "\"itemText1\":\"back\\\\slash \303\237 90.5\",\"itemText2\":\"Z\303\274ndung \360\237"
+    "\232\227 90.6\",\"itemText3\":\"Pr\303\274fstand \342\202\254 90.7\",\"itemText4\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.8\",\"id\":4294967295,\"pin\":2"
+    "147483648,\"inUse\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.9\",\"item"
+    "Text2\":\"say \\\"\303\251\\\" 90.10\",\"itemText3\":\"back\\\\slash \303\237 90.11\",\""
+    "itemText4\":\"Z\303\274ndung \360\237\232\227 90.12\",\"id\":2147483647,\"pin\":15245016"
+    "13,\"inUse\":0}],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 90."
+    "13\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.14\",\"flag3\""
+    ":2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.15\",\"itemText2\":\""
+    "say \\\"\303\251\\\" 90.16\",\"itemText3\":\"back\\\\slash \303\237 90.17\",\"itemText4"
+    "\":\"Z\303\274ndung \360\237\232\227 90.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 90.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 90.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 90.22\"}],\"value\":9223372036854775809}]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 90.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 90.2\",\"itemText3\":\"\\udc00K\303\274hler\\t\360"
+    "\237\224\247 90.3\\ud800\",\"itemText4\":\"say \\\"\303\251\\\" 90.4\",\"resources\":[{"
+    "\"itemText1\":\"back\\\\slash \303\237 90.5\",\"itemText2\":\"Z\303\274ndung \360\237"
+    "\232\227 90.6\",\"itemText3\":\"Pr\303\274fstand \342\202\254 90.7\",\"itemText4\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.8\",\"id\":4294967295,\"pin\":2"
+    "147483648,\"inUse\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.9\",\"item"
+    "Text2\":\"say \\\"\303\251\\\" 90.10\",\"itemText3\":\"back\\\\slash \303\237 90.11\",\""
+    "itemText4\":\"Z\303\274ndung \360\237\232\227 90.12\",\"id\":2147483647,\"pin\":15245016"
+    "13,\"inUse\":0}],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 90."
+    "13\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.14\",\"flag3\""
+    ":2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.15\",\"itemText2\":\""
+    "say \\\"\303\251\\\" 90.16\",\"itemText3\":\"back\\\\slash \303\237 90.17\",\"itemText4"
+    "\":\"Z\303\274ndung \360\237\232\227 90.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 90.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 90.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 90.22\"}],\"value\":9223372036854775809}]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 90.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 90.2\",\"itemText3\":\"K\303\274hler\\t\360\237"
+    "\224\247 90.3\",\"itemText4\":\"\\udc00say \\\"\303\251\\\" 90.4\\ud800\",\"resources\":"
+    "[{\"itemText1\":\"back\\\\slash \303\237 90.5\",\"itemText2\":\"Z\303\274ndung \360\237"
+    "\232\227 90.6\",\"itemText3\":\"Pr\303\274fstand \342\202\254 90.7\",\"itemText4\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.8\",\"id\":4294967295,\"pin\":2"
+    "147483648,\"inUse\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.9\",\"item"
+    "Text2\":\"say \\\"\303\251\\\" 90.10\",\"itemText3\":\"back\\\\slash \303\237 90.11\",\""
+    "itemText4\":\"Z\303\274ndung \360\237\232\227 90.12\",\"id\":2147483647,\"pin\":15245016"
+    "13,\"inUse\":0}],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 90."
+    "13\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.14\",\"flag3\""
+    ":2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.15\",\"itemText2\":\""
+    "say \\\"\303\251\\\" 90.16\",\"itemText3\":\"back\\\\slash \303\237 90.17\",\"itemText4"
+    "\":\"Z\303\274ndung \360\237\232\227 90.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 90.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 90.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 90.22\"}],\"value\":9223372036854775809}]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 90.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 90.2\",\"itemText3\":\"K\303\274hler\\t\360\237"
+    "\224\247 90.3\",\"itemText4\":\"say \\\"\303\251\\\" 90.4\",\"resources\":[{\"itemText1"
+    "\":\"back\\\\slash \303\237 90.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 90.6"
+    "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 90.7\",\"itemText4\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 90.8\",\"id\":4294967295,\"pin\":2147483648,\"inUs"
+    "e\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.9\",\"itemText2\":\"say \\"
+    "\"\303\251\\\" 90.10\",\"itemText3\":\"back\\\\slash \303\237 90.11\",\"itemText4\":\"Z"
+    "\303\274ndung \360\237\232\227 90.12\",\"id\":2147483647,\"pin\":1524501613,\"inUse\":0}"
+    "],\"flag1\":255,\"flag2\":0,\"text1\":\"\\udc00Pr\303\274fstand \342\202\254 90.13\\ud80"
+    "0\",\"text2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.14\",\"flag3\":"
+    "2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.15\",\"itemText2\":\"s"
+    "ay \\\"\303\251\\\" 90.16\",\"itemText3\":\"back\\\\slash \303\237 90.17\",\"itemText4\""
+    ":\"Z\303\274ndung \360\237\232\227 90.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 90.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 90.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 90.22\"}],\"value\":9223372036854775809}]",
+    "[{\"itemText1\":\"Pr\303\274fstand \342\202\254 90.1\",\"itemText2\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 90.2\",\"itemText3\":\"K\303\274hler\\t\360\237"
+    "\224\247 90.3\",\"itemText4\":\"say \\\"\303\251\\\" 90.4\",\"resources\":[{\"itemText1"
+    "\":\"back\\\\slash \303\237 90.5\",\"itemText2\":\"Z\303\274ndung \360\237\232\227 90.6"
+    "\",\"itemText3\":\"Pr\303\274fstand \342\202\254 90.7\",\"itemText4\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 90.8\",\"id\":4294967295,\"pin\":2147483648,\"inUs"
+    "e\":128},{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.9\",\"itemText2\":\"say \\"
+    "\"\303\251\\\" 90.10\",\"itemText3\":\"back\\\\slash \303\237 90.11\",\"itemText4\":\"Z"
+    "\303\274ndung \360\237\232\227 90.12\",\"id\":2147483647,\"pin\":1524501613,\"inUse\":0}"
+    "],\"flag1\":255,\"flag2\":0,\"text1\":\"Pr\303\274fstand \342\202\254 90.13\",\"text2\":"
+    "\"\\udc00\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.14\\ud800\",\"flag3\":"
+    "2,\"items\":[{\"itemText1\":\"K\303\274hler\\t\360\237\224\247 90.15\",\"itemText2\":\"s"
+    "ay \\\"\303\251\\\" 90.16\",\"itemText3\":\"back\\\\slash \303\237 90.17\",\"itemText4\""
+    ":\"Z\303\274ndung \360\237\232\227 90.18\"},{\"itemText1\":\"Pr\303\274fstand \342\202"
+    "\254 90.19\",\"itemText2\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 90.20"
+    "\",\"itemText3\":\"K\303\274hler\\t\360\237\224\247 90.21\",\"itemText4\":\"say \\\"\303"
+    "\251\\\" 90.22\"}],\"value\":9223372036854775809}]",
+};
+TEST_F(Interfaces, getVendorModuleNames_TextWithNoUtf8Form) {
+    kc::noUtf8<GetVendorModuleNamesExport>(api, kGetVendorModuleNamesNoUtf8);
+}
+
 const kc::Number kNumber120{120, "getVendorModuleNames", kGetVendorModuleNamesCases};
 
 TEST_F(InterfacesByNumber, n120_getVendorModuleNames_KelCall) { kc::kelCall(api, kNumber120); }
@@ -982,6 +1319,13 @@ TEST_F(Interfaces, getVendorModuleNamesEx_Exchange) {
 }
 TEST_F(Interfaces, getVendorModuleNamesEx_Failure) {
     kc::failure<GetVendorModuleNamesExExport>(api, kGetVendorModuleNamesExCases);
+}
+
+const char* const kGetVendorModuleNamesExNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 91.1\\ud800\"]",
+};
+TEST_F(Interfaces, getVendorModuleNamesEx_TextWithNoUtf8Form) {
+    kc::noUtf8<GetVendorModuleNamesExExport>(api, kGetVendorModuleNamesExNoUtf8);
 }
 
 const kc::Number kNumber121{121, "getVendorModuleNamesEx", kGetVendorModuleNamesExCases};
@@ -1149,6 +1493,19 @@ TEST_F(Interfaces, detectDynInterfacesAsync_Failure) {
     kc::asyncFailure<DetectDynInterfacesAsyncExport>(api, kDetectDynInterfacesCases);
 }
 
+const char* const kDetectDynInterfacesNoUtf8[] = {
+    "[4294967295,{\"namePattern\":\"\\udc00Pr\303\274fstand \342\202\254 94.1\\ud800\",\"kind"
+    "\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 94.2\",\"onlyFree\":128}]",
+    "[4294967295,{\"namePattern\":\"Pr\303\274fstand \342\202\254 94.1\",\"kind\":\"\\udc00"
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 94.2\\ud800\",\"onlyFree\":128}]",
+};
+TEST_F(Interfaces, detectDynInterfaces_TextWithNoUtf8Form) {
+    kc::noUtf8<DetectDynInterfacesExport>(api, kDetectDynInterfacesNoUtf8);
+}
+TEST_F(Interfaces, detectDynInterfacesAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<DetectDynInterfacesAsyncExport>(api, kDetectDynInterfacesNoUtf8);
+}
+
 const kc::Number kNumber123{123, "detectDynInterfaces", kDetectDynInterfacesCases};
 
 TEST_F(InterfacesByNumber, n123_detectDynInterfaces_KelCall) { kc::kelCall(api, kNumber123); }
@@ -1202,6 +1559,21 @@ TEST_F(Interfaces, connectDynInterface_Failure) {
     kc::failure<ConnectDynInterfaceExport>(api, kConnectDynInterfaceCases);
 }
 
+const char* const kConnectDynInterfaceNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 96.1\\ud800\",128,{\"namePattern\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 96.2\",\"kind\":\"K\303\274hler\\t\360\237"
+    "\224\247 96.3\",\"onlyFree\":0}]",
+    "[\"Pr\303\274fstand \342\202\254 96.1\",128,{\"namePattern\":\"\\udc00\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 96.2\\ud800\",\"kind\":\"K\303\274hler\\t\360\237"
+    "\224\247 96.3\",\"onlyFree\":0}]",
+    "[\"Pr\303\274fstand \342\202\254 96.1\",128,{\"namePattern\":\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 96.2\",\"kind\":\"\\udc00K\303\274hler\\t\360\237\224\247 "
+    "96.3\\ud800\",\"onlyFree\":0}]",
+};
+TEST_F(Interfaces, connectDynInterface_TextWithNoUtf8Form) {
+    kc::noUtf8<ConnectDynInterfaceExport>(api, kConnectDynInterfaceNoUtf8);
+}
+
 const kc::Number kNumber125{125, "connectDynInterface", kConnectDynInterfaceCases};
 
 TEST_F(InterfacesByNumber, n125_connectDynInterface_KelCall) { kc::kelCall(api, kNumber125); }
@@ -1246,6 +1618,14 @@ TEST_F(Interfaces, disconnectDynInterfaces_Exchange) {
 }
 TEST_F(Interfaces, disconnectDynInterfaces_Failure) {
     kc::failure<DisconnectDynInterfacesExport>(api, kDisconnectDynInterfacesCases);
+}
+
+const char* const kDisconnectDynInterfacesNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 97.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 97.2\"]]",
+};
+TEST_F(Interfaces, disconnectDynInterfaces_TextWithNoUtf8Form) {
+    kc::noUtf8<DisconnectDynInterfacesExport>(api, kDisconnectDynInterfacesNoUtf8);
 }
 
 const kc::Number kNumber126{126, "disconnectDynInterfaces", kDisconnectDynInterfacesCases};
@@ -1298,6 +1678,14 @@ TEST_F(Interfaces, setEthernetPinState_Failure) {
     kc::failure<SetEthernetPinStateExport>(api, kSetEthernetPinStateCases);
 }
 
+const char* const kSetEthernetPinStateNoUtf8[] = {
+    "[255,[\"\\udc00Pr\303\274fstand \342\202\254 119.1\\ud800\",\"\",\"\346\227\245\346\234"
+    "\254\350\252\236 \360\235\204\236 119.2\"]]",
+};
+TEST_F(Interfaces, setEthernetPinState_TextWithNoUtf8Form) {
+    kc::noUtf8<SetEthernetPinStateExport>(api, kSetEthernetPinStateNoUtf8);
+}
+
 const kc::Number kNumber151{151, "setEthernetPinState", kSetEthernetPinStateCases};
 
 TEST_F(InterfacesByNumber, n151_setEthernetPinState_KelCall) { kc::kelCall(api, kNumber151); }
@@ -1331,6 +1719,13 @@ TEST_F(Interfaces, getEthernetPinState_Exchange) {
 }
 TEST_F(Interfaces, getEthernetPinState_Failure) {
     kc::failure<GetEthernetPinStateExport>(api, kGetEthernetPinStateCases);
+}
+
+const char* const kGetEthernetPinStateNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 120.1\\ud800\"]",
+};
+TEST_F(Interfaces, getEthernetPinState_TextWithNoUtf8Form) {
+    kc::noUtf8<GetEthernetPinStateExport>(api, kGetEthernetPinStateNoUtf8);
 }
 
 const kc::Number kNumber152{152, "getEthernetPinState", kGetEthernetPinStateCases};
@@ -1517,6 +1912,13 @@ TEST_F(Interfaces, connectDynInterfaceEx_Exchange) {
 }
 TEST_F(Interfaces, connectDynInterfaceEx_Failure) {
     kc::failure<ConnectDynInterfaceExExport>(api, kConnectDynInterfaceExCases);
+}
+
+const char* const kConnectDynInterfaceExNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 123.1\\ud800\",128]",
+};
+TEST_F(Interfaces, connectDynInterfaceEx_TextWithNoUtf8Form) {
+    kc::noUtf8<ConnectDynInterfaceExExport>(api, kConnectDynInterfaceExNoUtf8);
 }
 
 const kc::Number kNumber153{153, "connectDynInterfaceEx", kConnectDynInterfaceExCases};
@@ -1758,6 +2160,14 @@ TEST_F(Interfaces, getPhysicalLinks_Failure) {
     kc::failure<GetPhysicalLinksExport>(api, kGetPhysicalLinksCases);
 }
 
+const char* const kGetPhysicalLinksNoUtf8[] = {
+    "[[\"\\udc00Pr\303\274fstand \342\202\254 182.1\\ud800\",\"\",\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 182.2\"]]",
+};
+TEST_F(Interfaces, getPhysicalLinks_TextWithNoUtf8Form) {
+    kc::noUtf8<GetPhysicalLinksExport>(api, kGetPhysicalLinksNoUtf8);
+}
+
 const kc::Number kNumber217{217, "getPhysicalLinks", kGetPhysicalLinksCases};
 
 TEST_F(InterfacesByNumber, n217_getPhysicalLinks_KelCall) { kc::kelCall(api, kNumber217); }
@@ -1869,6 +2279,52 @@ TEST_F(Interfaces, setPhysicalLinks_Exchange) {
 }
 TEST_F(Interfaces, setPhysicalLinks_Failure) {
     kc::failure<SetPhysicalLinksExport>(api, kSetPhysicalLinksCases);
+}
+
+const char* const kSetPhysicalLinksNoUtf8[] = {
+    "[[{\"module\":\"\\udc00Pr\303\274fstand \342\202\254 183.1\\ud800\",\"links\":[{\"itemTe"
+    "xt1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 183.2\",\"itemText2\":\"K"
+    "\303\274hler\\t\360\237\224\247 183.3\",\"itemText3\":\"say \\\"\303\251\\\" 183.4\",\"i"
+    "temText4\":\"back\\\\slash \303\237 183.5\",\"baudrate\":4294967295,\"enabled\":128},{\""
+    "itemText1\":\"Z\303\274ndung \360\237\232\227 183.6\",\"itemText2\":\"Pr\303\274fstand "
+    "\342\202\254 183.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 183.8\",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 183.9\",\"baudrate\":21474"
+    "83648,\"enabled\":0}]},{\"module\":\"say \\\"\303\251\\\" 183.10\",\"links\":[]}]]",
+    "[[{\"module\":\"Pr\303\274fstand \342\202\254 183.1\",\"links\":[{\"itemText1\":\"\\udc0"
+    "0\346\227\245\346\234\254\350\252\236 \360\235\204\236 183.2\\ud800\",\"itemText2\":\"K"
+    "\303\274hler\\t\360\237\224\247 183.3\",\"itemText3\":\"say \\\"\303\251\\\" 183.4\",\"i"
+    "temText4\":\"back\\\\slash \303\237 183.5\",\"baudrate\":4294967295,\"enabled\":128},{\""
+    "itemText1\":\"Z\303\274ndung \360\237\232\227 183.6\",\"itemText2\":\"Pr\303\274fstand "
+    "\342\202\254 183.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 183.8\",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 183.9\",\"baudrate\":21474"
+    "83648,\"enabled\":0}]},{\"module\":\"say \\\"\303\251\\\" 183.10\",\"links\":[]}]]",
+    "[[{\"module\":\"Pr\303\274fstand \342\202\254 183.1\",\"links\":[{\"itemText1\":\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 183.2\",\"itemText2\":\"\\udc00K\303"
+    "\274hler\\t\360\237\224\247 183.3\\ud800\",\"itemText3\":\"say \\\"\303\251\\\" 183.4\","
+    "\"itemText4\":\"back\\\\slash \303\237 183.5\",\"baudrate\":4294967295,\"enabled\":128},"
+    "{\"itemText1\":\"Z\303\274ndung \360\237\232\227 183.6\",\"itemText2\":\"Pr\303\274fstan"
+    "d \342\202\254 183.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 183.8\",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 183.9\",\"baudrate\":21474"
+    "83648,\"enabled\":0}]},{\"module\":\"say \\\"\303\251\\\" 183.10\",\"links\":[]}]]",
+    "[[{\"module\":\"Pr\303\274fstand \342\202\254 183.1\",\"links\":[{\"itemText1\":\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 183.2\",\"itemText2\":\"K\303\274hler"
+    "\\t\360\237\224\247 183.3\",\"itemText3\":\"\\udc00say \\\"\303\251\\\" 183.4\\ud800\","
+    "\"itemText4\":\"back\\\\slash \303\237 183.5\",\"baudrate\":4294967295,\"enabled\":128},"
+    "{\"itemText1\":\"Z\303\274ndung \360\237\232\227 183.6\",\"itemText2\":\"Pr\303\274fstan"
+    "d \342\202\254 183.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 183.8\",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 183.9\",\"baudrate\":21474"
+    "83648,\"enabled\":0}]},{\"module\":\"say \\\"\303\251\\\" 183.10\",\"links\":[]}]]",
+    "[[{\"module\":\"Pr\303\274fstand \342\202\254 183.1\",\"links\":[{\"itemText1\":\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 183.2\",\"itemText2\":\"K\303\274hler"
+    "\\t\360\237\224\247 183.3\",\"itemText3\":\"say \\\"\303\251\\\" 183.4\",\"itemText4\":"
+    "\"\\udc00back\\\\slash \303\237 183.5\\ud800\",\"baudrate\":4294967295,\"enabled\":128},"
+    "{\"itemText1\":\"Z\303\274ndung \360\237\232\227 183.6\",\"itemText2\":\"Pr\303\274fstan"
+    "d \342\202\254 183.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 183.8\",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 183.9\",\"baudrate\":21474"
+    "83648,\"enabled\":0}]},{\"module\":\"say \\\"\303\251\\\" 183.10\",\"links\":[]}]]",
+};
+TEST_F(Interfaces, setPhysicalLinks_TextWithNoUtf8Form) {
+    kc::noUtf8<SetPhysicalLinksExport>(api, kSetPhysicalLinksNoUtf8);
 }
 
 const kc::Number kNumber218{218, "setPhysicalLinks", kSetPhysicalLinksCases};
@@ -1987,6 +2443,13 @@ TEST_F(Interfaces, getWLanSignalData_Exchange) {
 }
 TEST_F(Interfaces, getWLanSignalData_Failure) {
     kc::failure<GetWLanSignalDataExport>(api, kGetWLanSignalDataCases);
+}
+
+const char* const kGetWLanSignalDataNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 204.1\\ud800\"]",
+};
+TEST_F(Interfaces, getWLanSignalData_TextWithNoUtf8Form) {
+    kc::noUtf8<GetWLanSignalDataExport>(api, kGetWLanSignalDataNoUtf8);
 }
 
 const kc::Number kNumber235{235, "getWLanSignalData", kGetWLanSignalDataCases};
@@ -2272,6 +2735,138 @@ TEST_F(Interfaces, setInterfaceConfiguration_Failure) {
     kc::failure<SetInterfaceConfigurationExport>(api, kSetInterfaceConfigurationCases);
 }
 
+const char* const kSetInterfaceConfigurationNoUtf8[] = {
+    "[{\"entries\":[{\"text1\":\"\\udc00Pr\303\274fstand \342\202\254 258.1\\ud800\",\"text2"
+    "\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.2\",\"text3\":\"K\303\274"
+    "hler\\t\360\237\224\247 258.3\",\"text4\":\"say \\\"\303\251\\\" 258.4\",\"text5\":\"bac"
+    "k\\\\slash \303\237 258.5\",\"value\":4294967295,\"flag\":128,\"items\":[{\"itemText1\":"
+    "\"Z\303\274ndung \360\237\232\227 258.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 "
+    "258.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.8\",\""
+    "itemText4\":\"K\303\274hler\\t\360\237\224\247 258.9\",\"id\":2147483648,\"pin\":2147483"
+    "647,\"inUse\":0},{\"itemText1\":\"say \\\"\303\251\\\" 258.10\",\"itemText2\":\"back\\\\"
+    "slash \303\237 258.11\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 258.12\",\"itemT"
+    "ext4\":\"Pr\303\274fstand \342\202\254 258.13\",\"id\":1531306117,\"pin\":2038258231,\"i"
+    "nUse\":255}]},{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.14"
+    "\",\"text2\":\"K\303\274hler\\t\360\237\224\247 258.15\",\"text3\":\"say \\\"\303\251\\"
+    "\" 258.16\",\"text4\":\"back\\\\slash \303\237 258.17\",\"text5\":\"Z\303\274ndung \360"
+    "\237\232\227 258.18\",\"value\":397726697,\"flag\":0,\"items\":[]}]}]",
+    "[{\"entries\":[{\"text1\":\"Pr\303\274fstand \342\202\254 258.1\",\"text2\":\"\\udc00"
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.2\\ud800\",\"text3\":\"K\303"
+    "\274hler\\t\360\237\224\247 258.3\",\"text4\":\"say \\\"\303\251\\\" 258.4\",\"text5\":"
+    "\"back\\\\slash \303\237 258.5\",\"value\":4294967295,\"flag\":128,\"items\":[{\"itemTex"
+    "t1\":\"Z\303\274ndung \360\237\232\227 258.6\",\"itemText2\":\"Pr\303\274fstand \342\202"
+    "\254 258.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.8"
+    "\",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 258.9\",\"id\":2147483648,\"pin\":21"
+    "47483647,\"inUse\":0},{\"itemText1\":\"say \\\"\303\251\\\" 258.10\",\"itemText2\":\"bac"
+    "k\\\\slash \303\237 258.11\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 258.12\",\""
+    "itemText4\":\"Pr\303\274fstand \342\202\254 258.13\",\"id\":1531306117,\"pin\":203825823"
+    "1,\"inUse\":255}]},{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 25"
+    "8.14\",\"text2\":\"K\303\274hler\\t\360\237\224\247 258.15\",\"text3\":\"say \\\"\303"
+    "\251\\\" 258.16\",\"text4\":\"back\\\\slash \303\237 258.17\",\"text5\":\"Z\303\274ndung"
+    " \360\237\232\227 258.18\",\"value\":397726697,\"flag\":0,\"items\":[]}]}]",
+    "[{\"entries\":[{\"text1\":\"Pr\303\274fstand \342\202\254 258.1\",\"text2\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 258.2\",\"text3\":\"\\udc00K\303\274hler\\"
+    "t\360\237\224\247 258.3\\ud800\",\"text4\":\"say \\\"\303\251\\\" 258.4\",\"text5\":\"ba"
+    "ck\\\\slash \303\237 258.5\",\"value\":4294967295,\"flag\":128,\"items\":[{\"itemText1\""
+    ":\"Z\303\274ndung \360\237\232\227 258.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254"
+    " 258.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.8\","
+    "\"itemText4\":\"K\303\274hler\\t\360\237\224\247 258.9\",\"id\":2147483648,\"pin\":21474"
+    "83647,\"inUse\":0},{\"itemText1\":\"say \\\"\303\251\\\" 258.10\",\"itemText2\":\"back\\"
+    "\\slash \303\237 258.11\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 258.12\",\"ite"
+    "mText4\":\"Pr\303\274fstand \342\202\254 258.13\",\"id\":1531306117,\"pin\":2038258231,"
+    "\"inUse\":255}]},{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258."
+    "14\",\"text2\":\"K\303\274hler\\t\360\237\224\247 258.15\",\"text3\":\"say \\\"\303\251"
+    "\\\" 258.16\",\"text4\":\"back\\\\slash \303\237 258.17\",\"text5\":\"Z\303\274ndung "
+    "\360\237\232\227 258.18\",\"value\":397726697,\"flag\":0,\"items\":[]}]}]",
+    "[{\"entries\":[{\"text1\":\"Pr\303\274fstand \342\202\254 258.1\",\"text2\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 258.2\",\"text3\":\"K\303\274hler\\t\360"
+    "\237\224\247 258.3\",\"text4\":\"\\udc00say \\\"\303\251\\\" 258.4\\ud800\",\"text5\":\""
+    "back\\\\slash \303\237 258.5\",\"value\":4294967295,\"flag\":128,\"items\":[{\"itemText1"
+    "\":\"Z\303\274ndung \360\237\232\227 258.6\",\"itemText2\":\"Pr\303\274fstand \342\202"
+    "\254 258.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.8"
+    "\",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 258.9\",\"id\":2147483648,\"pin\":21"
+    "47483647,\"inUse\":0},{\"itemText1\":\"say \\\"\303\251\\\" 258.10\",\"itemText2\":\"bac"
+    "k\\\\slash \303\237 258.11\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 258.12\",\""
+    "itemText4\":\"Pr\303\274fstand \342\202\254 258.13\",\"id\":1531306117,\"pin\":203825823"
+    "1,\"inUse\":255}]},{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 25"
+    "8.14\",\"text2\":\"K\303\274hler\\t\360\237\224\247 258.15\",\"text3\":\"say \\\"\303"
+    "\251\\\" 258.16\",\"text4\":\"back\\\\slash \303\237 258.17\",\"text5\":\"Z\303\274ndung"
+    " \360\237\232\227 258.18\",\"value\":397726697,\"flag\":0,\"items\":[]}]}]",
+    "[{\"entries\":[{\"text1\":\"Pr\303\274fstand \342\202\254 258.1\",\"text2\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 258.2\",\"text3\":\"K\303\274hler\\t\360"
+    "\237\224\247 258.3\",\"text4\":\"say \\\"\303\251\\\" 258.4\",\"text5\":\"\\udc00back\\"
+    "\\slash \303\237 258.5\\ud800\",\"value\":4294967295,\"flag\":128,\"items\":[{\"itemText"
+    "1\":\"Z\303\274ndung \360\237\232\227 258.6\",\"itemText2\":\"Pr\303\274fstand \342\202"
+    "\254 258.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.8"
+    "\",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 258.9\",\"id\":2147483648,\"pin\":21"
+    "47483647,\"inUse\":0},{\"itemText1\":\"say \\\"\303\251\\\" 258.10\",\"itemText2\":\"bac"
+    "k\\\\slash \303\237 258.11\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 258.12\",\""
+    "itemText4\":\"Pr\303\274fstand \342\202\254 258.13\",\"id\":1531306117,\"pin\":203825823"
+    "1,\"inUse\":255}]},{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 25"
+    "8.14\",\"text2\":\"K\303\274hler\\t\360\237\224\247 258.15\",\"text3\":\"say \\\"\303"
+    "\251\\\" 258.16\",\"text4\":\"back\\\\slash \303\237 258.17\",\"text5\":\"Z\303\274ndung"
+    " \360\237\232\227 258.18\",\"value\":397726697,\"flag\":0,\"items\":[]}]}]",
+    "[{\"entries\":[{\"text1\":\"Pr\303\274fstand \342\202\254 258.1\",\"text2\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 258.2\",\"text3\":\"K\303\274hler\\t\360"
+    "\237\224\247 258.3\",\"text4\":\"say \\\"\303\251\\\" 258.4\",\"text5\":\"back\\\\slash "
+    "\303\237 258.5\",\"value\":4294967295,\"flag\":128,\"items\":[{\"itemText1\":\"\\udc00Z"
+    "\303\274ndung \360\237\232\227 258.6\\ud800\",\"itemText2\":\"Pr\303\274fstand \342\202"
+    "\254 258.7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.8"
+    "\",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 258.9\",\"id\":2147483648,\"pin\":21"
+    "47483647,\"inUse\":0},{\"itemText1\":\"say \\\"\303\251\\\" 258.10\",\"itemText2\":\"bac"
+    "k\\\\slash \303\237 258.11\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 258.12\",\""
+    "itemText4\":\"Pr\303\274fstand \342\202\254 258.13\",\"id\":1531306117,\"pin\":203825823"
+    "1,\"inUse\":255}]},{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 25"
+    "8.14\",\"text2\":\"K\303\274hler\\t\360\237\224\247 258.15\",\"text3\":\"say \\\"\303"
+    "\251\\\" 258.16\",\"text4\":\"back\\\\slash \303\237 258.17\",\"text5\":\"Z\303\274ndung"
+    " \360\237\232\227 258.18\",\"value\":397726697,\"flag\":0,\"items\":[]}]}]",
+    "[{\"entries\":[{\"text1\":\"Pr\303\274fstand \342\202\254 258.1\",\"text2\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 258.2\",\"text3\":\"K\303\274hler\\t\360"
+    "\237\224\247 258.3\",\"text4\":\"say \\\"\303\251\\\" 258.4\",\"text5\":\"back\\\\slash "
+    "\303\237 258.5\",\"value\":4294967295,\"flag\":128,\"items\":[{\"itemText1\":\"Z\303\274"
+    "ndung \360\237\232\227 258.6\",\"itemText2\":\"\\udc00Pr\303\274fstand \342\202\254 258."
+    "7\\ud800\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.8\""
+    ",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 258.9\",\"id\":2147483648,\"pin\":2147"
+    "483647,\"inUse\":0},{\"itemText1\":\"say \\\"\303\251\\\" 258.10\",\"itemText2\":\"back"
+    "\\\\slash \303\237 258.11\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 258.12\",\"i"
+    "temText4\":\"Pr\303\274fstand \342\202\254 258.13\",\"id\":1531306117,\"pin\":2038258231"
+    ",\"inUse\":255}]},{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258"
+    ".14\",\"text2\":\"K\303\274hler\\t\360\237\224\247 258.15\",\"text3\":\"say \\\"\303\251"
+    "\\\" 258.16\",\"text4\":\"back\\\\slash \303\237 258.17\",\"text5\":\"Z\303\274ndung "
+    "\360\237\232\227 258.18\",\"value\":397726697,\"flag\":0,\"items\":[]}]}]",
+    "[{\"entries\":[{\"text1\":\"Pr\303\274fstand \342\202\254 258.1\",\"text2\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 258.2\",\"text3\":\"K\303\274hler\\t\360"
+    "\237\224\247 258.3\",\"text4\":\"say \\\"\303\251\\\" 258.4\",\"text5\":\"back\\\\slash "
+    "\303\237 258.5\",\"value\":4294967295,\"flag\":128,\"items\":[{\"itemText1\":\"Z\303\274"
+    "ndung \360\237\232\227 258.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 258.7\",\"i"
+    "temText3\":\"\\udc00\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.8\\ud800\""
+    ",\"itemText4\":\"K\303\274hler\\t\360\237\224\247 258.9\",\"id\":2147483648,\"pin\":2147"
+    "483647,\"inUse\":0},{\"itemText1\":\"say \\\"\303\251\\\" 258.10\",\"itemText2\":\"back"
+    "\\\\slash \303\237 258.11\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 258.12\",\"i"
+    "temText4\":\"Pr\303\274fstand \342\202\254 258.13\",\"id\":1531306117,\"pin\":2038258231"
+    ",\"inUse\":255}]},{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258"
+    ".14\",\"text2\":\"K\303\274hler\\t\360\237\224\247 258.15\",\"text3\":\"say \\\"\303\251"
+    "\\\" 258.16\",\"text4\":\"back\\\\slash \303\237 258.17\",\"text5\":\"Z\303\274ndung "
+    "\360\237\232\227 258.18\",\"value\":397726697,\"flag\":0,\"items\":[]}]}]",
+    "[{\"entries\":[{\"text1\":\"Pr\303\274fstand \342\202\254 258.1\",\"text2\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 258.2\",\"text3\":\"K\303\274hler\\t\360"
+    "\237\224\247 258.3\",\"text4\":\"say \\\"\303\251\\\" 258.4\",\"text5\":\"back\\\\slash "
+    "\303\237 258.5\",\"value\":4294967295,\"flag\":128,\"items\":[{\"itemText1\":\"Z\303\274"
+    "ndung \360\237\232\227 258.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 258.7\",\"i"
+    "temText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258.8\",\"itemText4\""
+    ":\"\\udc00K\303\274hler\\t\360\237\224\247 258.9\\ud800\",\"id\":2147483648,\"pin\":2147"
+    "483647,\"inUse\":0},{\"itemText1\":\"say \\\"\303\251\\\" 258.10\",\"itemText2\":\"back"
+    "\\\\slash \303\237 258.11\",\"itemText3\":\"Z\303\274ndung \360\237\232\227 258.12\",\"i"
+    "temText4\":\"Pr\303\274fstand \342\202\254 258.13\",\"id\":1531306117,\"pin\":2038258231"
+    ",\"inUse\":255}]},{\"text1\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 258"
+    ".14\",\"text2\":\"K\303\274hler\\t\360\237\224\247 258.15\",\"text3\":\"say \\\"\303\251"
+    "\\\" 258.16\",\"text4\":\"back\\\\slash \303\237 258.17\",\"text5\":\"Z\303\274ndung "
+    "\360\237\232\227 258.18\",\"value\":397726697,\"flag\":0,\"items\":[]}]}]",
+};
+TEST_F(Interfaces, setInterfaceConfiguration_TextWithNoUtf8Form) {
+    kc::noUtf8<SetInterfaceConfigurationExport>(api, kSetInterfaceConfigurationNoUtf8);
+}
+
 const kc::Number kNumber64{64, "setInterfaceConfiguration", kSetInterfaceConfigurationCases};
 
 TEST_F(InterfacesByNumber, n64_setInterfaceConfiguration_KelCall) { kc::kelCall(api, kNumber64); }
@@ -2484,6 +3079,52 @@ TEST_F(Interfaces, setInterfaceProviders_Exchange) {
 }
 TEST_F(Interfaces, setInterfaceProviders_Failure) {
     kc::failure<SetInterfaceProvidersExport>(api, kSetInterfaceProvidersCases);
+}
+
+const char* const kSetInterfaceProvidersNoUtf8[] = {
+    "[[{\"itemText1\":\"\\udc00Pr\303\274fstand \342\202\254 267.1\\ud800\",\"itemText2\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 267.2\",\"itemText3\":\"K\303\274h"
+    "ler\\t\360\237\224\247 267.3\",\"itemText4\":\"say \\\"\303\251\\\" 267.4\",\"text\":\"b"
+    "ack\\\\slash \303\237 267.5\",\"value\":4294967295,\"flag\":128},{\"itemText1\":\"Z\303"
+    "\274ndung \360\237\232\227 267.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 267.7\""
+    ",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 267.8\",\"itemTex"
+    "t4\":\"K\303\274hler\\t\360\237\224\247 267.9\",\"text\":\"say \\\"\303\251\\\" 267.10\""
+    ",\"value\":2147483648,\"flag\":0}]]",
+    "[[{\"itemText1\":\"Pr\303\274fstand \342\202\254 267.1\",\"itemText2\":\"\\udc00\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 267.2\\ud800\",\"itemText3\":\"K\303\274hl"
+    "er\\t\360\237\224\247 267.3\",\"itemText4\":\"say \\\"\303\251\\\" 267.4\",\"text\":\"ba"
+    "ck\\\\slash \303\237 267.5\",\"value\":4294967295,\"flag\":128},{\"itemText1\":\"Z\303"
+    "\274ndung \360\237\232\227 267.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 267.7\""
+    ",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 267.8\",\"itemTex"
+    "t4\":\"K\303\274hler\\t\360\237\224\247 267.9\",\"text\":\"say \\\"\303\251\\\" 267.10\""
+    ",\"value\":2147483648,\"flag\":0}]]",
+    "[[{\"itemText1\":\"Pr\303\274fstand \342\202\254 267.1\",\"itemText2\":\"\346\227\245"
+    "\346\234\254\350\252\236 \360\235\204\236 267.2\",\"itemText3\":\"\\udc00K\303\274hler\\"
+    "t\360\237\224\247 267.3\\ud800\",\"itemText4\":\"say \\\"\303\251\\\" 267.4\",\"text\":"
+    "\"back\\\\slash \303\237 267.5\",\"value\":4294967295,\"flag\":128},{\"itemText1\":\"Z"
+    "\303\274ndung \360\237\232\227 267.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 267"
+    ".7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 267.8\",\"ite"
+    "mText4\":\"K\303\274hler\\t\360\237\224\247 267.9\",\"text\":\"say \\\"\303\251\\\" 267."
+    "10\",\"value\":2147483648,\"flag\":0}]]",
+    "[[{\"itemText1\":\"Pr\303\274fstand \342\202\254 267.1\",\"itemText2\":\"\346\227\245"
+    "\346\234\254\350\252\236 \360\235\204\236 267.2\",\"itemText3\":\"K\303\274hler\\t\360"
+    "\237\224\247 267.3\",\"itemText4\":\"\\udc00say \\\"\303\251\\\" 267.4\\ud800\",\"text\""
+    ":\"back\\\\slash \303\237 267.5\",\"value\":4294967295,\"flag\":128},{\"itemText1\":\"Z"
+    "\303\274ndung \360\237\232\227 267.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 267"
+    ".7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 267.8\",\"ite"
+    "mText4\":\"K\303\274hler\\t\360\237\224\247 267.9\",\"text\":\"say \\\"\303\251\\\" 267."
+    "10\",\"value\":2147483648,\"flag\":0}]]",
+    "[[{\"itemText1\":\"Pr\303\274fstand \342\202\254 267.1\",\"itemText2\":\"\346\227\245"
+    "\346\234\254\350\252\236 \360\235\204\236 267.2\",\"itemText3\":\"K\303\274hler\\t\360"
+    "\237\224\247 267.3\",\"itemText4\":\"say \\\"\303\251\\\" 267.4\",\"text\":\"\\udc00back"
+    "\\\\slash \303\237 267.5\\ud800\",\"value\":4294967295,\"flag\":128},{\"itemText1\":\"Z"
+    "\303\274ndung \360\237\232\227 267.6\",\"itemText2\":\"Pr\303\274fstand \342\202\254 267"
+    ".7\",\"itemText3\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 267.8\",\"ite"
+    "mText4\":\"K\303\274hler\\t\360\237\224\247 267.9\",\"text\":\"say \\\"\303\251\\\" 267."
+    "10\",\"value\":2147483648,\"flag\":0}]]",
+};
+TEST_F(Interfaces, setInterfaceProviders_TextWithNoUtf8Form) {
+    kc::noUtf8<SetInterfaceProvidersExport>(api, kSetInterfaceProvidersNoUtf8);
 }
 
 const kc::Number kNumber119{119, "setInterfaceProviders", kSetInterfaceProvidersCases};

@@ -618,6 +618,13 @@ TEST_F(Measurement, getMeasurementValueInfos_Failure) {
     kc::failure<GetMeasurementValueInfosExport>(api, kGetMeasurementValueInfosCases);
 }
 
+const char* const kGetMeasurementValueInfosNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 38.1\\ud800\"]",
+};
+TEST_F(Measurement, getMeasurementValueInfos_TextWithNoUtf8Form) {
+    kc::noUtf8<GetMeasurementValueInfosExport>(api, kGetMeasurementValueInfosNoUtf8);
+}
+
 const kc::Number kNumber37{37, "getMeasurementValueInfos", kGetMeasurementValueInfosCases};
 
 TEST_F(MeasurementByNumber, n37_getMeasurementValueInfos_KelCall) { kc::kelCall(api, kNumber37); }
@@ -667,6 +674,16 @@ TEST_F(Measurement, registerMeasurementValues_Exchange) {
 }
 TEST_F(Measurement, registerMeasurementValues_Failure) {
     kc::failure<RegisterMeasurementValuesExport>(api, kRegisterMeasurementValuesCases);
+}
+
+const char* const kRegisterMeasurementValuesNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 39.1\\ud800\",[\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 39.2\",\"\",\"K\303\274hler\\t\360\237\224\247 39.3\"]]",
+    "[\"Pr\303\274fstand \342\202\254 39.1\",[\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 39.2\\ud800\",\"\",\"K\303\274hler\\t\360\237\224\247 39.3\"]]",
+};
+TEST_F(Measurement, registerMeasurementValues_TextWithNoUtf8Form) {
+    kc::noUtf8<RegisterMeasurementValuesExport>(api, kRegisterMeasurementValuesNoUtf8);
 }
 
 const kc::Number kNumber38{38, "registerMeasurementValues", kRegisterMeasurementValuesCases};
@@ -1305,6 +1322,19 @@ TEST_F(Measurement, readMeasurementValuesAsync_Failure) {
     kc::asyncFailure<ReadMeasurementValuesAsyncExport>(api, kReadMeasurementValuesCases);
 }
 
+const char* const kReadMeasurementValuesNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 58.1\\ud800\",[\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 58.2\",\"\",\"K\303\274hler\\t\360\237\224\247 58.3\"]]",
+    "[\"Pr\303\274fstand \342\202\254 58.1\",[\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 58.2\\ud800\",\"\",\"K\303\274hler\\t\360\237\224\247 58.3\"]]",
+};
+TEST_F(Measurement, readMeasurementValues_TextWithNoUtf8Form) {
+    kc::noUtf8<ReadMeasurementValuesExport>(api, kReadMeasurementValuesNoUtf8);
+}
+TEST_F(Measurement, readMeasurementValuesAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ReadMeasurementValuesAsyncExport>(api, kReadMeasurementValuesNoUtf8);
+}
+
 const kc::Number kNumber75{75, "readMeasurementValues", kReadMeasurementValuesCases};
 
 TEST_F(MeasurementByNumber, n75_readMeasurementValues_KelCall) { kc::kelCall(api, kNumber75); }
@@ -1933,6 +1963,16 @@ TEST_F(Measurement, getSingleMeasurementValueInfos_Exchange) {
 }
 TEST_F(Measurement, getSingleMeasurementValueInfos_Failure) {
     kc::failure<GetSingleMeasurementValueInfosExport>(api, kGetSingleMeasurementValueInfosCases);
+}
+
+const char* const kGetSingleMeasurementValueInfosNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 73.1\\ud800\",[\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 73.2\",\"\",\"K\303\274hler\\t\360\237\224\247 73.3\"]]",
+    "[\"Pr\303\274fstand \342\202\254 73.1\",[\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 73.2\\ud800\",\"\",\"K\303\274hler\\t\360\237\224\247 73.3\"]]",
+};
+TEST_F(Measurement, getSingleMeasurementValueInfos_TextWithNoUtf8Form) {
+    kc::noUtf8<GetSingleMeasurementValueInfosExport>(api, kGetSingleMeasurementValueInfosNoUtf8);
 }
 
 const kc::Number kNumber96{96, "getSingleMeasurementValueInfos",

@@ -38,6 +38,13 @@ TEST_F(Monitoring, createMonitoringLink_Failure) {
     kc::failure<CreateMonitoringLinkExport>(api, kCreateMonitoringLinkCases);
 }
 
+const char* const kCreateMonitoringLinkNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 10.1\\ud800\"]",
+};
+TEST_F(Monitoring, createMonitoringLink_TextWithNoUtf8Form) {
+    kc::noUtf8<CreateMonitoringLinkExport>(api, kCreateMonitoringLinkNoUtf8);
+}
+
 const kc::Number kNumber10{10, "createMonitoringLink", kCreateMonitoringLinkCases};
 
 TEST_F(MonitoringByNumber, n10_createMonitoringLink_KelCall) { kc::kelCall(api, kNumber10); }
@@ -320,6 +327,13 @@ TEST_F(Monitoring, openTraceFileMonitoringLink_Exchange) {
 }
 TEST_F(Monitoring, openTraceFileMonitoringLink_Failure) {
     kc::failure<OpenTraceFileMonitoringLinkExport>(api, kOpenTraceFileMonitoringLinkCases);
+}
+
+const char* const kOpenTraceFileMonitoringLinkNoUtf8[] = {
+    "[9223372036854775809,\"\\udc00Pr\303\274fstand \342\202\254 49.1\\ud800\"]",
+};
+TEST_F(Monitoring, openTraceFileMonitoringLink_TextWithNoUtf8Form) {
+    kc::noUtf8<OpenTraceFileMonitoringLinkExport>(api, kOpenTraceFileMonitoringLinkNoUtf8);
 }
 
 const kc::Number kNumber67{67, "openTraceFileMonitoringLink", kOpenTraceFileMonitoringLinkCases};

@@ -47,6 +47,16 @@ struct RunSequenceExport {
 TEST_F(Sequences, runSequence_Exchange) { kc::exchange<RunSequenceExport>(api, kRunSequenceCases); }
 TEST_F(Sequences, runSequence_Failure) { kc::failure<RunSequenceExport>(api, kRunSequenceCases); }
 
+const char* const kRunSequenceNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 145.1\\ud800\",[\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 145.2\",\"\",\"K\303\274hler\\t\360\237\224\247 145.3\"]]",
+    "[\"Pr\303\274fstand \342\202\254 145.1\",[\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 145.2\\ud800\",\"\",\"K\303\274hler\\t\360\237\224\247 145.3\"]]",
+};
+TEST_F(Sequences, runSequence_TextWithNoUtf8Form) {
+    kc::noUtf8<RunSequenceExport>(api, kRunSequenceNoUtf8);
+}
+
 const kc::Number kNumber177{177, "runSequence", kRunSequenceCases};
 
 TEST_F(SequencesByNumber, n177_runSequence_KelCall) { kc::kelCall(api, kNumber177); }
@@ -692,6 +702,55 @@ TEST_F(Sequences, executeSequenceAsync_Exchange) {
 }
 TEST_F(Sequences, executeSequenceAsync_Failure) {
     kc::asyncFailure<ExecuteSequenceAsyncExport>(api, kExecuteSequenceCases);
+}
+
+const char* const kExecuteSequenceNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 228.1\\ud800\",\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 228.2\",[{\"name\":\"K\303\274hler\\t\360\237\224\247 228.3\","
+    "\"children\":[{\"name\":\"say \\\"\303\251\\\" 228.4\",\"children\":[{\"name\":\"back\\"
+    "\\slash \303\237 228.5\",\"children\":[],\"value\":\"Z\303\274ndung \360\237\232\227 228"
+    ".6\"},{\"name\":\"Pr\303\274fstand \342\202\254 228.7\",\"children\":[],\"value\":\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 228.8\"}],\"value\":\"K\303\274hler\\t"
+    "\360\237\224\247 228.9\"},{\"name\":\"say \\\"\303\251\\\" 228.10\",\"children\":[],\"va"
+    "lue\":\"back\\\\slash \303\237 228.11\"}],\"value\":\"Z\303\274ndung \360\237\232\227 22"
+    "8.12\"},{\"name\":\"Pr\303\274fstand \342\202\254 228.13\",\"children\":[],\"value\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 228.14\"}]]",
+    "[\"Pr\303\274fstand \342\202\254 228.1\",\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 228.2\\ud800\",[{\"name\":\"K\303\274hler\\t\360\237\224\247 228.3\",\""
+    "children\":[{\"name\":\"say \\\"\303\251\\\" 228.4\",\"children\":[{\"name\":\"back\\\\s"
+    "lash \303\237 228.5\",\"children\":[],\"value\":\"Z\303\274ndung \360\237\232\227 228.6"
+    "\"},{\"name\":\"Pr\303\274fstand \342\202\254 228.7\",\"children\":[],\"value\":\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 228.8\"}],\"value\":\"K\303\274hler\\t"
+    "\360\237\224\247 228.9\"},{\"name\":\"say \\\"\303\251\\\" 228.10\",\"children\":[],\"va"
+    "lue\":\"back\\\\slash \303\237 228.11\"}],\"value\":\"Z\303\274ndung \360\237\232\227 22"
+    "8.12\"},{\"name\":\"Pr\303\274fstand \342\202\254 228.13\",\"children\":[],\"value\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 228.14\"}]]",
+    "[\"Pr\303\274fstand \342\202\254 228.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 228.2\",[{\"name\":\"\\udc00K\303\274hler\\t\360\237\224\247 228.3\\ud800\",\"c"
+    "hildren\":[{\"name\":\"say \\\"\303\251\\\" 228.4\",\"children\":[{\"name\":\"back\\\\sl"
+    "ash \303\237 228.5\",\"children\":[],\"value\":\"Z\303\274ndung \360\237\232\227 228.6\""
+    "},{\"name\":\"Pr\303\274fstand \342\202\254 228.7\",\"children\":[],\"value\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 228.8\"}],\"value\":\"K\303\274hler\\t\360"
+    "\237\224\247 228.9\"},{\"name\":\"say \\\"\303\251\\\" 228.10\",\"children\":[],\"value"
+    "\":\"back\\\\slash \303\237 228.11\"}],\"value\":\"Z\303\274ndung \360\237\232\227 228.1"
+    "2\"},{\"name\":\"Pr\303\274fstand \342\202\254 228.13\",\"children\":[],\"value\":\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 228.14\"}]]",
+    "[\"Pr\303\274fstand \342\202\254 228.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 228.2\",[{\"name\":\"K\303\274hler\\t\360\237\224\247 228.3\",\"children\":[{\""
+    "name\":\"say \\\"\303\251\\\" 228.4\",\"children\":[{\"name\":\"back\\\\slash \303\237 2"
+    "28.5\",\"children\":[],\"value\":\"\\udc00Z\303\274ndung \360\237\232\227 228.6\\ud800\""
+    "},{\"name\":\"Pr\303\274fstand \342\202\254 228.7\",\"children\":[],\"value\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 228.8\"}],\"value\":\"K\303\274hler\\t\360"
+    "\237\224\247 228.9\"},{\"name\":\"say \\\"\303\251\\\" 228.10\",\"children\":[],\"value"
+    "\":\"back\\\\slash \303\237 228.11\"}],\"value\":\"Z\303\274ndung \360\237\232\227 228.1"
+    "2\"},{\"name\":\"Pr\303\274fstand \342\202\254 228.13\",\"children\":[],\"value\":\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 228.14\"}]]",
+};
+TEST_F(Sequences, executeSequence_TextWithNoUtf8Form) {
+    kc::noUtf8<ExecuteSequenceExport>(api, kExecuteSequenceNoUtf8);
+}
+TEST_F(Sequences, executeSequenceAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ExecuteSequenceAsyncExport>(api, kExecuteSequenceNoUtf8);
 }
 
 const kc::Number kNumber262{262, "executeSequence", kExecuteSequenceCases};

@@ -37,6 +37,13 @@ struct StartServerExport {
 TEST_F(Servers, startServer_Exchange) { kc::exchange<StartServerExport>(api, kStartServerCases); }
 TEST_F(Servers, startServer_Failure) { kc::failure<StartServerExport>(api, kStartServerCases); }
 
+const char* const kStartServerNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 4.1\\ud800\"]",
+};
+TEST_F(Servers, startServer_TextWithNoUtf8Form) {
+    kc::noUtf8<StartServerExport>(api, kStartServerNoUtf8);
+}
+
 const kc::Number kNumber4{4, "startServer", kStartServerCases};
 
 TEST_F(ServersByNumber, n4_startServer_KelCall) { kc::kelCall(api, kNumber4); }
@@ -67,6 +74,13 @@ struct StopServerExport {
 
 TEST_F(Servers, stopServer_Exchange) { kc::exchange<StopServerExport>(api, kStopServerCases); }
 TEST_F(Servers, stopServer_Failure) { kc::failure<StopServerExport>(api, kStopServerCases); }
+
+const char* const kStopServerNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 5.1\\ud800\"]",
+};
+TEST_F(Servers, stopServer_TextWithNoUtf8Form) {
+    kc::noUtf8<StopServerExport>(api, kStopServerNoUtf8);
+}
 
 const kc::Number kNumber5{5, "stopServer", kStopServerCases};
 
@@ -127,6 +141,13 @@ struct ConnectRemoteServerExport {
 
 TEST_F(Servers, connectRemoteServer_Failure) {
     kc::failure<ConnectRemoteServerExport>(api, kConnectRemoteServerCases);
+}
+
+const char* const kConnectRemoteServerNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 37.1\\ud800\"]",
+};
+TEST_F(Servers, connectRemoteServer_TextWithNoUtf8Form) {
+    kc::noUtf8<ConnectRemoteServerExport>(api, kConnectRemoteServerNoUtf8);
 }
 
 const kc::Number kNumber36{36, "connectRemoteServer", kConnectRemoteServerCases};
@@ -191,6 +212,14 @@ struct AddUserExport {
 TEST_F(Servers, addUser_Exchange) { kc::exchange<AddUserExport>(api, kAddUserCases); }
 TEST_F(Servers, addUser_Failure) { kc::failure<AddUserExport>(api, kAddUserCases); }
 
+const char* const kAddUserNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 124.1\\ud800\",\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 124.2\",4294967295]",
+    "[\"Pr\303\274fstand \342\202\254 124.1\",\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 124.2\\ud800\",4294967295]",
+};
+TEST_F(Servers, addUser_TextWithNoUtf8Form) { kc::noUtf8<AddUserExport>(api, kAddUserNoUtf8); }
+
 const kc::Number kNumber155{155, "addUser", kAddUserCases};
 
 TEST_F(ServersByNumber, n155_addUser_KelCall) { kc::kelCall(api, kNumber155); }
@@ -222,6 +251,13 @@ struct RemoveUserExport {
 
 TEST_F(Servers, removeUser_Exchange) { kc::exchange<RemoveUserExport>(api, kRemoveUserCases); }
 TEST_F(Servers, removeUser_Failure) { kc::failure<RemoveUserExport>(api, kRemoveUserCases); }
+
+const char* const kRemoveUserNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 125.1\\ud800\"]",
+};
+TEST_F(Servers, removeUser_TextWithNoUtf8Form) {
+    kc::noUtf8<RemoveUserExport>(api, kRemoveUserNoUtf8);
+}
 
 const kc::Number kNumber158{158, "removeUser", kRemoveUserCases};
 
@@ -302,6 +338,14 @@ struct LogOutExport {
 TEST_F(Servers, logOut_Exchange) { kc::exchange<LogOutExport>(api, kLogOutCases); }
 TEST_F(Servers, logOut_Failure) { kc::failure<LogOutExport>(api, kLogOutCases); }
 
+const char* const kLogOutNoUtf8[] = {
+    "[{\"user\":\"\\udc00Pr\303\274fstand \342\202\254 127.1\\ud800\",\"password\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 127.2\"}]",
+    "[{\"user\":\"Pr\303\274fstand \342\202\254 127.1\",\"password\":\"\\udc00\346\227\245"
+    "\346\234\254\350\252\236 \360\235\204\236 127.2\\ud800\"}]",
+};
+TEST_F(Servers, logOut_TextWithNoUtf8Form) { kc::noUtf8<LogOutExport>(api, kLogOutNoUtf8); }
+
 const kc::Number kNumber159{159, "logOut", kLogOutCases};
 
 TEST_F(ServersByNumber, n159_logOut_KelCall) { kc::kelCall(api, kNumber159); }
@@ -346,6 +390,18 @@ struct UpdateUserExport {
 
 TEST_F(Servers, updateUser_Exchange) { kc::exchange<UpdateUserExport>(api, kUpdateUserCases); }
 TEST_F(Servers, updateUser_Failure) { kc::failure<UpdateUserExport>(api, kUpdateUserCases); }
+
+const char* const kUpdateUserNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 128.1\\ud800\",\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 128.2\",\"K\303\274hler\\t\360\237\224\247 128.3\",4294967295]",
+    "[\"Pr\303\274fstand \342\202\254 128.1\",\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 128.2\\ud800\",\"K\303\274hler\\t\360\237\224\247 128.3\",4294967295]",
+    "[\"Pr\303\274fstand \342\202\254 128.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 128.2\",\"\\udc00K\303\274hler\\t\360\237\224\247 128.3\\ud800\",4294967295]",
+};
+TEST_F(Servers, updateUser_TextWithNoUtf8Form) {
+    kc::noUtf8<UpdateUserExport>(api, kUpdateUserNoUtf8);
+}
 
 const kc::Number kNumber161{161, "updateUser", kUpdateUserCases};
 
@@ -501,6 +557,13 @@ TEST_F(Servers, thirdPartyLogin_Failure) {
     kc::failure<ThirdPartyLoginExport>(api, kThirdPartyLoginCases);
 }
 
+const char* const kThirdPartyLoginNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 213.1\\ud800\"]",
+};
+TEST_F(Servers, thirdPartyLogin_TextWithNoUtf8Form) {
+    kc::noUtf8<ThirdPartyLoginExport>(api, kThirdPartyLoginNoUtf8);
+}
+
 const kc::Number kNumber244{244, "thirdPartyLogin", kThirdPartyLoginCases};
 
 TEST_F(ServersByNumber, n244_thirdPartyLogin_KelCall) { kc::kelCall(api, kNumber244); }
@@ -538,6 +601,13 @@ TEST_F(Servers, getThirdPartyLoginUrl_Exchange) {
 }
 TEST_F(Servers, getThirdPartyLoginUrl_Failure) {
     kc::failure<GetThirdPartyLoginUrlExport>(api, kGetThirdPartyLoginUrlCases);
+}
+
+const char* const kGetThirdPartyLoginUrlNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 215.1\\ud800\"]",
+};
+TEST_F(Servers, getThirdPartyLoginUrl_TextWithNoUtf8Form) {
+    kc::noUtf8<GetThirdPartyLoginUrlExport>(api, kGetThirdPartyLoginUrlNoUtf8);
 }
 
 const kc::Number kNumber253{253, "getThirdPartyLoginUrl", kGetThirdPartyLoginUrlCases};
@@ -593,6 +663,24 @@ TEST_F(Servers, getCertificateByPublicKey_Exchange) {
 }
 TEST_F(Servers, getCertificateByPublicKey_Failure) {
     kc::failure<GetCertificateByPublicKeyExport>(api, kGetCertificateByPublicKeyCases);
+}
+
+const char* const kGetCertificateByPublicKeyNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 217.1\\ud800\",\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 217.2\",\"K\303\274hler\\t\360\237\224\247 217.3\",\"say \\\""
+    "\303\251\\\" 217.4\"]",
+    "[\"Pr\303\274fstand \342\202\254 217.1\",\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 217.2\\ud800\",\"K\303\274hler\\t\360\237\224\247 217.3\",\"say \\\""
+    "\303\251\\\" 217.4\"]",
+    "[\"Pr\303\274fstand \342\202\254 217.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 217.2\",\"\\udc00K\303\274hler\\t\360\237\224\247 217.3\\ud800\",\"say \\\"\303"
+    "\251\\\" 217.4\"]",
+    "[\"Pr\303\274fstand \342\202\254 217.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 217.2\",\"K\303\274hler\\t\360\237\224\247 217.3\",\"\\udc00say \\\"\303\251\\"
+    "\" 217.4\\ud800\"]",
+};
+TEST_F(Servers, getCertificateByPublicKey_TextWithNoUtf8Form) {
+    kc::noUtf8<GetCertificateByPublicKeyExport>(api, kGetCertificateByPublicKeyNoUtf8);
 }
 
 const kc::Number kNumber247{247, "getCertificateByPublicKey", kGetCertificateByPublicKeyCases};
@@ -658,6 +746,36 @@ TEST_F(Servers, createCertificateFromCSR_Exchange) {
 }
 TEST_F(Servers, createCertificateFromCSR_Failure) {
     kc::failure<CreateCertificateFromCSRExport>(api, kCreateCertificateFromCSRCases);
+}
+
+const char* const kCreateCertificateFromCSRNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 218.1\\ud800\",\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 218.2\",\"K\303\274hler\\t\360\237\224\247 218.3\",\"say \\\""
+    "\303\251\\\" 218.4\",\"back\\\\slash \303\237 218.5\",\"Z\303\274ndung \360\237\232\227 "
+    "218.6\"]",
+    "[\"Pr\303\274fstand \342\202\254 218.1\",\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 218.2\\ud800\",\"K\303\274hler\\t\360\237\224\247 218.3\",\"say \\\""
+    "\303\251\\\" 218.4\",\"back\\\\slash \303\237 218.5\",\"Z\303\274ndung \360\237\232\227 "
+    "218.6\"]",
+    "[\"Pr\303\274fstand \342\202\254 218.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 218.2\",\"\\udc00K\303\274hler\\t\360\237\224\247 218.3\\ud800\",\"say \\\"\303"
+    "\251\\\" 218.4\",\"back\\\\slash \303\237 218.5\",\"Z\303\274ndung \360\237\232\227 218."
+    "6\"]",
+    "[\"Pr\303\274fstand \342\202\254 218.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 218.2\",\"K\303\274hler\\t\360\237\224\247 218.3\",\"\\udc00say \\\"\303\251\\"
+    "\" 218.4\\ud800\",\"back\\\\slash \303\237 218.5\",\"Z\303\274ndung \360\237\232\227 218"
+    ".6\"]",
+    "[\"Pr\303\274fstand \342\202\254 218.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 218.2\",\"K\303\274hler\\t\360\237\224\247 218.3\",\"say \\\"\303\251\\\" 218.4"
+    "\",\"\\udc00back\\\\slash \303\237 218.5\\ud800\",\"Z\303\274ndung \360\237\232\227 218."
+    "6\"]",
+    "[\"Pr\303\274fstand \342\202\254 218.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 218.2\",\"K\303\274hler\\t\360\237\224\247 218.3\",\"say \\\"\303\251\\\" 218.4"
+    "\",\"back\\\\slash \303\237 218.5\",\"\\udc00Z\303\274ndung \360\237\232\227 218.6\\ud80"
+    "0\"]",
+};
+TEST_F(Servers, createCertificateFromCSR_TextWithNoUtf8Form) {
+    kc::noUtf8<CreateCertificateFromCSRExport>(api, kCreateCertificateFromCSRNoUtf8);
 }
 
 const kc::Number kNumber248{248, "createCertificateFromCSR", kCreateCertificateFromCSRCases};
@@ -726,6 +844,18 @@ TEST_F(Servers, getCertificateChainById_Exchange) {
 }
 TEST_F(Servers, getCertificateChainById_Failure) {
     kc::failure<GetCertificateChainByIdExport>(api, kGetCertificateChainByIdCases);
+}
+
+const char* const kGetCertificateChainByIdNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 219.1\\ud800\",\"\346\227\245\346\234\254\350"
+    "\252\236 \360\235\204\236 219.2\",\"K\303\274hler\\t\360\237\224\247 219.3\"]",
+    "[\"Pr\303\274fstand \342\202\254 219.1\",\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 219.2\\ud800\",\"K\303\274hler\\t\360\237\224\247 219.3\"]",
+    "[\"Pr\303\274fstand \342\202\254 219.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 219.2\",\"\\udc00K\303\274hler\\t\360\237\224\247 219.3\\ud800\"]",
+};
+TEST_F(Servers, getCertificateChainById_TextWithNoUtf8Form) {
+    kc::noUtf8<GetCertificateChainByIdExport>(api, kGetCertificateChainByIdNoUtf8);
 }
 
 const kc::Number kNumber249{249, "getCertificateChainById", kGetCertificateChainByIdCases};
@@ -824,6 +954,14 @@ struct LogInExport {
 
 TEST_F(Servers, logIn_Exchange) { kc::exchange<LogInExport>(api, kLogInCases); }
 TEST_F(Servers, logIn_Failure) { kc::failure<LogInExport>(api, kLogInCases); }
+
+const char* const kLogInNoUtf8[] = {
+    "[{\"user\":\"\\udc00Pr\303\274fstand \342\202\254 239.1\\ud800\",\"password\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 239.2\"}]",
+    "[{\"user\":\"Pr\303\274fstand \342\202\254 239.1\",\"password\":\"\\udc00\346\227\245"
+    "\346\234\254\350\252\236 \360\235\204\236 239.2\\ud800\"}]",
+};
+TEST_F(Servers, logIn_TextWithNoUtf8Form) { kc::noUtf8<LogInExport>(api, kLogInNoUtf8); }
 
 const kc::Number kNumber216{216, "logIn", kLogInCases};
 

@@ -1010,6 +1010,21 @@ TEST_F(Services, getServiceInfos_Failure) {
     kc::failure<GetServiceInfosExport>(api, kGetServiceInfosCases);
 }
 
+const char* const kGetServiceInfosNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 29.1\\ud800\",\"\346\227\245\346\234\254\350\252"
+    "\236 \360\235\204\236 29.2\",[\"K\303\274hler\\t\360\237\224\247 29.3\",\"\",\"say \\\""
+    "\303\251\\\" 29.4\"],-2147483648]",
+    "[\"Pr\303\274fstand \342\202\254 29.1\",\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 29.2\\ud800\",[\"K\303\274hler\\t\360\237\224\247 29.3\",\"\",\"say \\"
+    "\"\303\251\\\" 29.4\"],-2147483648]",
+    "[\"Pr\303\274fstand \342\202\254 29.1\",\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 29.2\",[\"\\udc00K\303\274hler\\t\360\237\224\247 29.3\\ud800\",\"\",\"say \\\""
+    "\303\251\\\" 29.4\"],-2147483648]",
+};
+TEST_F(Services, getServiceInfos_TextWithNoUtf8Form) {
+    kc::noUtf8<GetServiceInfosExport>(api, kGetServiceInfosNoUtf8);
+}
+
 const kc::Number kNumber29{29, "getServiceInfos", kGetServiceInfosCases};
 
 TEST_F(ServicesByNumber, n29_getServiceInfos_KelCall) { kc::kelCall(api, kNumber29); }
@@ -1622,6 +1637,13 @@ TEST_F(Services, getIdentificationValueInfos_Exchange) {
 }
 TEST_F(Services, getIdentificationValueInfos_Failure) {
     kc::failure<GetIdentificationValueInfosExport>(api, kGetIdentificationValueInfosCases);
+}
+
+const char* const kGetIdentificationValueInfosNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 42.1\\ud800\"]",
+};
+TEST_F(Services, getIdentificationValueInfos_TextWithNoUtf8Form) {
+    kc::noUtf8<GetIdentificationValueInfosExport>(api, kGetIdentificationValueInfosNoUtf8);
 }
 
 const kc::Number kNumber41{41, "getIdentificationValueInfos", kGetIdentificationValueInfosCases};
@@ -2312,6 +2334,16 @@ TEST_F(Services, getActuatorServiceInfos_Failure) {
     kc::failure<GetActuatorServiceInfosExport>(api, kGetActuatorServiceInfosCases);
 }
 
+const char* const kGetActuatorServiceInfosNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 67.1\\ud800\",\"\346\227\245\346\234\254\350\252"
+    "\236 \360\235\204\236 67.2\"]",
+    "[\"Pr\303\274fstand \342\202\254 67.1\",\"\\udc00\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 67.2\\ud800\"]",
+};
+TEST_F(Services, getActuatorServiceInfos_TextWithNoUtf8Form) {
+    kc::noUtf8<GetActuatorServiceInfosExport>(api, kGetActuatorServiceInfosNoUtf8);
+}
+
 const kc::Number kNumber89{89, "getActuatorServiceInfos", kGetActuatorServiceInfosCases};
 
 TEST_F(ServicesByNumber, n89_getActuatorServiceInfos_KelCall) { kc::kelCall(api, kNumber89); }
@@ -2417,6 +2449,64 @@ TEST_F(Services, startCyclicServices_Exchange) {
 }
 TEST_F(Services, startCyclicServices_Failure) {
     kc::failure<StartCyclicServicesExport>(api, kStartCyclicServicesCases);
+}
+
+const char* const kStartCyclicServicesNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 78.1\\ud800\",[{\"parameters\":[{\"name\":\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 78.2\",\"children\":[{\"name\":\"K\303"
+    "\274hler\\t\360\237\224\247 78.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 78.4\""
+    ",\"children\":[],\"value\":\"back\\\\slash \303\237 78.5\"},{\"name\":\"Z\303\274ndung "
+    "\360\237\232\227 78.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 78.7\""
+    "}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 78.8\"},{\"name\":"
+    "\"K\303\274hler\\t\360\237\224\247 78.9\",\"children\":[],\"value\":\"say \\\"\303\251\\"
+    "\" 78.10\"}],\"value\":\"back\\\\slash \303\237 78.11\"},{\"name\":\"Z\303\274ndung \360"
+    "\237\232\227 78.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 78.13\"}]"
+    ",\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 78.14\",\"data\":[0"
+    ",255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"service\":\"K\303\274h"
+    "ler\\t\360\237\224\247 78.15\",\"data\":[0,255,127,1],\"value\":18446744073709551615}],4"
+    "294967295]",
+    "[\"Pr\303\274fstand \342\202\254 78.1\",[{\"parameters\":[{\"name\":\"\\udc00\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 78.2\\ud800\",\"children\":[{\"name\":\"K"
+    "\303\274hler\\t\360\237\224\247 78.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 78"
+    ".4\",\"children\":[],\"value\":\"back\\\\slash \303\237 78.5\"},{\"name\":\"Z\303\274ndu"
+    "ng \360\237\232\227 78.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 78."
+    "7\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 78.8\"},{\"name"
+    "\":\"K\303\274hler\\t\360\237\224\247 78.9\",\"children\":[],\"value\":\"say \\\"\303"
+    "\251\\\" 78.10\"}],\"value\":\"back\\\\slash \303\237 78.11\"},{\"name\":\"Z\303\274ndun"
+    "g \360\237\232\227 78.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 78."
+    "13\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 78.14\",\"dat"
+    "a\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"service\":\"K"
+    "\303\274hler\\t\360\237\224\247 78.15\",\"data\":[0,255,127,1],\"value\":184467440737095"
+    "51615}],4294967295]",
+    "[\"Pr\303\274fstand \342\202\254 78.1\",[{\"parameters\":[{\"name\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 78.2\",\"children\":[{\"name\":\"K\303\274hler\\t"
+    "\360\237\224\247 78.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 78.4\",\"children"
+    "\":[],\"value\":\"\\udc00back\\\\slash \303\237 78.5\\ud800\"},{\"name\":\"Z\303\274ndun"
+    "g \360\237\232\227 78.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 78.7"
+    "\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 78.8\"},{\"name\""
+    ":\"K\303\274hler\\t\360\237\224\247 78.9\",\"children\":[],\"value\":\"say \\\"\303\251"
+    "\\\" 78.10\"}],\"value\":\"back\\\\slash \303\237 78.11\"},{\"name\":\"Z\303\274ndung "
+    "\360\237\232\227 78.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 78.13"
+    "\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 78.14\",\"data"
+    "\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"service\":\"K\303"
+    "\274hler\\t\360\237\224\247 78.15\",\"data\":[0,255,127,1],\"value\":1844674407370955161"
+    "5}],4294967295]",
+    "[\"Pr\303\274fstand \342\202\254 78.1\",[{\"parameters\":[{\"name\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 78.2\",\"children\":[{\"name\":\"K\303\274hler\\t"
+    "\360\237\224\247 78.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 78.4\",\"children"
+    "\":[],\"value\":\"back\\\\slash \303\237 78.5\"},{\"name\":\"Z\303\274ndung \360\237\232"
+    "\227 78.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 78.7\"}],\"value\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 78.8\"},{\"name\":\"K\303\274hl"
+    "er\\t\360\237\224\247 78.9\",\"children\":[],\"value\":\"say \\\"\303\251\\\" 78.10\"}],"
+    "\"value\":\"back\\\\slash \303\237 78.11\"},{\"name\":\"Z\303\274ndung \360\237\232\227 "
+    "78.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 78.13\"}],\"service\":"
+    "\"\\udc00\346\227\245\346\234\254\350\252\236 \360\235\204\236 78.14\\ud800\",\"data\":["
+    "0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"service\":\"K\303\274"
+    "hler\\t\360\237\224\247 78.15\",\"data\":[0,255,127,1],\"value\":18446744073709551615}],"
+    "4294967295]",
+};
+TEST_F(Services, startCyclicServices_TextWithNoUtf8Form) {
+    kc::noUtf8<StartCyclicServicesExport>(api, kStartCyclicServicesNoUtf8);
 }
 
 const kc::Number kNumber103{103, "startCyclicServices", kStartCyclicServicesCases};
@@ -3592,6 +3682,65 @@ TEST_F(Services, executeServiceAsync_Failure) {
     kc::asyncFailure<ExecuteServiceAsyncExport>(api, kExecuteServiceCases);
 }
 
+const char* const kExecuteServiceNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 92.1\\ud800\",[{\"parameters\":[{\"name\":\"\346"
+    "\227\245\346\234\254\350\252\236 \360\235\204\236 92.2\",\"children\":[{\"name\":\"K\303"
+    "\274hler\\t\360\237\224\247 92.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 92.4\""
+    ",\"children\":[],\"value\":\"back\\\\slash \303\237 92.5\"},{\"name\":\"Z\303\274ndung "
+    "\360\237\232\227 92.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 92.7\""
+    "}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 92.8\"},{\"name\":"
+    "\"K\303\274hler\\t\360\237\224\247 92.9\",\"children\":[],\"value\":\"say \\\"\303\251\\"
+    "\" 92.10\"}],\"value\":\"back\\\\slash \303\237 92.11\"},{\"name\":\"Z\303\274ndung \360"
+    "\237\232\227 92.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 92.13\"}]"
+    ",\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 92.14\",\"data\":[0"
+    ",255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"service\":\"K\303\274h"
+    "ler\\t\360\237\224\247 92.15\",\"data\":[0,255,127,1],\"value\":18446744073709551615}]]",
+    "[\"Pr\303\274fstand \342\202\254 92.1\",[{\"parameters\":[{\"name\":\"\\udc00\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 92.2\\ud800\",\"children\":[{\"name\":\"K"
+    "\303\274hler\\t\360\237\224\247 92.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 92"
+    ".4\",\"children\":[],\"value\":\"back\\\\slash \303\237 92.5\"},{\"name\":\"Z\303\274ndu"
+    "ng \360\237\232\227 92.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 92."
+    "7\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 92.8\"},{\"name"
+    "\":\"K\303\274hler\\t\360\237\224\247 92.9\",\"children\":[],\"value\":\"say \\\"\303"
+    "\251\\\" 92.10\"}],\"value\":\"back\\\\slash \303\237 92.11\"},{\"name\":\"Z\303\274ndun"
+    "g \360\237\232\227 92.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 92."
+    "13\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 92.14\",\"dat"
+    "a\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"service\":\"K"
+    "\303\274hler\\t\360\237\224\247 92.15\",\"data\":[0,255,127,1],\"value\":184467440737095"
+    "51615}]]",
+    "[\"Pr\303\274fstand \342\202\254 92.1\",[{\"parameters\":[{\"name\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 92.2\",\"children\":[{\"name\":\"K\303\274hler\\t"
+    "\360\237\224\247 92.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 92.4\",\"children"
+    "\":[],\"value\":\"\\udc00back\\\\slash \303\237 92.5\\ud800\"},{\"name\":\"Z\303\274ndun"
+    "g \360\237\232\227 92.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 92.7"
+    "\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 92.8\"},{\"name\""
+    ":\"K\303\274hler\\t\360\237\224\247 92.9\",\"children\":[],\"value\":\"say \\\"\303\251"
+    "\\\" 92.10\"}],\"value\":\"back\\\\slash \303\237 92.11\"},{\"name\":\"Z\303\274ndung "
+    "\360\237\232\227 92.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 92.13"
+    "\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 92.14\",\"data"
+    "\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"service\":\"K\303"
+    "\274hler\\t\360\237\224\247 92.15\",\"data\":[0,255,127,1],\"value\":1844674407370955161"
+    "5}]]",
+    "[\"Pr\303\274fstand \342\202\254 92.1\",[{\"parameters\":[{\"name\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 92.2\",\"children\":[{\"name\":\"K\303\274hler\\t"
+    "\360\237\224\247 92.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 92.4\",\"children"
+    "\":[],\"value\":\"back\\\\slash \303\237 92.5\"},{\"name\":\"Z\303\274ndung \360\237\232"
+    "\227 92.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 92.7\"}],\"value\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 92.8\"},{\"name\":\"K\303\274hl"
+    "er\\t\360\237\224\247 92.9\",\"children\":[],\"value\":\"say \\\"\303\251\\\" 92.10\"}],"
+    "\"value\":\"back\\\\slash \303\237 92.11\"},{\"name\":\"Z\303\274ndung \360\237\232\227 "
+    "92.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 92.13\"}],\"service\":"
+    "\"\\udc00\346\227\245\346\234\254\350\252\236 \360\235\204\236 92.14\\ud800\",\"data\":["
+    "0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"service\":\"K\303\274"
+    "hler\\t\360\237\224\247 92.15\",\"data\":[0,255,127,1],\"value\":18446744073709551615}]]",
+};
+TEST_F(Services, executeService_TextWithNoUtf8Form) {
+    kc::noUtf8<ExecuteServiceExport>(api, kExecuteServiceNoUtf8);
+}
+TEST_F(Services, executeServiceAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ExecuteServiceAsyncExport>(api, kExecuteServiceNoUtf8);
+}
+
 const kc::Number kNumber30{30, "executeService", kExecuteServiceCases};
 
 TEST_F(ServicesByNumber, n30_executeService_KelCall) { kc::kelCall(api, kNumber30); }
@@ -3690,6 +3839,48 @@ TEST_F(Services, updateCyclicServices_Exchange) {
 }
 TEST_F(Services, updateCyclicServices_Failure) {
     kc::failure<UpdateCyclicServicesExport>(api, kUpdateCyclicServicesCases);
+}
+
+const char* const kUpdateCyclicServicesNoUtf8[] = {
+    "[9223372036854775809,[{\"parameters\":[{\"name\":\"\\udc00Pr\303\274fstand \342\202\254 "
+    "98.1\\ud800\",\"children\":[{\"name\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 98.2\",\"children\":[{\"name\":\"K\303\274hler\\t\360\237\224\247 98.3\",\"chil"
+    "dren\":[],\"value\":\"say \\\"\303\251\\\" 98.4\"},{\"name\":\"back\\\\slash \303\237 98"
+    ".5\",\"children\":[],\"value\":\"Z\303\274ndung \360\237\232\227 98.6\"}],\"value\":\"Pr"
+    "\303\274fstand \342\202\254 98.7\"},{\"name\":\"\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 98.8\",\"children\":[],\"value\":\"K\303\274hler\\t\360\237\224\247 98."
+    "9\"}],\"value\":\"say \\\"\303\251\\\" 98.10\"},{\"name\":\"back\\\\slash \303\237 98.11"
+    "\",\"children\":[],\"value\":\"Z\303\274ndung \360\237\232\227 98.12\"}],\"service\":\"P"
+    "r\303\274fstand \342\202\254 98.13\",\"data\":[0,255,255,128],\"value\":1844674407370955"
+    "1615},{\"parameters\":[],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 98.14\",\"data\":[0,255,127,1],\"value\":4294967296}]]",
+    "[9223372036854775809,[{\"parameters\":[{\"name\":\"Pr\303\274fstand \342\202\254 98.1\","
+    "\"children\":[{\"name\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 98.2\","
+    "\"children\":[{\"name\":\"K\303\274hler\\t\360\237\224\247 98.3\",\"children\":[],\"valu"
+    "e\":\"\\udc00say \\\"\303\251\\\" 98.4\\ud800\"},{\"name\":\"back\\\\slash \303\237 98.5"
+    "\",\"children\":[],\"value\":\"Z\303\274ndung \360\237\232\227 98.6\"}],\"value\":\"Pr"
+    "\303\274fstand \342\202\254 98.7\"},{\"name\":\"\346\227\245\346\234\254\350\252\236 "
+    "\360\235\204\236 98.8\",\"children\":[],\"value\":\"K\303\274hler\\t\360\237\224\247 98."
+    "9\"}],\"value\":\"say \\\"\303\251\\\" 98.10\"},{\"name\":\"back\\\\slash \303\237 98.11"
+    "\",\"children\":[],\"value\":\"Z\303\274ndung \360\237\232\227 98.12\"}],\"service\":\"P"
+    "r\303\274fstand \342\202\254 98.13\",\"data\":[0,255,255,128],\"value\":1844674407370955"
+    "1615},{\"parameters\":[],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 98.14\",\"data\":[0,255,127,1],\"value\":4294967296}]]",
+    "[9223372036854775809,[{\"parameters\":[{\"name\":\"Pr\303\274fstand \342\202\254 98.1\","
+    "\"children\":[{\"name\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 98.2\","
+    "\"children\":[{\"name\":\"K\303\274hler\\t\360\237\224\247 98.3\",\"children\":[],\"valu"
+    "e\":\"say \\\"\303\251\\\" 98.4\"},{\"name\":\"back\\\\slash \303\237 98.5\",\"children"
+    "\":[],\"value\":\"Z\303\274ndung \360\237\232\227 98.6\"}],\"value\":\"Pr\303\274fstand "
+    "\342\202\254 98.7\"},{\"name\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 9"
+    "8.8\",\"children\":[],\"value\":\"K\303\274hler\\t\360\237\224\247 98.9\"}],\"value\":\""
+    "say \\\"\303\251\\\" 98.10\"},{\"name\":\"back\\\\slash \303\237 98.11\",\"children\":[]"
+    ",\"value\":\"Z\303\274ndung \360\237\232\227 98.12\"}],\"service\":\"\\udc00Pr\303\274fs"
+    "tand \342\202\254 98.13\\ud800\",\"data\":[0,255,255,128],\"value\":18446744073709551615"
+    "},{\"parameters\":[],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236"
+    " 98.14\",\"data\":[0,255,127,1],\"value\":4294967296}]]",
+};
+TEST_F(Services, updateCyclicServices_TextWithNoUtf8Form) {
+    kc::noUtf8<UpdateCyclicServicesExport>(api, kUpdateCyclicServicesNoUtf8);
 }
 
 const kc::Number kNumber127{127, "updateCyclicServices", kUpdateCyclicServicesCases};
@@ -4148,6 +4339,64 @@ TEST_F(Services, unlockVehicle_Exchange) {
 }
 TEST_F(Services, unlockVehicle_Failure) {
     kc::failure<UnlockVehicleExport>(api, kUnlockVehicleCases);
+}
+
+const char* const kUnlockVehicleNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 146.1\\ud800\",[{\"parameters\":[{\"name\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 146.2\",\"children\":[{\"name\":\""
+    "K\303\274hler\\t\360\237\224\247 146.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" "
+    "146.4\",\"children\":[],\"value\":\"back\\\\slash \303\237 146.5\"},{\"name\":\"Z\303"
+    "\274ndung \360\237\232\227 146.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202"
+    "\254 146.7\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 146.8\""
+    "},{\"name\":\"K\303\274hler\\t\360\237\224\247 146.9\",\"children\":[],\"value\":\"say "
+    "\\\"\303\251\\\" 146.10\"}],\"value\":\"back\\\\slash \303\237 146.11\"},{\"name\":\"Z"
+    "\303\274ndung \360\237\232\227 146.12\",\"children\":[],\"value\":\"Pr\303\274fstand "
+    "\342\202\254 146.13\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 146.14\",\"data\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[]"
+    ",\"service\":\"K\303\274hler\\t\360\237\224\247 146.15\",\"data\":[0,255,127,1],\"value"
+    "\":18446744073709551615}]]",
+    "[\"Pr\303\274fstand \342\202\254 146.1\",[{\"parameters\":[{\"name\":\"\\udc00\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 146.2\\ud800\",\"children\":[{\"name\":\"K"
+    "\303\274hler\\t\360\237\224\247 146.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 1"
+    "46.4\",\"children\":[],\"value\":\"back\\\\slash \303\237 146.5\"},{\"name\":\"Z\303\274"
+    "ndung \360\237\232\227 146.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254"
+    " 146.7\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 146.8\"},{"
+    "\"name\":\"K\303\274hler\\t\360\237\224\247 146.9\",\"children\":[],\"value\":\"say \\\""
+    "\303\251\\\" 146.10\"}],\"value\":\"back\\\\slash \303\237 146.11\"},{\"name\":\"Z\303"
+    "\274ndung \360\237\232\227 146.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342"
+    "\202\254 146.13\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 "
+    "146.14\",\"data\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"se"
+    "rvice\":\"K\303\274hler\\t\360\237\224\247 146.15\",\"data\":[0,255,127,1],\"value\":184"
+    "46744073709551615}]]",
+    "[\"Pr\303\274fstand \342\202\254 146.1\",[{\"parameters\":[{\"name\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 146.2\",\"children\":[{\"name\":\"K\303\274hler\\t"
+    "\360\237\224\247 146.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 146.4\",\"childr"
+    "en\":[],\"value\":\"\\udc00back\\\\slash \303\237 146.5\\ud800\"},{\"name\":\"Z\303\274n"
+    "dung \360\237\232\227 146.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 "
+    "146.7\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 146.8\"},{\""
+    "name\":\"K\303\274hler\\t\360\237\224\247 146.9\",\"children\":[],\"value\":\"say \\\""
+    "\303\251\\\" 146.10\"}],\"value\":\"back\\\\slash \303\237 146.11\"},{\"name\":\"Z\303"
+    "\274ndung \360\237\232\227 146.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342"
+    "\202\254 146.13\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 "
+    "146.14\",\"data\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"se"
+    "rvice\":\"K\303\274hler\\t\360\237\224\247 146.15\",\"data\":[0,255,127,1],\"value\":184"
+    "46744073709551615}]]",
+    "[\"Pr\303\274fstand \342\202\254 146.1\",[{\"parameters\":[{\"name\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 146.2\",\"children\":[{\"name\":\"K\303\274hler\\t"
+    "\360\237\224\247 146.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 146.4\",\"childr"
+    "en\":[],\"value\":\"back\\\\slash \303\237 146.5\"},{\"name\":\"Z\303\274ndung \360\237"
+    "\232\227 146.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 146.7\"}],\"v"
+    "alue\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 146.8\"},{\"name\":\"K"
+    "\303\274hler\\t\360\237\224\247 146.9\",\"children\":[],\"value\":\"say \\\"\303\251\\\""
+    " 146.10\"}],\"value\":\"back\\\\slash \303\237 146.11\"},{\"name\":\"Z\303\274ndung \360"
+    "\237\232\227 146.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 146.13\""
+    "}],\"service\":\"\\udc00\346\227\245\346\234\254\350\252\236 \360\235\204\236 146.14\\ud"
+    "800\",\"data\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"servi"
+    "ce\":\"K\303\274hler\\t\360\237\224\247 146.15\",\"data\":[0,255,127,1],\"value\":184467"
+    "44073709551615}]]",
+};
+TEST_F(Services, unlockVehicle_TextWithNoUtf8Form) {
+    kc::noUtf8<UnlockVehicleExport>(api, kUnlockVehicleNoUtf8);
 }
 
 const kc::Number kNumber178{178, "unlockVehicle", kUnlockVehicleCases};
@@ -4812,6 +5061,68 @@ TEST_F(Services, executeServiceInDefaultSessionAsync_Failure) {
         api, kExecuteServiceInDefaultSessionCases);
 }
 
+const char* const kExecuteServiceInDefaultSessionNoUtf8[] = {
+    "[\"\\udc00Pr\303\274fstand \342\202\254 179.1\\ud800\",[{\"parameters\":[{\"name\":\""
+    "\346\227\245\346\234\254\350\252\236 \360\235\204\236 179.2\",\"children\":[{\"name\":\""
+    "K\303\274hler\\t\360\237\224\247 179.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" "
+    "179.4\",\"children\":[],\"value\":\"back\\\\slash \303\237 179.5\"},{\"name\":\"Z\303"
+    "\274ndung \360\237\232\227 179.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202"
+    "\254 179.7\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 179.8\""
+    "},{\"name\":\"K\303\274hler\\t\360\237\224\247 179.9\",\"children\":[],\"value\":\"say "
+    "\\\"\303\251\\\" 179.10\"}],\"value\":\"back\\\\slash \303\237 179.11\"},{\"name\":\"Z"
+    "\303\274ndung \360\237\232\227 179.12\",\"children\":[],\"value\":\"Pr\303\274fstand "
+    "\342\202\254 179.13\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 179.14\",\"data\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[]"
+    ",\"service\":\"K\303\274hler\\t\360\237\224\247 179.15\",\"data\":[0,255,127,1],\"value"
+    "\":18446744073709551615}]]",
+    "[\"Pr\303\274fstand \342\202\254 179.1\",[{\"parameters\":[{\"name\":\"\\udc00\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 179.2\\ud800\",\"children\":[{\"name\":\"K"
+    "\303\274hler\\t\360\237\224\247 179.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 1"
+    "79.4\",\"children\":[],\"value\":\"back\\\\slash \303\237 179.5\"},{\"name\":\"Z\303\274"
+    "ndung \360\237\232\227 179.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254"
+    " 179.7\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 179.8\"},{"
+    "\"name\":\"K\303\274hler\\t\360\237\224\247 179.9\",\"children\":[],\"value\":\"say \\\""
+    "\303\251\\\" 179.10\"}],\"value\":\"back\\\\slash \303\237 179.11\"},{\"name\":\"Z\303"
+    "\274ndung \360\237\232\227 179.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342"
+    "\202\254 179.13\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 "
+    "179.14\",\"data\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"se"
+    "rvice\":\"K\303\274hler\\t\360\237\224\247 179.15\",\"data\":[0,255,127,1],\"value\":184"
+    "46744073709551615}]]",
+    "[\"Pr\303\274fstand \342\202\254 179.1\",[{\"parameters\":[{\"name\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 179.2\",\"children\":[{\"name\":\"K\303\274hler\\t"
+    "\360\237\224\247 179.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 179.4\",\"childr"
+    "en\":[],\"value\":\"\\udc00back\\\\slash \303\237 179.5\\ud800\"},{\"name\":\"Z\303\274n"
+    "dung \360\237\232\227 179.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 "
+    "179.7\"}],\"value\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 179.8\"},{\""
+    "name\":\"K\303\274hler\\t\360\237\224\247 179.9\",\"children\":[],\"value\":\"say \\\""
+    "\303\251\\\" 179.10\"}],\"value\":\"back\\\\slash \303\237 179.11\"},{\"name\":\"Z\303"
+    "\274ndung \360\237\232\227 179.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342"
+    "\202\254 179.13\"}],\"service\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 "
+    "179.14\",\"data\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"se"
+    "rvice\":\"K\303\274hler\\t\360\237\224\247 179.15\",\"data\":[0,255,127,1],\"value\":184"
+    "46744073709551615}]]",
+    "[\"Pr\303\274fstand \342\202\254 179.1\",[{\"parameters\":[{\"name\":\"\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 179.2\",\"children\":[{\"name\":\"K\303\274hler\\t"
+    "\360\237\224\247 179.3\",\"children\":[{\"name\":\"say \\\"\303\251\\\" 179.4\",\"childr"
+    "en\":[],\"value\":\"back\\\\slash \303\237 179.5\"},{\"name\":\"Z\303\274ndung \360\237"
+    "\232\227 179.6\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 179.7\"}],\"v"
+    "alue\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 179.8\"},{\"name\":\"K"
+    "\303\274hler\\t\360\237\224\247 179.9\",\"children\":[],\"value\":\"say \\\"\303\251\\\""
+    " 179.10\"}],\"value\":\"back\\\\slash \303\237 179.11\"},{\"name\":\"Z\303\274ndung \360"
+    "\237\232\227 179.12\",\"children\":[],\"value\":\"Pr\303\274fstand \342\202\254 179.13\""
+    "}],\"service\":\"\\udc00\346\227\245\346\234\254\350\252\236 \360\235\204\236 179.14\\ud"
+    "800\",\"data\":[0,255,255,128],\"value\":9223372036854775809},{\"parameters\":[],\"servi"
+    "ce\":\"K\303\274hler\\t\360\237\224\247 179.15\",\"data\":[0,255,127,1],\"value\":184467"
+    "44073709551615}]]",
+};
+TEST_F(Services, executeServiceInDefaultSession_TextWithNoUtf8Form) {
+    kc::noUtf8<ExecuteServiceInDefaultSessionExport>(api, kExecuteServiceInDefaultSessionNoUtf8);
+}
+TEST_F(Services, executeServiceInDefaultSessionAsync_TextWithNoUtf8Form) {
+    kc::asyncNoUtf8<ExecuteServiceInDefaultSessionAsyncExport>(
+        api, kExecuteServiceInDefaultSessionNoUtf8);
+}
+
 const kc::Number kNumber213{213, "executeServiceInDefaultSession",
                             kExecuteServiceInDefaultSessionCases};
 
@@ -5423,6 +5734,24 @@ TEST_F(Services, getParameterInfo_Exchange) {
 }
 TEST_F(Services, getParameterInfo_Failure) {
     kc::failure<GetParameterInfoExport>(api, kGetParameterInfoCases);
+}
+
+const char* const kGetParameterInfoNoUtf8[] = {
+    "[{\"text1\":\"\\udc00Pr\303\274fstand \342\202\254 232.1\\ud800\",\"text2\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 232.2\",\"value\":-2147483648,\"text3\":\""
+    "K\303\274hler\\t\360\237\224\247 232.3\",\"text4\":\"say \\\"\303\251\\\" 232.4\"}]",
+    "[{\"text1\":\"Pr\303\274fstand \342\202\254 232.1\",\"text2\":\"\\udc00\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 232.2\\ud800\",\"value\":-2147483648,\"text3\":\"K"
+    "\303\274hler\\t\360\237\224\247 232.3\",\"text4\":\"say \\\"\303\251\\\" 232.4\"}]",
+    "[{\"text1\":\"Pr\303\274fstand \342\202\254 232.1\",\"text2\":\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 232.2\",\"value\":-2147483648,\"text3\":\"\\udc00K\303\274"
+    "hler\\t\360\237\224\247 232.3\\ud800\",\"text4\":\"say \\\"\303\251\\\" 232.4\"}]",
+    "[{\"text1\":\"Pr\303\274fstand \342\202\254 232.1\",\"text2\":\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 232.2\",\"value\":-2147483648,\"text3\":\"K\303\274hler\\t"
+    "\360\237\224\247 232.3\",\"text4\":\"\\udc00say \\\"\303\251\\\" 232.4\\ud800\"}]",
+};
+TEST_F(Services, getParameterInfo_TextWithNoUtf8Form) {
+    kc::noUtf8<GetParameterInfoExport>(api, kGetParameterInfoNoUtf8);
 }
 
 const kc::Number kNumber265{265, "getParameterInfo", kGetParameterInfoCases};

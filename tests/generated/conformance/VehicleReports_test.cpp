@@ -61,6 +61,28 @@ TEST_F(VehicleReports, createVehicleReport_Failure) {
     kc::failure<CreateVehicleReportExport>(api, kCreateVehicleReportCases);
 }
 
+const char* const kCreateVehicleReportNoUtf8[] = {
+    "[{\"name\":\"\\udc00Pr\303\274fstand \342\202\254 111.1\\ud800\",\"title\":\"\346\227"
+    "\245\346\234\254\350\252\236 \360\235\204\236 111.2\",\"comment\":\"K\303\274hler\\t\360"
+    "\237\224\247 111.3\",\"targets\":[\"say \\\"\303\251\\\" 111.4\",\"back\\\\slash \303"
+    "\237 111.5\"],\"identification\":128,\"dtcs\":0}]",
+    "[{\"name\":\"Pr\303\274fstand \342\202\254 111.1\",\"title\":\"\\udc00\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 111.2\\ud800\",\"comment\":\"K\303\274hler\\t\360"
+    "\237\224\247 111.3\",\"targets\":[\"say \\\"\303\251\\\" 111.4\",\"back\\\\slash \303"
+    "\237 111.5\"],\"identification\":128,\"dtcs\":0}]",
+    "[{\"name\":\"Pr\303\274fstand \342\202\254 111.1\",\"title\":\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 111.2\",\"comment\":\"\\udc00K\303\274hler\\t\360\237\224"
+    "\247 111.3\\ud800\",\"targets\":[\"say \\\"\303\251\\\" 111.4\",\"back\\\\slash \303\237"
+    " 111.5\"],\"identification\":128,\"dtcs\":0}]",
+    "[{\"name\":\"Pr\303\274fstand \342\202\254 111.1\",\"title\":\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 111.2\",\"comment\":\"K\303\274hler\\t\360\237\224\247 111"
+    ".3\",\"targets\":[\"\\udc00say \\\"\303\251\\\" 111.4\\ud800\",\"back\\\\slash \303\237 "
+    "111.5\"],\"identification\":128,\"dtcs\":0}]",
+};
+TEST_F(VehicleReports, createVehicleReport_TextWithNoUtf8Form) {
+    kc::noUtf8<CreateVehicleReportExport>(api, kCreateVehicleReportNoUtf8);
+}
+
 const kc::Number kNumber146{146, "createVehicleReport", kCreateVehicleReportCases};
 
 TEST_F(VehicleReportsByNumber, n146_createVehicleReport_KelCall) { kc::kelCall(api, kNumber146); }
@@ -262,6 +284,172 @@ TEST_F(VehicleReports, createVehicleUpdateReport_Failure) {
     kc::failure<CreateVehicleUpdateReportExport>(api, kCreateVehicleUpdateReportCases);
 }
 
+const char* const kCreateVehicleUpdateReportNoUtf8[] = {
+    "[[{\"target\":\"\\udc00Pr\303\274fstand \342\202\254 231.1\\ud800\",\"status\":-21474836"
+    "48,\"package\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\",\"version"
+    "Before\":\"K\303\274hler\\t\360\237\224\247 231.3\",\"versionAfter\":\"say \\\"\303\251"
+    "\\\" 231.4\",\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":2147483"
+    "647,\"duration\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"back\\\\slash "
+    "\303\237 231.5\",\"details\":\"Z\303\274ndung \360\237\232\227 231.6\",\"subCode\":-1,\""
+    "mvciError\":{\"code\":-65536,\"codeText\":\"Pr\303\274fstand \342\202\254 231.7\",\"vend"
+    "orCode\":2037164649,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 231.8\",\"extraText\":\"K\303\274hler\\t\360\237\224\247 231.9\",\"extraCode\":"
+    "-396633117},\"negativeResponse\":{\"code\":903585231,\"text\":\"say \\\"\303\251\\\" 231"
+    ".10\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,25"
+    "5,128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"package"
+    "\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand \342"
+    "\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":9035852"
+    "31,\"duration\":1410537345,\"error\":null}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 231.1\",\"status\":-2147483648,\"package\""
+    ":\"\\udc00\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\\ud800\",\"version"
+    "Before\":\"K\303\274hler\\t\360\237\224\247 231.3\",\"versionAfter\":\"say \\\"\303\251"
+    "\\\" 231.4\",\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":2147483"
+    "647,\"duration\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"back\\\\slash "
+    "\303\237 231.5\",\"details\":\"Z\303\274ndung \360\237\232\227 231.6\",\"subCode\":-1,\""
+    "mvciError\":{\"code\":-65536,\"codeText\":\"Pr\303\274fstand \342\202\254 231.7\",\"vend"
+    "orCode\":2037164649,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 231.8\",\"extraText\":\"K\303\274hler\\t\360\237\224\247 231.9\",\"extraCode\":"
+    "-396633117},\"negativeResponse\":{\"code\":903585231,\"text\":\"say \\\"\303\251\\\" 231"
+    ".10\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,25"
+    "5,128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"package"
+    "\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand \342"
+    "\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":9035852"
+    "31,\"duration\":1410537345,\"error\":null}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 231.1\",\"status\":-2147483648,\"package\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\",\"versionBefore\":\"\\u"
+    "dc00K\303\274hler\\t\360\237\224\247 231.3\\ud800\",\"versionAfter\":\"say \\\"\303\251"
+    "\\\" 231.4\",\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":2147483"
+    "647,\"duration\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"back\\\\slash "
+    "\303\237 231.5\",\"details\":\"Z\303\274ndung \360\237\232\227 231.6\",\"subCode\":-1,\""
+    "mvciError\":{\"code\":-65536,\"codeText\":\"Pr\303\274fstand \342\202\254 231.7\",\"vend"
+    "orCode\":2037164649,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 231.8\",\"extraText\":\"K\303\274hler\\t\360\237\224\247 231.9\",\"extraCode\":"
+    "-396633117},\"negativeResponse\":{\"code\":903585231,\"text\":\"say \\\"\303\251\\\" 231"
+    ".10\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,25"
+    "5,128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"package"
+    "\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand \342"
+    "\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":9035852"
+    "31,\"duration\":1410537345,\"error\":null}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 231.1\",\"status\":-2147483648,\"package\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\",\"versionBefore\":\"K"
+    "\303\274hler\\t\360\237\224\247 231.3\",\"versionAfter\":\"\\udc00say \\\"\303\251\\\" 2"
+    "31.4\\ud800\",\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":214748"
+    "3647,\"duration\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"back\\\\slash "
+    "\303\237 231.5\",\"details\":\"Z\303\274ndung \360\237\232\227 231.6\",\"subCode\":-1,\""
+    "mvciError\":{\"code\":-65536,\"codeText\":\"Pr\303\274fstand \342\202\254 231.7\",\"vend"
+    "orCode\":2037164649,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 231.8\",\"extraText\":\"K\303\274hler\\t\360\237\224\247 231.9\",\"extraCode\":"
+    "-396633117},\"negativeResponse\":{\"code\":903585231,\"text\":\"say \\\"\303\251\\\" 231"
+    ".10\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,25"
+    "5,128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"package"
+    "\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand \342"
+    "\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":9035852"
+    "31,\"duration\":1410537345,\"error\":null}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 231.1\",\"status\":-2147483648,\"package\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\",\"versionBefore\":\"K"
+    "\303\274hler\\t\360\237\224\247 231.3\",\"versionAfter\":\"say \\\"\303\251\\\" 231.4\","
+    "\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":2147483647,\"duratio"
+    "n\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"\\udc00back\\\\slash \303"
+    "\237 231.5\\ud800\",\"details\":\"Z\303\274ndung \360\237\232\227 231.6\",\"subCode\":-1"
+    ",\"mvciError\":{\"code\":-65536,\"codeText\":\"Pr\303\274fstand \342\202\254 231.7\",\"v"
+    "endorCode\":2037164649,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360"
+    "\235\204\236 231.8\",\"extraText\":\"K\303\274hler\\t\360\237\224\247 231.9\",\"extraCod"
+    "e\":-396633117},\"negativeResponse\":{\"code\":903585231,\"text\":\"say \\\"\303\251\\\""
+    " 231.10\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,25"
+    "5,255,128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"pac"
+    "kage\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand "
+    "\342\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":903"
+    "585231,\"duration\":1410537345,\"error\":null}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 231.1\",\"status\":-2147483648,\"package\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\",\"versionBefore\":\"K"
+    "\303\274hler\\t\360\237\224\247 231.3\",\"versionAfter\":\"say \\\"\303\251\\\" 231.4\","
+    "\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":2147483647,\"duratio"
+    "n\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"back\\\\slash \303\237 231.5"
+    "\",\"details\":\"\\udc00Z\303\274ndung \360\237\232\227 231.6\\ud800\",\"subCode\":-1,\""
+    "mvciError\":{\"code\":-65536,\"codeText\":\"Pr\303\274fstand \342\202\254 231.7\",\"vend"
+    "orCode\":2037164649,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 231.8\",\"extraText\":\"K\303\274hler\\t\360\237\224\247 231.9\",\"extraCode\":"
+    "-396633117},\"negativeResponse\":{\"code\":903585231,\"text\":\"say \\\"\303\251\\\" 231"
+    ".10\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,25"
+    "5,128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"package"
+    "\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand \342"
+    "\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":9035852"
+    "31,\"duration\":1410537345,\"error\":null}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 231.1\",\"status\":-2147483648,\"package\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\",\"versionBefore\":\"K"
+    "\303\274hler\\t\360\237\224\247 231.3\",\"versionAfter\":\"say \\\"\303\251\\\" 231.4\","
+    "\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":2147483647,\"duratio"
+    "n\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"back\\\\slash \303\237 231.5"
+    "\",\"details\":\"Z\303\274ndung \360\237\232\227 231.6\",\"subCode\":-1,\"mvciError\":{"
+    "\"code\":-65536,\"codeText\":\"\\udc00Pr\303\274fstand \342\202\254 231.7\\ud800\",\"ven"
+    "dorCode\":2037164649,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360\235"
+    "\204\236 231.8\",\"extraText\":\"K\303\274hler\\t\360\237\224\247 231.9\",\"extraCode\":"
+    "-396633117},\"negativeResponse\":{\"code\":903585231,\"text\":\"say \\\"\303\251\\\" 231"
+    ".10\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,25"
+    "5,128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"package"
+    "\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand \342"
+    "\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":9035852"
+    "31,\"duration\":1410537345,\"error\":null}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 231.1\",\"status\":-2147483648,\"package\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\",\"versionBefore\":\"K"
+    "\303\274hler\\t\360\237\224\247 231.3\",\"versionAfter\":\"say \\\"\303\251\\\" 231.4\","
+    "\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":2147483647,\"duratio"
+    "n\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"back\\\\slash \303\237 231.5"
+    "\",\"details\":\"Z\303\274ndung \360\237\232\227 231.6\",\"subCode\":-1,\"mvciError\":{"
+    "\"code\":-65536,\"codeText\":\"Pr\303\274fstand \342\202\254 231.7\",\"vendorCode\":2037"
+    "164649,\"vendorCodeText\":\"\\udc00\346\227\245\346\234\254\350\252\236 \360\235\204\236"
+    " 231.8\\ud800\",\"extraText\":\"K\303\274hler\\t\360\237\224\247 231.9\",\"extraCode\":-"
+    "396633117},\"negativeResponse\":{\"code\":903585231,\"text\":\"say \\\"\303\251\\\" 231."
+    "10\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,255"
+    ",128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"package"
+    "\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand \342"
+    "\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":9035852"
+    "31,\"duration\":1410537345,\"error\":null}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 231.1\",\"status\":-2147483648,\"package\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\",\"versionBefore\":\"K"
+    "\303\274hler\\t\360\237\224\247 231.3\",\"versionAfter\":\"say \\\"\303\251\\\" 231.4\","
+    "\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":2147483647,\"duratio"
+    "n\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"back\\\\slash \303\237 231.5"
+    "\",\"details\":\"Z\303\274ndung \360\237\232\227 231.6\",\"subCode\":-1,\"mvciError\":{"
+    "\"code\":-65536,\"codeText\":\"Pr\303\274fstand \342\202\254 231.7\",\"vendorCode\":2037"
+    "164649,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.8"
+    "\",\"extraText\":\"\\udc00K\303\274hler\\t\360\237\224\247 231.9\\ud800\",\"extraCode\":"
+    "-396633117},\"negativeResponse\":{\"code\":903585231,\"text\":\"say \\\"\303\251\\\" 231"
+    ".10\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,25"
+    "5,128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"package"
+    "\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand \342"
+    "\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":9035852"
+    "31,\"duration\":1410537345,\"error\":null}]]",
+    "[[{\"target\":\"Pr\303\274fstand \342\202\254 231.1\",\"status\":-2147483648,\"package\""
+    ":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.2\",\"versionBefore\":\"K"
+    "\303\274hler\\t\360\237\224\247 231.3\",\"versionAfter\":\"say \\\"\303\251\\\" 231.4\","
+    "\"position\":4294967295,\"progress\":2147483648,\"overallProgress\":2147483647,\"duratio"
+    "n\":1530212535,\"error\":{\"code\":2147483647,\"message\":\"back\\\\slash \303\237 231.5"
+    "\",\"details\":\"Z\303\274ndung \360\237\232\227 231.6\",\"subCode\":-1,\"mvciError\":{"
+    "\"code\":-65536,\"codeText\":\"Pr\303\274fstand \342\202\254 231.7\",\"vendorCode\":2037"
+    "164649,\"vendorCodeText\":\"\346\227\245\346\234\254\350\252\236 \360\235\204\236 231.8"
+    "\",\"extraText\":\"K\303\274hler\\t\360\237\224\247 231.9\",\"extraCode\":-396633117},\""
+    "negativeResponse\":{\"code\":903585231,\"text\":\"\\udc00say \\\"\303\251\\\" 231.10\\ud"
+    "800\",\"value1\":9223372036854775809,\"value2\":18446744073709551615,\"bytes\":[0,255,25"
+    "5,128]}}},{\"target\":\"back\\\\slash \303\237 231.11\",\"status\":-1410537345,\"package"
+    "\":\"Z\303\274ndung \360\237\232\227 231.12\",\"versionBefore\":\"Pr\303\274fstand \342"
+    "\202\254 231.13\",\"versionAfter\":\"\346\227\245\346\234\254\350\252\236 \360\235\204"
+    "\236 231.14\",\"position\":2037164649,\"progress\":396633117,\"overallProgress\":9035852"
+    "31,\"duration\":1410537345,\"error\":null}]]",
+};
+TEST_F(VehicleReports, createVehicleUpdateReport_TextWithNoUtf8Form) {
+    kc::noUtf8<CreateVehicleUpdateReportExport>(api, kCreateVehicleUpdateReportNoUtf8);
+}
+
 const kc::Number kNumber264{264, "createVehicleUpdateReport", kCreateVehicleUpdateReportCases};
 
 TEST_F(VehicleReportsByNumber, n264_createVehicleUpdateReport_KelCall) {
@@ -385,6 +573,28 @@ TEST_F(VehicleReports, setSelectedVehicleInformation_Exchange) {
 }
 TEST_F(VehicleReports, setSelectedVehicleInformation_Failure) {
     kc::failure<SetSelectedVehicleInformationExport>(api, kSetSelectedVehicleInformationCases);
+}
+
+const char* const kSetSelectedVehicleInformationNoUtf8[] = {
+    "[{\"vin\":\"\\udc00Pr\303\274fstand \342\202\254 250.1\\ud800\",\"model\":\"\346\227\245"
+    "\346\234\254\350\252\236 \360\235\204\236 250.2\",\"modelYear\":4294967295,\"mileage\":2"
+    "147483648,\"licensePlate\":\"K\303\274hler\\t\360\237\224\247 250.3\",\"equipment\":[\"s"
+    "ay \\\"\303\251\\\" 250.4\",\"back\\\\slash \303\237 250.5\"]}]",
+    "[{\"vin\":\"Pr\303\274fstand \342\202\254 250.1\",\"model\":\"\\udc00\346\227\245\346"
+    "\234\254\350\252\236 \360\235\204\236 250.2\\ud800\",\"modelYear\":4294967295,\"mileage"
+    "\":2147483648,\"licensePlate\":\"K\303\274hler\\t\360\237\224\247 250.3\",\"equipment\":"
+    "[\"say \\\"\303\251\\\" 250.4\",\"back\\\\slash \303\237 250.5\"]}]",
+    "[{\"vin\":\"Pr\303\274fstand \342\202\254 250.1\",\"model\":\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 250.2\",\"modelYear\":4294967295,\"mileage\":2147483648,\""
+    "licensePlate\":\"\\udc00K\303\274hler\\t\360\237\224\247 250.3\\ud800\",\"equipment\":["
+    "\"say \\\"\303\251\\\" 250.4\",\"back\\\\slash \303\237 250.5\"]}]",
+    "[{\"vin\":\"Pr\303\274fstand \342\202\254 250.1\",\"model\":\"\346\227\245\346\234\254"
+    "\350\252\236 \360\235\204\236 250.2\",\"modelYear\":4294967295,\"mileage\":2147483648,\""
+    "licensePlate\":\"K\303\274hler\\t\360\237\224\247 250.3\",\"equipment\":[\"\\udc00say \\"
+    "\"\303\251\\\" 250.4\\ud800\",\"back\\\\slash \303\237 250.5\"]}]",
+};
+TEST_F(VehicleReports, setSelectedVehicleInformation_TextWithNoUtf8Form) {
+    kc::noUtf8<SetSelectedVehicleInformationExport>(api, kSetSelectedVehicleInformationNoUtf8);
 }
 
 const kc::Number kNumber57{57, "setSelectedVehicleInformation",
