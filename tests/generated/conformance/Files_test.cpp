@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Files = kc::ConformanceTest;
 using FilesByNumber = kc::ConformanceTest;
+using FilesAdmission = kc::AdmissionTest;
 
 // ---- readFile (position 60, number 77) ----
 
@@ -46,6 +47,9 @@ struct ReadFileExport {
 
 TEST_F(Files, readFile_Exchange) { kc::exchange<ReadFileExport>(api, kReadFileCases); }
 TEST_F(Files, readFile_Failure) { kc::failure<ReadFileExport>(api, kReadFileCases); }
+TEST_F(FilesAdmission, readFile) {
+    kc::admission<ReadFileExport>(callers(), kReadFileCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber77{77, "readFile", kReadFileCases};
 
@@ -331,6 +335,10 @@ TEST_F(Files, getProjectDirectory_Exchange) {
 }
 TEST_F(Files, getProjectDirectory_Failure) {
     kc::failure<GetProjectDirectoryExport>(api, kGetProjectDirectoryCases);
+}
+TEST_F(FilesAdmission, getProjectDirectory) {
+    kc::admission<GetProjectDirectoryExport>(callers(), kGetProjectDirectoryCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber129{129, "getProjectDirectory", kGetProjectDirectoryCases};
@@ -618,6 +626,10 @@ TEST_F(Files, getSelectedProjectDirectory_Exchange) {
 TEST_F(Files, getSelectedProjectDirectory_Failure) {
     kc::failure<GetSelectedProjectDirectoryExport>(api, kGetSelectedProjectDirectoryCases);
 }
+TEST_F(FilesAdmission, getSelectedProjectDirectory) {
+    kc::admission<GetSelectedProjectDirectoryExport>(callers(), kGetSelectedProjectDirectoryCases,
+                                                     kc::Needs::Operator);
+}
 
 const kc::Number kNumber130{130, "getSelectedProjectDirectory", kGetSelectedProjectDirectoryCases};
 
@@ -659,6 +671,9 @@ struct WriteFileExport {
 
 TEST_F(Files, writeFile_Exchange) { kc::exchange<WriteFileExport>(api, kWriteFileCases); }
 TEST_F(Files, writeFile_Failure) { kc::failure<WriteFileExport>(api, kWriteFileCases); }
+TEST_F(FilesAdmission, writeFile) {
+    kc::admission<WriteFileExport>(callers(), kWriteFileCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber135{135, "writeFile", kWriteFileCases};
 
@@ -800,6 +815,9 @@ struct DeleteFilesExport {
 
 TEST_F(Files, deleteFiles_Exchange) { kc::exchange<DeleteFilesExport>(api, kDeleteFilesCases); }
 TEST_F(Files, deleteFiles_Failure) { kc::failure<DeleteFilesExport>(api, kDeleteFilesCases); }
+TEST_F(FilesAdmission, deleteFiles) {
+    kc::admission<DeleteFilesExport>(callers(), kDeleteFilesCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber137{137, "deleteFiles", kDeleteFilesCases};
 
@@ -1242,6 +1260,9 @@ TEST_F(Files, findDirectories_Exchange) {
 TEST_F(Files, findDirectories_Failure) {
     kc::failure<FindDirectoriesExport>(api, kFindDirectoriesCases);
 }
+TEST_F(FilesAdmission, findDirectories) {
+    kc::admission<FindDirectoriesExport>(callers(), kFindDirectoriesCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber139{139, "findDirectories", kFindDirectoriesCases};
 
@@ -1342,6 +1363,9 @@ struct FindFilesExport {
 
 TEST_F(Files, findFiles_Exchange) { kc::exchange<FindFilesExport>(api, kFindFilesCases); }
 TEST_F(Files, findFiles_Failure) { kc::failure<FindFilesExport>(api, kFindFilesCases); }
+TEST_F(FilesAdmission, findFiles) {
+    kc::admission<FindFilesExport>(callers(), kFindFilesCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber140{140, "findFiles", kFindFilesCases};
 
@@ -1773,6 +1797,10 @@ TEST_F(Files, initializeDirectoryElements_Exchange) {
 TEST_F(Files, initializeDirectoryElements_Failure) {
     kc::failure<InitializeDirectoryElementsExport>(api, kInitializeDirectoryElementsCases);
 }
+TEST_F(FilesAdmission, initializeDirectoryElements) {
+    kc::admission<InitializeDirectoryElementsExport>(callers(), kInitializeDirectoryElementsCases,
+                                                     kc::Needs::Operator);
+}
 
 const kc::Number kNumber141{141, "initializeDirectoryElements", kInitializeDirectoryElementsCases};
 
@@ -1998,6 +2026,9 @@ struct CreateFileExport {
 
 TEST_F(Files, createFile_Exchange) { kc::exchange<CreateFileExport>(api, kCreateFileCases); }
 TEST_F(Files, createFile_Failure) { kc::failure<CreateFileExport>(api, kCreateFileCases); }
+TEST_F(FilesAdmission, createFile) {
+    kc::admission<CreateFileExport>(callers(), kCreateFileCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber132{132, "createFile", kCreateFileCases};
 
@@ -2429,6 +2460,9 @@ TEST_F(Files, createDirectory_Exchange) {
 TEST_F(Files, createDirectory_Failure) {
     kc::failure<CreateDirectoryExport>(api, kCreateDirectoryCases);
 }
+TEST_F(FilesAdmission, createDirectory) {
+    kc::admission<CreateDirectoryExport>(callers(), kCreateDirectoryCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber133{133, "createDirectory", kCreateDirectoryCases};
 
@@ -2504,6 +2538,9 @@ TEST_F(Files, deleteDirectory_Exchange) {
 }
 TEST_F(Files, deleteDirectory_Failure) {
     kc::failure<DeleteDirectoryExport>(api, kDeleteDirectoryCases);
+}
+TEST_F(FilesAdmission, deleteDirectory) {
+    kc::admission<DeleteDirectoryExport>(callers(), kDeleteDirectoryCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber134{134, "deleteDirectory", kDeleteDirectoryCases};
@@ -2791,6 +2828,9 @@ TEST_F(Files, getTraceDirectory_Exchange) {
 TEST_F(Files, getTraceDirectory_Failure) {
     kc::failure<GetTraceDirectoryExport>(api, kGetTraceDirectoryCases);
 }
+TEST_F(FilesAdmission, getTraceDirectory) {
+    kc::admission<GetTraceDirectoryExport>(callers(), kGetTraceDirectoryCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber136{136, "getTraceDirectory", kGetTraceDirectoryCases};
 
@@ -2917,6 +2957,9 @@ struct CopyFilesExport {
 
 TEST_F(Files, copyFiles_Exchange) { kc::exchange<CopyFilesExport>(api, kCopyFilesCases); }
 TEST_F(Files, copyFiles_Failure) { kc::failure<CopyFilesExport>(api, kCopyFilesCases); }
+TEST_F(FilesAdmission, copyFiles) {
+    kc::admission<CopyFilesExport>(callers(), kCopyFilesCases, kc::Needs::Operator);
+}
 
 struct CopyFilesAsyncExport {
     static constexpr const char* operation = "copyFilesAsync";
@@ -2932,6 +2975,9 @@ TEST_F(Files, copyFilesAsync_Exchange) {
 }
 TEST_F(Files, copyFilesAsync_Failure) {
     kc::asyncFailure<CopyFilesAsyncExport>(api, kCopyFilesCases);
+}
+TEST_F(FilesAdmission, copyFilesAsync) {
+    kc::asyncAdmission<CopyFilesAsyncExport>(callers(), kCopyFilesCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber165{165, "copyFiles", kCopyFilesCases};
@@ -3093,6 +3139,9 @@ TEST_F(Files, copyDirectories_Exchange) {
 TEST_F(Files, copyDirectories_Failure) {
     kc::failure<CopyDirectoriesExport>(api, kCopyDirectoriesCases);
 }
+TEST_F(FilesAdmission, copyDirectories) {
+    kc::admission<CopyDirectoriesExport>(callers(), kCopyDirectoriesCases, kc::Needs::Operator);
+}
 
 struct CopyDirectoriesAsyncExport {
     static constexpr const char* operation = "copyDirectoriesAsync";
@@ -3108,6 +3157,10 @@ TEST_F(Files, copyDirectoriesAsync_Exchange) {
 }
 TEST_F(Files, copyDirectoriesAsync_Failure) {
     kc::asyncFailure<CopyDirectoriesAsyncExport>(api, kCopyDirectoriesCases);
+}
+TEST_F(FilesAdmission, copyDirectoriesAsync) {
+    kc::asyncAdmission<CopyDirectoriesAsyncExport>(callers(), kCopyDirectoriesCases,
+                                                   kc::Needs::Operator);
 }
 
 const kc::Number kNumber166{166, "copyDirectories", kCopyDirectoriesCases};
@@ -3151,6 +3204,9 @@ struct RenameFileExport {
 
 TEST_F(Files, renameFile_Exchange) { kc::exchange<RenameFileExport>(api, kRenameFileCases); }
 TEST_F(Files, renameFile_Failure) { kc::failure<RenameFileExport>(api, kRenameFileCases); }
+TEST_F(FilesAdmission, renameFile) {
+    kc::admission<RenameFileExport>(callers(), kRenameFileCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber186{186, "renameFile", kRenameFileCases};
 
@@ -3437,6 +3493,10 @@ TEST_F(Files, getConfigDirectory_Exchange) {
 TEST_F(Files, getConfigDirectory_Failure) {
     kc::failure<GetConfigDirectoryExport>(api, kGetConfigDirectoryCases);
 }
+TEST_F(FilesAdmission, getConfigDirectory) {
+    kc::admission<GetConfigDirectoryExport>(callers(), kGetConfigDirectoryCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber131{131, "getConfigDirectory", kGetConfigDirectoryCases};
 
@@ -3562,6 +3622,10 @@ TEST_F(Files, copyProjectWithFilters_Exchange) {
 TEST_F(Files, copyProjectWithFilters_Failure) {
     kc::failure<CopyProjectWithFiltersExport>(api, kCopyProjectWithFiltersCases);
 }
+TEST_F(FilesAdmission, copyProjectWithFilters) {
+    kc::admission<CopyProjectWithFiltersExport>(callers(), kCopyProjectWithFiltersCases,
+                                                kc::Needs::Operator);
+}
 
 const kc::Number kNumber201{201, "copyProjectWithFilters", kCopyProjectWithFiltersCases};
 
@@ -3624,6 +3688,9 @@ struct FilterFilesExport {
 
 TEST_F(Files, filterFiles_Exchange) { kc::exchange<FilterFilesExport>(api, kFilterFilesCases); }
 TEST_F(Files, filterFiles_Failure) { kc::failure<FilterFilesExport>(api, kFilterFilesCases); }
+TEST_F(FilesAdmission, filterFiles) {
+    kc::admission<FilterFilesExport>(callers(), kFilterFilesCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber204{204, "filterFiles", kFilterFilesCases};
 
@@ -3922,6 +3989,10 @@ TEST_F(Files, getPublicDirectories_Exchange) {
 TEST_F(Files, getPublicDirectories_Failure) {
     kc::failure<GetPublicDirectoriesExport>(api, kGetPublicDirectoriesCases);
 }
+TEST_F(FilesAdmission, getPublicDirectories) {
+    kc::admission<GetPublicDirectoriesExport>(callers(), kGetPublicDirectoriesCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber210{210, "getPublicDirectories", kGetPublicDirectoriesCases};
 
@@ -3962,6 +4033,9 @@ struct MoveFileExport {
 
 TEST_F(Files, moveFile_Exchange) { kc::exchange<MoveFileExport>(api, kMoveFileCases); }
 TEST_F(Files, moveFile_Failure) { kc::failure<MoveFileExport>(api, kMoveFileCases); }
+TEST_F(FilesAdmission, moveFile) {
+    kc::admission<MoveFileExport>(callers(), kMoveFileCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber209{209, "moveFile", kMoveFileCases};
 
@@ -4005,6 +4079,9 @@ TEST_F(Files, moveDirectory_Exchange) {
     kc::exchange<MoveDirectoryExport>(api, kMoveDirectoryCases);
 }
 TEST_F(Files, moveDirectory_Failure) { kc::failure<MoveDirectoryExport>(api, kMoveDirectoryCases); }
+TEST_F(FilesAdmission, moveDirectory) {
+    kc::admission<MoveDirectoryExport>(callers(), kMoveDirectoryCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber219{219, "moveDirectory", kMoveDirectoryCases};
 
@@ -4036,6 +4113,9 @@ struct PathExistsExport {
 
 TEST_F(Files, pathExists_Exchange) { kc::exchange<PathExistsExport>(api, kPathExistsCases); }
 TEST_F(Files, pathExists_Failure) { kc::failure<PathExistsExport>(api, kPathExistsCases); }
+TEST_F(FilesAdmission, pathExists) {
+    kc::admission<PathExistsExport>(callers(), kPathExistsCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber220{220, "pathExists", kPathExistsCases};
 
@@ -4071,6 +4151,9 @@ struct ResolvePathExport {
 
 TEST_F(Files, resolvePath_Exchange) { kc::exchange<ResolvePathExport>(api, kResolvePathCases); }
 TEST_F(Files, resolvePath_Failure) { kc::failure<ResolvePathExport>(api, kResolvePathCases); }
+TEST_F(FilesAdmission, resolvePath) {
+    kc::admission<ResolvePathExport>(callers(), kResolvePathCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber225{225, "resolvePath", kResolvePathCases};
 
@@ -4158,6 +4241,9 @@ TEST_F(Files, getFileReferences_Exchange) {
 TEST_F(Files, getFileReferences_Failure) {
     kc::failure<GetFileReferencesExport>(api, kGetFileReferencesCases);
 }
+TEST_F(FilesAdmission, getFileReferences) {
+    kc::admission<GetFileReferencesExport>(callers(), kGetFileReferencesCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber224{224, "getFileReferences", kGetFileReferencesCases};
 
@@ -4189,6 +4275,9 @@ struct IsDirectoryExport {
 
 TEST_F(Files, isDirectory_Exchange) { kc::exchange<IsDirectoryExport>(api, kIsDirectoryCases); }
 TEST_F(Files, isDirectory_Failure) { kc::failure<IsDirectoryExport>(api, kIsDirectoryCases); }
+TEST_F(FilesAdmission, isDirectory) {
+    kc::admission<IsDirectoryExport>(callers(), kIsDirectoryCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber231{231, "isDirectory", kIsDirectoryCases};
 
@@ -4481,6 +4570,9 @@ TEST_F(Files, getDirectoryInfo_Exchange) {
 TEST_F(Files, getDirectoryInfo_Failure) {
     kc::failure<GetDirectoryInfoExport>(api, kGetDirectoryInfoCases);
 }
+TEST_F(FilesAdmission, getDirectoryInfo) {
+    kc::admission<GetDirectoryInfoExport>(callers(), kGetDirectoryInfoCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber232{232, "getDirectoryInfo", kGetDirectoryInfoCases};
 
@@ -4562,6 +4654,9 @@ struct GetFileInfoExport {
 
 TEST_F(Files, getFileInfo_Exchange) { kc::exchange<GetFileInfoExport>(api, kGetFileInfoCases); }
 TEST_F(Files, getFileInfo_Failure) { kc::failure<GetFileInfoExport>(api, kGetFileInfoCases); }
+TEST_F(FilesAdmission, getFileInfo) {
+    kc::admission<GetFileInfoExport>(callers(), kGetFileInfoCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber233{233, "getFileInfo", kGetFileInfoCases};
 
@@ -4593,6 +4688,9 @@ struct IsFileExport {
 
 TEST_F(Files, isFile_Exchange) { kc::exchange<IsFileExport>(api, kIsFileCases); }
 TEST_F(Files, isFile_Failure) { kc::failure<IsFileExport>(api, kIsFileCases); }
+TEST_F(FilesAdmission, isFile) {
+    kc::admission<IsFileExport>(callers(), kIsFileCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber234{234, "isFile", kIsFileCases};
 
@@ -4678,6 +4776,9 @@ struct CopyPathExport {
 
 TEST_F(Files, copyPath_Exchange) { kc::exchange<CopyPathExport>(api, kCopyPathCases); }
 TEST_F(Files, copyPath_Failure) { kc::failure<CopyPathExport>(api, kCopyPathCases); }
+TEST_F(FilesAdmission, copyPath) {
+    kc::admission<CopyPathExport>(callers(), kCopyPathCases, kc::Needs::Operator);
+}
 
 struct CopyPathAsyncExport {
     static constexpr const char* operation = "copyPathAsync";
@@ -4692,6 +4793,9 @@ TEST_F(Files, copyPathAsync_Exchange) {
     kc::asyncExchange<CopyPathAsyncExport>(api, kCopyPathCases);
 }
 TEST_F(Files, copyPathAsync_Failure) { kc::asyncFailure<CopyPathAsyncExport>(api, kCopyPathCases); }
+TEST_F(FilesAdmission, copyPathAsync) {
+    kc::asyncAdmission<CopyPathAsyncExport>(callers(), kCopyPathCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber238{238, "copyPath", kCopyPathCases};
 
@@ -4737,6 +4841,10 @@ TEST_F(Files, addPublicDirectory_Exchange) {
 }
 TEST_F(Files, addPublicDirectory_Failure) {
     kc::failure<AddPublicDirectoryExport>(api, kAddPublicDirectoryCases);
+}
+TEST_F(FilesAdmission, addPublicDirectory) {
+    kc::admission<AddPublicDirectoryExport>(callers(), kAddPublicDirectoryCases,
+                                            kc::Needs::Administrator);
 }
 
 const kc::Number kNumber261{261, "addPublicDirectory", kAddPublicDirectoryCases};

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Flash = kc::ConformanceTest;
 using FlashByNumber = kc::ConformanceTest;
+using FlashAdmission = kc::AdmissionTest;
 
 // ---- getFlashSessionInfos (position 30, number 113) ----
 
@@ -68,6 +69,10 @@ TEST_F(Flash, getFlashSessionInfos_Exchange) {
 }
 TEST_F(Flash, getFlashSessionInfos_Failure) {
     kc::failure<GetFlashSessionInfosExport>(api, kGetFlashSessionInfosCases);
+}
+TEST_F(FlashAdmission, getFlashSessionInfos) {
+    kc::admission<GetFlashSessionInfosExport>(callers(), kGetFlashSessionInfosCases,
+                                              kc::Needs::Operator);
 }
 
 const kc::Number kNumber113{113, "getFlashSessionInfos", kGetFlashSessionInfosCases};
@@ -180,6 +185,10 @@ TEST_F(Flash, executeFlashSessions_Exchange) {
 TEST_F(Flash, executeFlashSessions_Failure) {
     kc::failure<ExecuteFlashSessionsExport>(api, kExecuteFlashSessionsCases);
 }
+TEST_F(FlashAdmission, executeFlashSessions) {
+    kc::admission<ExecuteFlashSessionsExport>(callers(), kExecuteFlashSessionsCases,
+                                              kc::Needs::Operator);
+}
 
 struct ExecuteFlashSessionsAsyncExport {
     static constexpr const char* operation = "executeFlashSessionsAsync";
@@ -197,6 +206,10 @@ TEST_F(Flash, executeFlashSessionsAsync_Exchange) {
 }
 TEST_F(Flash, executeFlashSessionsAsync_Failure) {
     kc::asyncFailure<ExecuteFlashSessionsAsyncExport>(api, kExecuteFlashSessionsCases);
+}
+TEST_F(FlashAdmission, executeFlashSessionsAsync) {
+    kc::asyncAdmission<ExecuteFlashSessionsAsyncExport>(callers(), kExecuteFlashSessionsCases,
+                                                        kc::Needs::Operator);
 }
 
 const kc::Number kNumber117{117, "executeFlashSessions", kExecuteFlashSessionsCases};
@@ -313,6 +326,10 @@ TEST_F(Flash, executeFlashSessionsConfig_Exchange) {
 TEST_F(Flash, executeFlashSessionsConfig_Failure) {
     kc::failure<ExecuteFlashSessionsConfigExport>(api, kExecuteFlashSessionsConfigCases);
 }
+TEST_F(FlashAdmission, executeFlashSessionsConfig) {
+    kc::admission<ExecuteFlashSessionsConfigExport>(callers(), kExecuteFlashSessionsConfigCases,
+                                                    kc::Needs::Operator);
+}
 
 struct ExecuteFlashSessionsConfigAsyncExport {
     static constexpr const char* operation = "executeFlashSessionsConfigAsync";
@@ -328,6 +345,10 @@ TEST_F(Flash, executeFlashSessionsConfigAsync_Exchange) {
 }
 TEST_F(Flash, executeFlashSessionsConfigAsync_Failure) {
     kc::asyncFailure<ExecuteFlashSessionsConfigAsyncExport>(api, kExecuteFlashSessionsConfigCases);
+}
+TEST_F(FlashAdmission, executeFlashSessionsConfigAsync) {
+    kc::asyncAdmission<ExecuteFlashSessionsConfigAsyncExport>(
+        callers(), kExecuteFlashSessionsConfigCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber195{195, "executeFlashSessionsConfig", kExecuteFlashSessionsConfigCases};

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Interfaces = kc::ConformanceTest;
 using InterfacesByNumber = kc::ConformanceTest;
+using InterfacesAdmission = kc::AdmissionTest;
 
 // ---- saveInterfaceConfiguration (position 53, number 70) ----
 
@@ -32,6 +33,10 @@ TEST_F(Interfaces, saveInterfaceConfiguration_Exchange) {
 }
 TEST_F(Interfaces, saveInterfaceConfiguration_Failure) {
     kc::failure<SaveInterfaceConfigurationExport>(api, kSaveInterfaceConfigurationCases);
+}
+TEST_F(InterfacesAdmission, saveInterfaceConfiguration) {
+    kc::admission<SaveInterfaceConfigurationExport>(callers(), kSaveInterfaceConfigurationCases,
+                                                    kc::Needs::Administrator);
 }
 
 const kc::Number kNumber70{70, "saveInterfaceConfiguration", kSaveInterfaceConfigurationCases};
@@ -178,6 +183,10 @@ TEST_F(Interfaces, scanInterfaceConnection_Exchange) {
 TEST_F(Interfaces, scanInterfaceConnection_Failure) {
     kc::failure<ScanInterfaceConnectionExport>(api, kScanInterfaceConnectionCases);
 }
+TEST_F(InterfacesAdmission, scanInterfaceConnection) {
+    kc::admission<ScanInterfaceConnectionExport>(callers(), kScanInterfaceConnectionCases,
+                                                 kc::Needs::Operator);
+}
 
 struct ScanInterfaceConnectionAsyncExport {
     static constexpr const char* operation = "scanInterfaceConnectionAsync";
@@ -194,6 +203,10 @@ TEST_F(Interfaces, scanInterfaceConnectionAsync_Exchange) {
 }
 TEST_F(Interfaces, scanInterfaceConnectionAsync_Failure) {
     kc::asyncFailure<ScanInterfaceConnectionAsyncExport>(api, kScanInterfaceConnectionCases);
+}
+TEST_F(InterfacesAdmission, scanInterfaceConnectionAsync) {
+    kc::asyncAdmission<ScanInterfaceConnectionAsyncExport>(callers(), kScanInterfaceConnectionCases,
+                                                           kc::Needs::Operator);
 }
 
 const kc::Number kNumber71{71, "scanInterfaceConnection", kScanInterfaceConnectionCases};
@@ -236,6 +249,10 @@ TEST_F(Interfaces, getInterfaceLongName_Exchange) {
 TEST_F(Interfaces, getInterfaceLongName_Failure) {
     kc::failure<GetInterfaceLongNameExport>(api, kGetInterfaceLongNameCases);
 }
+TEST_F(InterfacesAdmission, getInterfaceLongName) {
+    kc::admission<GetInterfaceLongNameExport>(callers(), kGetInterfaceLongNameCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber73{73, "getInterfaceLongName", kGetInterfaceLongNameCases};
 
@@ -266,6 +283,9 @@ TEST_F(Interfaces, connectInterfaces_Exchange) {
 TEST_F(Interfaces, connectInterfaces_Failure) {
     kc::failure<ConnectInterfacesExport>(api, kConnectInterfacesCases);
 }
+TEST_F(InterfacesAdmission, connectInterfaces) {
+    kc::admission<ConnectInterfacesExport>(callers(), kConnectInterfacesCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber80{80, "connectInterfaces", kConnectInterfacesCases};
 
@@ -294,6 +314,10 @@ TEST_F(Interfaces, disconnectInterfaces_Exchange) {
 }
 TEST_F(Interfaces, disconnectInterfaces_Failure) {
     kc::failure<DisconnectInterfacesExport>(api, kDisconnectInterfacesCases);
+}
+TEST_F(InterfacesAdmission, disconnectInterfaces) {
+    kc::admission<DisconnectInterfacesExport>(callers(), kDisconnectInterfacesCases,
+                                              kc::Needs::Operator);
 }
 
 const kc::Number kNumber81{81, "disconnectInterfaces", kDisconnectInterfacesCases};
@@ -324,6 +348,10 @@ TEST_F(Interfaces, executeDoIPBroadcast_Exchange) {
 TEST_F(Interfaces, executeDoIPBroadcast_Failure) {
     kc::failure<ExecuteDoIPBroadcastExport>(api, kExecuteDoIPBroadcastCases);
 }
+TEST_F(InterfacesAdmission, executeDoIPBroadcast) {
+    kc::admission<ExecuteDoIPBroadcastExport>(callers(), kExecuteDoIPBroadcastCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber82{82, "executeDoIPBroadcast", kExecuteDoIPBroadcastCases};
 
@@ -352,6 +380,10 @@ TEST_F(Interfaces, releaseSocketBridge_Exchange) {
 }
 TEST_F(Interfaces, releaseSocketBridge_Failure) {
     kc::failure<ReleaseSocketBridgeExport>(api, kReleaseSocketBridgeCases);
+}
+TEST_F(InterfacesAdmission, releaseSocketBridge) {
+    kc::admission<ReleaseSocketBridgeExport>(callers(), kReleaseSocketBridgeCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber93{93, "releaseSocketBridge", kReleaseSocketBridgeCases};
@@ -384,6 +416,10 @@ TEST_F(Interfaces, createSocketBridge_Exchange) {
 TEST_F(Interfaces, createSocketBridge_Failure) {
     kc::failure<CreateSocketBridgeExport>(api, kCreateSocketBridgeCases);
 }
+TEST_F(InterfacesAdmission, createSocketBridge) {
+    kc::admission<CreateSocketBridgeExport>(callers(), kCreateSocketBridgeCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber92{92, "createSocketBridge", kCreateSocketBridgeCases};
 
@@ -413,6 +449,9 @@ TEST_F(Interfaces, clearLinkCache_Exchange) {
 }
 TEST_F(Interfaces, clearLinkCache_Failure) {
     kc::failure<ClearLinkCacheExport>(api, kClearLinkCacheCases);
+}
+TEST_F(InterfacesAdmission, clearLinkCache) {
+    kc::admission<ClearLinkCacheExport>(callers(), kClearLinkCacheCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber107{107, "clearLinkCache", kClearLinkCacheCases};
@@ -471,6 +510,9 @@ TEST_F(Interfaces, addResource_Exchange) {
     kc::exchange<AddResourceExport>(api, kAddResourceCases);
 }
 TEST_F(Interfaces, addResource_Failure) { kc::failure<AddResourceExport>(api, kAddResourceCases); }
+TEST_F(InterfacesAdmission, addResource) {
+    kc::admission<AddResourceExport>(callers(), kAddResourceCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber109{109, "addResource", kAddResourceCases};
 
@@ -505,6 +547,10 @@ TEST_F(Interfaces, removeInterface_Exchange) {
 }
 TEST_F(Interfaces, removeInterface_Failure) {
     kc::failure<RemoveInterfaceExport>(api, kRemoveInterfaceCases);
+}
+TEST_F(InterfacesAdmission, removeInterface) {
+    kc::admission<RemoveInterfaceExport>(callers(), kRemoveInterfaceCases,
+                                         kc::Needs::Administrator);
 }
 
 const kc::Number kNumber110{110, "removeInterface", kRemoveInterfaceCases};
@@ -732,6 +778,9 @@ TEST_F(Interfaces, addInterface_Exchange) {
 TEST_F(Interfaces, addInterface_Failure) {
     kc::failure<AddInterfaceExport>(api, kAddInterfaceCases);
 }
+TEST_F(InterfacesAdmission, addInterface) {
+    kc::admission<AddInterfaceExport>(callers(), kAddInterfaceCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber108{108, "addInterface", kAddInterfaceCases};
 
@@ -777,6 +826,9 @@ TEST_F(Interfaces, removeResource_Exchange) {
 }
 TEST_F(Interfaces, removeResource_Failure) {
     kc::failure<RemoveResourceExport>(api, kRemoveResourceCases);
+}
+TEST_F(InterfacesAdmission, removeResource) {
+    kc::admission<RemoveResourceExport>(callers(), kRemoveResourceCases, kc::Needs::Administrator);
 }
 
 const kc::Number kNumber112{112, "removeResource", kRemoveResourceCases};
@@ -926,6 +978,10 @@ TEST_F(Interfaces, getVendorModuleNames_Exchange) {
 TEST_F(Interfaces, getVendorModuleNames_Failure) {
     kc::failure<GetVendorModuleNamesExport>(api, kGetVendorModuleNamesCases);
 }
+TEST_F(InterfacesAdmission, getVendorModuleNames) {
+    kc::admission<GetVendorModuleNamesExport>(callers(), kGetVendorModuleNamesCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber120{120, "getVendorModuleNames", kGetVendorModuleNamesCases};
 
@@ -982,6 +1038,10 @@ TEST_F(Interfaces, getVendorModuleNamesEx_Exchange) {
 }
 TEST_F(Interfaces, getVendorModuleNamesEx_Failure) {
     kc::failure<GetVendorModuleNamesExExport>(api, kGetVendorModuleNamesExCases);
+}
+TEST_F(InterfacesAdmission, getVendorModuleNamesEx) {
+    kc::admission<GetVendorModuleNamesExExport>(callers(), kGetVendorModuleNamesExCases,
+                                                kc::Needs::Operator);
 }
 
 const kc::Number kNumber121{121, "getVendorModuleNamesEx", kGetVendorModuleNamesExCases};
@@ -1131,6 +1191,10 @@ TEST_F(Interfaces, detectDynInterfaces_Exchange) {
 TEST_F(Interfaces, detectDynInterfaces_Failure) {
     kc::failure<DetectDynInterfacesExport>(api, kDetectDynInterfacesCases);
 }
+TEST_F(InterfacesAdmission, detectDynInterfaces) {
+    kc::admission<DetectDynInterfacesExport>(callers(), kDetectDynInterfacesCases,
+                                             kc::Needs::Operator);
+}
 
 struct DetectDynInterfacesAsyncExport {
     static constexpr const char* operation = "detectDynInterfacesAsync";
@@ -1147,6 +1211,10 @@ TEST_F(Interfaces, detectDynInterfacesAsync_Exchange) {
 }
 TEST_F(Interfaces, detectDynInterfacesAsync_Failure) {
     kc::asyncFailure<DetectDynInterfacesAsyncExport>(api, kDetectDynInterfacesCases);
+}
+TEST_F(InterfacesAdmission, detectDynInterfacesAsync) {
+    kc::asyncAdmission<DetectDynInterfacesAsyncExport>(callers(), kDetectDynInterfacesCases,
+                                                       kc::Needs::Operator);
 }
 
 const kc::Number kNumber123{123, "detectDynInterfaces", kDetectDynInterfacesCases};
@@ -1201,6 +1269,10 @@ TEST_F(Interfaces, connectDynInterface_Exchange) {
 TEST_F(Interfaces, connectDynInterface_Failure) {
     kc::failure<ConnectDynInterfaceExport>(api, kConnectDynInterfaceCases);
 }
+TEST_F(InterfacesAdmission, connectDynInterface) {
+    kc::admission<ConnectDynInterfaceExport>(callers(), kConnectDynInterfaceCases,
+                                             kc::Needs::Operator);
+}
 
 const kc::Number kNumber125{125, "connectDynInterface", kConnectDynInterfaceCases};
 
@@ -1246,6 +1318,10 @@ TEST_F(Interfaces, disconnectDynInterfaces_Exchange) {
 }
 TEST_F(Interfaces, disconnectDynInterfaces_Failure) {
     kc::failure<DisconnectDynInterfacesExport>(api, kDisconnectDynInterfacesCases);
+}
+TEST_F(InterfacesAdmission, disconnectDynInterfaces) {
+    kc::admission<DisconnectDynInterfacesExport>(callers(), kDisconnectDynInterfacesCases,
+                                                 kc::Needs::Operator);
 }
 
 const kc::Number kNumber126{126, "disconnectDynInterfaces", kDisconnectDynInterfacesCases};
@@ -1297,6 +1373,10 @@ TEST_F(Interfaces, setEthernetPinState_Exchange) {
 TEST_F(Interfaces, setEthernetPinState_Failure) {
     kc::failure<SetEthernetPinStateExport>(api, kSetEthernetPinStateCases);
 }
+TEST_F(InterfacesAdmission, setEthernetPinState) {
+    kc::admission<SetEthernetPinStateExport>(callers(), kSetEthernetPinStateCases,
+                                             kc::Needs::Operator);
+}
 
 const kc::Number kNumber151{151, "setEthernetPinState", kSetEthernetPinStateCases};
 
@@ -1331,6 +1411,10 @@ TEST_F(Interfaces, getEthernetPinState_Exchange) {
 }
 TEST_F(Interfaces, getEthernetPinState_Failure) {
     kc::failure<GetEthernetPinStateExport>(api, kGetEthernetPinStateCases);
+}
+TEST_F(InterfacesAdmission, getEthernetPinState) {
+    kc::admission<GetEthernetPinStateExport>(callers(), kGetEthernetPinStateCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber152{152, "getEthernetPinState", kGetEthernetPinStateCases};
@@ -1465,6 +1549,10 @@ TEST_F(Interfaces, detectDynInterfacesEx_Exchange) {
 TEST_F(Interfaces, detectDynInterfacesEx_Failure) {
     kc::failure<DetectDynInterfacesExExport>(api, kDetectDynInterfacesExCases);
 }
+TEST_F(InterfacesAdmission, detectDynInterfacesEx) {
+    kc::admission<DetectDynInterfacesExExport>(callers(), kDetectDynInterfacesExCases,
+                                               kc::Needs::Operator);
+}
 
 struct DetectDynInterfacesExAsyncExport {
     static constexpr const char* operation = "detectDynInterfacesExAsync";
@@ -1480,6 +1568,10 @@ TEST_F(Interfaces, detectDynInterfacesExAsync_Exchange) {
 }
 TEST_F(Interfaces, detectDynInterfacesExAsync_Failure) {
     kc::asyncFailure<DetectDynInterfacesExAsyncExport>(api, kDetectDynInterfacesExCases);
+}
+TEST_F(InterfacesAdmission, detectDynInterfacesExAsync) {
+    kc::asyncAdmission<DetectDynInterfacesExAsyncExport>(callers(), kDetectDynInterfacesExCases,
+                                                         kc::Needs::Operator);
 }
 
 const kc::Number kNumber83{83, "detectDynInterfacesEx", kDetectDynInterfacesExCases};
@@ -1518,6 +1610,10 @@ TEST_F(Interfaces, connectDynInterfaceEx_Exchange) {
 TEST_F(Interfaces, connectDynInterfaceEx_Failure) {
     kc::failure<ConnectDynInterfaceExExport>(api, kConnectDynInterfaceExCases);
 }
+TEST_F(InterfacesAdmission, connectDynInterfaceEx) {
+    kc::admission<ConnectDynInterfaceExExport>(callers(), kConnectDynInterfaceExCases,
+                                               kc::Needs::Operator);
+}
 
 const kc::Number kNumber153{153, "connectDynInterfaceEx", kConnectDynInterfaceExCases};
 
@@ -1550,6 +1646,9 @@ TEST_F(Interfaces, testSocketBridge_Exchange) {
 }
 TEST_F(Interfaces, testSocketBridge_Failure) {
     kc::failure<TestSocketBridgeExport>(api, kTestSocketBridgeCases);
+}
+TEST_F(InterfacesAdmission, testSocketBridge) {
+    kc::admission<TestSocketBridgeExport>(callers(), kTestSocketBridgeCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber157{157, "testSocketBridge", kTestSocketBridgeCases};
@@ -1676,6 +1775,10 @@ TEST_F(Interfaces, getRegisteredDevices_Exchange) {
 TEST_F(Interfaces, getRegisteredDevices_Failure) {
     kc::failure<GetRegisteredDevicesExport>(api, kGetRegisteredDevicesCases);
 }
+TEST_F(InterfacesAdmission, getRegisteredDevices) {
+    kc::admission<GetRegisteredDevicesExport>(callers(), kGetRegisteredDevicesCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber182{182, "getRegisteredDevices", kGetRegisteredDevicesCases};
 
@@ -1756,6 +1859,9 @@ TEST_F(Interfaces, getPhysicalLinks_Exchange) {
 }
 TEST_F(Interfaces, getPhysicalLinks_Failure) {
     kc::failure<GetPhysicalLinksExport>(api, kGetPhysicalLinksCases);
+}
+TEST_F(InterfacesAdmission, getPhysicalLinks) {
+    kc::admission<GetPhysicalLinksExport>(callers(), kGetPhysicalLinksCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber217{217, "getPhysicalLinks", kGetPhysicalLinksCases};
@@ -1870,6 +1976,9 @@ TEST_F(Interfaces, setPhysicalLinks_Exchange) {
 TEST_F(Interfaces, setPhysicalLinks_Failure) {
     kc::failure<SetPhysicalLinksExport>(api, kSetPhysicalLinksCases);
 }
+TEST_F(InterfacesAdmission, setPhysicalLinks) {
+    kc::admission<SetPhysicalLinksExport>(callers(), kSetPhysicalLinksCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber218{218, "setPhysicalLinks", kSetPhysicalLinksCases};
 
@@ -1899,6 +2008,9 @@ TEST_F(Interfaces, openTerminal_Exchange) {
 TEST_F(Interfaces, openTerminal_Failure) {
     kc::failure<OpenTerminalExport>(api, kOpenTerminalCases);
 }
+TEST_F(InterfacesAdmission, openTerminal) {
+    kc::admission<OpenTerminalExport>(callers(), kOpenTerminalCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber227{227, "openTerminal", kOpenTerminalCases};
 
@@ -1927,6 +2039,9 @@ TEST_F(Interfaces, closeTerminal_Exchange) {
 }
 TEST_F(Interfaces, closeTerminal_Failure) {
     kc::failure<CloseTerminalExport>(api, kCloseTerminalCases);
+}
+TEST_F(InterfacesAdmission, closeTerminal) {
+    kc::admission<CloseTerminalExport>(callers(), kCloseTerminalCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber228{228, "closeTerminal", kCloseTerminalCases};
@@ -1987,6 +2102,9 @@ TEST_F(Interfaces, getWLanSignalData_Exchange) {
 }
 TEST_F(Interfaces, getWLanSignalData_Failure) {
     kc::failure<GetWLanSignalDataExport>(api, kGetWLanSignalDataCases);
+}
+TEST_F(InterfacesAdmission, getWLanSignalData) {
+    kc::admission<GetWLanSignalDataExport>(callers(), kGetWLanSignalDataCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber235{235, "getWLanSignalData", kGetWLanSignalDataCases};
@@ -2068,6 +2186,10 @@ TEST_F(Interfaces, clearDoIPEcuCollection_Exchange) {
 }
 TEST_F(Interfaces, clearDoIPEcuCollection_Failure) {
     kc::failure<ClearDoIPEcuCollectionExport>(api, kClearDoIPEcuCollectionCases);
+}
+TEST_F(InterfacesAdmission, clearDoIPEcuCollection) {
+    kc::admission<ClearDoIPEcuCollectionExport>(callers(), kClearDoIPEcuCollectionCases,
+                                                kc::Needs::Operator);
 }
 
 const kc::Number kNumber236{236, "clearDoIPEcuCollection", kClearDoIPEcuCollectionCases};
@@ -2159,6 +2281,10 @@ TEST_F(Interfaces, getInterfaceConfiguration_Exchange) {
 }
 TEST_F(Interfaces, getInterfaceConfiguration_Failure) {
     kc::failure<GetInterfaceConfigurationExport>(api, kGetInterfaceConfigurationCases);
+}
+TEST_F(InterfacesAdmission, getInterfaceConfiguration) {
+    kc::admission<GetInterfaceConfigurationExport>(callers(), kGetInterfaceConfigurationCases,
+                                                   kc::Needs::Operator);
 }
 
 const kc::Number kNumber63{63, "getInterfaceConfiguration", kGetInterfaceConfigurationCases};
@@ -2271,6 +2397,10 @@ TEST_F(Interfaces, setInterfaceConfiguration_Exchange) {
 TEST_F(Interfaces, setInterfaceConfiguration_Failure) {
     kc::failure<SetInterfaceConfigurationExport>(api, kSetInterfaceConfigurationCases);
 }
+TEST_F(InterfacesAdmission, setInterfaceConfiguration) {
+    kc::admission<SetInterfaceConfigurationExport>(callers(), kSetInterfaceConfigurationCases,
+                                                   kc::Needs::Administrator);
+}
 
 const kc::Number kNumber64{64, "setInterfaceConfiguration", kSetInterfaceConfigurationCases};
 
@@ -2339,6 +2469,10 @@ TEST_F(Interfaces, getSupportedInterfaces_Exchange) {
 TEST_F(Interfaces, getSupportedInterfaces_Failure) {
     kc::failure<GetSupportedInterfacesExport>(api, kGetSupportedInterfacesCases);
 }
+TEST_F(InterfacesAdmission, getSupportedInterfaces) {
+    kc::admission<GetSupportedInterfacesExport>(callers(), kGetSupportedInterfacesCases,
+                                                kc::Needs::Operator);
+}
 
 const kc::Number kNumber111{111, "getSupportedInterfaces", kGetSupportedInterfacesCases};
 
@@ -2406,6 +2540,10 @@ TEST_F(Interfaces, getInterfaceProviders_Exchange) {
 }
 TEST_F(Interfaces, getInterfaceProviders_Failure) {
     kc::failure<GetInterfaceProvidersExport>(api, kGetInterfaceProvidersCases);
+}
+TEST_F(InterfacesAdmission, getInterfaceProviders) {
+    kc::admission<GetInterfaceProvidersExport>(callers(), kGetInterfaceProvidersCases,
+                                               kc::Needs::Operator);
 }
 
 const kc::Number kNumber118{118, "getInterfaceProviders", kGetInterfaceProvidersCases};
@@ -2485,6 +2623,10 @@ TEST_F(Interfaces, setInterfaceProviders_Exchange) {
 TEST_F(Interfaces, setInterfaceProviders_Failure) {
     kc::failure<SetInterfaceProvidersExport>(api, kSetInterfaceProvidersCases);
 }
+TEST_F(InterfacesAdmission, setInterfaceProviders) {
+    kc::admission<SetInterfaceProvidersExport>(callers(), kSetInterfaceProvidersCases,
+                                               kc::Needs::Administrator);
+}
 
 const kc::Number kNumber119{119, "setInterfaceProviders", kSetInterfaceProvidersCases};
 
@@ -2537,6 +2679,10 @@ TEST_F(Interfaces, getDefaultDoIPParameter_Exchange) {
 }
 TEST_F(Interfaces, getDefaultDoIPParameter_Failure) {
     kc::failure<GetDefaultDoIPParameterExport>(api, kGetDefaultDoIPParameterCases);
+}
+TEST_F(InterfacesAdmission, getDefaultDoIPParameter) {
+    kc::admission<GetDefaultDoIPParameterExport>(callers(), kGetDefaultDoIPParameterCases,
+                                                 kc::Needs::Operator);
 }
 
 const kc::Number kNumber208{208, "getDefaultDoIPParameter", kGetDefaultDoIPParameterCases};

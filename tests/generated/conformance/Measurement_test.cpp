@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Measurement = kc::ConformanceTest;
 using MeasurementByNumber = kc::ConformanceTest;
+using MeasurementAdmission = kc::AdmissionTest;
 
 // ---- getMeasurementValueInfos (position 38, number 37) ----
 
@@ -617,6 +618,10 @@ TEST_F(Measurement, getMeasurementValueInfos_Exchange) {
 TEST_F(Measurement, getMeasurementValueInfos_Failure) {
     kc::failure<GetMeasurementValueInfosExport>(api, kGetMeasurementValueInfosCases);
 }
+TEST_F(MeasurementAdmission, getMeasurementValueInfos) {
+    kc::admission<GetMeasurementValueInfosExport>(callers(), kGetMeasurementValueInfosCases,
+                                                  kc::Needs::Operator);
+}
 
 const kc::Number kNumber37{37, "getMeasurementValueInfos", kGetMeasurementValueInfosCases};
 
@@ -667,6 +672,10 @@ TEST_F(Measurement, registerMeasurementValues_Exchange) {
 }
 TEST_F(Measurement, registerMeasurementValues_Failure) {
     kc::failure<RegisterMeasurementValuesExport>(api, kRegisterMeasurementValuesCases);
+}
+TEST_F(MeasurementAdmission, registerMeasurementValues) {
+    kc::admission<RegisterMeasurementValuesExport>(callers(), kRegisterMeasurementValuesCases,
+                                                   kc::Needs::Operator);
 }
 
 const kc::Number kNumber38{38, "registerMeasurementValues", kRegisterMeasurementValuesCases};
@@ -954,6 +963,10 @@ TEST_F(Measurement, getMeasurementValues_Exchange) {
 TEST_F(Measurement, getMeasurementValues_Failure) {
     kc::failure<GetMeasurementValuesExport>(api, kGetMeasurementValuesCases);
 }
+TEST_F(MeasurementAdmission, getMeasurementValues) {
+    kc::admission<GetMeasurementValuesExport>(callers(), kGetMeasurementValuesCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber39{39, "getMeasurementValues", kGetMeasurementValuesCases};
 
@@ -983,6 +996,10 @@ TEST_F(Measurement, unregisterMeasurementValues_Exchange) {
 }
 TEST_F(Measurement, unregisterMeasurementValues_Failure) {
     kc::failure<UnregisterMeasurementValuesExport>(api, kUnregisterMeasurementValuesCases);
+}
+TEST_F(MeasurementAdmission, unregisterMeasurementValues) {
+    kc::admission<UnregisterMeasurementValuesExport>(callers(), kUnregisterMeasurementValuesCases,
+                                                     kc::Needs::Operator);
 }
 
 const kc::Number kNumber40{40, "unregisterMeasurementValues", kUnregisterMeasurementValuesCases};
@@ -1286,6 +1303,10 @@ TEST_F(Measurement, readMeasurementValues_Exchange) {
 TEST_F(Measurement, readMeasurementValues_Failure) {
     kc::failure<ReadMeasurementValuesExport>(api, kReadMeasurementValuesCases);
 }
+TEST_F(MeasurementAdmission, readMeasurementValues) {
+    kc::admission<ReadMeasurementValuesExport>(callers(), kReadMeasurementValuesCases,
+                                               kc::Needs::Operator);
+}
 
 struct ReadMeasurementValuesAsyncExport {
     static constexpr const char* operation = "readMeasurementValuesAsync";
@@ -1303,6 +1324,10 @@ TEST_F(Measurement, readMeasurementValuesAsync_Exchange) {
 }
 TEST_F(Measurement, readMeasurementValuesAsync_Failure) {
     kc::asyncFailure<ReadMeasurementValuesAsyncExport>(api, kReadMeasurementValuesCases);
+}
+TEST_F(MeasurementAdmission, readMeasurementValuesAsync) {
+    kc::asyncAdmission<ReadMeasurementValuesAsyncExport>(callers(), kReadMeasurementValuesCases,
+                                                         kc::Needs::Operator);
 }
 
 const kc::Number kNumber75{75, "readMeasurementValues", kReadMeasurementValuesCases};
@@ -1933,6 +1958,10 @@ TEST_F(Measurement, getSingleMeasurementValueInfos_Exchange) {
 }
 TEST_F(Measurement, getSingleMeasurementValueInfos_Failure) {
     kc::failure<GetSingleMeasurementValueInfosExport>(api, kGetSingleMeasurementValueInfosCases);
+}
+TEST_F(MeasurementAdmission, getSingleMeasurementValueInfos) {
+    kc::admission<GetSingleMeasurementValueInfosExport>(
+        callers(), kGetSingleMeasurementValueInfosCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber96{96, "getSingleMeasurementValueInfos",

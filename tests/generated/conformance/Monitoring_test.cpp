@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Monitoring = kc::ConformanceTest;
 using MonitoringByNumber = kc::ConformanceTest;
+using MonitoringAdmission = kc::AdmissionTest;
 
 // ---- createMonitoringLink (position 10, number 10) ----
 
@@ -36,6 +37,10 @@ TEST_F(Monitoring, createMonitoringLink_Exchange) {
 }
 TEST_F(Monitoring, createMonitoringLink_Failure) {
     kc::failure<CreateMonitoringLinkExport>(api, kCreateMonitoringLinkCases);
+}
+TEST_F(MonitoringAdmission, createMonitoringLink) {
+    kc::admission<CreateMonitoringLinkExport>(callers(), kCreateMonitoringLinkCases,
+                                              kc::Needs::Operator);
 }
 
 const kc::Number kNumber10{10, "createMonitoringLink", kCreateMonitoringLinkCases};
@@ -117,6 +122,10 @@ TEST_F(Monitoring, getMonitoringItems_Exchange) {
 TEST_F(Monitoring, getMonitoringItems_Failure) {
     kc::failure<GetMonitoringItemsExport>(api, kGetMonitoringItemsCases);
 }
+TEST_F(MonitoringAdmission, getMonitoringItems) {
+    kc::admission<GetMonitoringItemsExport>(callers(), kGetMonitoringItemsCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber11{11, "getMonitoringItems", kGetMonitoringItemsCases};
 
@@ -146,6 +155,10 @@ TEST_F(Monitoring, releaseMonitoringLink_Exchange) {
 }
 TEST_F(Monitoring, releaseMonitoringLink_Failure) {
     kc::failure<ReleaseMonitoringLinkExport>(api, kReleaseMonitoringLinkCases);
+}
+TEST_F(MonitoringAdmission, releaseMonitoringLink) {
+    kc::admission<ReleaseMonitoringLinkExport>(callers(), kReleaseMonitoringLinkCases,
+                                               kc::Needs::Operator);
 }
 
 const kc::Number kNumber12{12, "releaseMonitoringLink", kReleaseMonitoringLinkCases};
@@ -224,6 +237,10 @@ TEST_F(Monitoring, getPduMonitoringItems_Exchange) {
 TEST_F(Monitoring, getPduMonitoringItems_Failure) {
     kc::failure<GetPduMonitoringItemsExport>(api, kGetPduMonitoringItemsCases);
 }
+TEST_F(MonitoringAdmission, getPduMonitoringItems) {
+    kc::admission<GetPduMonitoringItemsExport>(callers(), kGetPduMonitoringItemsCases,
+                                               kc::Needs::Operator);
+}
 
 const kc::Number kNumber13{13, "getPduMonitoringItems", kGetPduMonitoringItemsCases};
 
@@ -254,6 +271,9 @@ TEST_F(Monitoring, createPduMonitor_Exchange) {
 TEST_F(Monitoring, createPduMonitor_Failure) {
     kc::failure<CreatePduMonitorExport>(api, kCreatePduMonitorCases);
 }
+TEST_F(MonitoringAdmission, createPduMonitor) {
+    kc::admission<CreatePduMonitorExport>(callers(), kCreatePduMonitorCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber14{14, "createPduMonitor", kCreatePduMonitorCases};
 
@@ -282,6 +302,9 @@ TEST_F(Monitoring, releasePduMonitor_Exchange) {
 }
 TEST_F(Monitoring, releasePduMonitor_Failure) {
     kc::failure<ReleasePduMonitorExport>(api, kReleasePduMonitorCases);
+}
+TEST_F(MonitoringAdmission, releasePduMonitor) {
+    kc::admission<ReleasePduMonitorExport>(callers(), kReleasePduMonitorCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber16{16, "releasePduMonitor", kReleasePduMonitorCases};
@@ -321,6 +344,10 @@ TEST_F(Monitoring, openTraceFileMonitoringLink_Exchange) {
 TEST_F(Monitoring, openTraceFileMonitoringLink_Failure) {
     kc::failure<OpenTraceFileMonitoringLinkExport>(api, kOpenTraceFileMonitoringLinkCases);
 }
+TEST_F(MonitoringAdmission, openTraceFileMonitoringLink) {
+    kc::admission<OpenTraceFileMonitoringLinkExport>(callers(), kOpenTraceFileMonitoringLinkCases,
+                                                     kc::Needs::Operator);
+}
 
 const kc::Number kNumber67{67, "openTraceFileMonitoringLink", kOpenTraceFileMonitoringLinkCases};
 
@@ -354,6 +381,10 @@ TEST_F(Monitoring, startTraceFileMonitoringLink_Exchange) {
 }
 TEST_F(Monitoring, startTraceFileMonitoringLink_Failure) {
     kc::failure<StartTraceFileMonitoringLinkExport>(api, kStartTraceFileMonitoringLinkCases);
+}
+TEST_F(MonitoringAdmission, startTraceFileMonitoringLink) {
+    kc::admission<StartTraceFileMonitoringLinkExport>(callers(), kStartTraceFileMonitoringLinkCases,
+                                                      kc::Needs::Operator);
 }
 
 const kc::Number kNumber68{68, "startTraceFileMonitoringLink", kStartTraceFileMonitoringLinkCases};
@@ -391,6 +422,10 @@ TEST_F(Monitoring, stopTraceFileMonitoringLink_Exchange) {
 TEST_F(Monitoring, stopTraceFileMonitoringLink_Failure) {
     kc::failure<StopTraceFileMonitoringLinkExport>(api, kStopTraceFileMonitoringLinkCases);
 }
+TEST_F(MonitoringAdmission, stopTraceFileMonitoringLink) {
+    kc::admission<StopTraceFileMonitoringLinkExport>(callers(), kStopTraceFileMonitoringLinkCases,
+                                                     kc::Needs::Operator);
+}
 
 const kc::Number kNumber69{69, "stopTraceFileMonitoringLink", kStopTraceFileMonitoringLinkCases};
 
@@ -424,6 +459,10 @@ TEST_F(Monitoring, closeTraceFileMonitoringLink_Exchange) {
 }
 TEST_F(Monitoring, closeTraceFileMonitoringLink_Failure) {
     kc::failure<CloseTraceFileMonitoringLinkExport>(api, kCloseTraceFileMonitoringLinkCases);
+}
+TEST_F(MonitoringAdmission, closeTraceFileMonitoringLink) {
+    kc::admission<CloseTraceFileMonitoringLinkExport>(callers(), kCloseTraceFileMonitoringLinkCases,
+                                                      kc::Needs::Operator);
 }
 
 const kc::Number kNumber66{66, "closeTraceFileMonitoringLink", kCloseTraceFileMonitoringLinkCases};
@@ -460,6 +499,10 @@ TEST_F(Monitoring, createApiTraceMonitor_Exchange) {
 }
 TEST_F(Monitoring, createApiTraceMonitor_Failure) {
     kc::failure<CreateApiTraceMonitorExport>(api, kCreateApiTraceMonitorCases);
+}
+TEST_F(MonitoringAdmission, createApiTraceMonitor) {
+    kc::admission<CreateApiTraceMonitorExport>(callers(), kCreateApiTraceMonitorCases,
+                                               kc::Needs::Operator);
 }
 
 const kc::Number kNumber189{189, "createApiTraceMonitor", kCreateApiTraceMonitorCases};
@@ -500,6 +543,10 @@ TEST_F(Monitoring, getApiTraceContent_Exchange) {
 TEST_F(Monitoring, getApiTraceContent_Failure) {
     kc::failure<GetApiTraceContentExport>(api, kGetApiTraceContentCases);
 }
+TEST_F(MonitoringAdmission, getApiTraceContent) {
+    kc::admission<GetApiTraceContentExport>(callers(), kGetApiTraceContentCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber190{190, "getApiTraceContent", kGetApiTraceContentCases};
 
@@ -529,6 +576,10 @@ TEST_F(Monitoring, releaseApiTraceMonitor_Exchange) {
 }
 TEST_F(Monitoring, releaseApiTraceMonitor_Failure) {
     kc::failure<ReleaseApiTraceMonitorExport>(api, kReleaseApiTraceMonitorCases);
+}
+TEST_F(MonitoringAdmission, releaseApiTraceMonitor) {
+    kc::admission<ReleaseApiTraceMonitorExport>(callers(), kReleaseApiTraceMonitorCases,
+                                                kc::Needs::Operator);
 }
 
 const kc::Number kNumber192{192, "releaseApiTraceMonitor", kReleaseApiTraceMonitorCases};
@@ -573,6 +624,10 @@ TEST_F(Monitoring, getMonitoringLinks_Exchange) {
 }
 TEST_F(Monitoring, getMonitoringLinks_Failure) {
     kc::failure<GetMonitoringLinksExport>(api, kGetMonitoringLinksCases);
+}
+TEST_F(MonitoringAdmission, getMonitoringLinks) {
+    kc::admission<GetMonitoringLinksExport>(callers(), kGetMonitoringLinksCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber65{65, "getMonitoringLinks", kGetMonitoringLinksCases};

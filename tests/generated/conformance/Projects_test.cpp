@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Projects = kc::ConformanceTest;
 using ProjectsByNumber = kc::ConformanceTest;
+using ProjectsAdmission = kc::AdmissionTest;
 
 // ---- getProjectConfiguration (position 7, number 7) ----
 
@@ -113,6 +114,10 @@ TEST_F(Projects, getProjectConfiguration_Exchange) {
 }
 TEST_F(Projects, getProjectConfiguration_Failure) {
     kc::failure<GetProjectConfigurationExport>(api, kGetProjectConfigurationCases);
+}
+TEST_F(ProjectsAdmission, getProjectConfiguration) {
+    kc::admission<GetProjectConfigurationExport>(callers(), kGetProjectConfigurationCases,
+                                                 kc::Needs::Operator);
 }
 
 const kc::Number kNumber7{7, "getProjectConfiguration", kGetProjectConfigurationCases};
@@ -240,6 +245,10 @@ TEST_F(Projects, setProjectConfiguration_Exchange) {
 TEST_F(Projects, setProjectConfiguration_Failure) {
     kc::failure<SetProjectConfigurationExport>(api, kSetProjectConfigurationCases);
 }
+TEST_F(ProjectsAdmission, setProjectConfiguration) {
+    kc::admission<SetProjectConfigurationExport>(callers(), kSetProjectConfigurationCases,
+                                                 kc::Needs::Operator);
+}
 
 const kc::Number kNumber8{8, "setProjectConfiguration", kSetProjectConfigurationCases};
 
@@ -275,6 +284,10 @@ TEST_F(Projects, saveProjectConfiguration_Exchange) {
 TEST_F(Projects, saveProjectConfiguration_Failure) {
     kc::failure<SaveProjectConfigurationExport>(api, kSaveProjectConfigurationCases);
 }
+TEST_F(ProjectsAdmission, saveProjectConfiguration) {
+    kc::admission<SaveProjectConfigurationExport>(callers(), kSaveProjectConfigurationCases,
+                                                  kc::Needs::Operator);
+}
 
 const kc::Number kNumber9{9, "saveProjectConfiguration", kSaveProjectConfigurationCases};
 
@@ -305,6 +318,10 @@ TEST_F(Projects, saveConfiguration_Exchange) {
 TEST_F(Projects, saveConfiguration_Failure) {
     kc::failure<SaveConfigurationExport>(api, kSaveConfigurationCases);
 }
+TEST_F(ProjectsAdmission, saveConfiguration) {
+    kc::admission<SaveConfigurationExport>(callers(), kSaveConfigurationCases,
+                                           kc::Needs::Administrator);
+}
 
 const kc::Number kNumber15{15, "saveConfiguration", kSaveConfigurationCases};
 
@@ -333,6 +350,10 @@ TEST_F(Projects, refreshProjectList_Exchange) {
 }
 TEST_F(Projects, refreshProjectList_Failure) {
     kc::failure<RefreshProjectListExport>(api, kRefreshProjectListCases);
+}
+TEST_F(ProjectsAdmission, refreshProjectList) {
+    kc::admission<RefreshProjectListExport>(callers(), kRefreshProjectListCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber85{85, "refreshProjectList", kRefreshProjectListCases};
@@ -366,6 +387,10 @@ TEST_F(Projects, isProjectConversionRequired_Exchange) {
 }
 TEST_F(Projects, isProjectConversionRequired_Failure) {
     kc::failure<IsProjectConversionRequiredExport>(api, kIsProjectConversionRequiredCases);
+}
+TEST_F(ProjectsAdmission, isProjectConversionRequired) {
+    kc::admission<IsProjectConversionRequiredExport>(callers(), kIsProjectConversionRequiredCases,
+                                                     kc::Needs::Operator);
 }
 
 const kc::Number kNumber99{99, "isProjectConversionRequired", kIsProjectConversionRequiredCases};
@@ -406,6 +431,9 @@ TEST_F(Projects, convertProject_Exchange) {
 TEST_F(Projects, convertProject_Failure) {
     kc::failure<ConvertProjectExport>(api, kConvertProjectCases);
 }
+TEST_F(ProjectsAdmission, convertProject) {
+    kc::admission<ConvertProjectExport>(callers(), kConvertProjectCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber100{100, "convertProject", kConvertProjectCases};
 
@@ -435,6 +463,10 @@ TEST_F(Projects, saveMoxConfiguration_Exchange) {
 }
 TEST_F(Projects, saveMoxConfiguration_Failure) {
     kc::failure<SaveMoxConfigurationExport>(api, kSaveMoxConfigurationCases);
+}
+TEST_F(ProjectsAdmission, saveMoxConfiguration) {
+    kc::admission<SaveMoxConfigurationExport>(callers(), kSaveMoxConfigurationCases,
+                                              kc::Needs::Administrator);
 }
 
 const kc::Number kNumber102{102, "saveMoxConfiguration", kSaveMoxConfigurationCases};
@@ -571,6 +603,9 @@ TEST_F(Projects, getProjectDetails_Exchange) {
 }
 TEST_F(Projects, getProjectDetails_Failure) {
     kc::failure<GetProjectDetailsExport>(api, kGetProjectDetailsCases);
+}
+TEST_F(ProjectsAdmission, getProjectDetails) {
+    kc::admission<GetProjectDetailsExport>(callers(), kGetProjectDetailsCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber106{106, "getProjectDetails", kGetProjectDetailsCases};
@@ -818,6 +853,9 @@ TEST_F(Projects, getSystemProperty_Exchange) {
 TEST_F(Projects, getSystemProperty_Failure) {
     kc::failure<GetSystemPropertyExport>(api, kGetSystemPropertyCases);
 }
+TEST_F(ProjectsAdmission, getSystemProperty) {
+    kc::admission<GetSystemPropertyExport>(callers(), kGetSystemPropertyCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber114{114, "getSystemProperty", kGetSystemPropertyCases};
 
@@ -852,6 +890,10 @@ TEST_F(Projects, resetSystemProperty_Exchange) {
 }
 TEST_F(Projects, resetSystemProperty_Failure) {
     kc::failure<ResetSystemPropertyExport>(api, kResetSystemPropertyCases);
+}
+TEST_F(ProjectsAdmission, resetSystemProperty) {
+    kc::admission<ResetSystemPropertyExport>(callers(), kResetSystemPropertyCases,
+                                             kc::Needs::Administrator);
 }
 
 const kc::Number kNumber115{115, "resetSystemProperty", kResetSystemPropertyCases};
@@ -1190,6 +1232,10 @@ TEST_F(Projects, setSystemProperty_Exchange) {
 TEST_F(Projects, setSystemProperty_Failure) {
     kc::failure<SetSystemPropertyExport>(api, kSetSystemPropertyCases);
 }
+TEST_F(ProjectsAdmission, setSystemProperty) {
+    kc::admission<SetSystemPropertyExport>(callers(), kSetSystemPropertyCases,
+                                           kc::Needs::Administrator);
+}
 
 const kc::Number kNumber116{116, "setSystemProperty", kSetSystemPropertyCases};
 
@@ -1242,6 +1288,9 @@ TEST_F(Projects, getSystemInfo_Exchange) {
 }
 TEST_F(Projects, getSystemInfo_Failure) {
     kc::failure<GetSystemInfoExport>(api, kGetSystemInfoCases);
+}
+TEST_F(ProjectsAdmission, getSystemInfo) {
+    kc::admission<GetSystemInfoExport>(callers(), kGetSystemInfoCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber183{183, "getSystemInfo", kGetSystemInfoCases};
@@ -1324,6 +1373,9 @@ TEST_F(Projects, loadDatabaseFile_Exchange) {
 TEST_F(Projects, loadDatabaseFile_Failure) {
     kc::failure<LoadDatabaseFileExport>(api, kLoadDatabaseFileCases);
 }
+TEST_F(ProjectsAdmission, loadDatabaseFile) {
+    kc::admission<LoadDatabaseFileExport>(callers(), kLoadDatabaseFileCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber198{198, "loadDatabaseFile", kLoadDatabaseFileCases};
 
@@ -1405,6 +1457,10 @@ TEST_F(Projects, unloadDatabaseFile_Exchange) {
 }
 TEST_F(Projects, unloadDatabaseFile_Failure) {
     kc::failure<UnloadDatabaseFileExport>(api, kUnloadDatabaseFileCases);
+}
+TEST_F(ProjectsAdmission, unloadDatabaseFile) {
+    kc::admission<UnloadDatabaseFileExport>(callers(), kUnloadDatabaseFileCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber206{206, "unloadDatabaseFile", kUnloadDatabaseFileCases};
@@ -1565,6 +1621,10 @@ TEST_F(Projects, getProjectsDetails_Exchange) {
 TEST_F(Projects, getProjectsDetails_Failure) {
     kc::failure<GetProjectsDetailsExport>(api, kGetProjectsDetailsCases);
 }
+TEST_F(ProjectsAdmission, getProjectsDetails) {
+    kc::admission<GetProjectsDetailsExport>(callers(), kGetProjectsDetailsCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber203{203, "getProjectsDetails", kGetProjectsDetailsCases};
 
@@ -1611,6 +1671,10 @@ TEST_F(Projects, selectDynamicProject_Exchange) {
 }
 TEST_F(Projects, selectDynamicProject_Failure) {
     kc::failure<SelectDynamicProjectExport>(api, kSelectDynamicProjectCases);
+}
+TEST_F(ProjectsAdmission, selectDynamicProject) {
+    kc::admission<SelectDynamicProjectExport>(callers(), kSelectDynamicProjectCases,
+                                              kc::Needs::Operator);
 }
 
 const kc::Number kNumber246{246, "selectDynamicProject", kSelectDynamicProjectCases};
@@ -1756,6 +1820,10 @@ TEST_F(Projects, getProjectConfigurations_Exchange) {
 TEST_F(Projects, getProjectConfigurations_Failure) {
     kc::failure<GetProjectConfigurationsExport>(api, kGetProjectConfigurationsCases);
 }
+TEST_F(ProjectsAdmission, getProjectConfigurations) {
+    kc::admission<GetProjectConfigurationsExport>(callers(), kGetProjectConfigurationsCases,
+                                                  kc::Needs::Operator);
+}
 
 const kc::Number kNumber48{48, "getProjectConfigurations", kGetProjectConfigurationsCases};
 
@@ -1786,6 +1854,9 @@ struct GetVersionExport {
 
 TEST_F(Projects, getVersion_Exchange) { kc::exchange<GetVersionExport>(api, kGetVersionCases); }
 TEST_F(Projects, getVersion_Failure) { kc::failure<GetVersionExport>(api, kGetVersionCases); }
+TEST_F(ProjectsAdmission, getVersion) {
+    kc::admission<GetVersionExport>(callers(), kGetVersionCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber50{50, "getVersion", kGetVersionCases};
 
@@ -1817,6 +1888,10 @@ TEST_F(Projects, getSelectedProject_Exchange) {
 }
 TEST_F(Projects, getSelectedProject_Failure) {
     kc::failure<GetSelectedProjectExport>(api, kGetSelectedProjectCases);
+}
+TEST_F(ProjectsAdmission, getSelectedProject) {
+    kc::admission<GetSelectedProjectExport>(callers(), kGetSelectedProjectCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber51{51, "getSelectedProject", kGetSelectedProjectCases};
@@ -1852,6 +1927,10 @@ TEST_F(Projects, setSelectedProject_Exchange) {
 }
 TEST_F(Projects, setSelectedProject_Failure) {
     kc::failure<SetSelectedProjectExport>(api, kSetSelectedProjectCases);
+}
+TEST_F(ProjectsAdmission, setSelectedProject) {
+    kc::admission<SetSelectedProjectExport>(callers(), kSetSelectedProjectCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber52{52, "setSelectedProject", kSetSelectedProjectCases};
@@ -1941,6 +2020,9 @@ TEST_F(Projects, getConfiguration_Exchange) {
 }
 TEST_F(Projects, getConfiguration_Failure) {
     kc::failure<GetConfigurationExport>(api, kGetConfigurationCases);
+}
+TEST_F(ProjectsAdmission, getConfiguration) {
+    kc::admission<GetConfigurationExport>(callers(), kGetConfigurationCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber53{53, "getConfiguration", kGetConfigurationCases};
@@ -2042,6 +2124,10 @@ TEST_F(Projects, setConfiguration_Exchange) {
 TEST_F(Projects, setConfiguration_Failure) {
     kc::failure<SetConfigurationExport>(api, kSetConfigurationCases);
 }
+TEST_F(ProjectsAdmission, setConfiguration) {
+    kc::admission<SetConfigurationExport>(callers(), kSetConfigurationCases,
+                                          kc::Needs::Administrator);
+}
 
 const kc::Number kNumber54{54, "setConfiguration", kSetConfigurationCases};
 
@@ -2107,6 +2193,9 @@ TEST_F(Projects, getProcessInfo_Exchange) {
 TEST_F(Projects, getProcessInfo_Failure) {
     kc::failure<GetProcessInfoExport>(api, kGetProcessInfoCases);
 }
+TEST_F(ProjectsAdmission, getProcessInfo) {
+    kc::admission<GetProcessInfoExport>(callers(), kGetProcessInfoCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber59{59, "getProcessInfo", kGetProcessInfoCases};
 
@@ -2141,6 +2230,10 @@ TEST_F(Projects, getTransmissionInfo_Exchange) {
 }
 TEST_F(Projects, getTransmissionInfo_Failure) {
     kc::failure<GetTransmissionInfoExport>(api, kGetTransmissionInfoCases);
+}
+TEST_F(ProjectsAdmission, getTransmissionInfo) {
+    kc::admission<GetTransmissionInfoExport>(callers(), kGetTransmissionInfoCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber60{60, "getTransmissionInfo", kGetTransmissionInfoCases};
@@ -2211,6 +2304,10 @@ TEST_F(Projects, getMoxConfiguration_Exchange) {
 }
 TEST_F(Projects, getMoxConfiguration_Failure) {
     kc::failure<GetMoxConfigurationExport>(api, kGetMoxConfigurationCases);
+}
+TEST_F(ProjectsAdmission, getMoxConfiguration) {
+    kc::admission<GetMoxConfigurationExport>(callers(), kGetMoxConfigurationCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber62{62, "getMoxConfiguration", kGetMoxConfigurationCases};
@@ -2287,6 +2384,10 @@ TEST_F(Projects, setMoxConfiguration_Exchange) {
 }
 TEST_F(Projects, setMoxConfiguration_Failure) {
     kc::failure<SetMoxConfigurationExport>(api, kSetMoxConfigurationCases);
+}
+TEST_F(ProjectsAdmission, setMoxConfiguration) {
+    kc::admission<SetMoxConfigurationExport>(callers(), kSetMoxConfigurationCases,
+                                             kc::Needs::Administrator);
 }
 
 const kc::Number kNumber101{101, "setMoxConfiguration", kSetMoxConfigurationCases};
@@ -2834,6 +2935,10 @@ TEST_F(Projects, getGlobalProtocolParameterSets_Exchange) {
 }
 TEST_F(Projects, getGlobalProtocolParameterSets_Failure) {
     kc::failure<GetGlobalProtocolParameterSetsExport>(api, kGetGlobalProtocolParameterSetsCases);
+}
+TEST_F(ProjectsAdmission, getGlobalProtocolParameterSets) {
+    kc::admission<GetGlobalProtocolParameterSetsExport>(
+        callers(), kGetGlobalProtocolParameterSetsCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber78{78, "getGlobalProtocolParameterSets",
@@ -3684,6 +3789,10 @@ TEST_F(Projects, setGlobalProtocolParameterSets_Exchange) {
 TEST_F(Projects, setGlobalProtocolParameterSets_Failure) {
     kc::failure<SetGlobalProtocolParameterSetsExport>(api, kSetGlobalProtocolParameterSetsCases);
 }
+TEST_F(ProjectsAdmission, setGlobalProtocolParameterSets) {
+    kc::admission<SetGlobalProtocolParameterSetsExport>(
+        callers(), kSetGlobalProtocolParameterSetsCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber79{79, "setGlobalProtocolParameterSets",
                            kSetGlobalProtocolParameterSetsCases};
@@ -3733,6 +3842,9 @@ TEST_F(Projects, getStatusInfo_Exchange) {
 TEST_F(Projects, getStatusInfo_Failure) {
     kc::failure<GetStatusInfoExport>(api, kGetStatusInfoCases);
 }
+TEST_F(ProjectsAdmission, getStatusInfo) {
+    kc::admission<GetStatusInfoExport>(callers(), kGetStatusInfoCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber88{88, "getStatusInfo", kGetStatusInfoCases};
 
@@ -3764,6 +3876,10 @@ TEST_F(Projects, getCurrentDebugTraceDirectory_Exchange) {
 }
 TEST_F(Projects, getCurrentDebugTraceDirectory_Failure) {
     kc::failure<GetCurrentDebugTraceDirectoryExport>(api, kGetCurrentDebugTraceDirectoryCases);
+}
+TEST_F(ProjectsAdmission, getCurrentDebugTraceDirectory) {
+    kc::admission<GetCurrentDebugTraceDirectoryExport>(
+        callers(), kGetCurrentDebugTraceDirectoryCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber142{142, "getCurrentDebugTraceDirectory",
@@ -3804,6 +3920,9 @@ TEST_F(Projects, setStatusText_Exchange) {
 }
 TEST_F(Projects, setStatusText_Failure) {
     kc::failure<SetStatusTextExport>(api, kSetStatusTextCases);
+}
+TEST_F(ProjectsAdmission, setStatusText) {
+    kc::admission<SetStatusTextExport>(callers(), kSetStatusTextCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber196{196, "setStatusText", kSetStatusTextCases};

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Sequences = kc::ConformanceTest;
 using SequencesByNumber = kc::ConformanceTest;
+using SequencesAdmission = kc::AdmissionTest;
 
 // ---- runSequence (position 145, number 177) ----
 
@@ -46,6 +47,9 @@ struct RunSequenceExport {
 
 TEST_F(Sequences, runSequence_Exchange) { kc::exchange<RunSequenceExport>(api, kRunSequenceCases); }
 TEST_F(Sequences, runSequence_Failure) { kc::failure<RunSequenceExport>(api, kRunSequenceCases); }
+TEST_F(SequencesAdmission, runSequence) {
+    kc::admission<RunSequenceExport>(callers(), kRunSequenceCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber177{177, "runSequence", kRunSequenceCases};
 
@@ -75,6 +79,9 @@ TEST_F(Sequences, cancelSequence_Exchange) {
 }
 TEST_F(Sequences, cancelSequence_Failure) {
     kc::failure<CancelSequenceExport>(api, kCancelSequenceCases);
+}
+TEST_F(SequencesAdmission, cancelSequence) {
+    kc::admission<CancelSequenceExport>(callers(), kCancelSequenceCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber180{180, "cancelSequence", kCancelSequenceCases};
@@ -674,6 +681,9 @@ TEST_F(Sequences, executeSequence_Exchange) {
 TEST_F(Sequences, executeSequence_Failure) {
     kc::failure<ExecuteSequenceExport>(api, kExecuteSequenceCases);
 }
+TEST_F(SequencesAdmission, executeSequence) {
+    kc::admission<ExecuteSequenceExport>(callers(), kExecuteSequenceCases, kc::Needs::Operator);
+}
 
 struct ExecuteSequenceAsyncExport {
     static constexpr const char* operation = "executeSequenceAsync";
@@ -692,6 +702,10 @@ TEST_F(Sequences, executeSequenceAsync_Exchange) {
 }
 TEST_F(Sequences, executeSequenceAsync_Failure) {
     kc::asyncFailure<ExecuteSequenceAsyncExport>(api, kExecuteSequenceCases);
+}
+TEST_F(SequencesAdmission, executeSequenceAsync) {
+    kc::asyncAdmission<ExecuteSequenceAsyncExport>(callers(), kExecuteSequenceCases,
+                                                   kc::Needs::Operator);
 }
 
 const kc::Number kNumber262{262, "executeSequence", kExecuteSequenceCases};

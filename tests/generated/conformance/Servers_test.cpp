@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Servers = kc::ConformanceTest;
 using ServersByNumber = kc::ConformanceTest;
+using ServersAdmission = kc::AdmissionTest;
 
 // ---- startServer (position 4, number 4) ----
 
@@ -36,6 +37,9 @@ struct StartServerExport {
 
 TEST_F(Servers, startServer_Exchange) { kc::exchange<StartServerExport>(api, kStartServerCases); }
 TEST_F(Servers, startServer_Failure) { kc::failure<StartServerExport>(api, kStartServerCases); }
+TEST_F(ServersAdmission, startServer) {
+    kc::admission<StartServerExport>(callers(), kStartServerCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber4{4, "startServer", kStartServerCases};
 
@@ -67,6 +71,9 @@ struct StopServerExport {
 
 TEST_F(Servers, stopServer_Exchange) { kc::exchange<StopServerExport>(api, kStopServerCases); }
 TEST_F(Servers, stopServer_Failure) { kc::failure<StopServerExport>(api, kStopServerCases); }
+TEST_F(ServersAdmission, stopServer) {
+    kc::admission<StopServerExport>(callers(), kStopServerCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber5{5, "stopServer", kStopServerCases};
 
@@ -96,6 +103,9 @@ TEST_F(Servers, restartServer_Exchange) {
 }
 TEST_F(Servers, restartServer_Failure) {
     kc::failure<RestartServerExport>(api, kRestartServerCases);
+}
+TEST_F(ServersAdmission, restartServer) {
+    kc::admission<RestartServerExport>(callers(), kRestartServerCases, kc::Needs::Administrator);
 }
 
 const kc::Number kNumber6{6, "restartServer", kRestartServerCases};
@@ -128,6 +138,10 @@ struct ConnectRemoteServerExport {
 TEST_F(Servers, connectRemoteServer_Failure) {
     kc::failure<ConnectRemoteServerExport>(api, kConnectRemoteServerCases);
 }
+TEST_F(ServersAdmission, connectRemoteServer) {
+    kc::admission<ConnectRemoteServerExport>(callers(), kConnectRemoteServerCases,
+                                             kc::Needs::Operator);
+}
 
 const kc::Number kNumber36{36, "connectRemoteServer", kConnectRemoteServerCases};
 
@@ -152,6 +166,9 @@ struct DisconnectExport {
 
 TEST_F(Servers, disconnect_Exchange) { kc::exchange<DisconnectExport>(api, kDisconnectCases); }
 TEST_F(Servers, disconnect_Failure) { kc::failure<DisconnectExport>(api, kDisconnectCases); }
+TEST_F(ServersAdmission, disconnect) {
+    kc::admission<DisconnectExport>(callers(), kDisconnectCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber74{74, "disconnect", kDisconnectCases};
 
@@ -190,6 +207,9 @@ struct AddUserExport {
 
 TEST_F(Servers, addUser_Exchange) { kc::exchange<AddUserExport>(api, kAddUserCases); }
 TEST_F(Servers, addUser_Failure) { kc::failure<AddUserExport>(api, kAddUserCases); }
+TEST_F(ServersAdmission, addUser) {
+    kc::admission<AddUserExport>(callers(), kAddUserCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber155{155, "addUser", kAddUserCases};
 
@@ -222,6 +242,9 @@ struct RemoveUserExport {
 
 TEST_F(Servers, removeUser_Exchange) { kc::exchange<RemoveUserExport>(api, kRemoveUserCases); }
 TEST_F(Servers, removeUser_Failure) { kc::failure<RemoveUserExport>(api, kRemoveUserCases); }
+TEST_F(ServersAdmission, removeUser) {
+    kc::admission<RemoveUserExport>(callers(), kRemoveUserCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber158{158, "removeUser", kRemoveUserCases};
 
@@ -267,6 +290,9 @@ struct GetUsersExport {
 
 TEST_F(Servers, getUsers_Exchange) { kc::exchange<GetUsersExport>(api, kGetUsersCases); }
 TEST_F(Servers, getUsers_Failure) { kc::failure<GetUsersExport>(api, kGetUsersCases); }
+TEST_F(ServersAdmission, getUsers) {
+    kc::admission<GetUsersExport>(callers(), kGetUsersCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber160{160, "getUsers", kGetUsersCases};
 
@@ -301,6 +327,9 @@ struct LogOutExport {
 
 TEST_F(Servers, logOut_Exchange) { kc::exchange<LogOutExport>(api, kLogOutCases); }
 TEST_F(Servers, logOut_Failure) { kc::failure<LogOutExport>(api, kLogOutCases); }
+TEST_F(ServersAdmission, logOut) {
+    kc::admission<LogOutExport>(callers(), kLogOutCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber159{159, "logOut", kLogOutCases};
 
@@ -346,6 +375,9 @@ struct UpdateUserExport {
 
 TEST_F(Servers, updateUser_Exchange) { kc::exchange<UpdateUserExport>(api, kUpdateUserCases); }
 TEST_F(Servers, updateUser_Failure) { kc::failure<UpdateUserExport>(api, kUpdateUserCases); }
+TEST_F(ServersAdmission, updateUser) {
+    kc::admission<UpdateUserExport>(callers(), kUpdateUserCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber161{161, "updateUser", kUpdateUserCases};
 
@@ -374,6 +406,10 @@ TEST_F(Servers, getServerUserManagement_Exchange) {
 }
 TEST_F(Servers, getServerUserManagement_Failure) {
     kc::failure<GetServerUserManagementExport>(api, kGetServerUserManagementCases);
+}
+TEST_F(ServersAdmission, getServerUserManagement) {
+    kc::admission<GetServerUserManagementExport>(callers(), kGetServerUserManagementCases,
+                                                 kc::Needs::Anyone);
 }
 
 const kc::Number kNumber138{138, "getServerUserManagement", kGetServerUserManagementCases};
@@ -404,6 +440,10 @@ TEST_F(Servers, setServerUserManagement_Exchange) {
 }
 TEST_F(Servers, setServerUserManagement_Failure) {
     kc::failure<SetServerUserManagementExport>(api, kSetServerUserManagementCases);
+}
+TEST_F(ServersAdmission, setServerUserManagement) {
+    kc::admission<SetServerUserManagementExport>(callers(), kSetServerUserManagementCases,
+                                                 kc::Needs::Administrator);
 }
 
 const kc::Number kNumber156{156, "setServerUserManagement", kSetServerUserManagementCases};
@@ -439,6 +479,10 @@ TEST_F(Servers, disconnectAllClients_Exchange) {
 TEST_F(Servers, disconnectAllClients_Failure) {
     kc::failure<DisconnectAllClientsExport>(api, kDisconnectAllClientsCases);
 }
+TEST_F(ServersAdmission, disconnectAllClients) {
+    kc::admission<DisconnectAllClientsExport>(callers(), kDisconnectAllClientsCases,
+                                              kc::Needs::Administrator);
+}
 
 const kc::Number kNumber162{162, "disconnectAllClients", kDisconnectAllClientsCases};
 
@@ -466,6 +510,10 @@ TEST_F(Servers, reconnectRemoteServer_Exchange) {
 }
 TEST_F(Servers, reconnectRemoteServer_Failure) {
     kc::failure<ReconnectRemoteServerExport>(api, kReconnectRemoteServerCases);
+}
+TEST_F(ServersAdmission, reconnectRemoteServer) {
+    kc::admission<ReconnectRemoteServerExport>(callers(), kReconnectRemoteServerCases,
+                                               kc::Needs::Operator);
 }
 
 const kc::Number kNumber199{199, "reconnectRemoteServer", kReconnectRemoteServerCases};
@@ -499,6 +547,9 @@ TEST_F(Servers, thirdPartyLogin_Exchange) {
 }
 TEST_F(Servers, thirdPartyLogin_Failure) {
     kc::failure<ThirdPartyLoginExport>(api, kThirdPartyLoginCases);
+}
+TEST_F(ServersAdmission, thirdPartyLogin) {
+    kc::admission<ThirdPartyLoginExport>(callers(), kThirdPartyLoginCases, kc::Needs::Anyone);
 }
 
 const kc::Number kNumber244{244, "thirdPartyLogin", kThirdPartyLoginCases};
@@ -538,6 +589,10 @@ TEST_F(Servers, getThirdPartyLoginUrl_Exchange) {
 }
 TEST_F(Servers, getThirdPartyLoginUrl_Failure) {
     kc::failure<GetThirdPartyLoginUrlExport>(api, kGetThirdPartyLoginUrlCases);
+}
+TEST_F(ServersAdmission, getThirdPartyLoginUrl) {
+    kc::admission<GetThirdPartyLoginUrlExport>(callers(), kGetThirdPartyLoginUrlCases,
+                                               kc::Needs::Anyone);
 }
 
 const kc::Number kNumber253{253, "getThirdPartyLoginUrl", kGetThirdPartyLoginUrlCases};
@@ -593,6 +648,10 @@ TEST_F(Servers, getCertificateByPublicKey_Exchange) {
 }
 TEST_F(Servers, getCertificateByPublicKey_Failure) {
     kc::failure<GetCertificateByPublicKeyExport>(api, kGetCertificateByPublicKeyCases);
+}
+TEST_F(ServersAdmission, getCertificateByPublicKey) {
+    kc::admission<GetCertificateByPublicKeyExport>(callers(), kGetCertificateByPublicKeyCases,
+                                                   kc::Needs::Operator);
 }
 
 const kc::Number kNumber247{247, "getCertificateByPublicKey", kGetCertificateByPublicKeyCases};
@@ -658,6 +717,10 @@ TEST_F(Servers, createCertificateFromCSR_Exchange) {
 }
 TEST_F(Servers, createCertificateFromCSR_Failure) {
     kc::failure<CreateCertificateFromCSRExport>(api, kCreateCertificateFromCSRCases);
+}
+TEST_F(ServersAdmission, createCertificateFromCSR) {
+    kc::admission<CreateCertificateFromCSRExport>(callers(), kCreateCertificateFromCSRCases,
+                                                  kc::Needs::Administrator);
 }
 
 const kc::Number kNumber248{248, "createCertificateFromCSR", kCreateCertificateFromCSRCases};
@@ -727,6 +790,10 @@ TEST_F(Servers, getCertificateChainById_Exchange) {
 TEST_F(Servers, getCertificateChainById_Failure) {
     kc::failure<GetCertificateChainByIdExport>(api, kGetCertificateChainByIdCases);
 }
+TEST_F(ServersAdmission, getCertificateChainById) {
+    kc::admission<GetCertificateChainByIdExport>(callers(), kGetCertificateChainByIdCases,
+                                                 kc::Needs::Operator);
+}
 
 const kc::Number kNumber249{249, "getCertificateChainById", kGetCertificateChainByIdCases};
 
@@ -761,6 +828,10 @@ TEST_F(Servers, startSOVDServer_Exchange) {
 TEST_F(Servers, startSOVDServer_Failure) {
     kc::failure<StartSOVDServerExport>(api, kStartSOVDServerCases);
 }
+TEST_F(ServersAdmission, startSOVDServer) {
+    kc::admission<StartSOVDServerExport>(callers(), kStartSOVDServerCases,
+                                         kc::Needs::Administrator);
+}
 
 const kc::Number kNumber259{259, "startSOVDServer", kStartSOVDServerCases};
 
@@ -789,6 +860,9 @@ TEST_F(Servers, stopSOVDServer_Exchange) {
 }
 TEST_F(Servers, stopSOVDServer_Failure) {
     kc::failure<StopSOVDServerExport>(api, kStopSOVDServerCases);
+}
+TEST_F(ServersAdmission, stopSOVDServer) {
+    kc::admission<StopSOVDServerExport>(callers(), kStopSOVDServerCases, kc::Needs::Administrator);
 }
 
 const kc::Number kNumber280{280, "stopSOVDServer", kStopSOVDServerCases};
@@ -824,6 +898,9 @@ struct LogInExport {
 
 TEST_F(Servers, logIn_Exchange) { kc::exchange<LogInExport>(api, kLogInCases); }
 TEST_F(Servers, logIn_Failure) { kc::failure<LogInExport>(api, kLogInCases); }
+TEST_F(ServersAdmission, logIn) {
+    kc::admission<LogInExport>(callers(), kLogInCases, kc::Needs::Anyone);
+}
 
 const kc::Number kNumber216{216, "logIn", kLogInCases};
 
@@ -856,6 +933,9 @@ TEST_F(Servers, getServerSettings_Exchange) {
 }
 TEST_F(Servers, getServerSettings_Failure) {
     kc::failure<GetServerSettingsExport>(api, kGetServerSettingsCases);
+}
+TEST_F(ServersAdmission, getServerSettings) {
+    kc::admission<GetServerSettingsExport>(callers(), kGetServerSettingsCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber55{55, "getServerSettings", kGetServerSettingsCases};
@@ -946,6 +1026,10 @@ TEST_F(Servers, getServerConfiguration_Exchange) {
 }
 TEST_F(Servers, getServerConfiguration_Failure) {
     kc::failure<GetServerConfigurationExport>(api, kGetServerConfigurationCases);
+}
+TEST_F(ServersAdmission, getServerConfiguration) {
+    kc::admission<GetServerConfigurationExport>(callers(), kGetServerConfigurationCases,
+                                                kc::Needs::Administrator);
 }
 
 const kc::Number kNumber181{181, "getServerConfiguration", kGetServerConfigurationCases};

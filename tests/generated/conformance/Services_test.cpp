@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Services = kc::ConformanceTest;
 using ServicesByNumber = kc::ConformanceTest;
+using ServicesAdmission = kc::AdmissionTest;
 
 // ---- getServiceInfos (position 29, number 29) ----
 
@@ -1009,6 +1010,9 @@ TEST_F(Services, getServiceInfos_Exchange) {
 TEST_F(Services, getServiceInfos_Failure) {
     kc::failure<GetServiceInfosExport>(api, kGetServiceInfosCases);
 }
+TEST_F(ServicesAdmission, getServiceInfos) {
+    kc::admission<GetServiceInfosExport>(callers(), kGetServiceInfosCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber29{29, "getServiceInfos", kGetServiceInfosCases};
 
@@ -1623,6 +1627,10 @@ TEST_F(Services, getIdentificationValueInfos_Exchange) {
 TEST_F(Services, getIdentificationValueInfos_Failure) {
     kc::failure<GetIdentificationValueInfosExport>(api, kGetIdentificationValueInfosCases);
 }
+TEST_F(ServicesAdmission, getIdentificationValueInfos) {
+    kc::admission<GetIdentificationValueInfosExport>(callers(), kGetIdentificationValueInfosCases,
+                                                     kc::Needs::Operator);
+}
 
 const kc::Number kNumber41{41, "getIdentificationValueInfos", kGetIdentificationValueInfosCases};
 
@@ -1657,6 +1665,9 @@ struct CreateSeedExport {
 
 TEST_F(Services, createSeed_Exchange) { kc::exchange<CreateSeedExport>(api, kCreateSeedCases); }
 TEST_F(Services, createSeed_Failure) { kc::failure<CreateSeedExport>(api, kCreateSeedCases); }
+TEST_F(ServicesAdmission, createSeed) {
+    kc::admission<CreateSeedExport>(callers(), kCreateSeedCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber43{43, "createSeed", kCreateSeedCases};
 
@@ -1687,6 +1698,9 @@ struct SendKeyExport {
 
 TEST_F(Services, sendKey_Exchange) { kc::exchange<SendKeyExport>(api, kSendKeyCases); }
 TEST_F(Services, sendKey_Failure) { kc::failure<SendKeyExport>(api, kSendKeyCases); }
+TEST_F(ServicesAdmission, sendKey) {
+    kc::admission<SendKeyExport>(callers(), kSendKeyCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber44{44, "sendKey", kSendKeyCases};
 
@@ -2311,6 +2325,10 @@ TEST_F(Services, getActuatorServiceInfos_Exchange) {
 TEST_F(Services, getActuatorServiceInfos_Failure) {
     kc::failure<GetActuatorServiceInfosExport>(api, kGetActuatorServiceInfosCases);
 }
+TEST_F(ServicesAdmission, getActuatorServiceInfos) {
+    kc::admission<GetActuatorServiceInfosExport>(callers(), kGetActuatorServiceInfosCases,
+                                                 kc::Needs::Operator);
+}
 
 const kc::Number kNumber89{89, "getActuatorServiceInfos", kGetActuatorServiceInfosCases};
 
@@ -2417,6 +2435,10 @@ TEST_F(Services, startCyclicServices_Exchange) {
 }
 TEST_F(Services, startCyclicServices_Failure) {
     kc::failure<StartCyclicServicesExport>(api, kStartCyclicServicesCases);
+}
+TEST_F(ServicesAdmission, startCyclicServices) {
+    kc::admission<StartCyclicServicesExport>(callers(), kStartCyclicServicesCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber103{103, "startCyclicServices", kStartCyclicServicesCases};
@@ -2945,6 +2967,9 @@ TEST_F(Services, getCyclicResults_Exchange) {
 TEST_F(Services, getCyclicResults_Failure) {
     kc::failure<GetCyclicResultsExport>(api, kGetCyclicResultsCases);
 }
+TEST_F(ServicesAdmission, getCyclicResults) {
+    kc::admission<GetCyclicResultsExport>(callers(), kGetCyclicResultsCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber105{105, "getCyclicResults", kGetCyclicResultsCases};
 
@@ -2974,6 +2999,10 @@ TEST_F(Services, stopCyclicServices_Exchange) {
 }
 TEST_F(Services, stopCyclicServices_Failure) {
     kc::failure<StopCyclicServicesExport>(api, kStopCyclicServicesCases);
+}
+TEST_F(ServicesAdmission, stopCyclicServices) {
+    kc::admission<StopCyclicServicesExport>(callers(), kStopCyclicServicesCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber104{104, "stopCyclicServices", kStopCyclicServicesCases};
@@ -3573,6 +3602,9 @@ TEST_F(Services, executeService_Exchange) {
 TEST_F(Services, executeService_Failure) {
     kc::failure<ExecuteServiceExport>(api, kExecuteServiceCases);
 }
+TEST_F(ServicesAdmission, executeService) {
+    kc::admission<ExecuteServiceExport>(callers(), kExecuteServiceCases, kc::Needs::Operator);
+}
 
 struct ExecuteServiceAsyncExport {
     static constexpr const char* operation = "executeServiceAsync";
@@ -3590,6 +3622,10 @@ TEST_F(Services, executeServiceAsync_Exchange) {
 }
 TEST_F(Services, executeServiceAsync_Failure) {
     kc::asyncFailure<ExecuteServiceAsyncExport>(api, kExecuteServiceCases);
+}
+TEST_F(ServicesAdmission, executeServiceAsync) {
+    kc::asyncAdmission<ExecuteServiceAsyncExport>(callers(), kExecuteServiceCases,
+                                                  kc::Needs::Operator);
 }
 
 const kc::Number kNumber30{30, "executeService", kExecuteServiceCases};
@@ -3690,6 +3726,10 @@ TEST_F(Services, updateCyclicServices_Exchange) {
 }
 TEST_F(Services, updateCyclicServices_Failure) {
     kc::failure<UpdateCyclicServicesExport>(api, kUpdateCyclicServicesCases);
+}
+TEST_F(ServicesAdmission, updateCyclicServices) {
+    kc::admission<UpdateCyclicServicesExport>(callers(), kUpdateCyclicServicesCases,
+                                              kc::Needs::Operator);
 }
 
 const kc::Number kNumber127{127, "updateCyclicServices", kUpdateCyclicServicesCases};
@@ -4149,6 +4189,9 @@ TEST_F(Services, unlockVehicle_Exchange) {
 TEST_F(Services, unlockVehicle_Failure) {
     kc::failure<UnlockVehicleExport>(api, kUnlockVehicleCases);
 }
+TEST_F(ServicesAdmission, unlockVehicle) {
+    kc::admission<UnlockVehicleExport>(callers(), kUnlockVehicleCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber178{178, "unlockVehicle", kUnlockVehicleCases};
 
@@ -4179,6 +4222,10 @@ TEST_F(Services, releaseVehicleUnlock_Exchange) {
 }
 TEST_F(Services, releaseVehicleUnlock_Failure) {
     kc::failure<ReleaseVehicleUnlockExport>(api, kReleaseVehicleUnlockCases);
+}
+TEST_F(ServicesAdmission, releaseVehicleUnlock) {
+    kc::admission<ReleaseVehicleUnlockExport>(callers(), kReleaseVehicleUnlockCases,
+                                              kc::Needs::Operator);
 }
 
 const kc::Number kNumber179{179, "releaseVehicleUnlock", kReleaseVehicleUnlockCases};
@@ -4791,6 +4838,10 @@ TEST_F(Services, executeServiceInDefaultSession_Exchange) {
 TEST_F(Services, executeServiceInDefaultSession_Failure) {
     kc::failure<ExecuteServiceInDefaultSessionExport>(api, kExecuteServiceInDefaultSessionCases);
 }
+TEST_F(ServicesAdmission, executeServiceInDefaultSession) {
+    kc::admission<ExecuteServiceInDefaultSessionExport>(
+        callers(), kExecuteServiceInDefaultSessionCases, kc::Needs::Operator);
+}
 
 struct ExecuteServiceInDefaultSessionAsyncExport {
     static constexpr const char* operation = "executeServiceInDefaultSessionAsync";
@@ -4810,6 +4861,10 @@ TEST_F(Services, executeServiceInDefaultSessionAsync_Exchange) {
 TEST_F(Services, executeServiceInDefaultSessionAsync_Failure) {
     kc::asyncFailure<ExecuteServiceInDefaultSessionAsyncExport>(
         api, kExecuteServiceInDefaultSessionCases);
+}
+TEST_F(ServicesAdmission, executeServiceInDefaultSessionAsync) {
+    kc::asyncAdmission<ExecuteServiceInDefaultSessionAsyncExport>(
+        callers(), kExecuteServiceInDefaultSessionCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber213{213, "executeServiceInDefaultSession",
@@ -5423,6 +5478,9 @@ TEST_F(Services, getParameterInfo_Exchange) {
 }
 TEST_F(Services, getParameterInfo_Failure) {
     kc::failure<GetParameterInfoExport>(api, kGetParameterInfoCases);
+}
+TEST_F(ServicesAdmission, getParameterInfo) {
+    kc::admission<GetParameterInfoExport>(callers(), kGetParameterInfoCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber265{265, "getParameterInfo", kGetParameterInfoCases};

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using VehicleUpdate = kc::ConformanceTest;
 using VehicleUpdateByNumber = kc::ConformanceTest;
+using VehicleUpdateAdmission = kc::AdmissionTest;
 
 // ---- applyUpdatePackage (position 151, number 185) ----
 
@@ -38,6 +39,10 @@ TEST_F(VehicleUpdate, applyUpdatePackage_Exchange) {
 }
 TEST_F(VehicleUpdate, applyUpdatePackage_Failure) {
     kc::failure<ApplyUpdatePackageExport>(api, kApplyUpdatePackageCases);
+}
+TEST_F(VehicleUpdateAdmission, applyUpdatePackage) {
+    kc::admission<ApplyUpdatePackageExport>(callers(), kApplyUpdatePackageCases,
+                                            kc::Needs::Administrator);
 }
 
 const kc::Number kNumber185{185, "applyUpdatePackage", kApplyUpdatePackageCases};
@@ -128,6 +133,9 @@ TEST_F(VehicleUpdate, getUpdatePackages_Exchange) {
 TEST_F(VehicleUpdate, getUpdatePackages_Failure) {
     kc::failure<GetUpdatePackagesExport>(api, kGetUpdatePackagesCases);
 }
+TEST_F(VehicleUpdateAdmission, getUpdatePackages) {
+    kc::admission<GetUpdatePackagesExport>(callers(), kGetUpdatePackagesCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber184{184, "getUpdatePackages", kGetUpdatePackagesCases};
 
@@ -214,6 +222,10 @@ TEST_F(VehicleUpdate, getPackagesFromBroker_Exchange) {
 TEST_F(VehicleUpdate, getPackagesFromBroker_Failure) {
     kc::failure<GetPackagesFromBrokerExport>(api, kGetPackagesFromBrokerCases);
 }
+TEST_F(VehicleUpdateAdmission, getPackagesFromBroker) {
+    kc::admission<GetPackagesFromBrokerExport>(callers(), kGetPackagesFromBrokerCases,
+                                               kc::Needs::Operator);
+}
 
 const kc::Number kNumber164{164, "getPackagesFromBroker", kGetPackagesFromBrokerCases};
 
@@ -244,6 +256,10 @@ TEST_F(VehicleUpdate, checkUpdatesOnBroker_Exchange) {
 TEST_F(VehicleUpdate, checkUpdatesOnBroker_Failure) {
     kc::failure<CheckUpdatesOnBrokerExport>(api, kCheckUpdatesOnBrokerCases);
 }
+TEST_F(VehicleUpdateAdmission, checkUpdatesOnBroker) {
+    kc::admission<CheckUpdatesOnBrokerExport>(callers(), kCheckUpdatesOnBrokerCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber174{174, "checkUpdatesOnBroker", kCheckUpdatesOnBrokerCases};
 
@@ -272,6 +288,9 @@ TEST_F(VehicleUpdate, autoUpdate_Exchange) {
     kc::exchange<AutoUpdateExport>(api, kAutoUpdateCases);
 }
 TEST_F(VehicleUpdate, autoUpdate_Failure) { kc::failure<AutoUpdateExport>(api, kAutoUpdateCases); }
+TEST_F(VehicleUpdateAdmission, autoUpdate) {
+    kc::admission<AutoUpdateExport>(callers(), kAutoUpdateCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber175{175, "autoUpdate", kAutoUpdateCases};
 
@@ -330,6 +349,10 @@ TEST_F(VehicleUpdate, getCurrentVersions_Exchange) {
 TEST_F(VehicleUpdate, getCurrentVersions_Failure) {
     kc::failure<GetCurrentVersionsExport>(api, kGetCurrentVersionsCases);
 }
+TEST_F(VehicleUpdateAdmission, getCurrentVersions) {
+    kc::admission<GetCurrentVersionsExport>(callers(), kGetCurrentVersionsCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber191{191, "getCurrentVersions", kGetCurrentVersionsCases};
 
@@ -359,6 +382,10 @@ TEST_F(VehicleUpdate, checkUpdateSuccess_Exchange) {
 }
 TEST_F(VehicleUpdate, checkUpdateSuccess_Failure) {
     kc::failure<CheckUpdateSuccessExport>(api, kCheckUpdateSuccessCases);
+}
+TEST_F(VehicleUpdateAdmission, checkUpdateSuccess) {
+    kc::admission<CheckUpdateSuccessExport>(callers(), kCheckUpdateSuccessCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber193{193, "checkUpdateSuccess", kCheckUpdateSuccessCases};
@@ -390,6 +417,9 @@ TEST_F(VehicleUpdate, cleanUpdateTmp_Exchange) {
 }
 TEST_F(VehicleUpdate, cleanUpdateTmp_Failure) {
     kc::failure<CleanUpdateTmpExport>(api, kCleanUpdateTmpCases);
+}
+TEST_F(VehicleUpdateAdmission, cleanUpdateTmp) {
+    kc::admission<CleanUpdateTmpExport>(callers(), kCleanUpdateTmpCases, kc::Needs::Administrator);
 }
 
 const kc::Number kNumber194{194, "cleanUpdateTmp", kCleanUpdateTmpCases};
@@ -564,6 +594,9 @@ TEST_F(VehicleUpdate, updateVehicle_Exchange) {
 TEST_F(VehicleUpdate, updateVehicle_Failure) {
     kc::failure<UpdateVehicleExport>(api, kUpdateVehicleCases);
 }
+TEST_F(VehicleUpdateAdmission, updateVehicle) {
+    kc::admission<UpdateVehicleExport>(callers(), kUpdateVehicleCases, kc::Needs::Operator);
+}
 
 struct UpdateVehicleAsyncExport {
     static constexpr const char* operation = "updateVehicleAsync";
@@ -579,6 +612,10 @@ TEST_F(VehicleUpdate, updateVehicleAsync_Exchange) {
 }
 TEST_F(VehicleUpdate, updateVehicleAsync_Failure) {
     kc::asyncFailure<UpdateVehicleAsyncExport>(api, kUpdateVehicleCases);
+}
+TEST_F(VehicleUpdateAdmission, updateVehicleAsync) {
+    kc::asyncAdmission<UpdateVehicleAsyncExport>(callers(), kUpdateVehicleCases,
+                                                 kc::Needs::Operator);
 }
 
 const kc::Number kNumber211{211, "updateVehicle", kUpdateVehicleCases};
@@ -643,6 +680,9 @@ TEST_F(VehicleUpdate, uploadReport_Exchange) {
 TEST_F(VehicleUpdate, uploadReport_Failure) {
     kc::failure<UploadReportExport>(api, kUploadReportCases);
 }
+TEST_F(VehicleUpdateAdmission, uploadReport) {
+    kc::admission<UploadReportExport>(callers(), kUploadReportCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber223{223, "uploadReport", kUploadReportCases};
 
@@ -679,6 +719,9 @@ TEST_F(VehicleUpdate, setBrokerUrl_Exchange) {
 TEST_F(VehicleUpdate, setBrokerUrl_Failure) {
     kc::failure<SetBrokerUrlExport>(api, kSetBrokerUrlCases);
 }
+TEST_F(VehicleUpdateAdmission, setBrokerUrl) {
+    kc::admission<SetBrokerUrlExport>(callers(), kSetBrokerUrlCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber237{237, "setBrokerUrl", kSetBrokerUrlCases};
 
@@ -708,6 +751,10 @@ TEST_F(VehicleUpdate, clearUpdatePackages_Exchange) {
 }
 TEST_F(VehicleUpdate, clearUpdatePackages_Failure) {
     kc::failure<ClearUpdatePackagesExport>(api, kClearUpdatePackagesCases);
+}
+TEST_F(VehicleUpdateAdmission, clearUpdatePackages) {
+    kc::admission<ClearUpdatePackagesExport>(callers(), kClearUpdatePackagesCases,
+                                             kc::Needs::Administrator);
 }
 
 const kc::Number kNumber245{245, "clearUpdatePackages", kClearUpdatePackagesCases};
@@ -907,6 +954,10 @@ TEST_F(VehicleUpdate, performVehicleUpdate_Exchange) {
 TEST_F(VehicleUpdate, performVehicleUpdate_Failure) {
     kc::failure<PerformVehicleUpdateExport>(api, kPerformVehicleUpdateCases);
 }
+TEST_F(VehicleUpdateAdmission, performVehicleUpdate) {
+    kc::admission<PerformVehicleUpdateExport>(callers(), kPerformVehicleUpdateCases,
+                                              kc::Needs::Operator);
+}
 
 struct PerformVehicleUpdateAsyncExport {
     static constexpr const char* operation = "performVehicleUpdateAsync";
@@ -924,6 +975,10 @@ TEST_F(VehicleUpdate, performVehicleUpdateAsync_Exchange) {
 }
 TEST_F(VehicleUpdate, performVehicleUpdateAsync_Failure) {
     kc::asyncFailure<PerformVehicleUpdateAsyncExport>(api, kPerformVehicleUpdateCases);
+}
+TEST_F(VehicleUpdateAdmission, performVehicleUpdateAsync) {
+    kc::asyncAdmission<PerformVehicleUpdateAsyncExport>(callers(), kPerformVehicleUpdateCases,
+                                                        kc::Needs::Operator);
 }
 
 const kc::Number kNumber257{257, "performVehicleUpdate", kPerformVehicleUpdateCases};
@@ -1033,6 +1088,10 @@ TEST_F(VehicleUpdate, createVehicleUpdateConfig_Exchange) {
 }
 TEST_F(VehicleUpdate, createVehicleUpdateConfig_Failure) {
     kc::failure<CreateVehicleUpdateConfigExport>(api, kCreateVehicleUpdateConfigCases);
+}
+TEST_F(VehicleUpdateAdmission, createVehicleUpdateConfig) {
+    kc::admission<CreateVehicleUpdateConfigExport>(callers(), kCreateVehicleUpdateConfigCases,
+                                                   kc::Needs::Operator);
 }
 
 const kc::Number kNumber154{154, "createVehicleUpdateConfig", kCreateVehicleUpdateConfigCases};
