@@ -982,13 +982,12 @@ public:
 protected:
     void SetUp() override {
         static int made = 0;
-        root_ =
-            std::filesystem::temp_directory_path() /
-            ("kel_admission_" + std::to_string(::testing::UnitTest::GetInstance()->random_seed()) +
-             "_" + std::to_string(++made));
+        root_ = std::filesystem::temp_directory_path() /
+                ("kel_admission_" +
+                 std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()) + "_" +
+                 std::to_string(++made));
         std::filesystem::remove_all(root_);
-        ConformanceTest::SetUp(); // then a vehicle of our own on a root of our own
-        releaseTarnApi(api);
+        kelsim_reset(); // as ConformanceTest, on a vehicle and a root of its own
         ASSERT_EQ(kelsim_setVehicleJson(R"({"name": "admission", "ecus": [{"name": "ECM"}],
             "servers": {"passwordIterations": 1000}})"),
                   0);
