@@ -74,6 +74,7 @@ std::shared_ptr<EngineFront> makeEngineLocked(Handles& h,
     EngineObject object;
     object.handle = newHandle();
     object.clock = std::make_shared<CallClock>();
+    object.clock->handle = object.handle;
     if (remoteClient != nullptr) {
         object.remoteClient = *remoteClient = clientName(object.handle);
     }

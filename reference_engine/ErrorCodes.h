@@ -116,6 +116,7 @@ enum ErrorCode : int32_t {
     FileTooLarge = 1615,        // more than 4 GiB - 1 bytes in one read
     SomeEntriesFailed = 1616,   // a delete or copy outcome: the details name each entry
     TargetInsideSource = 1617,  // a directory copied or moved into itself
+    EngineFolder = 1618,        // the engine's own files, which no public directory reaches
 
     // Flash: 1700-1799.
     FlashStepRefused = 1700,    // per session: a negative response, attached

@@ -65,7 +65,8 @@ void Script::Call::finish(bool failed) {
         std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count());
     clock_.finished(micros, failed);
     if (ticket_ != 0) {
-        clock_.listener->finished(ticket_, operation_, arguments_, micros, failed, code_);
+        clock_.listener->finished(ticket_, clock_.handle, operation_, arguments_, micros, failed,
+                                  code_);
     }
 }
 

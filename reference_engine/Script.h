@@ -59,10 +59,12 @@ public:
     // Before a call: a ticket for finished(), or 0 when nobody listens (then the call's
     // arguments are not kept for it).
     virtual uint64_t begin() = 0;
-    // After it, also after a failure, with the engine's error code when the call ended
-    // with one (empty when it failed otherwise). Must not throw.
-    virtual void finished(uint64_t ticket, std::string_view operation, const std::string& arguments,
-                          uint64_t micros, bool failed, std::optional<int32_t> code) noexcept = 0;
+    // After it, also after a failure, with the handle of the engine object that made it
+    // and the engine's error code when the call ended with one (empty when it failed
+    // otherwise). Must not throw.
+    virtual void finished(uint64_t ticket, uint64_t caller, std::string_view operation,
+                          const std::string& arguments, uint64_t micros, bool failed,
+                          std::optional<int32_t> code) noexcept = 0;
 };
 
 // What every call through one engine object passes: the check whether the object may
@@ -72,6 +74,8 @@ class CallClock {
 public:
     // Hears every call of the object. Set, as `admit`, before the object is handed out.
     std::shared_ptr<CallListener> listener;
+    // The object's handle, which the listener hears with each call.
+    uint64_t handle = 0;
 
     // Throws TarnApiException to refuse `operation` (a remote client's connection that
     // has not logged in, or that the server ended). Set before the object is handed

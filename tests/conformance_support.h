@@ -17,6 +17,7 @@
 #include <cstdint>
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
 #include <kel_sim.h>
 #include <mutex>
 #include <span>
@@ -1028,5 +1029,157 @@ protected:
     }
     TarnApi* api = nullptr;
 };
+
+// ---- admission of remote callers -------------------------------------------------------------
+
+// The least a remote caller needs for an operation: the `role=` of the description.
+enum class Needs { Anyone, Operator, Administrator };
+
+// A vehicle whose server has user management on, one operator and two remote connections:
+// one logged in as the operator, one not logged in; each test on a data root of its own.
+class AdmissionTest : public ConformanceTest {
+public:
+    struct Callers {
+        TarnApi* local;
+        TarnApi* operatorApi;
+        TarnApi* anonymous;
+    };
+
+protected:
+    void SetUp() override {
+        static int made = 0;
+        root_ = std::filesystem::temp_directory_path() /
+                ("kel_admission_" +
+                 std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()) + "_" +
+                 std::to_string(++made));
+        std::filesystem::remove_all(root_);
+        kelsim_reset(); // as ConformanceTest, on a vehicle and a root of its own
+        ASSERT_EQ(kelsim_setVehicleJson(R"({"name": "admission", "ecus": [{"name": "ECM"}],
+            "servers": {"passwordIterations": 1000}})"),
+                  0);
+        kelsim_setDataRoot(root_.wstring().c_str());
+        kelsim_restart();
+        api = kel_getTarnApi();
+        KelError* error = nullptr;
+        kel_initialize(api, &error);
+        ASSERT_EQ(error, nullptr);
+        kel_addUser(api, L"operator", L"operator-password", 1, &error);
+        ASSERT_EQ(error, nullptr);
+        kel_setServerUserManagement(api, 1, &error);
+        ASSERT_EQ(error, nullptr);
+        operator_ = kel_getRemoteConnectionByHandle(handleOf(api), &error);
+        ASSERT_NE(operator_, nullptr);
+        anonymous_ = kel_getRemoteConnectionByHandle(handleOf(operator_), &error);
+        ASSERT_NE(anonymous_, nullptr);
+        auto* login = static_cast<LogInOutConfig*>(allocate_Memory(sizeof(LogInOutConfig)));
+        login->user = duplicate_WString(L"operator");
+        login->password = duplicate_WString(L"operator-password");
+        kel_logIn(operator_, login, &error);
+        ASSERT_EQ(error, nullptr);
+    }
+    void TearDown() override {
+        releaseTarnApi(anonymous_);
+        releaseTarnApi(operator_);
+        ConformanceTest::TearDown();
+        std::error_code ignored;
+        std::filesystem::remove_all(root_, ignored);
+    }
+    Callers callers() const { return {api, operator_, anonymous_}; }
+
+private:
+    static uint64_t handleOf(TarnApi* object) {
+        KelError* error = nullptr;
+        uint64_t handle = 0;
+        kel_getHandle(object, &error, &handle);
+        EXPECT_EQ(error, nullptr);
+        return handle;
+    }
+    std::filesystem::path root_;
+    TarnApi* operator_ = nullptr;
+    TarnApi* anonymous_ = nullptr;
+};
+
+// One call of a synchronous export: its error code, 0 when it succeeded (then with the
+// scripted result when `scripted`).
+template <class Op>
+int32_t callFor(TarnApi* on, const Case& c, bool scripted) {
+    typename Op::Result out;
+    fillCanary(out);
+    KelError* error = nullptr;
+    Op::call(on, Json::parse(c.inputs), &error, out);
+    if (error == nullptr) {
+        if (scripted && c.cView != nullptr) {
+            EXPECT_EQ(out.view(), c.cView);
+        }
+        out.release();
+        return 0;
+    }
+    const int32_t code = error->code;
+    EXPECT_TRUE(untouched(out)) << "an output was written";
+    release_KelError(error);
+    return code;
+}
+
+template <class Op>
+int32_t asyncCallFor(TarnApi* on, const Case& c, bool scripted) {
+    typename Op::Reports reports;
+    KelError* error = nullptr;
+    const uint64_t id = Op::call(on, Json::parse(c.inputs), &error, reports);
+    if (error != nullptr) {
+        const int32_t code = error->code;
+        EXPECT_EQ(id, 0U);
+        release_KelError(error);
+        return code;
+    }
+    EXPECT_TRUE(reports.waitFinal(reportLimit)) << "no final report";
+    const std::lock_guard lock(reports.mutex);
+    if (scripted) {
+        EXPECT_EQ(reports.view, c.cView);
+    }
+    return 0;
+}
+
+// A remote caller that lacks what the operation needs is refused (1300 not logged in,
+// 1308 not an administrator); the one result scripted before then reaches the first
+// caller admitted, so no refused call got as far as the engine's scripted results, let
+// alone the vehicle. An operation whose result cannot be scripted runs on the vehicle:
+// it may fail, but not with a refusal of admission.
+template <class Call>
+void checkAdmission(const char* operation, const AdmissionTest::Callers& who, const Case& c,
+                    Needs needs, Call call) {
+    constexpr int32_t notLoggedIn = 1300;
+    constexpr int32_t needsAdministrator = 1308;
+    const bool scripted = c.script != nullptr;
+    if (scripted) {
+        script(operation, c.script);
+    }
+    // A call let through took the scripted result: the next would reach the vehicle.
+    if (needs != Needs::Anyone) {
+        ASSERT_EQ(call(who.anonymous, c, false), notLoggedIn) << "a connection not logged in";
+    }
+    if (needs == Needs::Administrator) {
+        ASSERT_EQ(call(who.operatorApi, c, false), needsAdministrator) << "an operator";
+    }
+    TarnApi* admitted = needs == Needs::Anyone     ? who.anonymous
+                        : needs == Needs::Operator ? who.operatorApi
+                                                   : who.local;
+    const int32_t code = call(admitted, c, scripted);
+    if (scripted) {
+        EXPECT_EQ(code, 0) << "the scripted result did not reach the caller admitted";
+    } else {
+        EXPECT_NE(code, notLoggedIn);
+        EXPECT_NE(code, needsAdministrator);
+    }
+}
+
+template <class Op>
+void admission(const AdmissionTest::Callers& who, std::span<const Case> cases, Needs needs) {
+    checkAdmission(Op::operation, who, cases.front(), needs, callFor<Op>);
+}
+
+template <class Op>
+void asyncAdmission(const AdmissionTest::Callers& who, std::span<const Case> cases, Needs needs) {
+    checkAdmission(Op::operation, who, cases.front(), needs, asyncCallFor<Op>);
+}
 
 } // namespace kel_conformance

@@ -41,6 +41,7 @@ enum : int32_t {
     Exists = 1610,
     PublicRoot = 1613,
     SomeFailed = 1616,
+    EngineFolder = 1618,
     Cancelled = 1012,
 };
 
@@ -852,7 +853,7 @@ TEST_F(FilesTest, PublicDirectoriesAreRealFoldersAndMoreCanBeAdded) {
         EXPECT_TRUE(fs::is_directory(root / fromWide(publics.items[i]->name)));
     }
     EXPECT_EQ(names, (std::vector<std::wstring>{L"broker", L"configuration", L"exchange",
-                                                L"projects", L"reports", L"traces", L"updates"}));
+                                                L"projects", L"reports", L"traces"}));
 
     kel_addPublicDirectory(api, L"Archive", L"reports/2026/archive", &error);
     ASSERT_FALSE(error);
@@ -878,6 +879,46 @@ TEST_F(FilesTest, PublicDirectoriesAreRealFoldersAndMoreCanBeAdded) {
     kel_addPublicDirectory(api, L"archive", L"reports", &error);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->code, Exists);
+}
+
+// Users, certificates, interfaces, the update store and the engine's configuration are
+// the engine's alone: no public directory reaches them, whoever asks.
+TEST_F(FilesTest, TheEnginesOwnFilesAreOutOfEveryPublicDirectorysReach) {
+    const auto code = [](auto call) {
+        ErrorSlot error;
+        call(&error);
+        return error ? error->code : 0;
+    };
+    for (const wchar_t* folder :
+         {L"users", L"certificates", L"interfaces", L"updates", L"users/more", L"updates/packages",
+          L"configuration", L"configuration/engine.json", L"projects/.."}) {
+        SCOPED_TRACE(fromWide(folder).string());
+        const int32_t refused =
+            code([&](KelError** e) { kel_addPublicDirectory(api, L"mine", folder, e); });
+        EXPECT_EQ(refused, std::wstring(folder) == L"projects/.." ? Parent : EngineFolder);
+    }
+    ErrorSlot error;
+    kel_saveConfiguration(api, &error);
+    ASSERT_FALSE(error);
+    ASSERT_TRUE(fs::exists(root / "configuration" / "engine.json"));
+    void* data = nullptr;
+    uint32_t size = 0;
+    EXPECT_EQ(code([&](KelError** e) {
+                  kel_readFile(api, L"configuration/engine.json", 0, 0, 0, e, &data, &size);
+              }),
+              EngineFolder);
+    uint32_t written = 0;
+    const uint8_t byte = 'x';
+    for (const wchar_t* path : {L"configuration/Engine.json.new", L"configuration/mox.json"}) {
+        EXPECT_EQ(
+            code([&](KelError** e) { kel_writeFile(api, path, &byte, 1, 0, 1, e, &written); }),
+            EngineFolder);
+    }
+    uint8_t exists = 0;
+    EXPECT_EQ(
+        code([&](KelError** e) { kel_pathExists(api, L"updates/installed.json", e, &exists); }),
+        UnknownPublic);
+    write(L"configuration/ecu-order.txt", "the rest of the folder stays the clients'");
 }
 
 // ---- per-entry outcomes -------------------------------------------------------------------

@@ -9,6 +9,7 @@ import textwrap
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent.parent / "tools"))
+import admission  # noqa: E402
 import generate  # noqa: E402
 import kelidl  # noqa: E402
 
@@ -209,6 +210,28 @@ class Rejected(unittest.TestCase):
             record Thing
                 flag[4] flags
             """, message="bad array")
+
+
+class Roles(unittest.TestCase):
+    def test_a_role_follows_a_result_reaches_the_async_form_and_the_sorted_engine_table(self):
+        iface = parsed("""
+            record Thing
+                wstr name
+            """, """\
+            op 2 list () -> list Thing things thingCount role=administrator
+            op 3 listAsync async
+            op 4 look () -> u32 value
+            op 5 enter () role=anyone
+            """)
+        self.assertEqual({op.name: op.role for op in iface.operations},
+                         {"list": "administrator", "listAsync": "administrator", "look": "operator",
+                          "enter": "anyone"})
+        table = admission.admission_cpp(iface)
+        self.assertIn('{"listAsync", Admission::Administrator}', table)
+        self.assertLess(table.index('"enter"'), table.index('"list"'), "sorted for the binary search")
+        with self.assertRaises(kelidl.DescriptionError) as caught:
+            parsed("", "op 2 take () role=root\n")
+        self.assertIn("unknown role", str(caught.exception))
 
 
 class Generated(unittest.TestCase):

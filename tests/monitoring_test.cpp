@@ -473,6 +473,72 @@ TEST_F(Monitoring, ApiTraceShowsTheCallsMadeWithSecretsMasked) {
     EXPECT_EQ(apiTrace(trace, firstLength + 1, 1), two.substr(0, firstLength));
 }
 
+// What other clients pass (the bytes they write) is theirs: a remote operator's API
+// trace shows its own calls, and another's monitor is unknown to it.
+TEST_F(Monitoring, AnOperatorsApiTraceShowsOnlyItsOwnCalls) {
+    const auto root = kel_test::freshTempPath("kel_monitoring_trace");
+    ASSERT_EQ(kelsim_setVehicleJson(
+                  R"({"ecus": [{"name": "ECM"}], "servers": {"passwordIterations": 1000}})"),
+              0);
+    kelsim_setDataRoot(root.wstring().c_str());
+    releaseTarnApi(api);
+    kelsim_restart();
+    api = kel_getTarnApi();
+    ErrorSlot error;
+    kel_initialize(api, &error);
+    kel_addUser(api, L"op", L"op-password", 1, &error);
+    kel_setServerUserManagement(api, 1, &error);
+    uint64_t handle = 0;
+    kel_getHandle(api, &error, &handle);
+    TarnApi* client = kel_getRemoteConnectionByHandle(handle, &error);
+    auto* login = static_cast<LogInOutConfig*>(allocate_Memory(sizeof(LogInOutConfig)));
+    login->user = duplicate_WString(L"op");
+    login->password = duplicate_WString(L"op-password");
+    kel_logIn(client, login, &error);
+    ASSERT_FALSE(error) << error->code;
+
+    uint64_t own = 0;
+    uint64_t all = 0;
+    kel_createApiTraceMonitor(client, &error, &own);
+    kel_createApiTraceMonitor(api, &error, &all);
+    const std::string secret = "the server's own bytes";
+    uint32_t written = 0;
+    kel_writeFile(api, L"exchange/secret.txt", reinterpret_cast<const uint8_t*>(secret.data()),
+                  static_cast<uint32_t>(secret.size()), 0, 1, &error, &written);
+    int32_t state = 0;
+    kel_getState(client, &error, &state);
+    ASSERT_FALSE(error) << error->code;
+
+    void* data = nullptr;
+    uint32_t length = 0;
+    kel_getApiTraceContent(client, own, 0, 0, &error, &data, &length);
+    ASSERT_FALSE(error) << error->code;
+    const std::string mine(static_cast<const char*>(data), length);
+    release_Memory(data);
+    const auto lines = traceLines(mine);
+    ASSERT_EQ(lines.size(), 1u) << mine;
+    EXPECT_EQ(lines[0][2], "getState");
+    const std::string everything = apiTrace(all);
+    EXPECT_NE(everything.find("writeFile"), std::string::npos) << everything;
+    EXPECT_NE(everything.find("getState"), std::string::npos) << everything;
+
+    ErrorSlot unread;
+    kel_getApiTraceContent(client, all, 0, 0, &unread, &data, &length);
+    ASSERT_TRUE(unread);
+    EXPECT_EQ(unread->code, UnknownMonitor);
+    ErrorSlot unreleased;
+    kel_releaseApiTraceMonitor(client, all, &unreleased);
+    ASSERT_TRUE(unreleased);
+    EXPECT_EQ(unreleased->code, UnknownMonitor);
+    releaseTarnApi(client);
+    releaseTarnApi(api);
+    kelsim_reset();
+    kelsim_restart();
+    api = kel_getTarnApi();
+    std::error_code ignored;
+    std::filesystem::remove_all(root, ignored);
+}
+
 TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     const uint64_t monitor = pduMonitor();
     const uint64_t live = link(L"live");

@@ -18,6 +18,7 @@ import dataclasses
 import json
 import struct
 
+import admission
 import kelidl
 
 BANNER = "Generated from the interface description by tools/generate.py. Do not edit."
@@ -844,6 +845,7 @@ def export_block(iface: kelidl.Interface, op: kelidl.Operation, cases: list[Case
     if scriptable(op.result):
         out.append(f"TEST_F({family}, {op.name}_Exchange) {{ kc::exchange<{name}>(api, k{ident(op.name)}Cases); }}")
     out.append(f"TEST_F({family}, {op.name}_Failure) {{ kc::failure<{name}>(api, k{ident(op.name)}Cases); }}")
+    out += admission.conformance_tests(op, family, name, f"k{ident(op.name)}Cases", False)
     asyncs = [a for a in iface.operations if a.is_async and a.sync is op and iface.exported(a)]
     for a in asyncs:
         aname = f"{ident(a.name)}Export"
@@ -859,6 +861,7 @@ def export_block(iface: kelidl.Interface, op: kelidl.Operation, cases: list[Case
         out += [f"        return kel_{a.name}({', '.join(async_args)});", "    }", "};", "",
                 f"TEST_F({family}, {a.name}_Exchange) {{ kc::asyncExchange<{aname}>(api, k{ident(op.name)}Cases); }}",
                 f"TEST_F({family}, {a.name}_Failure) {{ kc::asyncFailure<{aname}>(api, k{ident(op.name)}Cases); }}"]
+        out += admission.conformance_tests(a, family, aname, f"k{ident(op.name)}Cases", True)
     return out + [""]
 
 
@@ -883,7 +886,8 @@ def family_file(iface: kelidl.Interface, family: str, ops: list[kelidl.Operation
            "", '#include "conformance_support.h"', '#include "generated/conformance/records.h"', "",
            "namespace {", "", "namespace kc = kel_conformance;", "",
            f"using {family} = kc::ConformanceTest;",
-           f"using {family}ByNumber = kc::ConformanceTest;", ""]
+           f"using {family}ByNumber = kc::ConformanceTest;",
+           f"using {family}Admission = kc::AdmissionTest;", ""]
     for op in ops:
         salt = op.position
         cases = build_cases(iface, op, salt)

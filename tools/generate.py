@@ -18,6 +18,7 @@ import sys
 import textwrap
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
+import admission  # noqa: E402
 import conformance  # noqa: E402
 import kelidl  # noqa: E402
 import python_gen  # noqa: E402
@@ -1038,6 +1039,7 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
         "tests/generated/test_records.h": test_records_h(iface),
         "interface/generated/EngineFields.h": engine_fields_h(iface),
         **conformance.outputs(iface),
+        **admission.outputs(iface, ROOT),
         **record_classes_tests(iface),
         **python_gen.outputs(iface),
     }

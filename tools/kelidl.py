@@ -110,6 +110,8 @@ class Operation:
     is_async: bool = False
     reserved: bool = False
     custom: bool = False  # the export is declared but written by hand (kel_c/custom/)
+    # Who may call it on a remote connection (ROLES); an async form takes its sync form's.
+    role: str = "operator"
     sync: Operation | None = None  # for async operations
     family: str | None = None  # the `family` section it stands in; None for reserved positions
     line: int = 0
@@ -311,6 +313,10 @@ def _parse_value(text: str, kinds: set[str], counted: set[str], where: str) -> V
 
 
 ATTRIBUTES = ("remote", "discard", "api64", "pyreturn", "custom")
+# The least a remote caller needs to be admitted, weakest first: `anyone` also before
+# logging in, `operator` (the default) any logged-in user, `administrator` an
+# administrator. The local engine object may call everything.
+ROLES = ("anyone", "operator", "administrator")
 
 
 def _parse_operation(line: str, where: str) -> Operation:
@@ -330,12 +336,16 @@ def _parse_operation(line: str, where: str) -> Operation:
     if rest and rest[0] == "->":
         rest.pop(0)
         rwords = []
-        while rest and not (rest[0] in ATTRIBUTES or rest[0].startswith("otx=")):
+        while rest and not (rest[0] in ATTRIBUTES or rest[0].startswith(("otx=", "role="))):
             rwords.append(rest.pop(0))
         op.result = _parse_value(" ".join(rwords), RESULT_KINDS, COUNTED_RESULTS, where)
     for a in rest:
         if re.fullmatch(r"otx=\d+", a):
             op.otx = int(a[4:])
+        elif a.startswith("role="):
+            if a[5:] not in ROLES:
+                raise DescriptionError(f"{where}: unknown role '{a[5:]}'; the roles are {', '.join(ROLES)}")
+            op.role = a[5:]
         elif a in ATTRIBUTES:
             setattr(op, a, True)
         else:
@@ -478,6 +488,7 @@ def _validate(iface: Interface) -> None:
             if not sync.result or sync.result.kind != "list":
                 raise DescriptionError(f"{sync.name} must hand out a record list to have an async form")
             op.sync = sync
+            op.role = sync.role
         for v in op.params + ([op.result] if op.result else []):
             if v.record and v.record not in iface.records:
                 raise DescriptionError(f"{op.name}: unknown record {v.record}")

@@ -21,8 +21,9 @@ namespace fs = std::filesystem;
 namespace {
 
 // The public directories every engine has, folders of the same names under the data root.
-constexpr const char* standardDirectories[] = {"broker",  "configuration", "exchange", "projects",
-                                               "reports", "traces",        "updates"};
+// Not the update store ("updates"): it is the engine's own (engineArea).
+constexpr const char* standardDirectories[] = {"broker",   "configuration", "exchange",
+                                               "projects", "reports",       "traces"};
 
 template <class Result>
 using Steps = std::vector<std::function<std::shared_ptr<Result>()>>;
@@ -381,10 +382,12 @@ void FilesState::ensureStandard() const {
     if (!directories_.empty()) {
         return;
     }
+    const fs::path root = realPath(dataRoot());
     for (const char* name : standardDirectories) {
         auto d = std::make_shared<PublicDirectory>();
         d->name = fromUtf8(name);
         d->folder = realPath(dataFolder(name));
+        d->dataRoot = root;
         directories_.push_back(std::move(d));
     }
 }
@@ -399,12 +402,18 @@ void FilesState::add(const std::wstring& name, const std::wstring& relativeFolde
     checkName(name);
     auto root = std::make_shared<PublicDirectory>();
     root->folder = realPath(dataRoot());
-    const Resolved folder = Sandbox::resolveIn(root, relativeFolder);
+    root->dataRoot = root->folder;
+    const Resolved folder = Sandbox::resolveIn(root, relativeFolder); // refuses the engine's
+
     std::error_code e;
     fs::create_directories(folder.real, e);
     const fs::path real = realPath(folder.real);
     if (!fs::is_directory(real, e) || !within(real, root->folder)) {
         throw TarnApiException(WrongKind, L"The public directory's folder is not a directory",
+                               relativeFolder);
+    }
+    if (holdsEngineArea(root->folder, real)) {
+        throw TarnApiException(EngineFolder, L"The folder holds the engine's own files",
                                relativeFolder);
     }
     const std::lock_guard lock(mutex_);
@@ -420,7 +429,20 @@ void FilesState::add(const std::wstring& name, const std::wstring& relativeFolde
     auto added = std::make_shared<PublicDirectory>();
     added->name = name;
     added->folder = real;
+    added->dataRoot = root->folder;
     directories_.push_back(std::move(added));
+}
+
+Resolved FilesState::updateStore() {
+    auto store = std::make_shared<PublicDirectory>();
+    store->name = L"updates";
+    store->folder = realPath(dataFolder("updates"));
+    store->dataRoot = realPath(dataRoot());
+    Resolved root;
+    root.real = store->folder;
+    root.enginePath = store->name;
+    root.root = std::move(store);
+    return root;
 }
 
 // --- the family -------------------------------------------------------------------------

@@ -22,6 +22,9 @@ public:
     // A copy of the public directories, for a call to work on without the lock.
     Sandbox sandbox() const;
     void add(const std::wstring& name, const std::wstring& relativeFolder);
+    // The engine's update store, which no public directory reaches: only the update
+    // family works in it, through this root of its own.
+    static Resolved updateStore();
 
 private:
     void ensureStandard() const; // under mutex_

@@ -130,7 +130,70 @@ fs::path step(const fs::path& current, const std::wstring& name, const PublicDir
     return target;
 }
 
+// Throws EngineFolder when `real` reaches an engine area from outside it: only a root
+// that is that area itself (the update store's own) may work in it.
+void guardEngineAreas(const PublicDirectory& root, const fs::path& real) {
+    if (root.dataRoot.empty()) {
+        return;
+    }
+    const auto area = engineArea(root.dataRoot, real);
+    if (area && !within(root.folder, *area)) {
+        refuse(EngineFolder, L"The path reaches the engine's own files",
+               root.name + L": " + wideFromPath(area->filename()) + L" is the engine's");
+    }
+}
+
 } // namespace
+
+namespace {
+// Folders below the data root that are the engine's alone, and the files of the engine's
+// configuration (with their temporary files, which share the name's start).
+constexpr const char* engineFolders[] = {"users", "certificates", "interfaces", "updates"};
+constexpr const char* engineConfiguration = "configuration";
+constexpr const wchar_t* engineConfigurationFiles[] = {L"engine.json", L"mox.json"};
+
+bool startsWithName(const std::wstring& name, const std::wstring& start) {
+    return name.size() >= start.size() && samePublicName(name.substr(0, start.size()), start);
+}
+} // namespace
+
+std::optional<fs::path> engineArea(const fs::path& dataRoot, const fs::path& real) {
+    if (!within(real, dataRoot)) {
+        return std::nullopt;
+    }
+    for (const char* folder : engineFolders) {
+        if (within(real, dataRoot / folder)) {
+            return dataRoot / folder;
+        }
+    }
+    const fs::path configuration = dataRoot / engineConfiguration;
+    if (!within(real, configuration) || within(configuration, real)) {
+        return std::nullopt;
+    }
+    // The first name below the configuration folder.
+    auto name = real.begin();
+    for (auto c = configuration.begin(); c != configuration.end(); ++c) {
+        if (!c->empty()) {
+            ++name;
+        }
+    }
+    const std::wstring first = wideFromPath(*name);
+    for (const wchar_t* file : engineConfigurationFiles) {
+        if (startsWithName(first, file)) {
+            return configuration / *name;
+        }
+    }
+    return std::nullopt;
+}
+
+bool holdsEngineArea(const fs::path& dataRoot, const fs::path& folder) {
+    for (const char* name : engineFolders) {
+        if (within(dataRoot / name, folder)) {
+            return true;
+        }
+    }
+    return within(dataRoot / engineConfiguration, folder);
+}
 
 bool samePublicName(const std::wstring& a, const std::wstring& b) {
     return a.size() == b.size() &&
@@ -304,6 +367,7 @@ Resolved Sandbox::child(const Resolved& directory, const std::wstring& name) con
     Resolved out;
     out.root = directory.root;
     out.real = step(directory.real, name, *directory.root, exists, out.viaLink);
+    guardEngineAreas(*out.root, out.real);
     out.enginePath = enginePath(*out.root, out.real);
     return out;
 }
@@ -330,6 +394,7 @@ Resolved Sandbox::walk(std::shared_ptr<const PublicDirectory> root,
         current = realPath(current); // the names' own case, as the folder holds them
     }
 #endif
+    guardEngineAreas(*root, current);
     Resolved out;
     out.root = std::move(root);
     out.real = std::move(current);

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -36,7 +37,17 @@ bool within(const std::filesystem::path& inner, const std::filesystem::path& out
 struct PublicDirectory {
     std::wstring name;
     std::filesystem::path folder; // real path
+    // The real data root it was made under: the engine's own files there are out of reach.
+    std::filesystem::path dataRoot;
 };
+
+// The engine's own folders and files under the real data root `dataRoot` (the users, the
+// certificates, the interfaces, the update store, the engine's configuration files): the
+// one `real` lies in, if any.
+std::optional<std::filesystem::path> engineArea(const std::filesystem::path& dataRoot,
+                                                const std::filesystem::path& real);
+// `folder` holds one of them (the data root itself, the configuration folder).
+bool holdsEngineArea(const std::filesystem::path& dataRoot, const std::filesystem::path& folder);
 
 struct Resolved {
     std::shared_ptr<const PublicDirectory> root;

@@ -46,7 +46,7 @@ void LifecycleState::load(const LifecycleSettings& settings) {
 
 Lifecycle::Lifecycle(std::shared_ptr<SimulatedVehicle> vehicle, const EngineObject& object)
     : vehicle_(std::move(vehicle)), state_(vehicle_->lifecycle), handle_(object.handle),
-      clock_(object.clock) {}
+      clock_(object.clock), remote_(!object.remoteClient.empty()) {}
 
 // Events are posted with the lifecycle lock held, so that they keep the order of the
 // changes they report; the channels have their own lock.
@@ -57,6 +57,10 @@ void Lifecycle::initialize() {
 }
 
 void Lifecycle::end() {
+    if (remote_) { // a client ends its own session, never the server's engine
+        vehicle_->servers.endSession(*vehicle_, handle_);
+        return;
+    }
     const std::lock_guard lock(state_.mutex_);
     requireInitialized(state_.state_);
     state_.state_ = Ended;

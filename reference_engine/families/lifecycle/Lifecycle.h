@@ -70,6 +70,7 @@ private:
     LifecycleState& state_;
     uint64_t handle_;
     std::shared_ptr<CallClock> clock_;
+    bool remote_; // a remote client's connection
 };
 
 } // namespace Varno::Kel_cpp::Reference

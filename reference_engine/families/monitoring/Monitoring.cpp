@@ -321,7 +321,7 @@ MonitoringState::Link& MonitoringState::link(uint64_t handle) {
 
 uint64_t MonitoringState::begin() { return apiTraceCount_.load() == 0 ? 0 : ++tickets_; }
 
-void MonitoringState::finished(uint64_t ticket, std::string_view operation,
+void MonitoringState::finished(uint64_t ticket, uint64_t caller, std::string_view operation,
                                const std::string& arguments, uint64_t micros, bool failed,
                                std::optional<int32_t> code) noexcept {
     try {
@@ -338,7 +338,7 @@ void MonitoringState::finished(uint64_t ticket, std::string_view operation,
         tail += cut(arguments, maxTracedArguments) + "\n";
         const std::lock_guard lock(mutex_);
         for (auto& [handle, trace] : apiTraces_) {
-            if (ticket <= trace.since) {
+            if (ticket <= trace.since || (trace.ownCalls && caller != trace.owner)) {
                 continue;
             }
             std::string line = std::to_string(trace.next++) + tail;
@@ -368,7 +368,7 @@ void MonitoringState::save(SimulatedVehicle& vehicle, uint64_t monitor, const st
 // ---- the family -----------------------------------------------------------------------
 
 Monitoring::Monitoring(std::shared_ptr<SimulatedVehicle> vehicle, const EngineObject& object)
-    : vehicle_(std::move(vehicle)), state_(vehicle_->monitoring) {
+    : vehicle_(std::move(vehicle)), state_(vehicle_->monitoring), handle_(object.handle) {
     object.clock->listener = state_;
 }
 
@@ -507,19 +507,33 @@ void Monitoring::closeTraceFileMonitoringLink(uint64_t handle) {
     link.replay.reset();
 }
 
+MonitoringState::ApiTrace& Monitoring::trace(uint64_t handle, bool administers) const {
+    auto& trace = find(state_->apiTraces_, handle, L"API trace monitor");
+    if (trace.owner != handle_ && !administers) { // as if it did not exist
+        fail(UnknownMonitor, L"No open API trace monitor has this handle", handleText(handle));
+    }
+    return trace;
+}
+
 uint64_t Monitoring::createApiTraceMonitor() {
+    // An operator's trace shows its own calls: other clients' arguments are theirs.
+    const bool all = vehicle_->servers.administers(handle_);
     const auto lock = ready();
     const uint64_t handle = state_->newHandle();
+    auto& trace = state_->apiTraces_[handle];
     // Calls that began before now have their tickets already.
-    state_->apiTraces_[handle].since = state_->tickets_.load();
+    trace.since = state_->tickets_.load();
+    trace.owner = handle_;
+    trace.ownCalls = !all;
     ++state_->apiTraceCount_;
     return handle;
 }
 
 std::vector<uint8_t> Monitoring::getApiTraceContent(uint64_t handle, uint32_t value1,
                                                     int32_t value2) {
+    const bool administers = vehicle_->servers.administers(handle_);
     const auto lock = ready();
-    auto& trace = find(state_->apiTraces_, handle, L"API trace monitor");
+    auto& trace = this->trace(handle, administers);
     const bool keep = keepsItems(value2);
     // Whole lines, as many as fit in value1 bytes (0: all), at least one.
     std::size_t lines = 0;
@@ -545,8 +559,9 @@ std::vector<uint8_t> Monitoring::getApiTraceContent(uint64_t handle, uint32_t va
 }
 
 void Monitoring::releaseApiTraceMonitor(uint64_t handle) {
+    const bool administers = vehicle_->servers.administers(handle_);
     const auto lock = ready();
-    find(state_->apiTraces_, handle, L"API trace monitor");
+    trace(handle, administers);
     state_->apiTraces_.erase(handle);
     --state_->apiTraceCount_;
 }

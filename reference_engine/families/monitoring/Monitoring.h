@@ -73,8 +73,9 @@ public:
     void load(const MonitoringSettings& settings);
 
     uint64_t begin() override;
-    void finished(uint64_t ticket, std::string_view operation, const std::string& arguments,
-                  uint64_t micros, bool failed, std::optional<int32_t> code) noexcept override;
+    void finished(uint64_t ticket, uint64_t caller, std::string_view operation,
+                  const std::string& arguments, uint64_t micros, bool failed,
+                  std::optional<int32_t> code) noexcept override;
 
     // Writes what the PDU monitor holds (it keeps it) to `traces/<name>`
     // (kelsim_savePduMonitor). Throws the sandbox's refusals, UnknownMonitor, FileIoFailed.
@@ -102,7 +103,9 @@ private:
         uint64_t next = 1;
     };
     struct ApiTrace {
-        uint64_t since = 0; // calls with a later ticket are recorded
+        uint64_t since = 0;    // calls with a later ticket are recorded
+        uint64_t owner = 0;    // the engine object that made it
+        bool ownCalls = false; // only the owner's calls: made by a remote operator
         std::deque<std::string> lines;
         std::size_t bytes = 0;
         uint64_t next = 1;
@@ -156,9 +159,14 @@ public:
 private:
     // Throws NotInitialized unless the engine is initialised; then holds the state's lock.
     std::unique_lock<std::mutex> ready() const;
+    // The API trace monitor `handle`, if this engine object may read it: its own, or any
+    // when it administers the server. Callers hold the state's lock; `administers` was
+    // asked before it was taken (never two family locks at once).
+    MonitoringState::ApiTrace& trace(uint64_t handle, bool administers) const;
 
     std::shared_ptr<SimulatedVehicle> vehicle_;
     std::shared_ptr<MonitoringState> state_;
+    uint64_t handle_;
 };
 
 } // namespace Varno::Kel_cpp::Reference

@@ -1,5 +1,6 @@
 #include "Servers.h"
 
+#include "Admission.h"
 #include "Certificates.h"
 #include "DataRoot.h"
 #include "Describe.h"
@@ -15,14 +16,6 @@
 
 namespace Varno::Kel_cpp::Reference {
 namespace {
-
-// What a connection that has not logged in may still do: log in, find out that it
-// must, and read its own handle (which reconnectRemoteServer takes).
-bool opensALogin(std::string_view operation) {
-    return operation == "logIn" || operation == "thirdPartyLogin" ||
-           operation == "getThirdPartyLoginUrl" || operation == "getServerUserManagement" ||
-           operation == "getHandle";
-}
 
 // The addresses of the running servers of every vehicle: connectRemoteServer finds a
 // server's vehicle there. Taken with a Servers lock held, and nothing is taken under it.
@@ -92,6 +85,8 @@ ServersSettings ServersSettings::parse(const nlohmann::json& section) {
             wholeNumber(section, "failedLogins", settings.failedLogins, 1, UINT16_MAX));
         settings.throttleMs = static_cast<uint32_t>(
             wholeNumber(section, "throttleMs", settings.throttleMs, 1, 3600000));
+        settings.failureNames = static_cast<uint32_t>(
+            wholeNumber(section, "failureNames", settings.failureNames, 1, 1000000));
         return settings;
     } catch (const std::exception& e) {
         throw TarnApiException(BadVehicleDescription, L"The vehicle description is not valid",
@@ -114,15 +109,57 @@ void ServersState::admit(uint64_t handle, std::string_view operation) {
         throw TarnApiException(ConnectionEnded, L"This remote connection has ended",
                                L"reconnectRemoteServer renews it while the server runs");
     }
-    if (!session->second.user.empty() || opensALogin(operation)) {
+    // A name the table lacks needs the most: admission fails closed.
+    const Admission needs = admission(operation).value_or(Admission::Administrator);
+    if (needs == Admission::Anyone) {
         return;
     }
     readUsersLocked();
-    if (userManagement_) {
+    if (!userManagement_) {
+        return; // no roles while user management is off
+    }
+    const std::wstring& user = session->second.user;
+    const std::wstring name = fromUtf8(std::string(operation));
+    if (user.empty()) {
         throw TarnApiException(NotLoggedIn, L"The server's user management is on: log in first",
                                session->second.client + L" has not logged in and may not call " +
-                                   fromUtf8(std::string(operation)));
+                                   name);
     }
+    if (needs == Admission::Administrator && !administratorLocked(user)) {
+        throw TarnApiException(NeedsAdministrator, L"Only an administrator may do this",
+                               session->second.client + L" is logged in as " + user +
+                                   L", not an administrator, and may not call " + name);
+    }
+}
+
+bool ServersState::administratorLocked(const std::wstring& user) const {
+    const auto found = users_.find(user);
+    return found != users_.end() && found->second.role == Administrator;
+}
+
+bool ServersState::administers(uint64_t handle) {
+    const std::lock_guard lock(mutex_);
+    const auto session = sessions_.find(handle);
+    if (session == sessions_.end() || session->second.client.empty()) {
+        return true; // the local engine object
+    }
+    readUsersLocked();
+    return !userManagement_ ||
+           (!session->second.ended && administratorLocked(session->second.user));
+}
+
+void ServersState::endSession(SimulatedVehicle& vehicle, uint64_t handle) {
+    {
+        const std::lock_guard lock(mutex_);
+        const auto session = sessions_.find(handle);
+        if (session != sessions_.end() && !session->second.client.empty() &&
+            !session->second.ended) {
+            session->second.ended = true;
+            session->second.user.clear();
+            announcements_.emplace_back(session->second.client, false);
+        }
+    }
+    announce(vehicle);
 }
 
 // {"userManagement": false, "users": [{"name", "role", "salt", "iterations", "hash"}]},
@@ -204,20 +241,6 @@ Servers::~Servers() {
     state_.sessions_.erase(handle_);
 }
 
-void Servers::requireAdministratorLocked() const {
-    state_.readUsersLocked();
-    if (remoteClient_.empty() || !state_.userManagement_) {
-        return;
-    }
-    const auto session = state_.sessions_.find(handle_);
-    const auto user = session == state_.sessions_.end() ? state_.users_.end()
-                                                        : state_.users_.find(session->second.user);
-    if (user == state_.users_.end() || user->second.role != Administrator) {
-        throw TarnApiException(NeedsAdministrator, L"Only an administrator may do this",
-                               remoteClient_ + L" is not logged in as an administrator");
-    }
-}
-
 template <class Which>
 std::vector<std::wstring> Servers::endSessionsLocked(Which which) {
     std::vector<std::wstring> ended;
@@ -277,7 +300,7 @@ std::wstring Servers::startServer(const std::wstring& name) {
     }
     const std::wstring address = L"kel-sim://" + server;
     const std::lock_guard lock(state_.mutex_);
-    requireAdministratorLocked();
+    state_.readUsersLocked(); // admitted by ServersState::admit
     if (!state_.serverAddress_.empty()) {
         throw TarnApiException(ServerRunning, L"The server runs already",
                                L"it listens at " + state_.serverAddress_);
@@ -302,7 +325,7 @@ void Servers::stopServer(const std::wstring& reason) {
     std::vector<std::wstring> ended;
     {
         const std::lock_guard lock(state_.mutex_);
-        requireAdministratorLocked();
+        state_.readUsersLocked(); // admitted by ServersState::admit
         if (state_.serverAddress_.empty()) {
             throw TarnApiException(ServerNotRunning, L"The server is not running");
         }
@@ -324,7 +347,7 @@ void Servers::restartServer(int32_t endClients) {
     std::vector<std::wstring> ended;
     {
         const std::lock_guard lock(state_.mutex_);
-        requireAdministratorLocked();
+        state_.readUsersLocked(); // admitted by ServersState::admit
         if (state_.serverAddress_.empty()) {
             throw TarnApiException(ServerNotRunning, L"The server is not running");
         }
@@ -363,12 +386,7 @@ void Servers::disconnect() {
             NotARemoteConnection, L"This engine object is not a remote connection",
             L"disconnect ends a remote connection; the local engine ends with end");
     }
-    std::vector<std::wstring> ended;
-    {
-        const std::lock_guard lock(state_.mutex_);
-        ended = endSessionsLocked([this](uint64_t handle) { return handle == handle_; });
-    }
-    announce();
+    state_.endSession(*vehicle_, handle_);
 }
 
 void Servers::disconnectAllClients() {
@@ -376,7 +394,7 @@ void Servers::disconnectAllClients() {
     std::vector<std::wstring> ended;
     {
         const std::lock_guard lock(state_.mutex_);
-        requireAdministratorLocked();
+        state_.readUsersLocked(); // admitted by ServersState::admit
         ended = endSessionsLocked([](uint64_t) { return true; });
     }
     announce();
@@ -413,7 +431,7 @@ void Servers::addUser(const std::wstring& name, const std::wstring& password, ui
     uint32_t iterations = 0;
     {
         const std::lock_guard lock(state_.mutex_);
-        requireAdministratorLocked();
+        state_.readUsersLocked(); // admitted by ServersState::admit
         if (state_.users_.contains(name)) {
             throw TarnApiException(UserExists, L"The user exists already", name);
         }
@@ -437,7 +455,7 @@ void Servers::addUser(const std::wstring& name, const std::wstring& password, ui
 void Servers::removeUser(const std::wstring& name) {
     vehicle_->lifecycle.requireInitialized();
     const std::lock_guard lock(state_.mutex_);
-    requireAdministratorLocked();
+    state_.readUsersLocked(); // admitted by ServersState::admit
     const auto user = state_.users_.find(name);
     if (user == state_.users_.end()) {
         throw TarnApiException(UnknownUser, L"There is no such user", name);
@@ -468,7 +486,7 @@ void Servers::updateUser(const std::wstring& name, const std::wstring& newName,
     uint32_t iterations = 0;
     {
         const std::lock_guard lock(state_.mutex_);
-        requireAdministratorLocked();
+        state_.readUsersLocked(); // admitted by ServersState::admit
         if (!state_.users_.contains(name)) {
             throw TarnApiException(UnknownUser, L"There is no such user", name);
         }
@@ -524,7 +542,7 @@ bool Servers::getServerUserManagement() {
 void Servers::setServerUserManagement(bool enabled) {
     vehicle_->lifecycle.requireInitialized();
     const std::lock_guard lock(state_.mutex_);
-    requireAdministratorLocked();
+    state_.readUsersLocked(); // admitted by ServersState::admit
     const bool before = state_.userManagement_;
     state_.userManagement_ = enabled;
     try {
@@ -554,17 +572,13 @@ void Servers::logIn(std::shared_ptr<LogInOutConfig> config) {
     const std::wstring& name = config->user;
     std::optional<PasswordHash> stored;
     uint32_t iterations = 0;
+    uint32_t attempt = 0;
     {
         const std::lock_guard lock(state_.mutex_);
         state_.readUsersLocked();
-        const auto failures = state_.failures_.find(name);
-        const auto now = loginClock();
-        if (failures != state_.failures_.end() && failures->second.until > now) {
-            const auto wait =
-                std::chrono::ceil<std::chrono::seconds>(failures->second.until - now).count();
-            throw TarnApiException(LoginThrottled, L"Too many failed logins: try again later",
-                                   name + L" may try again in " + std::to_wstring(wait) + L" s");
-        }
+        // Counted as a failure before the check, so that logins arriving together can
+        // run no more checks of one name than the throttle allows; a success forgets it.
+        attempt = state_.countAttemptLocked(name, loginClock());
         const auto user = state_.users_.find(name);
         if (user != state_.users_.end()) {
             stored = user->second.password;
@@ -581,21 +595,43 @@ void Servers::logIn(std::shared_ptr<LogInOutConfig> config) {
         loggedIn(name, L"A user logged in");
         return;
     }
-    // Names that are not users count too; the map is bounded all the same.
-    if (state_.failures_.size() >= 1000 && !state_.failures_.contains(name)) {
-        state_.failures_.erase(state_.failures_.begin());
-    }
-    auto& failures = state_.failures_[name];
-    ++failures.count;
-    const auto& settings = state_.settings_;
-    if (failures.count >= settings.failedLogins) {
-        const auto doublings = std::min<uint32_t>(failures.count - settings.failedLogins, 8);
-        failures.until =
-            loginClock() + std::chrono::milliseconds(uint64_t{settings.throttleMs} << doublings);
-    }
-    post(*vehicle_, EventKind::LoginFailed, static_cast<int32_t>(failures.count), L"A login failed",
-         name);
+    post(*vehicle_, EventKind::LoginFailed, static_cast<int32_t>(attempt), L"A login failed", name);
     throw TarnApiException(LoginFailed, L"The user name or the password is wrong", name);
+}
+
+uint32_t ServersState::countAttemptLocked(const std::wstring& name,
+                                          std::chrono::steady_clock::time_point now) {
+    auto found = failures_.find(name);
+    if (found != failures_.end() && found->second.until > now) {
+        const auto wait =
+            std::chrono::ceil<std::chrono::seconds>(found->second.until - now).count();
+        throw TarnApiException(LoginThrottled, L"Too many failed logins: try again later",
+                               name + L" may try again in " + std::to_wstring(wait) + L" s");
+    }
+    if (found == failures_.end()) {
+        // Names that are not users count too, so the table is bounded: a new name takes
+        // the place of one that is not throttled, never of one that is.
+        if (failures_.size() >= settings_.failureNames) {
+            const auto free =
+                std::find_if(failures_.begin(), failures_.end(),
+                             [now](const auto& entry) { return entry.second.until <= now; });
+            if (free == failures_.end()) {
+                throw TarnApiException(LoginThrottled, L"Too many failed logins: try again later",
+                                       L"logins of " + std::to_wstring(failures_.size()) +
+                                           L" names are throttled");
+            }
+            failures_.erase(free);
+        }
+        found = failures_.emplace(name, Failures{}).first;
+    }
+    auto& failures = found->second;
+    ++failures.count;
+    if (failures.count >= settings_.failedLogins) {
+        const auto doublings = std::min<uint32_t>(failures.count - settings_.failedLogins, 8);
+        failures.until =
+            now + std::chrono::milliseconds(uint64_t{settings_.throttleMs} << doublings);
+    }
+    return failures.count;
 }
 
 void Servers::logOut(std::shared_ptr<LogInOutConfig> config) {
@@ -686,7 +722,7 @@ std::vector<std::wstring> Servers::getCertificateChainById(const std::wstring& i
 void Servers::startSOVDServer() {
     vehicle_->lifecycle.requireInitialized();
     const std::lock_guard lock(state_.mutex_);
-    requireAdministratorLocked();
+    state_.readUsersLocked(); // admitted by ServersState::admit
     if (!state_.sovdAddress_.empty()) {
         throw TarnApiException(SovdServerRunning, L"The SOVD server runs already",
                                state_.sovdAddress_);
@@ -699,7 +735,7 @@ void Servers::startSOVDServer() {
 void Servers::stopSOVDServer() {
     vehicle_->lifecycle.requireInitialized();
     const std::lock_guard lock(state_.mutex_);
-    requireAdministratorLocked();
+    state_.readUsersLocked(); // admitted by ServersState::admit
     if (state_.sovdAddress_.empty()) {
         throw TarnApiException(SovdServerNotRunning, L"The SOVD server is not running");
     }

@@ -38,6 +38,7 @@ struct ServersSettings {
     uint32_t passwordIterations = 100000; // PBKDF2 iterations for a new password
     uint32_t failedLogins = 3;            // failures in a row before logins are throttled
     uint32_t throttleMs = 1000;           // the first wait; it doubles with each failure
+    uint32_t failureNames = 1000;         // names whose failures are kept at most
 
     // Throws TarnApiException BadVehicleDescription.
     static ServersSettings parse(const nlohmann::json& section);
@@ -49,8 +50,15 @@ class ServersState {
 public:
     void load(const ServersSettings& settings);
 
-    // The check every call of a remote client's connection passes (CallClock::admit).
+    // The check every call of a remote client's connection passes (CallClock::admit): the
+    // admission table of the description (generated/Admission.h) against its login.
     void admit(uint64_t handle, std::string_view operation);
+    // The engine object may do what an administrator may: the local one, or a remote
+    // connection logged in as an administrator (any while user management is off).
+    bool administers(uint64_t handle);
+    // Ends a remote connection's session (disconnect, and end on a remote connection)
+    // and announces it; nothing for the local engine object.
+    void endSession(SimulatedVehicle& vehicle, uint64_t handle);
 
     // A remote client's engine object is gone: its end is announced in turn with the
     // ends and renewals before it, never ahead of them.
@@ -78,6 +86,11 @@ private:
 
     // Callers hold mutex_.
     void readUsersLocked();
+    bool administratorLocked(const std::wstring& user) const;
+    // Counts a login attempt of `name` as a failure and returns the failures in a row;
+    // throws LoginThrottled instead while the name is throttled.
+    uint32_t countAttemptLocked(const std::wstring& name,
+                                std::chrono::steady_clock::time_point now);
     void saveUsersLocked();
 
     std::mutex mutex_;
@@ -136,11 +149,6 @@ public:
     std::shared_ptr<TarnApiServerConfig> getServerConfiguration() override;
 
 private:
-    // Callers hold the state's lock; reads the users first. Throws unless this object may
-    // manage the server:
-    // the local engine object, or a remote client logged in as an administrator (any
-    // remote client while user management is off).
-    void requireAdministratorLocked() const;
     // Ends the sessions `which` selects and queues their announcement, which the caller
     // makes once the lock is let go (announce).
     template <class Which>

@@ -92,7 +92,8 @@ struct Broker {
     Resolved directory(const Sandbox& box, const std::wstring& relative) const;
 };
 
-// The engine's own store: the public directory "updates" under the data root.
+// The engine's own store: "updates" under the data root, out of every public
+// directory's reach (FilesState::updateStore).
 //   packages/<name>-<version>/  manifest.json and payload of each downloaded package
 //   tmp/                        downloads in progress; a failed one stays until cleaned
 //   components/<component>/     the payload of each installed engine component

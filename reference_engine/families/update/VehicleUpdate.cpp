@@ -252,7 +252,7 @@ VehicleUpdate::Context VehicleUpdate::ready() const {
     vehicle_->lifecycle.requireInitialized();
     Sandbox box = vehicle_->files.sandbox();
     Broker broker = Broker::open(box, vehicle_->vehicleUpdate.broker());
-    UpdateStore store(box.resolve(L"updates"));
+    UpdateStore store(FilesState::updateStore());
     // Weak: an asynchronous update's run keeps this, and must not keep the vehicle whose
     // calls it belongs to.
     std::weak_ptr<SimulatedVehicle> weak = vehicle_;

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Coding = kc::ConformanceTest;
 using CodingByNumber = kc::ConformanceTest;
+using CodingAdmission = kc::AdmissionTest;
 
 // ---- readCodingStrings (position 33, number 32) ----
 
@@ -101,6 +102,9 @@ TEST_F(Coding, readCodingStrings_Exchange) {
 TEST_F(Coding, readCodingStrings_Failure) {
     kc::failure<ReadCodingStringsExport>(api, kReadCodingStringsCases);
 }
+TEST_F(CodingAdmission, readCodingStrings) {
+    kc::admission<ReadCodingStringsExport>(callers(), kReadCodingStringsCases, kc::Needs::Operator);
+}
 
 struct ReadCodingStringsAsyncExport {
     static constexpr const char* operation = "readCodingStringsAsync";
@@ -117,6 +121,10 @@ TEST_F(Coding, readCodingStringsAsync_Exchange) {
 }
 TEST_F(Coding, readCodingStringsAsync_Failure) {
     kc::asyncFailure<ReadCodingStringsAsyncExport>(api, kReadCodingStringsCases);
+}
+TEST_F(CodingAdmission, readCodingStringsAsync) {
+    kc::asyncAdmission<ReadCodingStringsAsyncExport>(callers(), kReadCodingStringsCases,
+                                                     kc::Needs::Operator);
 }
 
 const char* const kReadCodingStringsNoUtf8[] = {
@@ -168,6 +176,9 @@ TEST_F(Coding, calculateChecksum_Exchange) {
 }
 TEST_F(Coding, calculateChecksum_Failure) {
     kc::failure<CalculateChecksumExport>(api, kCalculateChecksumCases);
+}
+TEST_F(CodingAdmission, calculateChecksum) {
+    kc::admission<CalculateChecksumExport>(callers(), kCalculateChecksumCases, kc::Needs::Operator);
 }
 
 const char* const kCalculateChecksumNoUtf8[] = {
@@ -278,6 +289,9 @@ TEST_F(Coding, writeCodingFile_Exchange) {
 TEST_F(Coding, writeCodingFile_Failure) {
     kc::failure<WriteCodingFileExport>(api, kWriteCodingFileCases);
 }
+TEST_F(CodingAdmission, writeCodingFile) {
+    kc::admission<WriteCodingFileExport>(callers(), kWriteCodingFileCases, kc::Needs::Operator);
+}
 
 struct WriteCodingFileAsyncExport {
     static constexpr const char* operation = "writeCodingFileAsync";
@@ -295,6 +309,10 @@ TEST_F(Coding, writeCodingFileAsync_Exchange) {
 }
 TEST_F(Coding, writeCodingFileAsync_Failure) {
     kc::asyncFailure<WriteCodingFileAsyncExport>(api, kWriteCodingFileCases);
+}
+TEST_F(CodingAdmission, writeCodingFileAsync) {
+    kc::asyncAdmission<WriteCodingFileAsyncExport>(callers(), kWriteCodingFileCases,
+                                                   kc::Needs::Operator);
 }
 
 const char* const kWriteCodingFileNoUtf8[] = {
@@ -401,6 +419,10 @@ TEST_F(Coding, performEcuConfiguration_Exchange) {
 TEST_F(Coding, performEcuConfiguration_Failure) {
     kc::failure<PerformEcuConfigurationExport>(api, kPerformEcuConfigurationCases);
 }
+TEST_F(CodingAdmission, performEcuConfiguration) {
+    kc::admission<PerformEcuConfigurationExport>(callers(), kPerformEcuConfigurationCases,
+                                                 kc::Needs::Operator);
+}
 
 struct PerformEcuConfigurationAsyncExport {
     static constexpr const char* operation = "performEcuConfigurationAsync";
@@ -418,6 +440,10 @@ TEST_F(Coding, performEcuConfigurationAsync_Exchange) {
 }
 TEST_F(Coding, performEcuConfigurationAsync_Failure) {
     kc::asyncFailure<PerformEcuConfigurationAsyncExport>(api, kPerformEcuConfigurationCases);
+}
+TEST_F(CodingAdmission, performEcuConfigurationAsync) {
+    kc::asyncAdmission<PerformEcuConfigurationAsyncExport>(callers(), kPerformEcuConfigurationCases,
+                                                           kc::Needs::Operator);
 }
 
 const char* const kPerformEcuConfigurationNoUtf8[] = {

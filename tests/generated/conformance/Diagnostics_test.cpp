@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Diagnostics = kc::ConformanceTest;
 using DiagnosticsByNumber = kc::ConformanceTest;
+using DiagnosticsAdmission = kc::AdmissionTest;
 
 // ---- identifyAllTargets (position 17, number 17) ----
 
@@ -81,6 +82,10 @@ TEST_F(Diagnostics, identifyAllTargets_Exchange) {
 TEST_F(Diagnostics, identifyAllTargets_Failure) {
     kc::failure<IdentifyAllTargetsExport>(api, kIdentifyAllTargetsCases);
 }
+TEST_F(DiagnosticsAdmission, identifyAllTargets) {
+    kc::admission<IdentifyAllTargetsExport>(callers(), kIdentifyAllTargetsCases,
+                                            kc::Needs::Operator);
+}
 
 struct IdentifyAllTargetsAsyncExport {
     static constexpr const char* operation = "identifyAllTargetsAsync";
@@ -96,6 +101,10 @@ TEST_F(Diagnostics, identifyAllTargetsAsync_Exchange) {
 }
 TEST_F(Diagnostics, identifyAllTargetsAsync_Failure) {
     kc::asyncFailure<IdentifyAllTargetsAsyncExport>(api, kIdentifyAllTargetsCases);
+}
+TEST_F(DiagnosticsAdmission, identifyAllTargetsAsync) {
+    kc::asyncAdmission<IdentifyAllTargetsAsyncExport>(callers(), kIdentifyAllTargetsCases,
+                                                      kc::Needs::Operator);
 }
 
 const kc::Number kNumber17{17, "identifyAllTargets", kIdentifyAllTargetsCases};
@@ -389,6 +398,10 @@ TEST_F(Diagnostics, readIdentificationValues_Exchange) {
 TEST_F(Diagnostics, readIdentificationValues_Failure) {
     kc::failure<ReadIdentificationValuesExport>(api, kReadIdentificationValuesCases);
 }
+TEST_F(DiagnosticsAdmission, readIdentificationValues) {
+    kc::admission<ReadIdentificationValuesExport>(callers(), kReadIdentificationValuesCases,
+                                                  kc::Needs::Operator);
+}
 
 struct ReadIdentificationValuesAsyncExport {
     static constexpr const char* operation = "readIdentificationValuesAsync";
@@ -405,6 +418,10 @@ TEST_F(Diagnostics, readIdentificationValuesAsync_Exchange) {
 }
 TEST_F(Diagnostics, readIdentificationValuesAsync_Failure) {
     kc::asyncFailure<ReadIdentificationValuesAsyncExport>(api, kReadIdentificationValuesCases);
+}
+TEST_F(DiagnosticsAdmission, readIdentificationValuesAsync) {
+    kc::asyncAdmission<ReadIdentificationValuesAsyncExport>(
+        callers(), kReadIdentificationValuesCases, kc::Needs::Operator);
 }
 
 const char* const kReadIdentificationValuesNoUtf8[] = {
@@ -717,6 +734,10 @@ TEST_F(Diagnostics, readDataByIdentifiers_Exchange) {
 TEST_F(Diagnostics, readDataByIdentifiers_Failure) {
     kc::failure<ReadDataByIdentifiersExport>(api, kReadDataByIdentifiersCases);
 }
+TEST_F(DiagnosticsAdmission, readDataByIdentifiers) {
+    kc::admission<ReadDataByIdentifiersExport>(callers(), kReadDataByIdentifiersCases,
+                                               kc::Needs::Operator);
+}
 
 const char* const kReadDataByIdentifiersNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 21.1\\ud800\",[\"\346\227\245\346\234\254\350"
@@ -804,6 +825,9 @@ TEST_F(Diagnostics, identifyTarget_Exchange) {
 }
 TEST_F(Diagnostics, identifyTarget_Failure) {
     kc::failure<IdentifyTargetExport>(api, kIdentifyTargetCases);
+}
+TEST_F(DiagnosticsAdmission, identifyTarget) {
+    kc::admission<IdentifyTargetExport>(callers(), kIdentifyTargetCases, kc::Needs::Operator);
 }
 
 const char* const kIdentifyTargetNoUtf8[] = {
@@ -1300,6 +1324,9 @@ struct ReadDtcsExport {
 
 TEST_F(Diagnostics, readDtcs_Exchange) { kc::exchange<ReadDtcsExport>(api, kReadDtcsCases); }
 TEST_F(Diagnostics, readDtcs_Failure) { kc::failure<ReadDtcsExport>(api, kReadDtcsCases); }
+TEST_F(DiagnosticsAdmission, readDtcs) {
+    kc::admission<ReadDtcsExport>(callers(), kReadDtcsCases, kc::Needs::Operator);
+}
 
 struct ReadDtcsAsyncExport {
     static constexpr const char* operation = "readDtcsAsync";
@@ -1316,6 +1343,9 @@ TEST_F(Diagnostics, readDtcsAsync_Exchange) {
 }
 TEST_F(Diagnostics, readDtcsAsync_Failure) {
     kc::asyncFailure<ReadDtcsAsyncExport>(api, kReadDtcsCases);
+}
+TEST_F(DiagnosticsAdmission, readDtcsAsync) {
+    kc::asyncAdmission<ReadDtcsAsyncExport>(callers(), kReadDtcsCases, kc::Needs::Operator);
 }
 
 const char* const kReadDtcsNoUtf8[] = {
@@ -1818,6 +1848,9 @@ TEST_F(Diagnostics, readSupportedDtcs_Exchange) {
 TEST_F(Diagnostics, readSupportedDtcs_Failure) {
     kc::failure<ReadSupportedDtcsExport>(api, kReadSupportedDtcsCases);
 }
+TEST_F(DiagnosticsAdmission, readSupportedDtcs) {
+    kc::admission<ReadSupportedDtcsExport>(callers(), kReadSupportedDtcsCases, kc::Needs::Operator);
+}
 
 struct ReadSupportedDtcsAsyncExport {
     static constexpr const char* operation = "readSupportedDtcsAsync";
@@ -1835,6 +1868,10 @@ TEST_F(Diagnostics, readSupportedDtcsAsync_Exchange) {
 }
 TEST_F(Diagnostics, readSupportedDtcsAsync_Failure) {
     kc::asyncFailure<ReadSupportedDtcsAsyncExport>(api, kReadSupportedDtcsCases);
+}
+TEST_F(DiagnosticsAdmission, readSupportedDtcsAsync) {
+    kc::asyncAdmission<ReadSupportedDtcsAsyncExport>(callers(), kReadSupportedDtcsCases,
+                                                     kc::Needs::Operator);
 }
 
 const char* const kReadSupportedDtcsNoUtf8[] = {
@@ -1930,6 +1967,9 @@ TEST_F(Diagnostics, clearAllDtcs_Exchange) {
 TEST_F(Diagnostics, clearAllDtcs_Failure) {
     kc::failure<ClearAllDtcsExport>(api, kClearAllDtcsCases);
 }
+TEST_F(DiagnosticsAdmission, clearAllDtcs) {
+    kc::admission<ClearAllDtcsExport>(callers(), kClearAllDtcsCases, kc::Needs::Operator);
+}
 
 struct ClearAllDtcsAsyncExport {
     static constexpr const char* operation = "clearAllDtcsAsync";
@@ -1946,6 +1986,9 @@ TEST_F(Diagnostics, clearAllDtcsAsync_Exchange) {
 }
 TEST_F(Diagnostics, clearAllDtcsAsync_Failure) {
     kc::asyncFailure<ClearAllDtcsAsyncExport>(api, kClearAllDtcsCases);
+}
+TEST_F(DiagnosticsAdmission, clearAllDtcsAsync) {
+    kc::asyncAdmission<ClearAllDtcsAsyncExport>(callers(), kClearAllDtcsCases, kc::Needs::Operator);
 }
 
 const char* const kClearAllDtcsNoUtf8[] = {
@@ -2455,6 +2498,9 @@ TEST_F(Diagnostics, performQuickTest_Exchange) {
 TEST_F(Diagnostics, performQuickTest_Failure) {
     kc::failure<PerformQuickTestExport>(api, kPerformQuickTestCases);
 }
+TEST_F(DiagnosticsAdmission, performQuickTest) {
+    kc::admission<PerformQuickTestExport>(callers(), kPerformQuickTestCases, kc::Needs::Operator);
+}
 
 struct PerformQuickTestAsyncExport {
     static constexpr const char* operation = "performQuickTestAsync";
@@ -2472,6 +2518,10 @@ TEST_F(Diagnostics, performQuickTestAsync_Exchange) {
 }
 TEST_F(Diagnostics, performQuickTestAsync_Failure) {
     kc::asyncFailure<PerformQuickTestAsyncExport>(api, kPerformQuickTestCases);
+}
+TEST_F(DiagnosticsAdmission, performQuickTestAsync) {
+    kc::asyncAdmission<PerformQuickTestAsyncExport>(callers(), kPerformQuickTestCases,
+                                                    kc::Needs::Operator);
 }
 
 const char* const kPerformQuickTestNoUtf8[] = {
@@ -2573,6 +2623,9 @@ TEST_F(Diagnostics, identifyTargets_Exchange) {
 TEST_F(Diagnostics, identifyTargets_Failure) {
     kc::failure<IdentifyTargetsExport>(api, kIdentifyTargetsCases);
 }
+TEST_F(DiagnosticsAdmission, identifyTargets) {
+    kc::admission<IdentifyTargetsExport>(callers(), kIdentifyTargetsCases, kc::Needs::Operator);
+}
 
 struct IdentifyTargetsAsyncExport {
     static constexpr const char* operation = "identifyTargetsAsync";
@@ -2589,6 +2642,10 @@ TEST_F(Diagnostics, identifyTargetsAsync_Exchange) {
 }
 TEST_F(Diagnostics, identifyTargetsAsync_Failure) {
     kc::asyncFailure<IdentifyTargetsAsyncExport>(api, kIdentifyTargetsCases);
+}
+TEST_F(DiagnosticsAdmission, identifyTargetsAsync) {
+    kc::asyncAdmission<IdentifyTargetsAsyncExport>(callers(), kIdentifyTargetsCases,
+                                                   kc::Needs::Operator);
 }
 
 const char* const kIdentifyTargetsNoUtf8[] = {
@@ -2737,6 +2794,10 @@ TEST_F(Diagnostics, getFilteredTargets_Exchange) {
 TEST_F(Diagnostics, getFilteredTargets_Failure) {
     kc::failure<GetFilteredTargetsExport>(api, kGetFilteredTargetsCases);
 }
+TEST_F(DiagnosticsAdmission, getFilteredTargets) {
+    kc::admission<GetFilteredTargetsExport>(callers(), kGetFilteredTargetsCases,
+                                            kc::Needs::Operator);
+}
 
 const char* const kGetFilteredTargetsNoUtf8[] = {
     "[[{\"pattern\":\"\\udc00Pr\303\274fstand \342\202\254 74.1\\ud800\",\"flag\":255,\"value"
@@ -2847,6 +2908,9 @@ TEST_F(Diagnostics, getTargetStatus_Exchange) {
 TEST_F(Diagnostics, getTargetStatus_Failure) {
     kc::failure<GetTargetStatusExport>(api, kGetTargetStatusCases);
 }
+TEST_F(DiagnosticsAdmission, getTargetStatus) {
+    kc::admission<GetTargetStatusExport>(callers(), kGetTargetStatusCases, kc::Needs::Operator);
+}
 
 const char* const kGetTargetStatusNoUtf8[] = {
     "[[\"\\udc00Pr\303\274fstand \342\202\254 181.1\\ud800\",\"\",\"\346\227\245\346\234\254"
@@ -2933,6 +2997,9 @@ TEST_F(Diagnostics, clearSpecificDtcs_Exchange) {
 TEST_F(Diagnostics, clearSpecificDtcs_Failure) {
     kc::failure<ClearSpecificDtcsExport>(api, kClearSpecificDtcsCases);
 }
+TEST_F(DiagnosticsAdmission, clearSpecificDtcs) {
+    kc::admission<ClearSpecificDtcsExport>(callers(), kClearSpecificDtcsCases, kc::Needs::Operator);
+}
 
 struct ClearSpecificDtcsAsyncExport {
     static constexpr const char* operation = "clearSpecificDtcsAsync";
@@ -2950,6 +3017,10 @@ TEST_F(Diagnostics, clearSpecificDtcsAsync_Exchange) {
 }
 TEST_F(Diagnostics, clearSpecificDtcsAsync_Failure) {
     kc::asyncFailure<ClearSpecificDtcsAsyncExport>(api, kClearSpecificDtcsCases);
+}
+TEST_F(DiagnosticsAdmission, clearSpecificDtcsAsync) {
+    kc::asyncAdmission<ClearSpecificDtcsAsyncExport>(callers(), kClearSpecificDtcsCases,
+                                                     kc::Needs::Operator);
 }
 
 const char* const kClearSpecificDtcsNoUtf8[] = {
@@ -3080,6 +3151,9 @@ struct GetTargetsExport {
 
 TEST_F(Diagnostics, getTargets_Exchange) { kc::exchange<GetTargetsExport>(api, kGetTargetsCases); }
 TEST_F(Diagnostics, getTargets_Failure) { kc::failure<GetTargetsExport>(api, kGetTargetsCases); }
+TEST_F(DiagnosticsAdmission, getTargets) {
+    kc::admission<GetTargetsExport>(callers(), kGetTargetsCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber58{58, "getTargets", kGetTargetsCases};
 
@@ -3123,6 +3197,10 @@ TEST_F(Diagnostics, getSessionTargetFilters_Exchange) {
 }
 TEST_F(Diagnostics, getSessionTargetFilters_Failure) {
     kc::failure<GetSessionTargetFiltersExport>(api, kGetSessionTargetFiltersCases);
+}
+TEST_F(DiagnosticsAdmission, getSessionTargetFilters) {
+    kc::admission<GetSessionTargetFiltersExport>(callers(), kGetSessionTargetFiltersCases,
+                                                 kc::Needs::Operator);
 }
 
 const kc::Number kNumber90{90, "getSessionTargetFilters", kGetSessionTargetFiltersCases};
@@ -3174,6 +3252,10 @@ TEST_F(Diagnostics, setSessionTargetFilters_Exchange) {
 }
 TEST_F(Diagnostics, setSessionTargetFilters_Failure) {
     kc::failure<SetSessionTargetFiltersExport>(api, kSetSessionTargetFiltersCases);
+}
+TEST_F(DiagnosticsAdmission, setSessionTargetFilters) {
+    kc::admission<SetSessionTargetFiltersExport>(callers(), kSetSessionTargetFiltersCases,
+                                                 kc::Needs::Operator);
 }
 
 const char* const kSetSessionTargetFiltersNoUtf8[] = {

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using EcuOrder = kc::ConformanceTest;
 using EcuOrderByNumber = kc::ConformanceTest;
+using EcuOrderAdmission = kc::AdmissionTest;
 
 // ---- readEcuOrder (position 112, number 143) ----
 
@@ -58,6 +59,9 @@ TEST_F(EcuOrder, readEcuOrder_Exchange) {
     kc::exchange<ReadEcuOrderExport>(api, kReadEcuOrderCases);
 }
 TEST_F(EcuOrder, readEcuOrder_Failure) { kc::failure<ReadEcuOrderExport>(api, kReadEcuOrderCases); }
+TEST_F(EcuOrderAdmission, readEcuOrder) {
+    kc::admission<ReadEcuOrderExport>(callers(), kReadEcuOrderCases, kc::Needs::Operator);
+}
 
 const char* const kReadEcuOrderNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 112.1\\ud800\"]",
@@ -147,6 +151,9 @@ TEST_F(EcuOrder, filterEcuOrder_Exchange) {
 }
 TEST_F(EcuOrder, filterEcuOrder_Failure) {
     kc::failure<FilterEcuOrderExport>(api, kFilterEcuOrderCases);
+}
+TEST_F(EcuOrderAdmission, filterEcuOrder) {
+    kc::admission<FilterEcuOrderExport>(callers(), kFilterEcuOrderCases, kc::Needs::Operator);
 }
 
 const char* const kFilterEcuOrderNoUtf8[] = {
@@ -244,6 +251,10 @@ TEST_F(EcuOrder, addMissingTargetsToEcuOrder_Exchange) {
 TEST_F(EcuOrder, addMissingTargetsToEcuOrder_Failure) {
     kc::failure<AddMissingTargetsToEcuOrderExport>(api, kAddMissingTargetsToEcuOrderCases);
 }
+TEST_F(EcuOrderAdmission, addMissingTargetsToEcuOrder) {
+    kc::admission<AddMissingTargetsToEcuOrderExport>(callers(), kAddMissingTargetsToEcuOrderCases,
+                                                     kc::Needs::Operator);
+}
 
 const char* const kAddMissingTargetsToEcuOrderNoUtf8[] = {
     "[[{\"target\":\"\\udc00Pr\303\274fstand \342\202\254 114.1\\ud800\",\"bus\":\"\346\227"
@@ -315,6 +326,10 @@ TEST_F(EcuOrder, createDefaultECUOrder_Exchange) {
 TEST_F(EcuOrder, createDefaultECUOrder_Failure) {
     kc::failure<CreateDefaultECUOrderExport>(api, kCreateDefaultECUOrderCases);
 }
+TEST_F(EcuOrderAdmission, createDefaultECUOrder) {
+    kc::admission<CreateDefaultECUOrderExport>(callers(), kCreateDefaultECUOrderCases,
+                                               kc::Needs::Operator);
+}
 
 const kc::Number kNumber250{250, "createDefaultECUOrder", kCreateDefaultECUOrderCases};
 
@@ -375,6 +390,9 @@ TEST_F(EcuOrder, writeEcuOrder_Exchange) {
 TEST_F(EcuOrder, writeEcuOrder_Failure) {
     kc::failure<WriteEcuOrderExport>(api, kWriteEcuOrderCases);
 }
+TEST_F(EcuOrderAdmission, writeEcuOrder) {
+    kc::admission<WriteEcuOrderExport>(callers(), kWriteEcuOrderCases, kc::Needs::Operator);
+}
 
 const char* const kWriteEcuOrderNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 223.1\\ud800\",[{\"target\":\"\346\227\245\346"
@@ -428,6 +446,10 @@ TEST_F(EcuOrder, getEcuOrderFilePath_Exchange) {
 }
 TEST_F(EcuOrder, getEcuOrderFilePath_Failure) {
     kc::failure<GetEcuOrderFilePathExport>(api, kGetEcuOrderFilePathCases);
+}
+TEST_F(EcuOrderAdmission, getEcuOrderFilePath) {
+    kc::admission<GetEcuOrderFilePathExport>(callers(), kGetEcuOrderFilePathCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber256{256, "getEcuOrderFilePath", kGetEcuOrderFilePathCases};

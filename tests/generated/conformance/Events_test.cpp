@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Events = kc::ConformanceTest;
 using EventsByNumber = kc::ConformanceTest;
+using EventsAdmission = kc::AdmissionTest;
 
 // ---- openEventChannel (position 46, number 45) ----
 
@@ -32,6 +33,9 @@ TEST_F(Events, openEventChannel_Exchange) {
 }
 TEST_F(Events, openEventChannel_Failure) {
     kc::failure<OpenEventChannelExport>(api, kOpenEventChannelCases);
+}
+TEST_F(EventsAdmission, openEventChannel) {
+    kc::admission<OpenEventChannelExport>(callers(), kOpenEventChannelCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber45{45, "openEventChannel", kOpenEventChannelCases};
@@ -61,6 +65,9 @@ TEST_F(Events, closeEventChannel_Exchange) {
 }
 TEST_F(Events, closeEventChannel_Failure) {
     kc::failure<CloseEventChannelExport>(api, kCloseEventChannelCases);
+}
+TEST_F(EventsAdmission, closeEventChannel) {
+    kc::admission<CloseEventChannelExport>(callers(), kCloseEventChannelCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber46{46, "closeEventChannel", kCloseEventChannelCases};
@@ -145,6 +152,9 @@ TEST_F(Events, getCurrentEvents_Exchange) {
 TEST_F(Events, getCurrentEvents_Failure) {
     kc::failure<GetCurrentEventsExport>(api, kGetCurrentEventsCases);
 }
+TEST_F(EventsAdmission, getCurrentEvents) {
+    kc::admission<GetCurrentEventsExport>(callers(), kGetCurrentEventsCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber47{47, "getCurrentEvents", kGetCurrentEventsCases};
 
@@ -176,6 +186,10 @@ TEST_F(Events, registerServerHandler_Exchange) {
 TEST_F(Events, registerServerHandler_Failure) {
     kc::failure<RegisterServerHandlerExport>(api, kRegisterServerHandlerCases);
 }
+TEST_F(EventsAdmission, registerServerHandler) {
+    kc::admission<RegisterServerHandlerExport>(callers(), kRegisterServerHandlerCases,
+                                               kc::Needs::Administrator);
+}
 
 const kc::Number kNumber254{254, "registerServerHandler", kRegisterServerHandlerCases};
 
@@ -205,6 +219,10 @@ TEST_F(Events, onConnectionBroken_Exchange) {
 TEST_F(Events, onConnectionBroken_Failure) {
     kc::failure<OnConnectionBrokenExport>(api, kOnConnectionBrokenCases);
 }
+TEST_F(EventsAdmission, onConnectionBroken) {
+    kc::admission<OnConnectionBrokenExport>(callers(), kOnConnectionBrokenCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber188{188, "onConnectionBroken", kOnConnectionBrokenCases};
 
@@ -233,6 +251,10 @@ TEST_F(Events, onConnectionClosed_Exchange) {
 }
 TEST_F(Events, onConnectionClosed_Failure) {
     kc::failure<OnConnectionClosedExport>(api, kOnConnectionClosedCases);
+}
+TEST_F(EventsAdmission, onConnectionClosed) {
+    kc::admission<OnConnectionClosedExport>(callers(), kOnConnectionClosedCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber226{226, "onConnectionClosed", kOnConnectionClosedCases};

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Files = kc::ConformanceTest;
 using FilesByNumber = kc::ConformanceTest;
+using FilesAdmission = kc::AdmissionTest;
 
 // ---- readFile (position 60, number 77) ----
 
@@ -46,6 +47,9 @@ struct ReadFileExport {
 
 TEST_F(Files, readFile_Exchange) { kc::exchange<ReadFileExport>(api, kReadFileCases); }
 TEST_F(Files, readFile_Failure) { kc::failure<ReadFileExport>(api, kReadFileCases); }
+TEST_F(FilesAdmission, readFile) {
+    kc::admission<ReadFileExport>(callers(), kReadFileCases, kc::Needs::Operator);
+}
 
 const char* const kReadFileNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 60.1\\ud800\",9223372036854775809,4294967295,128"
@@ -338,6 +342,10 @@ TEST_F(Files, getProjectDirectory_Exchange) {
 TEST_F(Files, getProjectDirectory_Failure) {
     kc::failure<GetProjectDirectoryExport>(api, kGetProjectDirectoryCases);
 }
+TEST_F(FilesAdmission, getProjectDirectory) {
+    kc::admission<GetProjectDirectoryExport>(callers(), kGetProjectDirectoryCases,
+                                             kc::Needs::Operator);
+}
 
 const kc::Number kNumber129{129, "getProjectDirectory", kGetProjectDirectoryCases};
 
@@ -624,6 +632,10 @@ TEST_F(Files, getSelectedProjectDirectory_Exchange) {
 TEST_F(Files, getSelectedProjectDirectory_Failure) {
     kc::failure<GetSelectedProjectDirectoryExport>(api, kGetSelectedProjectDirectoryCases);
 }
+TEST_F(FilesAdmission, getSelectedProjectDirectory) {
+    kc::admission<GetSelectedProjectDirectoryExport>(callers(), kGetSelectedProjectDirectoryCases,
+                                                     kc::Needs::Operator);
+}
 
 const kc::Number kNumber130{130, "getSelectedProjectDirectory", kGetSelectedProjectDirectoryCases};
 
@@ -665,6 +677,9 @@ struct WriteFileExport {
 
 TEST_F(Files, writeFile_Exchange) { kc::exchange<WriteFileExport>(api, kWriteFileCases); }
 TEST_F(Files, writeFile_Failure) { kc::failure<WriteFileExport>(api, kWriteFileCases); }
+TEST_F(FilesAdmission, writeFile) {
+    kc::admission<WriteFileExport>(callers(), kWriteFileCases, kc::Needs::Operator);
+}
 
 const char* const kWriteFileNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 102.1\\ud800\",[0,255,255,128,127,1],4294967295,"
@@ -812,6 +827,9 @@ struct DeleteFilesExport {
 
 TEST_F(Files, deleteFiles_Exchange) { kc::exchange<DeleteFilesExport>(api, kDeleteFilesCases); }
 TEST_F(Files, deleteFiles_Failure) { kc::failure<DeleteFilesExport>(api, kDeleteFilesCases); }
+TEST_F(FilesAdmission, deleteFiles) {
+    kc::admission<DeleteFilesExport>(callers(), kDeleteFilesCases, kc::Needs::Operator);
+}
 
 const char* const kDeleteFilesNoUtf8[] = {
     "[[{\"name\":\"\\udc00Pr\303\274fstand \342\202\254 103.1\\ud800\",\"error\":{\"code\":-2"
@@ -1377,6 +1395,9 @@ TEST_F(Files, findDirectories_Exchange) {
 TEST_F(Files, findDirectories_Failure) {
     kc::failure<FindDirectoriesExport>(api, kFindDirectoriesCases);
 }
+TEST_F(FilesAdmission, findDirectories) {
+    kc::admission<FindDirectoriesExport>(callers(), kFindDirectoriesCases, kc::Needs::Operator);
+}
 
 const char* const kFindDirectoriesNoUtf8[] = {
     "[{\"name\":\"\\udc00Pr\303\274fstand \342\202\254 104.1\\ud800\",\"error\":{\"code\":-21"
@@ -1713,6 +1734,9 @@ struct FindFilesExport {
 
 TEST_F(Files, findFiles_Exchange) { kc::exchange<FindFilesExport>(api, kFindFilesCases); }
 TEST_F(Files, findFiles_Failure) { kc::failure<FindFilesExport>(api, kFindFilesCases); }
+TEST_F(FilesAdmission, findFiles) {
+    kc::admission<FindFilesExport>(callers(), kFindFilesCases, kc::Needs::Operator);
+}
 
 const char* const kFindFilesNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 105.1\\ud800\",\"\346\227\245\346\234\254\350"
@@ -2152,6 +2176,10 @@ TEST_F(Files, initializeDirectoryElements_Exchange) {
 TEST_F(Files, initializeDirectoryElements_Failure) {
     kc::failure<InitializeDirectoryElementsExport>(api, kInitializeDirectoryElementsCases);
 }
+TEST_F(FilesAdmission, initializeDirectoryElements) {
+    kc::admission<InitializeDirectoryElementsExport>(callers(), kInitializeDirectoryElementsCases,
+                                                     kc::Needs::Operator);
+}
 
 const char* const kInitializeDirectoryElementsNoUtf8[] = {
     "[{\"name\":\"\\udc00Pr\303\274fstand \342\202\254 106.1\\ud800\",\"error\":{\"code\":-21"
@@ -2590,6 +2618,9 @@ struct CreateFileExport {
 
 TEST_F(Files, createFile_Exchange) { kc::exchange<CreateFileExport>(api, kCreateFileCases); }
 TEST_F(Files, createFile_Failure) { kc::failure<CreateFileExport>(api, kCreateFileCases); }
+TEST_F(FilesAdmission, createFile) {
+    kc::admission<CreateFileExport>(callers(), kCreateFileCases, kc::Needs::Operator);
+}
 
 const char* const kCreateFileNoUtf8[] = {
     "[{\"name\":\"\\udc00Pr\303\274fstand \342\202\254 107.1\\ud800\",\"error\":{\"code\":-21"
@@ -3257,6 +3288,9 @@ TEST_F(Files, createDirectory_Exchange) {
 TEST_F(Files, createDirectory_Failure) {
     kc::failure<CreateDirectoryExport>(api, kCreateDirectoryCases);
 }
+TEST_F(FilesAdmission, createDirectory) {
+    kc::admission<CreateDirectoryExport>(callers(), kCreateDirectoryCases, kc::Needs::Operator);
+}
 
 const char* const kCreateDirectoryNoUtf8[] = {
     "[{\"name\":\"\\udc00Pr\303\274fstand \342\202\254 108.1\\ud800\",\"error\":{\"code\":-21"
@@ -3569,6 +3603,9 @@ TEST_F(Files, deleteDirectory_Exchange) {
 TEST_F(Files, deleteDirectory_Failure) {
     kc::failure<DeleteDirectoryExport>(api, kDeleteDirectoryCases);
 }
+TEST_F(FilesAdmission, deleteDirectory) {
+    kc::admission<DeleteDirectoryExport>(callers(), kDeleteDirectoryCases, kc::Needs::Operator);
+}
 
 const char* const kDeleteDirectoryNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 109.1\\ud800\"]",
@@ -3862,6 +3899,9 @@ TEST_F(Files, getTraceDirectory_Exchange) {
 TEST_F(Files, getTraceDirectory_Failure) {
     kc::failure<GetTraceDirectoryExport>(api, kGetTraceDirectoryCases);
 }
+TEST_F(FilesAdmission, getTraceDirectory) {
+    kc::admission<GetTraceDirectoryExport>(callers(), kGetTraceDirectoryCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber136{136, "getTraceDirectory", kGetTraceDirectoryCases};
 
@@ -3988,6 +4028,9 @@ struct CopyFilesExport {
 
 TEST_F(Files, copyFiles_Exchange) { kc::exchange<CopyFilesExport>(api, kCopyFilesCases); }
 TEST_F(Files, copyFiles_Failure) { kc::failure<CopyFilesExport>(api, kCopyFilesCases); }
+TEST_F(FilesAdmission, copyFiles) {
+    kc::admission<CopyFilesExport>(callers(), kCopyFilesCases, kc::Needs::Operator);
+}
 
 struct CopyFilesAsyncExport {
     static constexpr const char* operation = "copyFilesAsync";
@@ -4003,6 +4046,9 @@ TEST_F(Files, copyFilesAsync_Exchange) {
 }
 TEST_F(Files, copyFilesAsync_Failure) {
     kc::asyncFailure<CopyFilesAsyncExport>(api, kCopyFilesCases);
+}
+TEST_F(FilesAdmission, copyFilesAsync) {
+    kc::asyncAdmission<CopyFilesAsyncExport>(callers(), kCopyFilesCases, kc::Needs::Operator);
 }
 
 const char* const kCopyFilesNoUtf8[] = {
@@ -4177,6 +4223,9 @@ TEST_F(Files, copyDirectories_Exchange) {
 TEST_F(Files, copyDirectories_Failure) {
     kc::failure<CopyDirectoriesExport>(api, kCopyDirectoriesCases);
 }
+TEST_F(FilesAdmission, copyDirectories) {
+    kc::admission<CopyDirectoriesExport>(callers(), kCopyDirectoriesCases, kc::Needs::Operator);
+}
 
 struct CopyDirectoriesAsyncExport {
     static constexpr const char* operation = "copyDirectoriesAsync";
@@ -4192,6 +4241,10 @@ TEST_F(Files, copyDirectoriesAsync_Exchange) {
 }
 TEST_F(Files, copyDirectoriesAsync_Failure) {
     kc::asyncFailure<CopyDirectoriesAsyncExport>(api, kCopyDirectoriesCases);
+}
+TEST_F(FilesAdmission, copyDirectoriesAsync) {
+    kc::asyncAdmission<CopyDirectoriesAsyncExport>(callers(), kCopyDirectoriesCases,
+                                                   kc::Needs::Operator);
 }
 
 const char* const kCopyDirectoriesNoUtf8[] = {
@@ -4256,6 +4309,9 @@ struct RenameFileExport {
 
 TEST_F(Files, renameFile_Exchange) { kc::exchange<RenameFileExport>(api, kRenameFileCases); }
 TEST_F(Files, renameFile_Failure) { kc::failure<RenameFileExport>(api, kRenameFileCases); }
+TEST_F(FilesAdmission, renameFile) {
+    kc::admission<RenameFileExport>(callers(), kRenameFileCases, kc::Needs::Operator);
+}
 
 const char* const kRenameFileNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 152.1\\ud800\",\"\346\227\245\346\234\254\350"
@@ -4552,6 +4608,10 @@ TEST_F(Files, getConfigDirectory_Exchange) {
 TEST_F(Files, getConfigDirectory_Failure) {
     kc::failure<GetConfigDirectoryExport>(api, kGetConfigDirectoryCases);
 }
+TEST_F(FilesAdmission, getConfigDirectory) {
+    kc::admission<GetConfigDirectoryExport>(callers(), kGetConfigDirectoryCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber131{131, "getConfigDirectory", kGetConfigDirectoryCases};
 
@@ -4677,6 +4737,10 @@ TEST_F(Files, copyProjectWithFilters_Exchange) {
 TEST_F(Files, copyProjectWithFilters_Failure) {
     kc::failure<CopyProjectWithFiltersExport>(api, kCopyProjectWithFiltersCases);
 }
+TEST_F(FilesAdmission, copyProjectWithFilters) {
+    kc::admission<CopyProjectWithFiltersExport>(callers(), kCopyProjectWithFiltersCases,
+                                                kc::Needs::Operator);
+}
 
 const char* const kCopyProjectWithFiltersNoUtf8[] = {
     "[[{\"pattern\":\"\\udc00Pr\303\274fstand \342\202\254 169.1\\ud800\",\"flag\":128,\"valu"
@@ -4765,6 +4829,9 @@ struct FilterFilesExport {
 
 TEST_F(Files, filterFiles_Exchange) { kc::exchange<FilterFilesExport>(api, kFilterFilesCases); }
 TEST_F(Files, filterFiles_Failure) { kc::failure<FilterFilesExport>(api, kFilterFilesCases); }
+TEST_F(FilesAdmission, filterFiles) {
+    kc::admission<FilterFilesExport>(callers(), kFilterFilesCases, kc::Needs::Operator);
+}
 
 const char* const kFilterFilesNoUtf8[] = {
     "[[{\"pattern\":\"\\udc00Pr\303\274fstand \342\202\254 173.1\\ud800\",\"flag\":128,\"valu"
@@ -5075,6 +5142,10 @@ TEST_F(Files, getPublicDirectories_Exchange) {
 TEST_F(Files, getPublicDirectories_Failure) {
     kc::failure<GetPublicDirectoriesExport>(api, kGetPublicDirectoriesCases);
 }
+TEST_F(FilesAdmission, getPublicDirectories) {
+    kc::admission<GetPublicDirectoriesExport>(callers(), kGetPublicDirectoriesCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber210{210, "getPublicDirectories", kGetPublicDirectoriesCases};
 
@@ -5115,6 +5186,9 @@ struct MoveFileExport {
 
 TEST_F(Files, moveFile_Exchange) { kc::exchange<MoveFileExport>(api, kMoveFileCases); }
 TEST_F(Files, moveFile_Failure) { kc::failure<MoveFileExport>(api, kMoveFileCases); }
+TEST_F(FilesAdmission, moveFile) {
+    kc::admission<MoveFileExport>(callers(), kMoveFileCases, kc::Needs::Operator);
+}
 
 const char* const kMoveFileNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 184.1\\ud800\",\"\346\227\245\346\234\254\350"
@@ -5166,6 +5240,9 @@ TEST_F(Files, moveDirectory_Exchange) {
     kc::exchange<MoveDirectoryExport>(api, kMoveDirectoryCases);
 }
 TEST_F(Files, moveDirectory_Failure) { kc::failure<MoveDirectoryExport>(api, kMoveDirectoryCases); }
+TEST_F(FilesAdmission, moveDirectory) {
+    kc::admission<MoveDirectoryExport>(callers(), kMoveDirectoryCases, kc::Needs::Operator);
+}
 
 const char* const kMoveDirectoryNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 185.1\\ud800\",\"\346\227\245\346\234\254\350"
@@ -5207,6 +5284,9 @@ struct PathExistsExport {
 
 TEST_F(Files, pathExists_Exchange) { kc::exchange<PathExistsExport>(api, kPathExistsCases); }
 TEST_F(Files, pathExists_Failure) { kc::failure<PathExistsExport>(api, kPathExistsCases); }
+TEST_F(FilesAdmission, pathExists) {
+    kc::admission<PathExistsExport>(callers(), kPathExistsCases, kc::Needs::Operator);
+}
 
 const char* const kPathExistsNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 186.1\\ud800\"]",
@@ -5249,6 +5329,9 @@ struct ResolvePathExport {
 
 TEST_F(Files, resolvePath_Exchange) { kc::exchange<ResolvePathExport>(api, kResolvePathCases); }
 TEST_F(Files, resolvePath_Failure) { kc::failure<ResolvePathExport>(api, kResolvePathCases); }
+TEST_F(FilesAdmission, resolvePath) {
+    kc::admission<ResolvePathExport>(callers(), kResolvePathCases, kc::Needs::Operator);
+}
 
 const char* const kResolvePathNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 188.1\\ud800\"]",
@@ -5343,6 +5426,9 @@ TEST_F(Files, getFileReferences_Exchange) {
 TEST_F(Files, getFileReferences_Failure) {
     kc::failure<GetFileReferencesExport>(api, kGetFileReferencesCases);
 }
+TEST_F(FilesAdmission, getFileReferences) {
+    kc::admission<GetFileReferencesExport>(callers(), kGetFileReferencesCases, kc::Needs::Operator);
+}
 
 const char* const kGetFileReferencesNoUtf8[] = {
     "[[\"\\udc00Pr\303\274fstand \342\202\254 194.1\\ud800\",\"\",\"\346\227\245\346\234\254"
@@ -5382,6 +5468,9 @@ struct IsDirectoryExport {
 
 TEST_F(Files, isDirectory_Exchange) { kc::exchange<IsDirectoryExport>(api, kIsDirectoryCases); }
 TEST_F(Files, isDirectory_Failure) { kc::failure<IsDirectoryExport>(api, kIsDirectoryCases); }
+TEST_F(FilesAdmission, isDirectory) {
+    kc::admission<IsDirectoryExport>(callers(), kIsDirectoryCases, kc::Needs::Operator);
+}
 
 const char* const kIsDirectoryNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 200.1\\ud800\"]",
@@ -5681,6 +5770,9 @@ TEST_F(Files, getDirectoryInfo_Exchange) {
 TEST_F(Files, getDirectoryInfo_Failure) {
     kc::failure<GetDirectoryInfoExport>(api, kGetDirectoryInfoCases);
 }
+TEST_F(FilesAdmission, getDirectoryInfo) {
+    kc::admission<GetDirectoryInfoExport>(callers(), kGetDirectoryInfoCases, kc::Needs::Operator);
+}
 
 const char* const kGetDirectoryInfoNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 201.1\\ud800\",128]",
@@ -5769,6 +5861,9 @@ struct GetFileInfoExport {
 
 TEST_F(Files, getFileInfo_Exchange) { kc::exchange<GetFileInfoExport>(api, kGetFileInfoCases); }
 TEST_F(Files, getFileInfo_Failure) { kc::failure<GetFileInfoExport>(api, kGetFileInfoCases); }
+TEST_F(FilesAdmission, getFileInfo) {
+    kc::admission<GetFileInfoExport>(callers(), kGetFileInfoCases, kc::Needs::Operator);
+}
 
 const char* const kGetFileInfoNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 202.1\\ud800\"]",
@@ -5807,6 +5902,9 @@ struct IsFileExport {
 
 TEST_F(Files, isFile_Exchange) { kc::exchange<IsFileExport>(api, kIsFileCases); }
 TEST_F(Files, isFile_Failure) { kc::failure<IsFileExport>(api, kIsFileCases); }
+TEST_F(FilesAdmission, isFile) {
+    kc::admission<IsFileExport>(callers(), kIsFileCases, kc::Needs::Operator);
+}
 
 const char* const kIsFileNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 203.1\\ud800\"]",
@@ -5897,6 +5995,9 @@ struct CopyPathExport {
 
 TEST_F(Files, copyPath_Exchange) { kc::exchange<CopyPathExport>(api, kCopyPathCases); }
 TEST_F(Files, copyPath_Failure) { kc::failure<CopyPathExport>(api, kCopyPathCases); }
+TEST_F(FilesAdmission, copyPath) {
+    kc::admission<CopyPathExport>(callers(), kCopyPathCases, kc::Needs::Operator);
+}
 
 struct CopyPathAsyncExport {
     static constexpr const char* operation = "copyPathAsync";
@@ -5911,6 +6012,9 @@ TEST_F(Files, copyPathAsync_Exchange) {
     kc::asyncExchange<CopyPathAsyncExport>(api, kCopyPathCases);
 }
 TEST_F(Files, copyPathAsync_Failure) { kc::asyncFailure<CopyPathAsyncExport>(api, kCopyPathCases); }
+TEST_F(FilesAdmission, copyPathAsync) {
+    kc::asyncAdmission<CopyPathAsyncExport>(callers(), kCopyPathCases, kc::Needs::Operator);
+}
 
 const char* const kCopyPathNoUtf8[] = {
     "[{\"source\":\"\\udc00Pr\303\274fstand \342\202\254 207.1\\ud800\",\"target\":\"\346\227"
@@ -5967,6 +6071,10 @@ TEST_F(Files, addPublicDirectory_Exchange) {
 }
 TEST_F(Files, addPublicDirectory_Failure) {
     kc::failure<AddPublicDirectoryExport>(api, kAddPublicDirectoryCases);
+}
+TEST_F(FilesAdmission, addPublicDirectory) {
+    kc::admission<AddPublicDirectoryExport>(callers(), kAddPublicDirectoryCases,
+                                            kc::Needs::Administrator);
 }
 
 const char* const kAddPublicDirectoryNoUtf8[] = {

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Flash = kc::ConformanceTest;
 using FlashByNumber = kc::ConformanceTest;
+using FlashAdmission = kc::AdmissionTest;
 
 // ---- getFlashSessionInfos (position 30, number 113) ----
 
@@ -68,6 +69,10 @@ TEST_F(Flash, getFlashSessionInfos_Exchange) {
 }
 TEST_F(Flash, getFlashSessionInfos_Failure) {
     kc::failure<GetFlashSessionInfosExport>(api, kGetFlashSessionInfosCases);
+}
+TEST_F(FlashAdmission, getFlashSessionInfos) {
+    kc::admission<GetFlashSessionInfosExport>(callers(), kGetFlashSessionInfosCases,
+                                              kc::Needs::Operator);
 }
 
 const char* const kGetFlashSessionInfosNoUtf8[] = {
@@ -187,6 +192,10 @@ TEST_F(Flash, executeFlashSessions_Exchange) {
 TEST_F(Flash, executeFlashSessions_Failure) {
     kc::failure<ExecuteFlashSessionsExport>(api, kExecuteFlashSessionsCases);
 }
+TEST_F(FlashAdmission, executeFlashSessions) {
+    kc::admission<ExecuteFlashSessionsExport>(callers(), kExecuteFlashSessionsCases,
+                                              kc::Needs::Operator);
+}
 
 struct ExecuteFlashSessionsAsyncExport {
     static constexpr const char* operation = "executeFlashSessionsAsync";
@@ -204,6 +213,10 @@ TEST_F(Flash, executeFlashSessionsAsync_Exchange) {
 }
 TEST_F(Flash, executeFlashSessionsAsync_Failure) {
     kc::asyncFailure<ExecuteFlashSessionsAsyncExport>(api, kExecuteFlashSessionsCases);
+}
+TEST_F(FlashAdmission, executeFlashSessionsAsync) {
+    kc::asyncAdmission<ExecuteFlashSessionsAsyncExport>(callers(), kExecuteFlashSessionsCases,
+                                                        kc::Needs::Operator);
 }
 
 const char* const kExecuteFlashSessionsNoUtf8[] = {
@@ -333,6 +346,10 @@ TEST_F(Flash, executeFlashSessionsConfig_Exchange) {
 TEST_F(Flash, executeFlashSessionsConfig_Failure) {
     kc::failure<ExecuteFlashSessionsConfigExport>(api, kExecuteFlashSessionsConfigCases);
 }
+TEST_F(FlashAdmission, executeFlashSessionsConfig) {
+    kc::admission<ExecuteFlashSessionsConfigExport>(callers(), kExecuteFlashSessionsConfigCases,
+                                                    kc::Needs::Operator);
+}
 
 struct ExecuteFlashSessionsConfigAsyncExport {
     static constexpr const char* operation = "executeFlashSessionsConfigAsync";
@@ -348,6 +365,10 @@ TEST_F(Flash, executeFlashSessionsConfigAsync_Exchange) {
 }
 TEST_F(Flash, executeFlashSessionsConfigAsync_Failure) {
     kc::asyncFailure<ExecuteFlashSessionsConfigAsyncExport>(api, kExecuteFlashSessionsConfigCases);
+}
+TEST_F(FlashAdmission, executeFlashSessionsConfigAsync) {
+    kc::asyncAdmission<ExecuteFlashSessionsConfigAsyncExport>(
+        callers(), kExecuteFlashSessionsConfigCases, kc::Needs::Operator);
 }
 
 const char* const kExecuteFlashSessionsConfigNoUtf8[] = {

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Interfaces = kc::ConformanceTest;
 using InterfacesByNumber = kc::ConformanceTest;
+using InterfacesAdmission = kc::AdmissionTest;
 
 // ---- saveInterfaceConfiguration (position 53, number 70) ----
 
@@ -32,6 +33,10 @@ TEST_F(Interfaces, saveInterfaceConfiguration_Exchange) {
 }
 TEST_F(Interfaces, saveInterfaceConfiguration_Failure) {
     kc::failure<SaveInterfaceConfigurationExport>(api, kSaveInterfaceConfigurationCases);
+}
+TEST_F(InterfacesAdmission, saveInterfaceConfiguration) {
+    kc::admission<SaveInterfaceConfigurationExport>(callers(), kSaveInterfaceConfigurationCases,
+                                                    kc::Needs::Administrator);
 }
 
 const kc::Number kNumber70{70, "saveInterfaceConfiguration", kSaveInterfaceConfigurationCases};
@@ -178,6 +183,10 @@ TEST_F(Interfaces, scanInterfaceConnection_Exchange) {
 TEST_F(Interfaces, scanInterfaceConnection_Failure) {
     kc::failure<ScanInterfaceConnectionExport>(api, kScanInterfaceConnectionCases);
 }
+TEST_F(InterfacesAdmission, scanInterfaceConnection) {
+    kc::admission<ScanInterfaceConnectionExport>(callers(), kScanInterfaceConnectionCases,
+                                                 kc::Needs::Operator);
+}
 
 struct ScanInterfaceConnectionAsyncExport {
     static constexpr const char* operation = "scanInterfaceConnectionAsync";
@@ -194,6 +203,10 @@ TEST_F(Interfaces, scanInterfaceConnectionAsync_Exchange) {
 }
 TEST_F(Interfaces, scanInterfaceConnectionAsync_Failure) {
     kc::asyncFailure<ScanInterfaceConnectionAsyncExport>(api, kScanInterfaceConnectionCases);
+}
+TEST_F(InterfacesAdmission, scanInterfaceConnectionAsync) {
+    kc::asyncAdmission<ScanInterfaceConnectionAsyncExport>(callers(), kScanInterfaceConnectionCases,
+                                                           kc::Needs::Operator);
 }
 
 const char* const kScanInterfaceConnectionNoUtf8[] = {
@@ -247,6 +260,10 @@ TEST_F(Interfaces, getInterfaceLongName_Exchange) {
 TEST_F(Interfaces, getInterfaceLongName_Failure) {
     kc::failure<GetInterfaceLongNameExport>(api, kGetInterfaceLongNameCases);
 }
+TEST_F(InterfacesAdmission, getInterfaceLongName) {
+    kc::admission<GetInterfaceLongNameExport>(callers(), kGetInterfaceLongNameCases,
+                                              kc::Needs::Operator);
+}
 
 const char* const kGetInterfaceLongNameNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 57.1\\ud800\"]",
@@ -284,6 +301,9 @@ TEST_F(Interfaces, connectInterfaces_Exchange) {
 TEST_F(Interfaces, connectInterfaces_Failure) {
     kc::failure<ConnectInterfacesExport>(api, kConnectInterfacesCases);
 }
+TEST_F(InterfacesAdmission, connectInterfaces) {
+    kc::admission<ConnectInterfacesExport>(callers(), kConnectInterfacesCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber80{80, "connectInterfaces", kConnectInterfacesCases};
 
@@ -312,6 +332,10 @@ TEST_F(Interfaces, disconnectInterfaces_Exchange) {
 }
 TEST_F(Interfaces, disconnectInterfaces_Failure) {
     kc::failure<DisconnectInterfacesExport>(api, kDisconnectInterfacesCases);
+}
+TEST_F(InterfacesAdmission, disconnectInterfaces) {
+    kc::admission<DisconnectInterfacesExport>(callers(), kDisconnectInterfacesCases,
+                                              kc::Needs::Operator);
 }
 
 const kc::Number kNumber81{81, "disconnectInterfaces", kDisconnectInterfacesCases};
@@ -342,6 +366,10 @@ TEST_F(Interfaces, executeDoIPBroadcast_Exchange) {
 TEST_F(Interfaces, executeDoIPBroadcast_Failure) {
     kc::failure<ExecuteDoIPBroadcastExport>(api, kExecuteDoIPBroadcastCases);
 }
+TEST_F(InterfacesAdmission, executeDoIPBroadcast) {
+    kc::admission<ExecuteDoIPBroadcastExport>(callers(), kExecuteDoIPBroadcastCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber82{82, "executeDoIPBroadcast", kExecuteDoIPBroadcastCases};
 
@@ -370,6 +398,10 @@ TEST_F(Interfaces, releaseSocketBridge_Exchange) {
 }
 TEST_F(Interfaces, releaseSocketBridge_Failure) {
     kc::failure<ReleaseSocketBridgeExport>(api, kReleaseSocketBridgeCases);
+}
+TEST_F(InterfacesAdmission, releaseSocketBridge) {
+    kc::admission<ReleaseSocketBridgeExport>(callers(), kReleaseSocketBridgeCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber93{93, "releaseSocketBridge", kReleaseSocketBridgeCases};
@@ -402,6 +434,10 @@ TEST_F(Interfaces, createSocketBridge_Exchange) {
 TEST_F(Interfaces, createSocketBridge_Failure) {
     kc::failure<CreateSocketBridgeExport>(api, kCreateSocketBridgeCases);
 }
+TEST_F(InterfacesAdmission, createSocketBridge) {
+    kc::admission<CreateSocketBridgeExport>(callers(), kCreateSocketBridgeCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber92{92, "createSocketBridge", kCreateSocketBridgeCases};
 
@@ -431,6 +467,9 @@ TEST_F(Interfaces, clearLinkCache_Exchange) {
 }
 TEST_F(Interfaces, clearLinkCache_Failure) {
     kc::failure<ClearLinkCacheExport>(api, kClearLinkCacheCases);
+}
+TEST_F(InterfacesAdmission, clearLinkCache) {
+    kc::admission<ClearLinkCacheExport>(callers(), kClearLinkCacheCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber107{107, "clearLinkCache", kClearLinkCacheCases};
@@ -489,6 +528,9 @@ TEST_F(Interfaces, addResource_Exchange) {
     kc::exchange<AddResourceExport>(api, kAddResourceCases);
 }
 TEST_F(Interfaces, addResource_Failure) { kc::failure<AddResourceExport>(api, kAddResourceCases); }
+TEST_F(InterfacesAdmission, addResource) {
+    kc::admission<AddResourceExport>(callers(), kAddResourceCases, kc::Needs::Administrator);
+}
 
 const char* const kAddResourceNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 83.1\\ud800\",{\"itemText1\":\"\346\227\245\346"
@@ -549,6 +591,10 @@ TEST_F(Interfaces, removeInterface_Exchange) {
 }
 TEST_F(Interfaces, removeInterface_Failure) {
     kc::failure<RemoveInterfaceExport>(api, kRemoveInterfaceCases);
+}
+TEST_F(InterfacesAdmission, removeInterface) {
+    kc::admission<RemoveInterfaceExport>(callers(), kRemoveInterfaceCases,
+                                         kc::Needs::Administrator);
 }
 
 const char* const kRemoveInterfaceNoUtf8[] = {
@@ -783,6 +829,9 @@ TEST_F(Interfaces, addInterface_Exchange) {
 TEST_F(Interfaces, addInterface_Failure) {
     kc::failure<AddInterfaceExport>(api, kAddInterfaceCases);
 }
+TEST_F(InterfacesAdmission, addInterface) {
+    kc::admission<AddInterfaceExport>(callers(), kAddInterfaceCases, kc::Needs::Administrator);
+}
 
 const char* const kAddInterfaceNoUtf8[] = {
     "[{\"itemText1\":\"\\udc00Pr\303\274fstand \342\202\254 85.1\\ud800\",\"itemText2\":\""
@@ -997,6 +1046,9 @@ TEST_F(Interfaces, removeResource_Exchange) {
 TEST_F(Interfaces, removeResource_Failure) {
     kc::failure<RemoveResourceExport>(api, kRemoveResourceCases);
 }
+TEST_F(InterfacesAdmission, removeResource) {
+    kc::admission<RemoveResourceExport>(callers(), kRemoveResourceCases, kc::Needs::Administrator);
+}
 
 const char* const kRemoveResourceNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 86.1\\ud800\",\"\346\227\245\346\234\254\350\252"
@@ -1154,6 +1206,10 @@ TEST_F(Interfaces, getVendorModuleNames_Exchange) {
 }
 TEST_F(Interfaces, getVendorModuleNames_Failure) {
     kc::failure<GetVendorModuleNamesExport>(api, kGetVendorModuleNamesCases);
+}
+TEST_F(InterfacesAdmission, getVendorModuleNames) {
+    kc::admission<GetVendorModuleNamesExport>(callers(), kGetVendorModuleNamesCases,
+                                              kc::Needs::Operator);
 }
 
 const char* const kGetVendorModuleNamesNoUtf8[] = {
@@ -1320,6 +1376,10 @@ TEST_F(Interfaces, getVendorModuleNamesEx_Exchange) {
 TEST_F(Interfaces, getVendorModuleNamesEx_Failure) {
     kc::failure<GetVendorModuleNamesExExport>(api, kGetVendorModuleNamesExCases);
 }
+TEST_F(InterfacesAdmission, getVendorModuleNamesEx) {
+    kc::admission<GetVendorModuleNamesExExport>(callers(), kGetVendorModuleNamesExCases,
+                                                kc::Needs::Operator);
+}
 
 const char* const kGetVendorModuleNamesExNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 91.1\\ud800\"]",
@@ -1475,6 +1535,10 @@ TEST_F(Interfaces, detectDynInterfaces_Exchange) {
 TEST_F(Interfaces, detectDynInterfaces_Failure) {
     kc::failure<DetectDynInterfacesExport>(api, kDetectDynInterfacesCases);
 }
+TEST_F(InterfacesAdmission, detectDynInterfaces) {
+    kc::admission<DetectDynInterfacesExport>(callers(), kDetectDynInterfacesCases,
+                                             kc::Needs::Operator);
+}
 
 struct DetectDynInterfacesAsyncExport {
     static constexpr const char* operation = "detectDynInterfacesAsync";
@@ -1491,6 +1555,10 @@ TEST_F(Interfaces, detectDynInterfacesAsync_Exchange) {
 }
 TEST_F(Interfaces, detectDynInterfacesAsync_Failure) {
     kc::asyncFailure<DetectDynInterfacesAsyncExport>(api, kDetectDynInterfacesCases);
+}
+TEST_F(InterfacesAdmission, detectDynInterfacesAsync) {
+    kc::asyncAdmission<DetectDynInterfacesAsyncExport>(callers(), kDetectDynInterfacesCases,
+                                                       kc::Needs::Operator);
 }
 
 const char* const kDetectDynInterfacesNoUtf8[] = {
@@ -1558,6 +1626,10 @@ TEST_F(Interfaces, connectDynInterface_Exchange) {
 TEST_F(Interfaces, connectDynInterface_Failure) {
     kc::failure<ConnectDynInterfaceExport>(api, kConnectDynInterfaceCases);
 }
+TEST_F(InterfacesAdmission, connectDynInterface) {
+    kc::admission<ConnectDynInterfaceExport>(callers(), kConnectDynInterfaceCases,
+                                             kc::Needs::Operator);
+}
 
 const char* const kConnectDynInterfaceNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 96.1\\ud800\",128,{\"namePattern\":\"\346\227"
@@ -1619,6 +1691,10 @@ TEST_F(Interfaces, disconnectDynInterfaces_Exchange) {
 TEST_F(Interfaces, disconnectDynInterfaces_Failure) {
     kc::failure<DisconnectDynInterfacesExport>(api, kDisconnectDynInterfacesCases);
 }
+TEST_F(InterfacesAdmission, disconnectDynInterfaces) {
+    kc::admission<DisconnectDynInterfacesExport>(callers(), kDisconnectDynInterfacesCases,
+                                                 kc::Needs::Operator);
+}
 
 const char* const kDisconnectDynInterfacesNoUtf8[] = {
     "[[\"\\udc00Pr\303\274fstand \342\202\254 97.1\\ud800\",\"\",\"\346\227\245\346\234\254"
@@ -1677,6 +1753,10 @@ TEST_F(Interfaces, setEthernetPinState_Exchange) {
 TEST_F(Interfaces, setEthernetPinState_Failure) {
     kc::failure<SetEthernetPinStateExport>(api, kSetEthernetPinStateCases);
 }
+TEST_F(InterfacesAdmission, setEthernetPinState) {
+    kc::admission<SetEthernetPinStateExport>(callers(), kSetEthernetPinStateCases,
+                                             kc::Needs::Operator);
+}
 
 const char* const kSetEthernetPinStateNoUtf8[] = {
     "[255,[\"\\udc00Pr\303\274fstand \342\202\254 119.1\\ud800\",\"\",\"\346\227\245\346\234"
@@ -1719,6 +1799,10 @@ TEST_F(Interfaces, getEthernetPinState_Exchange) {
 }
 TEST_F(Interfaces, getEthernetPinState_Failure) {
     kc::failure<GetEthernetPinStateExport>(api, kGetEthernetPinStateCases);
+}
+TEST_F(InterfacesAdmission, getEthernetPinState) {
+    kc::admission<GetEthernetPinStateExport>(callers(), kGetEthernetPinStateCases,
+                                             kc::Needs::Operator);
 }
 
 const char* const kGetEthernetPinStateNoUtf8[] = {
@@ -1860,6 +1944,10 @@ TEST_F(Interfaces, detectDynInterfacesEx_Exchange) {
 TEST_F(Interfaces, detectDynInterfacesEx_Failure) {
     kc::failure<DetectDynInterfacesExExport>(api, kDetectDynInterfacesExCases);
 }
+TEST_F(InterfacesAdmission, detectDynInterfacesEx) {
+    kc::admission<DetectDynInterfacesExExport>(callers(), kDetectDynInterfacesExCases,
+                                               kc::Needs::Operator);
+}
 
 struct DetectDynInterfacesExAsyncExport {
     static constexpr const char* operation = "detectDynInterfacesExAsync";
@@ -1875,6 +1963,10 @@ TEST_F(Interfaces, detectDynInterfacesExAsync_Exchange) {
 }
 TEST_F(Interfaces, detectDynInterfacesExAsync_Failure) {
     kc::asyncFailure<DetectDynInterfacesExAsyncExport>(api, kDetectDynInterfacesExCases);
+}
+TEST_F(InterfacesAdmission, detectDynInterfacesExAsync) {
+    kc::asyncAdmission<DetectDynInterfacesExAsyncExport>(callers(), kDetectDynInterfacesExCases,
+                                                         kc::Needs::Operator);
 }
 
 const kc::Number kNumber83{83, "detectDynInterfacesEx", kDetectDynInterfacesExCases};
@@ -1912,6 +2004,10 @@ TEST_F(Interfaces, connectDynInterfaceEx_Exchange) {
 }
 TEST_F(Interfaces, connectDynInterfaceEx_Failure) {
     kc::failure<ConnectDynInterfaceExExport>(api, kConnectDynInterfaceExCases);
+}
+TEST_F(InterfacesAdmission, connectDynInterfaceEx) {
+    kc::admission<ConnectDynInterfaceExExport>(callers(), kConnectDynInterfaceExCases,
+                                               kc::Needs::Operator);
 }
 
 const char* const kConnectDynInterfaceExNoUtf8[] = {
@@ -1952,6 +2048,9 @@ TEST_F(Interfaces, testSocketBridge_Exchange) {
 }
 TEST_F(Interfaces, testSocketBridge_Failure) {
     kc::failure<TestSocketBridgeExport>(api, kTestSocketBridgeCases);
+}
+TEST_F(InterfacesAdmission, testSocketBridge) {
+    kc::admission<TestSocketBridgeExport>(callers(), kTestSocketBridgeCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber157{157, "testSocketBridge", kTestSocketBridgeCases};
@@ -2078,6 +2177,10 @@ TEST_F(Interfaces, getRegisteredDevices_Exchange) {
 TEST_F(Interfaces, getRegisteredDevices_Failure) {
     kc::failure<GetRegisteredDevicesExport>(api, kGetRegisteredDevicesCases);
 }
+TEST_F(InterfacesAdmission, getRegisteredDevices) {
+    kc::admission<GetRegisteredDevicesExport>(callers(), kGetRegisteredDevicesCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber182{182, "getRegisteredDevices", kGetRegisteredDevicesCases};
 
@@ -2158,6 +2261,9 @@ TEST_F(Interfaces, getPhysicalLinks_Exchange) {
 }
 TEST_F(Interfaces, getPhysicalLinks_Failure) {
     kc::failure<GetPhysicalLinksExport>(api, kGetPhysicalLinksCases);
+}
+TEST_F(InterfacesAdmission, getPhysicalLinks) {
+    kc::admission<GetPhysicalLinksExport>(callers(), kGetPhysicalLinksCases, kc::Needs::Operator);
 }
 
 const char* const kGetPhysicalLinksNoUtf8[] = {
@@ -2280,6 +2386,9 @@ TEST_F(Interfaces, setPhysicalLinks_Exchange) {
 TEST_F(Interfaces, setPhysicalLinks_Failure) {
     kc::failure<SetPhysicalLinksExport>(api, kSetPhysicalLinksCases);
 }
+TEST_F(InterfacesAdmission, setPhysicalLinks) {
+    kc::admission<SetPhysicalLinksExport>(callers(), kSetPhysicalLinksCases, kc::Needs::Operator);
+}
 
 const char* const kSetPhysicalLinksNoUtf8[] = {
     "[[{\"module\":\"\\udc00Pr\303\274fstand \342\202\254 183.1\\ud800\",\"links\":[{\"itemTe"
@@ -2355,6 +2464,9 @@ TEST_F(Interfaces, openTerminal_Exchange) {
 TEST_F(Interfaces, openTerminal_Failure) {
     kc::failure<OpenTerminalExport>(api, kOpenTerminalCases);
 }
+TEST_F(InterfacesAdmission, openTerminal) {
+    kc::admission<OpenTerminalExport>(callers(), kOpenTerminalCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber227{227, "openTerminal", kOpenTerminalCases};
 
@@ -2383,6 +2495,9 @@ TEST_F(Interfaces, closeTerminal_Exchange) {
 }
 TEST_F(Interfaces, closeTerminal_Failure) {
     kc::failure<CloseTerminalExport>(api, kCloseTerminalCases);
+}
+TEST_F(InterfacesAdmission, closeTerminal) {
+    kc::admission<CloseTerminalExport>(callers(), kCloseTerminalCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber228{228, "closeTerminal", kCloseTerminalCases};
@@ -2443,6 +2558,9 @@ TEST_F(Interfaces, getWLanSignalData_Exchange) {
 }
 TEST_F(Interfaces, getWLanSignalData_Failure) {
     kc::failure<GetWLanSignalDataExport>(api, kGetWLanSignalDataCases);
+}
+TEST_F(InterfacesAdmission, getWLanSignalData) {
+    kc::admission<GetWLanSignalDataExport>(callers(), kGetWLanSignalDataCases, kc::Needs::Operator);
 }
 
 const char* const kGetWLanSignalDataNoUtf8[] = {
@@ -2531,6 +2649,10 @@ TEST_F(Interfaces, clearDoIPEcuCollection_Exchange) {
 }
 TEST_F(Interfaces, clearDoIPEcuCollection_Failure) {
     kc::failure<ClearDoIPEcuCollectionExport>(api, kClearDoIPEcuCollectionCases);
+}
+TEST_F(InterfacesAdmission, clearDoIPEcuCollection) {
+    kc::admission<ClearDoIPEcuCollectionExport>(callers(), kClearDoIPEcuCollectionCases,
+                                                kc::Needs::Operator);
 }
 
 const kc::Number kNumber236{236, "clearDoIPEcuCollection", kClearDoIPEcuCollectionCases};
@@ -2622,6 +2744,10 @@ TEST_F(Interfaces, getInterfaceConfiguration_Exchange) {
 }
 TEST_F(Interfaces, getInterfaceConfiguration_Failure) {
     kc::failure<GetInterfaceConfigurationExport>(api, kGetInterfaceConfigurationCases);
+}
+TEST_F(InterfacesAdmission, getInterfaceConfiguration) {
+    kc::admission<GetInterfaceConfigurationExport>(callers(), kGetInterfaceConfigurationCases,
+                                                   kc::Needs::Operator);
 }
 
 const kc::Number kNumber63{63, "getInterfaceConfiguration", kGetInterfaceConfigurationCases};
@@ -2733,6 +2859,10 @@ TEST_F(Interfaces, setInterfaceConfiguration_Exchange) {
 }
 TEST_F(Interfaces, setInterfaceConfiguration_Failure) {
     kc::failure<SetInterfaceConfigurationExport>(api, kSetInterfaceConfigurationCases);
+}
+TEST_F(InterfacesAdmission, setInterfaceConfiguration) {
+    kc::admission<SetInterfaceConfigurationExport>(callers(), kSetInterfaceConfigurationCases,
+                                                   kc::Needs::Administrator);
 }
 
 const char* const kSetInterfaceConfigurationNoUtf8[] = {
@@ -2934,6 +3064,10 @@ TEST_F(Interfaces, getSupportedInterfaces_Exchange) {
 TEST_F(Interfaces, getSupportedInterfaces_Failure) {
     kc::failure<GetSupportedInterfacesExport>(api, kGetSupportedInterfacesCases);
 }
+TEST_F(InterfacesAdmission, getSupportedInterfaces) {
+    kc::admission<GetSupportedInterfacesExport>(callers(), kGetSupportedInterfacesCases,
+                                                kc::Needs::Operator);
+}
 
 const kc::Number kNumber111{111, "getSupportedInterfaces", kGetSupportedInterfacesCases};
 
@@ -3001,6 +3135,10 @@ TEST_F(Interfaces, getInterfaceProviders_Exchange) {
 }
 TEST_F(Interfaces, getInterfaceProviders_Failure) {
     kc::failure<GetInterfaceProvidersExport>(api, kGetInterfaceProvidersCases);
+}
+TEST_F(InterfacesAdmission, getInterfaceProviders) {
+    kc::admission<GetInterfaceProvidersExport>(callers(), kGetInterfaceProvidersCases,
+                                               kc::Needs::Operator);
 }
 
 const kc::Number kNumber118{118, "getInterfaceProviders", kGetInterfaceProvidersCases};
@@ -3079,6 +3217,10 @@ TEST_F(Interfaces, setInterfaceProviders_Exchange) {
 }
 TEST_F(Interfaces, setInterfaceProviders_Failure) {
     kc::failure<SetInterfaceProvidersExport>(api, kSetInterfaceProvidersCases);
+}
+TEST_F(InterfacesAdmission, setInterfaceProviders) {
+    kc::admission<SetInterfaceProvidersExport>(callers(), kSetInterfaceProvidersCases,
+                                               kc::Needs::Administrator);
 }
 
 const char* const kSetInterfaceProvidersNoUtf8[] = {
@@ -3178,6 +3320,10 @@ TEST_F(Interfaces, getDefaultDoIPParameter_Exchange) {
 }
 TEST_F(Interfaces, getDefaultDoIPParameter_Failure) {
     kc::failure<GetDefaultDoIPParameterExport>(api, kGetDefaultDoIPParameterCases);
+}
+TEST_F(InterfacesAdmission, getDefaultDoIPParameter) {
+    kc::admission<GetDefaultDoIPParameterExport>(callers(), kGetDefaultDoIPParameterCases,
+                                                 kc::Needs::Operator);
 }
 
 const kc::Number kNumber208{208, "getDefaultDoIPParameter", kGetDefaultDoIPParameterCases};

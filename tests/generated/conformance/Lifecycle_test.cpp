@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Lifecycle = kc::ConformanceTest;
 using LifecycleByNumber = kc::ConformanceTest;
+using LifecycleAdmission = kc::AdmissionTest;
 
 // ---- initialize (position 2, number 2) ----
 
@@ -29,6 +30,9 @@ struct InitializeExport {
 
 TEST_F(Lifecycle, initialize_Exchange) { kc::exchange<InitializeExport>(api, kInitializeCases); }
 TEST_F(Lifecycle, initialize_Failure) { kc::failure<InitializeExport>(api, kInitializeCases); }
+TEST_F(LifecycleAdmission, initialize) {
+    kc::admission<InitializeExport>(callers(), kInitializeCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber2{2, "initialize", kInitializeCases};
 
@@ -54,6 +58,9 @@ struct EndExport {
 
 TEST_F(Lifecycle, end_Exchange) { kc::exchange<EndExport>(api, kEndCases); }
 TEST_F(Lifecycle, end_Failure) { kc::failure<EndExport>(api, kEndCases); }
+TEST_F(LifecycleAdmission, end) {
+    kc::admission<EndExport>(callers(), kEndCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber3{3, "end", kEndCases};
 
@@ -82,6 +89,10 @@ TEST_F(Lifecycle, cancelAllAsyncCalls_Exchange) {
 }
 TEST_F(Lifecycle, cancelAllAsyncCalls_Failure) {
     kc::failure<CancelAllAsyncCallsExport>(api, kCancelAllAsyncCallsCases);
+}
+TEST_F(LifecycleAdmission, cancelAllAsyncCalls) {
+    kc::admission<CancelAllAsyncCallsExport>(callers(), kCancelAllAsyncCallsCases,
+                                             kc::Needs::Administrator);
 }
 
 const kc::Number kNumber128{128, "cancelAllAsyncCalls", kCancelAllAsyncCallsCases};
@@ -119,6 +130,10 @@ TEST_F(Lifecycle, cancelAsyncCalls_Exchange) {
 TEST_F(Lifecycle, cancelAsyncCalls_Failure) {
     kc::failure<CancelAsyncCallsExport>(api, kCancelAsyncCallsCases);
 }
+TEST_F(LifecycleAdmission, cancelAsyncCalls) {
+    kc::admission<CancelAsyncCallsExport>(callers(), kCancelAsyncCallsCases,
+                                          kc::Needs::Administrator);
+}
 
 const kc::Number kNumber42{42, "cancelAsyncCalls", kCancelAsyncCallsCases};
 
@@ -145,6 +160,9 @@ struct LockExport {
 
 TEST_F(Lifecycle, lock_Exchange) { kc::exchange<LockExport>(api, kLockCases); }
 TEST_F(Lifecycle, lock_Failure) { kc::failure<LockExport>(api, kLockCases); }
+TEST_F(LifecycleAdmission, lock) {
+    kc::admission<LockExport>(callers(), kLockCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber147{147, "lock", kLockCases};
 
@@ -170,6 +188,9 @@ struct UnlockExport {
 
 TEST_F(Lifecycle, unlock_Exchange) { kc::exchange<UnlockExport>(api, kUnlockCases); }
 TEST_F(Lifecycle, unlock_Failure) { kc::failure<UnlockExport>(api, kUnlockCases); }
+TEST_F(LifecycleAdmission, unlock) {
+    kc::admission<UnlockExport>(callers(), kUnlockCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber148{148, "unlock", kUnlockCases};
 
@@ -195,6 +216,9 @@ struct IsLockedExport {
 
 TEST_F(Lifecycle, isLocked_Exchange) { kc::exchange<IsLockedExport>(api, kIsLockedCases); }
 TEST_F(Lifecycle, isLocked_Failure) { kc::failure<IsLockedExport>(api, kIsLockedCases); }
+TEST_F(LifecycleAdmission, isLocked) {
+    kc::admission<IsLockedExport>(callers(), kIsLockedCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber149{149, "isLocked", kIsLockedCases};
 
@@ -220,6 +244,9 @@ struct BreakLockExport {
 
 TEST_F(Lifecycle, breakLock_Exchange) { kc::exchange<BreakLockExport>(api, kBreakLockCases); }
 TEST_F(Lifecycle, breakLock_Failure) { kc::failure<BreakLockExport>(api, kBreakLockCases); }
+TEST_F(LifecycleAdmission, breakLock) {
+    kc::admission<BreakLockExport>(callers(), kBreakLockCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber150{150, "breakLock", kBreakLockCases};
 
@@ -256,6 +283,10 @@ TEST_F(Lifecycle, triggerAsyncCancels_Exchange) {
 TEST_F(Lifecycle, triggerAsyncCancels_Failure) {
     kc::failure<TriggerAsyncCancelsExport>(api, kTriggerAsyncCancelsCases);
 }
+TEST_F(LifecycleAdmission, triggerAsyncCancels) {
+    kc::admission<TriggerAsyncCancelsExport>(callers(), kTriggerAsyncCancelsCases,
+                                             kc::Needs::Administrator);
+}
 
 const kc::Number kNumber260{260, "triggerAsyncCancels", kTriggerAsyncCancelsCases};
 
@@ -282,6 +313,9 @@ struct GetStateExport {
 
 TEST_F(Lifecycle, getState_Exchange) { kc::exchange<GetStateExport>(api, kGetStateCases); }
 TEST_F(Lifecycle, getState_Failure) { kc::failure<GetStateExport>(api, kGetStateCases); }
+TEST_F(LifecycleAdmission, getState) {
+    kc::admission<GetStateExport>(callers(), kGetStateCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber49{49, "getState", kGetStateCases};
 
@@ -307,6 +341,9 @@ struct GetHandleExport {
 
 TEST_F(Lifecycle, getHandle_Exchange) { kc::exchange<GetHandleExport>(api, kGetHandleCases); }
 TEST_F(Lifecycle, getHandle_Failure) { kc::failure<GetHandleExport>(api, kGetHandleCases); }
+TEST_F(LifecycleAdmission, getHandle) {
+    kc::admission<GetHandleExport>(callers(), kGetHandleCases, kc::Needs::Anyone);
+}
 
 const kc::Number kNumber61{61, "getHandle", kGetHandleCases};
 
@@ -335,6 +372,9 @@ TEST_F(Lifecycle, getCallDuration_Exchange) {
 }
 TEST_F(Lifecycle, getCallDuration_Failure) {
     kc::failure<GetCallDurationExport>(api, kGetCallDurationCases);
+}
+TEST_F(LifecycleAdmission, getCallDuration) {
+    kc::admission<GetCallDurationExport>(callers(), kGetCallDurationCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber187{187, "getCallDuration", kGetCallDurationCases};

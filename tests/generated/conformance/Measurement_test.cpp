@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Measurement = kc::ConformanceTest;
 using MeasurementByNumber = kc::ConformanceTest;
+using MeasurementAdmission = kc::AdmissionTest;
 
 // ---- getMeasurementValueInfos (position 38, number 37) ----
 
@@ -617,6 +618,10 @@ TEST_F(Measurement, getMeasurementValueInfos_Exchange) {
 TEST_F(Measurement, getMeasurementValueInfos_Failure) {
     kc::failure<GetMeasurementValueInfosExport>(api, kGetMeasurementValueInfosCases);
 }
+TEST_F(MeasurementAdmission, getMeasurementValueInfos) {
+    kc::admission<GetMeasurementValueInfosExport>(callers(), kGetMeasurementValueInfosCases,
+                                                  kc::Needs::Operator);
+}
 
 const char* const kGetMeasurementValueInfosNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 38.1\\ud800\"]",
@@ -674,6 +679,10 @@ TEST_F(Measurement, registerMeasurementValues_Exchange) {
 }
 TEST_F(Measurement, registerMeasurementValues_Failure) {
     kc::failure<RegisterMeasurementValuesExport>(api, kRegisterMeasurementValuesCases);
+}
+TEST_F(MeasurementAdmission, registerMeasurementValues) {
+    kc::admission<RegisterMeasurementValuesExport>(callers(), kRegisterMeasurementValuesCases,
+                                                   kc::Needs::Operator);
 }
 
 const char* const kRegisterMeasurementValuesNoUtf8[] = {
@@ -971,6 +980,10 @@ TEST_F(Measurement, getMeasurementValues_Exchange) {
 TEST_F(Measurement, getMeasurementValues_Failure) {
     kc::failure<GetMeasurementValuesExport>(api, kGetMeasurementValuesCases);
 }
+TEST_F(MeasurementAdmission, getMeasurementValues) {
+    kc::admission<GetMeasurementValuesExport>(callers(), kGetMeasurementValuesCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber39{39, "getMeasurementValues", kGetMeasurementValuesCases};
 
@@ -1000,6 +1013,10 @@ TEST_F(Measurement, unregisterMeasurementValues_Exchange) {
 }
 TEST_F(Measurement, unregisterMeasurementValues_Failure) {
     kc::failure<UnregisterMeasurementValuesExport>(api, kUnregisterMeasurementValuesCases);
+}
+TEST_F(MeasurementAdmission, unregisterMeasurementValues) {
+    kc::admission<UnregisterMeasurementValuesExport>(callers(), kUnregisterMeasurementValuesCases,
+                                                     kc::Needs::Operator);
 }
 
 const kc::Number kNumber40{40, "unregisterMeasurementValues", kUnregisterMeasurementValuesCases};
@@ -1303,6 +1320,10 @@ TEST_F(Measurement, readMeasurementValues_Exchange) {
 TEST_F(Measurement, readMeasurementValues_Failure) {
     kc::failure<ReadMeasurementValuesExport>(api, kReadMeasurementValuesCases);
 }
+TEST_F(MeasurementAdmission, readMeasurementValues) {
+    kc::admission<ReadMeasurementValuesExport>(callers(), kReadMeasurementValuesCases,
+                                               kc::Needs::Operator);
+}
 
 struct ReadMeasurementValuesAsyncExport {
     static constexpr const char* operation = "readMeasurementValuesAsync";
@@ -1320,6 +1341,10 @@ TEST_F(Measurement, readMeasurementValuesAsync_Exchange) {
 }
 TEST_F(Measurement, readMeasurementValuesAsync_Failure) {
     kc::asyncFailure<ReadMeasurementValuesAsyncExport>(api, kReadMeasurementValuesCases);
+}
+TEST_F(MeasurementAdmission, readMeasurementValuesAsync) {
+    kc::asyncAdmission<ReadMeasurementValuesAsyncExport>(callers(), kReadMeasurementValuesCases,
+                                                         kc::Needs::Operator);
 }
 
 const char* const kReadMeasurementValuesNoUtf8[] = {
@@ -1963,6 +1988,10 @@ TEST_F(Measurement, getSingleMeasurementValueInfos_Exchange) {
 }
 TEST_F(Measurement, getSingleMeasurementValueInfos_Failure) {
     kc::failure<GetSingleMeasurementValueInfosExport>(api, kGetSingleMeasurementValueInfosCases);
+}
+TEST_F(MeasurementAdmission, getSingleMeasurementValueInfos) {
+    kc::admission<GetSingleMeasurementValueInfosExport>(
+        callers(), kGetSingleMeasurementValueInfosCases, kc::Needs::Operator);
 }
 
 const char* const kGetSingleMeasurementValueInfosNoUtf8[] = {

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Monitoring = kc::ConformanceTest;
 using MonitoringByNumber = kc::ConformanceTest;
+using MonitoringAdmission = kc::AdmissionTest;
 
 // ---- createMonitoringLink (position 10, number 10) ----
 
@@ -36,6 +37,10 @@ TEST_F(Monitoring, createMonitoringLink_Exchange) {
 }
 TEST_F(Monitoring, createMonitoringLink_Failure) {
     kc::failure<CreateMonitoringLinkExport>(api, kCreateMonitoringLinkCases);
+}
+TEST_F(MonitoringAdmission, createMonitoringLink) {
+    kc::admission<CreateMonitoringLinkExport>(callers(), kCreateMonitoringLinkCases,
+                                              kc::Needs::Operator);
 }
 
 const char* const kCreateMonitoringLinkNoUtf8[] = {
@@ -124,6 +129,10 @@ TEST_F(Monitoring, getMonitoringItems_Exchange) {
 TEST_F(Monitoring, getMonitoringItems_Failure) {
     kc::failure<GetMonitoringItemsExport>(api, kGetMonitoringItemsCases);
 }
+TEST_F(MonitoringAdmission, getMonitoringItems) {
+    kc::admission<GetMonitoringItemsExport>(callers(), kGetMonitoringItemsCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber11{11, "getMonitoringItems", kGetMonitoringItemsCases};
 
@@ -153,6 +162,10 @@ TEST_F(Monitoring, releaseMonitoringLink_Exchange) {
 }
 TEST_F(Monitoring, releaseMonitoringLink_Failure) {
     kc::failure<ReleaseMonitoringLinkExport>(api, kReleaseMonitoringLinkCases);
+}
+TEST_F(MonitoringAdmission, releaseMonitoringLink) {
+    kc::admission<ReleaseMonitoringLinkExport>(callers(), kReleaseMonitoringLinkCases,
+                                               kc::Needs::Operator);
 }
 
 const kc::Number kNumber12{12, "releaseMonitoringLink", kReleaseMonitoringLinkCases};
@@ -231,6 +244,10 @@ TEST_F(Monitoring, getPduMonitoringItems_Exchange) {
 TEST_F(Monitoring, getPduMonitoringItems_Failure) {
     kc::failure<GetPduMonitoringItemsExport>(api, kGetPduMonitoringItemsCases);
 }
+TEST_F(MonitoringAdmission, getPduMonitoringItems) {
+    kc::admission<GetPduMonitoringItemsExport>(callers(), kGetPduMonitoringItemsCases,
+                                               kc::Needs::Operator);
+}
 
 const kc::Number kNumber13{13, "getPduMonitoringItems", kGetPduMonitoringItemsCases};
 
@@ -261,6 +278,9 @@ TEST_F(Monitoring, createPduMonitor_Exchange) {
 TEST_F(Monitoring, createPduMonitor_Failure) {
     kc::failure<CreatePduMonitorExport>(api, kCreatePduMonitorCases);
 }
+TEST_F(MonitoringAdmission, createPduMonitor) {
+    kc::admission<CreatePduMonitorExport>(callers(), kCreatePduMonitorCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber14{14, "createPduMonitor", kCreatePduMonitorCases};
 
@@ -289,6 +309,9 @@ TEST_F(Monitoring, releasePduMonitor_Exchange) {
 }
 TEST_F(Monitoring, releasePduMonitor_Failure) {
     kc::failure<ReleasePduMonitorExport>(api, kReleasePduMonitorCases);
+}
+TEST_F(MonitoringAdmission, releasePduMonitor) {
+    kc::admission<ReleasePduMonitorExport>(callers(), kReleasePduMonitorCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber16{16, "releasePduMonitor", kReleasePduMonitorCases};
@@ -327,6 +350,10 @@ TEST_F(Monitoring, openTraceFileMonitoringLink_Exchange) {
 }
 TEST_F(Monitoring, openTraceFileMonitoringLink_Failure) {
     kc::failure<OpenTraceFileMonitoringLinkExport>(api, kOpenTraceFileMonitoringLinkCases);
+}
+TEST_F(MonitoringAdmission, openTraceFileMonitoringLink) {
+    kc::admission<OpenTraceFileMonitoringLinkExport>(callers(), kOpenTraceFileMonitoringLinkCases,
+                                                     kc::Needs::Operator);
 }
 
 const char* const kOpenTraceFileMonitoringLinkNoUtf8[] = {
@@ -369,6 +396,10 @@ TEST_F(Monitoring, startTraceFileMonitoringLink_Exchange) {
 TEST_F(Monitoring, startTraceFileMonitoringLink_Failure) {
     kc::failure<StartTraceFileMonitoringLinkExport>(api, kStartTraceFileMonitoringLinkCases);
 }
+TEST_F(MonitoringAdmission, startTraceFileMonitoringLink) {
+    kc::admission<StartTraceFileMonitoringLinkExport>(callers(), kStartTraceFileMonitoringLinkCases,
+                                                      kc::Needs::Operator);
+}
 
 const kc::Number kNumber68{68, "startTraceFileMonitoringLink", kStartTraceFileMonitoringLinkCases};
 
@@ -405,6 +436,10 @@ TEST_F(Monitoring, stopTraceFileMonitoringLink_Exchange) {
 TEST_F(Monitoring, stopTraceFileMonitoringLink_Failure) {
     kc::failure<StopTraceFileMonitoringLinkExport>(api, kStopTraceFileMonitoringLinkCases);
 }
+TEST_F(MonitoringAdmission, stopTraceFileMonitoringLink) {
+    kc::admission<StopTraceFileMonitoringLinkExport>(callers(), kStopTraceFileMonitoringLinkCases,
+                                                     kc::Needs::Operator);
+}
 
 const kc::Number kNumber69{69, "stopTraceFileMonitoringLink", kStopTraceFileMonitoringLinkCases};
 
@@ -438,6 +473,10 @@ TEST_F(Monitoring, closeTraceFileMonitoringLink_Exchange) {
 }
 TEST_F(Monitoring, closeTraceFileMonitoringLink_Failure) {
     kc::failure<CloseTraceFileMonitoringLinkExport>(api, kCloseTraceFileMonitoringLinkCases);
+}
+TEST_F(MonitoringAdmission, closeTraceFileMonitoringLink) {
+    kc::admission<CloseTraceFileMonitoringLinkExport>(callers(), kCloseTraceFileMonitoringLinkCases,
+                                                      kc::Needs::Operator);
 }
 
 const kc::Number kNumber66{66, "closeTraceFileMonitoringLink", kCloseTraceFileMonitoringLinkCases};
@@ -474,6 +513,10 @@ TEST_F(Monitoring, createApiTraceMonitor_Exchange) {
 }
 TEST_F(Monitoring, createApiTraceMonitor_Failure) {
     kc::failure<CreateApiTraceMonitorExport>(api, kCreateApiTraceMonitorCases);
+}
+TEST_F(MonitoringAdmission, createApiTraceMonitor) {
+    kc::admission<CreateApiTraceMonitorExport>(callers(), kCreateApiTraceMonitorCases,
+                                               kc::Needs::Operator);
 }
 
 const kc::Number kNumber189{189, "createApiTraceMonitor", kCreateApiTraceMonitorCases};
@@ -514,6 +557,10 @@ TEST_F(Monitoring, getApiTraceContent_Exchange) {
 TEST_F(Monitoring, getApiTraceContent_Failure) {
     kc::failure<GetApiTraceContentExport>(api, kGetApiTraceContentCases);
 }
+TEST_F(MonitoringAdmission, getApiTraceContent) {
+    kc::admission<GetApiTraceContentExport>(callers(), kGetApiTraceContentCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber190{190, "getApiTraceContent", kGetApiTraceContentCases};
 
@@ -543,6 +590,10 @@ TEST_F(Monitoring, releaseApiTraceMonitor_Exchange) {
 }
 TEST_F(Monitoring, releaseApiTraceMonitor_Failure) {
     kc::failure<ReleaseApiTraceMonitorExport>(api, kReleaseApiTraceMonitorCases);
+}
+TEST_F(MonitoringAdmission, releaseApiTraceMonitor) {
+    kc::admission<ReleaseApiTraceMonitorExport>(callers(), kReleaseApiTraceMonitorCases,
+                                                kc::Needs::Operator);
 }
 
 const kc::Number kNumber192{192, "releaseApiTraceMonitor", kReleaseApiTraceMonitorCases};
@@ -587,6 +638,10 @@ TEST_F(Monitoring, getMonitoringLinks_Exchange) {
 }
 TEST_F(Monitoring, getMonitoringLinks_Failure) {
     kc::failure<GetMonitoringLinksExport>(api, kGetMonitoringLinksCases);
+}
+TEST_F(MonitoringAdmission, getMonitoringLinks) {
+    kc::admission<GetMonitoringLinksExport>(callers(), kGetMonitoringLinksCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber65{65, "getMonitoringLinks", kGetMonitoringLinksCases};

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Projects = kc::ConformanceTest;
 using ProjectsByNumber = kc::ConformanceTest;
+using ProjectsAdmission = kc::AdmissionTest;
 
 // ---- getProjectConfiguration (position 7, number 7) ----
 
@@ -113,6 +114,10 @@ TEST_F(Projects, getProjectConfiguration_Exchange) {
 }
 TEST_F(Projects, getProjectConfiguration_Failure) {
     kc::failure<GetProjectConfigurationExport>(api, kGetProjectConfigurationCases);
+}
+TEST_F(ProjectsAdmission, getProjectConfiguration) {
+    kc::admission<GetProjectConfigurationExport>(callers(), kGetProjectConfigurationCases,
+                                                 kc::Needs::Operator);
 }
 
 const char* const kGetProjectConfigurationNoUtf8[] = {
@@ -246,6 +251,10 @@ TEST_F(Projects, setProjectConfiguration_Exchange) {
 }
 TEST_F(Projects, setProjectConfiguration_Failure) {
     kc::failure<SetProjectConfigurationExport>(api, kSetProjectConfigurationCases);
+}
+TEST_F(ProjectsAdmission, setProjectConfiguration) {
+    kc::admission<SetProjectConfigurationExport>(callers(), kSetProjectConfigurationCases,
+                                                 kc::Needs::Operator);
 }
 
 const char* const kSetProjectConfigurationNoUtf8[] = {
@@ -464,6 +473,10 @@ TEST_F(Projects, saveProjectConfiguration_Exchange) {
 TEST_F(Projects, saveProjectConfiguration_Failure) {
     kc::failure<SaveProjectConfigurationExport>(api, kSaveProjectConfigurationCases);
 }
+TEST_F(ProjectsAdmission, saveProjectConfiguration) {
+    kc::admission<SaveProjectConfigurationExport>(callers(), kSaveProjectConfigurationCases,
+                                                  kc::Needs::Operator);
+}
 
 const char* const kSaveProjectConfigurationNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 9.1\\ud800\"]",
@@ -501,6 +514,10 @@ TEST_F(Projects, saveConfiguration_Exchange) {
 TEST_F(Projects, saveConfiguration_Failure) {
     kc::failure<SaveConfigurationExport>(api, kSaveConfigurationCases);
 }
+TEST_F(ProjectsAdmission, saveConfiguration) {
+    kc::admission<SaveConfigurationExport>(callers(), kSaveConfigurationCases,
+                                           kc::Needs::Administrator);
+}
 
 const kc::Number kNumber15{15, "saveConfiguration", kSaveConfigurationCases};
 
@@ -529,6 +546,10 @@ TEST_F(Projects, refreshProjectList_Exchange) {
 }
 TEST_F(Projects, refreshProjectList_Failure) {
     kc::failure<RefreshProjectListExport>(api, kRefreshProjectListCases);
+}
+TEST_F(ProjectsAdmission, refreshProjectList) {
+    kc::admission<RefreshProjectListExport>(callers(), kRefreshProjectListCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber85{85, "refreshProjectList", kRefreshProjectListCases};
@@ -562,6 +583,10 @@ TEST_F(Projects, isProjectConversionRequired_Exchange) {
 }
 TEST_F(Projects, isProjectConversionRequired_Failure) {
     kc::failure<IsProjectConversionRequiredExport>(api, kIsProjectConversionRequiredCases);
+}
+TEST_F(ProjectsAdmission, isProjectConversionRequired) {
+    kc::admission<IsProjectConversionRequiredExport>(callers(), kIsProjectConversionRequiredCases,
+                                                     kc::Needs::Operator);
 }
 
 const char* const kIsProjectConversionRequiredNoUtf8[] = {
@@ -609,6 +634,9 @@ TEST_F(Projects, convertProject_Exchange) {
 TEST_F(Projects, convertProject_Failure) {
     kc::failure<ConvertProjectExport>(api, kConvertProjectCases);
 }
+TEST_F(ProjectsAdmission, convertProject) {
+    kc::admission<ConvertProjectExport>(callers(), kConvertProjectCases, kc::Needs::Operator);
+}
 
 const char* const kConvertProjectNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 76.1\\ud800\"]",
@@ -645,6 +673,10 @@ TEST_F(Projects, saveMoxConfiguration_Exchange) {
 }
 TEST_F(Projects, saveMoxConfiguration_Failure) {
     kc::failure<SaveMoxConfigurationExport>(api, kSaveMoxConfigurationCases);
+}
+TEST_F(ProjectsAdmission, saveMoxConfiguration) {
+    kc::admission<SaveMoxConfigurationExport>(callers(), kSaveMoxConfigurationCases,
+                                              kc::Needs::Administrator);
 }
 
 const kc::Number kNumber102{102, "saveMoxConfiguration", kSaveMoxConfigurationCases};
@@ -781,6 +813,9 @@ TEST_F(Projects, getProjectDetails_Exchange) {
 }
 TEST_F(Projects, getProjectDetails_Failure) {
     kc::failure<GetProjectDetailsExport>(api, kGetProjectDetailsCases);
+}
+TEST_F(ProjectsAdmission, getProjectDetails) {
+    kc::admission<GetProjectDetailsExport>(callers(), kGetProjectDetailsCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber106{106, "getProjectDetails", kGetProjectDetailsCases};
@@ -1028,6 +1063,9 @@ TEST_F(Projects, getSystemProperty_Exchange) {
 TEST_F(Projects, getSystemProperty_Failure) {
     kc::failure<GetSystemPropertyExport>(api, kGetSystemPropertyCases);
 }
+TEST_F(ProjectsAdmission, getSystemProperty) {
+    kc::admission<GetSystemPropertyExport>(callers(), kGetSystemPropertyCases, kc::Needs::Operator);
+}
 
 const char* const kGetSystemPropertyNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 87.1\\ud800\"]",
@@ -1069,6 +1107,10 @@ TEST_F(Projects, resetSystemProperty_Exchange) {
 }
 TEST_F(Projects, resetSystemProperty_Failure) {
     kc::failure<ResetSystemPropertyExport>(api, kResetSystemPropertyCases);
+}
+TEST_F(ProjectsAdmission, resetSystemProperty) {
+    kc::admission<ResetSystemPropertyExport>(callers(), kResetSystemPropertyCases,
+                                             kc::Needs::Administrator);
 }
 
 const char* const kResetSystemPropertyNoUtf8[] = {
@@ -1413,6 +1455,10 @@ TEST_F(Projects, setSystemProperty_Exchange) {
 }
 TEST_F(Projects, setSystemProperty_Failure) {
     kc::failure<SetSystemPropertyExport>(api, kSetSystemPropertyCases);
+}
+TEST_F(ProjectsAdmission, setSystemProperty) {
+    kc::admission<SetSystemPropertyExport>(callers(), kSetSystemPropertyCases,
+                                           kc::Needs::Administrator);
 }
 
 const char* const kSetSystemPropertyNoUtf8[] = {
@@ -2229,6 +2275,9 @@ TEST_F(Projects, getSystemInfo_Exchange) {
 TEST_F(Projects, getSystemInfo_Failure) {
     kc::failure<GetSystemInfoExport>(api, kGetSystemInfoCases);
 }
+TEST_F(ProjectsAdmission, getSystemInfo) {
+    kc::admission<GetSystemInfoExport>(callers(), kGetSystemInfoCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber183{183, "getSystemInfo", kGetSystemInfoCases};
 
@@ -2309,6 +2358,9 @@ TEST_F(Projects, loadDatabaseFile_Exchange) {
 }
 TEST_F(Projects, loadDatabaseFile_Failure) {
     kc::failure<LoadDatabaseFileExport>(api, kLoadDatabaseFileCases);
+}
+TEST_F(ProjectsAdmission, loadDatabaseFile) {
+    kc::admission<LoadDatabaseFileExport>(callers(), kLoadDatabaseFileCases, kc::Needs::Operator);
 }
 
 const char* const kLoadDatabaseFileNoUtf8[] = {
@@ -2399,6 +2451,10 @@ TEST_F(Projects, unloadDatabaseFile_Exchange) {
 }
 TEST_F(Projects, unloadDatabaseFile_Failure) {
     kc::failure<UnloadDatabaseFileExport>(api, kUnloadDatabaseFileCases);
+}
+TEST_F(ProjectsAdmission, unloadDatabaseFile) {
+    kc::admission<UnloadDatabaseFileExport>(callers(), kUnloadDatabaseFileCases,
+                                            kc::Needs::Operator);
 }
 
 const char* const kUnloadDatabaseFileNoUtf8[] = {
@@ -2567,6 +2623,10 @@ TEST_F(Projects, getProjectsDetails_Exchange) {
 TEST_F(Projects, getProjectsDetails_Failure) {
     kc::failure<GetProjectsDetailsExport>(api, kGetProjectsDetailsCases);
 }
+TEST_F(ProjectsAdmission, getProjectsDetails) {
+    kc::admission<GetProjectsDetailsExport>(callers(), kGetProjectsDetailsCases,
+                                            kc::Needs::Operator);
+}
 
 const char* const kGetProjectsDetailsNoUtf8[] = {
     "[[\"\\udc00Pr\303\274fstand \342\202\254 192.1\\ud800\",\"\",\"\346\227\245\346\234\254"
@@ -2621,6 +2681,10 @@ TEST_F(Projects, selectDynamicProject_Exchange) {
 }
 TEST_F(Projects, selectDynamicProject_Failure) {
     kc::failure<SelectDynamicProjectExport>(api, kSelectDynamicProjectCases);
+}
+TEST_F(ProjectsAdmission, selectDynamicProject) {
+    kc::admission<SelectDynamicProjectExport>(callers(), kSelectDynamicProjectCases,
+                                              kc::Needs::Operator);
 }
 
 const char* const kSelectDynamicProjectNoUtf8[] = {
@@ -2776,6 +2840,10 @@ TEST_F(Projects, getProjectConfigurations_Exchange) {
 TEST_F(Projects, getProjectConfigurations_Failure) {
     kc::failure<GetProjectConfigurationsExport>(api, kGetProjectConfigurationsCases);
 }
+TEST_F(ProjectsAdmission, getProjectConfigurations) {
+    kc::admission<GetProjectConfigurationsExport>(callers(), kGetProjectConfigurationsCases,
+                                                  kc::Needs::Operator);
+}
 
 const kc::Number kNumber48{48, "getProjectConfigurations", kGetProjectConfigurationsCases};
 
@@ -2806,6 +2874,9 @@ struct GetVersionExport {
 
 TEST_F(Projects, getVersion_Exchange) { kc::exchange<GetVersionExport>(api, kGetVersionCases); }
 TEST_F(Projects, getVersion_Failure) { kc::failure<GetVersionExport>(api, kGetVersionCases); }
+TEST_F(ProjectsAdmission, getVersion) {
+    kc::admission<GetVersionExport>(callers(), kGetVersionCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber50{50, "getVersion", kGetVersionCases};
 
@@ -2837,6 +2908,10 @@ TEST_F(Projects, getSelectedProject_Exchange) {
 }
 TEST_F(Projects, getSelectedProject_Failure) {
     kc::failure<GetSelectedProjectExport>(api, kGetSelectedProjectCases);
+}
+TEST_F(ProjectsAdmission, getSelectedProject) {
+    kc::admission<GetSelectedProjectExport>(callers(), kGetSelectedProjectCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber51{51, "getSelectedProject", kGetSelectedProjectCases};
@@ -2872,6 +2947,10 @@ TEST_F(Projects, setSelectedProject_Exchange) {
 }
 TEST_F(Projects, setSelectedProject_Failure) {
     kc::failure<SetSelectedProjectExport>(api, kSetSelectedProjectCases);
+}
+TEST_F(ProjectsAdmission, setSelectedProject) {
+    kc::admission<SetSelectedProjectExport>(callers(), kSetSelectedProjectCases,
+                                            kc::Needs::Operator);
 }
 
 const char* const kSetSelectedProjectNoUtf8[] = {
@@ -2968,6 +3047,9 @@ TEST_F(Projects, getConfiguration_Exchange) {
 }
 TEST_F(Projects, getConfiguration_Failure) {
     kc::failure<GetConfigurationExport>(api, kGetConfigurationCases);
+}
+TEST_F(ProjectsAdmission, getConfiguration) {
+    kc::admission<GetConfigurationExport>(callers(), kGetConfigurationCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber53{53, "getConfiguration", kGetConfigurationCases};
@@ -3068,6 +3150,10 @@ TEST_F(Projects, setConfiguration_Exchange) {
 }
 TEST_F(Projects, setConfiguration_Failure) {
     kc::failure<SetConfigurationExport>(api, kSetConfigurationCases);
+}
+TEST_F(ProjectsAdmission, setConfiguration) {
+    kc::admission<SetConfigurationExport>(callers(), kSetConfigurationCases,
+                                          kc::Needs::Administrator);
 }
 
 const char* const kSetConfigurationNoUtf8[] = {
@@ -3221,6 +3307,9 @@ TEST_F(Projects, getProcessInfo_Exchange) {
 TEST_F(Projects, getProcessInfo_Failure) {
     kc::failure<GetProcessInfoExport>(api, kGetProcessInfoCases);
 }
+TEST_F(ProjectsAdmission, getProcessInfo) {
+    kc::admission<GetProcessInfoExport>(callers(), kGetProcessInfoCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber59{59, "getProcessInfo", kGetProcessInfoCases};
 
@@ -3255,6 +3344,10 @@ TEST_F(Projects, getTransmissionInfo_Exchange) {
 }
 TEST_F(Projects, getTransmissionInfo_Failure) {
     kc::failure<GetTransmissionInfoExport>(api, kGetTransmissionInfoCases);
+}
+TEST_F(ProjectsAdmission, getTransmissionInfo) {
+    kc::admission<GetTransmissionInfoExport>(callers(), kGetTransmissionInfoCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber60{60, "getTransmissionInfo", kGetTransmissionInfoCases};
@@ -3325,6 +3418,10 @@ TEST_F(Projects, getMoxConfiguration_Exchange) {
 }
 TEST_F(Projects, getMoxConfiguration_Failure) {
     kc::failure<GetMoxConfigurationExport>(api, kGetMoxConfigurationCases);
+}
+TEST_F(ProjectsAdmission, getMoxConfiguration) {
+    kc::admission<GetMoxConfigurationExport>(callers(), kGetMoxConfigurationCases,
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber62{62, "getMoxConfiguration", kGetMoxConfigurationCases};
@@ -3401,6 +3498,10 @@ TEST_F(Projects, setMoxConfiguration_Exchange) {
 }
 TEST_F(Projects, setMoxConfiguration_Failure) {
     kc::failure<SetMoxConfigurationExport>(api, kSetMoxConfigurationCases);
+}
+TEST_F(ProjectsAdmission, setMoxConfiguration) {
+    kc::admission<SetMoxConfigurationExport>(callers(), kSetMoxConfigurationCases,
+                                             kc::Needs::Administrator);
 }
 
 const char* const kSetMoxConfigurationNoUtf8[] = {
@@ -4003,6 +4104,10 @@ TEST_F(Projects, getGlobalProtocolParameterSets_Exchange) {
 }
 TEST_F(Projects, getGlobalProtocolParameterSets_Failure) {
     kc::failure<GetGlobalProtocolParameterSetsExport>(api, kGetGlobalProtocolParameterSetsCases);
+}
+TEST_F(ProjectsAdmission, getGlobalProtocolParameterSets) {
+    kc::admission<GetGlobalProtocolParameterSetsExport>(
+        callers(), kGetGlobalProtocolParameterSetsCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber78{78, "getGlobalProtocolParameterSets",
@@ -4852,6 +4957,10 @@ TEST_F(Projects, setGlobalProtocolParameterSets_Exchange) {
 }
 TEST_F(Projects, setGlobalProtocolParameterSets_Failure) {
     kc::failure<SetGlobalProtocolParameterSetsExport>(api, kSetGlobalProtocolParameterSetsCases);
+}
+TEST_F(ProjectsAdmission, setGlobalProtocolParameterSets) {
+    kc::admission<SetGlobalProtocolParameterSetsExport>(
+        callers(), kSetGlobalProtocolParameterSetsCases, kc::Needs::Administrator);
 }
 
 const char* const kSetGlobalProtocolParameterSetsNoUtf8[] = {
@@ -7869,6 +7978,9 @@ TEST_F(Projects, getStatusInfo_Exchange) {
 TEST_F(Projects, getStatusInfo_Failure) {
     kc::failure<GetStatusInfoExport>(api, kGetStatusInfoCases);
 }
+TEST_F(ProjectsAdmission, getStatusInfo) {
+    kc::admission<GetStatusInfoExport>(callers(), kGetStatusInfoCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber88{88, "getStatusInfo", kGetStatusInfoCases};
 
@@ -7900,6 +8012,10 @@ TEST_F(Projects, getCurrentDebugTraceDirectory_Exchange) {
 }
 TEST_F(Projects, getCurrentDebugTraceDirectory_Failure) {
     kc::failure<GetCurrentDebugTraceDirectoryExport>(api, kGetCurrentDebugTraceDirectoryCases);
+}
+TEST_F(ProjectsAdmission, getCurrentDebugTraceDirectory) {
+    kc::admission<GetCurrentDebugTraceDirectoryExport>(
+        callers(), kGetCurrentDebugTraceDirectoryCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber142{142, "getCurrentDebugTraceDirectory",
@@ -7940,6 +8056,9 @@ TEST_F(Projects, setStatusText_Exchange) {
 }
 TEST_F(Projects, setStatusText_Failure) {
     kc::failure<SetStatusTextExport>(api, kSetStatusTextCases);
+}
+TEST_F(ProjectsAdmission, setStatusText) {
+    kc::admission<SetStatusTextExport>(callers(), kSetStatusTextCases, kc::Needs::Operator);
 }
 
 const char* const kSetStatusTextNoUtf8[] = {

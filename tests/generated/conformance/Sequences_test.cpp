@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Sequences = kc::ConformanceTest;
 using SequencesByNumber = kc::ConformanceTest;
+using SequencesAdmission = kc::AdmissionTest;
 
 // ---- runSequence (position 145, number 177) ----
 
@@ -46,6 +47,9 @@ struct RunSequenceExport {
 
 TEST_F(Sequences, runSequence_Exchange) { kc::exchange<RunSequenceExport>(api, kRunSequenceCases); }
 TEST_F(Sequences, runSequence_Failure) { kc::failure<RunSequenceExport>(api, kRunSequenceCases); }
+TEST_F(SequencesAdmission, runSequence) {
+    kc::admission<RunSequenceExport>(callers(), kRunSequenceCases, kc::Needs::Operator);
+}
 
 const char* const kRunSequenceNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 145.1\\ud800\",[\"\346\227\245\346\234\254\350"
@@ -85,6 +89,9 @@ TEST_F(Sequences, cancelSequence_Exchange) {
 }
 TEST_F(Sequences, cancelSequence_Failure) {
     kc::failure<CancelSequenceExport>(api, kCancelSequenceCases);
+}
+TEST_F(SequencesAdmission, cancelSequence) {
+    kc::admission<CancelSequenceExport>(callers(), kCancelSequenceCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber180{180, "cancelSequence", kCancelSequenceCases};
@@ -684,6 +691,9 @@ TEST_F(Sequences, executeSequence_Exchange) {
 TEST_F(Sequences, executeSequence_Failure) {
     kc::failure<ExecuteSequenceExport>(api, kExecuteSequenceCases);
 }
+TEST_F(SequencesAdmission, executeSequence) {
+    kc::admission<ExecuteSequenceExport>(callers(), kExecuteSequenceCases, kc::Needs::Operator);
+}
 
 struct ExecuteSequenceAsyncExport {
     static constexpr const char* operation = "executeSequenceAsync";
@@ -702,6 +712,10 @@ TEST_F(Sequences, executeSequenceAsync_Exchange) {
 }
 TEST_F(Sequences, executeSequenceAsync_Failure) {
     kc::asyncFailure<ExecuteSequenceAsyncExport>(api, kExecuteSequenceCases);
+}
+TEST_F(SequencesAdmission, executeSequenceAsync) {
+    kc::asyncAdmission<ExecuteSequenceAsyncExport>(callers(), kExecuteSequenceCases,
+                                                   kc::Needs::Operator);
 }
 
 const char* const kExecuteSequenceNoUtf8[] = {

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Servers = kc::ConformanceTest;
 using ServersByNumber = kc::ConformanceTest;
+using ServersAdmission = kc::AdmissionTest;
 
 // ---- startServer (position 4, number 4) ----
 
@@ -36,6 +37,9 @@ struct StartServerExport {
 
 TEST_F(Servers, startServer_Exchange) { kc::exchange<StartServerExport>(api, kStartServerCases); }
 TEST_F(Servers, startServer_Failure) { kc::failure<StartServerExport>(api, kStartServerCases); }
+TEST_F(ServersAdmission, startServer) {
+    kc::admission<StartServerExport>(callers(), kStartServerCases, kc::Needs::Administrator);
+}
 
 const char* const kStartServerNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 4.1\\ud800\"]",
@@ -74,6 +78,9 @@ struct StopServerExport {
 
 TEST_F(Servers, stopServer_Exchange) { kc::exchange<StopServerExport>(api, kStopServerCases); }
 TEST_F(Servers, stopServer_Failure) { kc::failure<StopServerExport>(api, kStopServerCases); }
+TEST_F(ServersAdmission, stopServer) {
+    kc::admission<StopServerExport>(callers(), kStopServerCases, kc::Needs::Administrator);
+}
 
 const char* const kStopServerNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 5.1\\ud800\"]",
@@ -111,6 +118,9 @@ TEST_F(Servers, restartServer_Exchange) {
 TEST_F(Servers, restartServer_Failure) {
     kc::failure<RestartServerExport>(api, kRestartServerCases);
 }
+TEST_F(ServersAdmission, restartServer) {
+    kc::admission<RestartServerExport>(callers(), kRestartServerCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber6{6, "restartServer", kRestartServerCases};
 
@@ -141,6 +151,10 @@ struct ConnectRemoteServerExport {
 
 TEST_F(Servers, connectRemoteServer_Failure) {
     kc::failure<ConnectRemoteServerExport>(api, kConnectRemoteServerCases);
+}
+TEST_F(ServersAdmission, connectRemoteServer) {
+    kc::admission<ConnectRemoteServerExport>(callers(), kConnectRemoteServerCases,
+                                             kc::Needs::Operator);
 }
 
 const char* const kConnectRemoteServerNoUtf8[] = {
@@ -173,6 +187,9 @@ struct DisconnectExport {
 
 TEST_F(Servers, disconnect_Exchange) { kc::exchange<DisconnectExport>(api, kDisconnectCases); }
 TEST_F(Servers, disconnect_Failure) { kc::failure<DisconnectExport>(api, kDisconnectCases); }
+TEST_F(ServersAdmission, disconnect) {
+    kc::admission<DisconnectExport>(callers(), kDisconnectCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber74{74, "disconnect", kDisconnectCases};
 
@@ -211,6 +228,9 @@ struct AddUserExport {
 
 TEST_F(Servers, addUser_Exchange) { kc::exchange<AddUserExport>(api, kAddUserCases); }
 TEST_F(Servers, addUser_Failure) { kc::failure<AddUserExport>(api, kAddUserCases); }
+TEST_F(ServersAdmission, addUser) {
+    kc::admission<AddUserExport>(callers(), kAddUserCases, kc::Needs::Administrator);
+}
 
 const char* const kAddUserNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 124.1\\ud800\",\"\346\227\245\346\234\254\350"
@@ -251,6 +271,9 @@ struct RemoveUserExport {
 
 TEST_F(Servers, removeUser_Exchange) { kc::exchange<RemoveUserExport>(api, kRemoveUserCases); }
 TEST_F(Servers, removeUser_Failure) { kc::failure<RemoveUserExport>(api, kRemoveUserCases); }
+TEST_F(ServersAdmission, removeUser) {
+    kc::admission<RemoveUserExport>(callers(), kRemoveUserCases, kc::Needs::Administrator);
+}
 
 const char* const kRemoveUserNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 125.1\\ud800\"]",
@@ -303,6 +326,9 @@ struct GetUsersExport {
 
 TEST_F(Servers, getUsers_Exchange) { kc::exchange<GetUsersExport>(api, kGetUsersCases); }
 TEST_F(Servers, getUsers_Failure) { kc::failure<GetUsersExport>(api, kGetUsersCases); }
+TEST_F(ServersAdmission, getUsers) {
+    kc::admission<GetUsersExport>(callers(), kGetUsersCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber160{160, "getUsers", kGetUsersCases};
 
@@ -337,6 +363,9 @@ struct LogOutExport {
 
 TEST_F(Servers, logOut_Exchange) { kc::exchange<LogOutExport>(api, kLogOutCases); }
 TEST_F(Servers, logOut_Failure) { kc::failure<LogOutExport>(api, kLogOutCases); }
+TEST_F(ServersAdmission, logOut) {
+    kc::admission<LogOutExport>(callers(), kLogOutCases, kc::Needs::Operator);
+}
 
 const char* const kLogOutNoUtf8[] = {
     "[{\"user\":\"\\udc00Pr\303\274fstand \342\202\254 127.1\\ud800\",\"password\":\"\346\227"
@@ -390,6 +419,9 @@ struct UpdateUserExport {
 
 TEST_F(Servers, updateUser_Exchange) { kc::exchange<UpdateUserExport>(api, kUpdateUserCases); }
 TEST_F(Servers, updateUser_Failure) { kc::failure<UpdateUserExport>(api, kUpdateUserCases); }
+TEST_F(ServersAdmission, updateUser) {
+    kc::admission<UpdateUserExport>(callers(), kUpdateUserCases, kc::Needs::Administrator);
+}
 
 const char* const kUpdateUserNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 128.1\\ud800\",\"\346\227\245\346\234\254\350"
@@ -431,6 +463,10 @@ TEST_F(Servers, getServerUserManagement_Exchange) {
 TEST_F(Servers, getServerUserManagement_Failure) {
     kc::failure<GetServerUserManagementExport>(api, kGetServerUserManagementCases);
 }
+TEST_F(ServersAdmission, getServerUserManagement) {
+    kc::admission<GetServerUserManagementExport>(callers(), kGetServerUserManagementCases,
+                                                 kc::Needs::Anyone);
+}
 
 const kc::Number kNumber138{138, "getServerUserManagement", kGetServerUserManagementCases};
 
@@ -460,6 +496,10 @@ TEST_F(Servers, setServerUserManagement_Exchange) {
 }
 TEST_F(Servers, setServerUserManagement_Failure) {
     kc::failure<SetServerUserManagementExport>(api, kSetServerUserManagementCases);
+}
+TEST_F(ServersAdmission, setServerUserManagement) {
+    kc::admission<SetServerUserManagementExport>(callers(), kSetServerUserManagementCases,
+                                                 kc::Needs::Administrator);
 }
 
 const kc::Number kNumber156{156, "setServerUserManagement", kSetServerUserManagementCases};
@@ -495,6 +535,10 @@ TEST_F(Servers, disconnectAllClients_Exchange) {
 TEST_F(Servers, disconnectAllClients_Failure) {
     kc::failure<DisconnectAllClientsExport>(api, kDisconnectAllClientsCases);
 }
+TEST_F(ServersAdmission, disconnectAllClients) {
+    kc::admission<DisconnectAllClientsExport>(callers(), kDisconnectAllClientsCases,
+                                              kc::Needs::Administrator);
+}
 
 const kc::Number kNumber162{162, "disconnectAllClients", kDisconnectAllClientsCases};
 
@@ -522,6 +566,10 @@ TEST_F(Servers, reconnectRemoteServer_Exchange) {
 }
 TEST_F(Servers, reconnectRemoteServer_Failure) {
     kc::failure<ReconnectRemoteServerExport>(api, kReconnectRemoteServerCases);
+}
+TEST_F(ServersAdmission, reconnectRemoteServer) {
+    kc::admission<ReconnectRemoteServerExport>(callers(), kReconnectRemoteServerCases,
+                                               kc::Needs::Operator);
 }
 
 const kc::Number kNumber199{199, "reconnectRemoteServer", kReconnectRemoteServerCases};
@@ -555,6 +603,9 @@ TEST_F(Servers, thirdPartyLogin_Exchange) {
 }
 TEST_F(Servers, thirdPartyLogin_Failure) {
     kc::failure<ThirdPartyLoginExport>(api, kThirdPartyLoginCases);
+}
+TEST_F(ServersAdmission, thirdPartyLogin) {
+    kc::admission<ThirdPartyLoginExport>(callers(), kThirdPartyLoginCases, kc::Needs::Anyone);
 }
 
 const char* const kThirdPartyLoginNoUtf8[] = {
@@ -601,6 +652,10 @@ TEST_F(Servers, getThirdPartyLoginUrl_Exchange) {
 }
 TEST_F(Servers, getThirdPartyLoginUrl_Failure) {
     kc::failure<GetThirdPartyLoginUrlExport>(api, kGetThirdPartyLoginUrlCases);
+}
+TEST_F(ServersAdmission, getThirdPartyLoginUrl) {
+    kc::admission<GetThirdPartyLoginUrlExport>(callers(), kGetThirdPartyLoginUrlCases,
+                                               kc::Needs::Anyone);
 }
 
 const char* const kGetThirdPartyLoginUrlNoUtf8[] = {
@@ -663,6 +718,10 @@ TEST_F(Servers, getCertificateByPublicKey_Exchange) {
 }
 TEST_F(Servers, getCertificateByPublicKey_Failure) {
     kc::failure<GetCertificateByPublicKeyExport>(api, kGetCertificateByPublicKeyCases);
+}
+TEST_F(ServersAdmission, getCertificateByPublicKey) {
+    kc::admission<GetCertificateByPublicKeyExport>(callers(), kGetCertificateByPublicKeyCases,
+                                                   kc::Needs::Operator);
 }
 
 const char* const kGetCertificateByPublicKeyNoUtf8[] = {
@@ -746,6 +805,10 @@ TEST_F(Servers, createCertificateFromCSR_Exchange) {
 }
 TEST_F(Servers, createCertificateFromCSR_Failure) {
     kc::failure<CreateCertificateFromCSRExport>(api, kCreateCertificateFromCSRCases);
+}
+TEST_F(ServersAdmission, createCertificateFromCSR) {
+    kc::admission<CreateCertificateFromCSRExport>(callers(), kCreateCertificateFromCSRCases,
+                                                  kc::Needs::Administrator);
 }
 
 const char* const kCreateCertificateFromCSRNoUtf8[] = {
@@ -845,6 +908,10 @@ TEST_F(Servers, getCertificateChainById_Exchange) {
 TEST_F(Servers, getCertificateChainById_Failure) {
     kc::failure<GetCertificateChainByIdExport>(api, kGetCertificateChainByIdCases);
 }
+TEST_F(ServersAdmission, getCertificateChainById) {
+    kc::admission<GetCertificateChainByIdExport>(callers(), kGetCertificateChainByIdCases,
+                                                 kc::Needs::Operator);
+}
 
 const char* const kGetCertificateChainByIdNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 219.1\\ud800\",\"\346\227\245\346\234\254\350"
@@ -891,6 +958,10 @@ TEST_F(Servers, startSOVDServer_Exchange) {
 TEST_F(Servers, startSOVDServer_Failure) {
     kc::failure<StartSOVDServerExport>(api, kStartSOVDServerCases);
 }
+TEST_F(ServersAdmission, startSOVDServer) {
+    kc::admission<StartSOVDServerExport>(callers(), kStartSOVDServerCases,
+                                         kc::Needs::Administrator);
+}
 
 const kc::Number kNumber259{259, "startSOVDServer", kStartSOVDServerCases};
 
@@ -919,6 +990,9 @@ TEST_F(Servers, stopSOVDServer_Exchange) {
 }
 TEST_F(Servers, stopSOVDServer_Failure) {
     kc::failure<StopSOVDServerExport>(api, kStopSOVDServerCases);
+}
+TEST_F(ServersAdmission, stopSOVDServer) {
+    kc::admission<StopSOVDServerExport>(callers(), kStopSOVDServerCases, kc::Needs::Administrator);
 }
 
 const kc::Number kNumber280{280, "stopSOVDServer", kStopSOVDServerCases};
@@ -954,6 +1028,9 @@ struct LogInExport {
 
 TEST_F(Servers, logIn_Exchange) { kc::exchange<LogInExport>(api, kLogInCases); }
 TEST_F(Servers, logIn_Failure) { kc::failure<LogInExport>(api, kLogInCases); }
+TEST_F(ServersAdmission, logIn) {
+    kc::admission<LogInExport>(callers(), kLogInCases, kc::Needs::Anyone);
+}
 
 const char* const kLogInNoUtf8[] = {
     "[{\"user\":\"\\udc00Pr\303\274fstand \342\202\254 239.1\\ud800\",\"password\":\"\346\227"
@@ -994,6 +1071,9 @@ TEST_F(Servers, getServerSettings_Exchange) {
 }
 TEST_F(Servers, getServerSettings_Failure) {
     kc::failure<GetServerSettingsExport>(api, kGetServerSettingsCases);
+}
+TEST_F(ServersAdmission, getServerSettings) {
+    kc::admission<GetServerSettingsExport>(callers(), kGetServerSettingsCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber55{55, "getServerSettings", kGetServerSettingsCases};
@@ -1084,6 +1164,10 @@ TEST_F(Servers, getServerConfiguration_Exchange) {
 }
 TEST_F(Servers, getServerConfiguration_Failure) {
     kc::failure<GetServerConfigurationExport>(api, kGetServerConfigurationCases);
+}
+TEST_F(ServersAdmission, getServerConfiguration) {
+    kc::admission<GetServerConfigurationExport>(callers(), kGetServerConfigurationCases,
+                                                kc::Needs::Administrator);
 }
 
 const kc::Number kNumber181{181, "getServerConfiguration", kGetServerConfigurationCases};

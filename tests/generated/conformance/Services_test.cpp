@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using Services = kc::ConformanceTest;
 using ServicesByNumber = kc::ConformanceTest;
+using ServicesAdmission = kc::AdmissionTest;
 
 // ---- getServiceInfos (position 29, number 29) ----
 
@@ -1009,6 +1010,9 @@ TEST_F(Services, getServiceInfos_Exchange) {
 TEST_F(Services, getServiceInfos_Failure) {
     kc::failure<GetServiceInfosExport>(api, kGetServiceInfosCases);
 }
+TEST_F(ServicesAdmission, getServiceInfos) {
+    kc::admission<GetServiceInfosExport>(callers(), kGetServiceInfosCases, kc::Needs::Operator);
+}
 
 const char* const kGetServiceInfosNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 29.1\\ud800\",\"\346\227\245\346\234\254\350\252"
@@ -1638,6 +1642,10 @@ TEST_F(Services, getIdentificationValueInfos_Exchange) {
 TEST_F(Services, getIdentificationValueInfos_Failure) {
     kc::failure<GetIdentificationValueInfosExport>(api, kGetIdentificationValueInfosCases);
 }
+TEST_F(ServicesAdmission, getIdentificationValueInfos) {
+    kc::admission<GetIdentificationValueInfosExport>(callers(), kGetIdentificationValueInfosCases,
+                                                     kc::Needs::Operator);
+}
 
 const char* const kGetIdentificationValueInfosNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 42.1\\ud800\"]",
@@ -1679,6 +1687,9 @@ struct CreateSeedExport {
 
 TEST_F(Services, createSeed_Exchange) { kc::exchange<CreateSeedExport>(api, kCreateSeedCases); }
 TEST_F(Services, createSeed_Failure) { kc::failure<CreateSeedExport>(api, kCreateSeedCases); }
+TEST_F(ServicesAdmission, createSeed) {
+    kc::admission<CreateSeedExport>(callers(), kCreateSeedCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber43{43, "createSeed", kCreateSeedCases};
 
@@ -1709,6 +1720,9 @@ struct SendKeyExport {
 
 TEST_F(Services, sendKey_Exchange) { kc::exchange<SendKeyExport>(api, kSendKeyCases); }
 TEST_F(Services, sendKey_Failure) { kc::failure<SendKeyExport>(api, kSendKeyCases); }
+TEST_F(ServicesAdmission, sendKey) {
+    kc::admission<SendKeyExport>(callers(), kSendKeyCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber44{44, "sendKey", kSendKeyCases};
 
@@ -2333,6 +2347,10 @@ TEST_F(Services, getActuatorServiceInfos_Exchange) {
 TEST_F(Services, getActuatorServiceInfos_Failure) {
     kc::failure<GetActuatorServiceInfosExport>(api, kGetActuatorServiceInfosCases);
 }
+TEST_F(ServicesAdmission, getActuatorServiceInfos) {
+    kc::admission<GetActuatorServiceInfosExport>(callers(), kGetActuatorServiceInfosCases,
+                                                 kc::Needs::Operator);
+}
 
 const char* const kGetActuatorServiceInfosNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 67.1\\ud800\",\"\346\227\245\346\234\254\350\252"
@@ -2449,6 +2467,10 @@ TEST_F(Services, startCyclicServices_Exchange) {
 }
 TEST_F(Services, startCyclicServices_Failure) {
     kc::failure<StartCyclicServicesExport>(api, kStartCyclicServicesCases);
+}
+TEST_F(ServicesAdmission, startCyclicServices) {
+    kc::admission<StartCyclicServicesExport>(callers(), kStartCyclicServicesCases,
+                                             kc::Needs::Operator);
 }
 
 const char* const kStartCyclicServicesNoUtf8[] = {
@@ -3035,6 +3057,9 @@ TEST_F(Services, getCyclicResults_Exchange) {
 TEST_F(Services, getCyclicResults_Failure) {
     kc::failure<GetCyclicResultsExport>(api, kGetCyclicResultsCases);
 }
+TEST_F(ServicesAdmission, getCyclicResults) {
+    kc::admission<GetCyclicResultsExport>(callers(), kGetCyclicResultsCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber105{105, "getCyclicResults", kGetCyclicResultsCases};
 
@@ -3064,6 +3089,10 @@ TEST_F(Services, stopCyclicServices_Exchange) {
 }
 TEST_F(Services, stopCyclicServices_Failure) {
     kc::failure<StopCyclicServicesExport>(api, kStopCyclicServicesCases);
+}
+TEST_F(ServicesAdmission, stopCyclicServices) {
+    kc::admission<StopCyclicServicesExport>(callers(), kStopCyclicServicesCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber104{104, "stopCyclicServices", kStopCyclicServicesCases};
@@ -3663,6 +3692,9 @@ TEST_F(Services, executeService_Exchange) {
 TEST_F(Services, executeService_Failure) {
     kc::failure<ExecuteServiceExport>(api, kExecuteServiceCases);
 }
+TEST_F(ServicesAdmission, executeService) {
+    kc::admission<ExecuteServiceExport>(callers(), kExecuteServiceCases, kc::Needs::Operator);
+}
 
 struct ExecuteServiceAsyncExport {
     static constexpr const char* operation = "executeServiceAsync";
@@ -3680,6 +3712,10 @@ TEST_F(Services, executeServiceAsync_Exchange) {
 }
 TEST_F(Services, executeServiceAsync_Failure) {
     kc::asyncFailure<ExecuteServiceAsyncExport>(api, kExecuteServiceCases);
+}
+TEST_F(ServicesAdmission, executeServiceAsync) {
+    kc::asyncAdmission<ExecuteServiceAsyncExport>(callers(), kExecuteServiceCases,
+                                                  kc::Needs::Operator);
 }
 
 const char* const kExecuteServiceNoUtf8[] = {
@@ -3839,6 +3875,10 @@ TEST_F(Services, updateCyclicServices_Exchange) {
 }
 TEST_F(Services, updateCyclicServices_Failure) {
     kc::failure<UpdateCyclicServicesExport>(api, kUpdateCyclicServicesCases);
+}
+TEST_F(ServicesAdmission, updateCyclicServices) {
+    kc::admission<UpdateCyclicServicesExport>(callers(), kUpdateCyclicServicesCases,
+                                              kc::Needs::Operator);
 }
 
 const char* const kUpdateCyclicServicesNoUtf8[] = {
@@ -4340,6 +4380,9 @@ TEST_F(Services, unlockVehicle_Exchange) {
 TEST_F(Services, unlockVehicle_Failure) {
     kc::failure<UnlockVehicleExport>(api, kUnlockVehicleCases);
 }
+TEST_F(ServicesAdmission, unlockVehicle) {
+    kc::admission<UnlockVehicleExport>(callers(), kUnlockVehicleCases, kc::Needs::Operator);
+}
 
 const char* const kUnlockVehicleNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 146.1\\ud800\",[{\"parameters\":[{\"name\":\""
@@ -4428,6 +4471,10 @@ TEST_F(Services, releaseVehicleUnlock_Exchange) {
 }
 TEST_F(Services, releaseVehicleUnlock_Failure) {
     kc::failure<ReleaseVehicleUnlockExport>(api, kReleaseVehicleUnlockCases);
+}
+TEST_F(ServicesAdmission, releaseVehicleUnlock) {
+    kc::admission<ReleaseVehicleUnlockExport>(callers(), kReleaseVehicleUnlockCases,
+                                              kc::Needs::Operator);
 }
 
 const kc::Number kNumber179{179, "releaseVehicleUnlock", kReleaseVehicleUnlockCases};
@@ -5040,6 +5087,10 @@ TEST_F(Services, executeServiceInDefaultSession_Exchange) {
 TEST_F(Services, executeServiceInDefaultSession_Failure) {
     kc::failure<ExecuteServiceInDefaultSessionExport>(api, kExecuteServiceInDefaultSessionCases);
 }
+TEST_F(ServicesAdmission, executeServiceInDefaultSession) {
+    kc::admission<ExecuteServiceInDefaultSessionExport>(
+        callers(), kExecuteServiceInDefaultSessionCases, kc::Needs::Operator);
+}
 
 struct ExecuteServiceInDefaultSessionAsyncExport {
     static constexpr const char* operation = "executeServiceInDefaultSessionAsync";
@@ -5059,6 +5110,10 @@ TEST_F(Services, executeServiceInDefaultSessionAsync_Exchange) {
 TEST_F(Services, executeServiceInDefaultSessionAsync_Failure) {
     kc::asyncFailure<ExecuteServiceInDefaultSessionAsyncExport>(
         api, kExecuteServiceInDefaultSessionCases);
+}
+TEST_F(ServicesAdmission, executeServiceInDefaultSessionAsync) {
+    kc::asyncAdmission<ExecuteServiceInDefaultSessionAsyncExport>(
+        callers(), kExecuteServiceInDefaultSessionCases, kc::Needs::Operator);
 }
 
 const char* const kExecuteServiceInDefaultSessionNoUtf8[] = {
@@ -5734,6 +5789,9 @@ TEST_F(Services, getParameterInfo_Exchange) {
 }
 TEST_F(Services, getParameterInfo_Failure) {
     kc::failure<GetParameterInfoExport>(api, kGetParameterInfoCases);
+}
+TEST_F(ServicesAdmission, getParameterInfo) {
+    kc::admission<GetParameterInfoExport>(callers(), kGetParameterInfoCases, kc::Needs::Operator);
 }
 
 const char* const kGetParameterInfoNoUtf8[] = {

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using VehicleReports = kc::ConformanceTest;
 using VehicleReportsByNumber = kc::ConformanceTest;
+using VehicleReportsAdmission = kc::AdmissionTest;
 
 // ---- createVehicleReport (position 111, number 146) ----
 
@@ -59,6 +60,10 @@ TEST_F(VehicleReports, createVehicleReport_Exchange) {
 }
 TEST_F(VehicleReports, createVehicleReport_Failure) {
     kc::failure<CreateVehicleReportExport>(api, kCreateVehicleReportCases);
+}
+TEST_F(VehicleReportsAdmission, createVehicleReport) {
+    kc::admission<CreateVehicleReportExport>(callers(), kCreateVehicleReportCases,
+                                             kc::Needs::Operator);
 }
 
 const char* const kCreateVehicleReportNoUtf8[] = {
@@ -161,6 +166,9 @@ TEST_F(VehicleReports, getVehicleData_Exchange) {
 }
 TEST_F(VehicleReports, getVehicleData_Failure) {
     kc::failure<GetVehicleDataExport>(api, kGetVehicleDataCases);
+}
+TEST_F(VehicleReportsAdmission, getVehicleData) {
+    kc::admission<GetVehicleDataExport>(callers(), kGetVehicleDataCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber202{202, "getVehicleData", kGetVehicleDataCases};
@@ -282,6 +290,10 @@ TEST_F(VehicleReports, createVehicleUpdateReport_Exchange) {
 }
 TEST_F(VehicleReports, createVehicleUpdateReport_Failure) {
     kc::failure<CreateVehicleUpdateReportExport>(api, kCreateVehicleUpdateReportCases);
+}
+TEST_F(VehicleReportsAdmission, createVehicleUpdateReport) {
+    kc::admission<CreateVehicleUpdateReportExport>(callers(), kCreateVehicleUpdateReportCases,
+                                                   kc::Needs::Operator);
 }
 
 const char* const kCreateVehicleUpdateReportNoUtf8[] = {
@@ -510,6 +522,10 @@ TEST_F(VehicleReports, getSelectedVehicleInformation_Exchange) {
 TEST_F(VehicleReports, getSelectedVehicleInformation_Failure) {
     kc::failure<GetSelectedVehicleInformationExport>(api, kGetSelectedVehicleInformationCases);
 }
+TEST_F(VehicleReportsAdmission, getSelectedVehicleInformation) {
+    kc::admission<GetSelectedVehicleInformationExport>(
+        callers(), kGetSelectedVehicleInformationCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber56{56, "getSelectedVehicleInformation",
                            kGetSelectedVehicleInformationCases};
@@ -573,6 +589,10 @@ TEST_F(VehicleReports, setSelectedVehicleInformation_Exchange) {
 }
 TEST_F(VehicleReports, setSelectedVehicleInformation_Failure) {
     kc::failure<SetSelectedVehicleInformationExport>(api, kSetSelectedVehicleInformationCases);
+}
+TEST_F(VehicleReportsAdmission, setSelectedVehicleInformation) {
+    kc::admission<SetSelectedVehicleInformationExport>(
+        callers(), kSetSelectedVehicleInformationCases, kc::Needs::Operator);
 }
 
 const char* const kSetSelectedVehicleInformationNoUtf8[] = {

@@ -10,6 +10,7 @@ namespace kc = kel_conformance;
 
 using VehicleUpdate = kc::ConformanceTest;
 using VehicleUpdateByNumber = kc::ConformanceTest;
+using VehicleUpdateAdmission = kc::AdmissionTest;
 
 // ---- applyUpdatePackage (position 151, number 185) ----
 
@@ -38,6 +39,10 @@ TEST_F(VehicleUpdate, applyUpdatePackage_Exchange) {
 }
 TEST_F(VehicleUpdate, applyUpdatePackage_Failure) {
     kc::failure<ApplyUpdatePackageExport>(api, kApplyUpdatePackageCases);
+}
+TEST_F(VehicleUpdateAdmission, applyUpdatePackage) {
+    kc::admission<ApplyUpdatePackageExport>(callers(), kApplyUpdatePackageCases,
+                                            kc::Needs::Administrator);
 }
 
 const char* const kApplyUpdatePackageNoUtf8[] = {
@@ -135,6 +140,9 @@ TEST_F(VehicleUpdate, getUpdatePackages_Exchange) {
 TEST_F(VehicleUpdate, getUpdatePackages_Failure) {
     kc::failure<GetUpdatePackagesExport>(api, kGetUpdatePackagesCases);
 }
+TEST_F(VehicleUpdateAdmission, getUpdatePackages) {
+    kc::admission<GetUpdatePackagesExport>(callers(), kGetUpdatePackagesCases, kc::Needs::Operator);
+}
 
 const kc::Number kNumber184{184, "getUpdatePackages", kGetUpdatePackagesCases};
 
@@ -221,6 +229,10 @@ TEST_F(VehicleUpdate, getPackagesFromBroker_Exchange) {
 TEST_F(VehicleUpdate, getPackagesFromBroker_Failure) {
     kc::failure<GetPackagesFromBrokerExport>(api, kGetPackagesFromBrokerCases);
 }
+TEST_F(VehicleUpdateAdmission, getPackagesFromBroker) {
+    kc::admission<GetPackagesFromBrokerExport>(callers(), kGetPackagesFromBrokerCases,
+                                               kc::Needs::Operator);
+}
 
 const kc::Number kNumber164{164, "getPackagesFromBroker", kGetPackagesFromBrokerCases};
 
@@ -251,6 +263,10 @@ TEST_F(VehicleUpdate, checkUpdatesOnBroker_Exchange) {
 TEST_F(VehicleUpdate, checkUpdatesOnBroker_Failure) {
     kc::failure<CheckUpdatesOnBrokerExport>(api, kCheckUpdatesOnBrokerCases);
 }
+TEST_F(VehicleUpdateAdmission, checkUpdatesOnBroker) {
+    kc::admission<CheckUpdatesOnBrokerExport>(callers(), kCheckUpdatesOnBrokerCases,
+                                              kc::Needs::Operator);
+}
 
 const kc::Number kNumber174{174, "checkUpdatesOnBroker", kCheckUpdatesOnBrokerCases};
 
@@ -279,6 +295,9 @@ TEST_F(VehicleUpdate, autoUpdate_Exchange) {
     kc::exchange<AutoUpdateExport>(api, kAutoUpdateCases);
 }
 TEST_F(VehicleUpdate, autoUpdate_Failure) { kc::failure<AutoUpdateExport>(api, kAutoUpdateCases); }
+TEST_F(VehicleUpdateAdmission, autoUpdate) {
+    kc::admission<AutoUpdateExport>(callers(), kAutoUpdateCases, kc::Needs::Administrator);
+}
 
 const kc::Number kNumber175{175, "autoUpdate", kAutoUpdateCases};
 
@@ -337,6 +356,10 @@ TEST_F(VehicleUpdate, getCurrentVersions_Exchange) {
 TEST_F(VehicleUpdate, getCurrentVersions_Failure) {
     kc::failure<GetCurrentVersionsExport>(api, kGetCurrentVersionsCases);
 }
+TEST_F(VehicleUpdateAdmission, getCurrentVersions) {
+    kc::admission<GetCurrentVersionsExport>(callers(), kGetCurrentVersionsCases,
+                                            kc::Needs::Operator);
+}
 
 const kc::Number kNumber191{191, "getCurrentVersions", kGetCurrentVersionsCases};
 
@@ -366,6 +389,10 @@ TEST_F(VehicleUpdate, checkUpdateSuccess_Exchange) {
 }
 TEST_F(VehicleUpdate, checkUpdateSuccess_Failure) {
     kc::failure<CheckUpdateSuccessExport>(api, kCheckUpdateSuccessCases);
+}
+TEST_F(VehicleUpdateAdmission, checkUpdateSuccess) {
+    kc::admission<CheckUpdateSuccessExport>(callers(), kCheckUpdateSuccessCases,
+                                            kc::Needs::Operator);
 }
 
 const kc::Number kNumber193{193, "checkUpdateSuccess", kCheckUpdateSuccessCases};
@@ -397,6 +424,9 @@ TEST_F(VehicleUpdate, cleanUpdateTmp_Exchange) {
 }
 TEST_F(VehicleUpdate, cleanUpdateTmp_Failure) {
     kc::failure<CleanUpdateTmpExport>(api, kCleanUpdateTmpCases);
+}
+TEST_F(VehicleUpdateAdmission, cleanUpdateTmp) {
+    kc::admission<CleanUpdateTmpExport>(callers(), kCleanUpdateTmpCases, kc::Needs::Administrator);
 }
 
 const kc::Number kNumber194{194, "cleanUpdateTmp", kCleanUpdateTmpCases};
@@ -571,6 +601,9 @@ TEST_F(VehicleUpdate, updateVehicle_Exchange) {
 TEST_F(VehicleUpdate, updateVehicle_Failure) {
     kc::failure<UpdateVehicleExport>(api, kUpdateVehicleCases);
 }
+TEST_F(VehicleUpdateAdmission, updateVehicle) {
+    kc::admission<UpdateVehicleExport>(callers(), kUpdateVehicleCases, kc::Needs::Operator);
+}
 
 struct UpdateVehicleAsyncExport {
     static constexpr const char* operation = "updateVehicleAsync";
@@ -586,6 +619,10 @@ TEST_F(VehicleUpdate, updateVehicleAsync_Exchange) {
 }
 TEST_F(VehicleUpdate, updateVehicleAsync_Failure) {
     kc::asyncFailure<UpdateVehicleAsyncExport>(api, kUpdateVehicleCases);
+}
+TEST_F(VehicleUpdateAdmission, updateVehicleAsync) {
+    kc::asyncAdmission<UpdateVehicleAsyncExport>(callers(), kUpdateVehicleCases,
+                                                 kc::Needs::Operator);
 }
 
 const char* const kUpdateVehicleNoUtf8[] = {
@@ -737,6 +774,9 @@ TEST_F(VehicleUpdate, uploadReport_Exchange) {
 TEST_F(VehicleUpdate, uploadReport_Failure) {
     kc::failure<UploadReportExport>(api, kUploadReportCases);
 }
+TEST_F(VehicleUpdateAdmission, uploadReport) {
+    kc::admission<UploadReportExport>(callers(), kUploadReportCases, kc::Needs::Operator);
+}
 
 const char* const kUploadReportNoUtf8[] = {
     "[{\"reportFile\":\"\\udc00Pr\303\274fstand \342\202\254 193.1\\ud800\",\"folder\":\"\346"
@@ -809,6 +849,9 @@ TEST_F(VehicleUpdate, setBrokerUrl_Exchange) {
 TEST_F(VehicleUpdate, setBrokerUrl_Failure) {
     kc::failure<SetBrokerUrlExport>(api, kSetBrokerUrlCases);
 }
+TEST_F(VehicleUpdateAdmission, setBrokerUrl) {
+    kc::admission<SetBrokerUrlExport>(callers(), kSetBrokerUrlCases, kc::Needs::Administrator);
+}
 
 const char* const kSetBrokerUrlNoUtf8[] = {
     "[\"\\udc00Pr\303\274fstand \342\202\254 206.1\\ud800\"]",
@@ -845,6 +888,10 @@ TEST_F(VehicleUpdate, clearUpdatePackages_Exchange) {
 }
 TEST_F(VehicleUpdate, clearUpdatePackages_Failure) {
     kc::failure<ClearUpdatePackagesExport>(api, kClearUpdatePackagesCases);
+}
+TEST_F(VehicleUpdateAdmission, clearUpdatePackages) {
+    kc::admission<ClearUpdatePackagesExport>(callers(), kClearUpdatePackagesCases,
+                                             kc::Needs::Administrator);
 }
 
 const kc::Number kNumber245{245, "clearUpdatePackages", kClearUpdatePackagesCases};
@@ -1044,6 +1091,10 @@ TEST_F(VehicleUpdate, performVehicleUpdate_Exchange) {
 TEST_F(VehicleUpdate, performVehicleUpdate_Failure) {
     kc::failure<PerformVehicleUpdateExport>(api, kPerformVehicleUpdateCases);
 }
+TEST_F(VehicleUpdateAdmission, performVehicleUpdate) {
+    kc::admission<PerformVehicleUpdateExport>(callers(), kPerformVehicleUpdateCases,
+                                              kc::Needs::Operator);
+}
 
 struct PerformVehicleUpdateAsyncExport {
     static constexpr const char* operation = "performVehicleUpdateAsync";
@@ -1061,6 +1112,10 @@ TEST_F(VehicleUpdate, performVehicleUpdateAsync_Exchange) {
 }
 TEST_F(VehicleUpdate, performVehicleUpdateAsync_Failure) {
     kc::asyncFailure<PerformVehicleUpdateAsyncExport>(api, kPerformVehicleUpdateCases);
+}
+TEST_F(VehicleUpdateAdmission, performVehicleUpdateAsync) {
+    kc::asyncAdmission<PerformVehicleUpdateAsyncExport>(callers(), kPerformVehicleUpdateCases,
+                                                        kc::Needs::Operator);
 }
 
 const char* const kPerformVehicleUpdateNoUtf8[] = {
@@ -1315,6 +1370,10 @@ TEST_F(VehicleUpdate, createVehicleUpdateConfig_Exchange) {
 }
 TEST_F(VehicleUpdate, createVehicleUpdateConfig_Failure) {
     kc::failure<CreateVehicleUpdateConfigExport>(api, kCreateVehicleUpdateConfigCases);
+}
+TEST_F(VehicleUpdateAdmission, createVehicleUpdateConfig) {
+    kc::admission<CreateVehicleUpdateConfigExport>(callers(), kCreateVehicleUpdateConfigCases,
+                                                   kc::Needs::Operator);
 }
 
 const char* const kCreateVehicleUpdateConfigNoUtf8[] = {
