@@ -62,9 +62,9 @@ count() { # benchmark iterations divisor functions...
     rm -f "$out"
     echo $((total / iterations / divisor))
 }
-direct=$(count DirectGetState 2000 1 kel_getState)
-py=$(count PyCallGetState 2000 1 py_call py_result)
-otx=$(count KelCallGetState 2000 1 kel_call kel_call_result)
+direct=$(count DirectGetState 20000 1 kel_getState)
+py=$(count PyCallGetState 20000 1 py_call py_result)
+otx=$(count KelCallGetState 20000 1 kel_call kel_call_result)
 export_dtc=$(count ExportReadDtcs 2 10000 kel_readDtcs release_ReadDtcResult_array)
 py_dtc=$(count PyCallReadDtcs 2 10000 py_call py_result)
 otx_dtc=$(count KelCallReadDtcs 2 10000 kel_call kel_call_result)
