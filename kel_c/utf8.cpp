@@ -136,34 +136,51 @@ std::size_t decodeTo(const unsigned char* bytes, std::size_t length, wchar_t* ou
 
 #else
 
+// ASCII goes a block at a time. Where a block attempt fails (a character outside ASCII
+// is near), the next attempt waits a few characters: in text that mixes the two, failed
+// attempts would cost more than the blocks save.
+constexpr std::size_t retryAfter = 16;
+
 std::size_t encodeTo(const wchar_t* text, std::size_t length, unsigned char* out) {
     std::size_t n = 0;
     std::size_t i = 0;
+    std::size_t nextTry = 0;
     while (i < length) {
-        // ASCII four units at a time, then one character.
-        while (length - i >= 4) {
-            const auto a = static_cast<uint32_t>(text[i]);
-            const auto b = static_cast<uint32_t>(text[i + 1]);
-            const auto c = static_cast<uint32_t>(text[i + 2]);
-            const auto d = static_cast<uint32_t>(text[i + 3]);
-            if ((a | b | c | d) >= 0x80) {
-                break;
-            }
-            out[n] = static_cast<unsigned char>(a);
-            out[n + 1] = static_cast<unsigned char>(b);
-            out[n + 2] = static_cast<unsigned char>(c);
-            out[n + 3] = static_cast<unsigned char>(d);
-            n += 4;
-            i += 4;
-        }
-        if (i == length) {
-            break;
-        }
-        auto c = static_cast<char32_t>(text[i++]);
+        auto c = static_cast<char32_t>(text[i]);
         if (c < 0x80) {
+            if (i >= nextTry) {
+                const std::size_t start = i;
+                while (length - i >= 4) {
+                    const auto a = static_cast<uint32_t>(text[i]);
+                    const auto b = static_cast<uint32_t>(text[i + 1]);
+                    const auto d = static_cast<uint32_t>(text[i + 2]);
+                    const auto e = static_cast<uint32_t>(text[i + 3]);
+                    if ((a | b | d | e) >= 0x80) {
+                        break;
+                    }
+                    out[n] = static_cast<unsigned char>(a);
+                    out[n + 1] = static_cast<unsigned char>(b);
+                    out[n + 2] = static_cast<unsigned char>(d);
+                    out[n + 3] = static_cast<unsigned char>(e);
+                    n += 4;
+                    i += 4;
+                }
+                if (i == start) {
+                    nextTry = i + retryAfter;
+                }
+                if (i == length) {
+                    break;
+                }
+                c = static_cast<char32_t>(text[i]);
+                if (c >= 0x80) {
+                    continue;
+                }
+            }
             out[n++] = static_cast<unsigned char>(c);
+            ++i;
             continue;
         }
+        ++i;
         if ((c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF) {
             c = replacement; // not a character: the Windows converter substitutes too
         }
@@ -175,14 +192,41 @@ std::size_t encodeTo(const wchar_t* text, std::size_t length, unsigned char* out
 std::size_t decodeTo(const unsigned char* bytes, std::size_t length, wchar_t* out) {
     std::size_t n = 0;
     std::size_t i = 0;
+    std::size_t nextTry = 0;
     while (i < length) {
         if (bytes[i] < 0x80) {
-            const std::size_t run = asciiRun(bytes + i, length - i, out + n);
-            i += run;
-            n += run;
-            while (i < length && bytes[i] < 0x80) {
-                out[n++] = static_cast<wchar_t>(bytes[i++]);
+            if (i >= nextTry) {
+                const std::size_t run = asciiRun(bytes + i, length - i, out + n);
+                if (run == 0) {
+                    nextTry = i + retryAfter;
+                }
+                i += run;
+                n += run;
+                if (i == length) {
+                    break;
+                }
+                if (bytes[i] >= 0x80) {
+                    continue;
+                }
             }
+            do {
+                out[n++] = static_cast<wchar_t>(bytes[i++]);
+            } while (i < length && bytes[i] < 0x80 && i < nextTry);
+            continue;
+        }
+        // Two- and three-byte characters whose bytes need no range check beyond the
+        // continuation bits take a short path; everything else the full decoder.
+        const unsigned char lead = bytes[i];
+        if (lead >= 0xC2 && lead <= 0xDF && length - i >= 2 && (bytes[i + 1] & 0xC0) == 0x80) {
+            out[n++] = static_cast<wchar_t>(((lead & 0x1FU) << 6) | (bytes[i + 1] & 0x3FU));
+            i += 2;
+            continue;
+        }
+        if (lead >= 0xE1 && lead <= 0xEF && lead != 0xED && length - i >= 3 &&
+            (bytes[i + 1] & 0xC0) == 0x80 && (bytes[i + 2] & 0xC0) == 0x80) {
+            out[n++] = static_cast<wchar_t>(((lead & 0x0FU) << 12) | ((bytes[i + 1] & 0x3FU) << 6) |
+                                            (bytes[i + 2] & 0x3FU));
+            i += 3;
             continue;
         }
         out[n++] = static_cast<wchar_t>(next(bytes, length, i));
