@@ -96,6 +96,25 @@ struct OTXStream {
     // result then costs no allocation.
     static void release(uint8_t* detached);
 
+    // Copies a result out: up to 16 bytes (a trivial call's result) in two overlapping
+    // fixed-size moves instead of a call to memcpy.
+    static void copyOut(void* destination, const uint8_t* from, std::size_t count) {
+        auto* to = static_cast<uint8_t*>(destination);
+        if (count >= 8 && count <= 16) {
+            std::memcpy(to, from, 8);
+            std::memcpy(to + count - 8, from + count - 8, 8);
+        } else if (count >= 4 && count < 8) {
+            std::memcpy(to, from, 4);
+            std::memcpy(to + count - 4, from + count - 4, 4);
+        } else if (count > 16) {
+            std::memcpy(to, from, count);
+        } else {
+            for (std::size_t i = 0; i < count; ++i) {
+                to[i] = from[i];
+            }
+        }
+    }
+
     // ---- writing ----
     // Primitives are copied as they lie in memory (the targets are little-endian), inline:
     // a capacity check and a store while the buffer has room.

@@ -70,9 +70,7 @@ public:
         const uint64_t size = s.size;
         s.block = nullptr;
         give(index);
-        if (size != 0) {
-            std::memcpy(destination, block, size);
-        }
+        OTXStream::copyOut(destination, block, size);
         OTXStream::release(block);
         return true;
     }

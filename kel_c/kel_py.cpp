@@ -73,7 +73,8 @@ void py_result(void* destination, int32_t size, void* buffer) {
         Vutil::TraceHelper::trace("kel_py", "result address = %p", buffer);
     }
     if (size > 0) {
-        std::memcpy(destination, buffer, static_cast<std::size_t>(size));
+        OTXStream::copyOut(destination, static_cast<const uint8_t*>(buffer),
+                           static_cast<std::size_t>(size));
     }
     OTXStream::release(static_cast<uint8_t*>(buffer));
 }
