@@ -1,9 +1,7 @@
-// The call stream and the dispatchers, each against a baseline measured in the same run:
-// stream writes and reads against memcpy of the same bytes, UTF-8 conversion against
-// iconv, and a kel_call round trip against the direct export.
+// The call stream, each path against a baseline measured in the same run:
+// stream writes and reads against memcpy of the same bytes, strings on the stream against
+// iconv converting the same text (the dispatchers are in dispatch_bench.cpp).
 #include "workloads.h"
-
-#include <kel_c.h>
 
 #include <benchmark/benchmark.h>
 
@@ -11,7 +9,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <iconv.h>
-#include <kel_sim.h>
 #include <string>
 #include <utf8.h>
 #include <vector>
@@ -108,9 +105,12 @@ const std::wstring longMixed = [] {
     return text;
 }();
 
-void Utf8Encode(benchmark::State& state, const std::wstring& text) {
+// A string written to a stream, as a result's texts are: length prefix, then UTF-8.
+void StreamWriteText(benchmark::State& state, const std::wstring& text) {
     for (auto _ : state) {
-        benchmark::DoNotOptimize(kel::utf8::encode(text));
+        kel::OTXStream out(true, false, true);
+        out.write(text);
+        benchmark::DoNotOptimize(out.buffer);
     }
     state.SetBytesProcessed(state.iterations() *
                             static_cast<int64_t>(text.size() * sizeof(wchar_t)));
@@ -133,10 +133,15 @@ void IconvEncode(benchmark::State& state, const std::wstring& text) {
                             static_cast<int64_t>(text.size() * sizeof(wchar_t)));
 }
 
-void Utf8Decode(benchmark::State& state, const std::wstring& text) {
+void StreamReadText(benchmark::State& state, const std::wstring& text) {
+    kel::OTXStream written(true, false, true);
+    written.write(text);
     const std::string bytes = kel::utf8::encode(text);
     for (auto _ : state) {
-        benchmark::DoNotOptimize(kel::utf8::decode(bytes));
+        kel::OTXStream in(written.buffer, true, false, true);
+        std::wstring back;
+        in.read(back);
+        benchmark::DoNotOptimize(back.data());
     }
     state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(bytes.size()));
 }
@@ -158,56 +163,17 @@ void IconvDecode(benchmark::State& state, const std::wstring& text) {
     state.SetBytesProcessed(state.iterations() * static_cast<int64_t>(bytes.size()));
 }
 
-BENCHMARK_CAPTURE(Utf8Encode, short_string, shortText);
+BENCHMARK_CAPTURE(StreamWriteText, short_string, shortText);
 BENCHMARK_CAPTURE(IconvEncode, short_string, shortText);
-BENCHMARK_CAPTURE(Utf8Decode, short_string, shortText);
+BENCHMARK_CAPTURE(StreamReadText, short_string, shortText);
 BENCHMARK_CAPTURE(IconvDecode, short_string, shortText);
-BENCHMARK_CAPTURE(Utf8Encode, long_ascii, longAscii);
+BENCHMARK_CAPTURE(StreamWriteText, long_ascii, longAscii);
 BENCHMARK_CAPTURE(IconvEncode, long_ascii, longAscii);
-BENCHMARK_CAPTURE(Utf8Decode, long_ascii, longAscii);
+BENCHMARK_CAPTURE(StreamReadText, long_ascii, longAscii);
 BENCHMARK_CAPTURE(IconvDecode, long_ascii, longAscii);
-BENCHMARK_CAPTURE(Utf8Encode, long_non_ascii, longMixed);
+BENCHMARK_CAPTURE(StreamWriteText, long_non_ascii, longMixed);
 BENCHMARK_CAPTURE(IconvEncode, long_non_ascii, longMixed);
-BENCHMARK_CAPTURE(Utf8Decode, long_non_ascii, longMixed);
+BENCHMARK_CAPTURE(StreamReadText, long_non_ascii, longMixed);
 BENCHMARK_CAPTURE(IconvDecode, long_non_ascii, longMixed);
-
-// ---- kel_call round trip against the direct export ----
-
-struct Engine {
-    Engine() {
-        api = kel_getTarnApi();
-        KelError* error = nullptr;
-        kel_initialize(api, &error);
-        release_KelError(error);
-    }
-    Engine(const Engine&) = delete;
-    Engine& operator=(const Engine&) = delete;
-    ~Engine() { releaseTarnApi(api); }
-    TarnApi* api = nullptr;
-};
-
-void KelCallGetState(benchmark::State& state) {
-    const Engine engine;
-    for (auto _ : state) {
-        void* stream = nullptr;
-        uint64_t size = 0;
-        kel_call(0, 49, nullptr, &stream, &size);
-        uint8_t result[8];
-        kel_call_result(stream, result);
-        benchmark::DoNotOptimize(result[1]);
-    }
-}
-BENCHMARK(KelCallGetState);
-
-void DirectGetState(benchmark::State& state) {
-    const Engine engine;
-    for (auto _ : state) {
-        KelError* error = nullptr;
-        int32_t value = 0;
-        kel_getState(engine.api, &error, &value);
-        benchmark::DoNotOptimize(value);
-    }
-}
-BENCHMARK(DirectGetState);
 
 } // namespace

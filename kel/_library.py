@@ -37,6 +37,7 @@ RUNTIME_EXPORTS: dict[str, tuple[Any, list[Any]]] = {
     "py_call_checked": (ctypes.c_int32, [ctypes.c_void_p, ctypes.c_int32, ctypes.c_uint64, ctypes.c_char_p,
                                          ctypes.c_uint64, ctypes.POINTER(ctypes.c_uint32), _c_void_p_p]),
     "py_result": (None, [ctypes.c_void_p, ctypes.c_int32, ctypes.c_void_p]),
+    "kel_getState": (None, [ctypes.c_void_p, _c_void_p_p, ctypes.POINTER(ctypes.c_int32)]),
 }
 
 

@@ -1,74 +1,97 @@
 #include "OTXStream.h"
 
+#include "trace.h"
 #include "utf8.h"
 
 #include <Vutil/TraceHelper.h>
 
 #include <algorithm>
+#include <atomic>
 #include <cstdlib>
 #include <cstring>
+#include <malloc.h>
 #include <new>
 
 namespace kel {
 
-OTXStream::OTXStream(bool lengthPrefixed, bool presence, bool asList)
-    : lengthPrefixedStrings(lengthPrefixed ? 1 : 0), presenceBytes(presence ? 1 : 0),
-      flagsAsList(asList ? 1 : 0) {}
+namespace trace {
 
-OTXStream::~OTXStream() {
-    if (capacity != 0) {
-        std::free(buffer);
+std::atomic<int> gate{0};
+
+namespace {
+// Registers the mirror while the library is loaded.
+struct Mirror {
+    Mirror() { Vutil::ErrorHandler::addGateMirror(&gate); }
+    Mirror(const Mirror&) = delete;
+    Mirror& operator=(const Mirror&) = delete;
+    ~Mirror() { Vutil::ErrorHandler::removeGateMirror(&gate); }
+};
+const Mirror mirror;
+} // namespace
+
+} // namespace trace
+
+namespace {
+
+// Every block a stream allocates has room for at least this many bytes.
+constexpr std::size_t smallBlock = 64;
+
+// The one small block kept between a result's release and the next stream's first write.
+std::atomic<uint8_t*> spare{nullptr};
+
+// The block's real size, whatever the caller says about it.
+std::size_t usableSize(void* block) {
+#if defined(_WIN32)
+    return _msize(block);
+#else
+    return malloc_usable_size(block);
+#endif
+}
+
+} // namespace
+
+void OTXStream::release(uint8_t* detached) {
+    if (detached != nullptr) {
+        const std::size_t usable = usableSize(detached);
+        if (usable >= smallBlock && usable <= 4 * smallBlock) {
+            uint8_t* none = nullptr;
+            if (spare.compare_exchange_strong(none, detached, std::memory_order_release,
+                                              std::memory_order_relaxed)) {
+                return;
+            }
+        }
     }
-}
-
-OTXStream::OTXStream(const void* input, bool lengthPrefixed, bool presence, bool asList)
-    : OTXStream(lengthPrefixed, presence, asList) {
-    // Read only: with capacity 0 the stream never writes or frees the caller's buffer.
-    buffer = static_cast<uint8_t*>(const_cast<void*>(input)); // NOLINT
-}
-
-uint8_t* OTXStream::detach() {
-    uint8_t* out = buffer;
-    buffer = nullptr;
-    capacity = 0;
-    position = 0;
-    return out;
+    std::free(detached);
 }
 
 // Geometric growth: writing many small values costs amortised constant time on every
 // heap (an exact-size realloc per write is quadratic on the Windows heap).
-void OTXStream::put(const void* bytes, std::size_t count) {
+void OTXStream::grow(std::size_t count) {
     const std::size_t needed = std::size_t{position} + count;
     if (needed > UINT32_MAX) {
         throw std::length_error("OTXStream: a result stream is limited to 4 GiB");
     }
-    if (needed > capacity) {
-        const std::size_t grown = std::min<std::size_t>(
-            UINT32_MAX, std::max<std::size_t>({needed, std::size_t{capacity} * 2, 64}));
-        void* block = buffer != nullptr ? std::realloc(buffer, grown) : std::malloc(grown);
-        if (block == nullptr) {
-            throw std::bad_alloc();
+    if (buffer == nullptr && needed <= smallBlock) {
+        if (uint8_t* kept = spare.exchange(nullptr, std::memory_order_acquire)) {
+            buffer = kept;
+            capacity = smallBlock;
+            return;
         }
-        buffer = static_cast<uint8_t*>(block);
-        capacity = static_cast<uint32_t>(grown);
     }
-    if (count != 0) {
-        std::memcpy(buffer + position, bytes, count);
+    const std::size_t grown = std::min<std::size_t>(
+        UINT32_MAX, std::max<std::size_t>({needed, std::size_t{capacity} * 2, smallBlock}));
+    void* block = buffer != nullptr ? std::realloc(buffer, grown) : std::malloc(grown);
+    if (block == nullptr) {
+        throw std::bad_alloc();
     }
-    position = static_cast<uint32_t>(needed);
+    buffer = static_cast<uint8_t*>(block);
+    capacity = static_cast<uint32_t>(grown);
 }
 
-void OTXStream::take(void* bytes, std::size_t count) {
-    if (count == 0) {
-        return;
-    }
-    if (bounded && count > std::size_t{size} - position) {
-        throw MalformedInput("the input ends after " + std::to_string(size) + " bytes, but " +
-                             std::to_string(count) + " more were needed at offset " +
-                             std::to_string(position));
-    }
-    std::memcpy(bytes, buffer + position, count);
-    position += static_cast<uint32_t>(count);
+void OTXStream::endOfInput(std::size_t count) const {
+    throw MalformedInput("the input ends after " + std::to_string(size) + " bytes, but " +
+                         std::to_string(count) + " more were needed at offset " +
+                         std::to_string(position));
 }
 
 OTXStream::Nesting::Nesting(OTXStream& stream) : stream_(stream) {
@@ -87,36 +110,6 @@ uint32_t OTXStream::readCount(std::size_t elementSize) {
                              std::to_string(position - 4) + " runs past the end of the input");
     }
     return count;
-}
-
-// Primitives are copied as they lie in memory: the targets are little-endian.
-// NOLINTBEGIN(bugprone-macro-parentheses): T is a type
-#define KEL_STREAM_PRIMITIVE(T)                                                                    \
-    OTXStream& OTXStream::write(T value) {                                                         \
-        put(&value, sizeof value);                                                                 \
-        return *this;                                                                              \
-    }                                                                                              \
-    OTXStream& OTXStream::read(T& value) {                                                         \
-        take(&value, sizeof value);                                                                \
-        return *this;                                                                              \
-    }
-KEL_STREAM_PRIMITIVE(uint8_t)
-KEL_STREAM_PRIMITIVE(uint16_t)
-KEL_STREAM_PRIMITIVE(int16_t)
-KEL_STREAM_PRIMITIVE(int32_t)
-KEL_STREAM_PRIMITIVE(uint32_t)
-KEL_STREAM_PRIMITIVE(int64_t)
-KEL_STREAM_PRIMITIVE(uint64_t)
-#undef KEL_STREAM_PRIMITIVE
-// NOLINTEND(bugprone-macro-parentheses)
-
-OTXStream& OTXStream::write(bool value) { return write(static_cast<uint8_t>(value ? 1 : 0)); }
-
-OTXStream& OTXStream::read(bool& value) {
-    uint8_t byte = 0;
-    read(byte);
-    value = byte != 0;
-    return *this;
 }
 
 // Under flagsAsList only the unbroken run of set bits from bit 0 is written, on
@@ -149,14 +142,19 @@ OTXStream& OTXStream::read(Bits& bits) {
     return *this;
 }
 
+// The UTF-8 is encoded straight into the buffer behind room for its length, which is
+// filled in afterwards: no temporary block and no copy.
 OTXStream& OTXStream::write(const std::wstring& text) {
-    const std::string bytes = utf8::encode(text);
-    if (Vutil::TraceHelper::enabled(3)) {
+    uint8_t* at = reserve(4 + utf8::maxBytes(text.size()));
+    const std::size_t bytes = utf8::encodeTo(text.data(), text.size(), at + 4);
+    const auto length = static_cast<uint32_t>(bytes);
+    std::memcpy(at, &length, 4);
+    position += 4 + length;
+    if (trace::enabled()) {
+        const std::string copy(reinterpret_cast<const char*>(at + 4), bytes); // NOLINT
         Vutil::TraceHelper::trace("OTXStream", "Streaming a string with size %d c = %s",
-                                  static_cast<int>(bytes.size()), bytes.c_str());
+                                  static_cast<int>(bytes), copy.c_str());
     }
-    write(static_cast<uint32_t>(bytes.size()));
-    put(bytes.data(), bytes.size());
     return *this;
 }
 
@@ -179,7 +177,10 @@ OTXStream& OTXStream::read(std::wstring& text) {
         }
         terminated = true;
     }
-    utf8::decode(reinterpret_cast<const char*>(buffer + position), length, text); // NOLINT
+    // Decoded straight into the target, sized once for the most characters the bytes
+    // can hold and cut to the ones decoded.
+    text.resize(length);
+    text.resize(utf8::decodeTo(buffer + position, length, text.data()));
     position += static_cast<uint32_t>(length + (terminated ? 1 : 0));
     return *this;
 }

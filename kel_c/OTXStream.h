@@ -18,6 +18,8 @@
 #include <EngineFields.h>
 #include <array>
 #include <cstdint>
+#include <cstdlib>
+#include <cstring>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -61,27 +63,69 @@ struct OTXStream {
     // Records being read around the current position (1 inside a top-level record).
     uint32_t depth = 0;
 
-    OTXStream(bool lengthPrefixedStrings, bool presenceBytes, bool flagsAsList);
+    OTXStream(bool lengthPrefixed, bool presence, bool asList)
+        : lengthPrefixedStrings(lengthPrefixed ? 1 : 0), presenceBytes(presence ? 1 : 0),
+          flagsAsList(asList ? 1 : 0) {}
     OTXStream(const OTXStream&) = delete;
     OTXStream& operator=(const OTXStream&) = delete;
     // A stream with non-zero capacity owns its buffer.
-    ~OTXStream();
+    ~OTXStream() {
+        if (capacity != 0) {
+            std::free(buffer);
+        }
+    }
 
     // An input stream over a caller's buffer, which it never frees (capacity 0).
-    OTXStream(const void* input, bool lengthPrefixedStrings, bool presenceBytes, bool flagsAsList);
+    OTXStream(const void* input, bool lengthPrefixed, bool presence, bool asList)
+        : OTXStream(lengthPrefixed, presence, asList) {
+        // Read only: with capacity 0 the stream never writes or frees the caller's buffer.
+        buffer = static_cast<uint8_t*>(const_cast<void*>(input)); // NOLINT
+    }
 
     // Hands the written buffer over: the stream is left empty and owns nothing.
-    uint8_t* detach();
+    uint8_t* detach() {
+        uint8_t* out = buffer;
+        buffer = nullptr;
+        capacity = 0;
+        position = 0;
+        return out;
+    }
+
+    // Frees a buffer that a stream handed over (detach) once its bytes are copied out. One
+    // small block is kept for the next stream's first write instead: a trivial call's
+    // result then costs no allocation.
+    static void release(uint8_t* detached);
+
+    // Copies a result out: up to 16 bytes (a trivial call's result) in two overlapping
+    // fixed-size moves instead of a call to memcpy.
+    static void copyOut(void* destination, const uint8_t* from, std::size_t count) {
+        auto* to = static_cast<uint8_t*>(destination);
+        if (count >= 8 && count <= 16) {
+            std::memcpy(to, from, 8);
+            std::memcpy(to + count - 8, from + count - 8, 8);
+        } else if (count >= 4 && count < 8) {
+            std::memcpy(to, from, 4);
+            std::memcpy(to + count - 4, from + count - 4, 4);
+        } else if (count > 16) {
+            std::memcpy(to, from, count);
+        } else {
+            for (std::size_t i = 0; i < count; ++i) {
+                to[i] = from[i];
+            }
+        }
+    }
 
     // ---- writing ----
-    OTXStream& write(bool value);
-    OTXStream& write(uint8_t value);
-    OTXStream& write(uint16_t value);
-    OTXStream& write(int16_t value);
-    OTXStream& write(int32_t value);
-    OTXStream& write(uint32_t value);
-    OTXStream& write(int64_t value);
-    OTXStream& write(uint64_t value);
+    // Primitives are copied as they lie in memory (the targets are little-endian), inline:
+    // a capacity check and a store while the buffer has room.
+    OTXStream& write(bool value) { return write(static_cast<uint8_t>(value ? 1 : 0)); }
+    OTXStream& write(uint8_t value) { return putValue(value); }
+    OTXStream& write(uint16_t value) { return putValue(value); }
+    OTXStream& write(int16_t value) { return putValue(value); }
+    OTXStream& write(int32_t value) { return putValue(value); }
+    OTXStream& write(uint32_t value) { return putValue(value); }
+    OTXStream& write(int64_t value) { return putValue(value); }
+    OTXStream& write(uint64_t value) { return putValue(value); }
     OTXStream& write(Bits value);
     OTXStream& write(const std::wstring& text);
     OTXStream& write(const std::vector<uint8_t>& bytes);
@@ -93,14 +137,19 @@ struct OTXStream {
     OTXStream& write(const std::shared_ptr<E>& record);
 
     // ---- reading ----
-    OTXStream& read(bool& value);
-    OTXStream& read(uint8_t& value);
-    OTXStream& read(uint16_t& value);
-    OTXStream& read(int16_t& value);
-    OTXStream& read(int32_t& value);
-    OTXStream& read(uint32_t& value);
-    OTXStream& read(int64_t& value);
-    OTXStream& read(uint64_t& value);
+    OTXStream& read(bool& value) {
+        uint8_t byte = 0;
+        takeValue(byte);
+        value = byte != 0;
+        return *this;
+    }
+    OTXStream& read(uint8_t& value) { return takeValue(value); }
+    OTXStream& read(uint16_t& value) { return takeValue(value); }
+    OTXStream& read(int16_t& value) { return takeValue(value); }
+    OTXStream& read(int32_t& value) { return takeValue(value); }
+    OTXStream& read(uint32_t& value) { return takeValue(value); }
+    OTXStream& read(int64_t& value) { return takeValue(value); }
+    OTXStream& read(uint64_t& value) { return takeValue(value); }
     OTXStream& read(Bits& value);
     OTXStream& read(std::wstring& text);
     OTXStream& read(std::vector<uint8_t>& bytes);
@@ -111,11 +160,49 @@ struct OTXStream {
     template <class E>
     OTXStream& read(std::shared_ptr<E>& record);
 
-    // Raw bytes, as every primitive is written: grows the buffer geometrically.
-    void put(const void* bytes, std::size_t count);
-    void take(void* bytes, std::size_t count);
+    // Raw bytes, as every primitive is written and read.
+    void put(const void* bytes, std::size_t count) {
+        if (count != 0) {
+            std::memcpy(reserve(count), bytes, count);
+            position += static_cast<uint32_t>(count);
+        }
+    }
+    void take(void* bytes, std::size_t count) {
+        if (bounded && count > std::size_t{size} - position) {
+            endOfInput(count);
+        }
+        if (count != 0) {
+            std::memcpy(bytes, buffer + position, count);
+            position += static_cast<uint32_t>(count);
+        }
+    }
+
+    // Room for `count` more bytes at the write position, which does not move: the one
+    // growth policy of every write.
+    uint8_t* reserve(std::size_t count) {
+        if (count > std::size_t{capacity} - position) {
+            grow(count);
+        }
+        return buffer + position;
+    }
 
 private:
+    template <class T>
+    OTXStream& putValue(T value) {
+        std::memcpy(reserve(sizeof value), &value, sizeof value);
+        position += static_cast<uint32_t>(sizeof value);
+        return *this;
+    }
+    template <class T>
+    OTXStream& takeValue(T& value) {
+        take(&value, sizeof value);
+        return *this;
+    }
+    // Grows the buffer geometrically to hold `count` more bytes.
+    void grow(std::size_t count);
+    // Throws MalformedInput: `count` bytes are not there.
+    [[noreturn]] void endOfInput(std::size_t count) const;
+
     // Holds one level of record nesting while a record's fields are read; throws
     // MalformedInput on a bounded stream past maxRecordDepth.
     class Nesting {

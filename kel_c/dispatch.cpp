@@ -3,15 +3,36 @@
 #include "generated/dispatch_table.h"
 #include "utf8.h"
 
-#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
 
 namespace kel::dispatch {
 
+namespace {
+
+// The table's position of each number from 0 to the highest, -1 for numbers that name no
+// operation: the numbers are dense, so one array lookup replaces a search.
+constexpr auto positions = [] {
+    std::array<int16_t, operations.back().number + 1> out{};
+    for (auto& position : out) {
+        position = -1;
+    }
+    for (std::size_t i = 0; i < operations.size(); ++i) {
+        out[static_cast<std::size_t>(operations[i].number)] = static_cast<int16_t>(i);
+    }
+    return out;
+}();
+static_assert(operations.size() < INT16_MAX);
+
+} // namespace
+
 const Operation* find(int32_t number) {
-    const auto found =
-        std::lower_bound(operations.begin(), operations.end(), number,
-                         [](const Operation& op, int32_t n) { return op.number < n; });
-    return found != operations.end() && found->number == number ? &*found : nullptr;
+    const auto index = static_cast<uint32_t>(number);
+    if (index >= positions.size() || positions[index] < 0) {
+        return nullptr;
+    }
+    return &operations[static_cast<std::size_t>(positions[index])];
 }
 
 void writeError(OTXStream& out, const Varno::Kel_cpp::TarnApiException& exception) {

@@ -1,19 +1,24 @@
 // kel_call / kel_call_result: engine operations by number for OTX runtimes.
 //
-// Result streams are kept in a locked registry from kel_call until kel_call_result,
-// which copies the bytes out and frees the stream; so a runtime that fetches every
-// result leaks nothing, and a pointer that was never issued, or was fetched already,
-// copies nothing.
+// The stream pointer handed out is a ticket for the result, not an address: its low 32
+// bits name a slot, its high 32 bits the slot's generation. The slot holds the result's
+// one block (the written stream's buffer) and its size until kel_call_result claims it
+// with one compare-and-swap, copies the bytes out and frees the block. So a runtime that
+// fetches every result leaks nothing, and a ticket fetched already, or never issued,
+// finds no live slot of its generation and copies nothing. Slots are reused, never freed,
+// so even a stale ticket reads valid memory; no lock and no search on either side.
 #include "dispatch.h"
+#include "trace.h"
 
 #include <Kel_cpp/Engine.h>
 #include <Vutil/TraceHelper.h>
 #include <kel_c.h>
 
+#include <atomic>
+#include <cstdlib>
 #include <cstring>
-#include <mutex>
+#include <new>
 #include <optional>
-#include <set>
 
 namespace {
 
@@ -21,12 +26,103 @@ using kel::OTXStream;
 using Varno::Kel_cpp::TarnApi;
 using Varno::Kel_cpp::TarnApiException;
 
-struct ResultRegistry {
-    std::mutex mutex;
-    std::set<OTXStream*> streams;
+struct Slot {
+    std::atomic<uint64_t> state{0};    // generation << 1 | 1 while a result waits in it
+    std::atomic<uint32_t> nextFree{0}; // the free list's next slot + 1, 0 at its end
+    uint8_t* block = nullptr;
+    uint64_t size = 0;
 };
 
-ResultRegistry results; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
+// Slots in chunks that are allocated on demand and never freed; a free list (a lock-free
+// stack whose head carries a tag against reuse races) hands them out again.
+class Tickets {
+public:
+    void* issue(uint8_t* block, uint64_t size) {
+        const uint32_t index = take();
+        Slot& s = slot(index);
+        const uint64_t generation = (s.state.load(std::memory_order_relaxed) >> 1) & 0xFFFFFFFFU;
+        s.block = block;
+        s.size = size;
+        s.state.store(generation << 1 | 1U, std::memory_order_release);
+        return reinterpret_cast<void*>(generation << 32 | (uint64_t{index} + 1)); // NOLINT
+    }
+
+    // Copies the ticket's result to destination and frees it, once; false when the ticket
+    // names no waiting result.
+    bool redeem(const void* ticket, void* destination) {
+        const auto value = reinterpret_cast<uint64_t>(ticket); // NOLINT
+        const auto index = static_cast<uint32_t>(value) - 1;
+        if (static_cast<uint32_t>(value) == 0 || index >> chunkBits >= chunkCount) {
+            return false;
+        }
+        Slot* chunk = chunks_[index >> chunkBits].load(std::memory_order_acquire);
+        if (chunk == nullptr) {
+            return false;
+        }
+        Slot& s = chunk[index & (chunkSize - 1)];
+        const uint64_t generation = value >> 32;
+        uint64_t expected = generation << 1 | 1U;
+        if (!s.state.compare_exchange_strong(expected, ((generation + 1) & 0xFFFFFFFFU) << 1,
+                                             std::memory_order_acq_rel)) {
+            return false;
+        }
+        uint8_t* block = s.block;
+        const uint64_t size = s.size;
+        s.block = nullptr;
+        give(index);
+        OTXStream::copyOut(destination, block, size);
+        OTXStream::release(block);
+        return true;
+    }
+
+private:
+    static constexpr uint32_t chunkBits = 10;
+    static constexpr uint32_t chunkSize = 1U << chunkBits;
+    static constexpr uint32_t chunkCount = 1U << 16;
+
+    Slot& slot(uint32_t index) {
+        return chunks_[index >> chunkBits].load(std::memory_order_acquire)[index & (chunkSize - 1)];
+    }
+
+    uint32_t take() {
+        uint64_t head = free_.load(std::memory_order_acquire);
+        while (static_cast<uint32_t>(head) != 0) {
+            const uint32_t index = static_cast<uint32_t>(head) - 1;
+            const uint64_t next =
+                ((head >> 32) + 1) << 32 | slot(index).nextFree.load(std::memory_order_relaxed);
+            if (free_.compare_exchange_weak(head, next, std::memory_order_acq_rel)) {
+                return index;
+            }
+        }
+        const uint32_t index = creating_.fetch_add(1, std::memory_order_relaxed);
+        if (index >= chunkSize * chunkCount) {
+            throw std::bad_alloc(); // 64 Mi results waiting at once
+        }
+        auto& chunk = chunks_[index >> chunkBits];
+        if (chunk.load(std::memory_order_acquire) == nullptr) {
+            auto* fresh = new Slot[chunkSize];
+            Slot* none = nullptr;
+            if (!chunk.compare_exchange_strong(none, fresh, std::memory_order_acq_rel)) {
+                delete[] fresh;
+            }
+        }
+        return index;
+    }
+
+    void give(uint32_t index) {
+        uint64_t head = free_.load(std::memory_order_relaxed);
+        do {
+            slot(index).nextFree.store(static_cast<uint32_t>(head), std::memory_order_relaxed);
+        } while (!free_.compare_exchange_weak(
+            head, ((head >> 32) + 1) << 32 | (uint64_t{index} + 1), std::memory_order_acq_rel));
+    }
+
+    std::atomic<Slot*> chunks_[chunkCount] = {}; // NOLINT(cppcoreguidelines-avoid-c-arrays)
+    std::atomic<uint32_t> creating_{0};
+    std::atomic<uint64_t> free_{0}; // tag << 32 | first free slot + 1
+};
+
+Tickets tickets; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 void call(uint64_t handle, int32_t number, const void* input, const uint64_t* inputSize,
           void** outStream, uint64_t* outSize) {
@@ -40,7 +136,7 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
     } catch (TarnApiException exception) { // NOLINT(misc-throw-by-value-catch-by-reference)
         rejected = std::move(exception);
     }
-    if (Vutil::TraceHelper::enabled(3)) {
+    if (kel::trace::enabled()) {
         Vutil::TraceHelper::trace("kel_otx", "kel_call operation %d", number);
     }
     OTXStream in(input, true, false, true);
@@ -52,7 +148,7 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
     if (operation == nullptr) {
         return;
     }
-    auto out = std::make_unique<OTXStream>(true, false, true);
+    OTXStream out(true, false, true);
     try {
         try {
             if (rejected) {
@@ -61,24 +157,26 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
             if (operation->call == nullptr) {
                 throw kel::dispatch::notAvailable(*operation);
             }
-            // Operations not served by the selected engine fetch the local one afresh.
-            const std::shared_ptr<TarnApi> engine =
-                operation->selected ? selected : Varno::Kel_cpp::getTarnApi();
-            operation->call(*engine, in, *out, {true, nullptr});
+            // Operations not served by the selected engine use the local one: the one
+            // held already for handle 0, else fetched afresh.
+            std::shared_ptr<TarnApi> local;
+            TarnApi* engine = selected.get();
+            if (!operation->selected && handle != 0) {
+                local = Varno::Kel_cpp::getTarnApi();
+                engine = local.get();
+            }
+            operation->call(*engine, in, out, {true, nullptr});
         } catch (const kel::MalformedInput& problem) {
             throw kel::dispatch::malformed(*operation, problem);
         }
     } catch (TarnApiException exception) { // NOLINT(misc-throw-by-value-catch-by-reference)
-        out->position = 0;
-        out->write(uint8_t{0});
-        kel::dispatch::writeError(*out, exception);
+        out.position = 0;
+        out.write(uint8_t{0});
+        kel::dispatch::writeError(out, exception);
     }
-    *outSize = out->position;
-    {
-        const std::lock_guard lock(results.mutex);
-        results.streams.insert(out.get());
-    }
-    *outStream = out.release();
+    *outStream = tickets.issue(out.buffer, out.position);
+    *outSize = out.position;
+    out.detach();
 }
 
 } // namespace
@@ -96,19 +194,7 @@ void kel_call_checked(uint64_t handle, int32_t operation, const void* input, uin
 }
 
 void* kel_call_result(void* stream, void* destination) {
-    std::unique_ptr<OTXStream> owned;
-    {
-        const std::lock_guard lock(results.mutex);
-        const auto found = results.streams.find(static_cast<OTXStream*>(stream));
-        if (found == results.streams.end()) {
-            return destination;
-        }
-        owned.reset(*found);
-        results.streams.erase(found);
-    }
-    if (owned->position != 0) {
-        std::memcpy(destination, owned->buffer, owned->position);
-    }
+    tickets.redeem(stream, destination);
     return destination;
 }
 

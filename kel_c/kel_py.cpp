@@ -1,5 +1,6 @@
 // py_call / py_result: engine operations by number for a Python extension.
 #include "dispatch.h"
+#include "trace.h"
 
 #include <Kel_cpp/Engine.h>
 #include <Vutil/TraceHelper.h>
@@ -68,13 +69,14 @@ int32_t py_call_checked(TarnApi* api, int32_t operation, uint64_t /*reserved*/, 
 }
 
 void py_result(void* destination, int32_t size, void* buffer) {
-    if (Vutil::TraceHelper::enabled(3)) {
+    if (kel::trace::enabled()) {
         Vutil::TraceHelper::trace("kel_py", "result address = %p", buffer);
     }
     if (size > 0) {
-        std::memcpy(destination, buffer, static_cast<std::size_t>(size));
+        OTXStream::copyOut(destination, static_cast<const uint8_t*>(buffer),
+                           static_cast<std::size_t>(size));
     }
-    std::free(buffer);
+    OTXStream::release(static_cast<uint8_t*>(buffer));
 }
 
 } // extern "C"

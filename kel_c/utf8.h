@@ -19,6 +19,19 @@
 
 namespace kel::utf8 {
 
+// The most UTF-8 bytes that `length` wide units encode to: a UTF-16 unit gives at most 3
+// (a surrogate pair 4 for its two units), a UTF-32 unit at most 4.
+constexpr std::size_t maxBytes(std::size_t length) {
+    return length * (sizeof(wchar_t) == 2 ? 3 : 4);
+}
+
+// Writes the UTF-8 form of text[0..length) to out, which has room for maxBytes(length)
+// bytes; returns the bytes written.
+std::size_t encodeTo(const wchar_t* text, std::size_t length, unsigned char* out);
+// Decodes bytes[0..length) to out, which has room for `length` wide units (no character
+// needs more units than bytes); returns the units written.
+std::size_t decodeTo(const unsigned char* bytes, std::size_t length, wchar_t* out);
+
 // Appends the UTF-8 form of text[0..length) to out.
 void encode(const wchar_t* text, std::size_t length, std::string& out);
 // Decodes bytes[0..length) into out (replacing its contents).

@@ -11,6 +11,7 @@
 #include <cstdlib>
 #include <cstring>
 #include <utf8.h>
+#include <utility>
 
 namespace {
 
@@ -73,6 +74,34 @@ TEST(StreamStrings, MalformedUtf8BecomesReplacementCharacters) {
     EXPECT_EQ(kel::utf8::decode(bad), L"A\uFFFDB\uFFFD");
     EXPECT_EQ(kel::utf8::decode(std::string("\xF0\x9F\x9A\x97")), L"\U0001F697");
     EXPECT_EQ(kel::utf8::encode(L"\u00E9\U0001F697"), "\xC3\xA9\xF0\x9F\x9A\x97");
+}
+
+// The ASCII runs go several units at a time: a character of each UTF-8 length, and a
+// malformed byte, at every offset across those steps.
+TEST(StreamStrings, NonAsciiAtEveryOffsetOfAnAsciiRun) {
+    const std::pair<std::wstring, std::string> characters[] = {
+        {L"\u00E9", "\xC3\xA9"}, {L"\u20AC", "\xE2\x82\xAC"}, {L"\U0001F697", "\xF0\x9F\x9A\x97"}};
+    for (std::size_t offset = 0; offset < 20; ++offset) {
+        for (const auto& [wide, utf8] : characters) {
+            const std::wstring text =
+                std::wstring(offset, L'a') + wide + std::wstring(20 - offset, L'b');
+            OTXStream out(true, false, false);
+            out.write(text);
+            const std::string expected =
+                std::string(offset, 'a') + utf8 + std::string(20 - offset, 'b');
+            ASSERT_EQ(std::string(reinterpret_cast<const char*>(out.buffer) + 4, out.position - 4),
+                      expected)
+                << offset;
+            OTXStream in(out.buffer, true, false, false);
+            std::wstring back;
+            in.read(back);
+            EXPECT_EQ(back, text) << offset;
+        }
+        const std::string bad = std::string(offset, 'a') + "\xFF" + std::string(20 - offset, 'b');
+        EXPECT_EQ(kel::utf8::decode(bad),
+                  std::wstring(offset, L'a') + L"\uFFFD" + std::wstring(20 - offset, L'b'))
+            << offset;
+    }
 }
 
 TEST(StreamStrings, TraceShowsTheStreamedStringAtLevelThree) {

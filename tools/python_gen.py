@@ -634,7 +634,7 @@ def operations_py(iface: kelidl.Interface) -> str:
            '"""One method per built operation: the arguments go to py_call on the stream, the results',
            'come back as dataclasses; asynchronous forms go through the C exports."""', "",
            "from __future__ import annotations", "", "import builtins", "import struct",
-           "from typing import TYPE_CHECKING, Optional, Sequence", "",
+           "from typing import TYPE_CHECKING, ContextManager, Optional, Sequence", "",
            "from . import c_records, records, stream", "",
            "if TYPE_CHECKING:", "    from ..asynccall import AsyncCall", "    from ..engine import Engine", "",
            "", "class Operations:",
@@ -642,6 +642,8 @@ def operations_py(iface: kelidl.Interface) -> str:
            "    def _call(self, number: int, data: builtins.bytes) -> builtins.bytes:",
            "        raise NotImplementedError", "",
            "    def _adopt(self, address: int) -> Engine:",
+           "        raise NotImplementedError", "",
+           "    def _decoding(self, data: builtins.bytes) -> ContextManager[None]:",
            "        raise NotImplementedError", ""]
     out += ["    def _start(self, start: object, convert: object, release: str, *args: object) -> AsyncCall:",
             "        raise NotImplementedError", ""]
@@ -663,7 +665,7 @@ def operations_py(iface: kelidl.Interface) -> str:
             out.append(f"        {call}")
         else:
             out.append(f"        _b = {call}")
-            out += [f"        {line}" for line in decode(op.result, iface)]
+            out += decoding(op.result, iface)
         out.append("")
         a = asyncs.get(op.name)
         if a:
@@ -675,6 +677,15 @@ def operations_py(iface: kelidl.Interface) -> str:
             out.append(f"        return self._start({args})")
             out.append("")
     return "\n".join(out).rstrip("\n") + "\n"
+
+
+def decoding(result: kelidl.Value, iface: kelidl.Interface) -> list[str]:
+    """The lines that decode a result: records and lists of them inside _decoding, which
+    suspends the cyclic collector for a large result (the decoded tree has no cycles)."""
+    lines = decode(result, iface)
+    if result.kind not in ("rec", "list"):
+        return [f"        {line}" for line in lines]
+    return ["        with self._decoding(_b):"] + [f"            {line}" for line in lines]
 
 
 def signature(params: list[kelidl.Value], iface: kelidl.Interface) -> list[str]:

@@ -6,7 +6,7 @@ from __future__ import annotations
 
 import builtins
 import struct
-from typing import TYPE_CHECKING, Optional, Sequence
+from typing import TYPE_CHECKING, ContextManager, Optional, Sequence
 
 from . import c_records, records, stream
 
@@ -22,6 +22,9 @@ class Operations:
         raise NotImplementedError
 
     def _adopt(self, address: int) -> Engine:
+        raise NotImplementedError
+
+    def _decoding(self, data: builtins.bytes) -> ContextManager[None]:
         raise NotImplementedError
 
     def _start(self, start: object, convert: object, release: str, *args: object) -> AsyncCall:
@@ -95,7 +98,8 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, project_name)
         _b = self._call(7, builtins.bytes(_o))
-        return stream.read_ProjectConfig(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_ProjectConfig(_b, 0)[0]
 
     def set_project_configuration(self, project_name: str, config: Optional[records.ProjectConfig] = None) -> None:
         """Sets a project's configuration.
@@ -146,13 +150,14 @@ class Operations:
         _o += struct.pack("<I", value1)
         _o += struct.pack("<i", value2)
         _b = self._call(11, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.MonitoringItem]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_MonitoringItem(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.MonitoringItem]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_MonitoringItem(_b, _p)
+                _results.append(_r)
+            return _results
 
     def release_monitoring_link(self, handle: int) -> None:
         """Closes a monitoring link.
@@ -178,13 +183,14 @@ class Operations:
         _o += struct.pack("<I", value1)
         _o += struct.pack("<i", value2)
         _b = self._call(13, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.PduMonitoringItem]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_PduMonitoringItem(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.PduMonitoringItem]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_PduMonitoringItem(_b, _p)
+                _results.append(_r)
+            return _results
 
     def create_pdu_monitor(self) -> int:
         """Opens a PDU monitor; returns its handle.
@@ -229,13 +235,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(17, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.VariantIdentResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_VariantIdentResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.VariantIdentResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_VariantIdentResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def identify_all_targets_async(self) -> AsyncCall:
         """Identifies the variant of every target of the project; one result per
@@ -258,13 +265,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets)
         _b = self._call(19, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ReadDataResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ReadDataResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ReadDataResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ReadDataResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def read_identification_values_async(self, targets: Sequence[str] = ()) -> AsyncCall:
         """Reads the identification values of the given targets; one result per target.
@@ -287,13 +295,14 @@ class Operations:
         stream.write_text(_o, target)
         stream.write_texts(_o, identifiers)
         _b = self._call(21, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ReadDataResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ReadDataResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ReadDataResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ReadDataResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def identify_target(self, target: str) -> Optional[records.VariantIdentResult]:
         """Identifies the variant of one target.
@@ -305,7 +314,8 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         _b = self._call(22, builtins.bytes(_o))
-        return stream.read_VariantIdentResult(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_VariantIdentResult(_b, 0)[0]
 
     def read_dtcs(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> list[Optional[records.ReadDtcResult]]:
         """Reads the DTCs of the given targets with the reading options in config; one
@@ -319,13 +329,14 @@ class Operations:
         stream.write_texts(_o, targets)
         stream.write_DtcReadConfig(_o, config)
         _b = self._call(23, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ReadDtcResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ReadDtcResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ReadDtcResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ReadDtcResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def read_dtcs_async(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> AsyncCall:
         """Reads the DTCs of the given targets with the reading options in config; one
@@ -350,13 +361,14 @@ class Operations:
         stream.write_texts(_o, targets)
         stream.write_DtcReadConfig(_o, config)
         _b = self._call(25, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ReadDtcResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_SupportedDtcResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ReadDtcResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_SupportedDtcResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def read_supported_dtcs_async(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> AsyncCall:
         """Reads the DTCs that the given targets support, with the reading options in
@@ -379,13 +391,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets)
         _b = self._call(27, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ClearDtcResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ClearDtcResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ClearDtcResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ClearDtcResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def clear_all_dtcs_async(self, targets: Sequence[str] = ()) -> AsyncCall:
         """Clears every DTC of the given targets; one result per target.
@@ -411,13 +424,14 @@ class Operations:
         stream.write_texts(_o, names)
         _o += struct.pack("<i", value)
         _b = self._call(29, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ServiceInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ServiceInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ServiceInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ServiceInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_flash_session_infos(self, target: str) -> list[Optional[records.FlashSessionInfo]]:
         """Lists the flash sessions that one target offers.
@@ -429,13 +443,14 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         _b = self._call(113, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.FlashSessionInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_FlashSessionInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.FlashSessionInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_FlashSessionInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def execute_flash_sessions(self, target: str, sessions: Sequence[str] = ()) -> list[Optional[records.FlashSessionResult]]:
         """Runs the given flash sessions on one target.
@@ -448,13 +463,14 @@ class Operations:
         stream.write_text(_o, target)
         stream.write_texts(_o, sessions)
         _b = self._call(117, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.FlashSessionResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_FlashSessionResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.FlashSessionResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_FlashSessionResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def execute_flash_sessions_async(self, target: str, sessions: Sequence[str] = ()) -> AsyncCall:
         """Runs the given flash sessions on one target.
@@ -476,13 +492,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets)
         _b = self._call(32, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.CodingStringResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_CodingStringResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.CodingStringResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_CodingStringResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def read_coding_strings_async(self, targets: Sequence[str] = ()) -> AsyncCall:
         """Reads the coding strings of the given targets.
@@ -506,13 +523,14 @@ class Operations:
         stream.write_texts(_o, targets)
         stream.write_DtcReadConfig(_o, config)
         _b = self._call(34, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.QuickTestResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_QuickTestResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.QuickTestResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_QuickTestResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def perform_quick_test_async(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> AsyncCall:
         """Runs the quick test on the given targets, with the DTC reading options in
@@ -549,13 +567,14 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         _b = self._call(37, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ParameterInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ParameterInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ParameterInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ParameterInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def register_measurement_values(self, target: str, names: Sequence[str] = ()) -> int:
         """Registers measurement values of one target for repeated reading; returns the
@@ -582,13 +601,14 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<Q", registration)
         _b = self._call(39, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ReadDataResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ReadDataResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ReadDataResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ReadDataResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def unregister_measurement_values(self, registration: int) -> None:
         """Ends a registration made with kel_registerMeasurementValues.
@@ -611,13 +631,14 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         _b = self._call(41, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ParameterInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ParameterInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ParameterInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ParameterInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def cancel_all_async_calls(self) -> None:
         """Cancels every asynchronous call running on this engine object; whether a
@@ -691,7 +712,8 @@ class Operations:
         _o += struct.pack("<Q", channel)
         _o += struct.pack("<I", limit)
         _b = self._call(47, builtins.bytes(_o))
-        return stream.read_EventReport(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_EventReport(_b, 0)[0]
 
     def open_trace_file_monitoring_link(self, handle: int, trace_file: str) -> None:
         """Opens a recorded trace file for monitoring under the given handle.
@@ -758,13 +780,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, interfaces)
         _b = self._call(71, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ScanInterfaceResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ScanInterfaceResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ScanInterfaceResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ScanInterfaceResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def scan_interface_connection_async(self, interfaces: Sequence[str] = ()) -> AsyncCall:
         """Scans the connection of the given interfaces; one result per interface.
@@ -810,13 +833,14 @@ class Operations:
         stream.write_text(_o, target)
         stream.write_texts(_o, names)
         _b = self._call(75, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ReadDataResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ReadDataResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ReadDataResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ReadDataResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def read_measurement_values_async(self, target: str, names: Sequence[str] = ()) -> AsyncCall:
         """Reads the named measurement values of one target once.
@@ -894,13 +918,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets)
         _b = self._call(86, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.VariantIdentResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_VariantIdentResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.VariantIdentResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_VariantIdentResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def identify_targets_async(self, targets: Sequence[str] = ()) -> AsyncCall:
         """Identifies the variants of the given targets; one result per target.
@@ -924,13 +949,14 @@ class Operations:
         stream.write_text(_o, text1)
         stream.write_text(_o, text2)
         _b = self._call(89, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ParameterInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ParameterInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ParameterInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ParameterInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def release_socket_bridge(self, bridge: int) -> None:
         """Closes a socket bridge opened with kel_createSocketBridge.
@@ -969,13 +995,14 @@ class Operations:
         stream.write_text(_o, target)
         stream.write_texts(_o, names)
         _b = self._call(96, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ParameterInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ParameterInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ParameterInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ParameterInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_filtered_targets(self, filters: Sequence[Optional[records.TargetFilter]] = ()) -> list[Optional[records.Target]]:
         """Lists the targets of the project that match the given target filters.
@@ -989,13 +1016,14 @@ class Operations:
         for _e in filters:
             stream.write_TargetFilter(_o, _e)
         _b = self._call(97, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.Target]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_Target(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.Target]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_Target(_b, _p)
+                _results.append(_r)
+            return _results
 
     def is_project_conversion_required(self, project_path: str) -> bool:
         """Tells whether a project must be converted before the engine can use it.
@@ -1058,13 +1086,14 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<Q", cyclic)
         _b = self._call(105, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ServiceResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ServiceResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ServiceResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ServiceResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def stop_cyclic_services(self, cyclic: int) -> None:
         """Stops a cyclic run started with kel_startCyclicServices.
@@ -1086,7 +1115,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(106, builtins.bytes(_o))
-        return stream.read_ProjectDetails(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_ProjectDetails(_b, 0)[0]
 
     def clear_link_cache(self) -> None:
         """Clears the engine's cache of links.
@@ -1135,7 +1165,8 @@ class Operations:
         stream.write_text(_o, text2)
         stream.write_text(_o, text3)
         _b = self._call(108, builtins.bytes(_o))
-        return stream.read_InterfaceInformation(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_InterfaceInformation(_b, 0)[0]
 
     def remove_resource(self, name1: str, name2: str) -> None:
         """Removes a resource from an interface.
@@ -1159,7 +1190,8 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, name)
         _b = self._call(114, builtins.bytes(_o))
-        return stream.read_SystemProperty(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_SystemProperty(_b, 0)[0]
 
     def reset_system_property(self, name: str) -> None:
         """Sets a system property back to its default.
@@ -1220,13 +1252,14 @@ class Operations:
         for _e in services:
             stream.write_ServiceInput(_o, _e)
         _b = self._call(30, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ServiceResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ServiceResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ServiceResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ServiceResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def execute_service_async(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> AsyncCall:
         """Executes diagnostic services on one target with the given parameter values.
@@ -1250,13 +1283,14 @@ class Operations:
         _o += struct.pack("<I", value)
         stream.write_DynInterfaceDetection(_o, detection)
         _b = self._call(123, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ModuleDyn]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ModuleDyn(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ModuleDyn]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ModuleDyn(_b, _p)
+                _results.append(_r)
+            return _results
 
     def detect_dyn_interfaces_async(self, value: int, detection: Optional[records.DynInterfaceDetection] = None) -> AsyncCall:
         """Detects dynamic interfaces as the detection record says; returns the modules
@@ -1330,7 +1364,8 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<?", flag)
         _b = self._call(129, builtins.bytes(_o))
-        return stream.read_DirectoryInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_DirectoryInfo(_b, 0)[0]
 
     def get_selected_project_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
         """Reads the selected project's directory as a tree.
@@ -1342,7 +1377,8 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<?", flag)
         _b = self._call(130, builtins.bytes(_o))
-        return stream.read_DirectoryInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_DirectoryInfo(_b, 0)[0]
 
     def write_file(self, path: str, data: builtins.bytes, value: int, flag: bool) -> int:
         """Writes bytes to a file; returns the engine's 32-bit result.
@@ -1373,7 +1409,8 @@ class Operations:
         for _e in files:
             stream.write_FileInfo(_o, _e)
         _b = self._call(137, builtins.bytes(_o))
-        return stream.read_KelError(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_KelError(_b, 0)[0]
 
     def find_directories(self, directory: Optional[records.DirectoryInfo], pattern: str, flag: bool) -> list[Optional[records.DirectoryInfo]]:
         """Finds the directories below a directory whose names match a pattern.
@@ -1387,13 +1424,14 @@ class Operations:
         stream.write_text(_o, pattern)
         _o += struct.pack("<?", flag)
         _b = self._call(139, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.DirectoryInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_DirectoryInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.DirectoryInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_DirectoryInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def find_files(self, directory: str, pattern: str, flag: bool) -> list[Optional[records.FileInfo]]:
         """Finds the files in a directory whose names match a pattern.
@@ -1407,13 +1445,14 @@ class Operations:
         stream.write_text(_o, pattern)
         _o += struct.pack("<?", flag)
         _b = self._call(140, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.FileInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_FileInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.FileInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_FileInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def initialize_directory_elements(self, directory: Optional[records.DirectoryInfo], flag: bool) -> Optional[records.DirectoryInfo]:
         """Fills in the files and sub-directories of a directory.
@@ -1426,7 +1465,8 @@ class Operations:
         stream.write_DirectoryInfo(_o, directory)
         _o += struct.pack("<?", flag)
         _b = self._call(141, builtins.bytes(_o))
-        return stream.read_DirectoryInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_DirectoryInfo(_b, 0)[0]
 
     def create_file(self, parent: Optional[records.DirectoryInfo], name: str) -> Optional[records.FileInfo]:
         """Creates a file in a directory.
@@ -1439,7 +1479,8 @@ class Operations:
         stream.write_DirectoryInfo(_o, parent)
         stream.write_text(_o, name)
         _b = self._call(132, builtins.bytes(_o))
-        return stream.read_FileInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_FileInfo(_b, 0)[0]
 
     def create_directory(self, parent: Optional[records.DirectoryInfo], name: str) -> Optional[records.DirectoryInfo]:
         """Creates a directory in a directory.
@@ -1452,7 +1493,8 @@ class Operations:
         stream.write_DirectoryInfo(_o, parent)
         stream.write_text(_o, name)
         _b = self._call(133, builtins.bytes(_o))
-        return stream.read_DirectoryInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_DirectoryInfo(_b, 0)[0]
 
     def delete_directory(self, path: str) -> Optional[records.KelError]:
         """Deletes a directory; the outcome comes back as an error record, NULL when
@@ -1465,7 +1507,8 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, path)
         _b = self._call(134, builtins.bytes(_o))
-        return stream.read_KelError(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_KelError(_b, 0)[0]
 
     def get_trace_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
         """Reads the trace directory as a tree.
@@ -1477,7 +1520,8 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<?", flag)
         _b = self._call(136, builtins.bytes(_o))
-        return stream.read_DirectoryInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_DirectoryInfo(_b, 0)[0]
 
     def create_vehicle_report(self, config: Optional[records.VehicleReportConfig] = None) -> str:
         """Reads the units as config says and writes a vehicle report into the reports
@@ -1505,13 +1549,14 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, path)
         _b = self._call(143, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.EcuOrderEntry]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_EcuOrderEntry(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.EcuOrderEntry]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_EcuOrderEntry(_b, _p)
+                _results.append(_r)
+            return _results
 
     def filter_ecu_order(self, entries: Sequence[Optional[records.EcuOrderEntry]] = (), targets: Sequence[str] = ()) -> list[Optional[records.EcuOrderEntry]]:
         """Keeps the entries of the given targets, named by unit name or alias, in the
@@ -1528,13 +1573,14 @@ class Operations:
             stream.write_EcuOrderEntry(_o, _e)
         stream.write_texts(_o, targets)
         _b = self._call(144, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.EcuOrderEntry]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_EcuOrderEntry(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.EcuOrderEntry]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_EcuOrderEntry(_b, _p)
+                _results.append(_r)
+            return _results
 
     def add_missing_targets_to_ecu_order(self, entries: Sequence[Optional[records.EcuOrderEntry]] = ()) -> list[Optional[records.EcuOrderEntry]]:
         """Completes an ECU order: the entries as given, then every unit of the vehicle
@@ -1549,13 +1595,14 @@ class Operations:
         for _e in entries:
             stream.write_EcuOrderEntry(_o, _e)
         _b = self._call(145, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.EcuOrderEntry]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_EcuOrderEntry(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.EcuOrderEntry]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_EcuOrderEntry(_b, _p)
+                _results.append(_r)
+            return _results
 
     def lock(self) -> int:
         """Takes the engine's lock and returns the lock identifier that kel_unlock
@@ -1638,13 +1685,14 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<I", value)
         _b = self._call(83, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ModuleDyn]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ModuleDyn(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ModuleDyn]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ModuleDyn(_b, _p)
+                _results.append(_r)
+            return _results
 
     def detect_dyn_interfaces_ex_async(self, value: int) -> AsyncCall:
         """Detects dynamic interfaces without a detection record; returns the modules
@@ -1703,13 +1751,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(160, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.UserInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_UserInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.UserInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_UserInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def log_out(self, config: Optional[records.LogInOutConfig] = None) -> None:
         """Logs the user of this engine object out of the server.
@@ -1792,13 +1841,14 @@ class Operations:
         _o = bytearray()
         stream.write_FileCopyConfig(_o, config)
         _b = self._call(165, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.FileCopyResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_FileCopyResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.FileCopyResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_FileCopyResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def copy_files_async(self, config: Optional[records.FileCopyConfig] = None) -> AsyncCall:
         """Copies files as config says; one result per file.
@@ -1820,13 +1870,14 @@ class Operations:
         _o = bytearray()
         stream.write_DirectoryCopyConfig(_o, config)
         _b = self._call(166, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.DirectoryCopyResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_DirectoryCopyResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.DirectoryCopyResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_DirectoryCopyResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def copy_directories_async(self, config: Optional[records.DirectoryCopyConfig] = None) -> AsyncCall:
         """Copies directories as config says; one result per directory.
@@ -1879,7 +1930,8 @@ class Operations:
         for _e in services:
             stream.write_ServiceInput(_o, _e)
         _b = self._call(178, builtins.bytes(_o))
-        return stream.read_UnlockResult(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_UnlockResult(_b, 0)[0]
 
     def release_vehicle_unlock(self, value: int) -> None:
         """Releases a vehicle unlock; value is passed to the engine unchanged. Through
@@ -1914,13 +1966,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(182, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.DeviceInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_DeviceInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.DeviceInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_DeviceInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_system_info(self) -> Optional[records.SystemInfo]:
         """Reads information about the system that the engine runs on.
@@ -1931,7 +1984,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(183, builtins.bytes(_o))
-        return stream.read_SystemInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_SystemInfo(_b, 0)[0]
 
     def apply_update_package(self, package: str) -> None:
         """Applies an update package: the newest engine-component package of that name,
@@ -1976,13 +2030,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(184, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.UpdatePackageInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_UpdatePackageInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.UpdatePackageInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_UpdatePackageInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_packages_from_broker(self) -> list[Optional[records.UpdatePackageInfo]]:
         """Lists the update packages that the broker offers.
@@ -1993,13 +2048,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(164, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.UpdatePackageInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_UpdatePackageInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.UpdatePackageInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_UpdatePackageInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def check_updates_on_broker(self) -> bool:
         """Tells whether the broker has updates.
@@ -2033,7 +2089,8 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<?", flag)
         _b = self._call(131, builtins.bytes(_o))
-        return stream.read_DirectoryInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_DirectoryInfo(_b, 0)[0]
 
     def create_api_trace_monitor(self) -> int:
         """Opens an API trace monitor, which records the calls made on the engine;
@@ -2085,13 +2142,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(191, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.NamedItem]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_NamedItem(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.NamedItem]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_NamedItem(_b, _p)
+                _results.append(_r)
+            return _results
 
     def check_update_success(self) -> bool:
         """Tells whether the last update (applyUpdatePackage, autoUpdate, a vehicle
@@ -2125,13 +2183,14 @@ class Operations:
         _o = bytearray()
         stream.write_FlashSessionsConfig(_o, config)
         _b = self._call(195, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.FlashSessionResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_FlashSessionResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.FlashSessionResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_FlashSessionResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def execute_flash_sessions_config_async(self, config: Optional[records.FlashSessionsConfig] = None) -> AsyncCall:
         """Runs flash sessions as config says.
@@ -2153,13 +2212,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, files)
         _b = self._call(198, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.LoadDatabaseResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_LoadDatabaseResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.LoadDatabaseResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_LoadDatabaseResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def copy_project_with_filters(self, filters: Sequence[Optional[records.FileFilter]], flag: bool, config: Optional[records.FileCopyConfig], text: str) -> list[Optional[records.FileInfo]]:
         """Copies the files of a project that pass the given file filters, as config
@@ -2177,13 +2237,14 @@ class Operations:
         stream.write_FileCopyConfig(_o, config)
         stream.write_text(_o, text)
         _b = self._call(201, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.FileInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_FileInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.FileInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_FileInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def reconnect_remote_server(self, handle: int) -> bool:
         """Renews the remote connection whose engine handle is given (kel_getHandle,
@@ -2224,13 +2285,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, files)
         _b = self._call(206, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.LoadDatabaseResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_LoadDatabaseResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.LoadDatabaseResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_LoadDatabaseResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_public_directories(self) -> list[Optional[records.DirectoryInfo]]:
         """Lists the engine's public directories.
@@ -2241,13 +2303,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(210, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.DirectoryInfo]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_DirectoryInfo(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.DirectoryInfo]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_DirectoryInfo(_b, _p)
+                _results.append(_r)
+            return _results
 
     def update_vehicle(self, config: Optional[records.VehicleUpdateConfig] = None) -> list[Optional[records.VehicleUpdateResult]]:
         """Updates the vehicle as config says, in the vehicle's ECU order: its order
@@ -2260,13 +2323,14 @@ class Operations:
         _o = bytearray()
         stream.write_VehicleUpdateConfig(_o, config)
         _b = self._call(211, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.VehicleUpdateResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_VehicleUpdateResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.VehicleUpdateResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_VehicleUpdateResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def update_vehicle_async(self, config: Optional[records.VehicleUpdateConfig] = None) -> AsyncCall:
         """Updates the vehicle as config says, in the vehicle's ECU order: its order
@@ -2293,13 +2357,14 @@ class Operations:
         for _e in services:
             stream.write_ServiceInput(_o, _e)
         _b = self._call(213, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ServiceResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ServiceResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ServiceResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ServiceResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def execute_service_in_default_session_async(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> AsyncCall:
         """Executes diagnostic services on one target, as kel_executeService does, in
@@ -2322,13 +2387,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets)
         _b = self._call(215, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.TargetStatus]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_TargetStatus(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.TargetStatus]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_TargetStatus(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_physical_links(self, modules: Sequence[str] = ()) -> list[Optional[records.PhysicalLinksOnModule]]:
         """Reads the physical links of the given modules.
@@ -2340,13 +2406,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, modules)
         _b = self._call(217, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.PhysicalLinksOnModule]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_PhysicalLinksOnModule(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.PhysicalLinksOnModule]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_PhysicalLinksOnModule(_b, _p)
+                _results.append(_r)
+            return _results
 
     def set_physical_links(self, links: Sequence[Optional[records.PhysicalLinksOnModule]] = ()) -> list[Optional[records.PhysicalLinksOnModule]]:
         """Sets the physical links of modules and returns them as the engine keeps
@@ -2361,13 +2428,14 @@ class Operations:
         for _e in links:
             stream.write_PhysicalLinksOnModule(_o, _e)
         _b = self._call(218, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.PhysicalLinksOnModule]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_PhysicalLinksOnModule(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.PhysicalLinksOnModule]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_PhysicalLinksOnModule(_b, _p)
+                _results.append(_r)
+            return _results
 
     def move_file(self, source: str, target: str) -> bool:
         """Moves a file; tells whether it moved.
@@ -2429,13 +2497,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(202, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.VehicleData]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_VehicleData(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.VehicleData]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_VehicleData(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_projects_details(self, project_names: Sequence[str] = ()) -> list[Optional[records.ProjectDetails]]:
         """Reads the details of the given projects.
@@ -2447,13 +2516,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, project_names)
         _b = self._call(203, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ProjectDetails]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ProjectDetails(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ProjectDetails]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ProjectDetails(_b, _p)
+                _results.append(_r)
+            return _results
 
     def upload_report(self, config: Optional[records.UploadReportConfiguration] = None) -> None:
         """Uploads a report as config says.
@@ -2476,13 +2546,14 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, files)
         _b = self._call(224, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.FileReferenceResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_FileReferenceResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.FileReferenceResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_FileReferenceResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def on_connection_closed(self) -> None:
         """Tells the engine that its connection was closed.
@@ -2538,7 +2609,8 @@ class Operations:
         stream.write_text(_o, path)
         _o += struct.pack("<?", flag)
         _b = self._call(232, builtins.bytes(_o))
-        return stream.read_DirectoryInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_DirectoryInfo(_b, 0)[0]
 
     def get_file_info(self, path: str) -> Optional[records.FileInfo]:
         """Reads the information about one file.
@@ -2550,7 +2622,8 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, path)
         _b = self._call(233, builtins.bytes(_o))
-        return stream.read_FileInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_FileInfo(_b, 0)[0]
 
     def is_file(self, path: str) -> bool:
         """Tells whether a path is a file.
@@ -2574,7 +2647,8 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, interface_name)
         _b = self._call(235, builtins.bytes(_o))
-        return stream.read_WLanSignalData(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_WLanSignalData(_b, 0)[0]
 
     def clear_do_ip_ecu_collection(self) -> list[Optional[records.KelError]]:
         """Clears the collection of ECUs found over DoIP; returns an error record for
@@ -2586,13 +2660,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(236, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.KelError]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_KelError(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.KelError]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_KelError(_b, _p)
+                _results.append(_r)
+            return _results
 
     def set_broker_url(self, url: str) -> None:
         """Sets the address of the update broker, a file: URL; an empty URL goes back
@@ -2616,13 +2691,14 @@ class Operations:
         _o = bytearray()
         stream.write_PathCopyConfig(_o, config)
         _b = self._call(238, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.PathCopyResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_PathCopyResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.PathCopyResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_PathCopyResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def copy_path_async(self, config: Optional[records.PathCopyConfig] = None) -> AsyncCall:
         """Copies a path as config says.
@@ -2742,13 +2818,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(250, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.EcuOrderEntry]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_EcuOrderEntry(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.EcuOrderEntry]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_EcuOrderEntry(_b, _p)
+                _results.append(_r)
+            return _results
 
     def write_coding_file(self, coding_file: str, targets: Sequence[str] = ()) -> list[Optional[records.CodingFileResult]]:
         """Writes a coding file to the given targets.
@@ -2761,13 +2838,14 @@ class Operations:
         stream.write_text(_o, coding_file)
         stream.write_texts(_o, targets)
         _b = self._call(251, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.CodingFileResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_CodingFileResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.CodingFileResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_CodingFileResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def write_coding_file_async(self, coding_file: str, targets: Sequence[str] = ()) -> AsyncCall:
         """Writes a coding file to the given targets.
@@ -2818,13 +2896,14 @@ class Operations:
             stream.write_EcuOrderEntry(_o, _e)
         stream.write_VehicleUpdateConfig(_o, config)
         _b = self._call(257, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.VehicleUpdateResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_VehicleUpdateResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.VehicleUpdateResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_VehicleUpdateResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def perform_vehicle_update_async(self, entries: Sequence[Optional[records.EcuOrderEntry]] = (), config: Optional[records.VehicleUpdateConfig] = None) -> AsyncCall:
         """Updates the vehicle's ECUs in the given ECU order, as config says.
@@ -2862,13 +2941,14 @@ class Operations:
         for _e in parameters:
             stream.write_ParameterInput(_o, _e)
         _b = self._call(262, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ServiceResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ServiceResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ServiceResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ServiceResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def execute_sequence_async(self, target: str, sequence: str, parameters: Sequence[Optional[records.ParameterInput]] = ()) -> AsyncCall:
         """Executes a sequence on one target with the given parameter values.
@@ -2918,7 +2998,8 @@ class Operations:
         _o = bytearray()
         stream.write_ParameterInfoConfig(_o, config)
         _b = self._call(265, builtins.bytes(_o))
-        return stream.read_ParameterInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_ParameterInfo(_b, 0)[0]
 
     def perform_ecu_configuration(self, targets: Sequence[str], configuration: str) -> list[Optional[records.EcuConfigurationResult]]:
         """Configures the ECUs of the given targets with a configuration.
@@ -2931,13 +3012,14 @@ class Operations:
         stream.write_texts(_o, targets)
         stream.write_text(_o, configuration)
         _b = self._call(267, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.EcuConfigurationResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_EcuConfigurationResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.EcuConfigurationResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_EcuConfigurationResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def perform_ecu_configuration_async(self, targets: Sequence[str], configuration: str) -> AsyncCall:
         """Configures the ECUs of the given targets with a configuration.
@@ -2960,13 +3042,14 @@ class Operations:
         stream.write_text(_o, target)
         stream.write_values(_o, "I", dtc_codes)
         _b = self._call(268, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ClearDtcResult]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ClearDtcResult(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ClearDtcResult]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ClearDtcResult(_b, _p)
+                _results.append(_r)
+            return _results
 
     def clear_specific_dtcs_async(self, target: str, dtc_codes: Sequence[int] = ()) -> AsyncCall:
         """Clears the DTCs with the given codes on one target.
@@ -3019,7 +3102,8 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets)
         _b = self._call(154, builtins.bytes(_o))
-        return stream.read_VehicleUpdateConfig(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_VehicleUpdateConfig(_b, 0)[0]
 
     def get_project_configurations(self) -> list[Optional[records.ProjectConfig]]:
         """Lists the configurations of every project.
@@ -3030,13 +3114,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(48, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.ProjectConfig]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_ProjectConfig(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.ProjectConfig]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_ProjectConfig(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_state(self) -> int:
         """Reads the engine's state number; the engine defines its values.
@@ -3092,7 +3177,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(53, builtins.bytes(_o))
-        return stream.read_TarnApiConfig(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_TarnApiConfig(_b, 0)[0]
 
     def set_configuration(self, config: Optional[records.TarnApiConfig] = None) -> None:
         """Sets the engine's configuration.
@@ -3114,7 +3200,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(55, builtins.bytes(_o))
-        return stream.read_ServerSettings(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_ServerSettings(_b, 0)[0]
 
     def get_selected_vehicle_information(self) -> Optional[records.VehicleInformation]:
         """Reads the information about the selected vehicle.
@@ -3125,7 +3212,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(56, builtins.bytes(_o))
-        return stream.read_VehicleInformation(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_VehicleInformation(_b, 0)[0]
 
     def set_selected_vehicle_information(self, information: Optional[records.VehicleInformation] = None) -> None:
         """Selects a vehicle by its information; a VIN that is not 17 digits and
@@ -3148,13 +3236,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(58, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.Target]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_Target(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.Target]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_Target(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_process_info(self) -> Optional[records.ProcessInfo]:
         """Reads information about the engine's processes.
@@ -3165,7 +3254,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(59, builtins.bytes(_o))
-        return stream.read_ProcessInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_ProcessInfo(_b, 0)[0]
 
     def get_transmission_info(self) -> Optional[records.TransmissionInfo]:
         """Reads the engine's transmission information.
@@ -3176,7 +3266,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(60, builtins.bytes(_o))
-        return stream.read_TransmissionInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_TransmissionInfo(_b, 0)[0]
 
     def get_handle(self) -> int:
         """Reads the engine object's 64-bit engine handle, which is not its address.
@@ -3202,7 +3293,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(62, builtins.bytes(_o))
-        return stream.read_MoxConfig(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_MoxConfig(_b, 0)[0]
 
     def set_mox_configuration(self, config: Optional[records.MoxConfig] = None) -> None:
         """Sets the MOX configuration.
@@ -3224,7 +3316,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(63, builtins.bytes(_o))
-        return stream.read_InterfaceConfiguration(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_InterfaceConfiguration(_b, 0)[0]
 
     def set_interface_configuration(self, config: Optional[records.InterfaceConfiguration] = None) -> None:
         """Sets the interface configuration.
@@ -3257,13 +3350,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(78, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.GlobalProtocolParameterSet]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_GlobalProtocolParameterSet(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.GlobalProtocolParameterSet]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_GlobalProtocolParameterSet(_b, _p)
+                _results.append(_r)
+            return _results
 
     def set_global_protocol_parameter_sets(self, sets: Sequence[Optional[records.GlobalProtocolParameterSet]] = ()) -> None:
         """Sets the global protocol parameter sets.
@@ -3287,7 +3381,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(88, builtins.bytes(_o))
-        return stream.read_StatusInfo(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_StatusInfo(_b, 0)[0]
 
     def get_session_target_filters(self) -> list[Optional[records.TargetFilter]]:
         """Reads the session's target filters.
@@ -3298,13 +3393,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(90, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.TargetFilter]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_TargetFilter(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.TargetFilter]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_TargetFilter(_b, _p)
+                _results.append(_r)
+            return _results
 
     def set_session_target_filters(self, filters: Sequence[Optional[records.TargetFilter]] = ()) -> None:
         """Sets the session's target filters.
@@ -3328,13 +3424,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(111, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.SupportedInterface]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_SupportedInterface(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.SupportedInterface]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_SupportedInterface(_b, _p)
+                _results.append(_r)
+            return _results
 
     def get_interface_providers(self) -> list[Optional[records.InterfaceProvider]]:
         """Lists the interface providers.
@@ -3345,13 +3442,14 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(118, builtins.bytes(_o))
-        (_n,) = struct.unpack_from("<I", _b)
-        _p = 4
-        _results: list[Optional[records.InterfaceProvider]] = []
-        for _ in range(_n):
-            _r, _p = stream.read_InterfaceProvider(_b, _p)
-            _results.append(_r)
-        return _results
+        with self._decoding(_b):
+            (_n,) = struct.unpack_from("<I", _b)
+            _p = 4
+            _results: list[Optional[records.InterfaceProvider]] = []
+            for _ in range(_n):
+                _r, _p = stream.read_InterfaceProvider(_b, _p)
+                _results.append(_r)
+            return _results
 
     def set_interface_providers(self, providers: Sequence[Optional[records.InterfaceProvider]] = ()) -> None:
         """Sets the interface providers.
@@ -3387,7 +3485,8 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(181, builtins.bytes(_o))
-        return stream.read_TarnApiServerConfig(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_TarnApiServerConfig(_b, 0)[0]
 
     def get_call_duration(self) -> int:
         """Reads the engine's call duration; the engine defines what it measures and
@@ -3422,4 +3521,5 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(208, builtins.bytes(_o))
-        return stream.read_DoIPParameter(_b, 0)[0]
+        with self._decoding(_b):
+            return stream.read_DoIPParameter(_b, 0)[0]

@@ -132,6 +132,17 @@ class Errors(EngineTest):
         script("getState", "-1")
         self.assertEqual(self.engine.get_state(), -1)
 
+    def test_get_state_fails_alike_by_the_export_and_by_the_stream(self) -> None:
+        # get_state takes the C export directly; the stream route must give the same error.
+        raised = []
+        for call in (self.engine.get_state, lambda: self.engine._call(49, b"")):
+            sim.kelsim_failNextWithMvci(b"getState", 1, 42, 7, "m", "d", 0x0101, "PDU_ERR", -3, "x", "y", 5)
+            with self.assertRaises(kel.EngineError) as caught:
+                call()
+            raised.append(caught.exception)
+        self.assertEqual(raised[0].record, raised[1].record)
+        self.assertEqual(raised[0].code, 42)
+
     def test_the_library_reports_malformed_input(self) -> None:
         with self.assertRaises(kel.MalformedInputError) as raised:
             self.engine._call(23, b"\x05\x00")  # a count of 5 texts and nothing after it

@@ -4,6 +4,7 @@
 
 #include <Vutil/Export.h>
 
+#include <atomic>
 #include <memory>
 #include <string>
 
@@ -30,6 +31,13 @@ public:
 
     static void addListener(const std::shared_ptr<TraceListener>& listener);
     static void removeListener(const std::shared_ptr<TraceListener>& listener);
+
+    // A mirror of the gate for hot paths: *mirror holds the debug trace level while a
+    // listener is registered and 0 otherwise, kept current on every change, so that a
+    // caller tests it with one load instead of a call into this library. Remove it before
+    // the variable goes away.
+    static void addGateMirror(std::atomic<int>* mirror);
+    static void removeGateMirror(std::atomic<int>* mirror);
 
     // Delivers one line to every listener (TraceHelper calls this).
     static void dispatch(const std::string& source, const std::string& line);
