@@ -171,9 +171,10 @@ struct MvciServerError {
  * with release_NegativeResponse_array. */
 struct NegativeResponse {
     int32_t code;    /* the response code */
-    wchar_t* text;   /* its text */
-    uint64_t value1; /* copied bit for bit from the engine */
-    uint64_t value2; /* copied bit for bit from the engine */
+    wchar_t* text;   /* the response code's name (requestOutOfRange) */
+    uint64_t value1; /* the service id of the request it answers */
+    uint64_t value2; /* copied bit for bit from the engine; the simulated vehicle does not set it,
+                        so nothing says what it holds */
     uint8_t* bytes;  /* the raw response bytes; NULL when there are none */
     uint32_t byteCount;
 };
@@ -196,10 +197,11 @@ struct KelError_struct {
  * Freed with release_NamedItem, which frees everything it points to; a list of them with
  * release_NamedItem_array. */
 struct NamedItem {
-    wchar_t* itemText1; /* the item's first text, usually its name */
-    wchar_t* itemText2; /* second text */
-    wchar_t* itemText3; /* third text */
-    wchar_t* itemText4; /* fourth text */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
 };
 
 /* One decoded parameter value. A structured value carries its members as children, so the
@@ -207,25 +209,29 @@ struct NamedItem {
  * Freed with release_ParameterResult, which frees everything it points to; a list of them with
  * release_ParameterResult_array. */
 struct ParameterResult {
-    wchar_t* itemText1;         /* the item's first text, usually its name */
-    wchar_t* itemText2;         /* second text */
-    wchar_t* itemText3;         /* third text */
-    wchar_t* itemText4;         /* fourth text */
-    wchar_t* text1;             /* first text, usually the value */
-    wchar_t* text2;             /* second text, usually the unit */
-    int32_t value1;             /* copied unchanged from the engine */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    wchar_t* text1;     /* the value, as text */
+    wchar_t* text2;     /* its unit; empty when it has none */
+    int32_t value1;     /* how many member values it has */
     ParameterResult** children; /* the members of a structured value, in engine order */
     uint32_t childCount;
-    wchar_t* text3;  /* third text */
+    wchar_t* text3;  /* third text; the simulated vehicle leaves it empty, so nothing says what it
+                        holds */
     KelError* error; /* the error of this parameter, or NULL */
-    wchar_t* text4;  /* fourth text */
-    int32_t value2;  /* copied unchanged from the engine */
+    wchar_t* text4;  /* fourth text; the simulated vehicle leaves it empty, so nothing says what it
+                        holds */
+    int32_t value2;  /* its byte position in the message (services) */
     uint8_t* data;   /* the raw bytes of the value, exactly as many as the engine gives; NULL when
                         there are none */
     uint32_t dataLength;
-    uint32_t value3; /* copied unchanged from the engine */
-    uint8_t flag;    /* a one-byte flag, copied unchanged */
-    int32_t value4;  /* copied unchanged from the engine */
+    uint32_t value3; /* how many raw bytes it has */
+    uint8_t flag;    /* a one-byte flag; the simulated vehicle leaves it 0, so nothing says what it
+                        holds */
+    int32_t value4;  /* a number the simulated vehicle leaves 0, so nothing says what it holds */
 };
 
 /* The outcome of clearing the DTCs of one target.
@@ -240,10 +246,11 @@ struct ClearDtcResult {
 /* Options of a DTC read; an input that the reading operations consume.
  * Freed with release_DtcReadConfig; a list of them with release_DtcReadConfig_array. */
 struct DtcReadConfig {
-    int32_t value; /* the engine's first option, a number */
-    uint8_t flag1; /* first one-byte option */
-    uint8_t flag2; /* second one-byte option */
-    uint8_t flag3; /* third one-byte option */
+    int32_t value; /* the DTC status mask: 0 reads every stored DTC, otherwise those whose status
+                      shares a bit with it */
+    uint8_t flag1; /* 1 reads the snapshot data */
+    uint8_t flag2; /* 1 reads the extended data */
+    uint8_t flag3; /* 1 reads the special data groups */
 };
 
 /* The DTCs read from one target.
@@ -255,7 +262,7 @@ struct ReadDtcResult {
     KelError* error;  /* the error of this target, or NULL */
     DtcResult** dtcs; /* the DTCs read */
     uint32_t dtcCount;
-    int32_t value; /* a further number of the engine; 0 from kel_readSupportedDtcs */
+    int32_t value; /* how many DTCs were returned; 0 from kel_readSupportedDtcs */
 };
 
 /* One diagnostic trouble code.
@@ -263,18 +270,18 @@ struct ReadDtcResult {
  * release_DtcResult_array. */
 struct DtcResult {
     int32_t code;                  /* the DTC number */
-    wchar_t* text1;                /* first text, usually the code as text */
-    wchar_t* text2;                /* second text, usually what the code means */
-    int32_t value1;                /* copied unchanged from the engine, usually the status byte */
-    ParameterResult** parameters1; /* first parameter list, usually the snapshot data */
+    wchar_t* text1;                /* the code as text (P0301) */
+    wchar_t* text2;                /* what the code means */
+    int32_t value1;                /* the ISO 14229 status byte */
+    ParameterResult** parameters1; /* the snapshot data */
     uint32_t parameterCount1;
-    ParameterResult** parameters2; /* second parameter list, usually the extended data */
+    ParameterResult** parameters2; /* the extended data */
     uint32_t parameterCount2;
-    wchar_t* text3;                       /* third text */
-    wchar_t* text4;                       /* fourth text */
+    wchar_t* text3;                       /* the control unit that stores it */
+    wchar_t* text4;                       /* the symptom */
     SpecialDataGroup** specialDataGroups; /* groups of special data */
     uint32_t specialDataGroupCount;
-    int32_t value2; /* copied unchanged from the engine */
+    int32_t value2; /* the severity */
 };
 
 /* One group of a DTC's special data.
@@ -301,7 +308,7 @@ struct VariantIdentResult {
 struct ReadDataResult {
     wchar_t* target;              /* the target's name */
     int32_t status;               /* the engine's status of this target */
-    wchar_t* text;                /* a text of the engine, usually the variant */
+    wchar_t* text;                /* the target's variant */
     KelError* error;              /* the error of this target, or NULL */
     ParameterResult** parameters; /* the values read */
     uint32_t parameterCount;
@@ -311,21 +318,22 @@ struct ReadDataResult {
  * Freed with release_Target, which frees everything it points to; a list of them with
  * release_Target_array. */
 struct Target {
-    wchar_t* itemText1; /* the item's first text, usually its name */
-    wchar_t* itemText2; /* second text */
-    wchar_t* itemText3; /* third text */
-    wchar_t* itemText4; /* fourth text */
-    int32_t value1;     /* copied unchanged from the engine */
-    wchar_t* text1;     /* first text */
-    wchar_t* text2;     /* second text */
-    NamedItem** items;  /* named items of the target */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    int32_t value1;     /* its diagnostic address (createSeed takes it) */
+    wchar_t* text1;     /* its protocol */
+    wchar_t* text2;     /* the bus it is on */
+    NamedItem** items;  /* its identification values: name and identifier */
     uint32_t itemCount;
     wchar_t** names; /* further names of the target Allocated even when empty: go by nameCount. */
     uint32_t nameCount;
-    wchar_t* text3; /* third text */
-    wchar_t* text4; /* fourth text */
-    int32_t value2; /* copied unchanged from the engine */
-    wchar_t* text5; /* fifth text */
+    wchar_t* text3; /* its part number (F187) */
+    wchar_t* text4; /* its software version (F189) */
+    int32_t value2; /* 1 when it responds */
+    wchar_t* text5; /* its hardware version (F191) */
 };
 
 /* The status of one target.
@@ -333,10 +341,11 @@ struct Target {
  * release_TargetStatus_array. */
 struct TargetStatus {
     wchar_t* target;    /* the target's name */
-    wchar_t* text;      /* the status as text */
+    wchar_t* text;      /* "responding", "not responding" or "unknown" */
     KelError* error;    /* the error of this target, or NULL */
-    uint32_t values[5]; /* five numbers, copied in order from the engine */
-    wchar_t* text2;     /* a second text */
+    uint32_t values[5]; /* five numbers: address, responds, identified since start, stored DTCs,
+                           supported DTCs */
+    wchar_t* text2;     /* the target's variant */
 };
 
 /* A pattern that selects targets by name; a session's target filter.
@@ -344,8 +353,8 @@ struct TargetStatus {
  * release_TargetFilter_array. */
 struct TargetFilter {
     wchar_t* pattern; /* the pattern, where * stands for any text */
-    uint8_t flag;     /* a one-byte option, copied unchanged */
-    int32_t value;    /* copied unchanged from the engine */
+    uint8_t flag;     /* 0 includes the targets that match, non-zero excludes them */
+    int32_t value;    /* kept and returned with the filter, not interpreted */
 };
 
 /* One parameter value to send with a service. A structured parameter carries its members as
@@ -368,40 +377,43 @@ struct ServiceInput {
     wchar_t* service; /* the service's name */
     uint8_t* data;    /* raw request bytes, sent as given */
     uint32_t dataLength;
-    uint64_t value; /* copied unchanged to the engine */
+    uint64_t value; /* copied unchanged to the engine; the simulated vehicle does not read it, so
+                       nothing says what it holds */
 };
 
 /* The result of one executed service: the request as sent and every response received.
  * Freed with release_ServiceResult, which frees everything it points to; a list of them with
  * release_ServiceResult_array. */
 struct ServiceResult {
-    wchar_t* itemText1;         /* the item's first text, usually its name */
-    wchar_t* itemText2;         /* second text */
-    wchar_t* itemText3;         /* third text */
-    wchar_t* itemText4;         /* fourth text */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
     ResponseResult** responses; /* the responses received */
     uint32_t responseCount;
-    int32_t status;         /* the engine's status of the service */
-    wchar_t* text1;         /* copied unchanged from the engine */
+    int32_t status; /* 0 positive, 1 negative response, 2 no response, 3 not sent */
+    wchar_t* text1; /* "positive response", the response code's name, "no response" or "not sent" */
     KelError* error;        /* the service's own error; NULL when it succeeded */
     RequestResult* request; /* the request as sent; NULL when the engine gives none */
-    int32_t value1;         /* copied unchanged from the engine */
+    int32_t value1;         /* the service id */
 };
 
 /* One response received for a service, as bytes and as decoded parameters.
  * Freed with release_ResponseResult, which frees everything it points to; a list of them with
  * release_ResponseResult_array. */
 struct ResponseResult {
-    wchar_t* itemText1; /* the item's first text, usually its name */
-    wchar_t* itemText2; /* second text */
-    wchar_t* itemText3; /* third text */
-    wchar_t* itemText4; /* fourth text */
-    uint8_t flag;       /* copied unchanged from the engine */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    uint8_t flag;       /* 1 for a positive response */
     KelError* error;    /* the response's own error; NULL when none */
     uint8_t* data;      /* the response bytes; NULL and 0 when empty */
     uint32_t dataLength;
-    uint64_t value1;              /* copied unchanged from the engine */
-    uint64_t value2;              /* copied unchanged from the engine */
+    uint64_t value1;              /* vehicle time of the response, in milliseconds */
+    uint64_t value2;              /* the negative response code; 0 for a positive response */
     ParameterResult** parameters; /* the decoded response parameters */
     uint32_t parameterCount;
 };
@@ -413,8 +425,9 @@ struct RequestResult {
     KelError* error; /* the request's own error; NULL when none */
     uint8_t* data;   /* the request bytes; NULL and 0 when empty */
     uint32_t dataLength;
-    uint64_t value1;              /* copied unchanged from the engine */
-    uint64_t value2;              /* copied unchanged from the engine */
+    uint64_t value1; /* vehicle time of the request, in milliseconds */
+    uint64_t value2; /* copied unchanged from the engine; the simulated vehicle leaves it 0, so
+                        nothing says what it holds */
     ParameterResult** parameters; /* the decoded request parameters */
     uint32_t parameterCount;
 };
@@ -423,7 +436,7 @@ struct RequestResult {
  * Freed with release_UnlockResult, which frees everything it points to; a list of them with
  * release_UnlockResult_array. */
 struct UnlockResult {
-    uint64_t value;           /* copied unchanged from the engine; releaseVehicleUnlock takes it */
+    uint64_t value;           /* the unlock, as releaseVehicleUnlock takes it; 0: none held */
     ServiceResult** services; /* the services run for the unlock */
     uint32_t serviceCount;
 };
@@ -432,31 +445,34 @@ struct UnlockResult {
  * Freed with release_ServiceInfo, which frees everything it points to; a list of them with
  * release_ServiceInfo_array. */
 struct ServiceInfo {
-    wchar_t* itemText1;       /* the item's first text, usually its name */
-    wchar_t* itemText2;       /* second text */
-    wchar_t* itemText3;       /* third text */
-    wchar_t* itemText4;       /* fourth text */
-    uint8_t flag;             /* copied unchanged from the engine */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    uint8_t flag;       /* 1 when the unit would accept it now (session and security) */
     ResponseInfo** responses; /* the responses the service can give */
     uint32_t responseCount;
     ParameterInfo** parameters; /* the request parameters */
     uint32_t parameterCount;
-    wchar_t* text1;    /* copied unchanged from the engine */
-    NamedItem** items; /* further named entries of the service */
+    wchar_t* text1;    /* the UDS service */
+    NamedItem** items; /* the sessions it is allowed in: name and id */
     uint32_t itemCount;
     KelError* error;    /* an error describing this service; NULL when none */
-    uint32_t values[5]; /* five engine values, in order */
+    uint32_t values[5]; /* five numbers: service id, security level, session bit mask, actuator,
+                           request length (0 when variable) */
 };
 
 /* One response that a service can give, with its parameters.
  * Freed with release_ResponseInfo, which frees everything it points to; a list of them with
  * release_ResponseInfo_array. */
 struct ResponseInfo {
-    wchar_t* itemText1;         /* the item's first text, usually its name */
-    wchar_t* itemText2;         /* second text */
-    wchar_t* itemText3;         /* third text */
-    wchar_t* itemText4;         /* fourth text */
-    int32_t status;             /* the engine's kind of response */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    int32_t status;     /* the engine's kind of response */
     ParameterInfo** parameters; /* the response parameters */
     uint32_t parameterCount;
 };
@@ -466,32 +482,35 @@ struct ResponseInfo {
  * Freed with release_ParameterInfo, which frees everything it points to; a list of them with
  * release_ParameterInfo_array. */
 struct ParameterInfo {
-    wchar_t* itemText1;       /* the item's first text, usually its name */
-    wchar_t* itemText2;       /* second text */
-    wchar_t* itemText3;       /* third text */
-    wchar_t* itemText4;       /* fourth text */
-    wchar_t* text1;           /* copied unchanged from the engine */
-    wchar_t* text2;           /* copied unchanged from the engine */
-    wchar_t* text3;           /* copied unchanged from the engine */
-    int32_t value1;           /* copied unchanged from the engine */
-    wchar_t* text4;           /* copied unchanged from the engine */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    wchar_t* text1;     /* the constant's bytes or the default */
+    wchar_t* text2;     /* its unit */
+    wchar_t* text3;     /* its data type (A_ASCIISTRING, A_UINT32, A_FLOAT64, A_UNICODE2STRING,
+                           A_BYTEFIELD, A_STRUCTURE) */
+    int32_t value1;     /* its byte position */
+    wchar_t* text4;     /* its path (Settings.Channel.Mode) */
     ParameterInfo** children; /* the member parameters of a structured parameter */
     uint32_t childCount;
-    wchar_t* text5;  /* copied unchanged from the engine */
-    wchar_t** names; /* engine texts; the block is allocated even when empty Allocated even when
-                        empty: go by nameCount. */
+    wchar_t* text5;  /* its scaling */
+    wchar_t** names; /* the names of an enumeration; the block is allocated even when empty
+                        Allocated even when empty: go by nameCount. */
     uint32_t nameCount;
-    uint8_t flag1;               /* copied unchanged from the engine */
-    int32_t value2;              /* copied unchanged from the engine */
-    KelError* error;             /* an error describing this parameter; NULL when none */
-    uint8_t flag2;               /* copied unchanged from the engine */
-    uint32_t values[8];          /* eight engine values, in order */
-    uint8_t flag3;               /* copied unchanged from the engine */
-    ConstraintInfo* constraint1; /* the first constraint on the value; NULL when none */
-    ConstraintInfo* constraint2; /* the second constraint on the value; NULL when none */
-    wchar_t* text6;              /* copied unchanged from the engine */
-    wchar_t* text7;              /* copied unchanged from the engine */
-    uint8_t flag4;               /* copied unchanged from the engine */
+    uint8_t flag1;   /* 1 for a constant */
+    int32_t value2;  /* its byte length; 0 when variable */
+    KelError* error; /* an error describing this parameter; NULL when none */
+    uint8_t flag2;   /* 1 for a value the caller must give (DIDs: writable) */
+    uint32_t
+        values[8]; /* eight numbers: position, length, names, children, repeated, then three 0 */
+    uint8_t flag3; /* 1 for a structure */
+    ConstraintInfo* constraint1; /* the valid values; None when none */
+    ConstraintInfo* constraint2; /* what the bytes can hold; None when none */
+    wchar_t* text6;              /* the smallest value */
+    wchar_t* text7;              /* the largest value */
+    uint8_t flag4;               /* 1 when it repeats */
     UnitInfo* unit;              /* the value's unit; NULL when none */
 };
 
@@ -499,9 +518,9 @@ struct ParameterInfo {
  * Freed with release_ConstraintInfo, which frees everything it points to; a list of them with
  * release_ConstraintInfo_array. */
 struct ConstraintInfo {
-    wchar_t* text1;               /* copied unchanged from the engine */
-    wchar_t* text2;               /* copied unchanged from the engine */
-    uint8_t flag;                 /* copied unchanged from the engine */
+    wchar_t* text1;               /* "valid" or "raw" */
+    wchar_t* text2;               /* "physical", "enumeration" or "bytes" */
+    uint8_t flag;                 /* 1 */
     ScaleConstraintInfo** scales; /* the intervals; NULL and 0 when none */
     uint32_t scaleCount;
 };
@@ -510,35 +529,37 @@ struct ConstraintInfo {
  * Freed with release_ScaleConstraintInfo, which frees everything it points to; a list of them
  * with release_ScaleConstraintInfo_array. */
 struct ScaleConstraintInfo {
-    wchar_t* itemText1; /* the item's first text, usually its name */
-    wchar_t* itemText2; /* second text */
-    wchar_t* itemText3; /* third text */
-    wchar_t* itemText4; /* fourth text */
-    wchar_t* text1;     /* copied unchanged from the engine */
-    wchar_t* text2;     /* copied unchanged from the engine */
-    uint8_t flag;       /* copied unchanged from the engine */
-    int32_t value;      /* copied unchanged from the engine */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    wchar_t* text1;     /* the lower limit */
+    wchar_t* text2;     /* the upper limit */
+    uint8_t flag;       /* 1 when the limits belong to the interval */
+    int32_t value;      /* the raw value of a name */
 };
 
 /* The unit of a parameter's value; plain data that owns no memory.
  * Freed with release_UnitInfo; a list of them with release_UnitInfo_array. */
 struct UnitInfo {
-    uint32_t values[7]; /* seven engine values, in order */
-    uint64_t value1;    /* copied unchanged from the engine */
-    uint8_t flag1;      /* copied unchanged from the engine */
-    uint64_t value2;    /* copied unchanged from the engine */
-    uint8_t flag2;      /* copied unchanged from the engine */
+    uint32_t values[7]; /* the exponents of m, kg, s, A, K, mol, cd (two's complement) */
+    uint64_t value1;    /* the factor to SI, as the bits of a double */
+    uint8_t flag1;      /* 1 for a unit the engine knows */
+    uint64_t value2;    /* the offset to SI, as the bits of a double */
+    uint8_t flag2;      /* 1 when there is an offset */
 };
 
 /* Selects the parameter that getParameterInfo describes.
  * Freed with release_ParameterInfoConfig, which frees everything it points to; a list of them
  * with release_ParameterInfoConfig_array. */
 struct ParameterInfoConfig {
-    wchar_t* text1; /* passed unchanged to the engine */
-    wchar_t* text2; /* passed unchanged to the engine */
-    int32_t value;  /* passed unchanged to the engine */
-    wchar_t* text3; /* passed unchanged to the engine */
-    wchar_t* text4; /* passed unchanged to the engine */
+    wchar_t* text1; /* the target */
+    wchar_t* text2; /* the service */
+    int32_t value;  /* 0 a request parameter, 1 one of the positive response */
+    wchar_t* text3; /* the parameter's path */
+    wchar_t* text4; /* passed unchanged; the simulated engine does not read it, so nothing says what
+                       it holds */
 };
 
 /* One event of the engine, fetched from an event channel.
@@ -548,7 +569,7 @@ struct KelEvent {
     wchar_t* name;   /* the event's name */
     int32_t kind;    /* its kind, a number */
     int32_t code;    /* its code, a number */
-    wchar_t* text;   /* what happened */
+    wchar_t* text;   /* a sentence for a person: what happened */
     KelError* error; /* the error the event carries, or NULL */
     wchar_t* detail; /* further detail */
 };
@@ -566,17 +587,21 @@ struct EventReport {
  * release_FileFilter_array. */
 struct FileFilter {
     wchar_t* pattern; /* the file name pattern */
-    uint8_t flag;     /* copied unchanged from the engine */
-    uint32_t value;   /* copied unchanged from the engine */
+    uint8_t flag;     /* 0 includes what matches, set excludes it */
+    uint32_t value; /* copied unchanged; the simulated engine does not read it, so nothing says what
+                       it holds */
 };
 
 /* The configuration of one target within a project.
  * Freed with release_TargetConfig, which frees everything it points to; a list of them with
  * release_TargetConfig_array. */
 struct TargetConfig {
-    int32_t value;  /* copied unchanged from the engine */
-    wchar_t* text1; /* copied unchanged from the engine */
-    wchar_t* text2; /* copied unchanged from the engine */
+    int32_t value;  /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t* text1; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t* text2; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
 };
 
 /* The configuration of one diagnostic project. itemText1 is the project's name; the other
@@ -584,30 +609,42 @@ struct TargetConfig {
  * Freed with release_ProjectConfig, which frees everything it points to; a list of them with
  * release_ProjectConfig_array. */
 struct ProjectConfig {
-    wchar_t* itemText1;    /* the item's first text, usually its name */
-    wchar_t* itemText2;    /* second text */
-    wchar_t* itemText3;    /* third text */
-    wchar_t* itemText4;    /* fourth text */
-    FileFilter** filters1; /* the project's first file filters */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    FileFilter** filters1; /* the project's first file filters; nothing says which, so they keep
+                              their number */
     uint32_t filterCount1;
-    int32_t value0;         /* copied unchanged from the engine */
+    int32_t value0; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
     TargetConfig** targets; /* the project's targets */
     uint32_t targetCount;
-    FileFilter** filters2; /* the second file filters: pattern and flag, value 0 */
+    FileFilter** filters2; /* the second file filters: pattern and flag, value 0; nothing says
+                              which, so they keep their number */
     uint32_t filterCount2;
-    wchar_t** strings1; /* engine texts; the block is allocated even when empty Allocated even when
-                           empty: go by stringCount1. */
+    wchar_t**
+        strings1; /* engine texts, copied in and out with no meaning written down; the block is
+                     allocated even when empty Allocated even when empty: go by stringCount1. */
     uint32_t stringCount1;
-    wchar_t* text1;     /* copied unchanged from the engine */
-    uint32_t value1;    /* copied unchanged from the engine */
-    wchar_t* text2;     /* copied unchanged from the engine */
-    wchar_t** strings2; /* engine texts; the block is allocated even when empty Allocated even when
-                           empty: go by stringCount2. */
+    wchar_t* text1; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint32_t value1; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    wchar_t* text2; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t**
+        strings2; /* engine texts, copied in and out with no meaning written down; the block is
+                     allocated even when empty Allocated even when empty: go by stringCount2. */
     uint32_t stringCount2;
-    wchar_t* text3;  /* copied unchanged from the engine */
-    uint32_t value2; /* copied unchanged from the engine */
-    uint32_t value3; /* copied unchanged from the engine */
-    bool flags[4];   /* four engine flags, in order */
+    wchar_t* text3; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint32_t value2; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    uint32_t value3; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    bool flags[4];   /* four engine flags, copied in and out with no meaning written down */
 };
 
 /* The details of the selected project (or of one project): its database files and users.
@@ -656,44 +693,62 @@ struct SystemInfo {
  * Freed with release_SystemProperty, which frees everything it points to; a list of them with
  * release_SystemProperty_array. */
 struct SystemProperty {
-    wchar_t* itemText1;        /* the item's first text, usually its name */
-    wchar_t* itemText2;        /* second text */
-    wchar_t* itemText3;        /* third text */
-    wchar_t* itemText4;        /* fourth text */
-    wchar_t* text1;            /* the property's value, as text */
-    wchar_t* text2;            /* the value a reset gives */
-    uint32_t value1;           /* copied unchanged from the engine */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    wchar_t* text1;     /* the property's value, as text */
+    wchar_t* text2;     /* the value a reset gives */
+    uint32_t value1; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
     SystemProperty** children; /* the child properties */
     uint32_t childCount;
-    wchar_t* text3;  /* copied unchanged from the engine */
+    wchar_t* text3; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
     KelError* error; /* the property's own error; NULL when none */
-    wchar_t* text4;  /* copied unchanged from the engine */
-    uint32_t value2; /* copied unchanged from the engine */
+    wchar_t* text4; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint32_t value2; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
     uint8_t* data;   /* the property's bytes; NULL and 0 when empty */
     uint32_t dataLength;
-    uint32_t value3; /* copied unchanged from the engine */
+    uint32_t value3; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
     uint8_t flag;    /* 1 when the value differs from the one a reset gives */
-    uint32_t value4; /* copied unchanged from the engine */
+    uint32_t value4; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
 };
 
 /* The engine's own configuration.
  * Freed with release_TarnApiConfig, which frees everything it points to; a list of them with
  * release_TarnApiConfig_array. */
 struct TarnApiConfig {
-    int32_t value1;               /* copied unchanged from the engine */
-    uint8_t flag1;                /* copied unchanged from the engine */
-    uint8_t flag2;                /* copied unchanged from the engine */
-    int32_t value2;               /* copied unchanged from the engine */
-    ServerConfig* server;         /* the server configuration; NULL when none */
-    uint32_t value3;              /* copied unchanged from the engine */
-    uint32_t value4;              /* copied unchanged from the engine */
-    uint32_t value5;              /* copied unchanged from the engine */
-    uint8_t flag3;                /* copied unchanged from the engine */
-    uint32_t value6;              /* copied unchanged from the engine */
-    uint16_t value7;              /* copied unchanged; 16 bits wide, as the engine's */
+    int32_t value1; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t flag1;  /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t flag2;  /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    int32_t value2; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    ServerConfig* server; /* the server configuration; NULL when none */
+    uint32_t value3; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    uint32_t value4; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    uint32_t value5; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    uint8_t flag3; /* copied in and out; the engine gives it no meaning that is written down, so it
+                      keeps its number */
+    uint32_t value6; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    uint16_t
+        value7; /* copied in and out with no meaning written down; 16 bits wide, as the engine's */
     Oauth2Config** oauth2Configs; /* the OAuth 2 configurations */
     uint32_t oauth2ConfigCount;
-    wchar_t* text; /* copied unchanged from the engine */
+    wchar_t* text; /* copied in and out; the engine gives it no meaning that is written down, so it
+                      keeps its number */
 };
 
 /* The server part of the engine's configuration.
@@ -722,32 +777,52 @@ struct Oauth2Config {
  * Freed with release_MoxConfig, which frees everything it points to; a list of them with
  * release_MoxConfig_array. */
 struct MoxConfig {
-    wchar_t* text1; /* copied unchanged from the engine */
-    wchar_t* text2; /* copied unchanged from the engine */
-    wchar_t* text3; /* copied unchanged from the engine */
-    wchar_t* text4; /* copied unchanged from the engine */
-    wchar_t* text5; /* copied unchanged from the engine */
-    uint8_t flag1;  /* copied unchanged from the engine */
-    uint8_t flag2;  /* copied unchanged from the engine */
-    uint8_t flag3;  /* copied unchanged from the engine */
-    uint32_t value; /* copied unchanged from the engine */
-    uint8_t flag4;  /* copied unchanged from the engine */
-    uint8_t flag5;  /* copied unchanged from the engine */
-    uint8_t flag6;  /* copied unchanged from the engine */
-    wchar_t* text6; /* copied unchanged from the engine */
-    wchar_t* text7; /* copied unchanged from the engine */
+    wchar_t* text1; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t* text2; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t* text3; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t* text4; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t* text5; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t flag1;  /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t flag2;  /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t flag3;  /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint32_t value; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t flag4;  /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t flag5;  /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t flag6;  /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t* text6; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t* text7; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
     TcpInfo* tcp;   /* the TCP settings; NULL when none */
 };
 
 /* TCP settings; plain data that owns no memory.
  * Freed with release_TcpInfo; a list of them with release_TcpInfo_array. */
 struct TcpInfo {
-    uint8_t value1;  /* copied unchanged from the engine */
-    uint8_t value2;  /* copied unchanged from the engine */
-    uint8_t value3;  /* copied unchanged from the engine */
-    uint32_t value4; /* copied unchanged from the engine */
-    uint32_t value5; /* copied unchanged from the engine */
-    uint32_t value6; /* copied unchanged from the engine */
+    uint8_t value1; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t value2; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint8_t value3; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    uint32_t value4; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    uint32_t value5; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    uint32_t value6; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
 };
 
 /* The engine's status information; plain data that owns no memory.
@@ -815,10 +890,12 @@ struct ProcessMemory {
  * Freed with release_GlobalProtocolParameterSet, which frees everything it points to; a list
  * of them with release_GlobalProtocolParameterSet_array. */
 struct GlobalProtocolParameterSet {
-    wchar_t* text1;                       /* the set's name */
-    wchar_t* text2;                       /* the protocol it is for */
-    wchar_t* text3;                       /* copied unchanged from the engine */
-    wchar_t* text4;                       /* copied unchanged from the engine */
+    wchar_t* text1; /* the set's name */
+    wchar_t* text2; /* the protocol it is for */
+    wchar_t* text3; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
+    wchar_t* text4; /* copied in and out; the engine gives it no meaning that is written down, so it
+                       keeps its number */
     GlobalProtocolParameter** parameters; /* the parameters of the set */
     uint32_t parameterCount;
 };
@@ -828,11 +905,12 @@ struct GlobalProtocolParameterSet {
  * Freed with release_GlobalProtocolParameter, which frees everything it points to; a list of
  * them with release_GlobalProtocolParameter_array. */
 struct GlobalProtocolParameter {
-    wchar_t* itemText1;    /* the item's first text, usually its name */
-    wchar_t* itemText2;    /* second text */
-    wchar_t* itemText3;    /* third text */
-    wchar_t* itemText4;    /* fourth text */
-    wchar_t* value;        /* the value, as text */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
+    wchar_t* value;     /* the value, as text */
     wchar_t* defaultValue; /* the value the engine starts with */
     ParameterInfo** infos; /* descriptions of the parameter's members */
     uint32_t infoCount;
@@ -843,8 +921,10 @@ struct GlobalProtocolParameter {
     ConstraintInfo** constraints; /* the limits of its value */
     uint32_t constraintCount;
     TcpInfo* tcp;    /* the TCP settings of a parameter of a TCP link; NULL otherwise */
-    uint32_t value1; /* copied unchanged from the engine */
-    uint8_t flag;    /* copied unchanged from the engine */
+    uint32_t value1; /* copied in and out; the engine gives it no meaning that is written down, so
+                        it keeps its number */
+    uint8_t flag; /* copied in and out; the engine gives it no meaning that is written down, so it
+                     keeps its number */
 };
 
 /* The outcome of loading or unloading one database file.
@@ -862,10 +942,11 @@ struct LoadDatabaseResult {
  * Freed with release_InterfaceInformation, which frees everything it points to; a list of them
  * with release_InterfaceInformation_array. */
 struct InterfaceInformation {
-    wchar_t* itemText1;              /* the item's first text, usually its name */
-    wchar_t* itemText2;              /* second text */
-    wchar_t* itemText3;              /* third text */
-    wchar_t* itemText4;              /* fourth text */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
     ResourceInformation** resources; /* the resources on the interface */
     uint32_t resourceCount;
     uint8_t flag1; /* 1 while the interface is connected */
@@ -887,10 +968,11 @@ struct InterfaceInformation {
  * Freed with release_ResourceInformation, which frees everything it points to; a list of them
  * with release_ResourceInformation_array. */
 struct ResourceInformation {
-    wchar_t* itemText1; /* the item's first text, usually its name */
-    wchar_t* itemText2; /* second text */
-    wchar_t* itemText3; /* third text */
-    wchar_t* itemText4; /* fourth text */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
     uint32_t
         id; /* the engine's number of the resource on its interface, from 1; ignored on input */
     uint32_t
@@ -903,10 +985,11 @@ struct ResourceInformation {
  * Freed with release_InterfaceInformationItem, which frees everything it points to; a list of
  * them with release_InterfaceInformationItem_array. */
 struct InterfaceInformationItem {
-    wchar_t* itemText1; /* the item's first text, usually its name */
-    wchar_t* itemText2; /* second text */
-    wchar_t* itemText3; /* third text */
-    wchar_t* itemText4; /* fourth text */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
 };
 
 /* The outcome of scanning the connection of one interface.
@@ -974,9 +1057,9 @@ struct DeviceInfo {
     uint8_t flag;     /* 1 while connected */
     uint64_t handle;  /* the engine's handle of the interface */
     uint32_t value6;  /* 1 for a dynamic interface, 0 for a configured one */
-    uint64_t value8;  /* reserved, 0 */
-    uint64_t value9;  /* reserved, 0 */
-    uint64_t value10; /* reserved, 0 */
+    uint64_t value8;  /* reserved, 0; nothing says what it will hold */
+    uint64_t value9;  /* reserved, 0; nothing says what it will hold */
+    uint64_t value10; /* reserved, 0; nothing says what it will hold */
 };
 
 /* The physical links on one interface module.
@@ -994,10 +1077,11 @@ struct PhysicalLinksOnModule {
  * Freed with release_PhysicalLink, which frees everything it points to; a list of them with
  * release_PhysicalLink_array. */
 struct PhysicalLink {
-    wchar_t* itemText1; /* the item's first text, usually its name */
-    wchar_t* itemText2; /* second text */
-    wchar_t* itemText3; /* third text */
-    wchar_t* itemText4; /* fourth text */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
     uint32_t baudrate;  /* its speed in bits per second */
     uint8_t enabled;    /* 1 when the engine may use the link */
 };
@@ -1030,10 +1114,11 @@ struct InterfaceConfigurationEntry {
  * Freed with release_InterfaceProvider, which frees everything it points to; a list of them
  * with release_InterfaceProvider_array. */
 struct InterfaceProvider {
-    wchar_t* itemText1; /* the item's first text, usually its name */
-    wchar_t* itemText2; /* second text */
-    wchar_t* itemText3; /* third text */
-    wchar_t* itemText4; /* fourth text */
+    wchar_t* itemText1; /* the item's name */
+    wchar_t* itemText2; /* second text: what it holds depends on the record that lists the item (a
+                           value, an identifier, a vendor) */
+    wchar_t* itemText3; /* third text, as itemText2 (a unit, a version) */
+    wchar_t* itemText4; /* fourth text, as itemText2 (a description) */
     wchar_t* text;      /* the library through which the engine reaches the provider */
     uint32_t value;     /* its priority: lower numbers are asked first */
     uint8_t flag;       /* 1 when the provider is enabled */
@@ -1142,12 +1227,13 @@ struct PduMonitoringItemDetail {
 struct FileInfo {
     wchar_t* name;   /* the entry's name */
     KelError* error; /* the entry's own error; NULL when none */
-    uint8_t flag;    /* copied unchanged from the engine */
-    uint32_t value1; /* copied unchanged from the engine */
-    wchar_t* text1;  /* copied unchanged from the engine */
-    wchar_t* text2;  /* copied unchanged from the engine */
-    uint64_t value2; /* copied unchanged from the engine */
-    uint64_t value3; /* copied unchanged from the engine */
+    uint8_t flag;    /* 1 when the entry is read-only */
+    uint32_t value1; /* attributes: 0x01 read-only, 0x02 hidden (a leading dot), 0x10 directory,
+                        0x400 reached through a link */
+    wchar_t* text1;  /* the engine path */
+    wchar_t* text2;  /* last write time in UTC (2026-11-22T07:42:00Z) */
+    uint64_t value2; /* the size in bytes */
+    uint64_t value3; /* last write time in milliseconds since 1970 */
 };
 
 /* A directory with its files and, recursively, its sub-directories. Given as input it carries
@@ -1157,35 +1243,37 @@ struct FileInfo {
 struct DirectoryInfo {
     wchar_t* name;    /* the entry's name */
     KelError* error;  /* the entry's own error; NULL when none */
-    uint8_t flag;     /* copied unchanged from the engine */
-    uint32_t value1;  /* copied unchanged from the engine */
-    wchar_t* text1;   /* copied unchanged from the engine */
-    wchar_t* text2;   /* copied unchanged from the engine */
+    uint8_t flag;     /* 1 when the entry is read-only */
+    uint32_t value1;  /* attributes: 0x01 read-only, 0x02 hidden (a leading dot), 0x10 directory,
+                         0x400 reached through a link */
+    wchar_t* text1;   /* the engine path */
+    wchar_t* text2;   /* last write time in UTC (2026-11-22T07:42:00Z) */
     FileInfo** files; /* the directory's files */
     uint32_t fileCount;
     DirectoryInfo** directories; /* the sub-directories; not read from input */
     uint32_t directoryCount;
-    uint8_t flag2; /* copied unchanged from the engine; not read from input */
+    uint8_t flag2; /* 1 when the contents were read (not for the sub-directories of a one-level
+                      read, links, or below 64 levels); not read from input */
 };
 
 /* The outcome of copying one file.
  * Freed with release_FileCopyResult, which frees everything it points to; a list of them with
  * release_FileCopyResult_array. */
 struct FileCopyResult {
-    int32_t value1;  /* copied unchanged from the engine */
-    wchar_t* text;   /* copied unchanged from the engine */
+    int32_t value1;  /* 0 copied, 1 not */
+    wchar_t* text;   /* the source as given */
     KelError* error; /* the copy's own error; NULL when none */
     FileInfo* file;  /* the copied file; NULL when none */
-    int32_t value2;  /* copied unchanged from the engine */
+    int32_t value2;  /* the index in the configuration's list */
 };
 
 /* The outcome of copying one directory.
  * Freed with release_DirectoryCopyResult, which frees everything it points to; a list of them
  * with release_DirectoryCopyResult_array. */
 struct DirectoryCopyResult {
-    int32_t value1;               /* copied unchanged from the engine */
-    wchar_t* text;                /* copied unchanged from the engine */
-    KelError* error;              /* the copy's own error; NULL when none */
+    int32_t value1;  /* 0 copied whole, 1 some files failed (the error lists them), 2 not copied */
+    wchar_t* text;   /* the source as given */
+    KelError* error; /* the copy's own error; NULL when none */
     DirectoryCopyItem* directory; /* the nested directory result; NULL when none */
 };
 
@@ -1207,9 +1295,9 @@ struct DirectoryCopyItem {
  * Freed with release_PathCopyResult, which frees everything it points to; a list of them with
  * release_PathCopyResult_array. */
 struct PathCopyResult {
-    int32_t value1;     /* copied unchanged from the engine */
+    int32_t value1;     /* 0 copied, 1 not */
     KelError* error;    /* the copy's own error; NULL when none */
-    int32_t value2;     /* copied unchanged from the engine */
+    int32_t value2;     /* 0 a file, 1 a directory */
     PathCopyItem* item; /* the nested record; NULL when none */
 };
 
@@ -2256,8 +2344,8 @@ KEL_C_API void kel_getServiceInfos(TarnApi* api, KEL_KEPT const wchar_t* text1,
 KEL_C_API void kel_getIdentificationValueInfos(TarnApi* api, KEL_KEPT const wchar_t* target,
                                                KelError** error, KEL_OUT ParameterInfo*** infos,
                                                KEL_OUT uint32_t* infoCount);
-/* Asks for the seed of a security access; the two values reach the engine in this order.
- * Position 44.
+/* Asks the unit at the diagnostic address (a Target's address) for the seed of a security
+ * access at the given level; sendKey answers it. Position 44.
  * On success *seed receives a buffer of *seedLength bytes, allocated also for 0 bytes; free it
  * with release_Memory. */
 KEL_C_API void kel_createSeed(TarnApi* api, uint32_t value1, uint32_t value2, KelError** error,
@@ -2903,7 +2991,8 @@ KEL_C_API void kel_getMonitoringLinks(TarnApi* api, KelError** error, KEL_OUT wc
 
 /* ---- Files ----
  * The file system of the engine's public directories */
-/* Reads a file; the two values and the flag are passed to the engine unchanged. Position 60.
+/* Reads a file from offset on: length bytes, or to the end when length is 0; with exact,
+ * asking past the end is an error, otherwise what is there comes back. Position 60.
  * path: kept by the caller, read only during the call.
  * On success *data receives a buffer of *dataLength bytes, allocated also for 0 bytes; free it
  * with release_Memory. */
@@ -2920,7 +3009,8 @@ KEL_C_API void kel_getProjectDirectory(TarnApi* api, uint8_t flag, KelError** er
  * free it with release_DirectoryInfo. */
 KEL_C_API void kel_getSelectedProjectDirectory(TarnApi* api, uint8_t flag, KelError** error,
                                                KEL_OUT DirectoryInfo** directory);
-/* Writes bytes to a file; returns the engine's 32-bit result. Position 102.
+/* Writes bytes to a file: mode 0 replaces it, 1 appends, 2 creates only; with makeDirectories,
+ * missing directories are made. Returns the bytes written. Position 102.
  * path, data: kept by the caller, read only during the call.
  * On success *result receives the result. */
 KEL_C_API void kel_writeFile(TarnApi* api, KEL_KEPT const wchar_t* path,

@@ -80,7 +80,7 @@ class Output:
 def cmd_targets(engine: Engine, args: argparse.Namespace, o: Output) -> int:
     targets = [t for t in engine.get_targets() if t]
     o.emit(targets, lambda: _table(o.out, ["name", "description", "variant", "address", "bus", "responds"], [
-        [t.item_text1, t.item_text2, t.item_text3, f"0x{t.value1:X}", t.text2, "yes" if t.value2 else "no"]
+        [t.name, t.description, t.variant, f"0x{t.address:X}", t.bus, "yes" if t.responds else "no"]
         for t in targets]))
     return 0
 
@@ -99,7 +99,7 @@ def cmd_dtcs(engine: Engine, args: argparse.Namespace, o: Output) -> int:
         o.emit(cleared, lambda: _table(o.out, ["ECU", "cleared"], [
             [r.target, _error_text(r.error) if r.error else "yes"] for r in cleared]))
         return 0
-    config = records.DtcReadConfig(value=args.mask, flag1=1, flag2=1, flag3=0)
+    config = records.DtcReadConfig(status_mask=args.mask, with_snapshots=1, with_extended_data=1)
     results = [r for r in engine.read_dtcs(args.targets, config) if r]
 
     def show() -> None:
@@ -111,7 +111,7 @@ def cmd_dtcs(engine: Engine, args: argparse.Namespace, o: Output) -> int:
                 rows.append([r.target, "no DTCs stored"])
             for d in r.dtcs:
                 if d:
-                    rows.append([r.target, d.text1, f"0x{d.value1:02X}", _status_words(d.value1), d.text2])
+                    rows.append([r.target, d.display_code, f"0x{d.status:02X}", _status_words(d.status), d.description])
         _table(o.out, ["ECU", "code", "status", "", "text"], rows)
 
     o.emit(results, show)
@@ -128,8 +128,8 @@ def cmd_ident(engine: Engine, args: argparse.Namespace, o: Output) -> int:
                 rows.append([r.target, _error_text(r.error)])
             for p in r.parameters:
                 if p:
-                    value = _error_text(p.error) if p.error else f"{p.text1} {p.text2}".strip()
-                    rows.append([r.target, p.item_text2, p.item_text1, value])
+                    value = _error_text(p.error) if p.error else f"{p.value} {p.unit}".strip()
+                    rows.append([r.target, p.description, p.name, value])
         _table(o.out, ["ECU", "id", "name", "value"], rows)
 
     o.emit(results, show)
@@ -149,7 +149,7 @@ def cmd_services(engine: Engine, args: argparse.Namespace, o: Output) -> int:
         return 2
     services = [s for s in describe(args.target, "", [], 0) if s]
     o.emit(services, lambda: _table(o.out, ["service", "description"], [
-        [s.item_text1, s.item_text2] for s in services]))
+        [s.name, s.description] for s in services]))
     return 0
 
 
@@ -172,10 +172,10 @@ def cmd_exec(engine: Engine, args: argparse.Namespace, o: Output) -> int:
         rows: list[Sequence[Any]] = []
         for r in results:
             if r.error:
-                rows.append([r.item_text1, _error_text(r.error), ""])
+                rows.append([r.service, _error_text(r.error), ""])
             for response in r.responses:
                 if response:
-                    rows.append([r.item_text1, response.item_text1, response.data.hex(" ")])
+                    rows.append([r.service, response.kind, response.data.hex(" ")])
         _table(o.out, ["service", "response", "bytes"], rows)
 
     o.emit(results, show)

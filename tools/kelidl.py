@@ -55,10 +55,20 @@ class Field:
     direction: str = "both"  # "in": C to engine only; "out": engine to C only
     secret: bool = False  # a password: never recorded or shown in clear
     doc: str = ""  # the trailing `#:` text of its line
+    readable: str | None = None  # `name=`: the name Python and the JSON output use
 
     @property
     def c_name(self) -> str | None:
         return self.c_record or self.record
+
+
+@dataclasses.dataclass
+class Rename:
+    """A `rename` line: the readable name (and doc) of a base member in a derived record."""
+
+    member: str
+    readable: str
+    doc: str = ""
 
 
 @dataclasses.dataclass
@@ -72,6 +82,7 @@ class Record:
     alias: str | None = None  # `as=`: an engine class converted to and from this C record
     release: str | None = None  # `release=`: freed by that record's release routine
     fields: list[Field] = dataclasses.field(default_factory=list)
+    renames: dict[str, Rename] = dataclasses.field(default_factory=dict)  # base member -> its readable name here
     line: int = 0
     doc: str = ""  # the `#:` lines above it
 
@@ -90,6 +101,7 @@ class Value:
     count: str | None = None
     c_record: str | None = None  # the C record of `record` when that is an `as=` class
     secret: bool = False  # a password: never recorded or shown in clear
+    readable: str | None = None  # `name=`: the parameter's name in Python
 
     @property
     def c_name(self) -> str | None:
@@ -146,6 +158,23 @@ class Interface:
         For an `as=` class these are its own members, a subset of the C record's."""
         rec = self.records[record_name]
         return (self.members(rec.base) if rec.base else []) + rec.fields
+
+    def readable(self, record_name: str, member: str) -> tuple[str, str]:
+        """The readable name and the doc of a member of the record's C record: a `rename`
+        line of the record (or of a base between it and the member) first, then the
+        field's own `name=`, else the member's design name and doc."""
+        rec = self.records[record_name]
+        while True:
+            if member in rec.renames:
+                found = rec.renames[member]
+                own = next(f for f in self.members(record_name) if f.name == member)
+                return found.readable, found.doc or own.doc
+            for f in rec.fields:
+                if f.name == member:
+                    return f.readable or f.name, f.doc
+            if not rec.base:
+                raise KeyError(f"{record_name} has no member {member}")
+            rec = self.records[rec.base]
 
     def families(self) -> list[str]:
         """The families in the order of the description."""
@@ -252,7 +281,19 @@ def _secret(words: list[str], where: str) -> bool:
     return True
 
 
+def _readable(words: list[str], where: str) -> str | None:
+    """Takes a `name=<readable>` off `words`."""
+    found = [w for w in words if w.startswith("name=")]
+    if not found:
+        return None
+    if len(found) > 1 or not re.fullmatch(r"[A-Za-z]\w*", found[0][5:]):
+        raise DescriptionError(f"{where}: 'name=' takes one readable name")
+    words.remove(found[0])
+    return found[0][5:]
+
+
 def _parse_field(words: list[str], where: str) -> Field:
+    readable = _readable(words, where)
     direction = "both"
     if len(words) > 2 and words[-1] in DIRECTIONS[1:]:
         direction = words.pop()
@@ -260,6 +301,7 @@ def _parse_field(words: list[str], where: str) -> Field:
     field = _parse_field_kind(words, where)
     field.direction = direction
     field.secret = secret
+    field.readable = readable
     return field
 
 
@@ -295,6 +337,15 @@ def _parse_value(text: str, kinds: set[str], counted: set[str], where: str) -> V
     words = text.split()
     if not words:
         raise DescriptionError(f"{where}: empty parameter")
+    readable = _readable(words, where)
+    if readable and kinds is not PARAM_KINDS:
+        raise DescriptionError(f"{where}: a result has no readable name")
+    value = _parse_value_kind(words, text, kinds, counted, where)
+    value.readable = readable
+    return value
+
+
+def _parse_value_kind(words: list[str], text: str, kinds: set[str], counted: set[str], where: str) -> Value:
     secret = _secret(words, where)
     if secret and kinds is not PARAM_KINDS:
         raise DescriptionError(f"{where}: a result cannot be secret")
@@ -403,6 +454,11 @@ def parse_records(path: pathlib.Path, known: dict[str, Record] | None = None) ->
             if current.pending:
                 raise DescriptionError(f"{where}: a pending record has no fields")
             docs.none_pending("record")
+            if words[0] == "rename":
+                if len(words) != 3 or not re.fullmatch(r"[A-Za-z]\w*", words[2]):
+                    raise DescriptionError(f"{where}: expected 'rename <base member> <readable name>'")
+                current.renames[words[1]] = Rename(words[1], words[2], _trailing_doc(raw))
+                continue
             current.fields.append(_parse_field(words, where))
             current.fields[-1].doc = _trailing_doc(raw)
     docs.none_pending("record")
@@ -489,6 +545,9 @@ def _validate(iface: Interface) -> None:
                 raise DescriptionError(f"{sync.name} must hand out a record list to have an async form")
             op.sync = sync
             op.role = sync.role
+        given = [v.readable or v.name for v in op.params]
+        if len(set(given)) != len(given):
+            raise DescriptionError(f"{op.name}: two parameters have one name")
         for v in op.params + ([op.result] if op.result else []):
             if v.record and v.record not in iface.records:
                 raise DescriptionError(f"{op.name}: unknown record {v.record}")
@@ -511,10 +570,30 @@ def validate_records(records: dict[str, Record]) -> None:
                 raise DescriptionError(f"record {rec.name}: {f.record} is a base only and cannot be a field")
         _validate_base(iface, rec)
     for rec in records.values():
+        _validate_readable(iface, rec)
         if rec.alias:
             _validate_alias(iface, rec)
         if rec.release:
             _validate_release(iface, rec)
+
+
+def _validate_readable(iface: Interface, rec: Record) -> None:
+    """`rename` names a base member, and no two members of a record end up with one name
+    (readable or design: the design name stays reachable as an alias)."""
+    own = {f.name for f in rec.fields}
+    for member in rec.renames:
+        if member in own or member not in {f.name for f in iface.members(rec.name)}:
+            raise DescriptionError(f"record {rec.name}: 'rename {member}' names no member of its bases")
+    if rec.alias:
+        if rec.renames or any(f.readable for f in rec.fields):
+            raise DescriptionError(f"record {rec.name}: an `as=` class takes the readable names of {rec.alias}")
+        return
+    names: dict[str, str] = {}
+    for f in iface.members(rec.name):
+        readable = iface.readable(rec.name, f.name)[0]
+        for name in {readable, f.name}:
+            if names.setdefault(name, f.name) != f.name:
+                raise DescriptionError(f"record {rec.name}: the name {name} is given twice")
 
 
 def _validate_base(iface: Interface, rec: Record) -> None:

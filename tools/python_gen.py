@@ -43,6 +43,17 @@ def snake(name: str) -> str:
     return text + "_" if keyword.iskeyword(text) else text
 
 
+def py_name(iface: kelidl.Interface, record: str, member: str) -> str:
+    """A member's dataclass field: its readable name (snake case) in the C record it is
+    handed out as, the design name where the description gives none."""
+    return snake(iface.readable(c_name(iface, record), member)[0])
+
+
+def param_name(v: kelidl.Value) -> str:
+    """A parameter's name in Python: its readable name where the description gives one."""
+    return snake(v.readable or v.name)
+
+
 def c_name(iface: kelidl.Interface, record: str) -> str:
     """The C record (and so the dataclass) that an engine class is handed out as."""
     return iface.records[record].alias or record
@@ -140,16 +151,38 @@ def records_py(iface: kelidl.Interface) -> str:
         names.append(rec.name)
         out.append("@dataclasses.dataclass(**_OPTIONS)")
         out.append(f"class {rec.name}:")
-        out += docstring(rec.doc or rec.name, "    ")
         members = iface.members(rec.name)
-        if not members:
-            out.append("    pass")
+        body: list[str] = []
+        listing: list[str] = []
+        aliases = []
         for f in members:
-            out.append(f"    {snake(f.name)}: {py_type(f, iface)} = {default(f)}")
-            if f.doc:
+            readable, doc = iface.readable(rec.name, f.name)
+            name = snake(readable)
+            body.append(f"    {name}: {py_type(f, iface)} = {default(f)}")
+            text = ""
+            if doc:
                 # The description speaks C; a NULL member is None here.
-                text = f.doc[0].upper() + f.doc[1:].rstrip(".") + "."
-                out += docstring(text.replace("NULL", "None"), "    ")
+                text = (doc[0].upper() + doc[1:].rstrip(".") + ".").replace("NULL", "None")
+            if readable != f.name:
+                text += f" C: {f.name}." if text else f"C: {f.name}."
+                aliases.append((snake(f.name), name, py_type(f, iface)))
+            if text:
+                body += docstring(text, "    ")
+            listing += textwrap.wrap(f"{name}: {text}".rstrip(": "), 92, initial_indent="        ",
+                                     subsequent_indent="            ")
+        # help() shows the class docstring, not the attribute docstrings (which editors
+        # show): the fields are listed there too, user-facing text before the C name.
+        head = doc_lines(rec.doc or rec.name, "    ")
+        head[0] = f"    {QUOTES}" + head[0].lstrip()
+        out += [line.replace("\\", "\\\\") for line in head]
+        if listing:
+            out += ["", "    Fields:"] + [line.replace("\\", "\\\\") for line in listing]
+        out.append(f"    {QUOTES}")
+        out += body or ["    pass"]
+        for alias, name, typ in aliases:
+            # The design's name, as the C header has it: read-only, for code ported from C.
+            out += ["", "    @property", f"    def {alias}(self) -> {typ}:",
+                    f'        """The design name of {name}; read-only."""', f"        return self.{name}"]
         out += ["", ""]
     out.append("__all__ = [" + ", ".join(f'"{n}"' for n in names) + "]")
     return "\n".join(out).rstrip("\n") + "\n"
@@ -214,7 +247,7 @@ def reader(iface: kelidl.Interface, rec: kelidl.Record, pool: StructPool) -> lis
                     f"        e_{local}, p = read_{f.record}(b, p)",
                     f"        {local}.append(e_{local})"]
         values.append((f, local))
-    args = ", ".join(f"{snake(f.name)}={loc}" for f, loc in values)
+    args = ", ".join(f"{py_name(iface, rec.name, f.name)}={loc}" for f, loc in values)
     out.append(f"    return {target}({args}), p")
     return out + ["", ""]
 
@@ -230,10 +263,10 @@ def writer(iface: kelidl.Interface, rec: kelidl.Record, pool: StructPool) -> lis
            "    if v is None:", "        o.append(0)", "        return", "    o.append(1)"]
     for run in scalar_runs(iface.members(rec.name)):
         f = run[0]
-        attr = f"v.{snake(f.name)}"
+        attr = f"v.{py_name(iface, rec.name, f.name)}"
         if f.kind in kelidl.SCALARS:
             code = "<" + "".join(CODES[x.kind] for x in run)
-            out.append(f"    o += {pool.name(code)}_write({', '.join('v.' + snake(x.name) for x in run)})")
+            out.append(f"    o += {pool.name(code)}_write({', '.join('v.' + py_name(iface, rec.name, x.name) for x in run)})")
         elif f.kind == "array":
             code = f"<{f.length}{CODES[f.element]}"
             out.append(f"    o += {pool.name(code)}_write(*{attr})")
@@ -346,7 +379,7 @@ def from_c(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
            f"    s = C_{rec.name}.from_address(address)"]
     args = []
     for f in iface.members(rec.name):
-        py, src, count = snake(f.name), f"s.{member(f.name)}", f"s.{member(f.count or '')}"
+        py, src, count = py_name(iface, rec.name, f.name), f"s.{member(f.name)}", f"s.{member(f.count or '')}"
         if f.kind in ("bool", "flag"):
             value = f"bool({src})"
         elif f.kind in kelidl.SCALARS:
@@ -377,7 +410,7 @@ def to_c(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
            f"    address = heap_block(lib, ctypes.sizeof(C_{rec.name}))",
            f"    s = C_{rec.name}.from_address(address)"]
     for f in iface.members(rec.name):
-        py, dst, count = "v." + snake(f.name), f"s.{member(f.name)}", f"s.{member(f.count or '')}"
+        py, dst, count = "v." + py_name(iface, rec.name, f.name), f"s.{member(f.name)}", f"s.{member(f.count or '')}"
         if f.kind in kelidl.SCALARS:
             out.append(f"    {dst} = {py}")
         elif f.kind == "array":
@@ -399,7 +432,7 @@ def to_c(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
 def c_args(v: kelidl.Value) -> tuple[list[str], list[str], list[str]]:
     """The ctypes argument types, the argument expressions and what to release after the
     call (kept lists built on the library's heap)."""
-    name = snake(v.name)
+    name = param_name(v)
     if v.kind in kelidl.SCALARS:
         return [CTYPES[v.kind]], [name], []
     if v.kind == "wstr":
@@ -420,7 +453,7 @@ def c_args(v: kelidl.Value) -> tuple[list[str], list[str], list[str]]:
 
 
 def async_starter(iface: kelidl.Interface, op: kelidl.Operation) -> tuple[list[str], str]:
-    params = [f"{snake(p.name)}: {param_type(p, iface)}" for p in op.inputs]
+    params = [f"{param_name(p)}: {param_type(p, iface)}" for p in op.inputs]
     rec = op.sync.result.c_name
     argtypes = ["ctypes.c_void_p"]
     exprs = ["api"]
@@ -560,7 +593,7 @@ def c_records_py(iface: kelidl.Interface) -> str:
 # ---- operations.py -------------------------------------------------------------------------
 
 def encode(p: kelidl.Value, iface: kelidl.Interface) -> str:
-    name = snake(p.name)
+    name = param_name(p)
     if p.kind in kelidl.SCALARS:
         return f'_o += struct.pack("<{CODES[p.kind]}", {name})'
     if p.kind == "wstr":
@@ -616,8 +649,10 @@ def decode(v: kelidl.Value, iface: kelidl.Interface) -> list[str]:
 def method_doc(op: kelidl.Operation, iface: kelidl.Interface, asynchronous: bool) -> list[str]:
     lines = doc_lines(op.doc or f"The engine operation {op.name}.", "        ")
     lines[0] = '        """' + lines[0].lstrip()
+    renamed = [f"{param_name(p)} is {p.name}" for p in op.params if p.readable]
     extra = [f"C: kel_{op.name}{'Async' if asynchronous else ''}"
-             + ("" if asynchronous else f"; number {op.otx}") + f"; engine position {op.position}."]
+             + ("" if asynchronous else f"; number {op.otx}") + f"; engine position {op.position}"
+             + (f" ({', '.join(renamed)})" if renamed else "") + "."]
     if asynchronous:
         extra.insert(0, "Runs asynchronously: the handle iterates over the reports, gives the results "
                         "with result() or await, and cancel() cancels it.")
@@ -654,7 +689,7 @@ def operations_py(iface: kelidl.Interface) -> str:
         out += method_doc(op, iface, False)
         out.append("        _o = bytearray()")
         for p in op.params:
-            name = snake(p.name)
+            name = param_name(p)
             if p.kind == "list":
                 out += [f'        _o += struct.pack("<I", len({name}))', f"        for _e in {name}:",
                         f"            stream.write_{p.record}(_o, _e)"]
@@ -673,7 +708,7 @@ def operations_py(iface: kelidl.Interface) -> str:
             out.append(f"    def {snake(a.name)}({', '.join(['self'] + params)}) -> AsyncCall:")
             out += method_doc(op, iface, True)
             args = ", ".join([f"c_records.start_{a.name}", f"c_records.from_c_{rec.c_name}",
-                              f'"release_{rec.c_name}_array"'] + [snake(p.name) for p in op.params])
+                              f'"release_{rec.c_name}_array"'] + [param_name(p) for p in op.params])
             out.append(f"        return self._start({args})")
             out.append("")
     return "\n".join(out).rstrip("\n") + "\n"
@@ -696,12 +731,12 @@ def signature(params: list[kelidl.Value], iface: kelidl.Interface) -> list[str]:
     for p in reversed(params):
         typ = param_type(p, iface)
         if defaults and p.kind in ("wstrs", "u32s", "u64s", "list"):
-            out.append(f"{snake(p.name)}: {typ} = ()")
+            out.append(f"{param_name(p)}: {typ} = ()")
         elif defaults and p.kind == "rec":
-            out.append(f"{snake(p.name)}: {typ} = None")
+            out.append(f"{param_name(p)}: {typ} = None")
         else:
             defaults = False
-            out.append(f"{snake(p.name)}: {typ}")
+            out.append(f"{param_name(p)}: {typ}")
     return list(reversed(out))
 
 

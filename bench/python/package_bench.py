@@ -90,9 +90,9 @@ def hand_decode(b: bytes) -> list[Any]:
         data = b[p + 8:p + 8 + n]
         p += 8 + n
         (v3, flag, v4) = struct.unpack_from("<IBi", b, p)
-        return ParameterResult(item_text1=t[0], item_text2=t[1], item_text3=t[2], item_text4=t[3], text1=t[4],
-                               text2=t[5], value1=v1, children=[], text3=t3, error=None, text4=t4, value2=v2,
-                               data=data, value3=v3, flag=flag, value4=v4), p + 9
+        return ParameterResult(name=t[0], description=t[1], codec=t[2], item_text4=t[3], value=t[4],
+                               unit=t[5], child_count=v1, children=[], text3=t3, error=None, text4=t4,
+                               byte_position=v2, data=data, data_length=v3, flag=flag, value4=v4), p + 9
 
     (count,) = u32(b, 0)
     p = 4
@@ -119,11 +119,11 @@ def hand_decode(b: bytes) -> list[Any]:
             t4, p = text(p)
             (v2,) = i32(b, p + 4)  # after the empty special data groups
             p += 8
-            dtcs.append(DtcResult(code=code, text1=t1, text2=t2, value1=v1, parameters1=params, parameters2=[],
-                                  text3=t3, text4=t4, special_data_groups=[], value2=v2))
+            dtcs.append(DtcResult(code=code, display_code=t1, description=t2, status=v1, snapshots=params,
+                                  extended_data=[], ecu=t3, symptom=t4, special_data_groups=[], severity=v2))
         (value,) = i32(b, p)
         p += 4
-        out.append(ReadDtcResult(status=status, target=target, error=None, dtcs=dtcs, value=value))
+        out.append(ReadDtcResult(status=status, target=target, error=None, dtcs=dtcs, dtc_total=value))
     return out
 
 

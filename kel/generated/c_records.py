@@ -490,8 +490,8 @@ def from_c_NegativeResponse(address: Optional[int]) -> Optional[records.Negative
     s = C_NegativeResponse.from_address(address)
     return records.NegativeResponse(
         code=s.code,
-        text=_text(s.text),
-        value1=s.value1,
+        name=_text(s.text),
+        service_id=s.value1,
         value2=s.value2,
         bytes=ctypes.string_at(s.bytes, s.byteCount) if s.bytes else b"",
     )
@@ -516,7 +516,7 @@ def from_c_NamedItem(address: Optional[int]) -> Optional[records.NamedItem]:
         return None
     s = C_NamedItem.from_address(address)
     return records.NamedItem(
-        item_text1=_text(s.itemText1),
+        name=_text(s.itemText1),
         item_text2=_text(s.itemText2),
         item_text3=_text(s.itemText3),
         item_text4=_text(s.itemText4),
@@ -528,20 +528,20 @@ def from_c_ParameterResult(address: Optional[int]) -> Optional[records.Parameter
         return None
     s = C_ParameterResult.from_address(address)
     return records.ParameterResult(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
+        name=_text(s.itemText1),
+        description=_text(s.itemText2),
+        codec=_text(s.itemText3),
         item_text4=_text(s.itemText4),
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        value1=s.value1,
+        value=_text(s.text1),
+        unit=_text(s.text2),
+        child_count=s.value1,
         children=from_c_list(s.children, s.childCount, from_c_ParameterResult),
         text3=_text(s.text3),
         error=from_c_KelError(s.error),
         text4=_text(s.text4),
-        value2=s.value2,
+        byte_position=s.value2,
         data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
-        value3=s.value3,
+        data_length=s.value3,
         flag=s.flag,
         value4=s.value4,
     )
@@ -563,10 +563,10 @@ def from_c_DtcReadConfig(address: Optional[int]) -> Optional[records.DtcReadConf
         return None
     s = C_DtcReadConfig.from_address(address)
     return records.DtcReadConfig(
-        value=s.value,
-        flag1=s.flag1,
-        flag2=s.flag2,
-        flag3=s.flag3,
+        status_mask=s.value,
+        with_snapshots=s.flag1,
+        with_extended_data=s.flag2,
+        with_special_data=s.flag3,
     )
 
 
@@ -579,7 +579,7 @@ def from_c_ReadDtcResult(address: Optional[int]) -> Optional[records.ReadDtcResu
         target=_text(s.target),
         error=from_c_KelError(s.error),
         dtcs=from_c_list(s.dtcs, s.dtcCount, from_c_DtcResult),
-        value=s.value,
+        dtc_total=s.value,
     )
 
 
@@ -589,15 +589,15 @@ def from_c_DtcResult(address: Optional[int]) -> Optional[records.DtcResult]:
     s = C_DtcResult.from_address(address)
     return records.DtcResult(
         code=s.code,
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        value1=s.value1,
-        parameters1=from_c_list(s.parameters1, s.parameterCount1, from_c_ParameterResult),
-        parameters2=from_c_list(s.parameters2, s.parameterCount2, from_c_ParameterResult),
-        text3=_text(s.text3),
-        text4=_text(s.text4),
+        display_code=_text(s.text1),
+        description=_text(s.text2),
+        status=s.value1,
+        snapshots=from_c_list(s.parameters1, s.parameterCount1, from_c_ParameterResult),
+        extended_data=from_c_list(s.parameters2, s.parameterCount2, from_c_ParameterResult),
+        ecu=_text(s.text3),
+        symptom=_text(s.text4),
         special_data_groups=from_c_list(s.specialDataGroups, s.specialDataGroupCount, from_c_SpecialDataGroup),
-        value2=s.value2,
+        severity=s.value2,
     )
 
 
@@ -629,7 +629,7 @@ def from_c_ReadDataResult(address: Optional[int]) -> Optional[records.ReadDataRe
     return records.ReadDataResult(
         target=_text(s.target),
         status=s.status,
-        text=_text(s.text),
+        variant=_text(s.text),
         error=from_c_KelError(s.error),
         parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterResult),
     )
@@ -640,19 +640,19 @@ def from_c_Target(address: Optional[int]) -> Optional[records.Target]:
         return None
     s = C_Target.from_address(address)
     return records.Target(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
+        name=_text(s.itemText1),
+        description=_text(s.itemText2),
+        variant=_text(s.itemText3),
         item_text4=_text(s.itemText4),
-        value1=s.value1,
-        text1=_text(s.text1),
-        text2=_text(s.text2),
+        address=s.value1,
+        protocol=_text(s.text1),
+        bus=_text(s.text2),
         items=from_c_list(s.items, s.itemCount, from_c_NamedItem),
-        names=_texts(s.names, s.nameCount),
-        text3=_text(s.text3),
-        text4=_text(s.text4),
-        value2=s.value2,
-        text5=_text(s.text5),
+        aliases=_texts(s.names, s.nameCount),
+        part_number=_text(s.text3),
+        software_version=_text(s.text4),
+        responds=s.value2,
+        hardware_version=_text(s.text5),
     )
 
 
@@ -662,10 +662,10 @@ def from_c_TargetStatus(address: Optional[int]) -> Optional[records.TargetStatus
     s = C_TargetStatus.from_address(address)
     return records.TargetStatus(
         target=_text(s.target),
-        text=_text(s.text),
+        state=_text(s.text),
         error=from_c_KelError(s.error),
-        values=list(s.values),
-        text2=_text(s.text2),
+        counts=list(s.values),
+        variant=_text(s.text2),
     )
 
 
@@ -675,8 +675,8 @@ def from_c_TargetFilter(address: Optional[int]) -> Optional[records.TargetFilter
     s = C_TargetFilter.from_address(address)
     return records.TargetFilter(
         pattern=_text(s.pattern),
-        flag=s.flag,
-        value=s.value,
+        exclude=s.flag,
+        tag=s.value,
     )
 
 
@@ -708,16 +708,16 @@ def from_c_ServiceResult(address: Optional[int]) -> Optional[records.ServiceResu
         return None
     s = C_ServiceResult.from_address(address)
     return records.ServiceResult(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
-        item_text4=_text(s.itemText4),
+        service=_text(s.itemText1),
+        target=_text(s.itemText2),
+        description=_text(s.itemText3),
+        session=_text(s.itemText4),
         responses=from_c_list(s.responses, s.responseCount, from_c_ResponseResult),
         status=s.status,
-        text1=_text(s.text1),
+        outcome=_text(s.text1),
         error=from_c_KelError(s.error),
         request=from_c_RequestResult(s.request),
-        value1=s.value1,
+        service_id=s.value1,
     )
 
 
@@ -726,15 +726,15 @@ def from_c_ResponseResult(address: Optional[int]) -> Optional[records.ResponseRe
         return None
     s = C_ResponseResult.from_address(address)
     return records.ResponseResult(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
+        kind=_text(s.itemText1),
+        target=_text(s.itemText2),
         item_text3=_text(s.itemText3),
         item_text4=_text(s.itemText4),
-        flag=bool(s.flag),
+        positive=bool(s.flag),
         error=from_c_KelError(s.error),
         data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
-        value1=s.value1,
-        value2=s.value2,
+        time=s.value1,
+        nrc=s.value2,
         parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterResult),
     )
 
@@ -746,7 +746,7 @@ def from_c_RequestResult(address: Optional[int]) -> Optional[records.RequestResu
     return records.RequestResult(
         error=from_c_KelError(s.error),
         data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
-        value1=s.value1,
+        time=s.value1,
         value2=s.value2,
         parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterResult),
     )
@@ -757,7 +757,7 @@ def from_c_UnlockResult(address: Optional[int]) -> Optional[records.UnlockResult
         return None
     s = C_UnlockResult.from_address(address)
     return records.UnlockResult(
-        value=s.value,
+        unlock=s.value,
         services=from_c_list(s.services, s.serviceCount, from_c_ServiceResult),
     )
 
@@ -767,17 +767,17 @@ def from_c_ServiceInfo(address: Optional[int]) -> Optional[records.ServiceInfo]:
         return None
     s = C_ServiceInfo.from_address(address)
     return records.ServiceInfo(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
-        item_text4=_text(s.itemText4),
-        flag=bool(s.flag),
+        name=_text(s.itemText1),
+        description=_text(s.itemText2),
+        service_id=_text(s.itemText3),
+        target=_text(s.itemText4),
+        available=bool(s.flag),
         responses=from_c_list(s.responses, s.responseCount, from_c_ResponseInfo),
         parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterInfo),
-        text1=_text(s.text1),
-        items=from_c_list(s.items, s.itemCount, from_c_NamedItem),
+        uds_service=_text(s.text1),
+        sessions=from_c_list(s.items, s.itemCount, from_c_NamedItem),
         error=from_c_KelError(s.error),
-        values=list(s.values),
+        numbers=list(s.values),
     )
 
 
@@ -786,8 +786,8 @@ def from_c_ResponseInfo(address: Optional[int]) -> Optional[records.ResponseInfo
         return None
     s = C_ResponseInfo.from_address(address)
     return records.ResponseInfo(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
+        kind=_text(s.itemText1),
+        first_byte=_text(s.itemText2),
         item_text3=_text(s.itemText3),
         item_text4=_text(s.itemText4),
         status=s.status,
@@ -800,29 +800,29 @@ def from_c_ParameterInfo(address: Optional[int]) -> Optional[records.ParameterIn
         return None
     s = C_ParameterInfo.from_address(address)
     return records.ParameterInfo(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
+        name=_text(s.itemText1),
+        description=_text(s.itemText2),
+        codec=_text(s.itemText3),
         item_text4=_text(s.itemText4),
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        text3=_text(s.text3),
-        value1=s.value1,
-        text4=_text(s.text4),
+        default_value=_text(s.text1),
+        unit_text=_text(s.text2),
+        data_type=_text(s.text3),
+        byte_position=s.value1,
+        path=_text(s.text4),
         children=from_c_list(s.children, s.childCount, from_c_ParameterInfo),
-        text5=_text(s.text5),
-        names=_texts(s.names, s.nameCount),
-        flag1=bool(s.flag1),
-        value2=s.value2,
+        scaling=_text(s.text5),
+        choices=_texts(s.names, s.nameCount),
+        constant=bool(s.flag1),
+        byte_length=s.value2,
         error=from_c_KelError(s.error),
-        flag2=bool(s.flag2),
-        values=list(s.values),
-        flag3=bool(s.flag3),
-        constraint1=from_c_ConstraintInfo(s.constraint1),
-        constraint2=from_c_ConstraintInfo(s.constraint2),
-        text6=_text(s.text6),
-        text7=_text(s.text7),
-        flag4=bool(s.flag4),
+        required=bool(s.flag2),
+        numbers=list(s.values),
+        structure=bool(s.flag3),
+        valid_values=from_c_ConstraintInfo(s.constraint1),
+        raw_range=from_c_ConstraintInfo(s.constraint2),
+        minimum=_text(s.text6),
+        maximum=_text(s.text7),
+        repeated=bool(s.flag4),
         unit=from_c_UnitInfo(s.unit),
     )
 
@@ -832,9 +832,9 @@ def from_c_ConstraintInfo(address: Optional[int]) -> Optional[records.Constraint
         return None
     s = C_ConstraintInfo.from_address(address)
     return records.ConstraintInfo(
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        flag=bool(s.flag),
+        kind=_text(s.text1),
+        scale=_text(s.text2),
+        present=bool(s.flag),
         scales=from_c_list(s.scales, s.scaleCount, from_c_ScaleConstraintInfo),
     )
 
@@ -844,14 +844,14 @@ def from_c_ScaleConstraintInfo(address: Optional[int]) -> Optional[records.Scale
         return None
     s = C_ScaleConstraintInfo.from_address(address)
     return records.ScaleConstraintInfo(
-        item_text1=_text(s.itemText1),
+        name=_text(s.itemText1),
         item_text2=_text(s.itemText2),
         item_text3=_text(s.itemText3),
         item_text4=_text(s.itemText4),
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        flag=bool(s.flag),
-        value=s.value,
+        lower=_text(s.text1),
+        upper=_text(s.text2),
+        inclusive=bool(s.flag),
+        raw_value=s.value,
     )
 
 
@@ -860,11 +860,11 @@ def from_c_UnitInfo(address: Optional[int]) -> Optional[records.UnitInfo]:
         return None
     s = C_UnitInfo.from_address(address)
     return records.UnitInfo(
-        values=list(s.values),
-        value1=s.value1,
-        flag1=bool(s.flag1),
-        value2=s.value2,
-        flag2=bool(s.flag2),
+        exponents=list(s.values),
+        factor_bits=s.value1,
+        known=bool(s.flag1),
+        offset_bits=s.value2,
+        has_offset=bool(s.flag2),
     )
 
 
@@ -873,10 +873,10 @@ def from_c_ParameterInfoConfig(address: Optional[int]) -> Optional[records.Param
         return None
     s = C_ParameterInfoConfig.from_address(address)
     return records.ParameterInfoConfig(
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        value=s.value,
-        text3=_text(s.text3),
+        target=_text(s.text1),
+        service=_text(s.text2),
+        in_response=s.value,
+        path=_text(s.text3),
         text4=_text(s.text4),
     )
 
@@ -889,7 +889,7 @@ def from_c_KelEvent(address: Optional[int]) -> Optional[records.KelEvent]:
         name=_text(s.name),
         kind=s.kind,
         code=s.code,
-        text=_text(s.text),
+        message=_text(s.text),
         error=from_c_KelError(s.error),
         detail=_text(s.detail),
     )
@@ -910,7 +910,7 @@ def from_c_FileFilter(address: Optional[int]) -> Optional[records.FileFilter]:
     s = C_FileFilter.from_address(address)
     return records.FileFilter(
         pattern=_text(s.pattern),
-        flag=bool(s.flag),
+        exclude=bool(s.flag),
         value=s.value,
     )
 
@@ -931,7 +931,7 @@ def from_c_ProjectConfig(address: Optional[int]) -> Optional[records.ProjectConf
         return None
     s = C_ProjectConfig.from_address(address)
     return records.ProjectConfig(
-        item_text1=_text(s.itemText1),
+        name=_text(s.itemText1),
         item_text2=_text(s.itemText2),
         item_text3=_text(s.itemText3),
         item_text4=_text(s.itemText4),
@@ -956,12 +956,12 @@ def from_c_ProjectDetails(address: Optional[int]) -> Optional[records.ProjectDet
         return None
     s = C_ProjectDetails.from_address(address)
     return records.ProjectDetails(
-        db_files1=from_c_list(s.dbFiles1, s.dbFileCount1, from_c_DbFileInfo),
-        db_files2=from_c_list(s.dbFiles2, s.dbFileCount2, from_c_DbFileInfo),
-        text1=_text(s.text1),
-        value1=s.value1,
-        text2=_text(s.text2),
-        value2=s.value2,
+        database_files=from_c_list(s.dbFiles1, s.dbFileCount1, from_c_DbFileInfo),
+        loaded_database_files=from_c_list(s.dbFiles2, s.dbFileCount2, from_c_DbFileInfo),
+        name=_text(s.text1),
+        format=s.value1,
+        folder=_text(s.text2),
+        selected=s.value2,
         users=from_c_list(s.users, s.userCount, from_c_UserInfo),
     )
 
@@ -984,13 +984,13 @@ def from_c_SystemInfo(address: Optional[int]) -> Optional[records.SystemInfo]:
         return None
     s = C_SystemInfo.from_address(address)
     return records.SystemInfo(
-        value1=s.value1,
-        value2=s.value2,
-        text1=_text(s.text1),
-        value3=s.value3,
-        text2=_text(s.text2),
-        text3=_text(s.text3),
-        text4=_text(s.text4),
+        processors=s.value1,
+        page_size=s.value2,
+        system=_text(s.text1),
+        pointer_bits=s.value3,
+        release=_text(s.text2),
+        host=_text(s.text3),
+        architecture=_text(s.text4),
     )
 
 
@@ -999,12 +999,12 @@ def from_c_SystemProperty(address: Optional[int]) -> Optional[records.SystemProp
         return None
     s = C_SystemProperty.from_address(address)
     return records.SystemProperty(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
+        name=_text(s.itemText1),
+        label=_text(s.itemText2),
         item_text3=_text(s.itemText3),
-        item_text4=_text(s.itemText4),
-        text1=_text(s.text1),
-        text2=_text(s.text2),
+        unit=_text(s.itemText4),
+        value=_text(s.text1),
+        default_value=_text(s.text2),
         value1=s.value1,
         children=from_c_list(s.children, s.childCount, from_c_SystemProperty),
         text3=_text(s.text3),
@@ -1013,7 +1013,7 @@ def from_c_SystemProperty(address: Optional[int]) -> Optional[records.SystemProp
         value2=s.value2,
         data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
         value3=s.value3,
-        flag=bool(s.flag),
+        changed=bool(s.flag),
         value4=s.value4,
     )
 
@@ -1105,14 +1105,14 @@ def from_c_StatusInfo(address: Optional[int]) -> Optional[records.StatusInfo]:
         return None
     s = C_StatusInfo.from_address(address)
     return records.StatusInfo(
-        value1=s.value1,
-        value2=s.value2,
-        value3=s.value3,
-        value4=s.value4,
-        value5=s.value5,
-        value6=s.value6,
-        value7=s.value7,
-        value8=s.value8,
+        calls=s.value1,
+        failed_calls=s.value2,
+        uptime_ms=s.value3,
+        call_microseconds=s.value4,
+        database_files_loaded=s.value5,
+        projects=s.value6,
+        status_text_changes=s.value7,
+        started_ms=s.value8,
     )
 
 
@@ -1121,10 +1121,10 @@ def from_c_TransmissionInfo(address: Optional[int]) -> Optional[records.Transmis
         return None
     s = C_TransmissionInfo.from_address(address)
     return records.TransmissionInfo(
-        value1=s.value1,
-        value2=s.value2,
-        value3=s.value3,
-        value4=s.value4,
+        requests=s.value1,
+        responses=s.value2,
+        request_bytes=s.value3,
+        response_bytes=s.value4,
     )
 
 
@@ -1134,9 +1134,9 @@ def from_c_ProcessInfo(address: Optional[int]) -> Optional[records.ProcessInfo]:
     s = C_ProcessInfo.from_address(address)
     return records.ProcessInfo(
         processes=from_c_list(s.processes, s.processCount, from_c_ProcessEntry),
-        flag1=bool(s.flag1),
-        flag2=bool(s.flag2),
-        text=_text(s.text),
+        is64_bit=bool(s.flag1),
+        initialized=bool(s.flag2),
+        status_text=_text(s.text),
     )
 
 
@@ -1145,10 +1145,10 @@ def from_c_ProcessEntry(address: Optional[int]) -> Optional[records.ProcessEntry
         return None
     s = C_ProcessEntry.from_address(address)
     return records.ProcessEntry(
-        value=s.value,
-        items1=from_c_list(s.items1, s.itemCount1, from_c_ProcessThread),
-        text=_text(s.text),
-        items2=from_c_list(s.items2, s.itemCount2, from_c_ProcessMemory),
+        pid=s.value,
+        threads=from_c_list(s.items1, s.itemCount1, from_c_ProcessThread),
+        executable=_text(s.text),
+        memory=from_c_list(s.items2, s.itemCount2, from_c_ProcessMemory),
     )
 
 
@@ -1177,8 +1177,8 @@ def from_c_GlobalProtocolParameterSet(address: Optional[int]) -> Optional[record
         return None
     s = C_GlobalProtocolParameterSet.from_address(address)
     return records.GlobalProtocolParameterSet(
-        text1=_text(s.text1),
-        text2=_text(s.text2),
+        name=_text(s.text1),
+        protocol=_text(s.text2),
         text3=_text(s.text3),
         text4=_text(s.text4),
         parameters=from_c_list(s.parameters, s.parameterCount, from_c_GlobalProtocolParameter),
@@ -1190,7 +1190,7 @@ def from_c_GlobalProtocolParameter(address: Optional[int]) -> Optional[records.G
         return None
     s = C_GlobalProtocolParameter.from_address(address)
     return records.GlobalProtocolParameter(
-        item_text1=_text(s.itemText1),
+        name=_text(s.itemText1),
         item_text2=_text(s.itemText2),
         item_text3=_text(s.itemText3),
         item_text4=_text(s.itemText4),
@@ -1211,8 +1211,8 @@ def from_c_LoadDatabaseResult(address: Optional[int]) -> Optional[records.LoadDa
         return None
     s = C_LoadDatabaseResult.from_address(address)
     return records.LoadDatabaseResult(
-        text=_text(s.text),
-        flag=bool(s.flag),
+        file=_text(s.text),
+        loaded=bool(s.flag),
         error=from_c_KelError(s.error),
     )
 
@@ -1222,18 +1222,18 @@ def from_c_InterfaceInformation(address: Optional[int]) -> Optional[records.Inte
         return None
     s = C_InterfaceInformation.from_address(address)
     return records.InterfaceInformation(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
-        item_text4=_text(s.itemText4),
+        name=_text(s.itemText1),
+        long_name=_text(s.itemText2),
+        vendor=_text(s.itemText3),
+        description=_text(s.itemText4),
         resources=from_c_list(s.resources, s.resourceCount, from_c_ResourceInformation),
-        flag1=bool(s.flag1),
-        flag2=bool(s.flag2),
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        flag3=bool(s.flag3),
-        items=from_c_list(s.items, s.itemCount, from_c_InterfaceInformationItem),
-        value=s.value,
+        connected=bool(s.flag1),
+        dynamic=bool(s.flag2),
+        kind=_text(s.text1),
+        address=_text(s.text2),
+        plugged_in=bool(s.flag3),
+        vendor_modules=from_c_list(s.items, s.itemCount, from_c_InterfaceInformationItem),
+        handle=s.value,
     )
 
 
@@ -1242,10 +1242,10 @@ def from_c_ResourceInformation(address: Optional[int]) -> Optional[records.Resou
         return None
     s = C_ResourceInformation.from_address(address)
     return records.ResourceInformation(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
-        item_text4=_text(s.itemText4),
+        name=_text(s.itemText1),
+        description=_text(s.itemText2),
+        protocol=_text(s.itemText3),
+        physical_link=_text(s.itemText4),
         id=s.id,
         pin=s.pin,
         in_use=bool(s.inUse),
@@ -1257,10 +1257,10 @@ def from_c_InterfaceInformationItem(address: Optional[int]) -> Optional[records.
         return None
     s = C_InterfaceInformationItem.from_address(address)
     return records.InterfaceInformationItem(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
-        item_text4=_text(s.itemText4),
+        name=_text(s.itemText1),
+        vendor=_text(s.itemText2),
+        version=_text(s.itemText3),
+        description=_text(s.itemText4),
     )
 
 
@@ -1296,13 +1296,13 @@ def from_c_ModuleDyn(address: Optional[int]) -> Optional[records.ModuleDyn]:
         kind=_text(s.kind),
         address=_text(s.address),
         vendor_module=from_c_InterfaceInformationItem(s.vendorModule),
-        flag1=bool(s.flag1),
+        connected=bool(s.flag1),
         serial_number=_text(s.serialNumber),
         firmware=_text(s.firmware),
         network=_text(s.network),
         resources=from_c_list(s.resources, s.resourceCount, from_c_ResourceInformation),
         port=s.port,
-        flag2=bool(s.flag2),
+        exclusive=bool(s.flag2),
         handle=s.handle,
     )
 
@@ -1312,24 +1312,24 @@ def from_c_DeviceInfo(address: Optional[int]) -> Optional[records.DeviceInfo]:
         return None
     s = C_DeviceInfo.from_address(address)
     return records.DeviceInfo(
-        text1=_text(s.text1),
-        value1=s.value1,
-        value2=s.value2,
-        text2=_text(s.text2),
-        text3=_text(s.text3),
-        value3=s.value3,
-        text4=_text(s.text4),
-        text5=_text(s.text5),
-        value4=s.value4,
-        value5=s.value5,
-        text6=_text(s.text6),
+        name=_text(s.text1),
+        vendor_id=s.value1,
+        product_id=s.value2,
+        vendor=_text(s.text2),
+        serial_number=_text(s.text3),
+        resources=s.value3,
+        firmware=_text(s.text4),
+        kind=_text(s.text5),
+        ethernet_pin_state=s.value4,
+        links=s.value5,
+        address=_text(s.text6),
         protocols=_texts(s.protocols, s.protocolCount),
-        text7=_text(s.text7),
+        long_name=_text(s.text7),
         modules=_texts(s.modules, s.moduleCount),
-        text8=_text(s.text8),
-        flag=bool(s.flag),
+        description=_text(s.text8),
+        connected=bool(s.flag),
         handle=s.handle,
-        value6=s.value6,
+        dynamic=s.value6,
         value8=s.value8,
         value9=s.value9,
         value10=s.value10,
@@ -1351,10 +1351,10 @@ def from_c_PhysicalLink(address: Optional[int]) -> Optional[records.PhysicalLink
         return None
     s = C_PhysicalLink.from_address(address)
     return records.PhysicalLink(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
-        item_text4=_text(s.itemText4),
+        name=_text(s.itemText1),
+        type=_text(s.itemText2),
+        pins=_text(s.itemText3),
+        description=_text(s.itemText4),
         baudrate=s.baudrate,
         enabled=bool(s.enabled),
     )
@@ -1374,14 +1374,14 @@ def from_c_InterfaceConfigurationEntry(address: Optional[int]) -> Optional[recor
         return None
     s = C_InterfaceConfigurationEntry.from_address(address)
     return records.InterfaceConfigurationEntry(
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        text3=_text(s.text3),
-        text4=_text(s.text4),
-        text5=_text(s.text5),
-        value=s.value,
-        flag=bool(s.flag),
-        items=from_c_list(s.items, s.itemCount, from_c_ResourceInformation),
+        name=_text(s.text1),
+        long_name=_text(s.text2),
+        vendor=_text(s.text3),
+        kind=_text(s.text4),
+        address=_text(s.text5),
+        ethernet_pin_state=s.value,
+        enabled=bool(s.flag),
+        resources=from_c_list(s.items, s.itemCount, from_c_ResourceInformation),
     )
 
 
@@ -1390,13 +1390,13 @@ def from_c_InterfaceProvider(address: Optional[int]) -> Optional[records.Interfa
         return None
     s = C_InterfaceProvider.from_address(address)
     return records.InterfaceProvider(
-        item_text1=_text(s.itemText1),
-        item_text2=_text(s.itemText2),
-        item_text3=_text(s.itemText3),
-        item_text4=_text(s.itemText4),
-        text=_text(s.text),
-        value=s.value,
-        flag=bool(s.flag),
+        name=_text(s.itemText1),
+        description=_text(s.itemText2),
+        vendor=_text(s.itemText3),
+        version=_text(s.itemText4),
+        library=_text(s.text),
+        priority=s.value,
+        enabled=bool(s.flag),
     )
 
 
@@ -1405,11 +1405,11 @@ def from_c_DoIPParameter(address: Optional[int]) -> Optional[records.DoIPParamet
         return None
     s = C_DoIPParameter.from_address(address)
     return records.DoIPParameter(
-        value1=s.value1,
-        value2=s.value2,
-        text=_text(s.text),
-        value3=s.value3,
-        strings=_texts(s.strings, s.stringCount),
+        discovery_port=s.value1,
+        announcement_wait_ms=s.value2,
+        broadcast_address=_text(s.text),
+        tcp_port=s.value3,
+        adapters=_texts(s.strings, s.stringCount),
     )
 
 
@@ -1418,18 +1418,18 @@ def from_c_WLanSignalData(address: Optional[int]) -> Optional[records.WLanSignal
         return None
     s = C_WLanSignalData.from_address(address)
     return records.WLanSignalData(
-        value1=s.value1,
-        value2=s.value2,
-        value3=s.value3,
-        value4=s.value4,
-        value5=s.value5,
-        value6=s.value6,
-        value7=s.value7,
-        value8=s.value8,
-        value9=s.value9,
-        value10=s.value10,
-        value11=s.value11,
-        text=_text(s.text),
+        quality=s.value1,
+        signal_dbm_below_zero=s.value2,
+        noise_dbm_below_zero=s.value3,
+        channel=s.value4,
+        frequency_mhz=s.value5,
+        bytes_received=s.value6,
+        transmit_rate_mbits=s.value7,
+        receive_rate_mbits=s.value8,
+        retransmissions=s.value9,
+        lost_beacons=s.value10,
+        channel_width_mhz=s.value11,
+        ssid=_text(s.text),
     )
 
 
@@ -1438,11 +1438,11 @@ def from_c_SupportedInterface(address: Optional[int]) -> Optional[records.Suppor
         return None
     s = C_SupportedInterface.from_address(address)
     return records.SupportedInterface(
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        names=_texts(s.names, s.nameCount),
-        value=s.value,
-        text3=_text(s.text3),
+        kind=_text(s.text1),
+        description=_text(s.text2),
+        protocols=_texts(s.names, s.nameCount),
+        max_interfaces=s.value,
+        vendor_module=_text(s.text3),
     )
 
 
@@ -1451,16 +1451,16 @@ def from_c_MonitoringItem(address: Optional[int]) -> Optional[records.Monitoring
         return None
     s = C_MonitoringItem.from_address(address)
     return records.MonitoringItem(
-        text1=_text(s.text1),
+        unit=_text(s.text1),
         data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
-        value1=s.value1,
-        value2=s.value2,
-        flag1=bool(s.flag1),
-        flag2=bool(s.flag2),
-        flag3=bool(s.flag3),
-        value3=s.value3,
-        text2=_text(s.text2),
-        value4=s.value4,
+        time=s.value1,
+        number=s.value2,
+        answered=bool(s.flag1),
+        positive=bool(s.flag2),
+        replayed=bool(s.flag3),
+        nrc=s.value3,
+        source=_text(s.text2),
+        service_id=s.value4,
         detail=from_c_MonitoringItemDetail(s.detail),
     )
 
@@ -1471,7 +1471,7 @@ def from_c_MonitoringItemDetail(address: Optional[int]) -> Optional[records.Moni
     s = C_MonitoringItemDetail.from_address(address)
     return records.MonitoringItemDetail(
         response=ctypes.string_at(s.response, s.responseLength) if s.response else b"",
-        text=_text(s.text),
+        summary=_text(s.text),
     )
 
 
@@ -1480,13 +1480,13 @@ def from_c_PduMonitoringItem(address: Optional[int]) -> Optional[records.PduMoni
         return None
     s = C_PduMonitoringItem.from_address(address)
     return records.PduMonitoringItem(
-        value1=s.value1,
+        direction=s.value1,
         data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
         detail=from_c_PduMonitoringItemDetail(s.detail),
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        value2=s.value2,
-        text3=_text(s.text3),
+        unit=_text(s.text1),
+        direction_text=_text(s.text2),
+        time=s.value2,
+        hex=_text(s.text3),
     )
 
 
@@ -1507,12 +1507,12 @@ def from_c_FileInfo(address: Optional[int]) -> Optional[records.FileInfo]:
     return records.FileInfo(
         name=_text(s.name),
         error=from_c_KelError(s.error),
-        flag=bool(s.flag),
-        value1=s.value1,
-        text1=_text(s.text1),
-        text2=_text(s.text2),
-        value2=s.value2,
-        value3=s.value3,
+        read_only=bool(s.flag),
+        attributes=s.value1,
+        path=_text(s.text1),
+        modified=_text(s.text2),
+        size=s.value2,
+        modified_ms=s.value3,
     )
 
 
@@ -1523,13 +1523,13 @@ def from_c_DirectoryInfo(address: Optional[int]) -> Optional[records.DirectoryIn
     return records.DirectoryInfo(
         name=_text(s.name),
         error=from_c_KelError(s.error),
-        flag=bool(s.flag),
-        value1=s.value1,
-        text1=_text(s.text1),
-        text2=_text(s.text2),
+        read_only=bool(s.flag),
+        attributes=s.value1,
+        path=_text(s.text1),
+        modified=_text(s.text2),
         files=from_c_list(s.files, s.fileCount, from_c_FileInfo),
         directories=from_c_list(s.directories, s.directoryCount, from_c_DirectoryInfo),
-        flag2=bool(s.flag2),
+        contents_read=bool(s.flag2),
     )
 
 
@@ -1538,11 +1538,11 @@ def from_c_FileCopyResult(address: Optional[int]) -> Optional[records.FileCopyRe
         return None
     s = C_FileCopyResult.from_address(address)
     return records.FileCopyResult(
-        value1=s.value1,
-        text=_text(s.text),
+        failed=s.value1,
+        source=_text(s.text),
         error=from_c_KelError(s.error),
         file=from_c_FileInfo(s.file),
-        value2=s.value2,
+        index=s.value2,
     )
 
 
@@ -1551,8 +1551,8 @@ def from_c_DirectoryCopyResult(address: Optional[int]) -> Optional[records.Direc
         return None
     s = C_DirectoryCopyResult.from_address(address)
     return records.DirectoryCopyResult(
-        value1=s.value1,
-        text=_text(s.text),
+        outcome=s.value1,
+        source=_text(s.text),
         error=from_c_KelError(s.error),
         directory=from_c_DirectoryCopyItem(s.directory),
     )
@@ -1577,9 +1577,9 @@ def from_c_PathCopyResult(address: Optional[int]) -> Optional[records.PathCopyRe
         return None
     s = C_PathCopyResult.from_address(address)
     return records.PathCopyResult(
-        value1=s.value1,
+        failed=s.value1,
         error=from_c_KelError(s.error),
-        value2=s.value2,
+        is_directory=s.value2,
         item=from_c_PathCopyItem(s.item),
     )
 
@@ -1646,8 +1646,8 @@ def from_c_UserInfo(address: Optional[int]) -> Optional[records.UserInfo]:
     s = C_UserInfo.from_address(address)
     return records.UserInfo(
         name=_text(s.name),
-        text=_text(s.text),
-        value=s.value,
+        role_name=_text(s.text),
+        role=s.value,
     )
 
 
@@ -1667,15 +1667,15 @@ def from_c_TarnApiServerConfig(address: Optional[int]) -> Optional[records.TarnA
     s = C_TarnApiServerConfig.from_address(address)
     return records.TarnApiServerConfig(
         users=from_c_list(s.users, s.userCount, from_c_UserInfo),
-        flag=bool(s.flag),
-        value1=s.value1,
-        text1=_text(s.text1),
-        text2=_text(s.text2),
+        user_management=bool(s.flag),
+        connections=s.value1,
+        address=_text(s.text1),
+        sovd_address=_text(s.text2),
         filters=from_c_list(s.filters, s.filterCount, from_c_FileFilter),
-        text3=_text(s.text3),
-        text4=_text(s.text4),
-        users2=from_c_list(s.users2, s.userCount2, from_c_UserInfo),
-        value2=s.value2,
+        identity_provider=_text(s.text3),
+        login_address=_text(s.text4),
+        logged_in=from_c_list(s.users2, s.userCount2, from_c_UserInfo),
+        login_attempts=s.value2,
     )
 
 
@@ -1684,10 +1684,10 @@ def from_c_ServerSettings(address: Optional[int]) -> Optional[records.ServerSett
         return None
     s = C_ServerSettings.from_address(address)
     return records.ServerSettings(
-        flag=bool(s.flag),
-        value1=s.value1,
-        value2=s.value2,
-        value3=s.value3,
+        running=bool(s.flag),
+        connections=s.value1,
+        users=s.value2,
+        sovd_running=s.value3,
     )
 
 
@@ -1934,8 +1934,8 @@ def to_c_NegativeResponse(lib: Any, v: Optional[records.NegativeResponse]) -> in
     address = heap_block(lib, ctypes.sizeof(C_NegativeResponse))
     s = C_NegativeResponse.from_address(address)
     s.code = v.code
-    s.text = lib.duplicate_WString(v.text)
-    s.value1 = v.value1
+    s.text = lib.duplicate_WString(v.name)
+    s.value1 = v.service_id
     s.value2 = v.value2
     s.bytes, s.byteCount = heap_bytes(lib, v.bytes)
     return address
@@ -1960,7 +1960,7 @@ def to_c_NamedItem(lib: Any, v: Optional[records.NamedItem]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_NamedItem))
     s = C_NamedItem.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText1 = lib.duplicate_WString(v.name)
     s.itemText2 = lib.duplicate_WString(v.item_text2)
     s.itemText3 = lib.duplicate_WString(v.item_text3)
     s.itemText4 = lib.duplicate_WString(v.item_text4)
@@ -1972,20 +1972,20 @@ def to_c_ParameterResult(lib: Any, v: Optional[records.ParameterResult]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ParameterResult))
     s = C_ParameterResult.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.description)
+    s.itemText3 = lib.duplicate_WString(v.codec)
     s.itemText4 = lib.duplicate_WString(v.item_text4)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.value1 = v.value1
+    s.text1 = lib.duplicate_WString(v.value)
+    s.text2 = lib.duplicate_WString(v.unit)
+    s.value1 = v.child_count
     s.children, s.childCount = heap_list(lib, v.children, to_c_ParameterResult)
     s.text3 = lib.duplicate_WString(v.text3)
     s.error = to_c_KelError(lib, v.error)
     s.text4 = lib.duplicate_WString(v.text4)
-    s.value2 = v.value2
+    s.value2 = v.byte_position
     s.data, s.dataLength = heap_bytes(lib, v.data)
-    s.value3 = v.value3
+    s.value3 = v.data_length
     s.flag = v.flag
     s.value4 = v.value4
     return address
@@ -2007,10 +2007,10 @@ def to_c_DtcReadConfig(lib: Any, v: Optional[records.DtcReadConfig]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_DtcReadConfig))
     s = C_DtcReadConfig.from_address(address)
-    s.value = v.value
-    s.flag1 = v.flag1
-    s.flag2 = v.flag2
-    s.flag3 = v.flag3
+    s.value = v.status_mask
+    s.flag1 = v.with_snapshots
+    s.flag2 = v.with_extended_data
+    s.flag3 = v.with_special_data
     return address
 
 
@@ -2023,7 +2023,7 @@ def to_c_ReadDtcResult(lib: Any, v: Optional[records.ReadDtcResult]) -> int:
     s.target = lib.duplicate_WString(v.target)
     s.error = to_c_KelError(lib, v.error)
     s.dtcs, s.dtcCount = heap_list(lib, v.dtcs, to_c_DtcResult)
-    s.value = v.value
+    s.value = v.dtc_total
     return address
 
 
@@ -2033,15 +2033,15 @@ def to_c_DtcResult(lib: Any, v: Optional[records.DtcResult]) -> int:
     address = heap_block(lib, ctypes.sizeof(C_DtcResult))
     s = C_DtcResult.from_address(address)
     s.code = v.code
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.value1 = v.value1
-    s.parameters1, s.parameterCount1 = heap_list(lib, v.parameters1, to_c_ParameterResult)
-    s.parameters2, s.parameterCount2 = heap_list(lib, v.parameters2, to_c_ParameterResult)
-    s.text3 = lib.duplicate_WString(v.text3)
-    s.text4 = lib.duplicate_WString(v.text4)
+    s.text1 = lib.duplicate_WString(v.display_code)
+    s.text2 = lib.duplicate_WString(v.description)
+    s.value1 = v.status
+    s.parameters1, s.parameterCount1 = heap_list(lib, v.snapshots, to_c_ParameterResult)
+    s.parameters2, s.parameterCount2 = heap_list(lib, v.extended_data, to_c_ParameterResult)
+    s.text3 = lib.duplicate_WString(v.ecu)
+    s.text4 = lib.duplicate_WString(v.symptom)
     s.specialDataGroups, s.specialDataGroupCount = heap_list(lib, v.special_data_groups, to_c_SpecialDataGroup)
-    s.value2 = v.value2
+    s.value2 = v.severity
     return address
 
 
@@ -2073,7 +2073,7 @@ def to_c_ReadDataResult(lib: Any, v: Optional[records.ReadDataResult]) -> int:
     s = C_ReadDataResult.from_address(address)
     s.target = lib.duplicate_WString(v.target)
     s.status = v.status
-    s.text = lib.duplicate_WString(v.text)
+    s.text = lib.duplicate_WString(v.variant)
     s.error = to_c_KelError(lib, v.error)
     s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_ParameterResult)
     return address
@@ -2084,19 +2084,19 @@ def to_c_Target(lib: Any, v: Optional[records.Target]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_Target))
     s = C_Target.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.description)
+    s.itemText3 = lib.duplicate_WString(v.variant)
     s.itemText4 = lib.duplicate_WString(v.item_text4)
-    s.value1 = v.value1
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
+    s.value1 = v.address
+    s.text1 = lib.duplicate_WString(v.protocol)
+    s.text2 = lib.duplicate_WString(v.bus)
     s.items, s.itemCount = heap_list(lib, v.items, to_c_NamedItem)
-    s.names, s.nameCount = heap_texts(lib, v.names, True)
-    s.text3 = lib.duplicate_WString(v.text3)
-    s.text4 = lib.duplicate_WString(v.text4)
-    s.value2 = v.value2
-    s.text5 = lib.duplicate_WString(v.text5)
+    s.names, s.nameCount = heap_texts(lib, v.aliases, True)
+    s.text3 = lib.duplicate_WString(v.part_number)
+    s.text4 = lib.duplicate_WString(v.software_version)
+    s.value2 = v.responds
+    s.text5 = lib.duplicate_WString(v.hardware_version)
     return address
 
 
@@ -2106,10 +2106,10 @@ def to_c_TargetStatus(lib: Any, v: Optional[records.TargetStatus]) -> int:
     address = heap_block(lib, ctypes.sizeof(C_TargetStatus))
     s = C_TargetStatus.from_address(address)
     s.target = lib.duplicate_WString(v.target)
-    s.text = lib.duplicate_WString(v.text)
+    s.text = lib.duplicate_WString(v.state)
     s.error = to_c_KelError(lib, v.error)
-    s.values[:] = v.values
-    s.text2 = lib.duplicate_WString(v.text2)
+    s.values[:] = v.counts
+    s.text2 = lib.duplicate_WString(v.variant)
     return address
 
 
@@ -2119,8 +2119,8 @@ def to_c_TargetFilter(lib: Any, v: Optional[records.TargetFilter]) -> int:
     address = heap_block(lib, ctypes.sizeof(C_TargetFilter))
     s = C_TargetFilter.from_address(address)
     s.pattern = lib.duplicate_WString(v.pattern)
-    s.flag = v.flag
-    s.value = v.value
+    s.flag = v.exclude
+    s.value = v.tag
     return address
 
 
@@ -2152,16 +2152,16 @@ def to_c_ServiceResult(lib: Any, v: Optional[records.ServiceResult]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ServiceResult))
     s = C_ServiceResult.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
-    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.itemText1 = lib.duplicate_WString(v.service)
+    s.itemText2 = lib.duplicate_WString(v.target)
+    s.itemText3 = lib.duplicate_WString(v.description)
+    s.itemText4 = lib.duplicate_WString(v.session)
     s.responses, s.responseCount = heap_list(lib, v.responses, to_c_ResponseResult)
     s.status = v.status
-    s.text1 = lib.duplicate_WString(v.text1)
+    s.text1 = lib.duplicate_WString(v.outcome)
     s.error = to_c_KelError(lib, v.error)
     s.request = to_c_RequestResult(lib, v.request)
-    s.value1 = v.value1
+    s.value1 = v.service_id
     return address
 
 
@@ -2170,15 +2170,15 @@ def to_c_ResponseResult(lib: Any, v: Optional[records.ResponseResult]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ResponseResult))
     s = C_ResponseResult.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText1 = lib.duplicate_WString(v.kind)
+    s.itemText2 = lib.duplicate_WString(v.target)
     s.itemText3 = lib.duplicate_WString(v.item_text3)
     s.itemText4 = lib.duplicate_WString(v.item_text4)
-    s.flag = v.flag
+    s.flag = v.positive
     s.error = to_c_KelError(lib, v.error)
     s.data, s.dataLength = heap_bytes(lib, v.data)
-    s.value1 = v.value1
-    s.value2 = v.value2
+    s.value1 = v.time
+    s.value2 = v.nrc
     s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_ParameterResult)
     return address
 
@@ -2190,7 +2190,7 @@ def to_c_RequestResult(lib: Any, v: Optional[records.RequestResult]) -> int:
     s = C_RequestResult.from_address(address)
     s.error = to_c_KelError(lib, v.error)
     s.data, s.dataLength = heap_bytes(lib, v.data)
-    s.value1 = v.value1
+    s.value1 = v.time
     s.value2 = v.value2
     s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_ParameterResult)
     return address
@@ -2201,7 +2201,7 @@ def to_c_UnlockResult(lib: Any, v: Optional[records.UnlockResult]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_UnlockResult))
     s = C_UnlockResult.from_address(address)
-    s.value = v.value
+    s.value = v.unlock
     s.services, s.serviceCount = heap_list(lib, v.services, to_c_ServiceResult)
     return address
 
@@ -2211,17 +2211,17 @@ def to_c_ServiceInfo(lib: Any, v: Optional[records.ServiceInfo]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ServiceInfo))
     s = C_ServiceInfo.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
-    s.itemText4 = lib.duplicate_WString(v.item_text4)
-    s.flag = v.flag
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.description)
+    s.itemText3 = lib.duplicate_WString(v.service_id)
+    s.itemText4 = lib.duplicate_WString(v.target)
+    s.flag = v.available
     s.responses, s.responseCount = heap_list(lib, v.responses, to_c_ResponseInfo)
     s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_ParameterInfo)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.items, s.itemCount = heap_list(lib, v.items, to_c_NamedItem)
+    s.text1 = lib.duplicate_WString(v.uds_service)
+    s.items, s.itemCount = heap_list(lib, v.sessions, to_c_NamedItem)
     s.error = to_c_KelError(lib, v.error)
-    s.values[:] = v.values
+    s.values[:] = v.numbers
     return address
 
 
@@ -2230,8 +2230,8 @@ def to_c_ResponseInfo(lib: Any, v: Optional[records.ResponseInfo]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ResponseInfo))
     s = C_ResponseInfo.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText1 = lib.duplicate_WString(v.kind)
+    s.itemText2 = lib.duplicate_WString(v.first_byte)
     s.itemText3 = lib.duplicate_WString(v.item_text3)
     s.itemText4 = lib.duplicate_WString(v.item_text4)
     s.status = v.status
@@ -2244,29 +2244,29 @@ def to_c_ParameterInfo(lib: Any, v: Optional[records.ParameterInfo]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ParameterInfo))
     s = C_ParameterInfo.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.description)
+    s.itemText3 = lib.duplicate_WString(v.codec)
     s.itemText4 = lib.duplicate_WString(v.item_text4)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.text3 = lib.duplicate_WString(v.text3)
-    s.value1 = v.value1
-    s.text4 = lib.duplicate_WString(v.text4)
+    s.text1 = lib.duplicate_WString(v.default_value)
+    s.text2 = lib.duplicate_WString(v.unit_text)
+    s.text3 = lib.duplicate_WString(v.data_type)
+    s.value1 = v.byte_position
+    s.text4 = lib.duplicate_WString(v.path)
     s.children, s.childCount = heap_list(lib, v.children, to_c_ParameterInfo)
-    s.text5 = lib.duplicate_WString(v.text5)
-    s.names, s.nameCount = heap_texts(lib, v.names, True)
-    s.flag1 = v.flag1
-    s.value2 = v.value2
+    s.text5 = lib.duplicate_WString(v.scaling)
+    s.names, s.nameCount = heap_texts(lib, v.choices, True)
+    s.flag1 = v.constant
+    s.value2 = v.byte_length
     s.error = to_c_KelError(lib, v.error)
-    s.flag2 = v.flag2
-    s.values[:] = v.values
-    s.flag3 = v.flag3
-    s.constraint1 = to_c_ConstraintInfo(lib, v.constraint1)
-    s.constraint2 = to_c_ConstraintInfo(lib, v.constraint2)
-    s.text6 = lib.duplicate_WString(v.text6)
-    s.text7 = lib.duplicate_WString(v.text7)
-    s.flag4 = v.flag4
+    s.flag2 = v.required
+    s.values[:] = v.numbers
+    s.flag3 = v.structure
+    s.constraint1 = to_c_ConstraintInfo(lib, v.valid_values)
+    s.constraint2 = to_c_ConstraintInfo(lib, v.raw_range)
+    s.text6 = lib.duplicate_WString(v.minimum)
+    s.text7 = lib.duplicate_WString(v.maximum)
+    s.flag4 = v.repeated
     s.unit = to_c_UnitInfo(lib, v.unit)
     return address
 
@@ -2276,9 +2276,9 @@ def to_c_ConstraintInfo(lib: Any, v: Optional[records.ConstraintInfo]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ConstraintInfo))
     s = C_ConstraintInfo.from_address(address)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.flag = v.flag
+    s.text1 = lib.duplicate_WString(v.kind)
+    s.text2 = lib.duplicate_WString(v.scale)
+    s.flag = v.present
     s.scales, s.scaleCount = heap_list(lib, v.scales, to_c_ScaleConstraintInfo)
     return address
 
@@ -2288,14 +2288,14 @@ def to_c_ScaleConstraintInfo(lib: Any, v: Optional[records.ScaleConstraintInfo])
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ScaleConstraintInfo))
     s = C_ScaleConstraintInfo.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText1 = lib.duplicate_WString(v.name)
     s.itemText2 = lib.duplicate_WString(v.item_text2)
     s.itemText3 = lib.duplicate_WString(v.item_text3)
     s.itemText4 = lib.duplicate_WString(v.item_text4)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.flag = v.flag
-    s.value = v.value
+    s.text1 = lib.duplicate_WString(v.lower)
+    s.text2 = lib.duplicate_WString(v.upper)
+    s.flag = v.inclusive
+    s.value = v.raw_value
     return address
 
 
@@ -2304,11 +2304,11 @@ def to_c_UnitInfo(lib: Any, v: Optional[records.UnitInfo]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_UnitInfo))
     s = C_UnitInfo.from_address(address)
-    s.values[:] = v.values
-    s.value1 = v.value1
-    s.flag1 = v.flag1
-    s.value2 = v.value2
-    s.flag2 = v.flag2
+    s.values[:] = v.exponents
+    s.value1 = v.factor_bits
+    s.flag1 = v.known
+    s.value2 = v.offset_bits
+    s.flag2 = v.has_offset
     return address
 
 
@@ -2317,10 +2317,10 @@ def to_c_ParameterInfoConfig(lib: Any, v: Optional[records.ParameterInfoConfig])
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ParameterInfoConfig))
     s = C_ParameterInfoConfig.from_address(address)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.value = v.value
-    s.text3 = lib.duplicate_WString(v.text3)
+    s.text1 = lib.duplicate_WString(v.target)
+    s.text2 = lib.duplicate_WString(v.service)
+    s.value = v.in_response
+    s.text3 = lib.duplicate_WString(v.path)
     s.text4 = lib.duplicate_WString(v.text4)
     return address
 
@@ -2333,7 +2333,7 @@ def to_c_KelEvent(lib: Any, v: Optional[records.KelEvent]) -> int:
     s.name = lib.duplicate_WString(v.name)
     s.kind = v.kind
     s.code = v.code
-    s.text = lib.duplicate_WString(v.text)
+    s.text = lib.duplicate_WString(v.message)
     s.error = to_c_KelError(lib, v.error)
     s.detail = lib.duplicate_WString(v.detail)
     return address
@@ -2354,7 +2354,7 @@ def to_c_FileFilter(lib: Any, v: Optional[records.FileFilter]) -> int:
     address = heap_block(lib, ctypes.sizeof(C_FileFilter))
     s = C_FileFilter.from_address(address)
     s.pattern = lib.duplicate_WString(v.pattern)
-    s.flag = v.flag
+    s.flag = v.exclude
     s.value = v.value
     return address
 
@@ -2375,7 +2375,7 @@ def to_c_ProjectConfig(lib: Any, v: Optional[records.ProjectConfig]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ProjectConfig))
     s = C_ProjectConfig.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText1 = lib.duplicate_WString(v.name)
     s.itemText2 = lib.duplicate_WString(v.item_text2)
     s.itemText3 = lib.duplicate_WString(v.item_text3)
     s.itemText4 = lib.duplicate_WString(v.item_text4)
@@ -2400,12 +2400,12 @@ def to_c_ProjectDetails(lib: Any, v: Optional[records.ProjectDetails]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ProjectDetails))
     s = C_ProjectDetails.from_address(address)
-    s.dbFiles1, s.dbFileCount1 = heap_list(lib, v.db_files1, to_c_DbFileInfo)
-    s.dbFiles2, s.dbFileCount2 = heap_list(lib, v.db_files2, to_c_DbFileInfo)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.value1 = v.value1
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.value2 = v.value2
+    s.dbFiles1, s.dbFileCount1 = heap_list(lib, v.database_files, to_c_DbFileInfo)
+    s.dbFiles2, s.dbFileCount2 = heap_list(lib, v.loaded_database_files, to_c_DbFileInfo)
+    s.text1 = lib.duplicate_WString(v.name)
+    s.value1 = v.format
+    s.text2 = lib.duplicate_WString(v.folder)
+    s.value2 = v.selected
     s.users, s.userCount = heap_list(lib, v.users, to_c_UserInfo)
     return address
 
@@ -2428,13 +2428,13 @@ def to_c_SystemInfo(lib: Any, v: Optional[records.SystemInfo]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_SystemInfo))
     s = C_SystemInfo.from_address(address)
-    s.value1 = v.value1
-    s.value2 = v.value2
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.value3 = v.value3
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.text3 = lib.duplicate_WString(v.text3)
-    s.text4 = lib.duplicate_WString(v.text4)
+    s.value1 = v.processors
+    s.value2 = v.page_size
+    s.text1 = lib.duplicate_WString(v.system)
+    s.value3 = v.pointer_bits
+    s.text2 = lib.duplicate_WString(v.release)
+    s.text3 = lib.duplicate_WString(v.host)
+    s.text4 = lib.duplicate_WString(v.architecture)
     return address
 
 
@@ -2443,12 +2443,12 @@ def to_c_SystemProperty(lib: Any, v: Optional[records.SystemProperty]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_SystemProperty))
     s = C_SystemProperty.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.label)
     s.itemText3 = lib.duplicate_WString(v.item_text3)
-    s.itemText4 = lib.duplicate_WString(v.item_text4)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
+    s.itemText4 = lib.duplicate_WString(v.unit)
+    s.text1 = lib.duplicate_WString(v.value)
+    s.text2 = lib.duplicate_WString(v.default_value)
     s.value1 = v.value1
     s.children, s.childCount = heap_list(lib, v.children, to_c_SystemProperty)
     s.text3 = lib.duplicate_WString(v.text3)
@@ -2457,7 +2457,7 @@ def to_c_SystemProperty(lib: Any, v: Optional[records.SystemProperty]) -> int:
     s.value2 = v.value2
     s.data, s.dataLength = heap_bytes(lib, v.data)
     s.value3 = v.value3
-    s.flag = v.flag
+    s.flag = v.changed
     s.value4 = v.value4
     return address
 
@@ -2549,14 +2549,14 @@ def to_c_StatusInfo(lib: Any, v: Optional[records.StatusInfo]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_StatusInfo))
     s = C_StatusInfo.from_address(address)
-    s.value1 = v.value1
-    s.value2 = v.value2
-    s.value3 = v.value3
-    s.value4 = v.value4
-    s.value5 = v.value5
-    s.value6 = v.value6
-    s.value7 = v.value7
-    s.value8 = v.value8
+    s.value1 = v.calls
+    s.value2 = v.failed_calls
+    s.value3 = v.uptime_ms
+    s.value4 = v.call_microseconds
+    s.value5 = v.database_files_loaded
+    s.value6 = v.projects
+    s.value7 = v.status_text_changes
+    s.value8 = v.started_ms
     return address
 
 
@@ -2565,10 +2565,10 @@ def to_c_TransmissionInfo(lib: Any, v: Optional[records.TransmissionInfo]) -> in
         return 0
     address = heap_block(lib, ctypes.sizeof(C_TransmissionInfo))
     s = C_TransmissionInfo.from_address(address)
-    s.value1 = v.value1
-    s.value2 = v.value2
-    s.value3 = v.value3
-    s.value4 = v.value4
+    s.value1 = v.requests
+    s.value2 = v.responses
+    s.value3 = v.request_bytes
+    s.value4 = v.response_bytes
     return address
 
 
@@ -2578,9 +2578,9 @@ def to_c_ProcessInfo(lib: Any, v: Optional[records.ProcessInfo]) -> int:
     address = heap_block(lib, ctypes.sizeof(C_ProcessInfo))
     s = C_ProcessInfo.from_address(address)
     s.processes, s.processCount = heap_list(lib, v.processes, to_c_ProcessEntry)
-    s.flag1 = v.flag1
-    s.flag2 = v.flag2
-    s.text = lib.duplicate_WString(v.text)
+    s.flag1 = v.is64_bit
+    s.flag2 = v.initialized
+    s.text = lib.duplicate_WString(v.status_text)
     return address
 
 
@@ -2589,10 +2589,10 @@ def to_c_ProcessEntry(lib: Any, v: Optional[records.ProcessEntry]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ProcessEntry))
     s = C_ProcessEntry.from_address(address)
-    s.value = v.value
-    s.items1, s.itemCount1 = heap_list(lib, v.items1, to_c_ProcessThread)
-    s.text = lib.duplicate_WString(v.text)
-    s.items2, s.itemCount2 = heap_list(lib, v.items2, to_c_ProcessMemory)
+    s.value = v.pid
+    s.items1, s.itemCount1 = heap_list(lib, v.threads, to_c_ProcessThread)
+    s.text = lib.duplicate_WString(v.executable)
+    s.items2, s.itemCount2 = heap_list(lib, v.memory, to_c_ProcessMemory)
     return address
 
 
@@ -2621,8 +2621,8 @@ def to_c_GlobalProtocolParameterSet(lib: Any, v: Optional[records.GlobalProtocol
         return 0
     address = heap_block(lib, ctypes.sizeof(C_GlobalProtocolParameterSet))
     s = C_GlobalProtocolParameterSet.from_address(address)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
+    s.text1 = lib.duplicate_WString(v.name)
+    s.text2 = lib.duplicate_WString(v.protocol)
     s.text3 = lib.duplicate_WString(v.text3)
     s.text4 = lib.duplicate_WString(v.text4)
     s.parameters, s.parameterCount = heap_list(lib, v.parameters, to_c_GlobalProtocolParameter)
@@ -2634,7 +2634,7 @@ def to_c_GlobalProtocolParameter(lib: Any, v: Optional[records.GlobalProtocolPar
         return 0
     address = heap_block(lib, ctypes.sizeof(C_GlobalProtocolParameter))
     s = C_GlobalProtocolParameter.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
+    s.itemText1 = lib.duplicate_WString(v.name)
     s.itemText2 = lib.duplicate_WString(v.item_text2)
     s.itemText3 = lib.duplicate_WString(v.item_text3)
     s.itemText4 = lib.duplicate_WString(v.item_text4)
@@ -2655,8 +2655,8 @@ def to_c_LoadDatabaseResult(lib: Any, v: Optional[records.LoadDatabaseResult]) -
         return 0
     address = heap_block(lib, ctypes.sizeof(C_LoadDatabaseResult))
     s = C_LoadDatabaseResult.from_address(address)
-    s.text = lib.duplicate_WString(v.text)
-    s.flag = v.flag
+    s.text = lib.duplicate_WString(v.file)
+    s.flag = v.loaded
     s.error = to_c_KelError(lib, v.error)
     return address
 
@@ -2666,18 +2666,18 @@ def to_c_InterfaceInformation(lib: Any, v: Optional[records.InterfaceInformation
         return 0
     address = heap_block(lib, ctypes.sizeof(C_InterfaceInformation))
     s = C_InterfaceInformation.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
-    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.long_name)
+    s.itemText3 = lib.duplicate_WString(v.vendor)
+    s.itemText4 = lib.duplicate_WString(v.description)
     s.resources, s.resourceCount = heap_list(lib, v.resources, to_c_ResourceInformation)
-    s.flag1 = v.flag1
-    s.flag2 = v.flag2
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.flag3 = v.flag3
-    s.items, s.itemCount = heap_list(lib, v.items, to_c_InterfaceInformationItem)
-    s.value = v.value
+    s.flag1 = v.connected
+    s.flag2 = v.dynamic
+    s.text1 = lib.duplicate_WString(v.kind)
+    s.text2 = lib.duplicate_WString(v.address)
+    s.flag3 = v.plugged_in
+    s.items, s.itemCount = heap_list(lib, v.vendor_modules, to_c_InterfaceInformationItem)
+    s.value = v.handle
     return address
 
 
@@ -2686,10 +2686,10 @@ def to_c_ResourceInformation(lib: Any, v: Optional[records.ResourceInformation])
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ResourceInformation))
     s = C_ResourceInformation.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
-    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.description)
+    s.itemText3 = lib.duplicate_WString(v.protocol)
+    s.itemText4 = lib.duplicate_WString(v.physical_link)
     s.id = v.id
     s.pin = v.pin
     s.inUse = v.in_use
@@ -2701,10 +2701,10 @@ def to_c_InterfaceInformationItem(lib: Any, v: Optional[records.InterfaceInforma
         return 0
     address = heap_block(lib, ctypes.sizeof(C_InterfaceInformationItem))
     s = C_InterfaceInformationItem.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
-    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.vendor)
+    s.itemText3 = lib.duplicate_WString(v.version)
+    s.itemText4 = lib.duplicate_WString(v.description)
     return address
 
 
@@ -2740,13 +2740,13 @@ def to_c_ModuleDyn(lib: Any, v: Optional[records.ModuleDyn]) -> int:
     s.kind = lib.duplicate_WString(v.kind)
     s.address = lib.duplicate_WString(v.address)
     s.vendorModule = to_c_InterfaceInformationItem(lib, v.vendor_module)
-    s.flag1 = v.flag1
+    s.flag1 = v.connected
     s.serialNumber = lib.duplicate_WString(v.serial_number)
     s.firmware = lib.duplicate_WString(v.firmware)
     s.network = lib.duplicate_WString(v.network)
     s.resources, s.resourceCount = heap_list(lib, v.resources, to_c_ResourceInformation)
     s.port = v.port
-    s.flag2 = v.flag2
+    s.flag2 = v.exclusive
     s.handle = v.handle
     return address
 
@@ -2756,24 +2756,24 @@ def to_c_DeviceInfo(lib: Any, v: Optional[records.DeviceInfo]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_DeviceInfo))
     s = C_DeviceInfo.from_address(address)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.value1 = v.value1
-    s.value2 = v.value2
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.text3 = lib.duplicate_WString(v.text3)
-    s.value3 = v.value3
-    s.text4 = lib.duplicate_WString(v.text4)
-    s.text5 = lib.duplicate_WString(v.text5)
-    s.value4 = v.value4
-    s.value5 = v.value5
-    s.text6 = lib.duplicate_WString(v.text6)
+    s.text1 = lib.duplicate_WString(v.name)
+    s.value1 = v.vendor_id
+    s.value2 = v.product_id
+    s.text2 = lib.duplicate_WString(v.vendor)
+    s.text3 = lib.duplicate_WString(v.serial_number)
+    s.value3 = v.resources
+    s.text4 = lib.duplicate_WString(v.firmware)
+    s.text5 = lib.duplicate_WString(v.kind)
+    s.value4 = v.ethernet_pin_state
+    s.value5 = v.links
+    s.text6 = lib.duplicate_WString(v.address)
     s.protocols, s.protocolCount = heap_texts(lib, v.protocols, False)
-    s.text7 = lib.duplicate_WString(v.text7)
+    s.text7 = lib.duplicate_WString(v.long_name)
     s.modules, s.moduleCount = heap_texts(lib, v.modules, False)
-    s.text8 = lib.duplicate_WString(v.text8)
-    s.flag = v.flag
+    s.text8 = lib.duplicate_WString(v.description)
+    s.flag = v.connected
     s.handle = v.handle
-    s.value6 = v.value6
+    s.value6 = v.dynamic
     s.value8 = v.value8
     s.value9 = v.value9
     s.value10 = v.value10
@@ -2795,10 +2795,10 @@ def to_c_PhysicalLink(lib: Any, v: Optional[records.PhysicalLink]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_PhysicalLink))
     s = C_PhysicalLink.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
-    s.itemText4 = lib.duplicate_WString(v.item_text4)
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.type)
+    s.itemText3 = lib.duplicate_WString(v.pins)
+    s.itemText4 = lib.duplicate_WString(v.description)
     s.baudrate = v.baudrate
     s.enabled = v.enabled
     return address
@@ -2818,14 +2818,14 @@ def to_c_InterfaceConfigurationEntry(lib: Any, v: Optional[records.InterfaceConf
         return 0
     address = heap_block(lib, ctypes.sizeof(C_InterfaceConfigurationEntry))
     s = C_InterfaceConfigurationEntry.from_address(address)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.text3 = lib.duplicate_WString(v.text3)
-    s.text4 = lib.duplicate_WString(v.text4)
-    s.text5 = lib.duplicate_WString(v.text5)
-    s.value = v.value
-    s.flag = v.flag
-    s.items, s.itemCount = heap_list(lib, v.items, to_c_ResourceInformation)
+    s.text1 = lib.duplicate_WString(v.name)
+    s.text2 = lib.duplicate_WString(v.long_name)
+    s.text3 = lib.duplicate_WString(v.vendor)
+    s.text4 = lib.duplicate_WString(v.kind)
+    s.text5 = lib.duplicate_WString(v.address)
+    s.value = v.ethernet_pin_state
+    s.flag = v.enabled
+    s.items, s.itemCount = heap_list(lib, v.resources, to_c_ResourceInformation)
     return address
 
 
@@ -2834,13 +2834,13 @@ def to_c_InterfaceProvider(lib: Any, v: Optional[records.InterfaceProvider]) -> 
         return 0
     address = heap_block(lib, ctypes.sizeof(C_InterfaceProvider))
     s = C_InterfaceProvider.from_address(address)
-    s.itemText1 = lib.duplicate_WString(v.item_text1)
-    s.itemText2 = lib.duplicate_WString(v.item_text2)
-    s.itemText3 = lib.duplicate_WString(v.item_text3)
-    s.itemText4 = lib.duplicate_WString(v.item_text4)
-    s.text = lib.duplicate_WString(v.text)
-    s.value = v.value
-    s.flag = v.flag
+    s.itemText1 = lib.duplicate_WString(v.name)
+    s.itemText2 = lib.duplicate_WString(v.description)
+    s.itemText3 = lib.duplicate_WString(v.vendor)
+    s.itemText4 = lib.duplicate_WString(v.version)
+    s.text = lib.duplicate_WString(v.library)
+    s.value = v.priority
+    s.flag = v.enabled
     return address
 
 
@@ -2849,11 +2849,11 @@ def to_c_DoIPParameter(lib: Any, v: Optional[records.DoIPParameter]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_DoIPParameter))
     s = C_DoIPParameter.from_address(address)
-    s.value1 = v.value1
-    s.value2 = v.value2
-    s.text = lib.duplicate_WString(v.text)
-    s.value3 = v.value3
-    s.strings, s.stringCount = heap_texts(lib, v.strings, False)
+    s.value1 = v.discovery_port
+    s.value2 = v.announcement_wait_ms
+    s.text = lib.duplicate_WString(v.broadcast_address)
+    s.value3 = v.tcp_port
+    s.strings, s.stringCount = heap_texts(lib, v.adapters, False)
     return address
 
 
@@ -2862,18 +2862,18 @@ def to_c_WLanSignalData(lib: Any, v: Optional[records.WLanSignalData]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_WLanSignalData))
     s = C_WLanSignalData.from_address(address)
-    s.value1 = v.value1
-    s.value2 = v.value2
-    s.value3 = v.value3
-    s.value4 = v.value4
-    s.value5 = v.value5
-    s.value6 = v.value6
-    s.value7 = v.value7
-    s.value8 = v.value8
-    s.value9 = v.value9
-    s.value10 = v.value10
-    s.value11 = v.value11
-    s.text = lib.duplicate_WString(v.text)
+    s.value1 = v.quality
+    s.value2 = v.signal_dbm_below_zero
+    s.value3 = v.noise_dbm_below_zero
+    s.value4 = v.channel
+    s.value5 = v.frequency_mhz
+    s.value6 = v.bytes_received
+    s.value7 = v.transmit_rate_mbits
+    s.value8 = v.receive_rate_mbits
+    s.value9 = v.retransmissions
+    s.value10 = v.lost_beacons
+    s.value11 = v.channel_width_mhz
+    s.text = lib.duplicate_WString(v.ssid)
     return address
 
 
@@ -2882,11 +2882,11 @@ def to_c_SupportedInterface(lib: Any, v: Optional[records.SupportedInterface]) -
         return 0
     address = heap_block(lib, ctypes.sizeof(C_SupportedInterface))
     s = C_SupportedInterface.from_address(address)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.names, s.nameCount = heap_texts(lib, v.names, False)
-    s.value = v.value
-    s.text3 = lib.duplicate_WString(v.text3)
+    s.text1 = lib.duplicate_WString(v.kind)
+    s.text2 = lib.duplicate_WString(v.description)
+    s.names, s.nameCount = heap_texts(lib, v.protocols, False)
+    s.value = v.max_interfaces
+    s.text3 = lib.duplicate_WString(v.vendor_module)
     return address
 
 
@@ -2895,16 +2895,16 @@ def to_c_MonitoringItem(lib: Any, v: Optional[records.MonitoringItem]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_MonitoringItem))
     s = C_MonitoringItem.from_address(address)
-    s.text1 = lib.duplicate_WString(v.text1)
+    s.text1 = lib.duplicate_WString(v.unit)
     s.data, s.dataLength = heap_bytes(lib, v.data)
-    s.value1 = v.value1
-    s.value2 = v.value2
-    s.flag1 = v.flag1
-    s.flag2 = v.flag2
-    s.flag3 = v.flag3
-    s.value3 = v.value3
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.value4 = v.value4
+    s.value1 = v.time
+    s.value2 = v.number
+    s.flag1 = v.answered
+    s.flag2 = v.positive
+    s.flag3 = v.replayed
+    s.value3 = v.nrc
+    s.text2 = lib.duplicate_WString(v.source)
+    s.value4 = v.service_id
     s.detail = to_c_MonitoringItemDetail(lib, v.detail)
     return address
 
@@ -2915,7 +2915,7 @@ def to_c_MonitoringItemDetail(lib: Any, v: Optional[records.MonitoringItemDetail
     address = heap_block(lib, ctypes.sizeof(C_MonitoringItemDetail))
     s = C_MonitoringItemDetail.from_address(address)
     s.response, s.responseLength = heap_bytes(lib, v.response)
-    s.text = lib.duplicate_WString(v.text)
+    s.text = lib.duplicate_WString(v.summary)
     return address
 
 
@@ -2924,13 +2924,13 @@ def to_c_PduMonitoringItem(lib: Any, v: Optional[records.PduMonitoringItem]) -> 
         return 0
     address = heap_block(lib, ctypes.sizeof(C_PduMonitoringItem))
     s = C_PduMonitoringItem.from_address(address)
-    s.value1 = v.value1
+    s.value1 = v.direction
     s.data, s.dataLength = heap_bytes(lib, v.data)
     s.detail = to_c_PduMonitoringItemDetail(lib, v.detail)
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.value2 = v.value2
-    s.text3 = lib.duplicate_WString(v.text3)
+    s.text1 = lib.duplicate_WString(v.unit)
+    s.text2 = lib.duplicate_WString(v.direction_text)
+    s.value2 = v.time
+    s.text3 = lib.duplicate_WString(v.hex)
     return address
 
 
@@ -2951,12 +2951,12 @@ def to_c_FileInfo(lib: Any, v: Optional[records.FileInfo]) -> int:
     s = C_FileInfo.from_address(address)
     s.name = lib.duplicate_WString(v.name)
     s.error = to_c_KelError(lib, v.error)
-    s.flag = v.flag
-    s.value1 = v.value1
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
-    s.value2 = v.value2
-    s.value3 = v.value3
+    s.flag = v.read_only
+    s.value1 = v.attributes
+    s.text1 = lib.duplicate_WString(v.path)
+    s.text2 = lib.duplicate_WString(v.modified)
+    s.value2 = v.size
+    s.value3 = v.modified_ms
     return address
 
 
@@ -2967,13 +2967,13 @@ def to_c_DirectoryInfo(lib: Any, v: Optional[records.DirectoryInfo]) -> int:
     s = C_DirectoryInfo.from_address(address)
     s.name = lib.duplicate_WString(v.name)
     s.error = to_c_KelError(lib, v.error)
-    s.flag = v.flag
-    s.value1 = v.value1
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
+    s.flag = v.read_only
+    s.value1 = v.attributes
+    s.text1 = lib.duplicate_WString(v.path)
+    s.text2 = lib.duplicate_WString(v.modified)
     s.files, s.fileCount = heap_list(lib, v.files, to_c_FileInfo)
     s.directories, s.directoryCount = heap_list(lib, v.directories, to_c_DirectoryInfo)
-    s.flag2 = v.flag2
+    s.flag2 = v.contents_read
     return address
 
 
@@ -2982,11 +2982,11 @@ def to_c_FileCopyResult(lib: Any, v: Optional[records.FileCopyResult]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_FileCopyResult))
     s = C_FileCopyResult.from_address(address)
-    s.value1 = v.value1
-    s.text = lib.duplicate_WString(v.text)
+    s.value1 = v.failed
+    s.text = lib.duplicate_WString(v.source)
     s.error = to_c_KelError(lib, v.error)
     s.file = to_c_FileInfo(lib, v.file)
-    s.value2 = v.value2
+    s.value2 = v.index
     return address
 
 
@@ -2995,8 +2995,8 @@ def to_c_DirectoryCopyResult(lib: Any, v: Optional[records.DirectoryCopyResult])
         return 0
     address = heap_block(lib, ctypes.sizeof(C_DirectoryCopyResult))
     s = C_DirectoryCopyResult.from_address(address)
-    s.value1 = v.value1
-    s.text = lib.duplicate_WString(v.text)
+    s.value1 = v.outcome
+    s.text = lib.duplicate_WString(v.source)
     s.error = to_c_KelError(lib, v.error)
     s.directory = to_c_DirectoryCopyItem(lib, v.directory)
     return address
@@ -3021,9 +3021,9 @@ def to_c_PathCopyResult(lib: Any, v: Optional[records.PathCopyResult]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_PathCopyResult))
     s = C_PathCopyResult.from_address(address)
-    s.value1 = v.value1
+    s.value1 = v.failed
     s.error = to_c_KelError(lib, v.error)
-    s.value2 = v.value2
+    s.value2 = v.is_directory
     s.item = to_c_PathCopyItem(lib, v.item)
     return address
 
@@ -3090,8 +3090,8 @@ def to_c_UserInfo(lib: Any, v: Optional[records.UserInfo]) -> int:
     address = heap_block(lib, ctypes.sizeof(C_UserInfo))
     s = C_UserInfo.from_address(address)
     s.name = lib.duplicate_WString(v.name)
-    s.text = lib.duplicate_WString(v.text)
-    s.value = v.value
+    s.text = lib.duplicate_WString(v.role_name)
+    s.value = v.role
     return address
 
 
@@ -3111,15 +3111,15 @@ def to_c_TarnApiServerConfig(lib: Any, v: Optional[records.TarnApiServerConfig])
     address = heap_block(lib, ctypes.sizeof(C_TarnApiServerConfig))
     s = C_TarnApiServerConfig.from_address(address)
     s.users, s.userCount = heap_list(lib, v.users, to_c_UserInfo)
-    s.flag = v.flag
-    s.value1 = v.value1
-    s.text1 = lib.duplicate_WString(v.text1)
-    s.text2 = lib.duplicate_WString(v.text2)
+    s.flag = v.user_management
+    s.value1 = v.connections
+    s.text1 = lib.duplicate_WString(v.address)
+    s.text2 = lib.duplicate_WString(v.sovd_address)
     s.filters, s.filterCount = heap_list(lib, v.filters, to_c_FileFilter)
-    s.text3 = lib.duplicate_WString(v.text3)
-    s.text4 = lib.duplicate_WString(v.text4)
-    s.users2, s.userCount2 = heap_list(lib, v.users2, to_c_UserInfo)
-    s.value2 = v.value2
+    s.text3 = lib.duplicate_WString(v.identity_provider)
+    s.text4 = lib.duplicate_WString(v.login_address)
+    s.users2, s.userCount2 = heap_list(lib, v.logged_in, to_c_UserInfo)
+    s.value2 = v.login_attempts
     return address
 
 
@@ -3128,10 +3128,10 @@ def to_c_ServerSettings(lib: Any, v: Optional[records.ServerSettings]) -> int:
         return 0
     address = heap_block(lib, ctypes.sizeof(C_ServerSettings))
     s = C_ServerSettings.from_address(address)
-    s.flag = v.flag
-    s.value1 = v.value1
-    s.value2 = v.value2
-    s.value3 = v.value3
+    s.flag = v.running
+    s.value1 = v.connections
+    s.value2 = v.users
+    s.value3 = v.sovd_running
     return address
 
 

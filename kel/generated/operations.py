@@ -410,19 +410,20 @@ class Operations:
         """
         return self._start(c_records.start_clearAllDtcsAsync, c_records.from_c_ClearDtcResult, "release_ClearDtcResult_array", targets)
 
-    def get_service_infos(self, text1: str, text2: str, names: Sequence[str], value: int) -> list[Optional[records.ServiceInfo]]:
+    def get_service_infos(self, target: str, pattern: str, names: Sequence[str], service_id: int) -> list[Optional[records.ServiceInfo]]:
         """Describes services with their responses and parameters; the texts, names and
         value select them as the engine defines.
 
-        C: kel_getServiceInfos; number 29; engine position 29.
+        C: kel_getServiceInfos; number 29; engine position 29 (target is text1,
+        pattern is text2, service_id is value).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_text(_o, text1)
-        stream.write_text(_o, text2)
+        stream.write_text(_o, target)
+        stream.write_text(_o, pattern)
         stream.write_texts(_o, names)
-        _o += struct.pack("<i", value)
+        _o += struct.pack("<i", service_id)
         _b = self._call(29, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -651,17 +652,18 @@ class Operations:
         _o = bytearray()
         self._call(128, builtins.bytes(_o))
 
-    def create_seed(self, value1: int, value2: int) -> builtins.bytes:
-        """Asks for the seed of a security access; the two values reach the engine in
-        this order.
+    def create_seed(self, address: int, level: int) -> builtins.bytes:
+        """Asks the unit at the diagnostic address (a Target's address) for the seed of
+        a security access at the given level; sendKey answers it.
 
-        C: kel_createSeed; number 43; engine position 44.
+        C: kel_createSeed; number 43; engine position 44 (address is value1, level
+        is value2).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _o += struct.pack("<I", value1)
-        _o += struct.pack("<I", value2)
+        _o += struct.pack("<I", address)
+        _o += struct.pack("<I", level)
         _b = self._call(43, builtins.bytes(_o))
         return _b[4:]
 
@@ -852,19 +854,21 @@ class Operations:
         """
         return self._start(c_records.start_readMeasurementValuesAsync, c_records.from_c_ReadDataResult, "release_ReadDataResult_array", target, names)
 
-    def read_file(self, path: str, value1: int, value2: int, flag: bool) -> builtins.bytes:
-        """Reads a file; the two values and the flag are passed to the engine
-        unchanged.
+    def read_file(self, path: str, offset: int, length: int, exact: bool) -> builtins.bytes:
+        """Reads a file from offset on: length bytes, or to the end when length is 0;
+        with exact, asking past the end is an error, otherwise what is there comes
+        back.
 
-        C: kel_readFile; number 77; engine position 60.
+        C: kel_readFile; number 77; engine position 60 (offset is value1, length is
+        value2, exact is flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
         stream.write_text(_o, path)
-        _o += struct.pack("<Q", value1)
-        _o += struct.pack("<I", value2)
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<Q", offset)
+        _o += struct.pack("<I", length)
+        _o += struct.pack("<?", exact)
         _b = self._call(77, builtins.bytes(_o))
         return _b[4:]
 
@@ -969,17 +973,18 @@ class Operations:
         _o += struct.pack("<Q", bridge)
         self._call(93, builtins.bytes(_o))
 
-    def create_socket_bridge(self, value1: int, value2: int) -> int:
+    def create_socket_bridge(self, local_port: int, logical_address: int) -> int:
         """Opens a socket bridge and returns its identifier; the two values are passed
         to the engine unchanged.
 
-        C: kel_createSocketBridge; number 92; engine position 69.
+        C: kel_createSocketBridge; number 92; engine position 69 (local_port is
+        value1, logical_address is value2).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _o += struct.pack("<I", value1)
-        _o += struct.pack("<I", value2)
+        _o += struct.pack("<I", local_port)
+        _o += struct.pack("<I", logical_address)
         _b = self._call(92, builtins.bytes(_o))
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
@@ -1354,44 +1359,48 @@ class Operations:
         stream.write_values(_o, "Q", call_ids)
         self._call(42, builtins.bytes(_o))
 
-    def get_project_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
+    def get_project_directory(self, recursive: bool) -> Optional[records.DirectoryInfo]:
         """Reads the project directory as a tree.
 
-        C: kel_getProjectDirectory; number 129; engine position 100.
+        C: kel_getProjectDirectory; number 129; engine position 100 (recursive is
+        flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<?", recursive)
         _b = self._call(129, builtins.bytes(_o))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
 
-    def get_selected_project_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
+    def get_selected_project_directory(self, recursive: bool) -> Optional[records.DirectoryInfo]:
         """Reads the selected project's directory as a tree.
 
-        C: kel_getSelectedProjectDirectory; number 130; engine position 101.
+        C: kel_getSelectedProjectDirectory; number 130; engine position 101
+        (recursive is flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<?", recursive)
         _b = self._call(130, builtins.bytes(_o))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
 
-    def write_file(self, path: str, data: builtins.bytes, value: int, flag: bool) -> int:
-        """Writes bytes to a file; returns the engine's 32-bit result.
+    def write_file(self, path: str, data: builtins.bytes, mode: int, make_directories: bool) -> int:
+        """Writes bytes to a file: mode 0 replaces it, 1 appends, 2 creates only; with
+        makeDirectories, missing directories are made. Returns the bytes written.
 
-        C: kel_writeFile; number 135; engine position 102.
+        C: kel_writeFile; number 135; engine position 102 (mode is value,
+        make_directories is flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
         stream.write_text(_o, path)
         stream.write_bytes(_o, data)
-        _o += struct.pack("<I", value)
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<I", mode)
+        _o += struct.pack("<?", make_directories)
         _b = self._call(135, builtins.bytes(_o))
         _value: int = struct.unpack_from("<I", _b)[0]
         return _value
@@ -1412,17 +1421,17 @@ class Operations:
         with self._decoding(_b):
             return stream.read_KelError(_b, 0)[0]
 
-    def find_directories(self, directory: Optional[records.DirectoryInfo], pattern: str, flag: bool) -> list[Optional[records.DirectoryInfo]]:
+    def find_directories(self, directory: Optional[records.DirectoryInfo], pattern: str, recursive: bool) -> list[Optional[records.DirectoryInfo]]:
         """Finds the directories below a directory whose names match a pattern.
 
-        C: kel_findDirectories; number 139; engine position 104.
+        C: kel_findDirectories; number 139; engine position 104 (recursive is flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
         stream.write_DirectoryInfo(_o, directory)
         stream.write_text(_o, pattern)
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<?", recursive)
         _b = self._call(139, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -1433,17 +1442,17 @@ class Operations:
                 _results.append(_r)
             return _results
 
-    def find_files(self, directory: str, pattern: str, flag: bool) -> list[Optional[records.FileInfo]]:
+    def find_files(self, directory: str, pattern: str, recursive: bool) -> list[Optional[records.FileInfo]]:
         """Finds the files in a directory whose names match a pattern.
 
-        C: kel_findFiles; number 140; engine position 105.
+        C: kel_findFiles; number 140; engine position 105 (recursive is flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
         stream.write_text(_o, directory)
         stream.write_text(_o, pattern)
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<?", recursive)
         _b = self._call(140, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -1454,16 +1463,17 @@ class Operations:
                 _results.append(_r)
             return _results
 
-    def initialize_directory_elements(self, directory: Optional[records.DirectoryInfo], flag: bool) -> Optional[records.DirectoryInfo]:
+    def initialize_directory_elements(self, directory: Optional[records.DirectoryInfo], recursive: bool) -> Optional[records.DirectoryInfo]:
         """Fills in the files and sub-directories of a directory.
 
-        C: kel_initializeDirectoryElements; number 141; engine position 106.
+        C: kel_initializeDirectoryElements; number 141; engine position 106
+        (recursive is flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
         stream.write_DirectoryInfo(_o, directory)
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<?", recursive)
         _b = self._call(141, builtins.bytes(_o))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
@@ -1510,15 +1520,16 @@ class Operations:
         with self._decoding(_b):
             return stream.read_KelError(_b, 0)[0]
 
-    def get_trace_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
+    def get_trace_directory(self, recursive: bool) -> Optional[records.DirectoryInfo]:
         """Reads the trace directory as a tree.
 
-        C: kel_getTraceDirectory; number 136; engine position 110.
+        C: kel_getTraceDirectory; number 136; engine position 110 (recursive is
+        flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<?", recursive)
         _b = self._call(136, builtins.bytes(_o))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
@@ -1933,17 +1944,18 @@ class Operations:
         with self._decoding(_b):
             return stream.read_UnlockResult(_b, 0)[0]
 
-    def release_vehicle_unlock(self, value: int) -> None:
+    def release_vehicle_unlock(self, unlock: int) -> None:
         """Releases a vehicle unlock; value is passed to the engine unchanged. Through
         kel_call (number 179) the answer is the status byte alone; py_call writes no
         result.
 
-        C: kel_releaseVehicleUnlock; number 179; engine position 147.
+        C: kel_releaseVehicleUnlock; number 179; engine position 147 (unlock is
+        value).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _o += struct.pack("<Q", value)
+        _o += struct.pack("<Q", unlock)
         self._call(179, builtins.bytes(_o))
 
     def cancel_sequence(self, run: int) -> None:
@@ -2079,15 +2091,16 @@ class Operations:
         _b = self._call(175, builtins.bytes(_o))
         return _b[0] != 0
 
-    def get_config_directory(self, flag: bool) -> Optional[records.DirectoryInfo]:
+    def get_config_directory(self, recursive: bool) -> Optional[records.DirectoryInfo]:
         """Reads the configuration directory as a tree.
 
-        C: kel_getConfigDirectory; number 131; engine position 158.
+        C: kel_getConfigDirectory; number 131; engine position 158 (recursive is
+        flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<?", recursive)
         _b = self._call(131, builtins.bytes(_o))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
@@ -2260,10 +2273,10 @@ class Operations:
         _b = self._call(199, builtins.bytes(_o))
         return _b[0] != 0
 
-    def filter_files(self, filters: Sequence[Optional[records.FileFilter]], text: str) -> list[str]:
+    def filter_files(self, filters: Sequence[Optional[records.FileFilter]], directory: str) -> list[str]:
         """Lists the files that pass the given file filters.
 
-        C: kel_filterFiles; number 204; engine position 173.
+        C: kel_filterFiles; number 204; engine position 173 (directory is text).
 
         Raises EngineError when the engine reports a failure.
         """
@@ -2271,7 +2284,7 @@ class Operations:
         _o += struct.pack("<I", len(filters))
         for _e in filters:
             stream.write_FileFilter(_o, _e)
-        stream.write_text(_o, text)
+        stream.write_text(_o, directory)
         _b = self._call(204, builtins.bytes(_o))
         return stream.read_texts(_b, 0)[0]
 
@@ -2598,16 +2611,17 @@ class Operations:
         _b = self._call(231, builtins.bytes(_o))
         return _b[0] != 0
 
-    def get_directory_info(self, path: str, flag: bool) -> Optional[records.DirectoryInfo]:
+    def get_directory_info(self, path: str, recursive: bool) -> Optional[records.DirectoryInfo]:
         """Reads a directory as a tree.
 
-        C: kel_getDirectoryInfo; number 232; engine position 201.
+        C: kel_getDirectoryInfo; number 232; engine position 201 (recursive is
+        flag).
 
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
         stream.write_text(_o, path)
-        _o += struct.pack("<?", flag)
+        _o += struct.pack("<?", recursive)
         _b = self._call(232, builtins.bytes(_o))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]

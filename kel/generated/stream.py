@@ -176,7 +176,7 @@ def read_NegativeResponse(b: bytes, p: int) -> tuple[Optional[NegativeResponse],
     (n,) = _u32_read(b, p)
     v_bytes = b[p + 4 : p + 4 + n]
     p += 4 + n
-    return NegativeResponse(code=v_code, text=v_text, value1=v_value1, value2=v_value2, bytes=v_bytes), p
+    return NegativeResponse(code=v_code, name=v_text, service_id=v_value1, value2=v_value2, bytes=v_bytes), p
 
 
 def read_KelError(b: bytes, p: int) -> tuple[Optional[KelError], int]:
@@ -214,7 +214,7 @@ def read_NamedItem(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
     (n,) = _u32_read(b, p)
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return NamedItem(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
+    return NamedItem(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
 
 
 def read_ParameterResult(b: bytes, p: int) -> tuple[Optional[ParameterResult], int]:
@@ -261,7 +261,7 @@ def read_ParameterResult(b: bytes, p: int) -> tuple[Optional[ParameterResult], i
     p += 4 + n
     v_value3, v_flag, v_value4 = _S_IBi_read(b, p)
     p += 9
-    return ParameterResult(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text1=v_text1, text2=v_text2, value1=v_value1, children=v_children, text3=v_text3, error=v_error, text4=v_text4, value2=v_value2, data=v_data, value3=v_value3, flag=v_flag, value4=v_value4), p
+    return ParameterResult(name=v_item_text1, description=v_item_text2, codec=v_item_text3, item_text4=v_item_text4, value=v_text1, unit=v_text2, child_count=v_value1, children=v_children, text3=v_text3, error=v_error, text4=v_text4, byte_position=v_value2, data=v_data, data_length=v_value3, flag=v_flag, value4=v_value4), p
 
 
 def read_ClearDtcResult(b: bytes, p: int) -> tuple[Optional[ClearDtcResult], int]:
@@ -283,7 +283,7 @@ def read_DtcReadConfig(b: bytes, p: int) -> tuple[Optional[DtcReadConfig], int]:
     p += 1
     v_value, v_flag1, v_flag2, v_flag3 = _S_iBBB_read(b, p)
     p += 7
-    return DtcReadConfig(value=v_value, flag1=v_flag1, flag2=v_flag2, flag3=v_flag3), p
+    return DtcReadConfig(status_mask=v_value, with_snapshots=v_flag1, with_extended_data=v_flag2, with_special_data=v_flag3), p
 
 
 def read_ReadDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
@@ -304,7 +304,7 @@ def read_ReadDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
         v_dtcs.append(e_v_dtcs)
     v_value, = _S_i_read(b, p)
     p += 4
-    return ReadDtcResult(status=v_status, target=v_target, error=v_error, dtcs=v_dtcs, value=v_value), p
+    return ReadDtcResult(status=v_status, target=v_target, error=v_error, dtcs=v_dtcs, dtc_total=v_value), p
 
 
 def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
@@ -347,7 +347,7 @@ def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
         v_special_data_groups.append(e_v_special_data_groups)
     v_value2, = _S_i_read(b, p)
     p += 4
-    return DtcResult(code=v_code, text1=v_text1, text2=v_text2, value1=v_value1, parameters1=v_parameters1, parameters2=v_parameters2, text3=v_text3, text4=v_text4, special_data_groups=v_special_data_groups, value2=v_value2), p
+    return DtcResult(code=v_code, display_code=v_text1, description=v_text2, status=v_value1, snapshots=v_parameters1, extended_data=v_parameters2, ecu=v_text3, symptom=v_text4, special_data_groups=v_special_data_groups, severity=v_value2), p
 
 
 def read_SpecialDataGroup(b: bytes, p: int) -> tuple[Optional[SpecialDataGroup], int]:
@@ -398,7 +398,7 @@ def read_ReadDataResult(b: bytes, p: int) -> tuple[Optional[ReadDataResult], int
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
         v_parameters.append(e_v_parameters)
-    return ReadDataResult(target=v_target, status=v_status, text=v_text, error=v_error, parameters=v_parameters), p
+    return ReadDataResult(target=v_target, status=v_status, variant=v_text, error=v_error, parameters=v_parameters), p
 
 
 def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
@@ -443,7 +443,7 @@ def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
     (n,) = _u32_read(b, p)
     v_text5 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return Target(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, value1=v_value1, text1=v_text1, text2=v_text2, items=v_items, names=v_names, text3=v_text3, text4=v_text4, value2=v_value2, text5=v_text5), p
+    return Target(name=v_item_text1, description=v_item_text2, variant=v_item_text3, item_text4=v_item_text4, address=v_value1, protocol=v_text1, bus=v_text2, items=v_items, aliases=v_names, part_number=v_text3, software_version=v_text4, responds=v_value2, hardware_version=v_text5), p
 
 
 def read_TargetStatus(b: bytes, p: int) -> tuple[Optional[TargetStatus], int]:
@@ -462,7 +462,7 @@ def read_TargetStatus(b: bytes, p: int) -> tuple[Optional[TargetStatus], int]:
     (n,) = _u32_read(b, p)
     v_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return TargetStatus(target=v_target, text=v_text, error=v_error, values=v_values, text2=v_text2), p
+    return TargetStatus(target=v_target, state=v_text, error=v_error, counts=v_values, variant=v_text2), p
 
 
 def read_TargetFilter(b: bytes, p: int) -> tuple[Optional[TargetFilter], int]:
@@ -474,7 +474,7 @@ def read_TargetFilter(b: bytes, p: int) -> tuple[Optional[TargetFilter], int]:
     p += 4 + n
     v_flag, v_value = _S_Bi_read(b, p)
     p += 5
-    return TargetFilter(pattern=v_pattern, flag=v_flag, value=v_value), p
+    return TargetFilter(pattern=v_pattern, exclude=v_flag, tag=v_value), p
 
 
 def read_ParameterInput(b: bytes, p: int) -> tuple[Optional[ParameterInput], int]:
@@ -548,7 +548,7 @@ def read_ServiceResult(b: bytes, p: int) -> tuple[Optional[ServiceResult], int]:
     v_request, p = read_RequestResult(b, p)
     v_value1, = _S_i_read(b, p)
     p += 4
-    return ServiceResult(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, responses=v_responses, status=v_status, text1=v_text1, error=v_error, request=v_request, value1=v_value1), p
+    return ServiceResult(service=v_item_text1, target=v_item_text2, description=v_item_text3, session=v_item_text4, responses=v_responses, status=v_status, outcome=v_text1, error=v_error, request=v_request, service_id=v_value1), p
 
 
 def read_ResponseResult(b: bytes, p: int) -> tuple[Optional[ResponseResult], int]:
@@ -581,7 +581,7 @@ def read_ResponseResult(b: bytes, p: int) -> tuple[Optional[ResponseResult], int
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
         v_parameters.append(e_v_parameters)
-    return ResponseResult(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, flag=v_flag, error=v_error, data=v_data, value1=v_value1, value2=v_value2, parameters=v_parameters), p
+    return ResponseResult(kind=v_item_text1, target=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, positive=v_flag, error=v_error, data=v_data, time=v_value1, nrc=v_value2, parameters=v_parameters), p
 
 
 def read_RequestResult(b: bytes, p: int) -> tuple[Optional[RequestResult], int]:
@@ -600,7 +600,7 @@ def read_RequestResult(b: bytes, p: int) -> tuple[Optional[RequestResult], int]:
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
         v_parameters.append(e_v_parameters)
-    return RequestResult(error=v_error, data=v_data, value1=v_value1, value2=v_value2, parameters=v_parameters), p
+    return RequestResult(error=v_error, data=v_data, time=v_value1, value2=v_value2, parameters=v_parameters), p
 
 
 def read_UnlockResult(b: bytes, p: int) -> tuple[Optional[UnlockResult], int]:
@@ -615,7 +615,7 @@ def read_UnlockResult(b: bytes, p: int) -> tuple[Optional[UnlockResult], int]:
     for _ in range(n):
         e_v_services, p = read_ServiceResult(b, p)
         v_services.append(e_v_services)
-    return UnlockResult(value=v_value, services=v_services), p
+    return UnlockResult(unlock=v_value, services=v_services), p
 
 
 def read_ServiceInfo(b: bytes, p: int) -> tuple[Optional[ServiceInfo], int]:
@@ -660,7 +660,7 @@ def read_ServiceInfo(b: bytes, p: int) -> tuple[Optional[ServiceInfo], int]:
     v_error, p = read_KelError(b, p)
     v_values = list(_S_5I_read(b, p))
     p += 20
-    return ServiceInfo(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, flag=v_flag, responses=v_responses, parameters=v_parameters, text1=v_text1, items=v_items, error=v_error, values=v_values), p
+    return ServiceInfo(name=v_item_text1, description=v_item_text2, service_id=v_item_text3, target=v_item_text4, available=v_flag, responses=v_responses, parameters=v_parameters, uds_service=v_text1, sessions=v_items, error=v_error, numbers=v_values), p
 
 
 def read_ResponseInfo(b: bytes, p: int) -> tuple[Optional[ResponseInfo], int]:
@@ -687,7 +687,7 @@ def read_ResponseInfo(b: bytes, p: int) -> tuple[Optional[ResponseInfo], int]:
     for _ in range(n):
         e_v_parameters, p = read_ParameterInfo(b, p)
         v_parameters.append(e_v_parameters)
-    return ResponseInfo(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, status=v_status, parameters=v_parameters), p
+    return ResponseInfo(kind=v_item_text1, first_byte=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, status=v_status, parameters=v_parameters), p
 
 
 def read_ParameterInfo(b: bytes, p: int) -> tuple[Optional[ParameterInfo], int]:
@@ -750,7 +750,7 @@ def read_ParameterInfo(b: bytes, p: int) -> tuple[Optional[ParameterInfo], int]:
     v_flag4, = _S_b_read(b, p)
     p += 1
     v_unit, p = read_UnitInfo(b, p)
-    return ParameterInfo(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text1=v_text1, text2=v_text2, text3=v_text3, value1=v_value1, text4=v_text4, children=v_children, text5=v_text5, names=v_names, flag1=v_flag1, value2=v_value2, error=v_error, flag2=v_flag2, values=v_values, flag3=v_flag3, constraint1=v_constraint1, constraint2=v_constraint2, text6=v_text6, text7=v_text7, flag4=v_flag4, unit=v_unit), p
+    return ParameterInfo(name=v_item_text1, description=v_item_text2, codec=v_item_text3, item_text4=v_item_text4, default_value=v_text1, unit_text=v_text2, data_type=v_text3, byte_position=v_value1, path=v_text4, children=v_children, scaling=v_text5, choices=v_names, constant=v_flag1, byte_length=v_value2, error=v_error, required=v_flag2, numbers=v_values, structure=v_flag3, valid_values=v_constraint1, raw_range=v_constraint2, minimum=v_text6, maximum=v_text7, repeated=v_flag4, unit=v_unit), p
 
 
 def read_ConstraintInfo(b: bytes, p: int) -> tuple[Optional[ConstraintInfo], int]:
@@ -771,7 +771,7 @@ def read_ConstraintInfo(b: bytes, p: int) -> tuple[Optional[ConstraintInfo], int
     for _ in range(n):
         e_v_scales, p = read_ScaleConstraintInfo(b, p)
         v_scales.append(e_v_scales)
-    return ConstraintInfo(text1=v_text1, text2=v_text2, flag=v_flag, scales=v_scales), p
+    return ConstraintInfo(kind=v_text1, scale=v_text2, present=v_flag, scales=v_scales), p
 
 
 def read_ScaleConstraintInfo(b: bytes, p: int) -> tuple[Optional[ScaleConstraintInfo], int]:
@@ -798,7 +798,7 @@ def read_ScaleConstraintInfo(b: bytes, p: int) -> tuple[Optional[ScaleConstraint
     p += 4 + n
     v_flag, v_value = _S_bi_read(b, p)
     p += 5
-    return ScaleConstraintInfo(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text1=v_text1, text2=v_text2, flag=v_flag, value=v_value), p
+    return ScaleConstraintInfo(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, lower=v_text1, upper=v_text2, inclusive=v_flag, raw_value=v_value), p
 
 
 def read_UnitInfo(b: bytes, p: int) -> tuple[Optional[UnitInfo], int]:
@@ -809,7 +809,7 @@ def read_UnitInfo(b: bytes, p: int) -> tuple[Optional[UnitInfo], int]:
     p += 28
     v_value1, v_flag1, v_value2, v_flag2 = _S_QbQb_read(b, p)
     p += 18
-    return UnitInfo(values=v_values, value1=v_value1, flag1=v_flag1, value2=v_value2, flag2=v_flag2), p
+    return UnitInfo(exponents=v_values, factor_bits=v_value1, known=v_flag1, offset_bits=v_value2, has_offset=v_flag2), p
 
 
 def read_ParameterInfoConfig(b: bytes, p: int) -> tuple[Optional[ParameterInfoConfig], int]:
@@ -830,7 +830,7 @@ def read_ParameterInfoConfig(b: bytes, p: int) -> tuple[Optional[ParameterInfoCo
     (n,) = _u32_read(b, p)
     v_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return ParameterInfoConfig(text1=v_text1, text2=v_text2, value=v_value, text3=v_text3, text4=v_text4), p
+    return ParameterInfoConfig(target=v_text1, service=v_text2, in_response=v_value, path=v_text3, text4=v_text4), p
 
 
 def read_KelEvent(b: bytes, p: int) -> tuple[Optional[KelEvent], int]:
@@ -849,7 +849,7 @@ def read_KelEvent(b: bytes, p: int) -> tuple[Optional[KelEvent], int]:
     (n,) = _u32_read(b, p)
     v_detail = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return KelEvent(name=v_name, kind=v_kind, code=v_code, text=v_text, error=v_error, detail=v_detail), p
+    return KelEvent(name=v_name, kind=v_kind, code=v_code, message=v_text, error=v_error, detail=v_detail), p
 
 
 def read_EventReport(b: bytes, p: int) -> tuple[Optional[EventReport], int]:
@@ -874,7 +874,7 @@ def read_FileFilter(b: bytes, p: int) -> tuple[Optional[FileFilter], int]:
     p += 4 + n
     v_flag, v_value = _S_bI_read(b, p)
     p += 5
-    return FileFilter(pattern=v_pattern, flag=v_flag, value=v_value), p
+    return FileFilter(pattern=v_pattern, exclude=v_flag, value=v_value), p
 
 
 def read_TargetConfig(b: bytes, p: int) -> tuple[Optional[TargetConfig], int]:
@@ -945,7 +945,7 @@ def read_ProjectConfig(b: bytes, p: int) -> tuple[Optional[ProjectConfig], int]:
     p += 8
     v_flags = list(_S_4b_read(b, p))
     p += 4
-    return ProjectConfig(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, filters1=v_filters1, value0=v_value0, targets=v_targets, filters2=v_filters2, strings1=v_strings1, text1=v_text1, value1=v_value1, text2=v_text2, strings2=v_strings2, text3=v_text3, value2=v_value2, value3=v_value3, flags=v_flags), p
+    return ProjectConfig(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, filters1=v_filters1, value0=v_value0, targets=v_targets, filters2=v_filters2, strings1=v_strings1, text1=v_text1, value1=v_value1, text2=v_text2, strings2=v_strings2, text3=v_text3, value2=v_value2, value3=v_value3, flags=v_flags), p
 
 
 def read_ProjectDetails(b: bytes, p: int) -> tuple[Optional[ProjectDetails], int]:
@@ -980,7 +980,7 @@ def read_ProjectDetails(b: bytes, p: int) -> tuple[Optional[ProjectDetails], int
     for _ in range(n):
         e_v_users, p = read_UserInfo(b, p)
         v_users.append(e_v_users)
-    return ProjectDetails(db_files1=v_db_files1, db_files2=v_db_files2, text1=v_text1, value1=v_value1, text2=v_text2, value2=v_value2, users=v_users), p
+    return ProjectDetails(database_files=v_db_files1, loaded_database_files=v_db_files2, name=v_text1, format=v_value1, folder=v_text2, selected=v_value2, users=v_users), p
 
 
 def read_DbFileInfo(b: bytes, p: int) -> tuple[Optional[DbFileInfo], int]:
@@ -1019,7 +1019,7 @@ def read_SystemInfo(b: bytes, p: int) -> tuple[Optional[SystemInfo], int]:
     (n,) = _u32_read(b, p)
     v_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return SystemInfo(value1=v_value1, value2=v_value2, text1=v_text1, value3=v_value3, text2=v_text2, text3=v_text3, text4=v_text4), p
+    return SystemInfo(processors=v_value1, page_size=v_value2, system=v_text1, pointer_bits=v_value3, release=v_text2, host=v_text3, architecture=v_text4), p
 
 
 def read_SystemProperty(b: bytes, p: int) -> tuple[Optional[SystemProperty], int]:
@@ -1066,7 +1066,7 @@ def read_SystemProperty(b: bytes, p: int) -> tuple[Optional[SystemProperty], int
     p += 4 + n
     v_value3, v_flag, v_value4 = _S_IbI_read(b, p)
     p += 9
-    return SystemProperty(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text1=v_text1, text2=v_text2, value1=v_value1, children=v_children, text3=v_text3, error=v_error, text4=v_text4, value2=v_value2, data=v_data, value3=v_value3, flag=v_flag, value4=v_value4), p
+    return SystemProperty(name=v_item_text1, label=v_item_text2, item_text3=v_item_text3, unit=v_item_text4, value=v_text1, default_value=v_text2, value1=v_value1, children=v_children, text3=v_text3, error=v_error, text4=v_text4, value2=v_value2, data=v_data, value3=v_value3, changed=v_flag, value4=v_value4), p
 
 
 def read_TarnApiConfig(b: bytes, p: int) -> tuple[Optional[TarnApiConfig], int]:
@@ -1168,7 +1168,7 @@ def read_StatusInfo(b: bytes, p: int) -> tuple[Optional[StatusInfo], int]:
     p += 1
     v_value1, v_value2, v_value3, v_value4, v_value5, v_value6, v_value7, v_value8 = _S_QQQQQIQQ_read(b, p)
     p += 60
-    return StatusInfo(value1=v_value1, value2=v_value2, value3=v_value3, value4=v_value4, value5=v_value5, value6=v_value6, value7=v_value7, value8=v_value8), p
+    return StatusInfo(calls=v_value1, failed_calls=v_value2, uptime_ms=v_value3, call_microseconds=v_value4, database_files_loaded=v_value5, projects=v_value6, status_text_changes=v_value7, started_ms=v_value8), p
 
 
 def read_TransmissionInfo(b: bytes, p: int) -> tuple[Optional[TransmissionInfo], int]:
@@ -1177,7 +1177,7 @@ def read_TransmissionInfo(b: bytes, p: int) -> tuple[Optional[TransmissionInfo],
     p += 1
     v_value1, v_value2, v_value3, v_value4 = _S_QQQQ_read(b, p)
     p += 32
-    return TransmissionInfo(value1=v_value1, value2=v_value2, value3=v_value3, value4=v_value4), p
+    return TransmissionInfo(requests=v_value1, responses=v_value2, request_bytes=v_value3, response_bytes=v_value4), p
 
 
 def read_ProcessInfo(b: bytes, p: int) -> tuple[Optional[ProcessInfo], int]:
@@ -1195,7 +1195,7 @@ def read_ProcessInfo(b: bytes, p: int) -> tuple[Optional[ProcessInfo], int]:
     (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return ProcessInfo(processes=v_processes, flag1=v_flag1, flag2=v_flag2, text=v_text), p
+    return ProcessInfo(processes=v_processes, is64_bit=v_flag1, initialized=v_flag2, status_text=v_text), p
 
 
 def read_ProcessEntry(b: bytes, p: int) -> tuple[Optional[ProcessEntry], int]:
@@ -1219,7 +1219,7 @@ def read_ProcessEntry(b: bytes, p: int) -> tuple[Optional[ProcessEntry], int]:
     for _ in range(n):
         e_v_items2, p = read_ProcessMemory(b, p)
         v_items2.append(e_v_items2)
-    return ProcessEntry(value=v_value, items1=v_items1, text=v_text, items2=v_items2), p
+    return ProcessEntry(pid=v_value, threads=v_items1, executable=v_text, memory=v_items2), p
 
 
 def read_ProcessThread(b: bytes, p: int) -> tuple[Optional[ProcessThread], int]:
@@ -1268,7 +1268,7 @@ def read_GlobalProtocolParameterSet(b: bytes, p: int) -> tuple[Optional[GlobalPr
     for _ in range(n):
         e_v_parameters, p = read_GlobalProtocolParameter(b, p)
         v_parameters.append(e_v_parameters)
-    return GlobalProtocolParameterSet(text1=v_text1, text2=v_text2, text3=v_text3, text4=v_text4, parameters=v_parameters), p
+    return GlobalProtocolParameterSet(name=v_text1, protocol=v_text2, text3=v_text3, text4=v_text4, parameters=v_parameters), p
 
 
 def read_GlobalProtocolParameter(b: bytes, p: int) -> tuple[Optional[GlobalProtocolParameter], int]:
@@ -1310,7 +1310,7 @@ def read_GlobalProtocolParameter(b: bytes, p: int) -> tuple[Optional[GlobalProto
     v_tcp, p = read_TcpInfo(b, p)
     v_value1, v_flag = _S_Ib_read(b, p)
     p += 5
-    return GlobalProtocolParameter(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, value=v_value, default_value=v_default_value, infos=v_infos, choices=v_choices, error=v_error, constraints=v_constraints, tcp=v_tcp, value1=v_value1, flag=v_flag), p
+    return GlobalProtocolParameter(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, value=v_value, default_value=v_default_value, infos=v_infos, choices=v_choices, error=v_error, constraints=v_constraints, tcp=v_tcp, value1=v_value1, flag=v_flag), p
 
 
 def read_LoadDatabaseResult(b: bytes, p: int) -> tuple[Optional[LoadDatabaseResult], int]:
@@ -1323,7 +1323,7 @@ def read_LoadDatabaseResult(b: bytes, p: int) -> tuple[Optional[LoadDatabaseResu
     v_flag, = _S_b_read(b, p)
     p += 1
     v_error, p = read_KelError(b, p)
-    return LoadDatabaseResult(text=v_text, flag=v_flag, error=v_error), p
+    return LoadDatabaseResult(file=v_text, loaded=v_flag, error=v_error), p
 
 
 def read_InterfaceInformation(b: bytes, p: int) -> tuple[Optional[InterfaceInformation], int]:
@@ -1366,7 +1366,7 @@ def read_InterfaceInformation(b: bytes, p: int) -> tuple[Optional[InterfaceInfor
         v_items.append(e_v_items)
     v_value, = _S_Q_read(b, p)
     p += 8
-    return InterfaceInformation(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, resources=v_resources, flag1=v_flag1, flag2=v_flag2, text1=v_text1, text2=v_text2, flag3=v_flag3, items=v_items, value=v_value), p
+    return InterfaceInformation(name=v_item_text1, long_name=v_item_text2, vendor=v_item_text3, description=v_item_text4, resources=v_resources, connected=v_flag1, dynamic=v_flag2, kind=v_text1, address=v_text2, plugged_in=v_flag3, vendor_modules=v_items, handle=v_value), p
 
 
 def read_ResourceInformation(b: bytes, p: int) -> tuple[Optional[ResourceInformation], int]:
@@ -1387,7 +1387,7 @@ def read_ResourceInformation(b: bytes, p: int) -> tuple[Optional[ResourceInforma
     p += 4 + n
     v_id, v_pin, v_in_use = _S_IIb_read(b, p)
     p += 9
-    return ResourceInformation(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, id=v_id, pin=v_pin, in_use=v_in_use), p
+    return ResourceInformation(name=v_item_text1, description=v_item_text2, protocol=v_item_text3, physical_link=v_item_text4, id=v_id, pin=v_pin, in_use=v_in_use), p
 
 
 def read_InterfaceInformationItem(b: bytes, p: int) -> tuple[Optional[InterfaceInformationItem], int]:
@@ -1406,7 +1406,7 @@ def read_InterfaceInformationItem(b: bytes, p: int) -> tuple[Optional[InterfaceI
     (n,) = _u32_read(b, p)
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return InterfaceInformationItem(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
+    return InterfaceInformationItem(name=v_item_text1, vendor=v_item_text2, version=v_item_text3, description=v_item_text4), p
 
 
 def read_ScanInterfaceResult(b: bytes, p: int) -> tuple[Optional[ScanInterfaceResult], int]:
@@ -1472,7 +1472,7 @@ def read_ModuleDyn(b: bytes, p: int) -> tuple[Optional[ModuleDyn], int]:
         v_resources.append(e_v_resources)
     v_port, v_flag2, v_handle = _S_IbQ_read(b, p)
     p += 13
-    return ModuleDyn(name=v_name, long_name=v_long_name, vendor=v_vendor, kind=v_kind, address=v_address, vendor_module=v_vendor_module, flag1=v_flag1, serial_number=v_serial_number, firmware=v_firmware, network=v_network, resources=v_resources, port=v_port, flag2=v_flag2, handle=v_handle), p
+    return ModuleDyn(name=v_name, long_name=v_long_name, vendor=v_vendor, kind=v_kind, address=v_address, vendor_module=v_vendor_module, connected=v_flag1, serial_number=v_serial_number, firmware=v_firmware, network=v_network, resources=v_resources, port=v_port, exclusive=v_flag2, handle=v_handle), p
 
 
 def read_DeviceInfo(b: bytes, p: int) -> tuple[Optional[DeviceInfo], int]:
@@ -1513,7 +1513,7 @@ def read_DeviceInfo(b: bytes, p: int) -> tuple[Optional[DeviceInfo], int]:
     p += 4 + n
     v_flag, v_handle, v_value6, v_value8, v_value9, v_value10 = _S_bQIQQQ_read(b, p)
     p += 37
-    return DeviceInfo(text1=v_text1, value1=v_value1, value2=v_value2, text2=v_text2, text3=v_text3, value3=v_value3, text4=v_text4, text5=v_text5, value4=v_value4, value5=v_value5, text6=v_text6, protocols=v_protocols, text7=v_text7, modules=v_modules, text8=v_text8, flag=v_flag, handle=v_handle, value6=v_value6, value8=v_value8, value9=v_value9, value10=v_value10), p
+    return DeviceInfo(name=v_text1, vendor_id=v_value1, product_id=v_value2, vendor=v_text2, serial_number=v_text3, resources=v_value3, firmware=v_text4, kind=v_text5, ethernet_pin_state=v_value4, links=v_value5, address=v_text6, protocols=v_protocols, long_name=v_text7, modules=v_modules, description=v_text8, connected=v_flag, handle=v_handle, dynamic=v_value6, value8=v_value8, value9=v_value9, value10=v_value10), p
 
 
 def read_PhysicalLinksOnModule(b: bytes, p: int) -> tuple[Optional[PhysicalLinksOnModule], int]:
@@ -1550,7 +1550,7 @@ def read_PhysicalLink(b: bytes, p: int) -> tuple[Optional[PhysicalLink], int]:
     p += 4 + n
     v_baudrate, v_enabled = _S_Ib_read(b, p)
     p += 5
-    return PhysicalLink(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, baudrate=v_baudrate, enabled=v_enabled), p
+    return PhysicalLink(name=v_item_text1, type=v_item_text2, pins=v_item_text3, description=v_item_text4, baudrate=v_baudrate, enabled=v_enabled), p
 
 
 def read_InterfaceConfiguration(b: bytes, p: int) -> tuple[Optional[InterfaceConfiguration], int]:
@@ -1593,7 +1593,7 @@ def read_InterfaceConfigurationEntry(b: bytes, p: int) -> tuple[Optional[Interfa
     for _ in range(n):
         e_v_items, p = read_ResourceInformation(b, p)
         v_items.append(e_v_items)
-    return InterfaceConfigurationEntry(text1=v_text1, text2=v_text2, text3=v_text3, text4=v_text4, text5=v_text5, value=v_value, flag=v_flag, items=v_items), p
+    return InterfaceConfigurationEntry(name=v_text1, long_name=v_text2, vendor=v_text3, kind=v_text4, address=v_text5, ethernet_pin_state=v_value, enabled=v_flag, resources=v_items), p
 
 
 def read_InterfaceProvider(b: bytes, p: int) -> tuple[Optional[InterfaceProvider], int]:
@@ -1617,7 +1617,7 @@ def read_InterfaceProvider(b: bytes, p: int) -> tuple[Optional[InterfaceProvider
     p += 4 + n
     v_value, v_flag = _S_Ib_read(b, p)
     p += 5
-    return InterfaceProvider(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text=v_text, value=v_value, flag=v_flag), p
+    return InterfaceProvider(name=v_item_text1, description=v_item_text2, vendor=v_item_text3, version=v_item_text4, library=v_text, priority=v_value, enabled=v_flag), p
 
 
 def read_DoIPParameter(b: bytes, p: int) -> tuple[Optional[DoIPParameter], int]:
@@ -1632,7 +1632,7 @@ def read_DoIPParameter(b: bytes, p: int) -> tuple[Optional[DoIPParameter], int]:
     v_value3, = _S_I_read(b, p)
     p += 4
     v_strings, p = read_texts(b, p)
-    return DoIPParameter(value1=v_value1, value2=v_value2, text=v_text, value3=v_value3, strings=v_strings), p
+    return DoIPParameter(discovery_port=v_value1, announcement_wait_ms=v_value2, broadcast_address=v_text, tcp_port=v_value3, adapters=v_strings), p
 
 
 def read_WLanSignalData(b: bytes, p: int) -> tuple[Optional[WLanSignalData], int]:
@@ -1644,7 +1644,7 @@ def read_WLanSignalData(b: bytes, p: int) -> tuple[Optional[WLanSignalData], int
     (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return WLanSignalData(value1=v_value1, value2=v_value2, value3=v_value3, value4=v_value4, value5=v_value5, value6=v_value6, value7=v_value7, value8=v_value8, value9=v_value9, value10=v_value10, value11=v_value11, text=v_text), p
+    return WLanSignalData(quality=v_value1, signal_dbm_below_zero=v_value2, noise_dbm_below_zero=v_value3, channel=v_value4, frequency_mhz=v_value5, bytes_received=v_value6, transmit_rate_mbits=v_value7, receive_rate_mbits=v_value8, retransmissions=v_value9, lost_beacons=v_value10, channel_width_mhz=v_value11, ssid=v_text), p
 
 
 def read_SupportedInterface(b: bytes, p: int) -> tuple[Optional[SupportedInterface], int]:
@@ -1663,7 +1663,7 @@ def read_SupportedInterface(b: bytes, p: int) -> tuple[Optional[SupportedInterfa
     (n,) = _u32_read(b, p)
     v_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return SupportedInterface(text1=v_text1, text2=v_text2, names=v_names, value=v_value, text3=v_text3), p
+    return SupportedInterface(kind=v_text1, description=v_text2, protocols=v_names, max_interfaces=v_value, vendor_module=v_text3), p
 
 
 def read_MonitoringItem(b: bytes, p: int) -> tuple[Optional[MonitoringItem], int]:
@@ -1684,7 +1684,7 @@ def read_MonitoringItem(b: bytes, p: int) -> tuple[Optional[MonitoringItem], int
     v_value4, = _S_I_read(b, p)
     p += 4
     v_detail, p = read_MonitoringItemDetail(b, p)
-    return MonitoringItem(text1=v_text1, data=v_data, value1=v_value1, value2=v_value2, flag1=v_flag1, flag2=v_flag2, flag3=v_flag3, value3=v_value3, text2=v_text2, value4=v_value4, detail=v_detail), p
+    return MonitoringItem(unit=v_text1, data=v_data, time=v_value1, number=v_value2, answered=v_flag1, positive=v_flag2, replayed=v_flag3, nrc=v_value3, source=v_text2, service_id=v_value4, detail=v_detail), p
 
 
 def read_MonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[MonitoringItemDetail], int]:
@@ -1697,7 +1697,7 @@ def read_MonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[MonitoringItem
     (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return MonitoringItemDetail(response=v_response, text=v_text), p
+    return MonitoringItemDetail(response=v_response, summary=v_text), p
 
 
 def read_PduMonitoringItem(b: bytes, p: int) -> tuple[Optional[PduMonitoringItem], int]:
@@ -1721,7 +1721,7 @@ def read_PduMonitoringItem(b: bytes, p: int) -> tuple[Optional[PduMonitoringItem
     (n,) = _u32_read(b, p)
     v_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return PduMonitoringItem(value1=v_value1, data=v_data, detail=v_detail, text1=v_text1, text2=v_text2, value2=v_value2, text3=v_text3), p
+    return PduMonitoringItem(direction=v_value1, data=v_data, detail=v_detail, unit=v_text1, direction_text=v_text2, time=v_value2, hex=v_text3), p
 
 
 def read_PduMonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[PduMonitoringItemDetail], int]:
@@ -1751,7 +1751,7 @@ def read_FileInfo(b: bytes, p: int) -> tuple[Optional[FileInfo], int]:
     p += 4 + n
     v_value2, v_value3 = _S_QQ_read(b, p)
     p += 16
-    return FileInfo(name=v_name, error=v_error, flag=v_flag, value1=v_value1, text1=v_text1, text2=v_text2, value2=v_value2, value3=v_value3), p
+    return FileInfo(name=v_name, error=v_error, read_only=v_flag, attributes=v_value1, path=v_text1, modified=v_text2, size=v_value2, modified_ms=v_value3), p
 
 
 def read_DirectoryInfo(b: bytes, p: int) -> tuple[Optional[DirectoryInfo], int]:
@@ -1784,7 +1784,7 @@ def read_DirectoryInfo(b: bytes, p: int) -> tuple[Optional[DirectoryInfo], int]:
         v_directories.append(e_v_directories)
     v_flag2, = _S_b_read(b, p)
     p += 1
-    return DirectoryInfo(name=v_name, error=v_error, flag=v_flag, value1=v_value1, text1=v_text1, text2=v_text2, files=v_files, directories=v_directories, flag2=v_flag2), p
+    return DirectoryInfo(name=v_name, error=v_error, read_only=v_flag, attributes=v_value1, path=v_text1, modified=v_text2, files=v_files, directories=v_directories, contents_read=v_flag2), p
 
 
 def read_FileCopyResult(b: bytes, p: int) -> tuple[Optional[FileCopyResult], int]:
@@ -1800,7 +1800,7 @@ def read_FileCopyResult(b: bytes, p: int) -> tuple[Optional[FileCopyResult], int
     v_file, p = read_FileInfo(b, p)
     v_value2, = _S_i_read(b, p)
     p += 4
-    return FileCopyResult(value1=v_value1, text=v_text, error=v_error, file=v_file, value2=v_value2), p
+    return FileCopyResult(failed=v_value1, source=v_text, error=v_error, file=v_file, index=v_value2), p
 
 
 def read_DirectoryCopyResult(b: bytes, p: int) -> tuple[Optional[DirectoryCopyResult], int]:
@@ -1814,7 +1814,7 @@ def read_DirectoryCopyResult(b: bytes, p: int) -> tuple[Optional[DirectoryCopyRe
     p += 4 + n
     v_error, p = read_KelError(b, p)
     v_directory, p = read_DirectoryCopyItem(b, p)
-    return DirectoryCopyResult(value1=v_value1, text=v_text, error=v_error, directory=v_directory), p
+    return DirectoryCopyResult(outcome=v_value1, source=v_text, error=v_error, directory=v_directory), p
 
 
 def read_DirectoryCopyItem(b: bytes, p: int) -> tuple[Optional[DirectoryCopyItem], int]:
@@ -1848,7 +1848,7 @@ def read_PathCopyResult(b: bytes, p: int) -> tuple[Optional[PathCopyResult], int
     v_value2, = _S_i_read(b, p)
     p += 4
     v_item, p = read_PathCopyItem(b, p)
-    return PathCopyResult(value1=v_value1, error=v_error, value2=v_value2, item=v_item), p
+    return PathCopyResult(failed=v_value1, error=v_error, is_directory=v_value2, item=v_item), p
 
 
 def read_PathCopyItem(b: bytes, p: int) -> tuple[Optional[PathCopyItem], int]:
@@ -1931,7 +1931,7 @@ def read_UserInfo(b: bytes, p: int) -> tuple[Optional[UserInfo], int]:
     p += 4 + n
     v_value, = _S_I_read(b, p)
     p += 4
-    return UserInfo(name=v_name, text=v_text, value=v_value), p
+    return UserInfo(name=v_name, role_name=v_text, role=v_value), p
 
 
 def read_LogInOutConfig(b: bytes, p: int) -> tuple[Optional[LogInOutConfig], int]:
@@ -1985,7 +1985,7 @@ def read_TarnApiServerConfig(b: bytes, p: int) -> tuple[Optional[TarnApiServerCo
         v_users2.append(e_v_users2)
     v_value2, = _S_H_read(b, p)
     p += 2
-    return TarnApiServerConfig(users=v_users, flag=v_flag, value1=v_value1, text1=v_text1, text2=v_text2, filters=v_filters, text3=v_text3, text4=v_text4, users2=v_users2, value2=v_value2), p
+    return TarnApiServerConfig(users=v_users, user_management=v_flag, connections=v_value1, address=v_text1, sovd_address=v_text2, filters=v_filters, identity_provider=v_text3, login_address=v_text4, logged_in=v_users2, login_attempts=v_value2), p
 
 
 def read_ServerSettings(b: bytes, p: int) -> tuple[Optional[ServerSettings], int]:
@@ -1994,7 +1994,7 @@ def read_ServerSettings(b: bytes, p: int) -> tuple[Optional[ServerSettings], int
     p += 1
     v_flag, v_value1, v_value2, v_value3 = _S_bIII_read(b, p)
     p += 13
-    return ServerSettings(flag=v_flag, value1=v_value1, value2=v_value2, value3=v_value3), p
+    return ServerSettings(running=v_flag, connections=v_value1, users=v_value2, sovd_running=v_value3), p
 
 
 def read_FlashSessionInfo(b: bytes, p: int) -> tuple[Optional[FlashSessionInfo], int]:
@@ -2352,7 +2352,7 @@ def read_SpecialData(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
     (n,) = _u32_read(b, p)
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return NamedItem(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
+    return NamedItem(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
 
 
 def read_FilterPattern(b: bytes, p: int) -> tuple[Optional[FileFilter], int]:
@@ -2364,7 +2364,7 @@ def read_FilterPattern(b: bytes, p: int) -> tuple[Optional[FileFilter], int]:
     p += 4 + n
     v_flag, = _S_b_read(b, p)
     p += 1
-    return FileFilter(pattern=v_pattern, flag=v_flag), p
+    return FileFilter(pattern=v_pattern, exclude=v_flag), p
 
 
 def read_InterfaceProviderDyn(b: bytes, p: int) -> tuple[Optional[InterfaceProvider], int]:
@@ -2388,7 +2388,7 @@ def read_InterfaceProviderDyn(b: bytes, p: int) -> tuple[Optional[InterfaceProvi
     p += 4 + n
     v_value, v_flag = _S_Ib_read(b, p)
     p += 5
-    return InterfaceProvider(item_text1=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, text=v_text, value=v_value, flag=v_flag), p
+    return InterfaceProvider(name=v_item_text1, description=v_item_text2, vendor=v_item_text3, version=v_item_text4, library=v_text, priority=v_value, enabled=v_flag), p
 
 
 def write_MvciServerError(o: bytearray, v: Optional[MvciServerError]) -> None:
@@ -2410,8 +2410,8 @@ def write_NegativeResponse(o: bytearray, v: Optional[NegativeResponse]) -> None:
         return
     o.append(1)
     o += _S_i_write(v.code)
-    write_text(o, v.text)
-    o += _S_QQ_write(v.value1, v.value2)
+    write_text(o, v.name)
+    o += _S_QQ_write(v.service_id, v.value2)
     write_bytes(o, v.bytes)
 
 
@@ -2433,7 +2433,7 @@ def write_NamedItem(o: bytearray, v: Optional[NamedItem]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
+    write_text(o, v.name)
     write_text(o, v.item_text2)
     write_text(o, v.item_text3)
     write_text(o, v.item_text4)
@@ -2444,22 +2444,22 @@ def write_ParameterResult(o: bytearray, v: Optional[ParameterResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
+    write_text(o, v.name)
+    write_text(o, v.description)
+    write_text(o, v.codec)
     write_text(o, v.item_text4)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    o += _S_i_write(v.value1)
+    write_text(o, v.value)
+    write_text(o, v.unit)
+    o += _S_i_write(v.child_count)
     o += _U32.pack(len(v.children))
     for e_children in v.children:
         write_ParameterResult(o, e_children)
     write_text(o, v.text3)
     write_KelError(o, v.error)
     write_text(o, v.text4)
-    o += _S_i_write(v.value2)
+    o += _S_i_write(v.byte_position)
     write_bytes(o, v.data)
-    o += _S_IBi_write(v.value3, v.flag, v.value4)
+    o += _S_IBi_write(v.data_length, v.flag, v.value4)
 
 
 def write_ClearDtcResult(o: bytearray, v: Optional[ClearDtcResult]) -> None:
@@ -2477,7 +2477,7 @@ def write_DtcReadConfig(o: bytearray, v: Optional[DtcReadConfig]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_iBBB_write(v.value, v.flag1, v.flag2, v.flag3)
+    o += _S_iBBB_write(v.status_mask, v.with_snapshots, v.with_extended_data, v.with_special_data)
 
 
 def write_ReadDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:
@@ -2491,7 +2491,7 @@ def write_ReadDtcResult(o: bytearray, v: Optional[ReadDtcResult]) -> None:
     o += _U32.pack(len(v.dtcs))
     for e_dtcs in v.dtcs:
         write_DtcResult(o, e_dtcs)
-    o += _S_i_write(v.value)
+    o += _S_i_write(v.dtc_total)
 
 
 def write_DtcResult(o: bytearray, v: Optional[DtcResult]) -> None:
@@ -2500,21 +2500,21 @@ def write_DtcResult(o: bytearray, v: Optional[DtcResult]) -> None:
         return
     o.append(1)
     o += _S_i_write(v.code)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    o += _S_i_write(v.value1)
-    o += _U32.pack(len(v.parameters1))
-    for e_parameters1 in v.parameters1:
+    write_text(o, v.display_code)
+    write_text(o, v.description)
+    o += _S_i_write(v.status)
+    o += _U32.pack(len(v.snapshots))
+    for e_parameters1 in v.snapshots:
         write_ParameterResult(o, e_parameters1)
-    o += _U32.pack(len(v.parameters2))
-    for e_parameters2 in v.parameters2:
+    o += _U32.pack(len(v.extended_data))
+    for e_parameters2 in v.extended_data:
         write_ParameterResult(o, e_parameters2)
-    write_text(o, v.text3)
-    write_text(o, v.text4)
+    write_text(o, v.ecu)
+    write_text(o, v.symptom)
     o += _U32.pack(len(v.special_data_groups))
     for e_special_data_groups in v.special_data_groups:
         write_SpecialDataGroup(o, e_special_data_groups)
-    o += _S_i_write(v.value2)
+    o += _S_i_write(v.severity)
 
 
 def write_SpecialDataGroup(o: bytearray, v: Optional[SpecialDataGroup]) -> None:
@@ -2545,7 +2545,7 @@ def write_ReadDataResult(o: bytearray, v: Optional[ReadDataResult]) -> None:
     o.append(1)
     write_text(o, v.target)
     o += _S_i_write(v.status)
-    write_text(o, v.text)
+    write_text(o, v.variant)
     write_KelError(o, v.error)
     o += _U32.pack(len(v.parameters))
     for e_parameters in v.parameters:
@@ -2557,21 +2557,21 @@ def write_Target(o: bytearray, v: Optional[Target]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
+    write_text(o, v.name)
+    write_text(o, v.description)
+    write_text(o, v.variant)
     write_text(o, v.item_text4)
-    o += _S_i_write(v.value1)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
+    o += _S_i_write(v.address)
+    write_text(o, v.protocol)
+    write_text(o, v.bus)
     o += _U32.pack(len(v.items))
     for e_items in v.items:
         write_NamedItem(o, e_items)
-    write_texts(o, v.names)
-    write_text(o, v.text3)
-    write_text(o, v.text4)
-    o += _S_i_write(v.value2)
-    write_text(o, v.text5)
+    write_texts(o, v.aliases)
+    write_text(o, v.part_number)
+    write_text(o, v.software_version)
+    o += _S_i_write(v.responds)
+    write_text(o, v.hardware_version)
 
 
 def write_TargetStatus(o: bytearray, v: Optional[TargetStatus]) -> None:
@@ -2580,10 +2580,10 @@ def write_TargetStatus(o: bytearray, v: Optional[TargetStatus]) -> None:
         return
     o.append(1)
     write_text(o, v.target)
-    write_text(o, v.text)
+    write_text(o, v.state)
     write_KelError(o, v.error)
-    o += _S_5I_write(*v.values)
-    write_text(o, v.text2)
+    o += _S_5I_write(*v.counts)
+    write_text(o, v.variant)
 
 
 def write_TargetFilter(o: bytearray, v: Optional[TargetFilter]) -> None:
@@ -2592,7 +2592,7 @@ def write_TargetFilter(o: bytearray, v: Optional[TargetFilter]) -> None:
         return
     o.append(1)
     write_text(o, v.pattern)
-    o += _S_Bi_write(v.flag, v.value)
+    o += _S_Bi_write(v.exclude, v.tag)
 
 
 def write_ParameterInput(o: bytearray, v: Optional[ParameterInput]) -> None:
@@ -2625,18 +2625,18 @@ def write_ServiceResult(o: bytearray, v: Optional[ServiceResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
-    write_text(o, v.item_text4)
+    write_text(o, v.service)
+    write_text(o, v.target)
+    write_text(o, v.description)
+    write_text(o, v.session)
     o += _U32.pack(len(v.responses))
     for e_responses in v.responses:
         write_ResponseResult(o, e_responses)
     o += _S_i_write(v.status)
-    write_text(o, v.text1)
+    write_text(o, v.outcome)
     write_KelError(o, v.error)
     write_RequestResult(o, v.request)
-    o += _S_i_write(v.value1)
+    o += _S_i_write(v.service_id)
 
 
 def write_ResponseResult(o: bytearray, v: Optional[ResponseResult]) -> None:
@@ -2644,14 +2644,14 @@ def write_ResponseResult(o: bytearray, v: Optional[ResponseResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
+    write_text(o, v.kind)
+    write_text(o, v.target)
     write_text(o, v.item_text3)
     write_text(o, v.item_text4)
-    o += _S_b_write(v.flag)
+    o += _S_b_write(v.positive)
     write_KelError(o, v.error)
     write_bytes(o, v.data)
-    o += _S_QQ_write(v.value1, v.value2)
+    o += _S_QQ_write(v.time, v.nrc)
     o += _U32.pack(len(v.parameters))
     for e_parameters in v.parameters:
         write_ParameterResult(o, e_parameters)
@@ -2664,7 +2664,7 @@ def write_RequestResult(o: bytearray, v: Optional[RequestResult]) -> None:
     o.append(1)
     write_KelError(o, v.error)
     write_bytes(o, v.data)
-    o += _S_QQ_write(v.value1, v.value2)
+    o += _S_QQ_write(v.time, v.value2)
     o += _U32.pack(len(v.parameters))
     for e_parameters in v.parameters:
         write_ParameterResult(o, e_parameters)
@@ -2675,7 +2675,7 @@ def write_UnlockResult(o: bytearray, v: Optional[UnlockResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_Q_write(v.value)
+    o += _S_Q_write(v.unlock)
     o += _U32.pack(len(v.services))
     for e_services in v.services:
         write_ServiceResult(o, e_services)
@@ -2686,23 +2686,23 @@ def write_ServiceInfo(o: bytearray, v: Optional[ServiceInfo]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
-    write_text(o, v.item_text4)
-    o += _S_b_write(v.flag)
+    write_text(o, v.name)
+    write_text(o, v.description)
+    write_text(o, v.service_id)
+    write_text(o, v.target)
+    o += _S_b_write(v.available)
     o += _U32.pack(len(v.responses))
     for e_responses in v.responses:
         write_ResponseInfo(o, e_responses)
     o += _U32.pack(len(v.parameters))
     for e_parameters in v.parameters:
         write_ParameterInfo(o, e_parameters)
-    write_text(o, v.text1)
-    o += _U32.pack(len(v.items))
-    for e_items in v.items:
+    write_text(o, v.uds_service)
+    o += _U32.pack(len(v.sessions))
+    for e_items in v.sessions:
         write_NamedItem(o, e_items)
     write_KelError(o, v.error)
-    o += _S_5I_write(*v.values)
+    o += _S_5I_write(*v.numbers)
 
 
 def write_ResponseInfo(o: bytearray, v: Optional[ResponseInfo]) -> None:
@@ -2710,8 +2710,8 @@ def write_ResponseInfo(o: bytearray, v: Optional[ResponseInfo]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
+    write_text(o, v.kind)
+    write_text(o, v.first_byte)
     write_text(o, v.item_text3)
     write_text(o, v.item_text4)
     o += _S_i_write(v.status)
@@ -2725,30 +2725,30 @@ def write_ParameterInfo(o: bytearray, v: Optional[ParameterInfo]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
+    write_text(o, v.name)
+    write_text(o, v.description)
+    write_text(o, v.codec)
     write_text(o, v.item_text4)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    write_text(o, v.text3)
-    o += _S_i_write(v.value1)
-    write_text(o, v.text4)
+    write_text(o, v.default_value)
+    write_text(o, v.unit_text)
+    write_text(o, v.data_type)
+    o += _S_i_write(v.byte_position)
+    write_text(o, v.path)
     o += _U32.pack(len(v.children))
     for e_children in v.children:
         write_ParameterInfo(o, e_children)
-    write_text(o, v.text5)
-    write_texts(o, v.names)
-    o += _S_bi_write(v.flag1, v.value2)
+    write_text(o, v.scaling)
+    write_texts(o, v.choices)
+    o += _S_bi_write(v.constant, v.byte_length)
     write_KelError(o, v.error)
-    o += _S_b_write(v.flag2)
-    o += _S_8I_write(*v.values)
-    o += _S_b_write(v.flag3)
-    write_ConstraintInfo(o, v.constraint1)
-    write_ConstraintInfo(o, v.constraint2)
-    write_text(o, v.text6)
-    write_text(o, v.text7)
-    o += _S_b_write(v.flag4)
+    o += _S_b_write(v.required)
+    o += _S_8I_write(*v.numbers)
+    o += _S_b_write(v.structure)
+    write_ConstraintInfo(o, v.valid_values)
+    write_ConstraintInfo(o, v.raw_range)
+    write_text(o, v.minimum)
+    write_text(o, v.maximum)
+    o += _S_b_write(v.repeated)
     write_UnitInfo(o, v.unit)
 
 
@@ -2757,9 +2757,9 @@ def write_ConstraintInfo(o: bytearray, v: Optional[ConstraintInfo]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    o += _S_b_write(v.flag)
+    write_text(o, v.kind)
+    write_text(o, v.scale)
+    o += _S_b_write(v.present)
     o += _U32.pack(len(v.scales))
     for e_scales in v.scales:
         write_ScaleConstraintInfo(o, e_scales)
@@ -2770,13 +2770,13 @@ def write_ScaleConstraintInfo(o: bytearray, v: Optional[ScaleConstraintInfo]) ->
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
+    write_text(o, v.name)
     write_text(o, v.item_text2)
     write_text(o, v.item_text3)
     write_text(o, v.item_text4)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    o += _S_bi_write(v.flag, v.value)
+    write_text(o, v.lower)
+    write_text(o, v.upper)
+    o += _S_bi_write(v.inclusive, v.raw_value)
 
 
 def write_UnitInfo(o: bytearray, v: Optional[UnitInfo]) -> None:
@@ -2784,8 +2784,8 @@ def write_UnitInfo(o: bytearray, v: Optional[UnitInfo]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_7I_write(*v.values)
-    o += _S_QbQb_write(v.value1, v.flag1, v.value2, v.flag2)
+    o += _S_7I_write(*v.exponents)
+    o += _S_QbQb_write(v.factor_bits, v.known, v.offset_bits, v.has_offset)
 
 
 def write_ParameterInfoConfig(o: bytearray, v: Optional[ParameterInfoConfig]) -> None:
@@ -2793,10 +2793,10 @@ def write_ParameterInfoConfig(o: bytearray, v: Optional[ParameterInfoConfig]) ->
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    o += _S_i_write(v.value)
-    write_text(o, v.text3)
+    write_text(o, v.target)
+    write_text(o, v.service)
+    o += _S_i_write(v.in_response)
+    write_text(o, v.path)
     write_text(o, v.text4)
 
 
@@ -2807,7 +2807,7 @@ def write_KelEvent(o: bytearray, v: Optional[KelEvent]) -> None:
     o.append(1)
     write_text(o, v.name)
     o += _S_ii_write(v.kind, v.code)
-    write_text(o, v.text)
+    write_text(o, v.message)
     write_KelError(o, v.error)
     write_text(o, v.detail)
 
@@ -2828,7 +2828,7 @@ def write_FileFilter(o: bytearray, v: Optional[FileFilter]) -> None:
         return
     o.append(1)
     write_text(o, v.pattern)
-    o += _S_bI_write(v.flag, v.value)
+    o += _S_bI_write(v.exclude, v.value)
 
 
 def write_TargetConfig(o: bytearray, v: Optional[TargetConfig]) -> None:
@@ -2846,7 +2846,7 @@ def write_ProjectConfig(o: bytearray, v: Optional[ProjectConfig]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
+    write_text(o, v.name)
     write_text(o, v.item_text2)
     write_text(o, v.item_text3)
     write_text(o, v.item_text4)
@@ -2875,16 +2875,16 @@ def write_ProjectDetails(o: bytearray, v: Optional[ProjectDetails]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _U32.pack(len(v.db_files1))
-    for e_db_files1 in v.db_files1:
+    o += _U32.pack(len(v.database_files))
+    for e_db_files1 in v.database_files:
         write_DbFileInfo(o, e_db_files1)
-    o += _U32.pack(len(v.db_files2))
-    for e_db_files2 in v.db_files2:
+    o += _U32.pack(len(v.loaded_database_files))
+    for e_db_files2 in v.loaded_database_files:
         write_DbFileInfo(o, e_db_files2)
-    write_text(o, v.text1)
-    o += _S_I_write(v.value1)
-    write_text(o, v.text2)
-    o += _S_I_write(v.value2)
+    write_text(o, v.name)
+    o += _S_I_write(v.format)
+    write_text(o, v.folder)
+    o += _S_I_write(v.selected)
     o += _U32.pack(len(v.users))
     for e_users in v.users:
         write_UserInfo(o, e_users)
@@ -2906,12 +2906,12 @@ def write_SystemInfo(o: bytearray, v: Optional[SystemInfo]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_II_write(v.value1, v.value2)
-    write_text(o, v.text1)
-    o += _S_I_write(v.value3)
-    write_text(o, v.text2)
-    write_text(o, v.text3)
-    write_text(o, v.text4)
+    o += _S_II_write(v.processors, v.page_size)
+    write_text(o, v.system)
+    o += _S_I_write(v.pointer_bits)
+    write_text(o, v.release)
+    write_text(o, v.host)
+    write_text(o, v.architecture)
 
 
 def write_SystemProperty(o: bytearray, v: Optional[SystemProperty]) -> None:
@@ -2919,12 +2919,12 @@ def write_SystemProperty(o: bytearray, v: Optional[SystemProperty]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
+    write_text(o, v.name)
+    write_text(o, v.label)
     write_text(o, v.item_text3)
-    write_text(o, v.item_text4)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
+    write_text(o, v.unit)
+    write_text(o, v.value)
+    write_text(o, v.default_value)
     o += _S_I_write(v.value1)
     o += _U32.pack(len(v.children))
     for e_children in v.children:
@@ -2934,7 +2934,7 @@ def write_SystemProperty(o: bytearray, v: Optional[SystemProperty]) -> None:
     write_text(o, v.text4)
     o += _S_I_write(v.value2)
     write_bytes(o, v.data)
-    o += _S_IbI_write(v.value3, v.flag, v.value4)
+    o += _S_IbI_write(v.value3, v.changed, v.value4)
 
 
 def write_TarnApiConfig(o: bytearray, v: Optional[TarnApiConfig]) -> None:
@@ -3001,7 +3001,7 @@ def write_StatusInfo(o: bytearray, v: Optional[StatusInfo]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_QQQQQIQQ_write(v.value1, v.value2, v.value3, v.value4, v.value5, v.value6, v.value7, v.value8)
+    o += _S_QQQQQIQQ_write(v.calls, v.failed_calls, v.uptime_ms, v.call_microseconds, v.database_files_loaded, v.projects, v.status_text_changes, v.started_ms)
 
 
 def write_TransmissionInfo(o: bytearray, v: Optional[TransmissionInfo]) -> None:
@@ -3009,7 +3009,7 @@ def write_TransmissionInfo(o: bytearray, v: Optional[TransmissionInfo]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_QQQQ_write(v.value1, v.value2, v.value3, v.value4)
+    o += _S_QQQQ_write(v.requests, v.responses, v.request_bytes, v.response_bytes)
 
 
 def write_ProcessInfo(o: bytearray, v: Optional[ProcessInfo]) -> None:
@@ -3020,8 +3020,8 @@ def write_ProcessInfo(o: bytearray, v: Optional[ProcessInfo]) -> None:
     o += _U32.pack(len(v.processes))
     for e_processes in v.processes:
         write_ProcessEntry(o, e_processes)
-    o += _S_bb_write(v.flag1, v.flag2)
-    write_text(o, v.text)
+    o += _S_bb_write(v.is64_bit, v.initialized)
+    write_text(o, v.status_text)
 
 
 def write_ProcessEntry(o: bytearray, v: Optional[ProcessEntry]) -> None:
@@ -3029,13 +3029,13 @@ def write_ProcessEntry(o: bytearray, v: Optional[ProcessEntry]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_I_write(v.value)
-    o += _U32.pack(len(v.items1))
-    for e_items1 in v.items1:
+    o += _S_I_write(v.pid)
+    o += _U32.pack(len(v.threads))
+    for e_items1 in v.threads:
         write_ProcessThread(o, e_items1)
-    write_text(o, v.text)
-    o += _U32.pack(len(v.items2))
-    for e_items2 in v.items2:
+    write_text(o, v.executable)
+    o += _U32.pack(len(v.memory))
+    for e_items2 in v.memory:
         write_ProcessMemory(o, e_items2)
 
 
@@ -3062,8 +3062,8 @@ def write_GlobalProtocolParameterSet(o: bytearray, v: Optional[GlobalProtocolPar
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
+    write_text(o, v.name)
+    write_text(o, v.protocol)
     write_text(o, v.text3)
     write_text(o, v.text4)
     o += _U32.pack(len(v.parameters))
@@ -3076,7 +3076,7 @@ def write_GlobalProtocolParameter(o: bytearray, v: Optional[GlobalProtocolParame
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
+    write_text(o, v.name)
     write_text(o, v.item_text2)
     write_text(o, v.item_text3)
     write_text(o, v.item_text4)
@@ -3099,8 +3099,8 @@ def write_LoadDatabaseResult(o: bytearray, v: Optional[LoadDatabaseResult]) -> N
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.text)
-    o += _S_b_write(v.flag)
+    write_text(o, v.file)
+    o += _S_b_write(v.loaded)
     write_KelError(o, v.error)
 
 
@@ -3109,21 +3109,21 @@ def write_InterfaceInformation(o: bytearray, v: Optional[InterfaceInformation]) 
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
-    write_text(o, v.item_text4)
+    write_text(o, v.name)
+    write_text(o, v.long_name)
+    write_text(o, v.vendor)
+    write_text(o, v.description)
     o += _U32.pack(len(v.resources))
     for e_resources in v.resources:
         write_ResourceInformation(o, e_resources)
-    o += _S_bb_write(v.flag1, v.flag2)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    o += _S_b_write(v.flag3)
-    o += _U32.pack(len(v.items))
-    for e_items in v.items:
+    o += _S_bb_write(v.connected, v.dynamic)
+    write_text(o, v.kind)
+    write_text(o, v.address)
+    o += _S_b_write(v.plugged_in)
+    o += _U32.pack(len(v.vendor_modules))
+    for e_items in v.vendor_modules:
         write_InterfaceInformationItem(o, e_items)
-    o += _S_Q_write(v.value)
+    o += _S_Q_write(v.handle)
 
 
 def write_ResourceInformation(o: bytearray, v: Optional[ResourceInformation]) -> None:
@@ -3131,10 +3131,10 @@ def write_ResourceInformation(o: bytearray, v: Optional[ResourceInformation]) ->
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
-    write_text(o, v.item_text4)
+    write_text(o, v.name)
+    write_text(o, v.description)
+    write_text(o, v.protocol)
+    write_text(o, v.physical_link)
     o += _S_IIb_write(v.id, v.pin, v.in_use)
 
 
@@ -3143,10 +3143,10 @@ def write_InterfaceInformationItem(o: bytearray, v: Optional[InterfaceInformatio
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
-    write_text(o, v.item_text4)
+    write_text(o, v.name)
+    write_text(o, v.vendor)
+    write_text(o, v.version)
+    write_text(o, v.description)
 
 
 def write_ScanInterfaceResult(o: bytearray, v: Optional[ScanInterfaceResult]) -> None:
@@ -3179,14 +3179,14 @@ def write_ModuleDyn(o: bytearray, v: Optional[ModuleDyn]) -> None:
     write_text(o, v.kind)
     write_text(o, v.address)
     write_InterfaceInformationItem(o, v.vendor_module)
-    o += _S_b_write(v.flag1)
+    o += _S_b_write(v.connected)
     write_text(o, v.serial_number)
     write_text(o, v.firmware)
     write_text(o, v.network)
     o += _U32.pack(len(v.resources))
     for e_resources in v.resources:
         write_ResourceInformation(o, e_resources)
-    o += _S_IbQ_write(v.port, v.flag2, v.handle)
+    o += _S_IbQ_write(v.port, v.exclusive, v.handle)
 
 
 def write_DeviceInfo(o: bytearray, v: Optional[DeviceInfo]) -> None:
@@ -3194,20 +3194,20 @@ def write_DeviceInfo(o: bytearray, v: Optional[DeviceInfo]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.text1)
-    o += _S_II_write(v.value1, v.value2)
-    write_text(o, v.text2)
-    write_text(o, v.text3)
-    o += _S_I_write(v.value3)
-    write_text(o, v.text4)
-    write_text(o, v.text5)
-    o += _S_II_write(v.value4, v.value5)
-    write_text(o, v.text6)
+    write_text(o, v.name)
+    o += _S_II_write(v.vendor_id, v.product_id)
+    write_text(o, v.vendor)
+    write_text(o, v.serial_number)
+    o += _S_I_write(v.resources)
+    write_text(o, v.firmware)
+    write_text(o, v.kind)
+    o += _S_II_write(v.ethernet_pin_state, v.links)
+    write_text(o, v.address)
     write_texts(o, v.protocols)
-    write_text(o, v.text7)
+    write_text(o, v.long_name)
     write_texts(o, v.modules)
-    write_text(o, v.text8)
-    o += _S_bQIQQQ_write(v.flag, v.handle, v.value6, v.value8, v.value9, v.value10)
+    write_text(o, v.description)
+    o += _S_bQIQQQ_write(v.connected, v.handle, v.dynamic, v.value8, v.value9, v.value10)
 
 
 def write_PhysicalLinksOnModule(o: bytearray, v: Optional[PhysicalLinksOnModule]) -> None:
@@ -3226,10 +3226,10 @@ def write_PhysicalLink(o: bytearray, v: Optional[PhysicalLink]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
-    write_text(o, v.item_text4)
+    write_text(o, v.name)
+    write_text(o, v.type)
+    write_text(o, v.pins)
+    write_text(o, v.description)
     o += _S_Ib_write(v.baudrate, v.enabled)
 
 
@@ -3248,14 +3248,14 @@ def write_InterfaceConfigurationEntry(o: bytearray, v: Optional[InterfaceConfigu
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    write_text(o, v.text3)
-    write_text(o, v.text4)
-    write_text(o, v.text5)
-    o += _S_Ib_write(v.value, v.flag)
-    o += _U32.pack(len(v.items))
-    for e_items in v.items:
+    write_text(o, v.name)
+    write_text(o, v.long_name)
+    write_text(o, v.vendor)
+    write_text(o, v.kind)
+    write_text(o, v.address)
+    o += _S_Ib_write(v.ethernet_pin_state, v.enabled)
+    o += _U32.pack(len(v.resources))
+    for e_items in v.resources:
         write_ResourceInformation(o, e_items)
 
 
@@ -3264,12 +3264,12 @@ def write_InterfaceProvider(o: bytearray, v: Optional[InterfaceProvider]) -> Non
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
-    write_text(o, v.item_text4)
-    write_text(o, v.text)
-    o += _S_Ib_write(v.value, v.flag)
+    write_text(o, v.name)
+    write_text(o, v.description)
+    write_text(o, v.vendor)
+    write_text(o, v.version)
+    write_text(o, v.library)
+    o += _S_Ib_write(v.priority, v.enabled)
 
 
 def write_DoIPParameter(o: bytearray, v: Optional[DoIPParameter]) -> None:
@@ -3277,10 +3277,10 @@ def write_DoIPParameter(o: bytearray, v: Optional[DoIPParameter]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_II_write(v.value1, v.value2)
-    write_text(o, v.text)
-    o += _S_I_write(v.value3)
-    write_texts(o, v.strings)
+    o += _S_II_write(v.discovery_port, v.announcement_wait_ms)
+    write_text(o, v.broadcast_address)
+    o += _S_I_write(v.tcp_port)
+    write_texts(o, v.adapters)
 
 
 def write_WLanSignalData(o: bytearray, v: Optional[WLanSignalData]) -> None:
@@ -3288,8 +3288,8 @@ def write_WLanSignalData(o: bytearray, v: Optional[WLanSignalData]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_IIIIIQIIIIH_write(v.value1, v.value2, v.value3, v.value4, v.value5, v.value6, v.value7, v.value8, v.value9, v.value10, v.value11)
-    write_text(o, v.text)
+    o += _S_IIIIIQIIIIH_write(v.quality, v.signal_dbm_below_zero, v.noise_dbm_below_zero, v.channel, v.frequency_mhz, v.bytes_received, v.transmit_rate_mbits, v.receive_rate_mbits, v.retransmissions, v.lost_beacons, v.channel_width_mhz)
+    write_text(o, v.ssid)
 
 
 def write_SupportedInterface(o: bytearray, v: Optional[SupportedInterface]) -> None:
@@ -3297,11 +3297,11 @@ def write_SupportedInterface(o: bytearray, v: Optional[SupportedInterface]) -> N
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    write_texts(o, v.names)
-    o += _S_I_write(v.value)
-    write_text(o, v.text3)
+    write_text(o, v.kind)
+    write_text(o, v.description)
+    write_texts(o, v.protocols)
+    o += _S_I_write(v.max_interfaces)
+    write_text(o, v.vendor_module)
 
 
 def write_MonitoringItem(o: bytearray, v: Optional[MonitoringItem]) -> None:
@@ -3309,11 +3309,11 @@ def write_MonitoringItem(o: bytearray, v: Optional[MonitoringItem]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.text1)
+    write_text(o, v.unit)
     write_bytes(o, v.data)
-    o += _S_QIbbbI_write(v.value1, v.value2, v.flag1, v.flag2, v.flag3, v.value3)
-    write_text(o, v.text2)
-    o += _S_I_write(v.value4)
+    o += _S_QIbbbI_write(v.time, v.number, v.answered, v.positive, v.replayed, v.nrc)
+    write_text(o, v.source)
+    o += _S_I_write(v.service_id)
     write_MonitoringItemDetail(o, v.detail)
 
 
@@ -3323,7 +3323,7 @@ def write_MonitoringItemDetail(o: bytearray, v: Optional[MonitoringItemDetail]) 
         return
     o.append(1)
     write_bytes(o, v.response)
-    write_text(o, v.text)
+    write_text(o, v.summary)
 
 
 def write_PduMonitoringItem(o: bytearray, v: Optional[PduMonitoringItem]) -> None:
@@ -3331,13 +3331,13 @@ def write_PduMonitoringItem(o: bytearray, v: Optional[PduMonitoringItem]) -> Non
         o.append(0)
         return
     o.append(1)
-    o += _S_I_write(v.value1)
+    o += _S_I_write(v.direction)
     write_bytes(o, v.data)
     write_PduMonitoringItemDetail(o, v.detail)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    o += _S_Q_write(v.value2)
-    write_text(o, v.text3)
+    write_text(o, v.unit)
+    write_text(o, v.direction_text)
+    o += _S_Q_write(v.time)
+    write_text(o, v.hex)
 
 
 def write_PduMonitoringItemDetail(o: bytearray, v: Optional[PduMonitoringItemDetail]) -> None:
@@ -3355,10 +3355,10 @@ def write_FileInfo(o: bytearray, v: Optional[FileInfo]) -> None:
     o.append(1)
     write_text(o, v.name)
     write_KelError(o, v.error)
-    o += _S_bI_write(v.flag, v.value1)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
-    o += _S_QQ_write(v.value2, v.value3)
+    o += _S_bI_write(v.read_only, v.attributes)
+    write_text(o, v.path)
+    write_text(o, v.modified)
+    o += _S_QQ_write(v.size, v.modified_ms)
 
 
 def write_DirectoryInfo(o: bytearray, v: Optional[DirectoryInfo]) -> None:
@@ -3368,16 +3368,16 @@ def write_DirectoryInfo(o: bytearray, v: Optional[DirectoryInfo]) -> None:
     o.append(1)
     write_text(o, v.name)
     write_KelError(o, v.error)
-    o += _S_bI_write(v.flag, v.value1)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
+    o += _S_bI_write(v.read_only, v.attributes)
+    write_text(o, v.path)
+    write_text(o, v.modified)
     o += _U32.pack(len(v.files))
     for e_files in v.files:
         write_FileInfo(o, e_files)
     o += _U32.pack(len(v.directories))
     for e_directories in v.directories:
         write_DirectoryInfo(o, e_directories)
-    o += _S_b_write(v.flag2)
+    o += _S_b_write(v.contents_read)
 
 
 def write_FileCopyResult(o: bytearray, v: Optional[FileCopyResult]) -> None:
@@ -3385,11 +3385,11 @@ def write_FileCopyResult(o: bytearray, v: Optional[FileCopyResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_i_write(v.value1)
-    write_text(o, v.text)
+    o += _S_i_write(v.failed)
+    write_text(o, v.source)
     write_KelError(o, v.error)
     write_FileInfo(o, v.file)
-    o += _S_i_write(v.value2)
+    o += _S_i_write(v.index)
 
 
 def write_DirectoryCopyResult(o: bytearray, v: Optional[DirectoryCopyResult]) -> None:
@@ -3397,8 +3397,8 @@ def write_DirectoryCopyResult(o: bytearray, v: Optional[DirectoryCopyResult]) ->
         o.append(0)
         return
     o.append(1)
-    o += _S_i_write(v.value1)
-    write_text(o, v.text)
+    o += _S_i_write(v.outcome)
+    write_text(o, v.source)
     write_KelError(o, v.error)
     write_DirectoryCopyItem(o, v.directory)
 
@@ -3421,9 +3421,9 @@ def write_PathCopyResult(o: bytearray, v: Optional[PathCopyResult]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_i_write(v.value1)
+    o += _S_i_write(v.failed)
     write_KelError(o, v.error)
-    o += _S_i_write(v.value2)
+    o += _S_i_write(v.is_directory)
     write_PathCopyItem(o, v.item)
 
 
@@ -3483,8 +3483,8 @@ def write_UserInfo(o: bytearray, v: Optional[UserInfo]) -> None:
         return
     o.append(1)
     write_text(o, v.name)
-    write_text(o, v.text)
-    o += _S_I_write(v.value)
+    write_text(o, v.role_name)
+    o += _S_I_write(v.role)
 
 
 def write_LogInOutConfig(o: bytearray, v: Optional[LogInOutConfig]) -> None:
@@ -3504,18 +3504,18 @@ def write_TarnApiServerConfig(o: bytearray, v: Optional[TarnApiServerConfig]) ->
     o += _U32.pack(len(v.users))
     for e_users in v.users:
         write_UserInfo(o, e_users)
-    o += _S_bI_write(v.flag, v.value1)
-    write_text(o, v.text1)
-    write_text(o, v.text2)
+    o += _S_bI_write(v.user_management, v.connections)
+    write_text(o, v.address)
+    write_text(o, v.sovd_address)
     o += _U32.pack(len(v.filters))
     for e_filters in v.filters:
         write_FileFilter(o, e_filters)
-    write_text(o, v.text3)
-    write_text(o, v.text4)
-    o += _U32.pack(len(v.users2))
-    for e_users2 in v.users2:
+    write_text(o, v.identity_provider)
+    write_text(o, v.login_address)
+    o += _U32.pack(len(v.logged_in))
+    for e_users2 in v.logged_in:
         write_UserInfo(o, e_users2)
-    o += _S_H_write(v.value2)
+    o += _S_H_write(v.login_attempts)
 
 
 def write_ServerSettings(o: bytearray, v: Optional[ServerSettings]) -> None:
@@ -3523,7 +3523,7 @@ def write_ServerSettings(o: bytearray, v: Optional[ServerSettings]) -> None:
         o.append(0)
         return
     o.append(1)
-    o += _S_bIII_write(v.flag, v.value1, v.value2, v.value3)
+    o += _S_bIII_write(v.running, v.connections, v.users, v.sovd_running)
 
 
 def write_FlashSessionInfo(o: bytearray, v: Optional[FlashSessionInfo]) -> None:
@@ -3737,7 +3737,7 @@ def write_SpecialData(o: bytearray, v: Optional[NamedItem]) -> None:
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
+    write_text(o, v.name)
     write_text(o, v.item_text2)
     write_text(o, v.item_text3)
     write_text(o, v.item_text4)
@@ -3749,7 +3749,7 @@ def write_FilterPattern(o: bytearray, v: Optional[FileFilter]) -> None:
         return
     o.append(1)
     write_text(o, v.pattern)
-    o += _S_b_write(v.flag)
+    o += _S_b_write(v.exclude)
 
 
 def write_InterfaceProviderDyn(o: bytearray, v: Optional[InterfaceProvider]) -> None:
@@ -3757,9 +3757,9 @@ def write_InterfaceProviderDyn(o: bytearray, v: Optional[InterfaceProvider]) -> 
         o.append(0)
         return
     o.append(1)
-    write_text(o, v.item_text1)
-    write_text(o, v.item_text2)
-    write_text(o, v.item_text3)
-    write_text(o, v.item_text4)
-    write_text(o, v.text)
-    o += _S_Ib_write(v.value, v.flag)
+    write_text(o, v.name)
+    write_text(o, v.description)
+    write_text(o, v.vendor)
+    write_text(o, v.version)
+    write_text(o, v.library)
+    o += _S_Ib_write(v.priority, v.enabled)

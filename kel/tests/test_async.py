@@ -16,13 +16,13 @@ from .support import EngineTest, sim
 
 class AsyncCalls(EngineTest):
     def test_a_read_reports_each_target_and_ends_with_the_final_report(self) -> None:
-        call = self.engine.read_dtcs_async(config=kel.DtcReadConfig(flag1=1))
+        call = self.engine.read_dtcs_async(config=kel.DtcReadConfig(with_snapshots=True))
         reports = list(call.reports(timeout=10))
         self.assertEqual([r.is_final for r in reports], [False] * 5 + [True])
         self.assertTrue(all(r.call_id == call.call_id != 0 for r in reports))
         self.assertTrue(all(r.error is None for r in reports))
         # The pieces together are what the synchronous read gives.
-        self.assertEqual(call.result(), self.engine.read_dtcs(config=kel.DtcReadConfig(flag1=1)))
+        self.assertEqual(call.result(), self.engine.read_dtcs(config=kel.DtcReadConfig(with_snapshots=True)))
         self.assertTrue(call.done())
         self.assertNotIn(call, asynccall._running)
 

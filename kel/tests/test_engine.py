@@ -16,14 +16,14 @@ class TypicalPath(EngineTest):
         targets = [t for t in self.engine.identify_all_targets() if t]
         self.assertEqual([t.target for t in targets], ["ECM", "TCM", "ESP", "BCM", "GW", "ACC"])
         self.assertEqual(targets[0].variant, "ECM_EDC17_CR_2L0_V3")
-        results = self.engine.read_dtcs([t.target for t in targets], kel.DtcReadConfig(flag1=1, flag2=1))
+        results = self.engine.read_dtcs([t.target for t in targets], kel.DtcReadConfig(with_snapshots=True, with_extended_data=True))
         by_target = {r.target: r for r in results if r}
         ecm = by_target["ECM"]
         self.assertIsNone(ecm.error)
-        self.assertEqual([d.text1 for d in ecm.dtcs if d], ["P0301", "P2463"])
+        self.assertEqual([d.display_code for d in ecm.dtcs if d], ["P0301", "P2463"])
         first = ecm.dtcs[0]
         assert first is not None
-        self.assertEqual((first.code, first.value1), (0x030100, 0x2F))
+        self.assertEqual((first.code, first.status), (0x030100, 0x2F))
         self.assertTrue(first.parameters1, "snapshot data was asked for")
         self.assertFalse(first.special_data_groups, "special data groups were not asked for")
         # A silent control unit is data on the result, not an exception.
@@ -34,18 +34,18 @@ class TypicalPath(EngineTest):
         self.assertEqual(acc.dtcs, [])
 
     def test_status_mask_and_clearing(self) -> None:
-        confirmed_only = self.engine.read_dtcs(["ECM"], kel.DtcReadConfig(value=0x01))
+        confirmed_only = self.engine.read_dtcs(["ECM"], kel.DtcReadConfig(status_mask=0x01))
         assert confirmed_only[0] is not None
-        self.assertEqual([d.text1 for d in confirmed_only[0].dtcs if d], ["P0301"])
+        self.assertEqual([d.display_code for d in confirmed_only[0].dtcs if d], ["P0301"])
         cleared = self.engine.clear_specific_dtcs("ECM", [0x030100])
         self.assertIsNone(cleared[0] and cleared[0].error)
         after = self.engine.read_dtcs(["ECM"])[0]
         assert after is not None
-        self.assertEqual([d.text1 for d in after.dtcs if d], ["P2463"])
+        self.assertEqual([d.display_code for d in after.dtcs if d], ["P2463"])
 
     def test_records_are_keyword_only_dataclasses_with_their_docs(self) -> None:
-        config = kel.DtcReadConfig(value=3)
-        self.assertEqual((config.value, config.flag1), (3, 0))
+        config = kel.DtcReadConfig(status_mask=3)
+        self.assertEqual((config.status_mask, config.with_snapshots), (3, 0))
         self.assertIn("Options of a DTC read", kel.DtcReadConfig.__doc__ or "")
         import sys
         if sys.version_info >= (3, 10):
