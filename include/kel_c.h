@@ -1696,9 +1696,9 @@ KEL_C_API int32_t py_call_checked(TarnApi* api, int32_t operation, uint64_t rese
                                   KEL_KEPT const void* input, uint64_t inputSize,
                                   KEL_OUT uint32_t* outSize, KEL_OUT void** outBuffer);
 
-/* Error codes of the library itself, in the error record of the call stream. */
-#define KEL_ERROR_MALFORMED_INPUT (-1001) /* checked calls: input short or malformed */
-#define KEL_ERROR_NOT_AVAILABLE (-1002)   /* the operation's records are not built yet */
+/* The error codes, the library's own (KEL_ERROR_MALFORMED_INPUT, KEL_ERROR_NOT_AVAILABLE)
+ * and the engine's, are in kel_c_errors.h. */
+#include "kel_c_errors.h"
 
 /* ---- release functions ----
  * Each frees one record with everything it points to; _array frees a list that an

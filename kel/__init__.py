@@ -16,12 +16,17 @@ from __future__ import annotations
 from ._library import ENVIRONMENT, candidates, load
 from .asynccall import AsyncCall, AsyncReport
 from .engine import Engine
-from .errors import EngineError, LibraryError, LibraryNotFound, MalformedInputError, NotAvailableError
+from .errors import (AccessDeniedError, CallCancelledError, EngineError, LibraryError, LibraryNotFound,
+                     MalformedInputError, NegativeResponseError, NoResponseError, NotAvailableError, NotSupportedError,
+                     SandboxError, UnknownTargetError)
+from .generated.errors import ErrorCode
 from .events import EventChannel
 from .generated.records import *  # noqa: F401,F403
 from .generated.records import __all__ as _records
 
 __version__ = "0.1.0"
 
-__all__ = ["ENVIRONMENT", "AsyncCall", "AsyncReport", "Engine", "EngineError", "EventChannel", "LibraryError",
-           "LibraryNotFound", "MalformedInputError", "NotAvailableError", "candidates", "load", *_records]
+__all__ = ["ENVIRONMENT", "AccessDeniedError", "AsyncCall", "AsyncReport", "CallCancelledError", "Engine",
+           "EngineError", "ErrorCode", "EventChannel", "LibraryError", "LibraryNotFound", "MalformedInputError",
+           "NegativeResponseError", "NoResponseError", "NotAvailableError", "NotSupportedError", "SandboxError",
+           "UnknownTargetError", "candidates", "load", *_records]

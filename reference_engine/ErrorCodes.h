@@ -1,6 +1,6 @@
-// Every error code the reference engine throws or reports, one range per family. The
-// numbers are part of what callers and tests see: never renumber, only add within the
-// owning family's range (README.md, "Error codes").
+// Generated from the interface description by tools/generate.py. Do not edit.
+// Every error code the reference engine throws or reports, one range per family
+// (interface/errors.def; README.md, "Error codes").
 #pragma once
 
 #include <cstdint>

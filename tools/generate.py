@@ -19,6 +19,7 @@ import textwrap
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 import admission  # noqa: E402
+import errors_gen  # noqa: E402
 import conformance  # noqa: E402
 import kelidl  # noqa: E402
 import python_gen  # noqa: E402
@@ -430,9 +431,9 @@ KEL_C_API int32_t py_call_checked(TarnApi* api, int32_t operation, uint64_t rese
                                   KEL_KEPT const void* input, uint64_t inputSize,
                                   KEL_OUT uint32_t* outSize, KEL_OUT void** outBuffer);
 
-/* Error codes of the library itself, in the error record of the call stream. */
-#define KEL_ERROR_MALFORMED_INPUT (-1001) /* checked calls: input short or malformed */
-#define KEL_ERROR_NOT_AVAILABLE (-1002)   /* the operation's records are not built yet */
+/* The error codes, the library's own (KEL_ERROR_MALFORMED_INPUT, KEL_ERROR_NOT_AVAILABLE)
+ * and the engine's, are in kel_c_errors.h. */
+#include "kel_c_errors.h"
 """
 
 # Header comments are wrapped to this width (the comment's own text, after " * ").
@@ -1040,6 +1041,7 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
         "interface/generated/EngineFields.h": engine_fields_h(iface),
         **conformance.outputs(iface),
         **admission.outputs(iface, ROOT),
+        **errors_gen.outputs(ROOT),
         **record_classes_tests(iface),
         **python_gen.outputs(iface),
     }

@@ -313,9 +313,16 @@ def write_text(o: bytearray, text: str) -> None:
     o.append(0)
 
 
-def write_texts(o: bytearray, texts: Sequence[str]) -> None:
+def write_texts(o: bytearray, texts: Sequence[str], parameter: str = "texts") -> None:
+    """A str is a sequence of strings too, one per character: refused, as is any element
+    that is not a str, with the parameter's name."""
+    if isinstance(texts, (str, builtins.bytes)):
+        raise TypeError(f"{parameter} must be a sequence of str, not a single {type(texts).__name__}: "
+                        f"write [{texts!r}]")
     o += _U32.pack(len(texts))
-    for text in texts:
+    for i, text in enumerate(texts):
+        if not isinstance(text, str):
+            raise TypeError(f"{parameter}[{i}] must be a str, not {type(text).__name__}")
         write_text(o, text)
 
 
@@ -470,6 +477,7 @@ def async_starter(iface: kelidl.Interface, op: kelidl.Operation) -> tuple[list[s
            f") -> tuple[int, Optional[records.KelError]]:".replace(", )", ")"),
            f'    """kel_{op.name}: the call id, or 0 and the error of a failed start."""',
            "    error = ctypes.c_void_p()"]
+    out += [f'    check_texts({param_name(p)}, "{param_name(p)}")' for p in op.inputs if p.kind == "wstrs"]
     for local, build, _ in kept:
         out.append(f"    {local} = {build}")
     call = f"call_id: int = lib.kel_{op.name}({', '.join(exprs)})"
@@ -492,6 +500,16 @@ CALLBACK = ctypes.CFUNCTYPE(None, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_boo
 
 _POINTER_SIZE = ctypes.sizeof(ctypes.c_void_p)
 T = TypeVar("T")
+
+
+def check_texts(texts: Sequence[str], parameter: str) -> None:
+    """As the stream's write_texts: a single str, or an element that is not a str, is refused."""
+    if isinstance(texts, (str, bytes)):
+        raise TypeError(f"{parameter} must be a sequence of str, not a single {type(texts).__name__}: "
+                        f"write [{texts!r}]")
+    for i, text in enumerate(texts):
+        if not isinstance(text, str):
+            raise TypeError(f"{parameter}[{i}] must be a str, not {type(text).__name__}")
 
 
 def _text(address: Optional[int]) -> str:
@@ -599,7 +617,7 @@ def encode(p: kelidl.Value, iface: kelidl.Interface) -> str:
     if p.kind == "wstr":
         return f"stream.write_text(_o, {name})"
     if p.kind == "wstrs":
-        return f"stream.write_texts(_o, {name})"
+        return f'stream.write_texts(_o, {name}, "{name}")'
     if p.kind == "u32s":
         return f'stream.write_values(_o, "I", {name})'
     if p.kind == "u64s":

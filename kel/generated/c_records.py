@@ -18,6 +18,16 @@ _POINTER_SIZE = ctypes.sizeof(ctypes.c_void_p)
 T = TypeVar("T")
 
 
+def check_texts(texts: Sequence[str], parameter: str) -> None:
+    """As the stream's write_texts: a single str, or an element that is not a str, is refused."""
+    if isinstance(texts, (str, bytes)):
+        raise TypeError(f"{parameter} must be a sequence of str, not a single {type(texts).__name__}: "
+                        f"write [{texts!r}]")
+    for i, text in enumerate(texts):
+        if not isinstance(text, str):
+            raise TypeError(f"{parameter}[{i}] must be a str, not {type(text).__name__}")
+
+
 def _text(address: Optional[int]) -> str:
     return ctypes.wstring_at(address) if address else ""
 
@@ -3371,6 +3381,7 @@ def start_identifyAllTargetsAsync(lib: Any, api: int, callback: Any) -> tuple[in
 def start_readIdentificationValuesAsync(lib: Any, api: int, callback: Any, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_readIdentificationValuesAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(targets, "targets")
     call_id: int = lib.kel_readIdentificationValuesAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3381,6 +3392,7 @@ def start_readIdentificationValuesAsync(lib: Any, api: int, callback: Any, targe
 def start_readDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str], config: Optional[records.DtcReadConfig]) -> tuple[int, Optional[records.KelError]]:
     """kel_readDtcsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(targets, "targets")
     call_id: int = lib.kel_readDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), to_c_DtcReadConfig(lib, config), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3391,6 +3403,7 @@ def start_readDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str
 def start_readSupportedDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str], config: Optional[records.DtcReadConfig]) -> tuple[int, Optional[records.KelError]]:
     """kel_readSupportedDtcsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(targets, "targets")
     call_id: int = lib.kel_readSupportedDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), to_c_DtcReadConfig(lib, config), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3401,6 +3414,7 @@ def start_readSupportedDtcsAsync(lib: Any, api: int, callback: Any, targets: Seq
 def start_clearAllDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_clearAllDtcsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(targets, "targets")
     call_id: int = lib.kel_clearAllDtcsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3411,6 +3425,7 @@ def start_clearAllDtcsAsync(lib: Any, api: int, callback: Any, targets: Sequence
 def start_executeFlashSessionsAsync(lib: Any, api: int, callback: Any, target: str, sessions: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_executeFlashSessionsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(sessions, "sessions")
     call_id: int = lib.kel_executeFlashSessionsAsync(api, target, ctypes.cast((ctypes.c_wchar_p * len(sessions))(*sessions), ctypes.c_void_p), len(sessions), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3421,6 +3436,7 @@ def start_executeFlashSessionsAsync(lib: Any, api: int, callback: Any, target: s
 def start_readCodingStringsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_readCodingStringsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(targets, "targets")
     call_id: int = lib.kel_readCodingStringsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3431,6 +3447,7 @@ def start_readCodingStringsAsync(lib: Any, api: int, callback: Any, targets: Seq
 def start_performQuickTestAsync(lib: Any, api: int, callback: Any, targets: Sequence[str], config: Optional[records.DtcReadConfig]) -> tuple[int, Optional[records.KelError]]:
     """kel_performQuickTestAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(targets, "targets")
     call_id: int = lib.kel_performQuickTestAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), to_c_DtcReadConfig(lib, config), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3441,6 +3458,7 @@ def start_performQuickTestAsync(lib: Any, api: int, callback: Any, targets: Sequ
 def start_scanInterfaceConnectionAsync(lib: Any, api: int, callback: Any, interfaces: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_scanInterfaceConnectionAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(interfaces, "interfaces")
     call_id: int = lib.kel_scanInterfaceConnectionAsync(api, ctypes.cast((ctypes.c_wchar_p * len(interfaces))(*interfaces), ctypes.c_void_p), len(interfaces), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3451,6 +3469,7 @@ def start_scanInterfaceConnectionAsync(lib: Any, api: int, callback: Any, interf
 def start_readMeasurementValuesAsync(lib: Any, api: int, callback: Any, target: str, names: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_readMeasurementValuesAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(names, "names")
     call_id: int = lib.kel_readMeasurementValuesAsync(api, target, ctypes.cast((ctypes.c_wchar_p * len(names))(*names), ctypes.c_void_p), len(names), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3461,6 +3480,7 @@ def start_readMeasurementValuesAsync(lib: Any, api: int, callback: Any, target: 
 def start_identifyTargetsAsync(lib: Any, api: int, callback: Any, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_identifyTargetsAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(targets, "targets")
     call_id: int = lib.kel_identifyTargetsAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3569,6 +3589,7 @@ def start_copyPathAsync(lib: Any, api: int, callback: Any, config: Optional[reco
 def start_writeCodingFileAsync(lib: Any, api: int, callback: Any, coding_file: str, targets: Sequence[str]) -> tuple[int, Optional[records.KelError]]:
     """kel_writeCodingFileAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(targets, "targets")
     call_id: int = lib.kel_writeCodingFileAsync(api, coding_file, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:
@@ -3607,6 +3628,7 @@ def start_executeSequenceAsync(lib: Any, api: int, callback: Any, target: str, s
 def start_performEcuConfigurationAsync(lib: Any, api: int, callback: Any, targets: Sequence[str], configuration: str) -> tuple[int, Optional[records.KelError]]:
     """kel_performEcuConfigurationAsync: the call id, or 0 and the error of a failed start."""
     error = ctypes.c_void_p()
+    check_texts(targets, "targets")
     call_id: int = lib.kel_performEcuConfigurationAsync(api, ctypes.cast((ctypes.c_wchar_p * len(targets))(*targets), ctypes.c_void_p), len(targets), configuration, ctypes.byref(error), callback, None)
     failure = from_c_KelError(error.value)
     if error.value:

@@ -263,7 +263,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         _b = self._call(19, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -293,7 +293,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, target)
-        stream.write_texts(_o, identifiers)
+        stream.write_texts(_o, identifiers, "identifiers")
         _b = self._call(21, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -326,7 +326,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         stream.write_DtcReadConfig(_o, config)
         _b = self._call(23, builtins.bytes(_o))
         with self._decoding(_b):
@@ -358,7 +358,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         stream.write_DtcReadConfig(_o, config)
         _b = self._call(25, builtins.bytes(_o))
         with self._decoding(_b):
@@ -389,7 +389,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         _b = self._call(27, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -422,7 +422,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         stream.write_text(_o, pattern)
-        stream.write_texts(_o, names)
+        stream.write_texts(_o, names, "names")
         _o += struct.pack("<i", service_id)
         _b = self._call(29, builtins.bytes(_o))
         with self._decoding(_b):
@@ -462,7 +462,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, target)
-        stream.write_texts(_o, sessions)
+        stream.write_texts(_o, sessions, "sessions")
         _b = self._call(117, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -491,7 +491,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         _b = self._call(32, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -521,7 +521,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         stream.write_DtcReadConfig(_o, config)
         _b = self._call(34, builtins.bytes(_o))
         with self._decoding(_b):
@@ -587,7 +587,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, target)
-        stream.write_texts(_o, names)
+        stream.write_texts(_o, names, "names")
         _b = self._call(38, builtins.bytes(_o))
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
@@ -780,7 +780,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, interfaces)
+        stream.write_texts(_o, interfaces, "interfaces")
         _b = self._call(71, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -833,7 +833,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, target)
-        stream.write_texts(_o, names)
+        stream.write_texts(_o, names, "names")
         _b = self._call(75, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -920,7 +920,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         _b = self._call(86, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -998,7 +998,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, target)
-        stream.write_texts(_o, names)
+        stream.write_texts(_o, names, "names")
         _b = self._call(96, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -1329,7 +1329,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, names)
+        stream.write_texts(_o, names, "names")
         self._call(126, builtins.bytes(_o))
 
     def update_cyclic_services(self, cyclic: int, services: Sequence[Optional[records.ServiceInput]] = ()) -> None:
@@ -1582,7 +1582,7 @@ class Operations:
         _o += struct.pack("<I", len(entries))
         for _e in entries:
             stream.write_EcuOrderEntry(_o, _e)
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         _b = self._call(144, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -1669,7 +1669,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<B", state)
-        stream.write_texts(_o, interfaces)
+        stream.write_texts(_o, interfaces, "interfaces")
         self._call(151, builtins.bytes(_o))
 
     def get_ethernet_pin_state(self, interface_name: str) -> int:
@@ -1923,7 +1923,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, sequence)
-        stream.write_texts(_o, arguments)
+        stream.write_texts(_o, arguments, "arguments")
         _b = self._call(177, builtins.bytes(_o))
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
@@ -2223,7 +2223,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, files)
+        stream.write_texts(_o, files, "files")
         _b = self._call(198, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -2296,7 +2296,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, files)
+        stream.write_texts(_o, files, "files")
         _b = self._call(206, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -2398,7 +2398,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         _b = self._call(215, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -2417,7 +2417,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, modules)
+        stream.write_texts(_o, modules, "modules")
         _b = self._call(217, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -2527,7 +2527,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, project_names)
+        stream.write_texts(_o, project_names, "project_names")
         _b = self._call(203, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -2557,7 +2557,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, files)
+        stream.write_texts(_o, files, "files")
         _b = self._call(224, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -2770,7 +2770,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, project_name)
-        stream.write_texts(_o, items)
+        stream.write_texts(_o, items, "items")
         self._call(246, builtins.bytes(_o))
 
     def get_certificate_by_public_key(self, public_key: str, text2: str, text3: str, text4: str) -> str:
@@ -2850,7 +2850,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, coding_file)
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         _b = self._call(251, builtins.bytes(_o))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
@@ -3023,7 +3023,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         stream.write_text(_o, configuration)
         _b = self._call(267, builtins.bytes(_o))
         with self._decoding(_b):
@@ -3114,7 +3114,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        stream.write_texts(_o, targets)
+        stream.write_texts(_o, targets, "targets")
         _b = self._call(154, builtins.bytes(_o))
         with self._decoding(_b):
             return stream.read_VehicleUpdateConfig(_b, 0)[0]

@@ -39,9 +39,16 @@ def write_text(o: bytearray, text: str) -> None:
     o.append(0)
 
 
-def write_texts(o: bytearray, texts: Sequence[str]) -> None:
+def write_texts(o: bytearray, texts: Sequence[str], parameter: str = "texts") -> None:
+    """A str is a sequence of strings too, one per character: refused, as is any element
+    that is not a str, with the parameter's name."""
+    if isinstance(texts, (str, builtins.bytes)):
+        raise TypeError(f"{parameter} must be a sequence of str, not a single {type(texts).__name__}: "
+                        f"write [{texts!r}]")
     o += _U32.pack(len(texts))
-    for text in texts:
+    for i, text in enumerate(texts):
+        if not isinstance(text, str):
+            raise TypeError(f"{parameter}[{i}] must be a str, not {type(text).__name__}")
         write_text(o, text)
 
 
