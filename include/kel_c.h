@@ -567,7 +567,7 @@ struct ParameterInfoConfig {
  * release_KelEvent_array. */
 struct KelEvent {
     wchar_t* name;   /* the event's name */
-    int32_t kind;    /* its kind, a number */
+    int32_t kind;    /* what happened: its kind */
     int32_t code;    /* its code, a number */
     wchar_t* text;   /* a sentence for a person: what happened */
     KelError* error; /* the error the event carries, or NULL */

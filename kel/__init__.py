@@ -19,6 +19,8 @@ from .engine import Engine
 from .errors import (AccessDeniedError, CallCancelledError, EngineError, LibraryError, LibraryNotFound,
                      MalformedInputError, NegativeResponseError, NoResponseError, NotAvailableError, NotSupportedError,
                      SandboxError, UnknownTargetError)
+from .generated.enums import *  # noqa: F401,F403
+from .generated.enums import __all__ as _enums
 from .generated.errors import ErrorCode
 from .events import EventChannel
 from .generated.records import *  # noqa: F401,F403
@@ -29,4 +31,4 @@ __version__ = "0.1.0"
 __all__ = ["ENVIRONMENT", "AccessDeniedError", "AsyncCall", "AsyncReport", "CallCancelledError", "Engine",
            "EngineError", "ErrorCode", "EventChannel", "LibraryError", "LibraryNotFound", "MalformedInputError",
            "NegativeResponseError", "NoResponseError", "NotAvailableError", "NotSupportedError", "SandboxError",
-           "UnknownTargetError", "candidates", "load", *_records]
+           "UnknownTargetError", "candidates", "load", *_enums, *_records]

@@ -13,6 +13,7 @@ from .asynccall import AsyncCall
 from .errors import EngineError
 from .events import EventChannel
 from .generated import stream
+from .generated.enums import EngineState
 from .generated.operations import Operations
 from .generated.records import KelError
 from . import _library
@@ -122,8 +123,8 @@ class Engine(Operations):
             raise EngineError.of(error or KelError(code=-1, message="engine error without a record"))
         return result
 
-    def get_state(self) -> int:
-        """Reads the engine's state number; the engine defines its values.
+    def get_state(self) -> EngineState:
+        """Reads the engine's state: EngineState.CREATED, INITIALIZED or ENDED.
 
         Raises EngineError when the engine reports a failure.
         """
@@ -144,7 +145,7 @@ class Engine(Operations):
         self._scalars.append(scalar)
         if failed:
             raise EngineError.of(_take_error(self._lib, failed))
-        return state
+        return EngineState(state)
 
     def _decoding(self, data: bytes) -> contextlib.AbstractContextManager[None]:
         if len(data) >= _LARGE_RESULT:

@@ -56,10 +56,29 @@ class Field:
     secret: bool = False  # a password: never recorded or shown in clear
     doc: str = ""  # the trailing `#:` text of its line
     readable: str | None = None  # `name=`: the name Python and the JSON output use
+    type: str | None = None  # `type=`: the enum (enums.def) that gives the number its meaning
 
     @property
     def c_name(self) -> str | None:
         return self.c_record or self.record
+
+
+@dataclasses.dataclass
+class EnumMember:
+    value: int
+    name: str
+    doc: str = ""
+
+
+@dataclasses.dataclass
+class Enum:
+    """An `enum` of enums.def: names for the values of integer members (`flags`: for bits)."""
+
+    name: str
+    flags: bool = False
+    members: list[EnumMember] = dataclasses.field(default_factory=list)
+    doc: str = ""
+    line: int = 0
 
 
 @dataclasses.dataclass
@@ -102,6 +121,7 @@ class Value:
     c_record: str | None = None  # the C record of `record` when that is an `as=` class
     secret: bool = False  # a password: never recorded or shown in clear
     readable: str | None = None  # `name=`: the parameter's name in Python
+    type: str | None = None  # `type=`: the enum of an integer parameter or result
 
     @property
     def c_name(self) -> str | None:
@@ -148,6 +168,7 @@ class Interface:
     records: dict[str, Record]
     operations: list[Operation]
     family_docs: dict[str, str] = dataclasses.field(default_factory=dict)  # trailing `#:` of each family
+    enums: dict[str, Enum] = dataclasses.field(default_factory=dict)  # enums.def
 
     def record(self, name: str) -> Record:
         return self.records[name]
@@ -292,8 +313,26 @@ def _readable(words: list[str], where: str) -> str | None:
     return found[0][5:]
 
 
+# The kinds a `type=` may give an enum to.
+TYPED_KINDS = {"u8", "u16", "i16", "i32", "u32", "bits", "i64", "u64"}
+
+
+def _typed(words: list[str], where: str) -> str | None:
+    """Takes a `type=<Enum>` off `words`; allowed on an integer only."""
+    found = [w for w in words if w.startswith("type=")]
+    if not found:
+        return None
+    if len(found) > 1 or not re.fullmatch(r"[A-Z]\w*", found[0][5:]):
+        raise DescriptionError(f"{where}: 'type=' takes one enum name")
+    words.remove(found[0])
+    if words[0] not in TYPED_KINDS:
+        raise DescriptionError(f"{where}: only an integer can have a 'type='")
+    return found[0][5:]
+
+
 def _parse_field(words: list[str], where: str) -> Field:
     readable = _readable(words, where)
+    typed = _typed(words, where)
     direction = "both"
     if len(words) > 2 and words[-1] in DIRECTIONS[1:]:
         direction = words.pop()
@@ -302,6 +341,7 @@ def _parse_field(words: list[str], where: str) -> Field:
     field.direction = direction
     field.secret = secret
     field.readable = readable
+    field.type = typed
     return field
 
 
@@ -340,8 +380,10 @@ def _parse_value(text: str, kinds: set[str], counted: set[str], where: str) -> V
     readable = _readable(words, where)
     if readable and kinds is not PARAM_KINDS:
         raise DescriptionError(f"{where}: a result has no readable name")
+    typed = _typed(words, where)
     value = _parse_value_kind(words, text, kinds, counted, where)
     value.readable = readable
+    value.type = typed
     return value
 
 
@@ -471,8 +513,51 @@ def parse_records(path: pathlib.Path, known: dict[str, Record] | None = None) ->
     return records
 
 
+def parse_enums(path: pathlib.Path) -> dict[str, Enum]:
+    """The enums of enums.def:
+
+        #: doc
+        enum <Name> [flags]
+            <value> <memberName>  #: doc
+
+    Values are decimal or 0x hex; a `flags` enum's values are single bits."""
+    enums: dict[str, Enum] = {}
+    current: Enum | None = None
+    docs = _Docs()
+    for n, raw in enumerate(path.read_text().splitlines(), 1):
+        where = f"{path.name}:{n}"
+        if docs.read(raw, where):
+            continue
+        line = _words(raw)
+        if not line.strip():
+            docs.none_pending("enum")
+            continue
+        words = line.split()
+        if not raw[0].isspace():
+            if words[0] != "enum" or len(words) not in (2, 3) or words[2:] not in ([], ["flags"]) \
+                    or not re.fullmatch(r"[A-Z]\w*", words[1]):
+                raise DescriptionError(f"{where}: expected 'enum <Name> [flags]'")
+            if words[1] in enums:
+                raise DescriptionError(f"{where}: enum {words[1]} declared twice")
+            current = enums[words[1]] = Enum(words[1], len(words) == 3, doc=docs.take(), line=n)
+            continue
+        if current is None or len(words) != 2 or not re.fullmatch(r"(0x[0-9A-Fa-f]+|\d+)", words[0]) \
+                or not re.fullmatch(r"[a-z]\w*", words[1]):
+            raise DescriptionError(f"{where}: expected '<value> <memberName>' inside an enum")
+        value = int(words[0], 0)
+        if current.flags and (value == 0 or value & (value - 1)):
+            raise DescriptionError(f"{where}: a flags member is one bit")
+        if any(m.value == value or m.name == words[1] for m in current.members):
+            raise DescriptionError(f"{where}: {current.name} has {words[1]} or the value {value} twice")
+        current.members.append(EnumMember(value, words[1], _trailing_doc(raw)))
+    docs.none_pending("enum")
+    return enums
+
+
 def parse(root: pathlib.Path) -> Interface:
     records = parse_records(root / "interface" / "records.def")
+    enums_path = root / "interface" / "enums.def"
+    enums = parse_enums(enums_path) if enums_path.exists() else {}
 
     operations: list[Operation] = []
     path = root / "interface" / "operations.def"
@@ -507,7 +592,7 @@ def parse(root: pathlib.Path) -> Interface:
         operations.append(op)
     docs.none_pending("operation")
     operations.sort(key=lambda o: o.position)
-    iface = Interface(records, operations, family_docs)
+    iface = Interface(records, operations, family_docs, enums)
     _validate(iface)
     return iface
 
@@ -553,6 +638,11 @@ def _validate(iface: Interface) -> None:
                 raise DescriptionError(f"{op.name}: unknown record {v.record}")
             if v.record:
                 v.c_record = iface.records[v.record].alias
+    typed = [(f"record {r.name}", f) for r in iface.records.values() for f in r.fields] + [
+        (f"operation {op.name}", v) for op in iface.operations for v in op.params + ([op.result] if op.result else [])]
+    for where, v in typed:
+        if v.type and v.type not in iface.enums:
+            raise DescriptionError(f"{where}: {v.name} has the unknown type {v.type}")
     for op in iface.operations:
         for v in op.params + ([op.result] if op.result else []):
             if v.record and iface.records[v.record].abstract:
@@ -656,3 +746,6 @@ def _validate_alias(iface: Interface, rec: Record) -> None:
         if (f.kind, f.c_name, f.count, f.element, f.length) != (
                 other.kind, other.c_name, other.count, other.element, other.length):
             raise DescriptionError(f"record {rec.name}: field {f.name} differs from {rec.alias}.{f.name}")
+        if f.type not in (None, other.type):
+            raise DescriptionError(f"record {rec.name}: an `as=` class takes the types of {rec.alias}")
+        f.type = other.type

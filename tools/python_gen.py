@@ -64,6 +64,8 @@ def py_type(f, iface: kelidl.Interface) -> str:
     kind = f.kind
     if kind in ("bool", "flag"):
         return "bool"
+    if getattr(f, "type", None):
+        return str(f.type)
     if kind in kelidl.SCALARS:
         return "int"
     if kind == "array":
@@ -87,6 +89,8 @@ def default(f) -> str:
     kind = f.kind
     if kind in ("bool", "flag"):
         return "False"
+    if f.type:
+        return f"{f.type}(0)"
     if kind in kelidl.SCALARS:
         return "0"
     if kind == "array":
@@ -136,12 +140,81 @@ def stream_classes(iface: kelidl.Interface) -> list[kelidl.Record]:
     return [r for r in iface.ready_records()] + iface.ready_aliases()
 
 
+# ---- enums.py ------------------------------------------------------------------------------
+
+def upper(name: str) -> str:
+    return snake(name).rstrip("_").upper()
+
+
+ENUM_HELPERS = '''
+
+def _unnamed(cls: Any, value: object) -> Any:
+    """A value the enum does not name still arrives: as a member without a name of its own
+    (an engine may report numbers this version of the package does not know)."""
+    if not isinstance(value, int):
+        return None
+    member = int.__new__(cls, value)
+    member._name_ = f"{cls.__name__}_{value}"
+    member._value_ = value
+    return member
+'''
+
+
+def enums_py(iface: kelidl.Interface) -> str:
+    out = [f"# {BANNER}",
+           '"""Names for the numbers that mean something: an IntEnum per enum of the description, an',
+           "IntFlag per `flags` enum (with a boolean property per bit). Each is still the plain",
+           'integer the engine and C see."""', "",
+           "from __future__ import annotations", "", "import enum", "from typing import Any", ENUM_HELPERS, ""]
+    for e in iface.enums.values():
+        base = "enum.IntFlag" if e.flags else "enum.IntEnum"
+        out.append(f"class {e.name}({base}):")
+        listing = [f"{upper(m.name)} = {m.value:#04x}: {m.doc}" if e.flags else f"{upper(m.name)} = {m.value}: {m.doc}"
+                   for m in e.members]
+        out.append(f"    {QUOTES}" + (doc_lines(e.doc or e.name, "    ")[0].lstrip()))
+        out += doc_lines(e.doc or e.name, "    ")[1:]
+        if e.flags:
+            out += [""] + doc_lines("Each bit is also a property: status.confirmed, status.test_failed ...", "    ")
+        out += ["", "    Members:"]
+        for line in listing:
+            out += textwrap.wrap(line, 88, initial_indent="        ", subsequent_indent="            ")
+        out.append(f"    {QUOTES}")
+        out.append("")
+        for m in e.members:
+            out.append(f"    {upper(m.name)} = {m.value:#04x}" if e.flags else f"    {upper(m.name)} = {m.value}")
+            if m.doc:
+                out += docstring(m.doc[0].upper() + m.doc[1:] + ".", "    ")
+        if e.flags:
+            for m in e.members:
+                out += ["", "    @property", f"    def {snake(m.name)}(self) -> bool:"]
+                out += docstring(f"True when {upper(m.name)} is set: {m.doc}.", "        ")
+                out.append(f"        return bool(self & {m.value:#04x})")
+            # IntFlag would take a negative number for its complement; the engine's
+            # number arrives as it is.
+            out += ["", "    @classmethod", "    def _missing_(cls, value: object) -> Any:",
+                    "        if isinstance(value, int) and value < 0:", "            return _unnamed(cls, value)",
+                    "        return super()._missing_(value)"]
+        else:
+            out += ["", "    @classmethod", "    def _missing_(cls, value: object) -> Any:",
+                    "        return _unnamed(cls, value)"]
+        out += ["", ""]
+    out.append("__all__ = [" + ", ".join(f'"{n}"' for n in iface.enums) + "]")
+    return "\n".join(out).rstrip("\n") + "\n"
+
+
 # ---- records.py ----------------------------------------------------------------------------
+
+def enum_import(iface: kelidl.Interface, classes: list[kelidl.Record]) -> list[str]:
+    """The import of the enums that the members of these classes use, with a blank line."""
+    used = sorted({str(f.type) for r in classes for f in iface.members(r.name) if f.type})
+    return ["from .enums import " + ", ".join(used), ""] if used else []
+
 
 def records_py(iface: kelidl.Interface) -> str:
     out = [f"# {BANNER}", '"""The records of the engine interface, one keyword-only dataclass each."""', "",
            "from __future__ import annotations", "", "import builtins", "import dataclasses", "import sys",
            "from typing import Any, Optional", "",
+           *enum_import(iface, iface.ready_records()),
            "# Keyword-only (and slotted) where the Python version allows: records have many fields",
            "# and positions would say nothing.",
            "_OPTIONS: dict[str, Any] = {'kw_only': True, 'slots': True} if sys.version_info >= (3, 10) else {}",
@@ -247,9 +320,14 @@ def reader(iface: kelidl.Interface, rec: kelidl.Record, pool: StructPool) -> lis
                     f"        e_{local}, p = read_{f.record}(b, p)",
                     f"        {local}.append(e_{local})"]
         values.append((f, local))
-    args = ", ".join(f"{py_name(iface, rec.name, f.name)}={loc}" for f, loc in values)
+    args = ", ".join(f"{py_name(iface, rec.name, f.name)}={typed(f, loc)}" for f, loc in values)
     out.append(f"    return {target}({args}), p")
     return out + ["", ""]
+
+
+def typed(v, expression: str, prefix: str = "") -> str:
+    """The expression as the enum of a member or value with `type=`."""
+    return f"{prefix}{v.type}({expression})" if v.type else expression
 
 
 def kelidl_width(kind: str) -> int:
@@ -353,6 +431,7 @@ def stream_py(iface: kelidl.Interface) -> str:
            "from typing import Optional, Sequence", ""]
     if names:
         out.append("from .records import " + ", ".join(names))
+    out += enum_import(iface, stream_classes(iface))[:1]
     out.append(STREAM_HELPERS)
     # Bound methods: one attribute lookup less per value on the hot path.
     for code, name in pool.codes.items():
@@ -390,7 +469,7 @@ def from_c(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
         if f.kind in ("bool", "flag"):
             value = f"bool({src})"
         elif f.kind in kelidl.SCALARS:
-            value = src
+            value = typed(f, src, "enums.")
         elif f.kind == "array":
             value = f"list({src})"
         elif f.kind == "wstr":
@@ -573,6 +652,8 @@ def param_type(p: kelidl.Value, iface: kelidl.Interface) -> str:
         return f"Sequence[Optional[records.{c_name(iface, p.record)}]]"
     if p.kind == "rec":
         return f"Optional[records.{c_name(iface, p.record)}]"
+    if p.type:
+        return "int"  # any number is taken: the enum's members are numbers too
     return py_type(p, iface)
 
 
@@ -584,7 +665,7 @@ def c_records_py(iface: kelidl.Interface) -> str:
            'are built on the library\'s heap."""', "",
            "from __future__ import annotations", "", "import ctypes",
            "from typing import Any, Callable, Optional, Sequence, TypeVar", "",
-           "from . import records", C_HELPERS]
+           "from . import enums, records", C_HELPERS]
     for rec in ready:
         out.append(f"class C_{rec.name}(ctypes.Structure):")
         fields = [x for f in iface.members(rec.name) for x in c_struct_fields(f)]
@@ -632,6 +713,8 @@ def encode(p: kelidl.Value, iface: kelidl.Interface) -> str:
 def result_type(v: kelidl.Value | None, op: kelidl.Operation, iface: kelidl.Interface) -> str:
     if v is None or op.discard:
         return "None"
+    if v.type:
+        return f"enums.{v.type}"
     if v.kind == "engine":
         return "Engine"
     if v.kind == "rec":
@@ -644,6 +727,8 @@ def result_type(v: kelidl.Value | None, op: kelidl.Operation, iface: kelidl.Inte
 def decode(v: kelidl.Value, iface: kelidl.Interface) -> list[str]:
     if v.kind in ("bool", "flag"):
         return ["return _b[0] != 0"]
+    if v.kind in kelidl.SCALARS and v.type:
+        return [f'return enums.{v.type}(struct.unpack_from("<{CODES[v.kind]}", _b)[0])']
     if v.kind in kelidl.SCALARS:
         return [f'_value: int = struct.unpack_from("<{CODES[v.kind]}", _b)[0]', "return _value"]
     if v.kind == "wstr":
@@ -688,7 +773,7 @@ def operations_py(iface: kelidl.Interface) -> str:
            'come back as dataclasses; asynchronous forms go through the C exports."""', "",
            "from __future__ import annotations", "", "import builtins", "import struct",
            "from typing import TYPE_CHECKING, ContextManager, Optional, Sequence", "",
-           "from . import c_records, records, stream", "",
+           "from . import c_records, enums, records, stream", "",
            "if TYPE_CHECKING:", "    from ..asynccall import AsyncCall", "    from ..engine import Engine", "",
            "", "class Operations:",
            '    """The engine operations; kel.Engine supplies _call, _start and _adopt."""', "",
@@ -761,6 +846,7 @@ def signature(params: list[kelidl.Value], iface: kelidl.Interface) -> list[str]:
 def outputs(iface: kelidl.Interface) -> dict[str, str]:
     return {
         f"{OUT_DIR}/__init__.py": f'# {BANNER}\n"""The half of the package generated from the interface description."""\n',
+        f"{OUT_DIR}/enums.py": enums_py(iface),
         f"{OUT_DIR}/records.py": records_py(iface),
         f"{OUT_DIR}/stream.py": stream_py(iface),
         f"{OUT_DIR}/c_records.py": c_records_py(iface),

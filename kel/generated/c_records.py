@@ -8,7 +8,7 @@ from __future__ import annotations
 import ctypes
 from typing import Any, Callable, Optional, Sequence, TypeVar
 
-from . import records
+from . import enums, records
 
 # The callback of every asynchronous export: results, count, isFinal, callId, error, context.
 CALLBACK = ctypes.CFUNCTYPE(None, ctypes.c_void_p, ctypes.c_uint32, ctypes.c_bool, ctypes.c_uint64,
@@ -562,7 +562,7 @@ def from_c_ClearDtcResult(address: Optional[int]) -> Optional[records.ClearDtcRe
         return None
     s = C_ClearDtcResult.from_address(address)
     return records.ClearDtcResult(
-        status=s.status,
+        status=enums.TargetResultStatus(s.status),
         target=_text(s.target),
         error=from_c_KelError(s.error),
     )
@@ -585,7 +585,7 @@ def from_c_ReadDtcResult(address: Optional[int]) -> Optional[records.ReadDtcResu
         return None
     s = C_ReadDtcResult.from_address(address)
     return records.ReadDtcResult(
-        status=s.status,
+        status=enums.TargetResultStatus(s.status),
         target=_text(s.target),
         error=from_c_KelError(s.error),
         dtcs=from_c_list(s.dtcs, s.dtcCount, from_c_DtcResult),
@@ -601,7 +601,7 @@ def from_c_DtcResult(address: Optional[int]) -> Optional[records.DtcResult]:
         code=s.code,
         display_code=_text(s.text1),
         description=_text(s.text2),
-        status=s.value1,
+        status=enums.DtcStatus(s.value1),
         snapshots=from_c_list(s.parameters1, s.parameterCount1, from_c_ParameterResult),
         extended_data=from_c_list(s.parameters2, s.parameterCount2, from_c_ParameterResult),
         ecu=_text(s.text3),
@@ -626,7 +626,7 @@ def from_c_VariantIdentResult(address: Optional[int]) -> Optional[records.Varian
     s = C_VariantIdentResult.from_address(address)
     return records.VariantIdentResult(
         target=_text(s.target),
-        status=s.status,
+        status=enums.TargetResultStatus(s.status),
         error=from_c_KelError(s.error),
         variant=_text(s.variant),
     )
@@ -638,7 +638,7 @@ def from_c_ReadDataResult(address: Optional[int]) -> Optional[records.ReadDataRe
     s = C_ReadDataResult.from_address(address)
     return records.ReadDataResult(
         target=_text(s.target),
-        status=s.status,
+        status=enums.TargetResultStatus(s.status),
         variant=_text(s.text),
         error=from_c_KelError(s.error),
         parameters=from_c_list(s.parameters, s.parameterCount, from_c_ParameterResult),
@@ -723,7 +723,7 @@ def from_c_ServiceResult(address: Optional[int]) -> Optional[records.ServiceResu
         description=_text(s.itemText3),
         session=_text(s.itemText4),
         responses=from_c_list(s.responses, s.responseCount, from_c_ResponseResult),
-        status=s.status,
+        status=enums.ServiceStatus(s.status),
         outcome=_text(s.text1),
         error=from_c_KelError(s.error),
         request=from_c_RequestResult(s.request),
@@ -897,7 +897,7 @@ def from_c_KelEvent(address: Optional[int]) -> Optional[records.KelEvent]:
     s = C_KelEvent.from_address(address)
     return records.KelEvent(
         name=_text(s.name),
-        kind=s.kind,
+        kind=enums.EventKind(s.kind),
         code=s.code,
         message=_text(s.text),
         error=from_c_KelError(s.error),
@@ -1723,7 +1723,7 @@ def from_c_FlashSessionResult(address: Optional[int]) -> Optional[records.FlashS
     return records.FlashSessionResult(
         name=_text(s.name),
         target=_text(s.target),
-        status=s.status,
+        status=enums.FlashStatus(s.status),
         version_before=_text(s.versionBefore),
         version_after=_text(s.versionAfter),
         size=s.size,
@@ -1752,7 +1752,7 @@ def from_c_CodingStringResult(address: Optional[int]) -> Optional[records.Coding
     s = C_CodingStringResult.from_address(address)
     return records.CodingStringResult(
         target=_text(s.target),
-        status=s.status,
+        status=enums.TargetResultStatus(s.status),
         identifier=_text(s.identifier),
         coding=_text(s.coding),
         data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
@@ -1766,7 +1766,7 @@ def from_c_CodingFileResult(address: Optional[int]) -> Optional[records.CodingFi
     s = C_CodingFileResult.from_address(address)
     return records.CodingFileResult(
         target=_text(s.target),
-        status=s.status,
+        status=enums.TargetResultStatus(s.status),
         written=_text(s.written),
         coding=_text(s.coding),
         data=ctypes.string_at(s.data, s.dataLength) if s.data else b"",
@@ -1781,7 +1781,7 @@ def from_c_QuickTestResult(address: Optional[int]) -> Optional[records.QuickTest
     s = C_QuickTestResult.from_address(address)
     return records.QuickTestResult(
         target=_text(s.target),
-        status=s.status,
+        status=enums.TargetResultStatus(s.status),
         variant=_text(s.variant),
         identified=bool(s.identified),
         dtcs=from_c_list(s.dtcs, s.dtcCount, from_c_DtcResult),
@@ -1796,7 +1796,7 @@ def from_c_EcuConfigurationResult(address: Optional[int]) -> Optional[records.Ec
     return records.EcuConfigurationResult(
         target=_text(s.target),
         configuration=_text(s.configuration),
-        status=s.status,
+        status=enums.TargetResultStatus(s.status),
         written=s.written,
         error=from_c_KelError(s.error),
     )

@@ -8,7 +8,7 @@ import builtins
 import struct
 from typing import TYPE_CHECKING, ContextManager, Optional, Sequence
 
-from . import c_records, records, stream
+from . import c_records, enums, records, stream
 
 if TYPE_CHECKING:
     from ..asynccall import AsyncCall
@@ -3137,7 +3137,7 @@ class Operations:
                 _results.append(_r)
             return _results
 
-    def get_state(self) -> int:
+    def get_state(self) -> enums.EngineState:
         """Reads the engine's state number; the engine defines its values.
 
         C: kel_getState; number 49; engine position 242.
@@ -3146,8 +3146,7 @@ class Operations:
         """
         _o = bytearray()
         _b = self._call(49, builtins.bytes(_o))
-        _value: int = struct.unpack_from("<i", _b)[0]
-        return _value
+        return enums.EngineState(struct.unpack_from("<i", _b)[0])
 
     def get_version(self) -> str:
         """Reads the engine's version.

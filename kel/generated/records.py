@@ -8,6 +8,8 @@ import dataclasses
 import sys
 from typing import Any, Optional
 
+from .enums import DtcStatus, EventKind, FlashStatus, ServiceStatus, TargetResultStatus
+
 # Keyword-only (and slotted) where the Python version allows: records have many fields
 # and positions would say nothing.
 _OPTIONS: dict[str, Any] = {'kw_only': True, 'slots': True} if sys.version_info >= (3, 10) else {}
@@ -248,7 +250,7 @@ class ClearDtcResult:
         target: The target's name.
         error: The error of this target, or None.
     """
-    status: int = 0
+    status: TargetResultStatus = TargetResultStatus(0)
     """The engine's status of this target."""
     target: str = ""
     """The target's name."""
@@ -311,7 +313,7 @@ class ReadDtcResult:
         dtcs: The DTCs read.
         dtc_total: How many DTCs were returned; 0 from kel_readSupportedDtcs. C: value.
     """
-    status: int = 0
+    status: TargetResultStatus = TargetResultStatus(0)
     """The engine's status of this target."""
     target: str = ""
     """The target's name."""
@@ -350,7 +352,7 @@ class DtcResult:
     """The code as text (P0301). C: text1."""
     description: str = ""
     """What the code means. C: text2."""
-    status: int = 0
+    status: DtcStatus = DtcStatus(0)
     """The ISO 14229 status byte. C: value1."""
     snapshots: list[Optional[ParameterResult]] = dataclasses.field(default_factory=list)
     """The snapshot data. C: parameters1."""
@@ -376,7 +378,7 @@ class DtcResult:
         return self.description
 
     @property
-    def value1(self) -> int:
+    def value1(self) -> DtcStatus:
         """The design name of status; read-only."""
         return self.status
 
@@ -429,7 +431,7 @@ class VariantIdentResult:
     """
     target: str = ""
     """The target's name."""
-    status: int = 0
+    status: TargetResultStatus = TargetResultStatus(0)
     """The engine's status of this target."""
     error: Optional[KelError] = None
     """The error of this target, or None."""
@@ -450,7 +452,7 @@ class ReadDataResult:
     """
     target: str = ""
     """The target's name."""
-    status: int = 0
+    status: TargetResultStatus = TargetResultStatus(0)
     """The engine's status of this target."""
     variant: str = ""
     """The target's variant. C: text."""
@@ -706,7 +708,7 @@ class ServiceResult:
     """The unit's session afterwards. C: itemText4."""
     responses: list[Optional[ResponseResult]] = dataclasses.field(default_factory=list)
     """The responses received."""
-    status: int = 0
+    status: ServiceStatus = ServiceStatus(0)
     """0 positive, 1 negative response, 2 no response, 3 not sent."""
     outcome: str = ""
     """"positive response", the response code's name, "no response" or "not sent". C: text1."""
@@ -1368,7 +1370,7 @@ class KelEvent:
 
     Fields:
         name: The event's name.
-        kind: Its kind, a number.
+        kind: What happened: its kind.
         code: Its code, a number.
         message: A sentence for a person: what happened. C: text.
         error: The error the event carries, or None.
@@ -1376,8 +1378,8 @@ class KelEvent:
     """
     name: str = ""
     """The event's name."""
-    kind: int = 0
-    """Its kind, a number."""
+    kind: EventKind = EventKind(0)
+    """What happened: its kind."""
     code: int = 0
     """Its code, a number."""
     message: str = ""
@@ -4073,7 +4075,7 @@ class FlashSessionResult:
     """The session's name."""
     target: str = ""
     """The target flashed."""
-    status: int = 0
+    status: FlashStatus = FlashStatus(0)
     """0 flashed, 1 running (a report before the end), 2 failed, 3 not run."""
     version_before: str = ""
     """The software version the target reported before the session."""
@@ -4127,7 +4129,7 @@ class CodingStringResult:
     """
     target: str = ""
     """The target's name."""
-    status: int = 0
+    status: TargetResultStatus = TargetResultStatus(0)
     """0 read, 1 silent ECU, 2 unknown target, 3 refused or not coded."""
     identifier: str = ""
     """The data identifier the coding is kept in, as hex digits."""
@@ -4155,7 +4157,7 @@ class CodingFileResult:
     """
     target: str = ""
     """The target's name."""
-    status: int = 0
+    status: TargetResultStatus = TargetResultStatus(0)
     """0 written and read back, 1 silent ECU, 2 unknown target, 3 refused or not in the file."""
     written: str = ""
     """The coding the file gives for the target, as text."""
@@ -4183,7 +4185,7 @@ class QuickTestResult:
     """
     target: str = ""
     """The target's name."""
-    status: int = 0
+    status: TargetResultStatus = TargetResultStatus(0)
     """0 tested, 1 silent ECU, 2 unknown target, 3 refused."""
     variant: str = ""
     """The variant identified; empty when none was."""
@@ -4211,7 +4213,7 @@ class EcuConfigurationResult:
     """The target's name."""
     configuration: str = ""
     """The configuration applied."""
-    status: int = 0
+    status: TargetResultStatus = TargetResultStatus(0)
     """0 applied, 1 silent ECU, 2 unknown target, 3 refused or not part of the configuration."""
     written: int = 0
     """The values written to the target."""

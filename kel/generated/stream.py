@@ -10,6 +10,7 @@ import struct
 from typing import Optional, Sequence
 
 from .records import ClearDtcResult, CodingFileResult, CodingStringResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EcuConfigurationResult, EcuOrderEntry, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, FlashSessionInfo, FlashSessionResult, FlashSessionsConfig, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MonitoringItem, MonitoringItemDetail, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PduMonitoringItem, PduMonitoringItemDetail, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, QuickTestResult, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UpdatePackageInfo, UploadReportConfiguration, UserInfo, VariantIdentResult, VehicleData, VehicleInformation, VehicleReportConfig, VehicleUpdateConfig, VehicleUpdateResult, WLanSignalData
+from .enums import DtcStatus, EventKind, FlashStatus, ServiceStatus, TargetResultStatus
 
 _U32 = struct.Struct("<I")
 _u32_read = _U32.unpack_from
@@ -281,7 +282,7 @@ def read_ClearDtcResult(b: bytes, p: int) -> tuple[Optional[ClearDtcResult], int
     v_target = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    return ClearDtcResult(status=v_status, target=v_target, error=v_error), p
+    return ClearDtcResult(status=TargetResultStatus(v_status), target=v_target, error=v_error), p
 
 
 def read_DtcReadConfig(b: bytes, p: int) -> tuple[Optional[DtcReadConfig], int]:
@@ -311,7 +312,7 @@ def read_ReadDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
         v_dtcs.append(e_v_dtcs)
     v_value, = _S_i_read(b, p)
     p += 4
-    return ReadDtcResult(status=v_status, target=v_target, error=v_error, dtcs=v_dtcs, dtc_total=v_value), p
+    return ReadDtcResult(status=TargetResultStatus(v_status), target=v_target, error=v_error, dtcs=v_dtcs, dtc_total=v_value), p
 
 
 def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
@@ -354,7 +355,7 @@ def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
         v_special_data_groups.append(e_v_special_data_groups)
     v_value2, = _S_i_read(b, p)
     p += 4
-    return DtcResult(code=v_code, display_code=v_text1, description=v_text2, status=v_value1, snapshots=v_parameters1, extended_data=v_parameters2, ecu=v_text3, symptom=v_text4, special_data_groups=v_special_data_groups, severity=v_value2), p
+    return DtcResult(code=v_code, display_code=v_text1, description=v_text2, status=DtcStatus(v_value1), snapshots=v_parameters1, extended_data=v_parameters2, ecu=v_text3, symptom=v_text4, special_data_groups=v_special_data_groups, severity=v_value2), p
 
 
 def read_SpecialDataGroup(b: bytes, p: int) -> tuple[Optional[SpecialDataGroup], int]:
@@ -383,7 +384,7 @@ def read_VariantIdentResult(b: bytes, p: int) -> tuple[Optional[VariantIdentResu
     (n,) = _u32_read(b, p)
     v_variant = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return VariantIdentResult(target=v_target, status=v_status, error=v_error, variant=v_variant), p
+    return VariantIdentResult(target=v_target, status=TargetResultStatus(v_status), error=v_error, variant=v_variant), p
 
 
 def read_ReadDataResult(b: bytes, p: int) -> tuple[Optional[ReadDataResult], int]:
@@ -405,7 +406,7 @@ def read_ReadDataResult(b: bytes, p: int) -> tuple[Optional[ReadDataResult], int
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
         v_parameters.append(e_v_parameters)
-    return ReadDataResult(target=v_target, status=v_status, variant=v_text, error=v_error, parameters=v_parameters), p
+    return ReadDataResult(target=v_target, status=TargetResultStatus(v_status), variant=v_text, error=v_error, parameters=v_parameters), p
 
 
 def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
@@ -555,7 +556,7 @@ def read_ServiceResult(b: bytes, p: int) -> tuple[Optional[ServiceResult], int]:
     v_request, p = read_RequestResult(b, p)
     v_value1, = _S_i_read(b, p)
     p += 4
-    return ServiceResult(service=v_item_text1, target=v_item_text2, description=v_item_text3, session=v_item_text4, responses=v_responses, status=v_status, outcome=v_text1, error=v_error, request=v_request, service_id=v_value1), p
+    return ServiceResult(service=v_item_text1, target=v_item_text2, description=v_item_text3, session=v_item_text4, responses=v_responses, status=ServiceStatus(v_status), outcome=v_text1, error=v_error, request=v_request, service_id=v_value1), p
 
 
 def read_ResponseResult(b: bytes, p: int) -> tuple[Optional[ResponseResult], int]:
@@ -856,7 +857,7 @@ def read_KelEvent(b: bytes, p: int) -> tuple[Optional[KelEvent], int]:
     (n,) = _u32_read(b, p)
     v_detail = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return KelEvent(name=v_name, kind=v_kind, code=v_code, message=v_text, error=v_error, detail=v_detail), p
+    return KelEvent(name=v_name, kind=EventKind(v_kind), code=v_code, message=v_text, error=v_error, detail=v_detail), p
 
 
 def read_EventReport(b: bytes, p: int) -> tuple[Optional[EventReport], int]:
@@ -2046,7 +2047,7 @@ def read_FlashSessionResult(b: bytes, p: int) -> tuple[Optional[FlashSessionResu
     v_size, v_transferred, v_progress, v_duration = _S_QQII_read(b, p)
     p += 24
     v_error, p = read_KelError(b, p)
-    return FlashSessionResult(name=v_name, target=v_target, status=v_status, version_before=v_version_before, version_after=v_version_after, size=v_size, transferred=v_transferred, progress=v_progress, duration=v_duration, error=v_error), p
+    return FlashSessionResult(name=v_name, target=v_target, status=FlashStatus(v_status), version_before=v_version_before, version_after=v_version_after, size=v_size, transferred=v_transferred, progress=v_progress, duration=v_duration, error=v_error), p
 
 
 def read_FlashSessionsConfig(b: bytes, p: int) -> tuple[Optional[FlashSessionsConfig], int]:
@@ -2081,7 +2082,7 @@ def read_CodingStringResult(b: bytes, p: int) -> tuple[Optional[CodingStringResu
     v_data = b[p + 4 : p + 4 + n]
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    return CodingStringResult(target=v_target, status=v_status, identifier=v_identifier, coding=v_coding, data=v_data, error=v_error), p
+    return CodingStringResult(target=v_target, status=TargetResultStatus(v_status), identifier=v_identifier, coding=v_coding, data=v_data, error=v_error), p
 
 
 def read_CodingFileResult(b: bytes, p: int) -> tuple[Optional[CodingFileResult], int]:
@@ -2105,7 +2106,7 @@ def read_CodingFileResult(b: bytes, p: int) -> tuple[Optional[CodingFileResult],
     v_verified, = _S_b_read(b, p)
     p += 1
     v_error, p = read_KelError(b, p)
-    return CodingFileResult(target=v_target, status=v_status, written=v_written, coding=v_coding, data=v_data, verified=v_verified, error=v_error), p
+    return CodingFileResult(target=v_target, status=TargetResultStatus(v_status), written=v_written, coding=v_coding, data=v_data, verified=v_verified, error=v_error), p
 
 
 def read_QuickTestResult(b: bytes, p: int) -> tuple[Optional[QuickTestResult], int]:
@@ -2129,7 +2130,7 @@ def read_QuickTestResult(b: bytes, p: int) -> tuple[Optional[QuickTestResult], i
         e_v_dtcs, p = read_DtcResult(b, p)
         v_dtcs.append(e_v_dtcs)
     v_error, p = read_KelError(b, p)
-    return QuickTestResult(target=v_target, status=v_status, variant=v_variant, identified=v_identified, dtcs=v_dtcs, error=v_error), p
+    return QuickTestResult(target=v_target, status=TargetResultStatus(v_status), variant=v_variant, identified=v_identified, dtcs=v_dtcs, error=v_error), p
 
 
 def read_EcuConfigurationResult(b: bytes, p: int) -> tuple[Optional[EcuConfigurationResult], int]:
@@ -2145,7 +2146,7 @@ def read_EcuConfigurationResult(b: bytes, p: int) -> tuple[Optional[EcuConfigura
     v_status, v_written = _S_iI_read(b, p)
     p += 8
     v_error, p = read_KelError(b, p)
-    return EcuConfigurationResult(target=v_target, configuration=v_configuration, status=v_status, written=v_written, error=v_error), p
+    return EcuConfigurationResult(target=v_target, configuration=v_configuration, status=TargetResultStatus(v_status), written=v_written, error=v_error), p
 
 
 def read_EcuOrderEntry(b: bytes, p: int) -> tuple[Optional[EcuOrderEntry], int]:
@@ -2340,7 +2341,7 @@ def read_SupportedDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], 
     for _ in range(n):
         e_v_dtcs, p = read_DtcResult(b, p)
         v_dtcs.append(e_v_dtcs)
-    return ReadDtcResult(status=v_status, target=v_target, error=v_error, dtcs=v_dtcs), p
+    return ReadDtcResult(status=TargetResultStatus(v_status), target=v_target, error=v_error, dtcs=v_dtcs), p
 
 
 def read_SpecialData(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:

@@ -75,6 +75,8 @@ def c_view(value: Any, c_name: str) -> Any:
         elif f.kind == "list":
             out[f.name] = [c_view(e, f.c_name) for e in v] if v else None
             out[f.count] = len(v)
+        elif f.type and type(v).__name__ != f.type:
+            out[f.name] = f"{v!r} is not a {f.type}"  # a member with type= arrives as its enum
         else:
             out[f.name] = list(v) if f.kind == "array" else v
     return out
@@ -91,10 +93,13 @@ def result_view(v: kelidl.Value, value: Any) -> Any:
         return c_view(value, v.c_name)
     if v.kind == "list":
         return [c_view(e, v.c_name) for e in value] if value else None
+    if v.type and type(value).__name__ != v.type:
+        return f"{value!r} is not a {v.type}"
     return value
 
 
 class Conformance(EngineTest):
+    maxDiff = None
     def check_operation(self, op: kelidl.Operation) -> None:
         method: Callable[..., Any] = getattr(self.engine, python_gen.snake(op.name))
         cases = conformance.build_cases(IFACE, op, op.position)
