@@ -1,23 +1,36 @@
 """The command line for the bench: `python3 -m kel dtcs`, `kel identify --json`, ...
 
-Readable tables by default, --json for scripts. Exit code 0 on success, 1 when the
-engine reports an error (its code and message on stderr), 2 for a wrong command line,
-a library that is missing or is not kel_c, or an operation this build does not offer."""
+Readable tables by default, --json for scripts; colour only on a terminal, and never with
+NO_COLOR set. A script can trust the exit code (EXIT_CODES, also in --help): 0 when every
+target answered, 3 when some target answered with an error or a negative response (the
+data is printed all the same), 1 when the call itself failed (the engine's code and
+message on stderr; also a library that is missing or is not kel_c, or an operation this
+build does not offer), 2 for a wrong command line."""
 
 from __future__ import annotations
 
 import argparse
 import dataclasses
+import enum
 import json
 import os
+import re
 import sys
 import unicodedata
-from typing import Any, Callable, Optional, Sequence, TextIO
+from typing import Any, Callable, Iterable, Optional, Sequence, TextIO
 
 from . import _library
 from .engine import Engine
 from .errors import EngineError, LibraryNotFound
 from .generated import records
+from .generated.enums import DtcStatus, EventKind
+
+OK, FAILED, USAGE, PARTLY = 0, 1, 2, 3
+EXIT_CODES = """exit codes:
+  0  every target answered
+  3  some target answered with an error or a negative response (the data is still printed)
+  1  the call itself failed (the error is on stderr)
+  2  usage: the command line is wrong"""
 
 
 def _plain(value: Any) -> Any:
@@ -28,6 +41,8 @@ def _plain(value: Any) -> Any:
         return [_plain(v) for v in value]
     if isinstance(value, bytes):
         return value.hex()
+    if isinstance(value, (enum.IntEnum, enum.IntFlag)):
+        return int(value)  # the number, as C and the engine give it
     return value
 
 
@@ -42,22 +57,46 @@ def _printable(text: str) -> str:
     return "".join(shown(c) for c in text)
 
 
-def _table(out: TextIO, header: Sequence[str], rows: list[Sequence[Any]]) -> None:
-    cells = [[_printable(str(c)) for c in header]] + [[_printable(str(c)) for c in row] for row in rows]
-    # A short row's last cell (an error in place of the columns) runs on unaligned.
-    widths = [max([len(row[i]) for row in cells if i < len(row) - (len(row) < len(header))] or [0])
-              for i in range(len(header))]
-    for row in cells:
-        out.write("  ".join(c.ljust(w) for c, w in zip(row, widths)).rstrip() + "\n")
+class Style:
+    """Colour on a terminal only: none when NO_COLOR is set (to anything) or the output is
+    piped or redirected."""
+
+    def __init__(self, out: TextIO) -> None:
+        isatty = getattr(out, "isatty", None)
+        self.on = bool(isatty and isatty()) and not os.environ.get("NO_COLOR")
+
+    def __call__(self, text: str, code: str) -> str:
+        return f"\x1b[{code}m{text}\x1b[0m" if self.on and text else text
+
+
+BOLD, RED = "1", "31"
+
+
+def _table(out: TextIO, header: Optional[Sequence[str]], rows: list[Sequence[Any]]) -> None:
+    """Columns aligned on their widest cell; no header line without a header. A short row's
+    last cell (an error in place of the columns) runs on unaligned, in red on a terminal."""
+    style = Style(out)
+    columns = len(header) if header else max((len(row) for row in rows), default=0)
+    cells = ([[_printable(str(c)) for c in header]] if header else []) + [
+        [_printable(str(c)) for c in row] for row in rows]
+    widths = [max([len(row[i]) for row in cells if i < len(row) - (len(row) < columns)] or [0])
+              for i in range(columns)]
+    for n, row in enumerate(cells):
+        padded = [c.ljust(w) for c, w in zip(row, widths)]
+        if len(row) < columns:
+            padded[-1] = style(row[-1], RED) if row[-1].startswith("error ") else row[-1]
+        line = "  ".join(padded).rstrip()
+        out.write((style(line, BOLD) if header and n == 0 else line) + "\n")
 
 
 def _status_words(status: int) -> str:
-    """The ISO 14229 status bits a reader looks at first."""
-    if status & 0x01:
-        return "active, confirmed" if status & 0x08 else "active"
-    if status & 0x08:
-        return "confirmed"
-    return "pending" if status & 0x04 else "stored"
+    """Every ISO 14229 status bit that is set, in words (DtcStatus names all eight)."""
+    return ", ".join(str(bit.name).lower().replace("_", " ") for bit in DtcStatus if bit in DtcStatus(status))
+
+
+def _partly(errors: Iterable[Any]) -> int:
+    """PARTLY when any per-target error is there, else OK."""
+    return PARTLY if any(e is not None for e in errors) else OK
 
 
 def _error_text(error: records.KelError) -> str:
@@ -69,37 +108,36 @@ class Output:
         self.as_json = as_json
         self.out = out
 
-    def emit(self, value: Any, show: Callable[[], None]) -> None:
+    def emit(self, value: Any, show: Callable[[], None], code: int = OK) -> int:
+        """Prints the value (JSON or the table `show` writes) and gives `code` back."""
         if self.as_json:
             json.dump(_plain(value), self.out, ensure_ascii=False, indent=2)
             self.out.write("\n")
         else:
             show()
+        return code
 
 
 def cmd_targets(engine: Engine, args: argparse.Namespace, o: Output) -> int:
     targets = [t for t in engine.get_targets() if t]
-    o.emit(targets, lambda: _table(o.out, ["name", "description", "variant", "address", "bus", "responds"], [
+    return o.emit(targets, lambda: _table(o.out, ["name", "description", "variant", "address", "bus", "responds"], [
         [t.name, t.description, t.variant, f"0x{t.address:X}", t.bus, "yes" if t.responds else "no"]
         for t in targets]))
-    return 0
 
 
 def cmd_identify(engine: Engine, args: argparse.Namespace, o: Output) -> int:
     results = [r for r in (engine.identify_targets(args.targets) if args.targets else engine.identify_all_targets())
                if r]
-    o.emit(results, lambda: _table(o.out, ["ECU", "variant"], [
-        [r.target, _error_text(r.error) if r.error else r.variant] for r in results]))
-    return 0
+    return o.emit(results, lambda: _table(o.out, ["ECU", "variant"], [
+        [r.target, _error_text(r.error) if r.error else r.variant] for r in results]), _partly(r.error for r in results))
 
 
 def cmd_dtcs(engine: Engine, args: argparse.Namespace, o: Output) -> int:
     if args.clear:
         cleared = [r for r in engine.clear_all_dtcs(args.targets) if r]
-        o.emit(cleared, lambda: _table(o.out, ["ECU", "cleared"], [
-            [r.target, _error_text(r.error) if r.error else "yes"] for r in cleared]))
-        return 0
-    config = records.DtcReadConfig(status_mask=args.mask, with_snapshots=1, with_extended_data=1)
+        return o.emit(cleared, lambda: _table(o.out, ["ECU", "cleared"], [
+            [r.target, _error_text(r.error) if r.error else "yes"] for r in cleared]), _partly(r.error for r in cleared))
+    config = records.DtcReadConfig(status_mask=args.mask, with_snapshots=True, with_extended_data=True)
     results = [r for r in engine.read_dtcs(args.targets, config) if r]
 
     def show() -> None:
@@ -111,11 +149,11 @@ def cmd_dtcs(engine: Engine, args: argparse.Namespace, o: Output) -> int:
                 rows.append([r.target, "no DTCs stored"])
             for d in r.dtcs:
                 if d:
-                    rows.append([r.target, d.display_code, f"0x{d.status:02X}", _status_words(d.status), d.description])
-        _table(o.out, ["ECU", "code", "status", "", "text"], rows)
+                    rows.append([r.target, d.display_code, f"0x{int(d.status):02X}", d.description,
+                                 _status_words(d.status)])
+        _table(o.out, ["ECU", "code", "status", "text", "status bits"], rows)
 
-    o.emit(results, show)
-    return 0
+    return o.emit(results, show, _partly(r.error for r in results))
 
 
 def cmd_ident(engine: Engine, args: argparse.Namespace, o: Output) -> int:
@@ -132,8 +170,8 @@ def cmd_ident(engine: Engine, args: argparse.Namespace, o: Output) -> int:
                     rows.append([r.target, p.description, p.name, value])
         _table(o.out, ["ECU", "id", "name", "value"], rows)
 
-    o.emit(results, show)
-    return 0
+    return o.emit(results, show, _partly([r.error for r in results] + [p.error for r in results for p in r.parameters
+                                                                        if p]))
 
 
 def _offered(engine: Engine, method: str) -> Optional[Callable[..., Any]]:
@@ -146,58 +184,92 @@ def _offered(engine: Engine, method: str) -> Optional[Callable[..., Any]]:
 def cmd_services(engine: Engine, args: argparse.Namespace, o: Output) -> int:
     describe = _offered(engine, "get_service_infos")
     if describe is None:
-        return 2
+        return FAILED
     services = [s for s in describe(args.target, "", [], 0) if s]
-    o.emit(services, lambda: _table(o.out, ["service", "description"], [
-        [s.name, s.description] for s in services]))
-    return 0
+    return o.emit(services, lambda: _table(o.out, ["service", "description"], [
+        [s.name, s.description] for s in services]), _partly(s.error for s in services))
+
+
+RAW = re.compile(r"(?:[0-9A-Fa-f]{2})+")
+
+
+def _parameter_rows(parameters: Sequence[Optional[records.ParameterResult]], depth: int = 0) -> list[list[str]]:
+    rows: list[list[str]] = []
+    for p in parameters:
+        if p:
+            value = _error_text(p.error) if p.error else f"{p.value} {p.unit}".strip()
+            rows.append(["  " * depth + p.name, value])
+            rows += _parameter_rows(p.children, depth + 1)
+    return rows
 
 
 def cmd_exec(engine: Engine, args: argparse.Namespace, o: Output) -> int:
+    """A service by name with NAME=VALUE parameters, or raw request bytes in hex
+    (`kel exec ECM 22F190`): the decoded response parameters, then the bytes."""
     execute = _offered(engine, "execute_service")
     service_input = getattr(records, "ServiceInput", None)
     parameter_input = getattr(records, "ParameterInput", None)
     if execute is None or service_input is None or parameter_input is None:
-        return 2
-    parameters = []
-    for assignment in args.parameters:
-        name, sep, value = assignment.partition("=")
-        if not sep:
-            sys.stderr.write(f"kel: parameters are NAME=VALUE, not {assignment!r}\n")
-            return 2
-        parameters.append(parameter_input(name=name, value=value))
-    results = [r for r in execute(args.target, [service_input(service=args.service, parameters=parameters)]) if r]
+        return FAILED
+    raw = args.service.replace(" ", "")
+    if RAW.fullmatch(raw):
+        if args.parameters:
+            sys.stderr.write("kel: raw request bytes take no NAME=VALUE parameters\n")
+            return USAGE
+        request = service_input(data=bytes.fromhex(raw))
+    else:
+        parameters = []
+        for assignment in args.parameters:
+            name, sep, value = assignment.partition("=")
+            if not sep:
+                sys.stderr.write(f"kel: parameters are NAME=VALUE, not {assignment!r}\n")
+                return USAGE
+            parameters.append(parameter_input(name=name, value=value))
+        request = service_input(service=args.service, parameters=parameters)
+    results = [r for r in execute(args.target, [request]) if r]
 
     def show() -> None:
         rows: list[Sequence[Any]] = []
         for r in results:
-            if r.error:
-                rows.append([r.service, _error_text(r.error), ""])
+            rows.append([r.service, r.outcome])
             for response in r.responses:
                 if response:
-                    rows.append([r.service, response.kind, response.data.hex(" ")])
-        _table(o.out, ["service", "response", "bytes"], rows)
+                    rows += [["", *row] for row in _parameter_rows(response.parameters)]
+                    rows.append(["", "bytes", response.data.hex(" ").upper()])
+            if r.error and not r.responses:
+                rows.append(["", _error_text(r.error)])
+        _table(o.out, ["service", "response", "value"], rows)
 
-    o.emit(results, show)
-    return 0
+    return o.emit(results, show, _partly(r.error for r in results))
+
+
+# The events table is written as the events come, so its widths are fixed: the longest
+# name the engine gives a kind, and room for the numbers.
+_EVENT_NAME = max(len(k.name.title().replace("_", "")) for k in EventKind)
+_EVENT_TEXT = 36
+
+
+def _event_line(kind: str, name: str, code: str, text: str, detail: str) -> str:
+    return (f"{kind:>4}  {name:<{_EVENT_NAME}}  {code:>6}  {text:<{_EVENT_TEXT}}  {detail}").rstrip()
 
 
 def cmd_events(engine: Engine, args: argparse.Namespace, o: Output) -> int:
     # The channel opens before the engine starts, so its start shows too.
+    style = Style(o.out)
     with engine.events() as channel:
         engine.initialize()
         events = channel.follow(timeout=args.seconds) if args.follow else iter(channel.poll())
         if not o.as_json:
-            o.out.write(f"{'kind':<4}  {'name':<18}  {'code':<4}  text  detail\n")
+            o.out.write(style(_event_line("kind", "name", "code", "text", "detail"), BOLD) + "\n")
         for event in events:
             if o.as_json:
                 o.out.write(json.dumps(_plain(event), ensure_ascii=False) + "\n")
             else:
                 error = f"  [{_error_text(event.error)}]" if event.error else ""
-                o.out.write(_printable(f"{event.kind:<4}  {event.name:<18}  {event.code:<4}  {event.text}  "
-                                       f"{event.detail}{error}") + "\n")
+                o.out.write(_printable(_event_line(str(int(event.kind)), event.name, str(event.code), event.message,
+                                                   event.detail + error)) + "\n")
             o.out.flush()
-    return 0
+    return OK
 
 
 def cmd_info(engine: Engine, args: argparse.Namespace, o: Output) -> int:
@@ -208,8 +280,51 @@ def cmd_info(engine: Engine, args: argparse.Namespace, o: Output) -> int:
     except EngineError as e:
         info["version"] = None
         info["version_error"] = _error_text(e.record)
-    o.emit(info, lambda: _table(o.out, ["", ""], [[k, v] for k, v in info.items()]))
-    return 0
+    return o.emit(info, lambda: _table(o.out, None, [
+        [k, v.name.lower() if isinstance(v, enum.Enum) and v.name else v] for k, v in info.items()]))
+
+
+def _binding_version(path: str) -> str:
+    """The binding's version, from the name of the library file loaded (libkel_c.so.0.1.0)."""
+    found = re.search(r"\.so\.(\d+\.\d+\.\d+)$", os.path.realpath(path))
+    return found.group(1) if found else "unknown"
+
+
+def versions(library: Optional[str]) -> str:
+    """The package's, the binding's and the engine's versions, one per line; what cannot be
+    loaded says why instead."""
+    from . import __version__
+
+    lines = [f"kel {__version__}"]
+    try:
+        with Engine(library=library) as engine:
+            path = str(getattr(engine._lib, "_name", ""))
+            lines.append(f"kel_c {_binding_version(path)} ({path})")
+            lines.append(f"engine {engine.get_version()}")
+    except (EngineError, LibraryNotFound) as e:
+        lines.append(f"kel_c: {e}")
+    return "\n".join(lines)
+
+
+class _Version(argparse.Action):
+    def __init__(self, option_strings: Sequence[str], dest: str, **kwargs: Any) -> None:
+        super().__init__(option_strings, dest, nargs=0, help="print the package, binding and engine versions")
+
+    def __call__(self, parser: argparse.ArgumentParser, namespace: argparse.Namespace, values: Any,
+                 option: Optional[str] = None) -> None:
+        sys.stdout.write(versions(getattr(namespace, "library", None)) + "\n")
+        parser.exit(OK)
+
+
+def status_mask(text: str) -> int:
+    """--mask: a number, decimal or 0x hex, from 0 to 0xFF."""
+    try:
+        value = int(text, 0)
+    except ValueError:
+        raise argparse.ArgumentTypeError(f"{text!r} is not a status mask (a number such as 0x08)") from None
+    if not 0 <= value <= 0xFF:
+        raise argparse.ArgumentTypeError(f"{text} is not a status mask: it is one byte, 0 to 0xFF")
+    return value
 
 
 def parser() -> argparse.ArgumentParser:
@@ -221,15 +336,17 @@ def parser() -> argparse.ArgumentParser:
                                               "then the installed one, then a build tree)", **unset)
         return parser
 
-    p = options(argparse.ArgumentParser(prog="kel", description="The kel_c diagnostics engine from the command line."),
-                True)
+    p = options(argparse.ArgumentParser(prog="kel", description="The kel_c diagnostics engine from the command line.",
+                                        epilog=EXIT_CODES, formatter_class=argparse.RawDescriptionHelpFormatter), True)
+    p.add_argument("--version", action=_Version)
     common = options(argparse.ArgumentParser(add_help=False), False)
     commands = p.add_subparsers(dest="command", required=True)
 
     class Sub:
         @staticmethod
         def add_parser(name: str, help: str) -> argparse.ArgumentParser:
-            parser: argparse.ArgumentParser = commands.add_parser(name, help=help, parents=[common])
+            parser: argparse.ArgumentParser = commands.add_parser(
+                name, help=help, parents=[common], epilog=EXIT_CODES, formatter_class=argparse.RawDescriptionHelpFormatter)
             return parser
 
     sub = Sub()
@@ -241,7 +358,7 @@ def parser() -> argparse.ArgumentParser:
     s = sub.add_parser("dtcs", help="read (or clear) the DTCs")
     s.add_argument("targets", nargs="*", help="targets (default: all)")
     s.add_argument("--clear", action="store_true", help="clear the DTCs instead of reading them")
-    s.add_argument("--mask", type=lambda t: int(t, 0), default=0,
+    s.add_argument("--mask", type=status_mask, default=0,
                    help="status mask: only DTCs whose status shares a bit with it (default 0: all)")
     s.set_defaults(run=cmd_dtcs)
     s = sub.add_parser("ident", help="read the identification values")
@@ -250,9 +367,9 @@ def parser() -> argparse.ArgumentParser:
     s = sub.add_parser("services", help="the services that a target offers")
     s.add_argument("target")
     s.set_defaults(run=cmd_services)
-    s = sub.add_parser("exec", help="execute a service")
+    s = sub.add_parser("exec", help="execute a service, by name or as raw hex bytes (exec ECM 22F190)")
     s.add_argument("target")
-    s.add_argument("service")
+    s.add_argument("service", help="the service's name, or the request's bytes in hex")
     s.add_argument("parameters", nargs="*", metavar="PARAM=VALUE")
     s.set_defaults(run=cmd_exec)
     s = sub.add_parser("events", help="the engine's events")
@@ -272,10 +389,10 @@ def main(argv: Optional[Sequence[str]] = None, out: TextIO = sys.stdout) -> int:
             return code
     except EngineError as e:
         sys.stderr.write(f"kel: {_printable(_error_text(e.record))}\n")
-        return 1
+        return FAILED
     except LibraryNotFound as e:
         sys.stderr.write(f"kel: {e}\n")
-        return 2
+        return FAILED
     except KeyboardInterrupt:
         return 130
     except BrokenPipeError:

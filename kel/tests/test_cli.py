@@ -10,6 +10,7 @@ import pathlib
 import subprocess
 import sys
 import unittest
+import unittest.mock
 
 import kel
 from kel import cli
@@ -32,22 +33,63 @@ class CommandLine(EngineTest):
             code = cli.main(list(args), out=out)
         return code, out.getvalue(), err.getvalue()
 
-    def test_dtcs_prints_the_table(self) -> None:
+    def test_dtcs_prints_the_table_and_exits_3_for_the_silent_unit(self) -> None:
         done = run("dtcs")
-        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertEqual(done.returncode, 3, done.stderr)
         lines = done.stdout.splitlines()
-        self.assertEqual(lines[0].split(), ["ECU", "code", "status", "text"])
+        self.assertEqual(lines[0].split(), ["ECU", "code", "status", "text", "status", "bits"])
         self.assertEqual(lines[1].split()[:3], ["ECM", "P0301", "0x2F"])
-        self.assertTrue(lines[1].endswith("active, confirmed  Cylinder 1 misfire detected"))
+        # 0x2F, decoded through DtcStatus: bits 0, 1, 2, 3 and 5.
+        self.assertRegex(lines[1], r"Cylinder 1 misfire detected +test failed, test failed this operation "
+                                   r"cycle, pending, confirmed, test failed since last clear$")
+        self.assertEqual(len({line.index("0x") for line in lines[1:-1]}), 1, "aligned")
         self.assertEqual(len(lines), 1 + 6 + 1, "six DTCs and the silent ECU")
         self.assertTrue(lines[-1].startswith("ACC  error 1010: The control unit does not respond"))
+        self.assertNotIn("\x1b", done.stdout, "no colour into a pipe")
 
-    def test_json_is_the_records(self) -> None:
+    def test_json_has_the_readable_names_and_an_unknown_target_exits_3(self) -> None:
         done = run("identify", "--json", "ECM", "NOPE")
-        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertEqual(done.returncode, 3, done.stderr)
         results = json.loads(done.stdout)
         self.assertEqual(results[0]["variant"], "ECM_EDC17_CR_2L0_V3")
         self.assertEqual(results[1]["error"]["code"], 1011)
+        code, out, _ = self.main("--json", "dtcs", "ECM")
+        self.assertEqual(code, 0)
+        self.assertEqual({"display_code": "P0301", "status": 0x2F},
+                         {k: v for k, v in json.loads(out)[0]["dtcs"][0].items() if k in ("display_code", "status")})
+
+    def test_exec_raw_hex_decodes_the_response_then_its_bytes(self) -> None:
+        code, out, _ = self.main("exec", "ECM", "22F190")
+        self.assertEqual(code, 0)
+        rows = [line.split() for line in out.splitlines()]
+        self.assertIn(["VIN", "WVWZZZ1KZ8W000417"], rows)
+        self.assertEqual(rows[-1][:4], ["bytes", "62", "F1", "90"])
+        code, out, _ = self.main("exec", "ECM", "22F1FF")  # an identifier the unit lacks: a negative response
+        self.assertEqual(code, 3)
+        self.assertIn("7F 22 31", out)
+        self.assertEqual(self.main("exec", "ECM", "22F190", "A=1")[0], 2)
+
+    def test_version_help_and_a_mask_that_is_no_number(self) -> None:
+        done = run("--version")
+        self.assertEqual(done.returncode, 0, done.stderr)
+        self.assertRegex(done.stdout, r"^kel \S+\nkel_c \S+ .*\nengine kel_cpp ")
+        self.assertIn("3  some target answered with an error", run("--help").stdout)
+        done = run("dtcs", "--mask", "zz")
+        self.assertEqual(done.returncode, 2)
+        self.assertIn("'zz' is not a status mask", done.stderr)
+        self.assertNotIn("lambda", done.stderr)
+
+    def test_colour_only_on_a_terminal_without_no_color(self) -> None:
+        class Terminal(io.StringIO):
+            def isatty(self) -> bool:
+                return True
+
+        for environment, coloured in (({}, True), ({"NO_COLOR": "1"}, False)):
+            out = Terminal()
+            with unittest.mock.patch.dict(os.environ, environment):
+                os.environ.pop("NO_COLOR", None) if not environment else None
+                cli._table(out, ["a"], [["x"], ["error 1: y"]])
+            self.assertEqual("\x1b[" in out.getvalue(), coloured, environment)
 
     def test_an_engine_error_exits_1_with_code_and_message_on_stderr(self) -> None:
         sim.kelsim_failNext(b"getTargets", 1, 42, 0, "Werkstatt geschlossen", "")
@@ -72,32 +114,29 @@ class CommandLine(EngineTest):
         code, out, _ = self.main("events")
         self.assertEqual(code, 0)
         self.assertIn("EngineInitialized", out)
+        header, first = out.splitlines()[:2]
+        self.assertEqual(header.index("text"), first.index("The engine is initialized"), "events aligned")
         code, out, _ = self.main("--json", "info")
         self.assertEqual((code, json.loads(out)["state"]), (0, 1))
+        code, out, _ = self.main("info")
+        self.assertEqual(out.splitlines()[1].split(), ["state", "initialized"], "no blank line first")
 
     def test_control_characters_that_engine_texts_echo_are_escaped_in_tables(self) -> None:
         code, out, _ = self.main("identify", "E\x1b[2J\nX")
-        self.assertEqual(code, 0)
+        self.assertEqual(code, 3)  # no such target
         self.assertNotIn("\x1b", out)
         self.assertEqual(out.splitlines()[1].split()[0], "E\\x1b[2J\\x0aX")
         self.assertEqual(len(out.splitlines()), 2, "one line per row")
 
-    def test_operations_of_families_not_built_exit_2(self) -> None:
-        if hasattr(kel.Engine, "get_service_infos"):
-            self.skipTest("the Services family is built")
-        code, _, err = self.main("services", "ECM")
-        self.assertEqual(code, 2)
-        self.assertIn("not offered", err)
-
-    def test_usage_errors_and_a_missing_library_exit_2(self) -> None:
+    def test_usage_errors_exit_2_and_a_missing_library_1(self) -> None:
         self.assertEqual(run("nosuchcommand").returncode, 2)
         done = run("info", **{kel.ENVIRONMENT: "/nowhere/libkel_c.so"})
-        self.assertEqual(done.returncode, 2)
+        self.assertEqual(done.returncode, 1)
         self.assertIn("/nowhere/libkel_c.so", done.stderr)
         # A library that loads but is not kel_c (here the engine beside it) is refused alike.
         engine = pathlib.Path(kel.load()._name).parent / ("kel_cpp.dll" if sys.platform == "win32" else "libkel_cpp.so")
         done = run("--library", str(engine), "info")
-        self.assertEqual((done.returncode, len(done.stderr.splitlines())), (2, 1), done.stderr)
+        self.assertEqual((done.returncode, len(done.stderr.splitlines())), (1, 1), done.stderr)
         self.assertIn("is not kel_c", done.stderr)
 
 
