@@ -20,12 +20,33 @@ if(WIN32)
 endif()
 
 # ---- where things go ----------------------------------------------------------------------
-# Debian's python3 finds packages in <prefix>/lib/python3/dist-packages for the /usr prefix.
+# The Python package goes where the interpreter CMake finds (Python3_EXECUTABLE: give a
+# venv's or pyenv's python to install for it) says purelib is for the prefix, so that
+# interpreter finds it: <prefix>/lib/python3.X/site-packages for a venv, pyenv or
+# python.org build. Debian's own python3 reports its /usr/local scheme (posix_local); for
+# it the Debian layout is taken, <prefix>/lib/python3/dist-packages, which it searches
+# under /usr. Without an interpreter the Debian layout stays.
 if(WIN32)
     set(KEL_PYTHON_INSTALL_DIR python CACHE STRING "Folder (under the prefix) of the Python package kel")
     set(_kel_library_dir ${CMAKE_INSTALL_BINDIR})
 else()
-    set(KEL_PYTHON_INSTALL_DIR lib/python3/dist-packages CACHE STRING "Folder (under the prefix) of the Python package kel")
+    if(NOT DEFINED CACHE{KEL_PYTHON_INSTALL_DIR})
+        find_package(Python3 COMPONENTS Interpreter)
+        set(_kel_purelib lib/python3/dist-packages)
+        if(Python3_Interpreter_FOUND)
+            execute_process(COMMAND ${Python3_EXECUTABLE} -c [=[
+import sysconfig
+scheme = sysconfig.get_default_scheme() if hasattr(sysconfig, "get_default_scheme") else sysconfig._get_default_scheme()
+if scheme == "posix_local":
+    scheme = "deb_system"
+print(sysconfig.get_path("purelib", scheme, vars={"base": "/kel-prefix", "platbase": "/kel-prefix"}))]=]
+                OUTPUT_VARIABLE _kel_sysconfig OUTPUT_STRIP_TRAILING_WHITESPACE RESULT_VARIABLE _kel_failed)
+            if(NOT _kel_failed AND _kel_sysconfig MATCHES "^/kel-prefix/(.+)$")
+                set(_kel_purelib ${CMAKE_MATCH_1})
+            endif()
+        endif()
+    endif()
+    set(KEL_PYTHON_INSTALL_DIR ${_kel_purelib} CACHE STRING "Folder (under the prefix) of the Python package kel")
     set(_kel_library_dir ${CMAKE_INSTALL_LIBDIR})
 endif()
 set(_kel_cmake_dir ${CMAKE_INSTALL_LIBDIR}/cmake/kel_c)

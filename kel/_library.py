@@ -1,11 +1,18 @@
-"""Finding and loading kel_c: the environment variable KEL_C_LIBRARY first (a file or the
-folder that holds it), then the library installed next to this package, then a build
-tree around a source checkout, then the system loader."""
+"""Finding and loading kel_c, first match:
+
+1. the environment variable KEL_C_LIBRARY (a file or the folder that holds it): only that;
+2. the library inside the package (kel/_lib/, package data found with importlib.resources):
+   what `pip install` of a checkout or of the wheel puts there, with the simulated engine;
+3. the library of a CMake installation, whose place the installation wrote next to the
+   package (kel/_installed.py);
+4. a build tree around a source checkout (build/linux, build/release);
+5. the system loader (libkel_c.so.0 on the loader's path)."""
 
 from __future__ import annotations
 
 import ctypes
 import ctypes.util
+import importlib.resources
 import os
 import pathlib
 import sys
@@ -50,6 +57,16 @@ def _installed() -> Optional[pathlib.Path]:
     return (pathlib.Path(__file__).resolve().parent / str(installed.LIBRARY_DIR)).resolve()
 
 
+def _packaged() -> Optional[pathlib.Path]:
+    """The library carried as package data (kel/_lib/), when this package has one."""
+    try:
+        resource = importlib.resources.files(__package__).joinpath("_lib", NAME)
+    except (AttributeError, TypeError, ModuleNotFoundError):  # Python before 3.9, or no package
+        return None
+    # A package installed from a wheel is a folder, so the resource is a file of its own.
+    return pathlib.Path(str(resource)) if resource.is_file() else None
+
+
 def candidates() -> list[pathlib.Path]:
     """The files tried, in order (the system loader comes after them)."""
     found: list[pathlib.Path] = []
@@ -58,6 +75,9 @@ def candidates() -> list[pathlib.Path]:
         path = pathlib.Path(given)
         found.append(path / NAME if path.is_dir() else path)
         return found  # a library named explicitly is the only one wanted
+    packaged = _packaged()
+    if packaged is not None:
+        found.append(packaged)
     installed = _installed()
     if installed is not None:
         found.append(installed / NAME)

@@ -37,6 +37,10 @@ if ! scripts/ensure-packages.sh "${packages[@]}"; then
 fi
 # mypy type-checks the Python package (ctest python_types) where Debian offers it.
 scripts/ensure-packages.sh python3-mypy || echo "test-all: python3-mypy is not installable; the Python package is not type-checked"
+# ctest python_install makes a venv and pip-installs the checkout offline: venv and pip, with
+# setuptools and wheel as wheels to install from (/usr/share/python-wheels).
+scripts/ensure-packages.sh python3-venv python3-setuptools python3-wheel-whl \
+    || echo "test-all: python3-venv or python3-wheel-whl is not installable; python_install is skipped"
 
 echo "== Tools"
 cmake --version | head -n 1
