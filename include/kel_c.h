@@ -2169,7 +2169,8 @@ KEL_C_API void kel_readDataByIdentifiers(TarnApi* api, KEL_KEPT const wchar_t* t
                                          KEL_KEPT wchar_t** identifiers, uint32_t identifierCount,
                                          KelError** error, KEL_OUT ReadDataResult*** results,
                                          KEL_OUT uint32_t* resultCount);
-/* Identifies the variant of one target. Position 22.
+/* Identifies the variant of one target. A target the vehicle does not have is not an error:
+ * the result is then NULL (None in Python), as the engine gives none. Position 22.
  * target: kept by the caller, read only during the call.
  * On success *result receives a VariantIdentResult record, or NULL when the engine gives none;
  * free it with release_VariantIdentResult. */

@@ -5,18 +5,26 @@ from __future__ import annotations
 import contextlib
 import ctypes
 import gc
+import logging
+import time
 import weakref
 from types import TracebackType
-from typing import Any, Callable, Iterator, Optional, Type
+from typing import Any, Callable, Iterator, Optional, Type, Union
 
 from .asynccall import AsyncCall
 from .errors import EngineError
 from .events import EventChannel
 from .generated import stream
 from .generated.enums import EngineState
+from .generated.errors import ErrorCode
 from .generated.operations import Operations
 from .generated.records import KelError
 from . import _library
+
+# One DEBUG record per synchronous call: the operation, its arguments (secrets as ***), its
+# duration and its error code (0: none); the record also carries them as the attributes
+# operation, duration (seconds) and error_code. kel.setup_logging() shows them.
+_log = logging.getLogger("kel")
 
 
 class Engine(Operations):
@@ -94,13 +102,59 @@ class Engine(Operations):
         finally:
             self.unlock(lock_id)
 
+    def unlock_security(self, target: str, level: int, key: Callable[[bytes, int], bytes],
+                        session: Union[str, int] = "Extended") -> bool:
+        """Unlocks a security level of a target: enters `session` (a name of ISO 14229,
+        "Default", "Programming", "Extended" or "SafetySystem", or the session's number),
+        asks for the seed of `level` and sends `key(seed, level)`, the caller's algorithm
+        (kel.sim.key_for for the simulated vehicle). Gives False when the level was unlocked
+        already (the unit answers the seed 00 00 00 00, and no key is sent), True otherwise.
+
+        Raises UnknownTargetError for a target the project does not have, NegativeResponseError
+        when the unit refuses the session, the seed or the key (a wrong key: nrc 0x35), and
+        EngineError for any other failure.
+        """
+        found = next((t for t in self.get_targets() if t is not None and t.name == target), None)
+        if found is None:
+            raise EngineError.of(KelError(code=ErrorCode.UNKNOWN_TARGET, message=f"The vehicle has no such control "
+                                          f"unit (target {target})"))
+        number = session if isinstance(session, int) else _SESSIONS.get(session)
+        if number is None:
+            raise ValueError(f"unknown session {session!r}: give one of {', '.join(_SESSIONS)} or its number")
+        from .generated.records import ServiceInput
+
+        for result in self.execute_service(target, [ServiceInput(data=bytes([0x10, number]))]):
+            if result is not None and result.error is not None:
+                raise EngineError.of(result.error)
+        seed = self.create_seed(found.address, level)
+        if seed and not any(seed):
+            return False
+        self.send_key(key(seed, level))
+        return True
+
     def events(self) -> EventChannel:
         """An event channel: `with engine.events() as channel: channel.poll()`."""
         return EventChannel(self)
 
     # ---- the frame of every synchronous call ----
 
-    def _call(self, number: int, data: bytes) -> bytes:
+    def _call(self, number: int, data: bytes, name: str = "", arguments: tuple[tuple[str, object], ...] = ()) -> bytes:
+        if not _log.isEnabledFor(logging.DEBUG):
+            return self._dispatch(number, data)
+        start = time.perf_counter()
+        code = 0
+        try:
+            return self._dispatch(number, data)
+        except EngineError as e:
+            code = e.code
+            raise
+        finally:
+            _log.debug("%s(%s): %.3f ms, %s", name or f"operation {number}",
+                       ", ".join(f"{key}={value!r}" for key, value in arguments),
+                       (time.perf_counter() - start) * 1000, f"error {code}" if code else "ok",
+                       extra={"operation": name, "duration": time.perf_counter() - start, "error_code": code})
+
+    def _dispatch(self, number: int, data: bytes) -> bytes:
         if not self._release.alive:
             raise RuntimeError("the engine object was released")
         try:
@@ -166,6 +220,9 @@ class Engine(Operations):
         call.started(call_id)
         return call
 
+
+# The diagnostic sessions of ISO 14229 by name (DiagnosticSessionControl, 10 xx).
+_SESSIONS = {"Default": 0x01, "Programming": 0x02, "Extended": 0x03, "SafetySystem": 0x04}
 
 # From this size on, a result is decoded with the cyclic collector suspended: decoding
 # makes tens of thousands of containers, and every collection pass in between would scan

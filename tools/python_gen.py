@@ -231,7 +231,8 @@ def records_py(iface: kelidl.Interface) -> str:
         for f in members:
             readable, doc = iface.readable(rec.name, f.name)
             name = snake(readable)
-            body.append(f"    {name}: {py_type(f, iface)} = {default(f)}")
+            value = f"dataclasses.field(default={default(f)}, repr=False)" if f.secret else default(f)
+            body.append(f"    {name}: {py_type(f, iface)} = {value}")  # a secret stays out of repr and logs
             text = ""
             if doc:
                 # The description speaks C; a NULL member is None here.
@@ -775,9 +776,11 @@ def operations_py(iface: kelidl.Interface) -> str:
            "from typing import TYPE_CHECKING, ContextManager, Optional, Sequence", "",
            "from . import c_records, enums, records, stream", "",
            "if TYPE_CHECKING:", "    from ..asynccall import AsyncCall", "    from ..engine import Engine", "",
+           "# What the log shows in place of a secret argument.", '_SECRET = "***"', "",
            "", "class Operations:",
            '    """The engine operations; kel.Engine supplies _call, _start and _adopt."""', "",
-           "    def _call(self, number: int, data: builtins.bytes) -> builtins.bytes:",
+           "    def _call(self, number: int, data: builtins.bytes, name: str = \"\",",
+           "              arguments: tuple[tuple[str, object], ...] = ()) -> builtins.bytes:",
            "        raise NotImplementedError", "",
            "    def _adopt(self, address: int) -> Engine:",
            "        raise NotImplementedError", "",
@@ -798,7 +801,10 @@ def operations_py(iface: kelidl.Interface) -> str:
                         f"            stream.write_{p.record}(_o, _e)"]
             else:
                 out.append(f"        {encode(p, iface)}")
-        call = f"self._call({op.otx}, builtins.bytes(_o))"
+        # The name and the arguments for the log (kel.engine); a secret shows as ***.
+        logged = ", ".join(f'("{param_name(p)}", {"_SECRET" if p.secret else param_name(p)})' for p in op.params)
+        logged = f"({logged},)" if len(op.params) == 1 else f"({logged})"
+        call = f'self._call({op.otx}, builtins.bytes(_o), "{snake(op.name)}", {logged})'
         if op.result is None or op.discard:
             out.append(f"        {call}")
         else:

@@ -14,11 +14,15 @@ if TYPE_CHECKING:
     from ..asynccall import AsyncCall
     from ..engine import Engine
 
+# What the log shows in place of a secret argument.
+_SECRET = "***"
+
 
 class Operations:
     """The engine operations; kel.Engine supplies _call, _start and _adopt."""
 
-    def _call(self, number: int, data: builtins.bytes) -> builtins.bytes:
+    def _call(self, number: int, data: builtins.bytes, name: str = "",
+              arguments: tuple[tuple[str, object], ...] = ()) -> builtins.bytes:
         raise NotImplementedError
 
     def _adopt(self, address: int) -> Engine:
@@ -38,7 +42,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(2, builtins.bytes(_o))
+        self._call(2, builtins.bytes(_o), "initialize", ())
 
     def end(self) -> None:
         """Ends the engine: the last call before releaseTarnApi.
@@ -48,7 +52,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(3, builtins.bytes(_o))
+        self._call(3, builtins.bytes(_o), "end", ())
 
     def start_server(self, name: str) -> str:
         """Starts the engine's server for remote clients under the given name (empty:
@@ -61,7 +65,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, name)
-        _b = self._call(4, builtins.bytes(_o))
+        _b = self._call(4, builtins.bytes(_o), "start_server", (("name", name),))
         return _b[4:].decode()
 
     def stop_server(self, reason: str) -> None:
@@ -74,7 +78,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, reason)
-        self._call(5, builtins.bytes(_o))
+        self._call(5, builtins.bytes(_o), "stop_server", (("reason", reason),))
 
     def restart_server(self, end_clients: int) -> None:
         """Restarts the engine's server at the same address; with endClients not 0 its
@@ -86,7 +90,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<i", end_clients)
-        self._call(6, builtins.bytes(_o))
+        self._call(6, builtins.bytes(_o), "restart_server", (("end_clients", end_clients),))
 
     def get_project_configuration(self, project_name: str) -> Optional[records.ProjectConfig]:
         """Reads a project's configuration.
@@ -97,7 +101,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, project_name)
-        _b = self._call(7, builtins.bytes(_o))
+        _b = self._call(7, builtins.bytes(_o), "get_project_configuration", (("project_name", project_name),))
         with self._decoding(_b):
             return stream.read_ProjectConfig(_b, 0)[0]
 
@@ -111,7 +115,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, project_name)
         stream.write_ProjectConfig(_o, config)
-        self._call(8, builtins.bytes(_o))
+        self._call(8, builtins.bytes(_o), "set_project_configuration", (("project_name", project_name), ("config", config)))
 
     def save_project_configuration(self, project_name: str) -> None:
         """Saves a project's configuration.
@@ -122,7 +126,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, project_name)
-        self._call(9, builtins.bytes(_o))
+        self._call(9, builtins.bytes(_o), "save_project_configuration", (("project_name", project_name),))
 
     def create_monitoring_link(self, name: str) -> int:
         """Opens a monitoring link on the running communication; returns its handle.
@@ -133,7 +137,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, name)
-        _b = self._call(10, builtins.bytes(_o))
+        _b = self._call(10, builtins.bytes(_o), "create_monitoring_link", (("name", name),))
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -149,7 +153,7 @@ class Operations:
         _o += struct.pack("<Q", handle)
         _o += struct.pack("<I", value1)
         _o += struct.pack("<i", value2)
-        _b = self._call(11, builtins.bytes(_o))
+        _b = self._call(11, builtins.bytes(_o), "get_monitoring_items", (("handle", handle), ("value1", value1), ("value2", value2)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -168,7 +172,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", handle)
-        self._call(12, builtins.bytes(_o))
+        self._call(12, builtins.bytes(_o), "release_monitoring_link", (("handle", handle),))
 
     def get_pdu_monitoring_items(self, handle: int, value1: int, value2: int) -> list[Optional[records.PduMonitoringItem]]:
         """Fetches the protocol data units that a PDU monitor recorded; the two values
@@ -182,7 +186,7 @@ class Operations:
         _o += struct.pack("<Q", handle)
         _o += struct.pack("<I", value1)
         _o += struct.pack("<i", value2)
-        _b = self._call(13, builtins.bytes(_o))
+        _b = self._call(13, builtins.bytes(_o), "get_pdu_monitoring_items", (("handle", handle), ("value1", value1), ("value2", value2)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -200,7 +204,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(14, builtins.bytes(_o))
+        _b = self._call(14, builtins.bytes(_o), "create_pdu_monitor", ())
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -212,7 +216,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(15, builtins.bytes(_o))
+        self._call(15, builtins.bytes(_o), "save_configuration", ())
 
     def release_pdu_monitor(self, handle: int) -> None:
         """Closes a PDU monitor.
@@ -223,7 +227,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", handle)
-        self._call(16, builtins.bytes(_o))
+        self._call(16, builtins.bytes(_o), "release_pdu_monitor", (("handle", handle),))
 
     def identify_all_targets(self) -> list[Optional[records.VariantIdentResult]]:
         """Identifies the variant of every target of the project; one result per
@@ -234,7 +238,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(17, builtins.bytes(_o))
+        _b = self._call(17, builtins.bytes(_o), "identify_all_targets", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -264,7 +268,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
-        _b = self._call(19, builtins.bytes(_o))
+        _b = self._call(19, builtins.bytes(_o), "read_identification_values", (("targets", targets),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -294,7 +298,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         stream.write_texts(_o, identifiers, "identifiers")
-        _b = self._call(21, builtins.bytes(_o))
+        _b = self._call(21, builtins.bytes(_o), "read_data_by_identifiers", (("target", target), ("identifiers", identifiers)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -305,7 +309,9 @@ class Operations:
             return _results
 
     def identify_target(self, target: str) -> Optional[records.VariantIdentResult]:
-        """Identifies the variant of one target.
+        """Identifies the variant of one target. A target the vehicle does not have is
+        not an error: the result is then NULL (None in Python), as the engine gives
+        none.
 
         C: kel_identifyTarget; number 22; engine position 22.
 
@@ -313,7 +319,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, target)
-        _b = self._call(22, builtins.bytes(_o))
+        _b = self._call(22, builtins.bytes(_o), "identify_target", (("target", target),))
         with self._decoding(_b):
             return stream.read_VariantIdentResult(_b, 0)[0]
 
@@ -328,7 +334,7 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
         stream.write_DtcReadConfig(_o, config)
-        _b = self._call(23, builtins.bytes(_o))
+        _b = self._call(23, builtins.bytes(_o), "read_dtcs", (("targets", targets), ("config", config)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -360,7 +366,7 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
         stream.write_DtcReadConfig(_o, config)
-        _b = self._call(25, builtins.bytes(_o))
+        _b = self._call(25, builtins.bytes(_o), "read_supported_dtcs", (("targets", targets), ("config", config)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -390,7 +396,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
-        _b = self._call(27, builtins.bytes(_o))
+        _b = self._call(27, builtins.bytes(_o), "clear_all_dtcs", (("targets", targets),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -424,7 +430,7 @@ class Operations:
         stream.write_text(_o, pattern)
         stream.write_texts(_o, names, "names")
         _o += struct.pack("<i", service_id)
-        _b = self._call(29, builtins.bytes(_o))
+        _b = self._call(29, builtins.bytes(_o), "get_service_infos", (("target", target), ("pattern", pattern), ("names", names), ("service_id", service_id)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -443,7 +449,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, target)
-        _b = self._call(113, builtins.bytes(_o))
+        _b = self._call(113, builtins.bytes(_o), "get_flash_session_infos", (("target", target),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -463,7 +469,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         stream.write_texts(_o, sessions, "sessions")
-        _b = self._call(117, builtins.bytes(_o))
+        _b = self._call(117, builtins.bytes(_o), "execute_flash_sessions", (("target", target), ("sessions", sessions)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -492,7 +498,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
-        _b = self._call(32, builtins.bytes(_o))
+        _b = self._call(32, builtins.bytes(_o), "read_coding_strings", (("targets", targets),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -523,7 +529,7 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
         stream.write_DtcReadConfig(_o, config)
-        _b = self._call(34, builtins.bytes(_o))
+        _b = self._call(34, builtins.bytes(_o), "perform_quick_test", (("targets", targets), ("config", config)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -555,7 +561,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, address)
-        _b = self._call(36, builtins.bytes(_o))
+        _b = self._call(36, builtins.bytes(_o), "connect_remote_server", (("address", address),))
         return self._adopt(struct.unpack_from("<Q", _b)[0])
 
     def get_measurement_value_infos(self, target: str) -> list[Optional[records.ParameterInfo]]:
@@ -567,7 +573,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, target)
-        _b = self._call(37, builtins.bytes(_o))
+        _b = self._call(37, builtins.bytes(_o), "get_measurement_value_infos", (("target", target),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -588,7 +594,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         stream.write_texts(_o, names, "names")
-        _b = self._call(38, builtins.bytes(_o))
+        _b = self._call(38, builtins.bytes(_o), "register_measurement_values", (("target", target), ("names", names)))
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -601,7 +607,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", registration)
-        _b = self._call(39, builtins.bytes(_o))
+        _b = self._call(39, builtins.bytes(_o), "get_measurement_values", (("registration", registration),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -620,7 +626,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", registration)
-        self._call(40, builtins.bytes(_o))
+        self._call(40, builtins.bytes(_o), "unregister_measurement_values", (("registration", registration),))
 
     def get_identification_value_infos(self, target: str) -> list[Optional[records.ParameterInfo]]:
         """Describes the identification values that one target offers.
@@ -631,7 +637,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, target)
-        _b = self._call(41, builtins.bytes(_o))
+        _b = self._call(41, builtins.bytes(_o), "get_identification_value_infos", (("target", target),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -650,7 +656,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(128, builtins.bytes(_o))
+        self._call(128, builtins.bytes(_o), "cancel_all_async_calls", ())
 
     def create_seed(self, address: int, level: int) -> builtins.bytes:
         """Asks the unit at the diagnostic address (a Target's address) for the seed of
@@ -664,7 +670,7 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<I", address)
         _o += struct.pack("<I", level)
-        _b = self._call(43, builtins.bytes(_o))
+        _b = self._call(43, builtins.bytes(_o), "create_seed", (("address", address), ("level", level)))
         return _b[4:]
 
     def send_key(self, key: builtins.bytes) -> None:
@@ -676,7 +682,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_bytes(_o, key)
-        self._call(44, builtins.bytes(_o))
+        self._call(44, builtins.bytes(_o), "send_key", (("key", key),))
 
     def open_event_channel(self) -> int:
         """Opens an event channel and returns its identifier; kel_getCurrentEvents
@@ -687,7 +693,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(45, builtins.bytes(_o))
+        _b = self._call(45, builtins.bytes(_o), "open_event_channel", ())
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -700,7 +706,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", channel)
-        self._call(46, builtins.bytes(_o))
+        self._call(46, builtins.bytes(_o), "close_event_channel", (("channel", channel),))
 
     def get_current_events(self, channel: int, limit: int) -> Optional[records.EventReport]:
         """Fetches the events waiting on an event channel; limit is passed to the
@@ -713,7 +719,7 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<Q", channel)
         _o += struct.pack("<I", limit)
-        _b = self._call(47, builtins.bytes(_o))
+        _b = self._call(47, builtins.bytes(_o), "get_current_events", (("channel", channel), ("limit", limit)))
         with self._decoding(_b):
             return stream.read_EventReport(_b, 0)[0]
 
@@ -727,7 +733,7 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<Q", handle)
         stream.write_text(_o, trace_file)
-        self._call(67, builtins.bytes(_o))
+        self._call(67, builtins.bytes(_o), "open_trace_file_monitoring_link", (("handle", handle), ("trace_file", trace_file)))
 
     def start_trace_file_monitoring_link(self, handle: int) -> None:
         """Starts the monitoring of a trace file.
@@ -738,7 +744,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", handle)
-        self._call(68, builtins.bytes(_o))
+        self._call(68, builtins.bytes(_o), "start_trace_file_monitoring_link", (("handle", handle),))
 
     def stop_trace_file_monitoring_link(self, handle: int) -> None:
         """Stops the monitoring of a trace file.
@@ -749,7 +755,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", handle)
-        self._call(69, builtins.bytes(_o))
+        self._call(69, builtins.bytes(_o), "stop_trace_file_monitoring_link", (("handle", handle),))
 
     def close_trace_file_monitoring_link(self, handle: int) -> None:
         """Closes the monitoring of a trace file.
@@ -760,7 +766,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", handle)
-        self._call(66, builtins.bytes(_o))
+        self._call(66, builtins.bytes(_o), "close_trace_file_monitoring_link", (("handle", handle),))
 
     def save_interface_configuration(self) -> None:
         """Saves the interface configuration.
@@ -770,7 +776,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(70, builtins.bytes(_o))
+        self._call(70, builtins.bytes(_o), "save_interface_configuration", ())
 
     def scan_interface_connection(self, interfaces: Sequence[str] = ()) -> list[Optional[records.ScanInterfaceResult]]:
         """Scans the connection of the given interfaces; one result per interface.
@@ -781,7 +787,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, interfaces, "interfaces")
-        _b = self._call(71, builtins.bytes(_o))
+        _b = self._call(71, builtins.bytes(_o), "scan_interface_connection", (("interfaces", interfaces),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -810,7 +816,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(74, builtins.bytes(_o))
+        self._call(74, builtins.bytes(_o), "disconnect", ())
 
     def get_interface_long_name(self, name: str) -> str:
         """Reads the long name of an interface.
@@ -821,7 +827,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, name)
-        _b = self._call(73, builtins.bytes(_o))
+        _b = self._call(73, builtins.bytes(_o), "get_interface_long_name", (("name", name),))
         return _b[4:].decode()
 
     def read_measurement_values(self, target: str, names: Sequence[str] = ()) -> list[Optional[records.ReadDataResult]]:
@@ -834,7 +840,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         stream.write_texts(_o, names, "names")
-        _b = self._call(75, builtins.bytes(_o))
+        _b = self._call(75, builtins.bytes(_o), "read_measurement_values", (("target", target), ("names", names)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -869,7 +875,7 @@ class Operations:
         _o += struct.pack("<Q", offset)
         _o += struct.pack("<I", length)
         _o += struct.pack("<?", exact)
-        _b = self._call(77, builtins.bytes(_o))
+        _b = self._call(77, builtins.bytes(_o), "read_file", (("path", path), ("offset", offset), ("length", length), ("exact", exact)))
         return _b[4:]
 
     def connect_interfaces(self) -> None:
@@ -880,7 +886,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(80, builtins.bytes(_o))
+        self._call(80, builtins.bytes(_o), "connect_interfaces", ())
 
     def disconnect_interfaces(self) -> None:
         """Disconnects the connected interfaces.
@@ -890,7 +896,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(81, builtins.bytes(_o))
+        self._call(81, builtins.bytes(_o), "disconnect_interfaces", ())
 
     def execute_do_ip_broadcast(self) -> None:
         """Sends a DoIP broadcast to find the vehicles on the network.
@@ -900,7 +906,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(82, builtins.bytes(_o))
+        self._call(82, builtins.bytes(_o), "execute_do_ip_broadcast", ())
 
     def refresh_project_list(self) -> None:
         """Has the engine read its list of projects again.
@@ -910,7 +916,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(85, builtins.bytes(_o))
+        self._call(85, builtins.bytes(_o), "refresh_project_list", ())
 
     def identify_targets(self, targets: Sequence[str] = ()) -> list[Optional[records.VariantIdentResult]]:
         """Identifies the variants of the given targets; one result per target.
@@ -921,7 +927,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
-        _b = self._call(86, builtins.bytes(_o))
+        _b = self._call(86, builtins.bytes(_o), "identify_targets", (("targets", targets),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -952,7 +958,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, text1)
         stream.write_text(_o, text2)
-        _b = self._call(89, builtins.bytes(_o))
+        _b = self._call(89, builtins.bytes(_o), "get_actuator_service_infos", (("text1", text1), ("text2", text2)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -971,7 +977,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", bridge)
-        self._call(93, builtins.bytes(_o))
+        self._call(93, builtins.bytes(_o), "release_socket_bridge", (("bridge", bridge),))
 
     def create_socket_bridge(self, local_port: int, logical_address: int) -> int:
         """Opens a socket bridge and returns its identifier; the two values are passed
@@ -985,7 +991,7 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<I", local_port)
         _o += struct.pack("<I", logical_address)
-        _b = self._call(92, builtins.bytes(_o))
+        _b = self._call(92, builtins.bytes(_o), "create_socket_bridge", (("local_port", local_port), ("logical_address", logical_address)))
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -999,7 +1005,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         stream.write_texts(_o, names, "names")
-        _b = self._call(96, builtins.bytes(_o))
+        _b = self._call(96, builtins.bytes(_o), "get_single_measurement_value_infos", (("target", target), ("names", names)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1020,7 +1026,7 @@ class Operations:
         _o += struct.pack("<I", len(filters))
         for _e in filters:
             stream.write_TargetFilter(_o, _e)
-        _b = self._call(97, builtins.bytes(_o))
+        _b = self._call(97, builtins.bytes(_o), "get_filtered_targets", (("filters", filters),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1039,7 +1045,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, project_path)
-        _b = self._call(99, builtins.bytes(_o))
+        _b = self._call(99, builtins.bytes(_o), "is_project_conversion_required", (("project_path", project_path),))
         return _b[0] != 0
 
     def convert_project(self, project_path: str) -> None:
@@ -1051,7 +1057,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, project_path)
-        self._call(100, builtins.bytes(_o))
+        self._call(100, builtins.bytes(_o), "convert_project", (("project_path", project_path),))
 
     def save_mox_configuration(self) -> None:
         """Saves the MOX configuration.
@@ -1061,7 +1067,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(102, builtins.bytes(_o))
+        self._call(102, builtins.bytes(_o), "save_mox_configuration", ())
 
     def start_cyclic_services(self, target: str, services: Sequence[Optional[records.ServiceInput]], cycle_time: int) -> int:
         """Starts running the given services on one target every cycleTime; returns the
@@ -1077,7 +1083,7 @@ class Operations:
         for _e in services:
             stream.write_ServiceInput(_o, _e)
         _o += struct.pack("<I", cycle_time)
-        _b = self._call(103, builtins.bytes(_o))
+        _b = self._call(103, builtins.bytes(_o), "start_cyclic_services", (("target", target), ("services", services), ("cycle_time", cycle_time)))
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -1090,7 +1096,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", cyclic)
-        _b = self._call(105, builtins.bytes(_o))
+        _b = self._call(105, builtins.bytes(_o), "get_cyclic_results", (("cyclic", cyclic),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1109,7 +1115,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", cyclic)
-        self._call(104, builtins.bytes(_o))
+        self._call(104, builtins.bytes(_o), "stop_cyclic_services", (("cyclic", cyclic),))
 
     def get_project_details(self) -> Optional[records.ProjectDetails]:
         """Reads the details of the selected project: its database files and users.
@@ -1119,7 +1125,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(106, builtins.bytes(_o))
+        _b = self._call(106, builtins.bytes(_o), "get_project_details", ())
         with self._decoding(_b):
             return stream.read_ProjectDetails(_b, 0)[0]
 
@@ -1131,7 +1137,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(107, builtins.bytes(_o))
+        self._call(107, builtins.bytes(_o), "clear_link_cache", ())
 
     def add_resource(self, name: str, resource: Optional[records.ResourceInformation], value: int) -> None:
         """Adds a resource to an interface; value is passed to the engine unchanged.
@@ -1144,7 +1150,7 @@ class Operations:
         stream.write_text(_o, name)
         stream.write_ResourceInformation(_o, resource)
         _o += struct.pack("<H", value)
-        self._call(109, builtins.bytes(_o))
+        self._call(109, builtins.bytes(_o), "add_resource", (("name", name), ("resource", resource), ("value", value)))
 
     def remove_interface(self, name: str) -> None:
         """Removes an interface.
@@ -1155,7 +1161,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, name)
-        self._call(110, builtins.bytes(_o))
+        self._call(110, builtins.bytes(_o), "remove_interface", (("name", name),))
 
     def add_interface(self, interface_info: Optional[records.InterfaceInformation], text1: str, text2: str, text3: str) -> Optional[records.InterfaceInformation]:
         """Adds an interface and returns it as the engine completed it.
@@ -1169,7 +1175,7 @@ class Operations:
         stream.write_text(_o, text1)
         stream.write_text(_o, text2)
         stream.write_text(_o, text3)
-        _b = self._call(108, builtins.bytes(_o))
+        _b = self._call(108, builtins.bytes(_o), "add_interface", (("interface_info", interface_info), ("text1", text1), ("text2", text2), ("text3", text3)))
         with self._decoding(_b):
             return stream.read_InterfaceInformation(_b, 0)[0]
 
@@ -1183,7 +1189,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, name1)
         stream.write_text(_o, name2)
-        self._call(112, builtins.bytes(_o))
+        self._call(112, builtins.bytes(_o), "remove_resource", (("name1", name1), ("name2", name2)))
 
     def get_system_property(self, name: str) -> Optional[records.SystemProperty]:
         """Reads a system property by name.
@@ -1194,7 +1200,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, name)
-        _b = self._call(114, builtins.bytes(_o))
+        _b = self._call(114, builtins.bytes(_o), "get_system_property", (("name", name),))
         with self._decoding(_b):
             return stream.read_SystemProperty(_b, 0)[0]
 
@@ -1207,7 +1213,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, name)
-        self._call(115, builtins.bytes(_o))
+        self._call(115, builtins.bytes(_o), "reset_system_property", (("name", name),))
 
     def set_system_property(self, property: Optional[records.SystemProperty] = None) -> None:
         """Sets a system property.
@@ -1218,7 +1224,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_SystemProperty(_o, property)
-        self._call(116, builtins.bytes(_o))
+        self._call(116, builtins.bytes(_o), "set_system_property", (("property", property),))
 
     def get_vendor_module_names(self, interface_info: Optional[records.InterfaceInformation] = None) -> list[str]:
         """Lists the vendor module names of an interface.
@@ -1229,7 +1235,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_InterfaceInformation(_o, interface_info)
-        _b = self._call(120, builtins.bytes(_o))
+        _b = self._call(120, builtins.bytes(_o), "get_vendor_module_names", (("interface_info", interface_info),))
         return stream.read_texts(_b, 0)[0]
 
     def get_vendor_module_names_ex(self, text: str) -> list[str]:
@@ -1241,7 +1247,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, text)
-        _b = self._call(121, builtins.bytes(_o))
+        _b = self._call(121, builtins.bytes(_o), "get_vendor_module_names_ex", (("text", text),))
         return stream.read_texts(_b, 0)[0]
 
     def execute_service(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> list[Optional[records.ServiceResult]]:
@@ -1256,7 +1262,7 @@ class Operations:
         _o += struct.pack("<I", len(services))
         for _e in services:
             stream.write_ServiceInput(_o, _e)
-        _b = self._call(30, builtins.bytes(_o))
+        _b = self._call(30, builtins.bytes(_o), "execute_service", (("target", target), ("services", services)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1287,7 +1293,7 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<I", value)
         stream.write_DynInterfaceDetection(_o, detection)
-        _b = self._call(123, builtins.bytes(_o))
+        _b = self._call(123, builtins.bytes(_o), "detect_dyn_interfaces", (("value", value), ("detection", detection)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1319,7 +1325,7 @@ class Operations:
         stream.write_text(_o, name)
         _o += struct.pack("<?", flag)
         stream.write_DynInterfaceDetection(_o, detection)
-        self._call(125, builtins.bytes(_o))
+        self._call(125, builtins.bytes(_o), "connect_dyn_interface", (("name", name), ("flag", flag), ("detection", detection)))
 
     def disconnect_dyn_interfaces(self, names: Sequence[str] = ()) -> None:
         """Disconnects the given dynamically detected interfaces.
@@ -1330,7 +1336,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, names, "names")
-        self._call(126, builtins.bytes(_o))
+        self._call(126, builtins.bytes(_o), "disconnect_dyn_interfaces", (("names", names),))
 
     def update_cyclic_services(self, cyclic: int, services: Sequence[Optional[records.ServiceInput]] = ()) -> None:
         """Changes the services that a cyclic run started with kel_startCyclicServices
@@ -1345,7 +1351,7 @@ class Operations:
         _o += struct.pack("<I", len(services))
         for _e in services:
             stream.write_ServiceInput(_o, _e)
-        self._call(127, builtins.bytes(_o))
+        self._call(127, builtins.bytes(_o), "update_cyclic_services", (("cyclic", cyclic), ("services", services)))
 
     def cancel_async_calls(self, call_ids: Sequence[int] = ()) -> None:
         """Cancels the asynchronous calls with the given call identifiers; whether a
@@ -1357,7 +1363,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_values(_o, "Q", call_ids)
-        self._call(42, builtins.bytes(_o))
+        self._call(42, builtins.bytes(_o), "cancel_async_calls", (("call_ids", call_ids),))
 
     def get_project_directory(self, recursive: bool) -> Optional[records.DirectoryInfo]:
         """Reads the project directory as a tree.
@@ -1369,7 +1375,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<?", recursive)
-        _b = self._call(129, builtins.bytes(_o))
+        _b = self._call(129, builtins.bytes(_o), "get_project_directory", (("recursive", recursive),))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
 
@@ -1383,7 +1389,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<?", recursive)
-        _b = self._call(130, builtins.bytes(_o))
+        _b = self._call(130, builtins.bytes(_o), "get_selected_project_directory", (("recursive", recursive),))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
 
@@ -1401,7 +1407,7 @@ class Operations:
         stream.write_bytes(_o, data)
         _o += struct.pack("<I", mode)
         _o += struct.pack("<?", make_directories)
-        _b = self._call(135, builtins.bytes(_o))
+        _b = self._call(135, builtins.bytes(_o), "write_file", (("path", path), ("data", data), ("mode", mode), ("make_directories", make_directories)))
         _value: int = struct.unpack_from("<I", _b)[0]
         return _value
 
@@ -1417,7 +1423,7 @@ class Operations:
         _o += struct.pack("<I", len(files))
         for _e in files:
             stream.write_FileInfo(_o, _e)
-        _b = self._call(137, builtins.bytes(_o))
+        _b = self._call(137, builtins.bytes(_o), "delete_files", (("files", files),))
         with self._decoding(_b):
             return stream.read_KelError(_b, 0)[0]
 
@@ -1432,7 +1438,7 @@ class Operations:
         stream.write_DirectoryInfo(_o, directory)
         stream.write_text(_o, pattern)
         _o += struct.pack("<?", recursive)
-        _b = self._call(139, builtins.bytes(_o))
+        _b = self._call(139, builtins.bytes(_o), "find_directories", (("directory", directory), ("pattern", pattern), ("recursive", recursive)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1453,7 +1459,7 @@ class Operations:
         stream.write_text(_o, directory)
         stream.write_text(_o, pattern)
         _o += struct.pack("<?", recursive)
-        _b = self._call(140, builtins.bytes(_o))
+        _b = self._call(140, builtins.bytes(_o), "find_files", (("directory", directory), ("pattern", pattern), ("recursive", recursive)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1474,7 +1480,7 @@ class Operations:
         _o = bytearray()
         stream.write_DirectoryInfo(_o, directory)
         _o += struct.pack("<?", recursive)
-        _b = self._call(141, builtins.bytes(_o))
+        _b = self._call(141, builtins.bytes(_o), "initialize_directory_elements", (("directory", directory), ("recursive", recursive)))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
 
@@ -1488,7 +1494,7 @@ class Operations:
         _o = bytearray()
         stream.write_DirectoryInfo(_o, parent)
         stream.write_text(_o, name)
-        _b = self._call(132, builtins.bytes(_o))
+        _b = self._call(132, builtins.bytes(_o), "create_file", (("parent", parent), ("name", name)))
         with self._decoding(_b):
             return stream.read_FileInfo(_b, 0)[0]
 
@@ -1502,7 +1508,7 @@ class Operations:
         _o = bytearray()
         stream.write_DirectoryInfo(_o, parent)
         stream.write_text(_o, name)
-        _b = self._call(133, builtins.bytes(_o))
+        _b = self._call(133, builtins.bytes(_o), "create_directory", (("parent", parent), ("name", name)))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
 
@@ -1516,7 +1522,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, path)
-        _b = self._call(134, builtins.bytes(_o))
+        _b = self._call(134, builtins.bytes(_o), "delete_directory", (("path", path),))
         with self._decoding(_b):
             return stream.read_KelError(_b, 0)[0]
 
@@ -1530,7 +1536,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<?", recursive)
-        _b = self._call(136, builtins.bytes(_o))
+        _b = self._call(136, builtins.bytes(_o), "get_trace_directory", (("recursive", recursive),))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
 
@@ -1545,7 +1551,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_VehicleReportConfig(_o, config)
-        _b = self._call(146, builtins.bytes(_o))
+        _b = self._call(146, builtins.bytes(_o), "create_vehicle_report", (("config", config),))
         return _b[4:].decode()
 
     def read_ecu_order(self, path: str) -> list[Optional[records.EcuOrderEntry]]:
@@ -1559,7 +1565,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, path)
-        _b = self._call(143, builtins.bytes(_o))
+        _b = self._call(143, builtins.bytes(_o), "read_ecu_order", (("path", path),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1583,7 +1589,7 @@ class Operations:
         for _e in entries:
             stream.write_EcuOrderEntry(_o, _e)
         stream.write_texts(_o, targets, "targets")
-        _b = self._call(144, builtins.bytes(_o))
+        _b = self._call(144, builtins.bytes(_o), "filter_ecu_order", (("entries", entries), ("targets", targets)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1605,7 +1611,7 @@ class Operations:
         _o += struct.pack("<I", len(entries))
         for _e in entries:
             stream.write_EcuOrderEntry(_o, _e)
-        _b = self._call(145, builtins.bytes(_o))
+        _b = self._call(145, builtins.bytes(_o), "add_missing_targets_to_ecu_order", (("entries", entries),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1624,7 +1630,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(147, builtins.bytes(_o))
+        _b = self._call(147, builtins.bytes(_o), "lock", ())
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -1637,7 +1643,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", lock_id)
-        self._call(148, builtins.bytes(_o))
+        self._call(148, builtins.bytes(_o), "unlock", (("lock_id", lock_id),))
 
     def is_locked(self) -> bool:
         """Tells whether the engine's lock is taken.
@@ -1647,7 +1653,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(149, builtins.bytes(_o))
+        _b = self._call(149, builtins.bytes(_o), "is_locked", ())
         return _b[0] != 0
 
     def break_lock(self) -> None:
@@ -1658,7 +1664,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(150, builtins.bytes(_o))
+        self._call(150, builtins.bytes(_o), "break_lock", ())
 
     def set_ethernet_pin_state(self, state: int, interfaces: Sequence[str] = ()) -> None:
         """Sets the Ethernet pin state of the given interfaces.
@@ -1670,7 +1676,7 @@ class Operations:
         _o = bytearray()
         _o += struct.pack("<B", state)
         stream.write_texts(_o, interfaces, "interfaces")
-        self._call(151, builtins.bytes(_o))
+        self._call(151, builtins.bytes(_o), "set_ethernet_pin_state", (("state", state), ("interfaces", interfaces)))
 
     def get_ethernet_pin_state(self, interface_name: str) -> int:
         """Reads the Ethernet pin state of an interface.
@@ -1681,7 +1687,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, interface_name)
-        _b = self._call(152, builtins.bytes(_o))
+        _b = self._call(152, builtins.bytes(_o), "get_ethernet_pin_state", (("interface_name", interface_name),))
         _value: int = struct.unpack_from("<I", _b)[0]
         return _value
 
@@ -1695,7 +1701,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<I", value)
-        _b = self._call(83, builtins.bytes(_o))
+        _b = self._call(83, builtins.bytes(_o), "detect_dyn_interfaces_ex", (("value", value),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1726,7 +1732,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, name)
         _o += struct.pack("<?", flag)
-        self._call(153, builtins.bytes(_o))
+        self._call(153, builtins.bytes(_o), "connect_dyn_interface_ex", (("name", name), ("flag", flag)))
 
     def add_user(self, name: str, password: str, role: int) -> None:
         """Adds a user with a password and a role (1 operator, 2 administrator) to the
@@ -1740,7 +1746,7 @@ class Operations:
         stream.write_text(_o, name)
         stream.write_text(_o, password)
         _o += struct.pack("<I", role)
-        self._call(155, builtins.bytes(_o))
+        self._call(155, builtins.bytes(_o), "add_user", (("name", name), ("password", _SECRET), ("role", role)))
 
     def remove_user(self, name: str) -> None:
         """Removes a user from the server's user management; its logins end.
@@ -1751,7 +1757,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, name)
-        self._call(158, builtins.bytes(_o))
+        self._call(158, builtins.bytes(_o), "remove_user", (("name", name),))
 
     def get_users(self) -> list[Optional[records.UserInfo]]:
         """Lists the server's users by name, without their passwords.
@@ -1761,7 +1767,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(160, builtins.bytes(_o))
+        _b = self._call(160, builtins.bytes(_o), "get_users", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1780,7 +1786,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_LogInOutConfig(_o, config)
-        self._call(159, builtins.bytes(_o))
+        self._call(159, builtins.bytes(_o), "log_out", (("config", config),))
 
     def update_user(self, name: str, new_name: str, new_password: str, role: int) -> None:
         """Changes a user: a new name (empty keeps the name), a new password (empty
@@ -1795,7 +1801,7 @@ class Operations:
         stream.write_text(_o, new_name)
         stream.write_text(_o, new_password)
         _o += struct.pack("<I", role)
-        self._call(161, builtins.bytes(_o))
+        self._call(161, builtins.bytes(_o), "update_user", (("name", name), ("new_name", new_name), ("new_password", _SECRET), ("role", role)))
 
     def get_server_user_management(self) -> bool:
         """Tells whether the server's user management is on.
@@ -1805,7 +1811,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(138, builtins.bytes(_o))
+        _b = self._call(138, builtins.bytes(_o), "get_server_user_management", ())
         return _b[0] != 0
 
     def set_server_user_management(self, enabled: bool) -> None:
@@ -1818,7 +1824,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<?", enabled)
-        self._call(156, builtins.bytes(_o))
+        self._call(156, builtins.bytes(_o), "set_server_user_management", (("enabled", enabled),))
 
     def disconnect_all_clients(self) -> None:
         """Ends every remote connection to the engine.
@@ -1828,7 +1834,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(162, builtins.bytes(_o))
+        self._call(162, builtins.bytes(_o), "disconnect_all_clients", ())
 
     def test_socket_bridge(self, bridge: int) -> bool:
         """Tells whether a socket bridge works.
@@ -1839,7 +1845,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", bridge)
-        _b = self._call(157, builtins.bytes(_o))
+        _b = self._call(157, builtins.bytes(_o), "test_socket_bridge", (("bridge", bridge),))
         return _b[0] != 0
 
     def copy_files(self, config: Optional[records.FileCopyConfig] = None) -> list[Optional[records.FileCopyResult]]:
@@ -1851,7 +1857,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_FileCopyConfig(_o, config)
-        _b = self._call(165, builtins.bytes(_o))
+        _b = self._call(165, builtins.bytes(_o), "copy_files", (("config", config),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1880,7 +1886,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_DirectoryCopyConfig(_o, config)
-        _b = self._call(166, builtins.bytes(_o))
+        _b = self._call(166, builtins.bytes(_o), "copy_directories", (("config", config),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1910,7 +1916,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, path)
         _o += struct.pack("<i", algorithm)
-        _b = self._call(169, builtins.bytes(_o))
+        _b = self._call(169, builtins.bytes(_o), "calculate_checksum", (("path", path), ("algorithm", algorithm)))
         return _b[4:].decode()
 
     def run_sequence(self, sequence: str, arguments: Sequence[str] = ()) -> int:
@@ -1924,7 +1930,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, sequence)
         stream.write_texts(_o, arguments, "arguments")
-        _b = self._call(177, builtins.bytes(_o))
+        _b = self._call(177, builtins.bytes(_o), "run_sequence", (("sequence", sequence), ("arguments", arguments)))
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -1940,7 +1946,7 @@ class Operations:
         _o += struct.pack("<I", len(services))
         for _e in services:
             stream.write_ServiceInput(_o, _e)
-        _b = self._call(178, builtins.bytes(_o))
+        _b = self._call(178, builtins.bytes(_o), "unlock_vehicle", (("target", target), ("services", services)))
         with self._decoding(_b):
             return stream.read_UnlockResult(_b, 0)[0]
 
@@ -1956,7 +1962,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", unlock)
-        self._call(179, builtins.bytes(_o))
+        self._call(179, builtins.bytes(_o), "release_vehicle_unlock", (("unlock", unlock),))
 
     def cancel_sequence(self, run: int) -> None:
         """Cancels a run of a sequence started with kel_runSequence.
@@ -1967,7 +1973,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", run)
-        self._call(180, builtins.bytes(_o))
+        self._call(180, builtins.bytes(_o), "cancel_sequence", (("run", run),))
 
     def get_registered_devices(self) -> list[Optional[records.DeviceInfo]]:
         """Lists the registered devices.
@@ -1977,7 +1983,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(182, builtins.bytes(_o))
+        _b = self._call(182, builtins.bytes(_o), "get_registered_devices", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -1995,7 +2001,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(183, builtins.bytes(_o))
+        _b = self._call(183, builtins.bytes(_o), "get_system_info", ())
         with self._decoding(_b):
             return stream.read_SystemInfo(_b, 0)[0]
 
@@ -2009,7 +2015,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, package)
-        self._call(185, builtins.bytes(_o))
+        self._call(185, builtins.bytes(_o), "apply_update_package", (("package", package),))
 
     def rename_file(self, path: str, new_name: str) -> None:
         """Renames a file.
@@ -2021,7 +2027,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, path)
         stream.write_text(_o, new_name)
-        self._call(186, builtins.bytes(_o))
+        self._call(186, builtins.bytes(_o), "rename_file", (("path", path), ("new_name", new_name)))
 
     def on_connection_broken(self) -> None:
         """Tells the engine that its connection broke.
@@ -2031,7 +2037,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(188, builtins.bytes(_o))
+        self._call(188, builtins.bytes(_o), "on_connection_broken", ())
 
     def get_update_packages(self) -> list[Optional[records.UpdatePackageInfo]]:
         """Lists the update packages at hand.
@@ -2041,7 +2047,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(184, builtins.bytes(_o))
+        _b = self._call(184, builtins.bytes(_o), "get_update_packages", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2059,7 +2065,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(164, builtins.bytes(_o))
+        _b = self._call(164, builtins.bytes(_o), "get_packages_from_broker", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2077,7 +2083,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(174, builtins.bytes(_o))
+        _b = self._call(174, builtins.bytes(_o), "check_updates_on_broker", ())
         return _b[0] != 0
 
     def auto_update(self) -> bool:
@@ -2088,7 +2094,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(175, builtins.bytes(_o))
+        _b = self._call(175, builtins.bytes(_o), "auto_update", ())
         return _b[0] != 0
 
     def get_config_directory(self, recursive: bool) -> Optional[records.DirectoryInfo]:
@@ -2101,7 +2107,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<?", recursive)
-        _b = self._call(131, builtins.bytes(_o))
+        _b = self._call(131, builtins.bytes(_o), "get_config_directory", (("recursive", recursive),))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
 
@@ -2114,7 +2120,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(189, builtins.bytes(_o))
+        _b = self._call(189, builtins.bytes(_o), "create_api_trace_monitor", ())
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -2130,7 +2136,7 @@ class Operations:
         _o += struct.pack("<Q", handle)
         _o += struct.pack("<I", value1)
         _o += struct.pack("<i", value2)
-        _b = self._call(190, builtins.bytes(_o))
+        _b = self._call(190, builtins.bytes(_o), "get_api_trace_content", (("handle", handle), ("value1", value1), ("value2", value2)))
         return _b[4:]
 
     def release_api_trace_monitor(self, handle: int) -> None:
@@ -2142,7 +2148,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", handle)
-        self._call(192, builtins.bytes(_o))
+        self._call(192, builtins.bytes(_o), "release_api_trace_monitor", (("handle", handle),))
 
     def get_current_versions(self) -> list[Optional[records.NamedItem]]:
         """Lists the current versions of the installed components; each item's texts
@@ -2154,7 +2160,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(191, builtins.bytes(_o))
+        _b = self._call(191, builtins.bytes(_o), "get_current_versions", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2173,7 +2179,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(193, builtins.bytes(_o))
+        _b = self._call(193, builtins.bytes(_o), "check_update_success", ())
         return _b[0] != 0
 
     def clean_update_tmp(self) -> None:
@@ -2184,7 +2190,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(194, builtins.bytes(_o))
+        self._call(194, builtins.bytes(_o), "clean_update_tmp", ())
 
     def execute_flash_sessions_config(self, config: Optional[records.FlashSessionsConfig] = None) -> list[Optional[records.FlashSessionResult]]:
         """Runs flash sessions as config says.
@@ -2195,7 +2201,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_FlashSessionsConfig(_o, config)
-        _b = self._call(195, builtins.bytes(_o))
+        _b = self._call(195, builtins.bytes(_o), "execute_flash_sessions_config", (("config", config),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2224,7 +2230,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, files, "files")
-        _b = self._call(198, builtins.bytes(_o))
+        _b = self._call(198, builtins.bytes(_o), "load_database_file", (("files", files),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2249,7 +2255,7 @@ class Operations:
         _o += struct.pack("<?", flag)
         stream.write_FileCopyConfig(_o, config)
         stream.write_text(_o, text)
-        _b = self._call(201, builtins.bytes(_o))
+        _b = self._call(201, builtins.bytes(_o), "copy_project_with_filters", (("filters", filters), ("flag", flag), ("config", config), ("text", text)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2270,7 +2276,7 @@ class Operations:
         """
         _o = bytearray()
         _o += struct.pack("<Q", handle)
-        _b = self._call(199, builtins.bytes(_o))
+        _b = self._call(199, builtins.bytes(_o), "reconnect_remote_server", (("handle", handle),))
         return _b[0] != 0
 
     def filter_files(self, filters: Sequence[Optional[records.FileFilter]], directory: str) -> list[str]:
@@ -2285,7 +2291,7 @@ class Operations:
         for _e in filters:
             stream.write_FileFilter(_o, _e)
         stream.write_text(_o, directory)
-        _b = self._call(204, builtins.bytes(_o))
+        _b = self._call(204, builtins.bytes(_o), "filter_files", (("filters", filters), ("directory", directory)))
         return stream.read_texts(_b, 0)[0]
 
     def unload_database_file(self, files: Sequence[str] = ()) -> list[Optional[records.LoadDatabaseResult]]:
@@ -2297,7 +2303,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, files, "files")
-        _b = self._call(206, builtins.bytes(_o))
+        _b = self._call(206, builtins.bytes(_o), "unload_database_file", (("files", files),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2315,7 +2321,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(210, builtins.bytes(_o))
+        _b = self._call(210, builtins.bytes(_o), "get_public_directories", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2335,7 +2341,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_VehicleUpdateConfig(_o, config)
-        _b = self._call(211, builtins.bytes(_o))
+        _b = self._call(211, builtins.bytes(_o), "update_vehicle", (("config", config),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2369,7 +2375,7 @@ class Operations:
         _o += struct.pack("<I", len(services))
         for _e in services:
             stream.write_ServiceInput(_o, _e)
-        _b = self._call(213, builtins.bytes(_o))
+        _b = self._call(213, builtins.bytes(_o), "execute_service_in_default_session", (("target", target), ("services", services)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2399,7 +2405,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
-        _b = self._call(215, builtins.bytes(_o))
+        _b = self._call(215, builtins.bytes(_o), "get_target_status", (("targets", targets),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2418,7 +2424,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, modules, "modules")
-        _b = self._call(217, builtins.bytes(_o))
+        _b = self._call(217, builtins.bytes(_o), "get_physical_links", (("modules", modules),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2440,7 +2446,7 @@ class Operations:
         _o += struct.pack("<I", len(links))
         for _e in links:
             stream.write_PhysicalLinksOnModule(_o, _e)
-        _b = self._call(218, builtins.bytes(_o))
+        _b = self._call(218, builtins.bytes(_o), "set_physical_links", (("links", links),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2460,7 +2466,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, source)
         stream.write_text(_o, target)
-        _b = self._call(209, builtins.bytes(_o))
+        _b = self._call(209, builtins.bytes(_o), "move_file", (("source", source), ("target", target)))
         return _b[0] != 0
 
     def move_directory(self, source: str, target: str) -> bool:
@@ -2473,7 +2479,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, source)
         stream.write_text(_o, target)
-        _b = self._call(219, builtins.bytes(_o))
+        _b = self._call(219, builtins.bytes(_o), "move_directory", (("source", source), ("target", target)))
         return _b[0] != 0
 
     def path_exists(self, path: str) -> bool:
@@ -2485,7 +2491,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, path)
-        _b = self._call(220, builtins.bytes(_o))
+        _b = self._call(220, builtins.bytes(_o), "path_exists", (("path", path),))
         return _b[0] != 0
 
     def resolve_path(self, path: str) -> str:
@@ -2497,7 +2503,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, path)
-        _b = self._call(225, builtins.bytes(_o))
+        _b = self._call(225, builtins.bytes(_o), "resolve_path", (("path", path),))
         return _b[4:].decode()
 
     def get_vehicle_data(self) -> list[Optional[records.VehicleData]]:
@@ -2509,7 +2515,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(202, builtins.bytes(_o))
+        _b = self._call(202, builtins.bytes(_o), "get_vehicle_data", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2528,7 +2534,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, project_names, "project_names")
-        _b = self._call(203, builtins.bytes(_o))
+        _b = self._call(203, builtins.bytes(_o), "get_projects_details", (("project_names", project_names),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2547,7 +2553,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_UploadReportConfiguration(_o, config)
-        self._call(223, builtins.bytes(_o))
+        self._call(223, builtins.bytes(_o), "upload_report", (("config", config),))
 
     def get_file_references(self, files: Sequence[str] = ()) -> list[Optional[records.FileReferenceResult]]:
         """Lists the references of the given files; one result per file.
@@ -2558,7 +2564,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, files, "files")
-        _b = self._call(224, builtins.bytes(_o))
+        _b = self._call(224, builtins.bytes(_o), "get_file_references", (("files", files),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2576,7 +2582,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(226, builtins.bytes(_o))
+        self._call(226, builtins.bytes(_o), "on_connection_closed", ())
 
     def open_terminal(self) -> bool:
         """Opens the terminal; tells whether it opened.
@@ -2586,7 +2592,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(227, builtins.bytes(_o))
+        _b = self._call(227, builtins.bytes(_o), "open_terminal", ())
         return _b[0] != 0
 
     def close_terminal(self) -> None:
@@ -2597,7 +2603,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(228, builtins.bytes(_o))
+        self._call(228, builtins.bytes(_o), "close_terminal", ())
 
     def is_directory(self, path: str) -> bool:
         """Tells whether a path is a directory.
@@ -2608,7 +2614,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, path)
-        _b = self._call(231, builtins.bytes(_o))
+        _b = self._call(231, builtins.bytes(_o), "is_directory", (("path", path),))
         return _b[0] != 0
 
     def get_directory_info(self, path: str, recursive: bool) -> Optional[records.DirectoryInfo]:
@@ -2622,7 +2628,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, path)
         _o += struct.pack("<?", recursive)
-        _b = self._call(232, builtins.bytes(_o))
+        _b = self._call(232, builtins.bytes(_o), "get_directory_info", (("path", path), ("recursive", recursive)))
         with self._decoding(_b):
             return stream.read_DirectoryInfo(_b, 0)[0]
 
@@ -2635,7 +2641,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, path)
-        _b = self._call(233, builtins.bytes(_o))
+        _b = self._call(233, builtins.bytes(_o), "get_file_info", (("path", path),))
         with self._decoding(_b):
             return stream.read_FileInfo(_b, 0)[0]
 
@@ -2648,7 +2654,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, path)
-        _b = self._call(234, builtins.bytes(_o))
+        _b = self._call(234, builtins.bytes(_o), "is_file", (("path", path),))
         return _b[0] != 0
 
     def get_w_lan_signal_data(self, interface_name: str) -> Optional[records.WLanSignalData]:
@@ -2660,7 +2666,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, interface_name)
-        _b = self._call(235, builtins.bytes(_o))
+        _b = self._call(235, builtins.bytes(_o), "get_w_lan_signal_data", (("interface_name", interface_name),))
         with self._decoding(_b):
             return stream.read_WLanSignalData(_b, 0)[0]
 
@@ -2673,7 +2679,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(236, builtins.bytes(_o))
+        _b = self._call(236, builtins.bytes(_o), "clear_do_ip_ecu_collection", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2693,7 +2699,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, url)
-        self._call(237, builtins.bytes(_o))
+        self._call(237, builtins.bytes(_o), "set_broker_url", (("url", url),))
 
     def copy_path(self, config: Optional[records.PathCopyConfig] = None) -> list[Optional[records.PathCopyResult]]:
         """Copies a path as config says.
@@ -2704,7 +2710,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_PathCopyConfig(_o, config)
-        _b = self._call(238, builtins.bytes(_o))
+        _b = self._call(238, builtins.bytes(_o), "copy_path", (("config", config),))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2735,7 +2741,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, code)
-        _b = self._call(244, builtins.bytes(_o))
+        _b = self._call(244, builtins.bytes(_o), "third_party_login", (("code", _SECRET),))
         return _b[0] != 0
 
     def clear_update_packages(self) -> None:
@@ -2746,7 +2752,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(245, builtins.bytes(_o))
+        self._call(245, builtins.bytes(_o), "clear_update_packages", ())
 
     def get_third_party_login_url(self, provider: str) -> str:
         """The address at which a user logs in to the named outside identity provider
@@ -2758,7 +2764,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, provider)
-        _b = self._call(253, builtins.bytes(_o))
+        _b = self._call(253, builtins.bytes(_o), "get_third_party_login_url", (("provider", provider),))
         return _b[4:].decode()
 
     def select_dynamic_project(self, project_name: str, items: Sequence[str] = ()) -> None:
@@ -2771,7 +2777,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, project_name)
         stream.write_texts(_o, items, "items")
-        self._call(246, builtins.bytes(_o))
+        self._call(246, builtins.bytes(_o), "select_dynamic_project", (("project_name", project_name), ("items", items)))
 
     def get_certificate_by_public_key(self, public_key: str, text2: str, text3: str, text4: str) -> str:
         """Looks up a certificate of the engine's certificate store by its public key
@@ -2786,7 +2792,7 @@ class Operations:
         stream.write_text(_o, text2)
         stream.write_text(_o, text3)
         stream.write_text(_o, text4)
-        _b = self._call(247, builtins.bytes(_o))
+        _b = self._call(247, builtins.bytes(_o), "get_certificate_by_public_key", (("public_key", public_key), ("text2", text2), ("text3", text3), ("text4", text4)))
         return _b[4:].decode()
 
     def create_certificate_from_csr(self, text1: str, text2: str, text3: str, text4: str, text5: str, text6: str) -> str:
@@ -2803,7 +2809,7 @@ class Operations:
         stream.write_text(_o, text4)
         stream.write_text(_o, text5)
         stream.write_text(_o, text6)
-        _b = self._call(248, builtins.bytes(_o))
+        _b = self._call(248, builtins.bytes(_o), "create_certificate_from_csr", (("text1", text1), ("text2", text2), ("text3", text3), ("text4", text4), ("text5", text5), ("text6", text6)))
         return _b[4:].decode()
 
     def get_certificate_chain_by_id(self, id: str, text2: str, text3: str) -> list[str]:
@@ -2819,7 +2825,7 @@ class Operations:
         stream.write_text(_o, id)
         stream.write_text(_o, text2)
         stream.write_text(_o, text3)
-        _b = self._call(249, builtins.bytes(_o))
+        _b = self._call(249, builtins.bytes(_o), "get_certificate_chain_by_id", (("id", id), ("text2", text2), ("text3", text3)))
         return stream.read_texts(_b, 0)[0]
 
     def create_default_ecu_order(self) -> list[Optional[records.EcuOrderEntry]]:
@@ -2831,7 +2837,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(250, builtins.bytes(_o))
+        _b = self._call(250, builtins.bytes(_o), "create_default_ecu_order", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2851,7 +2857,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, coding_file)
         stream.write_texts(_o, targets, "targets")
-        _b = self._call(251, builtins.bytes(_o))
+        _b = self._call(251, builtins.bytes(_o), "write_coding_file", (("coding_file", coding_file), ("targets", targets)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2884,7 +2890,7 @@ class Operations:
         _o += struct.pack("<I", len(entries))
         for _e in entries:
             stream.write_EcuOrderEntry(_o, _e)
-        self._call(255, builtins.bytes(_o))
+        self._call(255, builtins.bytes(_o), "write_ecu_order", (("path", path), ("entries", entries)))
 
     def get_ecu_order_file_path(self) -> str:
         """Reads the engine path of the vehicle's own ECU order file.
@@ -2894,7 +2900,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(256, builtins.bytes(_o))
+        _b = self._call(256, builtins.bytes(_o), "get_ecu_order_file_path", ())
         return _b[4:].decode()
 
     def perform_vehicle_update(self, entries: Sequence[Optional[records.EcuOrderEntry]] = (), config: Optional[records.VehicleUpdateConfig] = None) -> list[Optional[records.VehicleUpdateResult]]:
@@ -2909,7 +2915,7 @@ class Operations:
         for _e in entries:
             stream.write_EcuOrderEntry(_o, _e)
         stream.write_VehicleUpdateConfig(_o, config)
-        _b = self._call(257, builtins.bytes(_o))
+        _b = self._call(257, builtins.bytes(_o), "perform_vehicle_update", (("entries", entries), ("config", config)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2939,7 +2945,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_values(_o, "Q", call_ids)
-        self._call(260, builtins.bytes(_o))
+        self._call(260, builtins.bytes(_o), "trigger_async_cancels", (("call_ids", call_ids),))
 
     def execute_sequence(self, target: str, sequence: str, parameters: Sequence[Optional[records.ParameterInput]] = ()) -> list[Optional[records.ServiceResult]]:
         """Executes a sequence on one target with the given parameter values.
@@ -2954,7 +2960,7 @@ class Operations:
         _o += struct.pack("<I", len(parameters))
         for _e in parameters:
             stream.write_ParameterInput(_o, _e)
-        _b = self._call(262, builtins.bytes(_o))
+        _b = self._call(262, builtins.bytes(_o), "execute_sequence", (("target", target), ("sequence", sequence), ("parameters", parameters)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -2984,7 +2990,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, name)
         stream.write_text(_o, path)
-        self._call(261, builtins.bytes(_o))
+        self._call(261, builtins.bytes(_o), "add_public_directory", (("name", name), ("path", path)))
 
     def create_vehicle_update_report(self, results: Sequence[Optional[records.VehicleUpdateResult]] = ()) -> str:
         """Writes a report of vehicle update results into the reports directory: an
@@ -2999,7 +3005,7 @@ class Operations:
         _o += struct.pack("<I", len(results))
         for _e in results:
             stream.write_VehicleUpdateResult(_o, _e)
-        _b = self._call(264, builtins.bytes(_o))
+        _b = self._call(264, builtins.bytes(_o), "create_vehicle_update_report", (("results", results),))
         return _b[4:].decode()
 
     def get_parameter_info(self, config: Optional[records.ParameterInfoConfig] = None) -> Optional[records.ParameterInfo]:
@@ -3011,7 +3017,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_ParameterInfoConfig(_o, config)
-        _b = self._call(265, builtins.bytes(_o))
+        _b = self._call(265, builtins.bytes(_o), "get_parameter_info", (("config", config),))
         with self._decoding(_b):
             return stream.read_ParameterInfo(_b, 0)[0]
 
@@ -3025,7 +3031,7 @@ class Operations:
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
         stream.write_text(_o, configuration)
-        _b = self._call(267, builtins.bytes(_o))
+        _b = self._call(267, builtins.bytes(_o), "perform_ecu_configuration", (("targets", targets), ("configuration", configuration)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -3055,7 +3061,7 @@ class Operations:
         _o = bytearray()
         stream.write_text(_o, target)
         stream.write_values(_o, "I", dtc_codes)
-        _b = self._call(268, builtins.bytes(_o))
+        _b = self._call(268, builtins.bytes(_o), "clear_specific_dtcs", (("target", target), ("dtc_codes", dtc_codes)))
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -3083,7 +3089,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(259, builtins.bytes(_o))
+        self._call(259, builtins.bytes(_o), "start_sovd_server", ())
 
     def stop_sovd_server(self) -> None:
         """Stops the SOVD server.
@@ -3093,7 +3099,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        self._call(280, builtins.bytes(_o))
+        self._call(280, builtins.bytes(_o), "stop_sovd_server", ())
 
     def log_in(self, config: Optional[records.LogInOutConfig] = None) -> None:
         """Logs this engine object in to the server with a user's name and password.
@@ -3104,7 +3110,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_LogInOutConfig(_o, config)
-        self._call(216, builtins.bytes(_o))
+        self._call(216, builtins.bytes(_o), "log_in", (("config", config),))
 
     def create_vehicle_update_config(self, targets: Sequence[str] = ()) -> Optional[records.VehicleUpdateConfig]:
         """Creates a vehicle update configuration for the given targets.
@@ -3115,7 +3121,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_texts(_o, targets, "targets")
-        _b = self._call(154, builtins.bytes(_o))
+        _b = self._call(154, builtins.bytes(_o), "create_vehicle_update_config", (("targets", targets),))
         with self._decoding(_b):
             return stream.read_VehicleUpdateConfig(_b, 0)[0]
 
@@ -3127,7 +3133,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(48, builtins.bytes(_o))
+        _b = self._call(48, builtins.bytes(_o), "get_project_configurations", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -3145,7 +3151,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(49, builtins.bytes(_o))
+        _b = self._call(49, builtins.bytes(_o), "get_state", ())
         return enums.EngineState(struct.unpack_from("<i", _b)[0])
 
     def get_version(self) -> str:
@@ -3156,7 +3162,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(50, builtins.bytes(_o))
+        _b = self._call(50, builtins.bytes(_o), "get_version", ())
         return _b[4:].decode()
 
     def get_selected_project(self) -> str:
@@ -3167,7 +3173,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(51, builtins.bytes(_o))
+        _b = self._call(51, builtins.bytes(_o), "get_selected_project", ())
         return _b[4:].decode()
 
     def set_selected_project(self, project_name: str) -> None:
@@ -3179,7 +3185,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, project_name)
-        self._call(52, builtins.bytes(_o))
+        self._call(52, builtins.bytes(_o), "set_selected_project", (("project_name", project_name),))
 
     def get_configuration(self) -> Optional[records.TarnApiConfig]:
         """Reads the engine's configuration.
@@ -3189,7 +3195,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(53, builtins.bytes(_o))
+        _b = self._call(53, builtins.bytes(_o), "get_configuration", ())
         with self._decoding(_b):
             return stream.read_TarnApiConfig(_b, 0)[0]
 
@@ -3202,7 +3208,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_TarnApiConfig(_o, config)
-        self._call(54, builtins.bytes(_o))
+        self._call(54, builtins.bytes(_o), "set_configuration", (("config", config),))
 
     def get_server_settings(self) -> Optional[records.ServerSettings]:
         """Reads the server's settings.
@@ -3212,7 +3218,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(55, builtins.bytes(_o))
+        _b = self._call(55, builtins.bytes(_o), "get_server_settings", ())
         with self._decoding(_b):
             return stream.read_ServerSettings(_b, 0)[0]
 
@@ -3224,7 +3230,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(56, builtins.bytes(_o))
+        _b = self._call(56, builtins.bytes(_o), "get_selected_vehicle_information", ())
         with self._decoding(_b):
             return stream.read_VehicleInformation(_b, 0)[0]
 
@@ -3238,7 +3244,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_VehicleInformation(_o, information)
-        self._call(57, builtins.bytes(_o))
+        self._call(57, builtins.bytes(_o), "set_selected_vehicle_information", (("information", information),))
 
     def get_targets(self) -> list[Optional[records.Target]]:
         """Lists the targets (control units) of the project.
@@ -3248,7 +3254,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(58, builtins.bytes(_o))
+        _b = self._call(58, builtins.bytes(_o), "get_targets", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -3266,7 +3272,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(59, builtins.bytes(_o))
+        _b = self._call(59, builtins.bytes(_o), "get_process_info", ())
         with self._decoding(_b):
             return stream.read_ProcessInfo(_b, 0)[0]
 
@@ -3278,7 +3284,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(60, builtins.bytes(_o))
+        _b = self._call(60, builtins.bytes(_o), "get_transmission_info", ())
         with self._decoding(_b):
             return stream.read_TransmissionInfo(_b, 0)[0]
 
@@ -3293,7 +3299,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(61, builtins.bytes(_o))
+        _b = self._call(61, builtins.bytes(_o), "get_handle", ())
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -3305,7 +3311,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(62, builtins.bytes(_o))
+        _b = self._call(62, builtins.bytes(_o), "get_mox_configuration", ())
         with self._decoding(_b):
             return stream.read_MoxConfig(_b, 0)[0]
 
@@ -3318,7 +3324,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_MoxConfig(_o, config)
-        self._call(101, builtins.bytes(_o))
+        self._call(101, builtins.bytes(_o), "set_mox_configuration", (("config", config),))
 
     def get_interface_configuration(self) -> Optional[records.InterfaceConfiguration]:
         """Reads the interface configuration.
@@ -3328,7 +3334,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(63, builtins.bytes(_o))
+        _b = self._call(63, builtins.bytes(_o), "get_interface_configuration", ())
         with self._decoding(_b):
             return stream.read_InterfaceConfiguration(_b, 0)[0]
 
@@ -3341,7 +3347,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_InterfaceConfiguration(_o, config)
-        self._call(64, builtins.bytes(_o))
+        self._call(64, builtins.bytes(_o), "set_interface_configuration", (("config", config),))
 
     def get_monitoring_links(self) -> list[str]:
         """Lists the names of the monitoring links.
@@ -3351,7 +3357,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(65, builtins.bytes(_o))
+        _b = self._call(65, builtins.bytes(_o), "get_monitoring_links", ())
         return stream.read_texts(_b, 0)[0]
 
     def get_global_protocol_parameter_sets(self) -> list[Optional[records.GlobalProtocolParameterSet]]:
@@ -3362,7 +3368,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(78, builtins.bytes(_o))
+        _b = self._call(78, builtins.bytes(_o), "get_global_protocol_parameter_sets", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -3383,7 +3389,7 @@ class Operations:
         _o += struct.pack("<I", len(sets))
         for _e in sets:
             stream.write_GlobalProtocolParameterSet(_o, _e)
-        self._call(79, builtins.bytes(_o))
+        self._call(79, builtins.bytes(_o), "set_global_protocol_parameter_sets", (("sets", sets),))
 
     def get_status_info(self) -> Optional[records.StatusInfo]:
         """Reads the engine's status information.
@@ -3393,7 +3399,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(88, builtins.bytes(_o))
+        _b = self._call(88, builtins.bytes(_o), "get_status_info", ())
         with self._decoding(_b):
             return stream.read_StatusInfo(_b, 0)[0]
 
@@ -3405,7 +3411,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(90, builtins.bytes(_o))
+        _b = self._call(90, builtins.bytes(_o), "get_session_target_filters", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -3426,7 +3432,7 @@ class Operations:
         _o += struct.pack("<I", len(filters))
         for _e in filters:
             stream.write_TargetFilter(_o, _e)
-        self._call(91, builtins.bytes(_o))
+        self._call(91, builtins.bytes(_o), "set_session_target_filters", (("filters", filters),))
 
     def get_supported_interfaces(self) -> list[Optional[records.SupportedInterface]]:
         """Lists the supported kinds of interface.
@@ -3436,7 +3442,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(111, builtins.bytes(_o))
+        _b = self._call(111, builtins.bytes(_o), "get_supported_interfaces", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -3454,7 +3460,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(118, builtins.bytes(_o))
+        _b = self._call(118, builtins.bytes(_o), "get_interface_providers", ())
         with self._decoding(_b):
             (_n,) = struct.unpack_from("<I", _b)
             _p = 4
@@ -3475,7 +3481,7 @@ class Operations:
         _o += struct.pack("<I", len(providers))
         for _e in providers:
             stream.write_InterfaceProviderDyn(_o, _e)
-        self._call(119, builtins.bytes(_o))
+        self._call(119, builtins.bytes(_o), "set_interface_providers", (("providers", providers),))
 
     def get_current_debug_trace_directory(self) -> str:
         """Reads the directory that the engine writes its debug trace to.
@@ -3485,7 +3491,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(142, builtins.bytes(_o))
+        _b = self._call(142, builtins.bytes(_o), "get_current_debug_trace_directory", ())
         return _b[4:].decode()
 
     def get_server_configuration(self) -> Optional[records.TarnApiServerConfig]:
@@ -3497,7 +3503,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(181, builtins.bytes(_o))
+        _b = self._call(181, builtins.bytes(_o), "get_server_configuration", ())
         with self._decoding(_b):
             return stream.read_TarnApiServerConfig(_b, 0)[0]
 
@@ -3510,7 +3516,7 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(187, builtins.bytes(_o))
+        _b = self._call(187, builtins.bytes(_o), "get_call_duration", ())
         _value: int = struct.unpack_from("<Q", _b)[0]
         return _value
 
@@ -3523,7 +3529,7 @@ class Operations:
         """
         _o = bytearray()
         stream.write_text(_o, text)
-        self._call(196, builtins.bytes(_o))
+        self._call(196, builtins.bytes(_o), "set_status_text", (("text", text),))
 
     def get_default_do_ip_parameter(self) -> Optional[records.DoIPParameter]:
         """Reads the default DoIP parameters.
@@ -3533,6 +3539,6 @@ class Operations:
         Raises EngineError when the engine reports a failure.
         """
         _o = bytearray()
-        _b = self._call(208, builtins.bytes(_o))
+        _b = self._call(208, builtins.bytes(_o), "get_default_do_ip_parameter", ())
         with self._decoding(_b):
             return stream.read_DoIPParameter(_b, 0)[0]

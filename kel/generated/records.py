@@ -3898,7 +3898,7 @@ class LogInOutConfig:
     """
     user: str = ""
     """The user's name; for logOut, empty means whoever is logged in."""
-    password: str = ""
+    password: str = dataclasses.field(default="", repr=False)
     """The user's password (logIn); logOut does not read it."""
 
 

@@ -6,6 +6,7 @@ from __future__ import annotations
 import concurrent.futures
 
 import kel
+import kel.sim
 
 from .support import EngineTest, sim
 
@@ -46,3 +47,31 @@ class Errors(EngineTest):
                 call()
         with self.assertRaisesRegex(TypeError, r"^targets\[1\] must be a str, not int"):
             self.engine.read_dtcs(["ECM", 2])  # type: ignore[list-item]
+
+
+class Conveniences(EngineTest):
+    def test_unlock_security_runs_session_seed_and_key(self) -> None:
+        self.assertEqual(kel.sim.key_for(bytes.fromhex("66B92BEA"), 1), bytes.fromhex("E42DE859"))  # the README's pair
+        with self.assertRaises(kel.NegativeResponseError) as caught:
+            self.engine.unlock_security("ECM", 1, key=lambda seed, level: b"\0\0\0\0")
+        self.assertEqual(caught.exception.nrc, 0x35)
+        self.assertIs(self.engine.unlock_security("ECM", 1, key=kel.sim.key_for), True)
+        self.assertIs(self.engine.unlock_security("ECM", 1, key=kel.sim.key_for), False, "unlocked already")
+        with self.assertRaises(kel.UnknownTargetError):
+            self.engine.unlock_security("NOPE", 1, key=kel.sim.key_for)
+
+    def test_per_item_failures_stay_data(self) -> None:
+        (result,) = self.engine.execute_service("ECM", [kel.ServiceInput(data=bytes.fromhex("22F1FF"))])
+        self.assertEqual(result.status, kel.ServiceStatus.NEGATIVE_RESPONSE)
+        assert result.error is not None and result.error.negative_response is not None
+        self.assertEqual((result.error.negative_response.code, result.error.negative_response.name),
+                         (0x31, "requestOutOfRange"))
+        self.assertIsNone(self.engine.identify_target("NOPE"), "documented: None, not an error")
+
+    def test_each_call_is_logged_with_masked_secrets_and_its_code(self) -> None:
+        sim.kelsim_failNext(b"thirdPartyLogin", 1, 1306, 0, "scripted", "")
+        with self.assertLogs("kel", "DEBUG") as logs, self.assertRaises(kel.AccessDeniedError):
+            self.engine.third_party_login("s3cr3t")
+        (record,) = logs.records
+        self.assertRegex(record.getMessage(), r"^third_party_login\(code='\*\*\*'\): [\d.]+ ms, error 1306$")
+        self.assertEqual((record.operation, record.error_code), ("third_party_login", 1306))  # type: ignore[attr-defined]
