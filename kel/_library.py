@@ -61,7 +61,7 @@ def _packaged() -> Optional[pathlib.Path]:
     """The library carried as package data (kel/_lib/), when this package has one."""
     try:
         resource = importlib.resources.files(__package__).joinpath("_lib", NAME)
-    except (AttributeError, TypeError, ModuleNotFoundError):  # Python before 3.9, or no package
+    except (TypeError, ModuleNotFoundError):  # not imported as a package
         return None
     # A package installed from a wheel is a folder, so the resource is a file of its own.
     return pathlib.Path(str(resource)) if resource.is_file() else None
