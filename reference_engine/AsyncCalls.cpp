@@ -167,6 +167,7 @@ void AsyncCalls::deliverFinal(Call& call, std::shared_ptr<KelError> error) {
 
 uint64_t AsyncCalls::enqueue(const char* operation, std::shared_ptr<Call> call) {
     call->id = newCallId();
+    call->startedBy = Script::Call::caller();
     call->operation = operation;
     call->script = scriptFor(operation);
     call->due =
@@ -180,12 +181,14 @@ uint64_t AsyncCalls::enqueue(const char* operation, std::shared_ptr<Call> call) 
     return id;
 }
 
-void AsyncCalls::cancel(const std::vector<uint64_t>& ids, bool now) {
+void AsyncCalls::cancel(const std::vector<uint64_t>& ids, bool now,
+                        std::optional<uint64_t> startedBy) {
     {
         const std::lock_guard lock(state_->mutex);
         for (const uint64_t id : ids) {
             const auto found = state_->calls.find(id);
-            if (found == state_->calls.end()) {
+            if (found == state_->calls.end() ||
+                (startedBy && found->second->startedBy != *startedBy)) {
                 continue;
             }
             found->second->cancelled = true;

@@ -94,8 +94,10 @@ public:
     }
 
     // Cancels the calls with these ids (unknown ids are ignored): `now` ends them at
-    // once, otherwise at their next report.
-    void cancel(const std::vector<uint64_t>& ids, bool now);
+    // once, otherwise at their next report. With `startedBy`, only the calls that engine
+    // object started are cancelled; the others' ids count as unknown.
+    void cancel(const std::vector<uint64_t>& ids, bool now,
+                std::optional<uint64_t> startedBy = std::nullopt);
     void cancelAll();
     std::size_t running() const;
 
@@ -112,6 +114,7 @@ private:
         virtual void hand(bool isFinal, std::shared_ptr<KelError> error) = 0;
 
         uint64_t id = 0;
+        uint64_t startedBy = 0; // the handle of the engine object whose call started it
         std::string operation;
         AsyncScript script;
         std::chrono::steady_clock::time_point due;

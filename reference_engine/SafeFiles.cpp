@@ -50,10 +50,22 @@ fs::path partFileBeside(const fs::path& target) {
 
 std::error_code renameOver(const fs::path& from, const fs::path& to) {
 #if defined(_WIN32)
-    if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) == 0) {
-        return lastError();
+    // A reader that opened the target without FILE_SHARE_DELETE (any CRT stream does) keeps
+    // it from being replaced for as long as it holds it open. Readers hold it briefly, so the
+    // rename is retried for up to about two seconds before the save is reported as failed.
+    for (int attempt = 0;; ++attempt) {
+        if (MoveFileExW(from.c_str(), to.c_str(), MOVEFILE_REPLACE_EXISTING) != 0) {
+            return {};
+        }
+        const DWORD code = GetLastError();
+        const bool held = code == ERROR_ACCESS_DENIED || code == ERROR_SHARING_VIOLATION ||
+                          code == ERROR_LOCK_VIOLATION;
+        if (!held || attempt == 200) {
+            SetLastError(code);
+            return lastError();
+        }
+        Sleep(attempt < 10 ? 0 : 10);
     }
-    return {};
 #else
     std::error_code e;
     fs::rename(from, to, e);

@@ -6,6 +6,7 @@
 #include <condition_variable>
 #include <stdexcept>
 #include <thread>
+#include <utility>
 
 namespace Varno::Kel_cpp::Reference {
 
@@ -39,7 +40,8 @@ const std::shared_ptr<Script>& Script::global() {
 }
 
 Script::Call::Call(CallClock& clock, Script& script, const char* operation, std::string arguments)
-    : clock_(clock), start_(std::chrono::steady_clock::now()), operation_(operation) {
+    : clock_(clock), start_(std::chrono::steady_clock::now()), operation_(operation),
+      outerCaller_(std::exchange(caller_, clock.handle)) {
     if (clock.listener) {
         ticket_ = clock.listener->begin();
         if (ticket_ != 0) {
@@ -59,7 +61,10 @@ Script::Call::Call(CallClock& clock, Script& script, const char* operation, std:
     }
 }
 
+thread_local uint64_t Script::Call::caller_ = 0;
+
 void Script::Call::finish(bool failed) {
+    caller_ = outerCaller_;
     const auto elapsed = std::chrono::steady_clock::now() - start_;
     const auto micros = static_cast<uint64_t>(
         std::chrono::duration_cast<std::chrono::microseconds>(elapsed).count());

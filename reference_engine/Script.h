@@ -121,6 +121,10 @@ public:
         // error: currentEngineError().
         [[noreturn]] void rethrow();
 
+        // The handle of the engine object whose call runs on this thread, 0 outside any
+        // call: what an asynchronous call records as the object that started it.
+        static uint64_t caller() { return caller_; }
+
     private:
         void finish(bool failed);
         CallClock& clock_;
@@ -130,6 +134,8 @@ public:
         std::string arguments_;                      // kept for the listener only
         int unwinding_ = std::uncaught_exceptions(); // more at the end: the call failed
         std::optional<int32_t> code_;                // the engine error it failed with
+        uint64_t outerCaller_;                       // caller() before this call began
+        static thread_local uint64_t caller_;
     };
 
     // Records the call and applies what is scripted for it (delay, failure).

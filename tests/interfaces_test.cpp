@@ -650,9 +650,15 @@ TEST_F(InterfacesConcurrency, SavedConfigurationIsAlwaysWholeAndKeepsReplacedTex
     std::thread reader([&] {
         while (saving) {
             std::ifstream in(file, std::ios::binary);
-            const std::string text((std::istreambuf_iterator<char>(in)), {});
-            partial += text.empty() || text.back() != '}' ? 1 : 0;
-            ++reads;
+            if (in) { // Windows refuses an open while the name is being replaced
+                const std::string text((std::istreambuf_iterator<char>(in)), {});
+                partial += text.empty() || text.back() != '}' ? 1 : 0;
+                ++reads;
+            }
+            in.close();
+            // A reader that holds the file open without pause keeps Windows from ever
+            // replacing it; real readers pause.
+            std::this_thread::sleep_for(std::chrono::microseconds(100));
         }
     });
     for (int i = 0; i < 200; ++i) {

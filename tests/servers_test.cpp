@@ -8,6 +8,7 @@
 #include <Vutil/TraceRecorder.h>
 
 #include <atomic>
+#include <condition_variable>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -170,6 +171,21 @@ protected:
         EXPECT_NE(connection, nullptr);
         remotes_.push_back(connection);
         return connection;
+    }
+
+    // A connection of its own, through the started server (remote() is one per handle).
+    TarnApi* connection() {
+        ErrorSlot error;
+        wchar_t* address = nullptr;
+        kel_startServer(api, L"", &error, &address); // ServerRunning after the first time
+        release_Memory(address);
+        uint64_t registered = 0;
+        ErrorSlot failed;
+        kel_connectRemoteServer(api, L"kel-sim://server", &failed, &registered);
+        EXPECT_FALSE(failed);
+        auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
+        remotes_.push_back(client);
+        return client;
     }
 
     static uint64_t handle(TarnApi* of) {
@@ -562,6 +578,62 @@ TEST_F(Servers, ARemoteEndEndsItsOwnSessionOnly) {
     EXPECT_EQ(state, 1) << "the server's engine is still initialised";
     EXPECT_EQ(getState(client), ConnectionEnded);
     EXPECT_EQ(logIn(client, L"anna", password), ConnectionEnded);
+}
+
+// Call ids are the vehicle's and easily guessed: an operator's cancel reaches only the
+// calls its own connection started; an administrator's reaches any.
+TEST_F(Servers, AnOperatorCancelsOnlyItsOwnAsynchronousCalls) {
+    ASSERT_EQ(addUser(api, L"root", password, Administrator), 0);
+    ASSERT_EQ(addUser(api, L"anna", password, Operator), 0);
+    ASSERT_EQ(addUser(api, L"bert", password, Operator), 0);
+    ASSERT_EQ(userManagement(api, true), 0);
+    TarnApi* anna = connection();
+    TarnApi* bert = connection();
+    TarnApi* root = connection();
+    ASSERT_EQ(logIn(anna, L"anna", password), 0);
+    ASSERT_EQ(logIn(bert, L"bert", password), 0);
+    ASSERT_EQ(logIn(root, L"root", password), 0);
+
+    kelsim_setAsyncInterval("readSupportedDtcsAsync", 60000);
+    struct Finals {
+        std::mutex mutex;
+        std::condition_variable changed;
+        std::vector<int32_t> codes;
+        static void callback(ReadDtcResult** results, uint32_t count, bool isFinal, uint64_t,
+                             KelError* error, void* context) {
+            auto* self = static_cast<Finals*>(context);
+            release_ReadDtcResult_array(results, count);
+            const std::lock_guard lock(self->mutex);
+            if (isFinal) {
+                self->codes.push_back(error != nullptr ? error->code : 0);
+            }
+            release_KelError(error);
+            self->changed.notify_all();
+        }
+        bool waitFor(std::size_t count) {
+            std::unique_lock lock(mutex);
+            return changed.wait_for(lock, std::chrono::seconds(10),
+                                    [&] { return codes.size() >= count; });
+        }
+    } finals;
+    const auto start = [&](TarnApi* on) {
+        ErrorSlot error;
+        const uint64_t id =
+            kel_readSupportedDtcsAsync(on, nullptr, 0, nullptr, &error, Finals::callback, &finals);
+        EXPECT_FALSE(error);
+        return id;
+    };
+    uint64_t annas[] = {start(anna), start(anna)};
+    EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(bert, annas, 2, e); }), 0)
+        << "another's ids are ignored as unknown ones are";
+    EXPECT_EQ(code([&](KelError** e) { kel_triggerAsyncCancels(bert, annas, 2, e); }), 0);
+    EXPECT_EQ(code([&](KelError** e) { kel_cancelAllAsyncCalls(bert, e); }), NeedsAdministrator);
+    EXPECT_EQ(kelsim_runningAsyncCalls(handle(api)), 2);
+
+    EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(anna, &annas[0], 1, e); }), 0);
+    EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(root, &annas[1], 1, e); }), 0);
+    ASSERT_TRUE(finals.waitFor(2));
+    EXPECT_EQ(finals.codes, (std::vector<int32_t>{1012, 1012}));
 }
 
 TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {

@@ -122,12 +122,21 @@ uint64_t Lifecycle::getCallDuration() { return clock_->previous(); }
 
 void Lifecycle::cancelAllAsyncCalls() { vehicle_->async.cancelAll(); }
 
+// An operator cancels the calls its own connection started; other clients' calls are
+// theirs, so their ids are ignored as unknown ones are.
 void Lifecycle::cancelAsyncCalls(const std::vector<uint64_t>& callIds) {
-    vehicle_->async.cancel(callIds, true);
+    vehicle_->async.cancel(callIds, true, ownCallsOnly());
 }
 
 void Lifecycle::triggerAsyncCancels(const std::vector<uint64_t>& callIds) {
-    vehicle_->async.cancel(callIds, false);
+    vehicle_->async.cancel(callIds, false, ownCallsOnly());
+}
+
+std::optional<uint64_t> Lifecycle::ownCallsOnly() const {
+    if (vehicle_->servers.administers(handle_)) {
+        return std::nullopt;
+    }
+    return handle_;
 }
 
 } // namespace Varno::Kel_cpp::Reference

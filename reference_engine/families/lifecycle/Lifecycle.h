@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
+#include <optional>
 
 namespace Varno::Kel_cpp::Reference {
 
@@ -66,6 +67,9 @@ public:
     void triggerAsyncCancels(const std::vector<uint64_t>& callIds) override;
 
 private:
+    // Empty for an object that may cancel any call; this object's handle otherwise.
+    std::optional<uint64_t> ownCallsOnly() const;
+
     std::shared_ptr<SimulatedVehicle> vehicle_;
     LifecycleState& state_;
     uint64_t handle_;

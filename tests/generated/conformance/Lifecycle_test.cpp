@@ -131,8 +131,7 @@ TEST_F(Lifecycle, cancelAsyncCalls_Failure) {
     kc::failure<CancelAsyncCallsExport>(api, kCancelAsyncCallsCases);
 }
 TEST_F(LifecycleAdmission, cancelAsyncCalls) {
-    kc::admission<CancelAsyncCallsExport>(callers(), kCancelAsyncCallsCases,
-                                          kc::Needs::Administrator);
+    kc::admission<CancelAsyncCallsExport>(callers(), kCancelAsyncCallsCases, kc::Needs::Operator);
 }
 
 const kc::Number kNumber42{42, "cancelAsyncCalls", kCancelAsyncCallsCases};
@@ -285,7 +284,7 @@ TEST_F(Lifecycle, triggerAsyncCancels_Failure) {
 }
 TEST_F(LifecycleAdmission, triggerAsyncCancels) {
     kc::admission<TriggerAsyncCancelsExport>(callers(), kTriggerAsyncCancelsCases,
-                                             kc::Needs::Administrator);
+                                             kc::Needs::Operator);
 }
 
 const kc::Number kNumber260{260, "triggerAsyncCancels", kTriggerAsyncCancelsCases};
