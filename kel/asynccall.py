@@ -3,11 +3,12 @@
 from __future__ import annotations
 
 import asyncio
+import concurrent.futures
 import dataclasses
 import threading
 from typing import TYPE_CHECKING, Any, Callable, Generator, Iterator, Optional
 
-from .errors import EngineError
+from .errors import CallCancelledError, EngineError
 from .generated import c_records
 from .generated.records import KelError
 
@@ -32,25 +33,34 @@ class AsyncReport:
     """The error of this report (a cancelled call ends with one), or None."""
 
 
-class AsyncCall:
-    """A running asynchronous operation. Iterate over it for the reports as they come,
-    call result() (or await it) for every result, cancel() to cancel it."""
+class AsyncCall(concurrent.futures.Future[list[Any]]):
+    """A running asynchronous operation, and a concurrent.futures.Future of its results.
+    Iterate over it for the reports as they come; result() (or await, or
+    asyncio.wrap_future) gives every result, add_done_callback() runs a function when the
+    call has ended, cancel() asks the engine to cancel it.
+
+    The future is done when the engine's final report has come, not before; done callbacks
+    run on the engine's thread that brought it. A call that the engine cancelled is
+    cancelled(), and its result() and exception() raise CallCancelledError (a
+    concurrent.futures.CancelledError) with the engine's error; any other error of a report
+    is the call's exception()."""
 
     def __init__(self, engine: Engine, convert: object, release: Callable[[Any, int], None]) -> None:
+        super().__init__()
         self._engine = engine
         self._convert: Callable[[Optional[int]], Any] = convert  # type: ignore[assignment]
         self._release = release
-        self._condition = threading.Condition()
+        # Guards the reports; the future has a lock of its own.
+        self._arrived = threading.Condition()
         self._reports: list[AsyncReport] = []
-        self._final = False
-        self._waiters: list[tuple[asyncio.AbstractEventLoop, asyncio.Future[None]]] = []
+        self._cancelled_by: Optional[CallCancelledError] = None
         self.call_id = 0
         self.callback = c_records.CALLBACK(self._on_report)
         with _running_lock:
             _running.add(self)
 
     def started(self, call_id: int) -> None:
-        with self._condition:
+        with self._arrived:
             self.call_id = self.call_id or call_id
 
     def abandon(self) -> None:
@@ -83,32 +93,51 @@ class AsyncCall:
             pass
 
     def _deliver(self, report: AsyncReport) -> None:
-        with self._condition:
+        with self._arrived:
             self.call_id = self.call_id or report.call_id
             self._reports.append(report)
-            self._final = self._final or report.is_final
-            self._condition.notify_all()
-            waiters = list(self._waiters) if report.is_final else []
-        for loop, future in waiters:
-            loop.call_soon_threadsafe(_settle, future)
+            self._arrived.notify_all()
+            reports = list(self._reports) if report.is_final else []
         if report.is_final:
             with _running_lock:
                 _running.discard(self)
+            self._settle(reports)
 
-    def done(self) -> bool:
-        with self._condition:
-            return self._final
+    def _settle(self, reports: list[AsyncReport]) -> None:
+        """Completes the future with the outcome of the whole call: the first error of a
+        report, or every result."""
+        failure = next((r.error for r in reports if r.error is not None), None)
+        if failure is None:
+            self.set_result([value for report in reports for value in report.results])
+            return
+        error = EngineError.of(failure)
+        if not isinstance(error, CallCancelledError):
+            self.set_exception(error)
+            return
+        # The engine cancelled the call: the future's own cancellation, which runs the done
+        # callbacks, then tells those waiting in concurrent.futures.wait and as_completed.
+        self._cancelled_by = error
+        super().cancel()
+        super().set_running_or_notify_cancel()
 
     def reports(self, timeout: Optional[float] = None) -> Iterator[AsyncReport]:
-        """The reports in order, waiting for each; ends after the final one. TimeoutError
-        when one does not come within `timeout` seconds."""
+        """The reports in order, waiting for each; ends after the final one, which comes
+        once the future is done. TimeoutError when one does not come within `timeout`
+        seconds."""
         seen = 0
         while True:
-            with self._condition:
-                if not self._condition.wait_for(lambda: len(self._reports) > seen, timeout):
+            with self._arrived:
+                if not self._arrived.wait_for(lambda: len(self._reports) > seen, timeout):
                     raise TimeoutError(f"no report of call {self.call_id} within {timeout} s")
                 report = self._reports[seen]
             seen += 1
+            if report.is_final:
+                # The engine's thread settles the future right after it has put the final
+                # report here: wait for that, so that the caller finds the call done.
+                try:
+                    super().exception(timeout)
+                except concurrent.futures.CancelledError:
+                    pass
             yield report
             if report.is_final:
                 return
@@ -117,31 +146,45 @@ class AsyncCall:
         return self.reports()
 
     def result(self, timeout: Optional[float] = None) -> list[Any]:
-        """Every result of every report, in order, once the call has ended; EngineError when
-        a report carried an error (a cancelled call: code 1012 with the simulated vehicle)."""
-        with self._condition:
-            if not self._condition.wait_for(lambda: self._final, timeout):
-                raise TimeoutError(f"call {self.call_id} did not end within {timeout} s")
-            reports = list(self._reports)
-        for report in reports:
-            if report.error is not None:
-                raise EngineError.of(report.error)
-        return [value for report in reports for value in report.results]
+        """Every result of every report, in order, once the call has ended. Raises the
+        error of a report as its EngineError (CallCancelledError when the engine cancelled
+        the call), and TimeoutError when the call does not end within `timeout` seconds."""
+        try:
+            return super().result(timeout)
+        except concurrent.futures.CancelledError as e:
+            raise self._cancelled_by or e from None
 
-    def cancel(self) -> None:
-        """Asks the engine to cancel the call; it still ends with a final report."""
+    def exception(self, timeout: Optional[float] = None) -> Optional[BaseException]:
+        """The EngineError that ended the call, or None; raises CallCancelledError when the
+        engine cancelled it, as result() does."""
+        try:
+            return super().exception(timeout)
+        except concurrent.futures.CancelledError as e:
+            raise self._cancelled_by or e from None
+
+    def cancel(self) -> bool:
+        """Asks the engine to cancel the call (engine.cancel_async_calls). The call still
+        ends with the engine's final report: cancelled(), with CallCancelledError, when the
+        engine did cancel it, or with its results when it was done first. False when the
+        call had ended already (True when it was cancelled)."""
+        if self.done():
+            return self.cancelled()
         self._engine.cancel_async_calls([self.call_id])
+        return True
 
     def __await__(self) -> Generator[Any, None, list[Any]]:
         loop = asyncio.get_running_loop()
-        future: asyncio.Future[None] = loop.create_future()
-        with self._condition:
-            if self._final:
-                future.set_result(None)
-            else:
-                self._waiters.append((loop, future))
-        yield from future.__await__()
+        waiter: asyncio.Future[None] = loop.create_future()
+        self.add_done_callback(lambda _: _wake(loop, waiter))
+        yield from waiter.__await__()
         return self.result()
+
+
+def _wake(loop: asyncio.AbstractEventLoop, waiter: asyncio.Future[None]) -> None:
+    try:
+        loop.call_soon_threadsafe(_settle, waiter)
+    except RuntimeError:  # the loop was closed: nobody awaits any more
+        pass
 
 
 def _settle(future: asyncio.Future[None]) -> None:

@@ -21,10 +21,29 @@ from .generated.operations import Operations
 from .generated.records import KelError
 from . import _library
 
-# One DEBUG record per synchronous call: the operation, its arguments (secrets as ***), its
-# duration and its error code (0: none); the record also carries them as the attributes
-# operation, duration (seconds) and error_code. kel.setup_logging() shows them.
+# One DEBUG record per call: the operation, its arguments (secrets as ***), its duration and
+# its error code (0: none); the record also carries them as the attributes operation,
+# duration (seconds) and error_code. For an asynchronous call the record is its start: the
+# time the engine took to take it, and the error of a start that failed. kel.setup_logging()
+# shows them.
 _log = logging.getLogger("kel")
+
+
+@contextlib.contextmanager
+def _logged(name: str, arguments: tuple[tuple[str, object], ...]) -> Iterator[None]:
+    """Writes the DEBUG record of the call made inside the `with` block."""
+    start = time.perf_counter()
+    code = 0
+    try:
+        yield
+    except EngineError as e:
+        code = e.code
+        raise
+    finally:
+        duration = time.perf_counter() - start
+        _log.debug("%s(%s): %.3f ms, %s", name, ", ".join(f"{key}={value!r}" for key, value in arguments),
+                   duration * 1000, f"error {code}" if code else "ok",
+                   extra={"operation": name, "duration": duration, "error_code": code})
 
 
 class Engine(Operations):
@@ -141,18 +160,8 @@ class Engine(Operations):
     def _call(self, number: int, data: bytes, name: str = "", arguments: tuple[tuple[str, object], ...] = ()) -> bytes:
         if not _log.isEnabledFor(logging.DEBUG):
             return self._dispatch(number, data)
-        start = time.perf_counter()
-        code = 0
-        try:
+        with _logged(name or f"operation {number}", arguments):
             return self._dispatch(number, data)
-        except EngineError as e:
-            code = e.code
-            raise
-        finally:
-            _log.debug("%s(%s): %.3f ms, %s", name or f"operation {number}",
-                       ", ".join(f"{key}={value!r}" for key, value in arguments),
-                       (time.perf_counter() - start) * 1000, f"error {code}" if code else "ok",
-                       extra={"operation": name, "duration": time.perf_counter() - start, "error_code": code})
 
     def _dispatch(self, number: int, data: bytes) -> bytes:
         if not self._release.alive:
@@ -182,6 +191,12 @@ class Engine(Operations):
 
         Raises EngineError when the engine reports a failure.
         """
+        if not _log.isEnabledFor(logging.DEBUG):
+            return self._get_state()
+        with _logged("get_state", ()):
+            return self._get_state()
+
+    def _get_state(self) -> EngineState:
         # An internal route: a fixed-size result taken from the C export kel_getState in
         # one foreign call instead of py_call and py_result (the stream route costs about
         # twice a bare call, this one hardly more). The engine's error is the same record
@@ -206,7 +221,14 @@ class Engine(Operations):
             return _CollectorPaused()
         return _NOTHING
 
-    def _start(self, start: object, convert: object, release: str, *args: object) -> AsyncCall:
+    def _start(self, start: object, convert: object, release: str, *args: object, name: str = "",
+               arguments: tuple[tuple[str, object], ...] = ()) -> AsyncCall:
+        if not _log.isEnabledFor(logging.DEBUG):
+            return self._begin(start, convert, release, args)
+        with _logged(name or "asynchronous call", arguments):
+            return self._begin(start, convert, release, args)
+
+    def _begin(self, start: object, convert: object, release: str, args: tuple[object, ...]) -> AsyncCall:
         call = AsyncCall(self, convert, getattr(self._lib, release))
         begin: Callable[..., tuple[int, Optional[KelError]]] = start  # type: ignore[assignment]
         try:

@@ -786,7 +786,8 @@ def operations_py(iface: kelidl.Interface) -> str:
            "        raise NotImplementedError", "",
            "    def _decoding(self, data: builtins.bytes) -> ContextManager[None]:",
            "        raise NotImplementedError", ""]
-    out += ["    def _start(self, start: object, convert: object, release: str, *args: object) -> AsyncCall:",
+    out += ["    def _start(self, start: object, convert: object, release: str, *args: object, name: str = \"\",",
+            "               arguments: tuple[tuple[str, object], ...] = ()) -> AsyncCall:",
             "        raise NotImplementedError", ""]
     asyncs = {op.sync.name: op for op in built_asyncs(iface)}
     for op in built_operations(iface):
@@ -817,7 +818,8 @@ def operations_py(iface: kelidl.Interface) -> str:
             out.append(f"    def {snake(a.name)}({', '.join(['self'] + params)}) -> AsyncCall:")
             out += method_doc(op, iface, True)
             args = ", ".join([f"c_records.start_{a.name}", f"c_records.from_c_{rec.c_name}",
-                              f'"release_{rec.c_name}_array"'] + [param_name(p) for p in op.params])
+                              f'"release_{rec.c_name}_array"'] + [param_name(p) for p in op.params]
+                             + [f'name="{snake(a.name)}"', f"arguments={logged}"])
             out.append(f"        return self._start({args})")
             out.append("")
     return "\n".join(out).rstrip("\n") + "\n"

@@ -31,7 +31,8 @@ class Operations:
     def _decoding(self, data: builtins.bytes) -> ContextManager[None]:
         raise NotImplementedError
 
-    def _start(self, start: object, convert: object, release: str, *args: object) -> AsyncCall:
+    def _start(self, start: object, convert: object, release: str, *args: object, name: str = "",
+               arguments: tuple[tuple[str, object], ...] = ()) -> AsyncCall:
         raise NotImplementedError
 
     def initialize(self) -> None:
@@ -257,7 +258,7 @@ class Operations:
 
         C: kel_identifyAllTargetsAsync; engine position 17.
         """
-        return self._start(c_records.start_identifyAllTargetsAsync, c_records.from_c_VariantIdentResult, "release_VariantIdentResult_array")
+        return self._start(c_records.start_identifyAllTargetsAsync, c_records.from_c_VariantIdentResult, "release_VariantIdentResult_array", name="identify_all_targets_async", arguments=())
 
     def read_identification_values(self, targets: Sequence[str] = ()) -> list[Optional[records.ReadDataResult]]:
         """Reads the identification values of the given targets; one result per target.
@@ -286,7 +287,7 @@ class Operations:
 
         C: kel_readIdentificationValuesAsync; engine position 19.
         """
-        return self._start(c_records.start_readIdentificationValuesAsync, c_records.from_c_ReadDataResult, "release_ReadDataResult_array", targets)
+        return self._start(c_records.start_readIdentificationValuesAsync, c_records.from_c_ReadDataResult, "release_ReadDataResult_array", targets, name="read_identification_values_async", arguments=(("targets", targets),))
 
     def read_data_by_identifiers(self, target: str, identifiers: Sequence[str] = ()) -> list[Optional[records.ReadDataResult]]:
         """Reads the data with the given identifiers from one target.
@@ -353,7 +354,7 @@ class Operations:
 
         C: kel_readDtcsAsync; engine position 23.
         """
-        return self._start(c_records.start_readDtcsAsync, c_records.from_c_ReadDtcResult, "release_ReadDtcResult_array", targets, config)
+        return self._start(c_records.start_readDtcsAsync, c_records.from_c_ReadDtcResult, "release_ReadDtcResult_array", targets, config, name="read_dtcs_async", arguments=(("targets", targets), ("config", config)))
 
     def read_supported_dtcs(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> list[Optional[records.ReadDtcResult]]:
         """Reads the DTCs that the given targets support, with the reading options in
@@ -385,7 +386,7 @@ class Operations:
 
         C: kel_readSupportedDtcsAsync; engine position 25.
         """
-        return self._start(c_records.start_readSupportedDtcsAsync, c_records.from_c_ReadDtcResult, "release_ReadDtcResult_array", targets, config)
+        return self._start(c_records.start_readSupportedDtcsAsync, c_records.from_c_ReadDtcResult, "release_ReadDtcResult_array", targets, config, name="read_supported_dtcs_async", arguments=(("targets", targets), ("config", config)))
 
     def clear_all_dtcs(self, targets: Sequence[str] = ()) -> list[Optional[records.ClearDtcResult]]:
         """Clears every DTC of the given targets; one result per target.
@@ -414,7 +415,7 @@ class Operations:
 
         C: kel_clearAllDtcsAsync; engine position 27.
         """
-        return self._start(c_records.start_clearAllDtcsAsync, c_records.from_c_ClearDtcResult, "release_ClearDtcResult_array", targets)
+        return self._start(c_records.start_clearAllDtcsAsync, c_records.from_c_ClearDtcResult, "release_ClearDtcResult_array", targets, name="clear_all_dtcs_async", arguments=(("targets", targets),))
 
     def get_service_infos(self, target: str, pattern: str, names: Sequence[str], service_id: int) -> list[Optional[records.ServiceInfo]]:
         """Describes services with their responses and parameters; the texts, names and
@@ -487,7 +488,7 @@ class Operations:
 
         C: kel_executeFlashSessionsAsync; engine position 31.
         """
-        return self._start(c_records.start_executeFlashSessionsAsync, c_records.from_c_FlashSessionResult, "release_FlashSessionResult_array", target, sessions)
+        return self._start(c_records.start_executeFlashSessionsAsync, c_records.from_c_FlashSessionResult, "release_FlashSessionResult_array", target, sessions, name="execute_flash_sessions_async", arguments=(("target", target), ("sessions", sessions)))
 
     def read_coding_strings(self, targets: Sequence[str] = ()) -> list[Optional[records.CodingStringResult]]:
         """Reads the coding strings of the given targets.
@@ -516,7 +517,7 @@ class Operations:
 
         C: kel_readCodingStringsAsync; engine position 33.
         """
-        return self._start(c_records.start_readCodingStringsAsync, c_records.from_c_CodingStringResult, "release_CodingStringResult_array", targets)
+        return self._start(c_records.start_readCodingStringsAsync, c_records.from_c_CodingStringResult, "release_CodingStringResult_array", targets, name="read_coding_strings_async", arguments=(("targets", targets),))
 
     def perform_quick_test(self, targets: Sequence[str] = (), config: Optional[records.DtcReadConfig] = None) -> list[Optional[records.QuickTestResult]]:
         """Runs the quick test on the given targets, with the DTC reading options in
@@ -548,7 +549,7 @@ class Operations:
 
         C: kel_performQuickTestAsync; engine position 35.
         """
-        return self._start(c_records.start_performQuickTestAsync, c_records.from_c_QuickTestResult, "release_QuickTestResult_array", targets, config)
+        return self._start(c_records.start_performQuickTestAsync, c_records.from_c_QuickTestResult, "release_QuickTestResult_array", targets, config, name="perform_quick_test_async", arguments=(("targets", targets), ("config", config)))
 
     def connect_remote_server(self, address: str) -> Engine:
         """Connects to the engine's server at the given address and hands out the
@@ -805,7 +806,7 @@ class Operations:
 
         C: kel_scanInterfaceConnectionAsync; engine position 54.
         """
-        return self._start(c_records.start_scanInterfaceConnectionAsync, c_records.from_c_ScanInterfaceResult, "release_ScanInterfaceResult_array", interfaces)
+        return self._start(c_records.start_scanInterfaceConnectionAsync, c_records.from_c_ScanInterfaceResult, "release_ScanInterfaceResult_array", interfaces, name="scan_interface_connection_async", arguments=(("interfaces", interfaces),))
 
     def disconnect(self) -> None:
         """Ends this remote connection; the server's handlers hear that its client
@@ -858,7 +859,7 @@ class Operations:
 
         C: kel_readMeasurementValuesAsync; engine position 58.
         """
-        return self._start(c_records.start_readMeasurementValuesAsync, c_records.from_c_ReadDataResult, "release_ReadDataResult_array", target, names)
+        return self._start(c_records.start_readMeasurementValuesAsync, c_records.from_c_ReadDataResult, "release_ReadDataResult_array", target, names, name="read_measurement_values_async", arguments=(("target", target), ("names", names)))
 
     def read_file(self, path: str, offset: int, length: int, exact: bool) -> builtins.bytes:
         """Reads a file from offset on: length bytes, or to the end when length is 0;
@@ -945,7 +946,7 @@ class Operations:
 
         C: kel_identifyTargetsAsync; engine position 65.
         """
-        return self._start(c_records.start_identifyTargetsAsync, c_records.from_c_VariantIdentResult, "release_VariantIdentResult_array", targets)
+        return self._start(c_records.start_identifyTargetsAsync, c_records.from_c_VariantIdentResult, "release_VariantIdentResult_array", targets, name="identify_targets_async", arguments=(("targets", targets),))
 
     def get_actuator_service_infos(self, text1: str, text2: str) -> list[Optional[records.ParameterInfo]]:
         """Describes the parameters of actuator services; the two texts select them as
@@ -1280,7 +1281,7 @@ class Operations:
 
         C: kel_executeServiceAsync; engine position 92.
         """
-        return self._start(c_records.start_executeServiceAsync, c_records.from_c_ServiceResult, "release_ServiceResult_array", target, services)
+        return self._start(c_records.start_executeServiceAsync, c_records.from_c_ServiceResult, "release_ServiceResult_array", target, services, name="execute_service_async", arguments=(("target", target), ("services", services)))
 
     def detect_dyn_interfaces(self, value: int, detection: Optional[records.DynInterfaceDetection] = None) -> list[Optional[records.ModuleDyn]]:
         """Detects dynamic interfaces as the detection record says; returns the modules
@@ -1312,7 +1313,7 @@ class Operations:
 
         C: kel_detectDynInterfacesAsync; engine position 94.
         """
-        return self._start(c_records.start_detectDynInterfacesAsync, c_records.from_c_ModuleDyn, "release_ModuleDyn_array", value, detection)
+        return self._start(c_records.start_detectDynInterfacesAsync, c_records.from_c_ModuleDyn, "release_ModuleDyn_array", value, detection, name="detect_dyn_interfaces_async", arguments=(("value", value), ("detection", detection)))
 
     def connect_dyn_interface(self, name: str, flag: bool, detection: Optional[records.DynInterfaceDetection] = None) -> None:
         """Connects a dynamically detected interface.
@@ -1720,7 +1721,7 @@ class Operations:
 
         C: kel_detectDynInterfacesExAsync; engine position 121.
         """
-        return self._start(c_records.start_detectDynInterfacesExAsync, c_records.from_c_ModuleDyn, "release_ModuleDyn_array", value)
+        return self._start(c_records.start_detectDynInterfacesExAsync, c_records.from_c_ModuleDyn, "release_ModuleDyn_array", value, name="detect_dyn_interfaces_ex_async", arguments=(("value", value),))
 
     def connect_dyn_interface_ex(self, name: str, flag: bool) -> None:
         """Connects a dynamically detected interface without a detection record.
@@ -1875,7 +1876,7 @@ class Operations:
 
         C: kel_copyFilesAsync; engine position 136.
         """
-        return self._start(c_records.start_copyFilesAsync, c_records.from_c_FileCopyResult, "release_FileCopyResult_array", config)
+        return self._start(c_records.start_copyFilesAsync, c_records.from_c_FileCopyResult, "release_FileCopyResult_array", config, name="copy_files_async", arguments=(("config", config),))
 
     def copy_directories(self, config: Optional[records.DirectoryCopyConfig] = None) -> list[Optional[records.DirectoryCopyResult]]:
         """Copies directories as config says; one result per directory.
@@ -1904,7 +1905,7 @@ class Operations:
 
         C: kel_copyDirectoriesAsync; engine position 138.
         """
-        return self._start(c_records.start_copyDirectoriesAsync, c_records.from_c_DirectoryCopyResult, "release_DirectoryCopyResult_array", config)
+        return self._start(c_records.start_copyDirectoriesAsync, c_records.from_c_DirectoryCopyResult, "release_DirectoryCopyResult_array", config, name="copy_directories_async", arguments=(("config", config),))
 
     def calculate_checksum(self, path: str, algorithm: int) -> str:
         """Calculates the checksum of a file with the given algorithm.
@@ -2219,7 +2220,7 @@ class Operations:
 
         C: kel_executeFlashSessionsConfigAsync; engine position 166.
         """
-        return self._start(c_records.start_executeFlashSessionsConfigAsync, c_records.from_c_FlashSessionResult, "release_FlashSessionResult_array", config)
+        return self._start(c_records.start_executeFlashSessionsConfigAsync, c_records.from_c_FlashSessionResult, "release_FlashSessionResult_array", config, name="execute_flash_sessions_config_async", arguments=(("config", config),))
 
     def load_database_file(self, files: Sequence[str] = ()) -> list[Optional[records.LoadDatabaseResult]]:
         """Loads the given database files; one result per file.
@@ -2360,7 +2361,7 @@ class Operations:
 
         C: kel_updateVehicleAsync; engine position 177.
         """
-        return self._start(c_records.start_updateVehicleAsync, c_records.from_c_VehicleUpdateResult, "release_VehicleUpdateResult_array", config)
+        return self._start(c_records.start_updateVehicleAsync, c_records.from_c_VehicleUpdateResult, "release_VehicleUpdateResult_array", config, name="update_vehicle_async", arguments=(("config", config),))
 
     def execute_service_in_default_session(self, target: str, services: Sequence[Optional[records.ServiceInput]] = ()) -> list[Optional[records.ServiceResult]]:
         """Executes diagnostic services on one target, as kel_executeService does, in
@@ -2394,7 +2395,7 @@ class Operations:
 
         C: kel_executeServiceInDefaultSessionAsync; engine position 179.
         """
-        return self._start(c_records.start_executeServiceInDefaultSessionAsync, c_records.from_c_ServiceResult, "release_ServiceResult_array", target, services)
+        return self._start(c_records.start_executeServiceInDefaultSessionAsync, c_records.from_c_ServiceResult, "release_ServiceResult_array", target, services, name="execute_service_in_default_session_async", arguments=(("target", target), ("services", services)))
 
     def get_target_status(self, targets: Sequence[str] = ()) -> list[Optional[records.TargetStatus]]:
         """Reads the status of the given targets; one result per target.
@@ -2728,7 +2729,7 @@ class Operations:
 
         C: kel_copyPathAsync; engine position 207.
         """
-        return self._start(c_records.start_copyPathAsync, c_records.from_c_PathCopyResult, "release_PathCopyResult_array", config)
+        return self._start(c_records.start_copyPathAsync, c_records.from_c_PathCopyResult, "release_PathCopyResult_array", config, name="copy_path_async", arguments=(("config", config),))
 
     def third_party_login(self, code: str) -> bool:
         """Logs this engine object in with an authorization code of the outside
@@ -2875,7 +2876,7 @@ class Operations:
 
         C: kel_writeCodingFileAsync; engine position 221.
         """
-        return self._start(c_records.start_writeCodingFileAsync, c_records.from_c_CodingFileResult, "release_CodingFileResult_array", coding_file, targets)
+        return self._start(c_records.start_writeCodingFileAsync, c_records.from_c_CodingFileResult, "release_CodingFileResult_array", coding_file, targets, name="write_coding_file_async", arguments=(("coding_file", coding_file), ("targets", targets)))
 
     def write_ecu_order(self, path: str, entries: Sequence[Optional[records.EcuOrderEntry]] = ()) -> None:
         """Writes an ECU order to an order file in the public directories, replacing
@@ -2933,7 +2934,7 @@ class Operations:
 
         C: kel_performVehicleUpdateAsync; engine position 225.
         """
-        return self._start(c_records.start_performVehicleUpdateAsync, c_records.from_c_VehicleUpdateResult, "release_VehicleUpdateResult_array", entries, config)
+        return self._start(c_records.start_performVehicleUpdateAsync, c_records.from_c_VehicleUpdateResult, "release_VehicleUpdateResult_array", entries, config, name="perform_vehicle_update_async", arguments=(("entries", entries), ("config", config)))
 
     def trigger_async_cancels(self, call_ids: Sequence[int] = ()) -> None:
         """Asks the engine to cancel the asynchronous calls with the given call
@@ -2978,7 +2979,7 @@ class Operations:
 
         C: kel_executeSequenceAsync; engine position 228.
         """
-        return self._start(c_records.start_executeSequenceAsync, c_records.from_c_ServiceResult, "release_ServiceResult_array", target, sequence, parameters)
+        return self._start(c_records.start_executeSequenceAsync, c_records.from_c_ServiceResult, "release_ServiceResult_array", target, sequence, parameters, name="execute_sequence_async", arguments=(("target", target), ("sequence", sequence), ("parameters", parameters)))
 
     def add_public_directory(self, name: str, path: str) -> None:
         """Adds a public directory under a name.
@@ -3049,7 +3050,7 @@ class Operations:
 
         C: kel_performEcuConfigurationAsync; engine position 233.
         """
-        return self._start(c_records.start_performEcuConfigurationAsync, c_records.from_c_EcuConfigurationResult, "release_EcuConfigurationResult_array", targets, configuration)
+        return self._start(c_records.start_performEcuConfigurationAsync, c_records.from_c_EcuConfigurationResult, "release_EcuConfigurationResult_array", targets, configuration, name="perform_ecu_configuration_async", arguments=(("targets", targets), ("configuration", configuration)))
 
     def clear_specific_dtcs(self, target: str, dtc_codes: Sequence[int] = ()) -> list[Optional[records.ClearDtcResult]]:
         """Clears the DTCs with the given codes on one target.
@@ -3079,7 +3080,7 @@ class Operations:
 
         C: kel_clearSpecificDtcsAsync; engine position 235.
         """
-        return self._start(c_records.start_clearSpecificDtcsAsync, c_records.from_c_ClearDtcResult, "release_ClearDtcResult_array", target, dtc_codes)
+        return self._start(c_records.start_clearSpecificDtcsAsync, c_records.from_c_ClearDtcResult, "release_ClearDtcResult_array", target, dtc_codes, name="clear_specific_dtcs_async", arguments=(("target", target), ("dtc_codes", dtc_codes)))
 
     def start_sovd_server(self) -> None:
         """Starts the SOVD server.

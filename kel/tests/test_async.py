@@ -3,6 +3,8 @@
 from __future__ import annotations
 
 import asyncio
+import concurrent.futures
+import threading
 import time
 import unittest
 from typing import Any, Optional
@@ -38,14 +40,40 @@ class AsyncCalls(EngineTest):
         sim.kelsim_setAsyncInterval(b"readDtcsAsync", 2000)
         started = time.monotonic()
         call = self.engine.read_dtcs_async()
-        call.cancel()
-        with self.assertRaises(kel.EngineError) as raised:
+        self.assertTrue(call.cancel())
+        with self.assertRaises(kel.CallCancelledError) as raised:
             call.result(timeout=10)
         self.assertEqual(raised.exception.code, 1012)
         self.assertLess(time.monotonic() - started, 1.5, "the call did not wait for its first report")
+        # The future's cancelled state, seen by the standard waiting too.
+        self.assertTrue(call.cancelled())
+        self.assertRaises(kel.CallCancelledError, call.exception)
+        self.assertEqual(concurrent.futures.wait([call], timeout=1).done, {call})
         final = list(call.reports())[-1]
         self.assertTrue(final.is_final)
         self.assertEqual(final.results, [])
+
+    def test_a_call_is_a_future_that_ends_with_the_final_report(self) -> None:
+        sim.kelsim_setAsyncInterval(b"identifyAllTargetsAsync", 20)
+        ended = threading.Event()
+        seen: list[tuple[Any, bool, bool]] = []
+
+        def on_done(future: concurrent.futures.Future[list[Any]]) -> None:
+            seen.append((future.result(), call._reports[-1].is_final, threading.current_thread() is main))
+            ended.set()
+
+        main = threading.current_thread()
+        call = self.engine.identify_all_targets_async()
+        call.add_done_callback(on_done)
+        self.assertTrue(ended.wait(10))
+        time.sleep(0.05)
+        self.assertEqual(seen, [(call.result(), True, False)], "once, on the engine's thread, after the final report")
+        self.assertEqual(len(call.result()), 6)
+
+        async def wrapped() -> list[Any]:
+            return await asyncio.wrap_future(self.engine.identify_targets_async(["ECM"]))
+
+        self.assertEqual([r.target for r in asyncio.run(wrapped()) if r], ["ECM"])
 
     def test_a_failed_start_raises_and_leaves_no_call_behind(self) -> None:
         sim.kelsim_failNext(b"clearAllDtcsAsync", 1, 77, 0, "not now", "")
@@ -57,9 +85,11 @@ class AsyncCalls(EngineTest):
 
     def test_an_error_ending_the_call_raises_from_result(self) -> None:
         sim.kelsim_failAsync(b"readIdentificationValuesAsync", 1, 1013, "bad description", "")
+        call = self.engine.read_identification_values_async(["ECM"])
         with self.assertRaises(kel.EngineError) as raised:
-            self.engine.read_identification_values_async(["ECM"]).result(timeout=10)
+            call.result(timeout=10)
         self.assertEqual((raised.exception.code, raised.exception.message), (1013, "bad description"))
+        self.assertIs(call.exception(), raised.exception)
 
     def test_a_conversion_that_fails_in_the_callback_becomes_the_reports_error(self) -> None:
         def broken(address: Optional[int]) -> Any:

@@ -75,3 +75,13 @@ class Conveniences(EngineTest):
         (record,) = logs.records
         self.assertRegex(record.getMessage(), r"^third_party_login\(code='\*\*\*'\): [\d.]+ ms, error 1306$")
         self.assertEqual((record.operation, record.error_code), ("third_party_login", 1306))  # type: ignore[attr-defined]
+        # The hand-written get_state and the starts of asynchronous calls write the same record.
+        sim.kelsim_failNext(b"clearAllDtcsAsync", 1, 77, 0, "not now", "")
+        with self.assertLogs("kel", "DEBUG") as logs:
+            self.engine.get_state()
+            with self.assertRaises(kel.EngineError):
+                self.engine.clear_all_dtcs_async(["ECM"])
+            self.engine.identify_all_targets_async().result(timeout=10)
+        self.assertEqual([(r.operation, r.error_code) for r in logs.records],  # type: ignore[attr-defined]
+                         [("get_state", 0), ("clear_all_dtcs_async", 77), ("identify_all_targets_async", 0)])
+        self.assertRegex(logs.records[1].getMessage(), r"^clear_all_dtcs_async\(targets=\['ECM'\]\): [\d.]+ ms, error 77$")
