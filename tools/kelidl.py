@@ -183,7 +183,7 @@ class Interface:
     def readable(self, record_name: str, member: str) -> tuple[str, str]:
         """The readable name and the doc of a member of the record's C record: a `rename`
         line of the record (or of a base between it and the member) first, then the
-        field's own `name=`, else the member's design name and doc."""
+        field's own `name=`, else the member's C name and doc."""
         rec = self.records[record_name]
         while True:
             if member in rec.renames:
@@ -669,7 +669,7 @@ def validate_records(records: dict[str, Record]) -> None:
 
 def _validate_readable(iface: Interface, rec: Record) -> None:
     """`rename` names a base member, and no two members of a record end up with one name
-    (readable or design: the design name stays reachable as an alias)."""
+    (readable or C: the C name stays reachable as an alias)."""
     own = {f.name for f in rec.fields}
     for member in rec.renames:
         if member in own or member not in {f.name for f in iface.members(rec.name)}:

@@ -45,7 +45,7 @@ def snake(name: str) -> str:
 
 def py_name(iface: kelidl.Interface, record: str, member: str) -> str:
     """A member's dataclass field: its readable name (snake case) in the C record it is
-    handed out as, the design name where the description gives none."""
+    handed out as, the C name where the description gives none."""
     return snake(iface.readable(c_name(iface, record), member)[0])
 
 
@@ -254,9 +254,9 @@ def records_py(iface: kelidl.Interface) -> str:
         out.append(f"    {QUOTES}")
         out += body or ["    pass"]
         for alias, name, typ in aliases:
-            # The design's name, as the C header has it: read-only, for code ported from C.
+            # The C name, as the header has it: read-only, for code ported from C.
             out += ["", "    @property", f"    def {alias}(self) -> {typ}:",
-                    f'        """The design name of {name}; read-only."""', f"        return self.{name}"]
+                    f'        """The C name of {name}; read-only."""', f"        return self.{name}"]
         out += ["", ""]
     out.append("__all__ = [" + ", ".join(f'"{n}"' for n in names) + "]")
     return "\n".join(out).rstrip("\n") + "\n"

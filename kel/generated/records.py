@@ -69,12 +69,12 @@ class NegativeResponse:
 
     @property
     def text(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def value1(self) -> int:
-        """The design name of service_id; read-only."""
+        """The C name of service_id; read-only."""
         return self.service_id
 
 
@@ -131,7 +131,7 @@ class NamedItem:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
 
@@ -202,42 +202,42 @@ class ParameterResult:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def item_text3(self) -> str:
-        """The design name of codec; read-only."""
+        """The C name of codec; read-only."""
         return self.codec
 
     @property
     def text1(self) -> str:
-        """The design name of value; read-only."""
+        """The C name of value; read-only."""
         return self.value
 
     @property
     def text2(self) -> str:
-        """The design name of unit; read-only."""
+        """The C name of unit; read-only."""
         return self.unit
 
     @property
     def value1(self) -> int:
-        """The design name of child_count; read-only."""
+        """The C name of child_count; read-only."""
         return self.child_count
 
     @property
     def value2(self) -> int:
-        """The design name of byte_position; read-only."""
+        """The C name of byte_position; read-only."""
         return self.byte_position
 
     @property
     def value3(self) -> int:
-        """The design name of data_length; read-only."""
+        """The C name of data_length; read-only."""
         return self.data_length
 
 
@@ -283,22 +283,22 @@ class DtcReadConfig:
 
     @property
     def value(self) -> int:
-        """The design name of status_mask; read-only."""
+        """The C name of status_mask; read-only."""
         return self.status_mask
 
     @property
     def flag1(self) -> int:
-        """The design name of with_snapshots; read-only."""
+        """The C name of with_snapshots; read-only."""
         return self.with_snapshots
 
     @property
     def flag2(self) -> int:
-        """The design name of with_extended_data; read-only."""
+        """The C name of with_extended_data; read-only."""
         return self.with_extended_data
 
     @property
     def flag3(self) -> int:
-        """The design name of with_special_data; read-only."""
+        """The C name of with_special_data; read-only."""
         return self.with_special_data
 
 
@@ -326,7 +326,7 @@ class ReadDtcResult:
 
     @property
     def value(self) -> int:
-        """The design name of dtc_total; read-only."""
+        """The C name of dtc_total; read-only."""
         return self.dtc_total
 
 
@@ -369,42 +369,42 @@ class DtcResult:
 
     @property
     def text1(self) -> str:
-        """The design name of display_code; read-only."""
+        """The C name of display_code; read-only."""
         return self.display_code
 
     @property
     def text2(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def value1(self) -> DtcStatus:
-        """The design name of status; read-only."""
+        """The C name of status; read-only."""
         return self.status
 
     @property
     def parameters1(self) -> list[Optional[ParameterResult]]:
-        """The design name of snapshots; read-only."""
+        """The C name of snapshots; read-only."""
         return self.snapshots
 
     @property
     def parameters2(self) -> list[Optional[ParameterResult]]:
-        """The design name of extended_data; read-only."""
+        """The C name of extended_data; read-only."""
         return self.extended_data
 
     @property
     def text3(self) -> str:
-        """The design name of ecu; read-only."""
+        """The C name of ecu; read-only."""
         return self.ecu
 
     @property
     def text4(self) -> str:
-        """The design name of symptom; read-only."""
+        """The C name of symptom; read-only."""
         return self.symptom
 
     @property
     def value2(self) -> int:
-        """The design name of severity; read-only."""
+        """The C name of severity; read-only."""
         return self.severity
 
 
@@ -463,7 +463,7 @@ class ReadDataResult:
 
     @property
     def text(self) -> str:
-        """The design name of variant; read-only."""
+        """The C name of variant; read-only."""
         return self.variant
 
 
@@ -516,57 +516,57 @@ class Target:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def item_text3(self) -> str:
-        """The design name of variant; read-only."""
+        """The C name of variant; read-only."""
         return self.variant
 
     @property
     def value1(self) -> int:
-        """The design name of address; read-only."""
+        """The C name of address; read-only."""
         return self.address
 
     @property
     def text1(self) -> str:
-        """The design name of protocol; read-only."""
+        """The C name of protocol; read-only."""
         return self.protocol
 
     @property
     def text2(self) -> str:
-        """The design name of bus; read-only."""
+        """The C name of bus; read-only."""
         return self.bus
 
     @property
     def names(self) -> list[str]:
-        """The design name of aliases; read-only."""
+        """The C name of aliases; read-only."""
         return self.aliases
 
     @property
     def text3(self) -> str:
-        """The design name of part_number; read-only."""
+        """The C name of part_number; read-only."""
         return self.part_number
 
     @property
     def text4(self) -> str:
-        """The design name of software_version; read-only."""
+        """The C name of software_version; read-only."""
         return self.software_version
 
     @property
     def value2(self) -> int:
-        """The design name of responds; read-only."""
+        """The C name of responds; read-only."""
         return self.responds
 
     @property
     def text5(self) -> str:
-        """The design name of hardware_version; read-only."""
+        """The C name of hardware_version; read-only."""
         return self.hardware_version
 
 
@@ -598,17 +598,17 @@ class TargetStatus:
 
     @property
     def text(self) -> str:
-        """The design name of state; read-only."""
+        """The C name of state; read-only."""
         return self.state
 
     @property
     def values(self) -> list[int]:
-        """The design name of counts; read-only."""
+        """The C name of counts; read-only."""
         return self.counts
 
     @property
     def text2(self) -> str:
-        """The design name of variant; read-only."""
+        """The C name of variant; read-only."""
         return self.variant
 
 
@@ -630,12 +630,12 @@ class TargetFilter:
 
     @property
     def flag(self) -> int:
-        """The design name of exclude; read-only."""
+        """The C name of exclude; read-only."""
         return self.exclude
 
     @property
     def value(self) -> int:
-        """The design name of tag; read-only."""
+        """The C name of tag; read-only."""
         return self.tag
 
 
@@ -721,32 +721,32 @@ class ServiceResult:
 
     @property
     def item_text1(self) -> str:
-        """The design name of service; read-only."""
+        """The C name of service; read-only."""
         return self.service
 
     @property
     def item_text2(self) -> str:
-        """The design name of target; read-only."""
+        """The C name of target; read-only."""
         return self.target
 
     @property
     def item_text3(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def item_text4(self) -> str:
-        """The design name of session; read-only."""
+        """The C name of session; read-only."""
         return self.session
 
     @property
     def text1(self) -> str:
-        """The design name of outcome; read-only."""
+        """The C name of outcome; read-only."""
         return self.outcome
 
     @property
     def value1(self) -> int:
-        """The design name of service_id; read-only."""
+        """The C name of service_id; read-only."""
         return self.service_id
 
 
@@ -791,27 +791,27 @@ class ResponseResult:
 
     @property
     def item_text1(self) -> str:
-        """The design name of kind; read-only."""
+        """The C name of kind; read-only."""
         return self.kind
 
     @property
     def item_text2(self) -> str:
-        """The design name of target; read-only."""
+        """The C name of target; read-only."""
         return self.target
 
     @property
     def flag(self) -> bool:
-        """The design name of positive; read-only."""
+        """The C name of positive; read-only."""
         return self.positive
 
     @property
     def value1(self) -> int:
-        """The design name of time; read-only."""
+        """The C name of time; read-only."""
         return self.time
 
     @property
     def value2(self) -> int:
-        """The design name of nrc; read-only."""
+        """The C name of nrc; read-only."""
         return self.nrc
 
 
@@ -843,7 +843,7 @@ class RequestResult:
 
     @property
     def value1(self) -> int:
-        """The design name of time; read-only."""
+        """The C name of time; read-only."""
         return self.time
 
 
@@ -862,7 +862,7 @@ class UnlockResult:
 
     @property
     def value(self) -> int:
-        """The design name of unlock; read-only."""
+        """The C name of unlock; read-only."""
         return self.unlock
 
 
@@ -912,42 +912,42 @@ class ServiceInfo:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def item_text3(self) -> str:
-        """The design name of service_id; read-only."""
+        """The C name of service_id; read-only."""
         return self.service_id
 
     @property
     def item_text4(self) -> str:
-        """The design name of target; read-only."""
+        """The C name of target; read-only."""
         return self.target
 
     @property
     def flag(self) -> bool:
-        """The design name of available; read-only."""
+        """The C name of available; read-only."""
         return self.available
 
     @property
     def text1(self) -> str:
-        """The design name of uds_service; read-only."""
+        """The C name of uds_service; read-only."""
         return self.uds_service
 
     @property
     def items(self) -> list[Optional[NamedItem]]:
-        """The design name of sessions; read-only."""
+        """The C name of sessions; read-only."""
         return self.sessions
 
     @property
     def values(self) -> list[int]:
-        """The design name of numbers; read-only."""
+        """The C name of numbers; read-only."""
         return self.numbers
 
 
@@ -980,12 +980,12 @@ class ResponseInfo:
 
     @property
     def item_text1(self) -> str:
-        """The design name of kind; read-only."""
+        """The C name of kind; read-only."""
         return self.kind
 
     @property
     def item_text2(self) -> str:
-        """The design name of first_byte; read-only."""
+        """The C name of first_byte; read-only."""
         return self.first_byte
 
 
@@ -1078,102 +1078,102 @@ class ParameterInfo:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def item_text3(self) -> str:
-        """The design name of codec; read-only."""
+        """The C name of codec; read-only."""
         return self.codec
 
     @property
     def text1(self) -> str:
-        """The design name of default_value; read-only."""
+        """The C name of default_value; read-only."""
         return self.default_value
 
     @property
     def text2(self) -> str:
-        """The design name of unit_text; read-only."""
+        """The C name of unit_text; read-only."""
         return self.unit_text
 
     @property
     def text3(self) -> str:
-        """The design name of data_type; read-only."""
+        """The C name of data_type; read-only."""
         return self.data_type
 
     @property
     def value1(self) -> int:
-        """The design name of byte_position; read-only."""
+        """The C name of byte_position; read-only."""
         return self.byte_position
 
     @property
     def text4(self) -> str:
-        """The design name of path; read-only."""
+        """The C name of path; read-only."""
         return self.path
 
     @property
     def text5(self) -> str:
-        """The design name of scaling; read-only."""
+        """The C name of scaling; read-only."""
         return self.scaling
 
     @property
     def names(self) -> list[str]:
-        """The design name of choices; read-only."""
+        """The C name of choices; read-only."""
         return self.choices
 
     @property
     def flag1(self) -> bool:
-        """The design name of constant; read-only."""
+        """The C name of constant; read-only."""
         return self.constant
 
     @property
     def value2(self) -> int:
-        """The design name of byte_length; read-only."""
+        """The C name of byte_length; read-only."""
         return self.byte_length
 
     @property
     def flag2(self) -> bool:
-        """The design name of required; read-only."""
+        """The C name of required; read-only."""
         return self.required
 
     @property
     def values(self) -> list[int]:
-        """The design name of numbers; read-only."""
+        """The C name of numbers; read-only."""
         return self.numbers
 
     @property
     def flag3(self) -> bool:
-        """The design name of structure; read-only."""
+        """The C name of structure; read-only."""
         return self.structure
 
     @property
     def constraint1(self) -> Optional[ConstraintInfo]:
-        """The design name of valid_values; read-only."""
+        """The C name of valid_values; read-only."""
         return self.valid_values
 
     @property
     def constraint2(self) -> Optional[ConstraintInfo]:
-        """The design name of raw_range; read-only."""
+        """The C name of raw_range; read-only."""
         return self.raw_range
 
     @property
     def text6(self) -> str:
-        """The design name of minimum; read-only."""
+        """The C name of minimum; read-only."""
         return self.minimum
 
     @property
     def text7(self) -> str:
-        """The design name of maximum; read-only."""
+        """The C name of maximum; read-only."""
         return self.maximum
 
     @property
     def flag4(self) -> bool:
-        """The design name of repeated; read-only."""
+        """The C name of repeated; read-only."""
         return self.repeated
 
 
@@ -1198,17 +1198,17 @@ class ConstraintInfo:
 
     @property
     def text1(self) -> str:
-        """The design name of kind; read-only."""
+        """The C name of kind; read-only."""
         return self.kind
 
     @property
     def text2(self) -> str:
-        """The design name of scale; read-only."""
+        """The C name of scale; read-only."""
         return self.scale
 
     @property
     def flag(self) -> bool:
-        """The design name of present; read-only."""
+        """The C name of present; read-only."""
         return self.present
 
 
@@ -1248,27 +1248,27 @@ class ScaleConstraintInfo:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def text1(self) -> str:
-        """The design name of lower; read-only."""
+        """The C name of lower; read-only."""
         return self.lower
 
     @property
     def text2(self) -> str:
-        """The design name of upper; read-only."""
+        """The C name of upper; read-only."""
         return self.upper
 
     @property
     def flag(self) -> bool:
-        """The design name of inclusive; read-only."""
+        """The C name of inclusive; read-only."""
         return self.inclusive
 
     @property
     def value(self) -> int:
-        """The design name of raw_value; read-only."""
+        """The C name of raw_value; read-only."""
         return self.raw_value
 
 
@@ -1296,27 +1296,27 @@ class UnitInfo:
 
     @property
     def values(self) -> list[int]:
-        """The design name of exponents; read-only."""
+        """The C name of exponents; read-only."""
         return self.exponents
 
     @property
     def value1(self) -> int:
-        """The design name of factor_bits; read-only."""
+        """The C name of factor_bits; read-only."""
         return self.factor_bits
 
     @property
     def flag1(self) -> bool:
-        """The design name of known; read-only."""
+        """The C name of known; read-only."""
         return self.known
 
     @property
     def value2(self) -> int:
-        """The design name of offset_bits; read-only."""
+        """The C name of offset_bits; read-only."""
         return self.offset_bits
 
     @property
     def flag2(self) -> bool:
-        """The design name of has_offset; read-only."""
+        """The C name of has_offset; read-only."""
         return self.has_offset
 
 
@@ -1345,22 +1345,22 @@ class ParameterInfoConfig:
 
     @property
     def text1(self) -> str:
-        """The design name of target; read-only."""
+        """The C name of target; read-only."""
         return self.target
 
     @property
     def text2(self) -> str:
-        """The design name of service; read-only."""
+        """The C name of service; read-only."""
         return self.service
 
     @property
     def value(self) -> int:
-        """The design name of in_response; read-only."""
+        """The C name of in_response; read-only."""
         return self.in_response
 
     @property
     def text3(self) -> str:
-        """The design name of path; read-only."""
+        """The C name of path; read-only."""
         return self.path
 
 
@@ -1391,7 +1391,7 @@ class KelEvent:
 
     @property
     def text(self) -> str:
-        """The design name of message; read-only."""
+        """The C name of message; read-only."""
         return self.message
 
 
@@ -1425,7 +1425,7 @@ class FileFilter:
 
     @property
     def flag(self) -> bool:
-        """The design name of exclude; read-only."""
+        """The C name of exclude; read-only."""
         return self.exclude
 
 
@@ -1564,7 +1564,7 @@ class ProjectConfig:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
 
@@ -1599,32 +1599,32 @@ class ProjectDetails:
 
     @property
     def db_files1(self) -> list[Optional[DbFileInfo]]:
-        """The design name of database_files; read-only."""
+        """The C name of database_files; read-only."""
         return self.database_files
 
     @property
     def db_files2(self) -> list[Optional[DbFileInfo]]:
-        """The design name of loaded_database_files; read-only."""
+        """The C name of loaded_database_files; read-only."""
         return self.loaded_database_files
 
     @property
     def text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def value1(self) -> int:
-        """The design name of format; read-only."""
+        """The C name of format; read-only."""
         return self.format
 
     @property
     def text2(self) -> str:
-        """The design name of folder; read-only."""
+        """The C name of folder; read-only."""
         return self.folder
 
     @property
     def value2(self) -> int:
-        """The design name of selected; read-only."""
+        """The C name of selected; read-only."""
         return self.selected
 
 
@@ -1681,37 +1681,37 @@ class SystemInfo:
 
     @property
     def value1(self) -> int:
-        """The design name of processors; read-only."""
+        """The C name of processors; read-only."""
         return self.processors
 
     @property
     def value2(self) -> int:
-        """The design name of page_size; read-only."""
+        """The C name of page_size; read-only."""
         return self.page_size
 
     @property
     def text1(self) -> str:
-        """The design name of system; read-only."""
+        """The C name of system; read-only."""
         return self.system
 
     @property
     def value3(self) -> int:
-        """The design name of pointer_bits; read-only."""
+        """The C name of pointer_bits; read-only."""
         return self.pointer_bits
 
     @property
     def text2(self) -> str:
-        """The design name of release; read-only."""
+        """The C name of release; read-only."""
         return self.release
 
     @property
     def text3(self) -> str:
-        """The design name of host; read-only."""
+        """The C name of host; read-only."""
         return self.host
 
     @property
     def text4(self) -> str:
-        """The design name of architecture; read-only."""
+        """The C name of architecture; read-only."""
         return self.architecture
 
 
@@ -1799,32 +1799,32 @@ class SystemProperty:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of label; read-only."""
+        """The C name of label; read-only."""
         return self.label
 
     @property
     def item_text4(self) -> str:
-        """The design name of unit; read-only."""
+        """The C name of unit; read-only."""
         return self.unit
 
     @property
     def text1(self) -> str:
-        """The design name of value; read-only."""
+        """The C name of value; read-only."""
         return self.value
 
     @property
     def text2(self) -> str:
-        """The design name of default_value; read-only."""
+        """The C name of default_value; read-only."""
         return self.default_value
 
     @property
     def flag(self) -> bool:
-        """The design name of changed; read-only."""
+        """The C name of changed; read-only."""
         return self.changed
 
 
@@ -2149,42 +2149,42 @@ class StatusInfo:
 
     @property
     def value1(self) -> int:
-        """The design name of calls; read-only."""
+        """The C name of calls; read-only."""
         return self.calls
 
     @property
     def value2(self) -> int:
-        """The design name of failed_calls; read-only."""
+        """The C name of failed_calls; read-only."""
         return self.failed_calls
 
     @property
     def value3(self) -> int:
-        """The design name of uptime_ms; read-only."""
+        """The C name of uptime_ms; read-only."""
         return self.uptime_ms
 
     @property
     def value4(self) -> int:
-        """The design name of call_microseconds; read-only."""
+        """The C name of call_microseconds; read-only."""
         return self.call_microseconds
 
     @property
     def value5(self) -> int:
-        """The design name of database_files_loaded; read-only."""
+        """The C name of database_files_loaded; read-only."""
         return self.database_files_loaded
 
     @property
     def value6(self) -> int:
-        """The design name of projects; read-only."""
+        """The C name of projects; read-only."""
         return self.projects
 
     @property
     def value7(self) -> int:
-        """The design name of status_text_changes; read-only."""
+        """The C name of status_text_changes; read-only."""
         return self.status_text_changes
 
     @property
     def value8(self) -> int:
-        """The design name of started_ms; read-only."""
+        """The C name of started_ms; read-only."""
         return self.started_ms
 
 
@@ -2209,22 +2209,22 @@ class TransmissionInfo:
 
     @property
     def value1(self) -> int:
-        """The design name of requests; read-only."""
+        """The C name of requests; read-only."""
         return self.requests
 
     @property
     def value2(self) -> int:
-        """The design name of responses; read-only."""
+        """The C name of responses; read-only."""
         return self.responses
 
     @property
     def value3(self) -> int:
-        """The design name of request_bytes; read-only."""
+        """The C name of request_bytes; read-only."""
         return self.request_bytes
 
     @property
     def value4(self) -> int:
-        """The design name of response_bytes; read-only."""
+        """The C name of response_bytes; read-only."""
         return self.response_bytes
 
 
@@ -2249,17 +2249,17 @@ class ProcessInfo:
 
     @property
     def flag1(self) -> bool:
-        """The design name of is64_bit; read-only."""
+        """The C name of is64_bit; read-only."""
         return self.is64_bit
 
     @property
     def flag2(self) -> bool:
-        """The design name of initialized; read-only."""
+        """The C name of initialized; read-only."""
         return self.initialized
 
     @property
     def text(self) -> str:
-        """The design name of status_text; read-only."""
+        """The C name of status_text; read-only."""
         return self.status_text
 
 
@@ -2284,22 +2284,22 @@ class ProcessEntry:
 
     @property
     def value(self) -> int:
-        """The design name of pid; read-only."""
+        """The C name of pid; read-only."""
         return self.pid
 
     @property
     def items1(self) -> list[Optional[ProcessThread]]:
-        """The design name of threads; read-only."""
+        """The C name of threads; read-only."""
         return self.threads
 
     @property
     def text(self) -> str:
-        """The design name of executable; read-only."""
+        """The C name of executable; read-only."""
         return self.executable
 
     @property
     def items2(self) -> list[Optional[ProcessMemory]]:
-        """The design name of memory; read-only."""
+        """The C name of memory; read-only."""
         return self.memory
 
 
@@ -2363,12 +2363,12 @@ class GlobalProtocolParameterSet:
 
     @property
     def text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def text2(self) -> str:
-        """The design name of protocol; read-only."""
+        """The C name of protocol; read-only."""
         return self.protocol
 
 
@@ -2434,7 +2434,7 @@ class GlobalProtocolParameter:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
 
@@ -2456,12 +2456,12 @@ class LoadDatabaseResult:
 
     @property
     def text(self) -> str:
-        """The design name of file; read-only."""
+        """The C name of file; read-only."""
         return self.file
 
     @property
     def flag(self) -> bool:
-        """The design name of loaded; read-only."""
+        """The C name of loaded; read-only."""
         return self.loaded
 
 
@@ -2521,57 +2521,57 @@ class InterfaceInformation:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of long_name; read-only."""
+        """The C name of long_name; read-only."""
         return self.long_name
 
     @property
     def item_text3(self) -> str:
-        """The design name of vendor; read-only."""
+        """The C name of vendor; read-only."""
         return self.vendor
 
     @property
     def item_text4(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def flag1(self) -> bool:
-        """The design name of connected; read-only."""
+        """The C name of connected; read-only."""
         return self.connected
 
     @property
     def flag2(self) -> bool:
-        """The design name of dynamic; read-only."""
+        """The C name of dynamic; read-only."""
         return self.dynamic
 
     @property
     def text1(self) -> str:
-        """The design name of kind; read-only."""
+        """The C name of kind; read-only."""
         return self.kind
 
     @property
     def text2(self) -> str:
-        """The design name of address; read-only."""
+        """The C name of address; read-only."""
         return self.address
 
     @property
     def flag3(self) -> bool:
-        """The design name of plugged_in; read-only."""
+        """The C name of plugged_in; read-only."""
         return self.plugged_in
 
     @property
     def items(self) -> list[Optional[InterfaceInformationItem]]:
-        """The design name of vendor_modules; read-only."""
+        """The C name of vendor_modules; read-only."""
         return self.vendor_modules
 
     @property
     def value(self) -> int:
-        """The design name of handle; read-only."""
+        """The C name of handle; read-only."""
         return self.handle
 
 
@@ -2608,22 +2608,22 @@ class ResourceInformation:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def item_text3(self) -> str:
-        """The design name of protocol; read-only."""
+        """The C name of protocol; read-only."""
         return self.protocol
 
     @property
     def item_text4(self) -> str:
-        """The design name of physical_link; read-only."""
+        """The C name of physical_link; read-only."""
         return self.physical_link
 
 
@@ -2650,22 +2650,22 @@ class InterfaceInformationItem:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of vendor; read-only."""
+        """The C name of vendor; read-only."""
         return self.vendor
 
     @property
     def item_text3(self) -> str:
-        """The design name of version; read-only."""
+        """The C name of version; read-only."""
         return self.version
 
     @property
     def item_text4(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
 
@@ -2755,12 +2755,12 @@ class ModuleDyn:
 
     @property
     def flag1(self) -> bool:
-        """The design name of connected; read-only."""
+        """The C name of connected; read-only."""
         return self.connected
 
     @property
     def flag2(self) -> bool:
-        """The design name of exclusive; read-only."""
+        """The C name of exclusive; read-only."""
         return self.exclusive
 
 
@@ -2836,77 +2836,77 @@ class DeviceInfo:
 
     @property
     def text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def value1(self) -> int:
-        """The design name of vendor_id; read-only."""
+        """The C name of vendor_id; read-only."""
         return self.vendor_id
 
     @property
     def value2(self) -> int:
-        """The design name of product_id; read-only."""
+        """The C name of product_id; read-only."""
         return self.product_id
 
     @property
     def text2(self) -> str:
-        """The design name of vendor; read-only."""
+        """The C name of vendor; read-only."""
         return self.vendor
 
     @property
     def text3(self) -> str:
-        """The design name of serial_number; read-only."""
+        """The C name of serial_number; read-only."""
         return self.serial_number
 
     @property
     def value3(self) -> int:
-        """The design name of resources; read-only."""
+        """The C name of resources; read-only."""
         return self.resources
 
     @property
     def text4(self) -> str:
-        """The design name of firmware; read-only."""
+        """The C name of firmware; read-only."""
         return self.firmware
 
     @property
     def text5(self) -> str:
-        """The design name of kind; read-only."""
+        """The C name of kind; read-only."""
         return self.kind
 
     @property
     def value4(self) -> int:
-        """The design name of ethernet_pin_state; read-only."""
+        """The C name of ethernet_pin_state; read-only."""
         return self.ethernet_pin_state
 
     @property
     def value5(self) -> int:
-        """The design name of links; read-only."""
+        """The C name of links; read-only."""
         return self.links
 
     @property
     def text6(self) -> str:
-        """The design name of address; read-only."""
+        """The C name of address; read-only."""
         return self.address
 
     @property
     def text7(self) -> str:
-        """The design name of long_name; read-only."""
+        """The C name of long_name; read-only."""
         return self.long_name
 
     @property
     def text8(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def flag(self) -> bool:
-        """The design name of connected; read-only."""
+        """The C name of connected; read-only."""
         return self.connected
 
     @property
     def value6(self) -> int:
-        """The design name of dynamic; read-only."""
+        """The C name of dynamic; read-only."""
         return self.dynamic
 
 
@@ -2953,22 +2953,22 @@ class PhysicalLink:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of type; read-only."""
+        """The C name of type; read-only."""
         return self.type
 
     @property
     def item_text3(self) -> str:
-        """The design name of pins; read-only."""
+        """The C name of pins; read-only."""
         return self.pins
 
     @property
     def item_text4(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
 
@@ -3016,42 +3016,42 @@ class InterfaceConfigurationEntry:
 
     @property
     def text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def text2(self) -> str:
-        """The design name of long_name; read-only."""
+        """The C name of long_name; read-only."""
         return self.long_name
 
     @property
     def text3(self) -> str:
-        """The design name of vendor; read-only."""
+        """The C name of vendor; read-only."""
         return self.vendor
 
     @property
     def text4(self) -> str:
-        """The design name of kind; read-only."""
+        """The C name of kind; read-only."""
         return self.kind
 
     @property
     def text5(self) -> str:
-        """The design name of address; read-only."""
+        """The C name of address; read-only."""
         return self.address
 
     @property
     def value(self) -> int:
-        """The design name of ethernet_pin_state; read-only."""
+        """The C name of ethernet_pin_state; read-only."""
         return self.ethernet_pin_state
 
     @property
     def flag(self) -> bool:
-        """The design name of enabled; read-only."""
+        """The C name of enabled; read-only."""
         return self.enabled
 
     @property
     def items(self) -> list[Optional[ResourceInformation]]:
-        """The design name of resources; read-only."""
+        """The C name of resources; read-only."""
         return self.resources
 
 
@@ -3086,37 +3086,37 @@ class InterfaceProvider:
 
     @property
     def item_text1(self) -> str:
-        """The design name of name; read-only."""
+        """The C name of name; read-only."""
         return self.name
 
     @property
     def item_text2(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def item_text3(self) -> str:
-        """The design name of vendor; read-only."""
+        """The C name of vendor; read-only."""
         return self.vendor
 
     @property
     def item_text4(self) -> str:
-        """The design name of version; read-only."""
+        """The C name of version; read-only."""
         return self.version
 
     @property
     def text(self) -> str:
-        """The design name of library; read-only."""
+        """The C name of library; read-only."""
         return self.library
 
     @property
     def value(self) -> int:
-        """The design name of priority; read-only."""
+        """The C name of priority; read-only."""
         return self.priority
 
     @property
     def flag(self) -> bool:
-        """The design name of enabled; read-only."""
+        """The C name of enabled; read-only."""
         return self.enabled
 
 
@@ -3145,27 +3145,27 @@ class DoIPParameter:
 
     @property
     def value1(self) -> int:
-        """The design name of discovery_port; read-only."""
+        """The C name of discovery_port; read-only."""
         return self.discovery_port
 
     @property
     def value2(self) -> int:
-        """The design name of announcement_wait_ms; read-only."""
+        """The C name of announcement_wait_ms; read-only."""
         return self.announcement_wait_ms
 
     @property
     def text(self) -> str:
-        """The design name of broadcast_address; read-only."""
+        """The C name of broadcast_address; read-only."""
         return self.broadcast_address
 
     @property
     def value3(self) -> int:
-        """The design name of tcp_port; read-only."""
+        """The C name of tcp_port; read-only."""
         return self.tcp_port
 
     @property
     def strings(self) -> list[str]:
-        """The design name of adapters; read-only."""
+        """The C name of adapters; read-only."""
         return self.adapters
 
 
@@ -3216,62 +3216,62 @@ class WLanSignalData:
 
     @property
     def value1(self) -> int:
-        """The design name of quality; read-only."""
+        """The C name of quality; read-only."""
         return self.quality
 
     @property
     def value2(self) -> int:
-        """The design name of signal_dbm_below_zero; read-only."""
+        """The C name of signal_dbm_below_zero; read-only."""
         return self.signal_dbm_below_zero
 
     @property
     def value3(self) -> int:
-        """The design name of noise_dbm_below_zero; read-only."""
+        """The C name of noise_dbm_below_zero; read-only."""
         return self.noise_dbm_below_zero
 
     @property
     def value4(self) -> int:
-        """The design name of channel; read-only."""
+        """The C name of channel; read-only."""
         return self.channel
 
     @property
     def value5(self) -> int:
-        """The design name of frequency_mhz; read-only."""
+        """The C name of frequency_mhz; read-only."""
         return self.frequency_mhz
 
     @property
     def value6(self) -> int:
-        """The design name of bytes_received; read-only."""
+        """The C name of bytes_received; read-only."""
         return self.bytes_received
 
     @property
     def value7(self) -> int:
-        """The design name of transmit_rate_mbits; read-only."""
+        """The C name of transmit_rate_mbits; read-only."""
         return self.transmit_rate_mbits
 
     @property
     def value8(self) -> int:
-        """The design name of receive_rate_mbits; read-only."""
+        """The C name of receive_rate_mbits; read-only."""
         return self.receive_rate_mbits
 
     @property
     def value9(self) -> int:
-        """The design name of retransmissions; read-only."""
+        """The C name of retransmissions; read-only."""
         return self.retransmissions
 
     @property
     def value10(self) -> int:
-        """The design name of lost_beacons; read-only."""
+        """The C name of lost_beacons; read-only."""
         return self.lost_beacons
 
     @property
     def value11(self) -> int:
-        """The design name of channel_width_mhz; read-only."""
+        """The C name of channel_width_mhz; read-only."""
         return self.channel_width_mhz
 
     @property
     def text(self) -> str:
-        """The design name of ssid; read-only."""
+        """The C name of ssid; read-only."""
         return self.ssid
 
 
@@ -3300,27 +3300,27 @@ class SupportedInterface:
 
     @property
     def text1(self) -> str:
-        """The design name of kind; read-only."""
+        """The C name of kind; read-only."""
         return self.kind
 
     @property
     def text2(self) -> str:
-        """The design name of description; read-only."""
+        """The C name of description; read-only."""
         return self.description
 
     @property
     def names(self) -> list[str]:
-        """The design name of protocols; read-only."""
+        """The C name of protocols; read-only."""
         return self.protocols
 
     @property
     def value(self) -> int:
-        """The design name of max_interfaces; read-only."""
+        """The C name of max_interfaces; read-only."""
         return self.max_interfaces
 
     @property
     def text3(self) -> str:
-        """The design name of vendor_module; read-only."""
+        """The C name of vendor_module; read-only."""
         return self.vendor_module
 
 
@@ -3373,47 +3373,47 @@ class MonitoringItem:
 
     @property
     def text1(self) -> str:
-        """The design name of unit; read-only."""
+        """The C name of unit; read-only."""
         return self.unit
 
     @property
     def value1(self) -> int:
-        """The design name of time; read-only."""
+        """The C name of time; read-only."""
         return self.time
 
     @property
     def value2(self) -> int:
-        """The design name of number; read-only."""
+        """The C name of number; read-only."""
         return self.number
 
     @property
     def flag1(self) -> bool:
-        """The design name of answered; read-only."""
+        """The C name of answered; read-only."""
         return self.answered
 
     @property
     def flag2(self) -> bool:
-        """The design name of positive; read-only."""
+        """The C name of positive; read-only."""
         return self.positive
 
     @property
     def flag3(self) -> bool:
-        """The design name of replayed; read-only."""
+        """The C name of replayed; read-only."""
         return self.replayed
 
     @property
     def value3(self) -> int:
-        """The design name of nrc; read-only."""
+        """The C name of nrc; read-only."""
         return self.nrc
 
     @property
     def text2(self) -> str:
-        """The design name of source; read-only."""
+        """The C name of source; read-only."""
         return self.source
 
     @property
     def value4(self) -> int:
-        """The design name of service_id; read-only."""
+        """The C name of service_id; read-only."""
         return self.service_id
 
 
@@ -3436,7 +3436,7 @@ class MonitoringItemDetail:
 
     @property
     def text(self) -> str:
-        """The design name of summary; read-only."""
+        """The C name of summary; read-only."""
         return self.summary
 
 
@@ -3472,27 +3472,27 @@ class PduMonitoringItem:
 
     @property
     def value1(self) -> int:
-        """The design name of direction; read-only."""
+        """The C name of direction; read-only."""
         return self.direction
 
     @property
     def text1(self) -> str:
-        """The design name of unit; read-only."""
+        """The C name of unit; read-only."""
         return self.unit
 
     @property
     def text2(self) -> str:
-        """The design name of direction_text; read-only."""
+        """The C name of direction_text; read-only."""
         return self.direction_text
 
     @property
     def value2(self) -> int:
-        """The design name of time; read-only."""
+        """The C name of time; read-only."""
         return self.time
 
     @property
     def text3(self) -> str:
-        """The design name of hex; read-only."""
+        """The C name of hex; read-only."""
         return self.hex
 
 
@@ -3547,32 +3547,32 @@ class FileInfo:
 
     @property
     def flag(self) -> bool:
-        """The design name of read_only; read-only."""
+        """The C name of read_only; read-only."""
         return self.read_only
 
     @property
     def value1(self) -> int:
-        """The design name of attributes; read-only."""
+        """The C name of attributes; read-only."""
         return self.attributes
 
     @property
     def text1(self) -> str:
-        """The design name of path; read-only."""
+        """The C name of path; read-only."""
         return self.path
 
     @property
     def text2(self) -> str:
-        """The design name of modified; read-only."""
+        """The C name of modified; read-only."""
         return self.modified
 
     @property
     def value2(self) -> int:
-        """The design name of size; read-only."""
+        """The C name of size; read-only."""
         return self.size
 
     @property
     def value3(self) -> int:
-        """The design name of modified_ms; read-only."""
+        """The C name of modified_ms; read-only."""
         return self.modified_ms
 
 
@@ -3621,27 +3621,27 @@ class DirectoryInfo:
 
     @property
     def flag(self) -> bool:
-        """The design name of read_only; read-only."""
+        """The C name of read_only; read-only."""
         return self.read_only
 
     @property
     def value1(self) -> int:
-        """The design name of attributes; read-only."""
+        """The C name of attributes; read-only."""
         return self.attributes
 
     @property
     def text1(self) -> str:
-        """The design name of path; read-only."""
+        """The C name of path; read-only."""
         return self.path
 
     @property
     def text2(self) -> str:
-        """The design name of modified; read-only."""
+        """The C name of modified; read-only."""
         return self.modified
 
     @property
     def flag2(self) -> bool:
-        """The design name of contents_read; read-only."""
+        """The C name of contents_read; read-only."""
         return self.contents_read
 
 
@@ -3669,17 +3669,17 @@ class FileCopyResult:
 
     @property
     def value1(self) -> int:
-        """The design name of failed; read-only."""
+        """The C name of failed; read-only."""
         return self.failed
 
     @property
     def text(self) -> str:
-        """The design name of source; read-only."""
+        """The C name of source; read-only."""
         return self.source
 
     @property
     def value2(self) -> int:
-        """The design name of index; read-only."""
+        """The C name of index; read-only."""
         return self.index
 
 
@@ -3705,12 +3705,12 @@ class DirectoryCopyResult:
 
     @property
     def value1(self) -> int:
-        """The design name of outcome; read-only."""
+        """The C name of outcome; read-only."""
         return self.outcome
 
     @property
     def text(self) -> str:
-        """The design name of source; read-only."""
+        """The C name of source; read-only."""
         return self.source
 
 
@@ -3762,12 +3762,12 @@ class PathCopyResult:
 
     @property
     def value1(self) -> int:
-        """The design name of failed; read-only."""
+        """The C name of failed; read-only."""
         return self.failed
 
     @property
     def value2(self) -> int:
-        """The design name of is_directory; read-only."""
+        """The C name of is_directory; read-only."""
         return self.is_directory
 
 
@@ -3878,12 +3878,12 @@ class UserInfo:
 
     @property
     def text(self) -> str:
-        """The design name of role_name; read-only."""
+        """The C name of role_name; read-only."""
         return self.role_name
 
     @property
     def value(self) -> int:
-        """The design name of role; read-only."""
+        """The C name of role; read-only."""
         return self.role
 
 
@@ -3946,42 +3946,42 @@ class TarnApiServerConfig:
 
     @property
     def flag(self) -> bool:
-        """The design name of user_management; read-only."""
+        """The C name of user_management; read-only."""
         return self.user_management
 
     @property
     def value1(self) -> int:
-        """The design name of connections; read-only."""
+        """The C name of connections; read-only."""
         return self.connections
 
     @property
     def text1(self) -> str:
-        """The design name of address; read-only."""
+        """The C name of address; read-only."""
         return self.address
 
     @property
     def text2(self) -> str:
-        """The design name of sovd_address; read-only."""
+        """The C name of sovd_address; read-only."""
         return self.sovd_address
 
     @property
     def text3(self) -> str:
-        """The design name of identity_provider; read-only."""
+        """The C name of identity_provider; read-only."""
         return self.identity_provider
 
     @property
     def text4(self) -> str:
-        """The design name of login_address; read-only."""
+        """The C name of login_address; read-only."""
         return self.login_address
 
     @property
     def users2(self) -> list[Optional[UserInfo]]:
-        """The design name of logged_in; read-only."""
+        """The C name of logged_in; read-only."""
         return self.logged_in
 
     @property
     def value2(self) -> int:
-        """The design name of login_attempts; read-only."""
+        """The C name of login_attempts; read-only."""
         return self.login_attempts
 
 
@@ -4006,22 +4006,22 @@ class ServerSettings:
 
     @property
     def flag(self) -> bool:
-        """The design name of running; read-only."""
+        """The C name of running; read-only."""
         return self.running
 
     @property
     def value1(self) -> int:
-        """The design name of connections; read-only."""
+        """The C name of connections; read-only."""
         return self.connections
 
     @property
     def value2(self) -> int:
-        """The design name of users; read-only."""
+        """The C name of users; read-only."""
         return self.users
 
     @property
     def value3(self) -> int:
-        """The design name of sovd_running; read-only."""
+        """The C name of sovd_running; read-only."""
         return self.sovd_running
 
 

@@ -46,7 +46,7 @@ def to_python(kind: str, value: Any, record: Optional[str]) -> Any:
 def to_dataclass(value: conformance.Rec) -> Any:
     cls = getattr(records, python_gen.c_name(IFACE, value.name))
     members = IFACE.members(value.name)
-    # Built with the readable names, read back below through the design names (aliases).
+    # Built with the readable names, read back below through the C names (aliases).
     return cls(**{python_gen.py_name(IFACE, value.name, f.name): to_python(f.kind, value.values[f.name], f.record)
                   for f in members})
 

@@ -1,6 +1,6 @@
-"""Readable names: the dataclasses use them, the design names stay read-only aliases, and a
+"""Readable names: the dataclasses use them, the C names stay read-only aliases, and a
 member that keeps its number says why. (The conformance suite builds every record with
-the readable names and reads it back through the design names.)"""
+the readable names and reads it back through the C names.)"""
 
 from __future__ import annotations
 
@@ -19,7 +19,7 @@ NUMBERED = re.compile(r"(\d+$)|^(flag|flags|text|values|strings)$")
 
 
 class Names(unittest.TestCase):
-    def test_design_names_are_read_only_aliases(self) -> None:
+    def test_c_names_are_read_only_aliases(self) -> None:
         dtc = kel.DtcResult(display_code="P0301", status=0x2F, snapshots=[kel.ParameterResult(name="rpm")])
         self.assertEqual((dtc.text1, dtc.value1, dtc.parameters1), ("P0301", 0x2F, dtc.snapshots))
         with self.assertRaises(AttributeError):
