@@ -29,8 +29,8 @@ OK, FAILED, USAGE, PARTLY = 0, 1, 2, 3
 EXIT_CODES = """exit codes:
   0  every target answered
   3  some target answered with an error or a negative response (the data is still printed)
-  1  the call itself failed (the error is on stderr)
-  2  usage: the command line is wrong"""
+  1  the call itself failed (the error is on stderr), or no kel_c library was found
+  2  usage: the command line is wrong, a --library that is missing or is not kel_c too"""
 
 
 def _plain(value: Any) -> Any:
@@ -392,7 +392,8 @@ def main(argv: Optional[Sequence[str]] = None, out: TextIO = sys.stdout) -> int:
         return FAILED
     except LibraryNotFound as e:
         sys.stderr.write(f"kel: {e}\n")
-        return FAILED
+        # --library names the file on the command line: a wrong one is a usage error.
+        return USAGE if args.library else FAILED
     except KeyboardInterrupt:
         return 130
     except BrokenPipeError:
