@@ -14,23 +14,6 @@
 
 namespace kel {
 
-namespace trace {
-
-std::atomic<int> gate{0};
-
-namespace {
-// Registers the mirror while the library is loaded.
-struct Mirror {
-    Mirror() { Vutil::ErrorHandler::addGateMirror(&gate); }
-    Mirror(const Mirror&) = delete;
-    Mirror& operator=(const Mirror&) = delete;
-    ~Mirror() { Vutil::ErrorHandler::removeGateMirror(&gate); }
-};
-const Mirror mirror;
-} // namespace
-
-} // namespace trace
-
 namespace {
 
 // Every block a stream allocates has room for at least this many bytes.
