@@ -31,18 +31,20 @@ struct Slot {
     std::atomic<uint32_t> nextFree{0}; // the free list's next slot + 1, 0 at its end
     uint8_t* block = nullptr;
     uint64_t size = 0;
+    bool small = false; // the block is a small one (OTXStream::inSmallBlock)
 };
 
 // Slots in chunks that are allocated on demand and never freed; a free list (a lock-free
 // stack whose head carries a tag against reuse races) hands them out again.
 class Tickets {
 public:
-    void* issue(uint8_t* block, uint64_t size) {
+    void* issue(uint8_t* block, uint64_t size, bool small) {
         const uint32_t index = take();
         Slot& s = slot(index);
         const uint64_t generation = (s.state.load(std::memory_order_relaxed) >> 1) & 0xFFFFFFFFU;
         s.block = block;
         s.size = size;
+        s.small = small;
         s.state.store(generation << 1 | 1U, std::memory_order_release);
         return reinterpret_cast<void*>(generation << 32 | (uint64_t{index} + 1)); // NOLINT
     }
@@ -68,10 +70,11 @@ public:
         }
         uint8_t* block = s.block;
         const uint64_t size = s.size;
+        const bool small = s.small;
         s.block = nullptr;
         give(index);
         OTXStream::copyOut(destination, block, size);
-        OTXStream::release(block);
+        OTXStream::release(block, small);
         return true;
     }
 
@@ -131,7 +134,7 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
     std::shared_ptr<TarnApi> selected;
     std::optional<TarnApiException> rejected;
     try {
-        selected = handle == 0 ? Varno::Kel_cpp::getTarnApi()
+        selected = handle == 0 ? kel::dispatch::localEngine()
                                : Varno::Kel_cpp::getRemoteConnectionByHandle(handle);
     } catch (TarnApiException exception) { // NOLINT(misc-throw-by-value-catch-by-reference)
         rejected = std::move(exception);
@@ -149,6 +152,8 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
         return;
     }
     OTXStream out(true, false, true);
+    out.startInKeptBlock();
+    out.write(uint8_t{1}); // the status; the error path below starts the stream afresh
     try {
         try {
             if (rejected) {
@@ -162,10 +167,10 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
             std::shared_ptr<TarnApi> local;
             TarnApi* engine = selected.get();
             if (!operation->selected && handle != 0) {
-                local = Varno::Kel_cpp::getTarnApi();
+                local = kel::dispatch::localEngine();
                 engine = local.get();
             }
-            operation->call(*engine, in, out, {true, nullptr});
+            operation->call(*engine, in, out, nullptr);
         } catch (const kel::MalformedInput& problem) {
             throw kel::dispatch::malformed(*operation, problem);
         }
@@ -174,7 +179,7 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
         out.write(uint8_t{0});
         kel::dispatch::writeError(out, exception);
     }
-    *outStream = tickets.issue(out.buffer, out.position);
+    *outStream = tickets.issue(out.buffer, out.position, out.inSmallBlock());
     *outSize = out.position;
     out.detach();
 }
