@@ -97,8 +97,6 @@ KEL_ALWAYS_INLINE bool wellFormed(const unsigned char* bytes, std::size_t length
     return false;
 }
 
-#if !defined(_WIN32)
-
 constexpr char32_t replacement = 0xFFFD;
 
 KEL_ALWAYS_INLINE std::size_t put(char32_t c, unsigned char* out) {
@@ -119,6 +117,8 @@ KEL_ALWAYS_INLINE std::size_t put(char32_t c, unsigned char* out) {
     out[3] = static_cast<unsigned char>(0x80 | (c & 0x3F));
     return 4;
 }
+
+#if !defined(_WIN32)
 
 // Decodes the character at bytes[i], a lead byte 0x80 or above; a malformed sequence
 // yields U+FFFD and consumes its maximal subpart: the bytes that could still begin a
@@ -166,21 +166,6 @@ KEL_ALWAYS_INLINE char32_t next(const unsigned char* bytes, std::size_t length, 
 
 } // namespace
 
-#if defined(_WIN32)
-
-// The system's converter, straight into the caller's room (a surrogate pair of two units
-// becomes 4 bytes, every other unit at most 3).
-std::size_t encodeTo(const wchar_t* text, std::size_t length, unsigned char* out) {
-    if (length == 0) {
-        return 0;
-    }
-    return static_cast<std::size_t>(WideCharToMultiByte(
-        CP_UTF8, 0, text, static_cast<int>(length), reinterpret_cast<char*>(out), // NOLINT
-        static_cast<int>(maxBytes(length)), nullptr, nullptr));
-}
-
-#else
-
 // ASCII goes a block at a time. Where a block attempt fails (a character outside ASCII
 // is near), the next attempt waits a few characters: in text that mixes the two, failed
 // attempts would cost more than the blocks save.
@@ -226,15 +211,31 @@ std::size_t encodeTo(const wchar_t* text, std::size_t length, unsigned char* out
             continue;
         }
         ++i;
-        if ((c >= 0xD800 && c <= 0xDFFF) || c > 0x10FFFF) {
-            c = replacement; // not a character: the Windows converter substitutes too
+        if (c >= 0xD800 && c <= 0xDFFF) {
+            if (sizeof(wchar_t) == 2 && c <= 0xDBFF && i < length &&
+                (static_cast<char32_t>(text[i]) & 0xFC00U) == 0xDC00) {
+                c = 0x10000 + ((c - 0xD800) << 10) + (static_cast<char32_t>(text[i]) - 0xDC00);
+                ++i;
+            } else {
+#if defined(_WIN32)
+                // An unpaired surrogate: the system's converter takes the rest, so that
+                // what it makes of such text stays exactly its own.
+                --i;
+                return n + static_cast<std::size_t>(WideCharToMultiByte(
+                               CP_UTF8, 0, text + i, static_cast<int>(length - i),
+                               reinterpret_cast<char*>(out + n), // NOLINT
+                               static_cast<int>(maxBytes(length - i)), nullptr, nullptr));
+#else
+                c = replacement; // not a character: the Windows converter substitutes too
+#endif
+            }
+        } else if (c > 0x10FFFF) {
+            c = replacement;
         }
         n += put(c, out + n);
     }
     return n;
 }
-
-#endif
 
 // Not well-formed: on Windows the system's converter takes the rest (the units it wrote
 // are returned), elsewhere the full decoder replaces the character at bytes[i].
