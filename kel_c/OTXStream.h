@@ -28,6 +28,14 @@
 #include <type_traits>
 #include <vector>
 
+// The primitive writes are inlined wherever a record is written: out of line, a call
+// costs more than the store it makes (compilers otherwise decide by the size of the unit).
+#if defined(__GNUC__)
+#define KEL_STREAM_INLINE __attribute__((always_inline))
+#else
+#define KEL_STREAM_INLINE
+#endif
+
 namespace kel {
 
 // A bit set member or argument: travels as one u32, or under flagsAsList as a list.
@@ -144,14 +152,16 @@ struct OTXStream {
     // ---- writing ----
     // Primitives are copied as they lie in memory (the targets are little-endian), inline:
     // a capacity check and a store while the buffer has room.
-    OTXStream& write(bool value) { return write(static_cast<uint8_t>(value ? 1 : 0)); }
-    OTXStream& write(uint8_t value) { return putValue(value); }
-    OTXStream& write(uint16_t value) { return putValue(value); }
-    OTXStream& write(int16_t value) { return putValue(value); }
-    OTXStream& write(int32_t value) { return putValue(value); }
-    OTXStream& write(uint32_t value) { return putValue(value); }
-    OTXStream& write(int64_t value) { return putValue(value); }
-    OTXStream& write(uint64_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(bool value) {
+        return write(static_cast<uint8_t>(value ? 1 : 0));
+    }
+    KEL_STREAM_INLINE OTXStream& write(uint8_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(uint16_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(int16_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(int32_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(uint32_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(int64_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(uint64_t value) { return putValue(value); }
     OTXStream& write(Bits value);
     OTXStream& write(const std::wstring& text);
     OTXStream& write(const std::vector<uint8_t>& bytes);
@@ -214,7 +224,7 @@ struct OTXStream {
 
 private:
     template <class T>
-    OTXStream& putValue(T value) {
+    KEL_STREAM_INLINE OTXStream& putValue(T value) {
         std::memcpy(reserve(sizeof value), &value, sizeof value);
         position += static_cast<uint32_t>(sizeof value);
         return *this;
