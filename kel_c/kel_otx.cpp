@@ -3,10 +3,11 @@
 // The stream pointer handed out is a ticket for the result, not an address: its low 32
 // bits name a slot, its high 32 bits the slot's generation. The slot holds the result's
 // one block (the written stream's buffer) and its size until kel_call_result claims it
-// with one compare-and-swap, copies the bytes out and frees the block. So a runtime that
-// fetches every result leaks nothing, and a ticket fetched already, or never issued,
-// finds no live slot of its generation and copies nothing. Slots are reused, never freed,
-// so even a stale ticket reads valid memory; no lock and no search on either side.
+// with one compare-and-swap, copies the bytes out and frees the block (a small one is kept
+// for the next result instead, see OTXStream::release). So a runtime that fetches every
+// result leaks nothing, and a ticket fetched already, or never issued, finds no live slot
+// of its generation and copies nothing. Slots are reused, never freed, so even a stale
+// ticket reads valid memory; no lock and no search on either side.
 #include "dispatch.h"
 #include "trace.h"
 
@@ -163,7 +164,7 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
                 throw kel::dispatch::notAvailable(*operation);
             }
             // Operations not served by the selected engine use the local one: the one
-            // held already for handle 0, else fetched afresh.
+            // held already for handle 0, else the local engine held for this call.
             std::shared_ptr<TarnApi> local;
             TarnApi* engine = selected.get();
             if (!operation->selected && handle != 0) {
