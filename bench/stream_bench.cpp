@@ -95,15 +95,9 @@ BENCHMARK(MemcpyRecordBytes)->Range(1 << 10, 16 << 20);
 
 // ---- UTF-8: short strings (ns per string) and long text, against iconv ----
 
-const std::wstring shortText = L"Motorsteuergerät ECM 0x7E0 Zündung"; // 34 code units
-const std::wstring longAscii(1 << 20, L'x');                          // 1 Mi characters
-const std::wstring longMixed = [] {
-    std::wstring text;
-    while (text.size() < (1U << 20)) {
-        text += L"Grüße aus Köln – \U0001F697 ";
-    }
-    return text;
-}();
+const std::wstring& shortText = kel_bench::sampleTexts()[0].second; // 34 code units
+const std::wstring& longAscii = kel_bench::sampleTexts()[1].second; // 1 Mi characters
+const std::wstring& longMixed = kel_bench::sampleTexts()[2].second;
 
 // A string written to a stream, as a result's texts are: length prefix, then UTF-8.
 void StreamWriteText(benchmark::State& state, const std::wstring& text) {

@@ -5,6 +5,8 @@
 #include <OTXStream.h>
 #include <cstddef>
 #include <memory>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace kel_bench {
@@ -37,6 +39,23 @@ inline std::size_t encode(const std::vector<std::shared_ptr<Varno::Kel_cpp::KelE
         out.write(record);
     }
     return out.position;
+}
+
+// The texts of the string benchmarks: a short name with two umlauts (34 characters), and
+// 1 Mi characters of ASCII and of text that mixes ASCII with two-, three- and four-byte
+// characters.
+inline const std::vector<std::pair<const char*, std::wstring>>& sampleTexts() {
+    static const std::vector<std::pair<const char*, std::wstring>> texts = [] {
+        std::wstring mixed;
+        while (mixed.size() < (1U << 20)) {
+            mixed += L"Grüße aus Köln – \U0001F697 ";
+        }
+        return std::vector<std::pair<const char*, std::wstring>>{
+            {"short_string", L"Motorsteuergerät ECM 0x7E0 Zündung"},
+            {"long_ascii", std::wstring(1U << 20, L'x')},
+            {"long_non_ascii", mixed}};
+    }();
+    return texts;
 }
 
 } // namespace kel_bench

@@ -9,60 +9,11 @@
 #include <atomic>
 #include <cstdlib>
 #include <cstring>
-#include <malloc.h>
 #include <new>
 
 namespace kel {
 
-namespace trace {
-
-std::atomic<int> gate{0};
-
-namespace {
-// Registers the mirror while the library is loaded.
-struct Mirror {
-    Mirror() { Vutil::ErrorHandler::addGateMirror(&gate); }
-    Mirror(const Mirror&) = delete;
-    Mirror& operator=(const Mirror&) = delete;
-    ~Mirror() { Vutil::ErrorHandler::removeGateMirror(&gate); }
-};
-const Mirror mirror;
-} // namespace
-
-} // namespace trace
-
-namespace {
-
-// Every block a stream allocates has room for at least this many bytes.
-constexpr std::size_t smallBlock = 64;
-
-// The one small block kept between a result's release and the next stream's first write.
-std::atomic<uint8_t*> spare{nullptr};
-
-// The block's real size, whatever the caller says about it.
-std::size_t usableSize(void* block) {
-#if defined(_WIN32)
-    return _msize(block);
-#else
-    return malloc_usable_size(block);
-#endif
-}
-
-} // namespace
-
-void OTXStream::release(uint8_t* detached) {
-    if (detached != nullptr) {
-        const std::size_t usable = usableSize(detached);
-        if (usable >= smallBlock && usable <= 4 * smallBlock) {
-            uint8_t* none = nullptr;
-            if (spare.compare_exchange_strong(none, detached, std::memory_order_release,
-                                              std::memory_order_relaxed)) {
-                return;
-            }
-        }
-    }
-    std::free(detached);
-}
+std::atomic<uint8_t*> keptBlock{nullptr};
 
 // Geometric growth: writing many small values costs amortised constant time on every
 // heap (an exact-size realloc per write is quadratic on the Windows heap).
@@ -72,9 +23,8 @@ void OTXStream::grow(std::size_t count) {
         throw std::length_error("OTXStream: a result stream is limited to 4 GiB");
     }
     if (buffer == nullptr && needed <= smallBlock) {
-        if (uint8_t* kept = spare.exchange(nullptr, std::memory_order_acquire)) {
-            buffer = kept;
-            capacity = smallBlock;
+        startInKeptBlock();
+        if (buffer != nullptr) {
             return;
         }
     }

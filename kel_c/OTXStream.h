@@ -17,6 +17,7 @@
 
 #include <EngineFields.h>
 #include <array>
+#include <atomic>
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
@@ -26,6 +27,14 @@
 #include <tuple>
 #include <type_traits>
 #include <vector>
+
+// The primitive writes are inlined wherever a record is written: out of line, a call
+// costs more than the store it makes (compilers otherwise decide by the size of the unit).
+#if defined(__GNUC__)
+#define KEL_STREAM_INLINE __attribute__((always_inline))
+#else
+#define KEL_STREAM_INLINE
+#endif
 
 namespace kel {
 
@@ -48,6 +57,13 @@ public:
 // 1 KB a level), while parameter and directory trees of real use stay far below it.
 // kel_c.h states the figure to callers.
 inline constexpr uint32_t maxRecordDepth = 256;
+
+// Every block an output stream allocates has room for at least this many bytes, and a
+// block of up to smallResultBlock bytes counts as small: one such block is kept between a
+// result's release and the next stream, so that a trivial call allocates nothing.
+inline constexpr uint32_t smallBlock = 64;
+inline constexpr uint32_t smallResultBlock = 4 * smallBlock;
+extern std::atomic<uint8_t*> keptBlock; // a small block with room for smallBlock bytes, or null
 
 struct OTXStream {
     uint8_t* buffer = nullptr; // the caller's bytes (input) or a C-heap block (output)
@@ -91,10 +107,28 @@ struct OTXStream {
         return out;
     }
 
-    // Frees a buffer that a stream handed over (detach) once its bytes are copied out. One
-    // small block is kept for the next stream's first write instead: a trivial call's
-    // result then costs no allocation.
-    static void release(uint8_t* detached);
+    // Starts an empty output stream in the kept small block, when there is one.
+    void startInKeptBlock() {
+        buffer = keptBlock.exchange(nullptr, std::memory_order_acquire);
+        capacity = buffer != nullptr ? smallBlock : 0;
+    }
+
+    // True while the written buffer is a small block (see smallResultBlock).
+    bool inSmallBlock() const { return capacity <= smallResultBlock; }
+
+    // Frees a buffer that a stream handed over (detach) once its bytes are copied out.
+    // A small block (the caller knows it was: inSmallBlock() when it was handed over) is
+    // kept for the next stream instead, unless one is kept already.
+    static void release(uint8_t* detached, bool small) {
+        if (small && detached != nullptr) {
+            uint8_t* none = nullptr;
+            if (keptBlock.compare_exchange_strong(none, detached, std::memory_order_release,
+                                                  std::memory_order_relaxed)) {
+                return;
+            }
+        }
+        std::free(detached);
+    }
 
     // Copies a result out: up to 16 bytes (a trivial call's result) in two overlapping
     // fixed-size moves instead of a call to memcpy.
@@ -118,14 +152,16 @@ struct OTXStream {
     // ---- writing ----
     // Primitives are copied as they lie in memory (the targets are little-endian), inline:
     // a capacity check and a store while the buffer has room.
-    OTXStream& write(bool value) { return write(static_cast<uint8_t>(value ? 1 : 0)); }
-    OTXStream& write(uint8_t value) { return putValue(value); }
-    OTXStream& write(uint16_t value) { return putValue(value); }
-    OTXStream& write(int16_t value) { return putValue(value); }
-    OTXStream& write(int32_t value) { return putValue(value); }
-    OTXStream& write(uint32_t value) { return putValue(value); }
-    OTXStream& write(int64_t value) { return putValue(value); }
-    OTXStream& write(uint64_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(bool value) {
+        return write(static_cast<uint8_t>(value ? 1 : 0));
+    }
+    KEL_STREAM_INLINE OTXStream& write(uint8_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(uint16_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(int16_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(int32_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(uint32_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(int64_t value) { return putValue(value); }
+    KEL_STREAM_INLINE OTXStream& write(uint64_t value) { return putValue(value); }
     OTXStream& write(Bits value);
     OTXStream& write(const std::wstring& text);
     OTXStream& write(const std::vector<uint8_t>& bytes);
@@ -188,7 +224,7 @@ struct OTXStream {
 
 private:
     template <class T>
-    OTXStream& putValue(T value) {
+    KEL_STREAM_INLINE OTXStream& putValue(T value) {
         std::memcpy(reserve(sizeof value), &value, sizeof value);
         position += static_cast<uint32_t>(sizeof value);
         return *this;

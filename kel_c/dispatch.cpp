@@ -3,37 +3,75 @@
 #include "generated/dispatch_table.h"
 #include "utf8.h"
 
+#include <Kel_cpp/Engine.h>
+
 #include <array>
+#include <atomic>
 #include <cstddef>
 #include <cstdint>
+#include <memory>
+#include <thread>
 
 namespace kel::dispatch {
 
-namespace {
+static_assert(operations.back().number == highestNumber);
 
-// The table's position of each number from 0 to the highest, -1 for numbers that name no
-// operation: the numbers are dense, so one array lookup replaces a search.
-constexpr auto positions = [] {
-    std::array<int16_t, operations.back().number + 1> out{};
-    for (auto& position : out) {
-        position = -1;
-    }
-    for (std::size_t i = 0; i < operations.size(); ++i) {
-        out[static_cast<std::size_t>(operations[i].number)] = static_cast<int16_t>(i);
+constinit const std::array<const Operation*, highestNumber + 1> byNumber = [] {
+    std::array<const Operation*, highestNumber + 1> out{};
+    for (const auto& operation : operations) {
+        out[static_cast<std::size_t>(operation.number)] = &operation;
     }
     return out;
 }();
-static_assert(operations.size() < INT16_MAX);
+
+namespace {
+
+// The weak reference is read and replaced under a flag that is held for a few
+// instructions (a weak_ptr lock or assignment, never a call into the engine), so a spin
+// costs less than any lock would.
+class LocalEngineCache {
+public:
+    std::shared_ptr<TarnApi> get() {
+        {
+            const Hold hold(busy_);
+            if (auto held = last_.lock()) {
+                return held;
+            }
+        }
+        auto fresh = Varno::Kel_cpp::getTarnApi();
+        std::weak_ptr<TarnApi> previous = fresh;
+        {
+            const Hold hold(busy_);
+            last_.swap(previous);
+        }
+        return fresh; // `previous`, maybe the last reference to a gone object, goes here
+    }
+
+private:
+    class Hold {
+    public:
+        explicit Hold(std::atomic_flag& flag) : flag_(flag) {
+            while (flag_.test_and_set(std::memory_order_acquire)) {
+                std::this_thread::yield();
+            }
+        }
+        Hold(const Hold&) = delete;
+        Hold& operator=(const Hold&) = delete;
+        ~Hold() { flag_.clear(std::memory_order_release); }
+
+    private:
+        std::atomic_flag& flag_;
+    };
+
+    std::atomic_flag busy_;
+    std::weak_ptr<TarnApi> last_;
+};
+
+LocalEngineCache localEngineCache; // NOLINT(cppcoreguidelines-avoid-non-const-global-variables)
 
 } // namespace
 
-const Operation* find(int32_t number) {
-    const auto index = static_cast<uint32_t>(number);
-    if (index >= positions.size() || positions[index] < 0) {
-        return nullptr;
-    }
-    return &operations[static_cast<std::size_t>(positions[index])];
-}
+std::shared_ptr<TarnApi> localEngine() { return localEngineCache.get(); }
 
 void writeError(OTXStream& out, const Varno::Kel_cpp::TarnApiException& exception) {
     auto error = std::make_shared<Varno::Kel_cpp::KelError>();

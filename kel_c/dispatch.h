@@ -12,6 +12,7 @@
 
 #include <Kel_cpp/TarnApi.h>
 
+#include <array>
 #include <cstdint>
 #include <memory>
 #include <tuple>
@@ -21,12 +22,10 @@ namespace kel::dispatch {
 
 using Varno::Kel_cpp::TarnApi;
 
-struct Result {
-    bool writeStatus;  // kel_call: a status byte 1 precedes the results
-    int32_t* returned; // py_call: receives a 32-bit result for the operations that return one
-};
-
-using Call = void (*)(TarnApi& api, OTXStream& in, OTXStream& out, const Result& result);
+// Reads the arguments, calls the engine and writes the results. `returned`, when not
+// null, receives a 32-bit result for the operations that return one (py_call). kel_call
+// writes its status byte before, and rewrites the stream when the engine throws.
+using Call = void (*)(TarnApi& api, OTXStream& in, OTXStream& out, int32_t* returned);
 
 struct Operation {
     int32_t number = 0;
@@ -63,33 +62,44 @@ inline void writeResult(OTXStream& out, const std::shared_ptr<TarnApi>& engine) 
 }
 
 template <auto Member, bool Discard = false>
-void call(TarnApi& api, OTXStream& in, OTXStream& out, const Result& result) {
+void call(TarnApi& api, OTXStream& in, OTXStream& out, int32_t* returned) {
     using S = Signature<decltype(Member)>;
     typename S::Arguments arguments;
     // A braced list reads in order; a function's argument list would not.
     std::apply([&](auto&... argument) { (readArgument(in, argument), ...); }, arguments);
     if constexpr (std::is_void_v<typename S::ResultType> || Discard) {
         std::apply([&](auto&... argument) { (api.*Member)(argument...); }, arguments);
-        if (result.writeStatus) {
-            out.write(uint8_t{1});
-        }
     } else {
         const auto value =
             std::apply([&](auto&... argument) { return (api.*Member)(argument...); }, arguments);
-        if (result.writeStatus) {
-            out.write(uint8_t{1});
-        }
         writeResult(out, value);
         if constexpr (std::is_integral_v<typename S::ResultType>) {
-            if (result.returned != nullptr) {
-                *result.returned = static_cast<int32_t>(value);
+            if (returned != nullptr) {
+                *returned = static_cast<int32_t>(value);
             }
         }
     }
 }
 
-// The operation behind a dispatcher number, or null for numbers that name none.
-const Operation* find(int32_t number);
+// The dispatcher numbers run densely from 2 to highestNumber; byNumber holds each one's
+// table entry, null for numbers that name no operation (dispatch.cpp checks the table).
+inline constexpr int32_t highestNumber = 280;
+extern const std::array<const Operation*, highestNumber + 1> byNumber;
+
+// The operation behind a dispatcher number, or null for numbers that name none: one
+// bounds check and one load, inline in both dispatchers.
+inline const Operation* find(int32_t number) {
+    const auto index = static_cast<uint32_t>(number);
+    return index < byNumber.size() ? byNumber[index] : nullptr;
+}
+
+// The local engine for the length of one call. The engine hands out one local object for
+// as long as that object lives and starts a new one only once it is gone, so the binding
+// remembers the object it was given by a weak reference and asks the engine again only
+// when the object has gone: a call then costs an increment of the object's use count
+// instead of a trip through the engine's lock. The reference returned holds the object
+// for the call, exactly as the engine's own would.
+std::shared_ptr<TarnApi> localEngine();
 
 // Writes the error record of a failed call: presence, code, message, details,
 // subCode, the MVCI error and the negative response (always null from an exception).

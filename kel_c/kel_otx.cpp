@@ -3,10 +3,11 @@
 // The stream pointer handed out is a ticket for the result, not an address: its low 32
 // bits name a slot, its high 32 bits the slot's generation. The slot holds the result's
 // one block (the written stream's buffer) and its size until kel_call_result claims it
-// with one compare-and-swap, copies the bytes out and frees the block. So a runtime that
-// fetches every result leaks nothing, and a ticket fetched already, or never issued,
-// finds no live slot of its generation and copies nothing. Slots are reused, never freed,
-// so even a stale ticket reads valid memory; no lock and no search on either side.
+// with one compare-and-swap, copies the bytes out and frees the block (a small one is kept
+// for the next result instead, see OTXStream::release). So a runtime that fetches every
+// result leaks nothing, and a ticket fetched already, or never issued, finds no live slot
+// of its generation and copies nothing. Slots are reused, never freed, so even a stale
+// ticket reads valid memory; no lock and no search on either side.
 #include "dispatch.h"
 #include "trace.h"
 
@@ -31,18 +32,20 @@ struct Slot {
     std::atomic<uint32_t> nextFree{0}; // the free list's next slot + 1, 0 at its end
     uint8_t* block = nullptr;
     uint64_t size = 0;
+    bool small = false; // the block is a small one (OTXStream::inSmallBlock)
 };
 
 // Slots in chunks that are allocated on demand and never freed; a free list (a lock-free
 // stack whose head carries a tag against reuse races) hands them out again.
 class Tickets {
 public:
-    void* issue(uint8_t* block, uint64_t size) {
+    void* issue(uint8_t* block, uint64_t size, bool small) {
         const uint32_t index = take();
         Slot& s = slot(index);
         const uint64_t generation = (s.state.load(std::memory_order_relaxed) >> 1) & 0xFFFFFFFFU;
         s.block = block;
         s.size = size;
+        s.small = small;
         s.state.store(generation << 1 | 1U, std::memory_order_release);
         return reinterpret_cast<void*>(generation << 32 | (uint64_t{index} + 1)); // NOLINT
     }
@@ -68,10 +71,11 @@ public:
         }
         uint8_t* block = s.block;
         const uint64_t size = s.size;
+        const bool small = s.small;
         s.block = nullptr;
         give(index);
         OTXStream::copyOut(destination, block, size);
-        OTXStream::release(block);
+        OTXStream::release(block, small);
         return true;
     }
 
@@ -131,7 +135,7 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
     std::shared_ptr<TarnApi> selected;
     std::optional<TarnApiException> rejected;
     try {
-        selected = handle == 0 ? Varno::Kel_cpp::getTarnApi()
+        selected = handle == 0 ? kel::dispatch::localEngine()
                                : Varno::Kel_cpp::getRemoteConnectionByHandle(handle);
     } catch (TarnApiException exception) { // NOLINT(misc-throw-by-value-catch-by-reference)
         rejected = std::move(exception);
@@ -149,6 +153,8 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
         return;
     }
     OTXStream out(true, false, true);
+    out.startInKeptBlock();
+    out.write(uint8_t{1}); // the status; the error path below starts the stream afresh
     try {
         try {
             if (rejected) {
@@ -158,14 +164,14 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
                 throw kel::dispatch::notAvailable(*operation);
             }
             // Operations not served by the selected engine use the local one: the one
-            // held already for handle 0, else fetched afresh.
+            // held already for handle 0, else the local engine held for this call.
             std::shared_ptr<TarnApi> local;
             TarnApi* engine = selected.get();
             if (!operation->selected && handle != 0) {
-                local = Varno::Kel_cpp::getTarnApi();
+                local = kel::dispatch::localEngine();
                 engine = local.get();
             }
-            operation->call(*engine, in, out, {true, nullptr});
+            operation->call(*engine, in, out, nullptr);
         } catch (const kel::MalformedInput& problem) {
             throw kel::dispatch::malformed(*operation, problem);
         }
@@ -174,7 +180,7 @@ void call(uint64_t handle, int32_t number, const void* input, const uint64_t* in
         out.write(uint8_t{0});
         kel::dispatch::writeError(out, exception);
     }
-    *outStream = tickets.issue(out.buffer, out.position);
+    *outStream = tickets.issue(out.buffer, out.position, out.inSmallBlock());
     *outSize = out.position;
     out.detach();
 }

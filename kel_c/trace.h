@@ -1,14 +1,18 @@
-// The binding's trace gate: trace lines at level 3 are formatted only while it is open.
-// It mirrors the utility library's gate (listeners registered and the debug level), kept
-// current by that library, so that each hot path pays one load rather than a call.
+// The binding's trace gate: trace lines at level 3 are formatted only while it is open,
+// that is while the utility library's ErrorHandler has a listener and its debug trace
+// level is at least 3. Both are statics of ErrorHandler, read here directly and without
+// locking: while nobody listens, a hot path pays one load and no call.
 #pragma once
+
+#include <Vutil/ErrorHandler.h>
 
 #include <atomic>
 
 namespace kel::trace {
 
-extern std::atomic<int> gate; // the debug trace level while a listener is registered, else 0
-
-inline bool enabled() { return gate.load(std::memory_order_relaxed) >= 3; }
+inline bool enabled() {
+    return Vutil::ErrorHandler::s_listenerCount.load(std::memory_order_relaxed) > 0 &&
+           Vutil::ErrorHandler::s_debugTraceLevel.load(std::memory_order_relaxed) >= 3;
+}
 
 } // namespace kel::trace

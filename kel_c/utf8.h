@@ -1,9 +1,10 @@
 // UTF-8 <-> wide text for the call stream.
 //
-// On Windows the conversion is the system's (code page 65001); elsewhere a portable
-// codec behaves the same way: malformed input becomes U+FFFD instead of failing, and
-// characters outside the Basic Multilingual Plane survive a round trip (surrogate pairs
-// in UTF-16 wchar_t, single code points in UTF-32 wchar_t).
+// Well-formed text is converted by this codec on every platform (surrogate pairs in UTF-16
+// wchar_t, single code points in UTF-32 wchar_t). What is not well-formed goes, on Windows,
+// to the system's converter (code page 65001) from there on, so that such text comes out
+// exactly as the system makes it; elsewhere the codec behaves the same way itself:
+// malformed input becomes U+FFFD instead of failing.
 //
 // Invalid bytes: each maximal subpart (the longest prefix of a well-formed sequence, or
 // else one byte) becomes one U+FFFD, as the Unicode standard recommends and Windows

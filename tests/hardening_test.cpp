@@ -229,8 +229,8 @@ struct InvalidUtf8 {
 
 constexpr char32_t R = 0xFFFD;
 
-TEST(Utf8Decode, EachMaximalSubpartBecomesOneReplacement) {
-    const std::vector<InvalidUtf8> cases = {
+const std::vector<InvalidUtf8>& invalidUtf8() {
+    static const std::vector<InvalidUtf8> cases = {
         {"encoded surrogate", "\xED\xA0\x80", {R, R, R}, {R, R}},
         {"last encoded surrogate", "\xED\xBF\xBF", {R, R, R}, {R, R}},
         {"above U+10FFFF", "\xF4\x90\x80\x80", {R, R, R, R}, {R, R, R}},
@@ -260,10 +260,36 @@ TEST(Utf8Decode, EachMaximalSubpartBecomesOneReplacement) {
         {"first four-byte", "\xF0\x90\x80\x80", {0x10000}},
         {"last code point", "\xF4\x8F\xBF\xBF", {0x10FFFF}},
     };
-    const bool wine = underWine();
-    for (const auto& c : cases) {
-        const auto& expected = wine && !c.underWine.empty() ? c.underWine : c.expected;
-        EXPECT_EQ(kel::utf8::decode(c.bytes), wide(expected)) << c.what;
+    return cases;
+}
+
+const std::u32string& expectedHere(const InvalidUtf8& c) {
+    return underWine() && !c.underWine.empty() ? c.underWine : c.expected;
+}
+
+TEST(Utf8Decode, EachMaximalSubpartBecomesOneReplacement) {
+    for (const auto& c : invalidUtf8()) {
+        EXPECT_EQ(kel::utf8::decode(c.bytes), wide(expectedHere(c))) << c.what;
+    }
+}
+
+// Long text is decoded in two halves cut at a character's start: every case inside a
+// long text, with the cut falling on each byte of a stretch of them, decodes as it does
+// alone.
+TEST(Utf8Decode, LongTextDecodesAsItsParts) {
+    std::string bytes;
+    std::u32string expected;
+    for (int round = 0; bytes.size() < 8192; ++round) {
+        for (const auto& c : invalidUtf8()) {
+            bytes += c.bytes + std::string(static_cast<std::size_t>(round % 7), 'a') + "\xC3\xA9";
+            expected += expectedHere(c) +
+                        std::u32string(static_cast<std::size_t>(round % 7), U'a') + U"\u00E9";
+        }
+    }
+    for (std::size_t shift = 0; shift < 64; ++shift) {
+        EXPECT_EQ(kel::utf8::decode(std::string(shift, 'z') + bytes),
+                  wide(std::u32string(shift, U'z') + expected))
+            << shift;
     }
 }
 

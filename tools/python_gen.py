@@ -321,8 +321,13 @@ def reader(iface: kelidl.Interface, rec: kelidl.Record, pool: StructPool) -> lis
                     f"        e_{local}, p = read_{f.record}(b, p)",
                     f"        {local}.append(e_{local})"]
         values.append((f, local))
-    args = ", ".join(f"{py_name(iface, rec.name, f.name)}={typed(f, loc)}" for f, loc in values)
-    out.append(f"    return {target}({args}), p")
+    if target == rec.name:
+        # The values are in the order of the dataclass's fields (both follow the members):
+        # positions instead of keywords, see kel/_stream.py.
+        out.append(f"    return _make_{target}({', '.join(typed(f, loc) for f, loc in values)}), p")
+    else:
+        args = ", ".join(f"{py_name(iface, rec.name, f.name)}={typed(f, loc)}" for f, loc in values)
+        out.append(f"    return {target}({args}), p")
     return out + ["", ""]
 
 
@@ -433,6 +438,10 @@ def stream_py(iface: kelidl.Interface) -> str:
     if names:
         out.append("from .records import " + ", ".join(names))
     out += enum_import(iface, stream_classes(iface))[:1]
+    made = [r.name for r in stream_classes(iface) if c_name(iface, r.name) == r.name]
+    if made:
+        out += ["from .._stream import positional", ""]
+        out += [f"_make_{name} = positional({name})" for name in made]
     out.append(STREAM_HELPERS)
     # Bound methods: one attribute lookup less per value on the hot path.
     for code, name in pool.codes.items():

@@ -17,17 +17,6 @@ namespace {
 struct Listeners {
     std::mutex mutex;
     std::vector<std::shared_ptr<TraceListener>> all;
-    std::atomic<int> count{0};
-    std::atomic<int> level{0};
-    std::vector<std::atomic<int>*> mirrors;
-
-    // Under the mutex.
-    void publish() {
-        const int gate = all.empty() ? 0 : level.load();
-        for (auto* mirror : mirrors) {
-            mirror->store(gate, std::memory_order_relaxed);
-        }
-    }
 };
 
 Listeners& listeners() {
@@ -37,42 +26,25 @@ Listeners& listeners() {
 
 } // namespace
 
-int ErrorHandler::listenerCount() { return listeners().count.load(std::memory_order_relaxed); }
-int ErrorHandler::debugTraceLevel() { return listeners().level.load(std::memory_order_relaxed); }
-void ErrorHandler::setDebugTraceLevel(int level) {
-    auto& l = listeners();
-    const std::lock_guard lock(l.mutex);
-    l.level.store(level);
-    l.publish();
-}
+std::atomic<int> ErrorHandler::s_listenerCount{0};
+std::atomic<int> ErrorHandler::s_debugTraceLevel{0};
 
-void ErrorHandler::addGateMirror(std::atomic<int>* mirror) {
-    auto& l = listeners();
-    const std::lock_guard lock(l.mutex);
-    l.mirrors.push_back(mirror);
-    l.publish();
-}
-
-void ErrorHandler::removeGateMirror(std::atomic<int>* mirror) {
-    auto& l = listeners();
-    const std::lock_guard lock(l.mutex);
-    l.mirrors.erase(std::remove(l.mirrors.begin(), l.mirrors.end(), mirror), l.mirrors.end());
-}
+int ErrorHandler::listenerCount() { return s_listenerCount.load(std::memory_order_relaxed); }
+int ErrorHandler::debugTraceLevel() { return s_debugTraceLevel.load(std::memory_order_relaxed); }
+void ErrorHandler::setDebugTraceLevel(int level) { s_debugTraceLevel.store(level); }
 
 void ErrorHandler::addListener(const std::shared_ptr<TraceListener>& listener) {
     auto& l = listeners();
     const std::lock_guard lock(l.mutex);
     l.all.push_back(listener);
-    l.count.store(static_cast<int>(l.all.size()));
-    l.publish();
+    s_listenerCount.store(static_cast<int>(l.all.size()));
 }
 
 void ErrorHandler::removeListener(const std::shared_ptr<TraceListener>& listener) {
     auto& l = listeners();
     const std::lock_guard lock(l.mutex);
     l.all.erase(std::remove(l.all.begin(), l.all.end(), listener), l.all.end());
-    l.count.store(static_cast<int>(l.all.size()));
-    l.publish();
+    s_listenerCount.store(static_cast<int>(l.all.size()));
 }
 
 void ErrorHandler::dispatch(const std::string& source, const std::string& line) {

@@ -11,6 +11,108 @@ from typing import Optional, Sequence
 
 from .records import ClearDtcResult, CodingFileResult, CodingStringResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EcuConfigurationResult, EcuOrderEntry, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, FlashSessionInfo, FlashSessionResult, FlashSessionsConfig, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MonitoringItem, MonitoringItemDetail, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PduMonitoringItem, PduMonitoringItemDetail, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, QuickTestResult, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UpdatePackageInfo, UploadReportConfiguration, UserInfo, VariantIdentResult, VehicleData, VehicleInformation, VehicleReportConfig, VehicleUpdateConfig, VehicleUpdateResult, WLanSignalData
 from .enums import DtcStatus, EventKind, FlashStatus, ServiceStatus, TargetResultStatus
+from .._stream import positional
+
+_make_MvciServerError = positional(MvciServerError)
+_make_NegativeResponse = positional(NegativeResponse)
+_make_KelError = positional(KelError)
+_make_NamedItem = positional(NamedItem)
+_make_ParameterResult = positional(ParameterResult)
+_make_ClearDtcResult = positional(ClearDtcResult)
+_make_DtcReadConfig = positional(DtcReadConfig)
+_make_ReadDtcResult = positional(ReadDtcResult)
+_make_DtcResult = positional(DtcResult)
+_make_SpecialDataGroup = positional(SpecialDataGroup)
+_make_VariantIdentResult = positional(VariantIdentResult)
+_make_ReadDataResult = positional(ReadDataResult)
+_make_Target = positional(Target)
+_make_TargetStatus = positional(TargetStatus)
+_make_TargetFilter = positional(TargetFilter)
+_make_ParameterInput = positional(ParameterInput)
+_make_ServiceInput = positional(ServiceInput)
+_make_ServiceResult = positional(ServiceResult)
+_make_ResponseResult = positional(ResponseResult)
+_make_RequestResult = positional(RequestResult)
+_make_UnlockResult = positional(UnlockResult)
+_make_ServiceInfo = positional(ServiceInfo)
+_make_ResponseInfo = positional(ResponseInfo)
+_make_ParameterInfo = positional(ParameterInfo)
+_make_ConstraintInfo = positional(ConstraintInfo)
+_make_ScaleConstraintInfo = positional(ScaleConstraintInfo)
+_make_UnitInfo = positional(UnitInfo)
+_make_ParameterInfoConfig = positional(ParameterInfoConfig)
+_make_KelEvent = positional(KelEvent)
+_make_EventReport = positional(EventReport)
+_make_FileFilter = positional(FileFilter)
+_make_TargetConfig = positional(TargetConfig)
+_make_ProjectConfig = positional(ProjectConfig)
+_make_ProjectDetails = positional(ProjectDetails)
+_make_DbFileInfo = positional(DbFileInfo)
+_make_SystemInfo = positional(SystemInfo)
+_make_SystemProperty = positional(SystemProperty)
+_make_TarnApiConfig = positional(TarnApiConfig)
+_make_ServerConfig = positional(ServerConfig)
+_make_Oauth2Config = positional(Oauth2Config)
+_make_MoxConfig = positional(MoxConfig)
+_make_TcpInfo = positional(TcpInfo)
+_make_StatusInfo = positional(StatusInfo)
+_make_TransmissionInfo = positional(TransmissionInfo)
+_make_ProcessInfo = positional(ProcessInfo)
+_make_ProcessEntry = positional(ProcessEntry)
+_make_ProcessThread = positional(ProcessThread)
+_make_ProcessMemory = positional(ProcessMemory)
+_make_GlobalProtocolParameterSet = positional(GlobalProtocolParameterSet)
+_make_GlobalProtocolParameter = positional(GlobalProtocolParameter)
+_make_LoadDatabaseResult = positional(LoadDatabaseResult)
+_make_InterfaceInformation = positional(InterfaceInformation)
+_make_ResourceInformation = positional(ResourceInformation)
+_make_InterfaceInformationItem = positional(InterfaceInformationItem)
+_make_ScanInterfaceResult = positional(ScanInterfaceResult)
+_make_DynInterfaceDetection = positional(DynInterfaceDetection)
+_make_ModuleDyn = positional(ModuleDyn)
+_make_DeviceInfo = positional(DeviceInfo)
+_make_PhysicalLinksOnModule = positional(PhysicalLinksOnModule)
+_make_PhysicalLink = positional(PhysicalLink)
+_make_InterfaceConfiguration = positional(InterfaceConfiguration)
+_make_InterfaceConfigurationEntry = positional(InterfaceConfigurationEntry)
+_make_InterfaceProvider = positional(InterfaceProvider)
+_make_DoIPParameter = positional(DoIPParameter)
+_make_WLanSignalData = positional(WLanSignalData)
+_make_SupportedInterface = positional(SupportedInterface)
+_make_MonitoringItem = positional(MonitoringItem)
+_make_MonitoringItemDetail = positional(MonitoringItemDetail)
+_make_PduMonitoringItem = positional(PduMonitoringItem)
+_make_PduMonitoringItemDetail = positional(PduMonitoringItemDetail)
+_make_FileInfo = positional(FileInfo)
+_make_DirectoryInfo = positional(DirectoryInfo)
+_make_FileCopyResult = positional(FileCopyResult)
+_make_DirectoryCopyResult = positional(DirectoryCopyResult)
+_make_DirectoryCopyItem = positional(DirectoryCopyItem)
+_make_PathCopyResult = positional(PathCopyResult)
+_make_PathCopyItem = positional(PathCopyItem)
+_make_FileReferenceResult = positional(FileReferenceResult)
+_make_FileCopyConfig = positional(FileCopyConfig)
+_make_DirectoryCopyConfig = positional(DirectoryCopyConfig)
+_make_PathCopyConfig = positional(PathCopyConfig)
+_make_UserInfo = positional(UserInfo)
+_make_LogInOutConfig = positional(LogInOutConfig)
+_make_TarnApiServerConfig = positional(TarnApiServerConfig)
+_make_ServerSettings = positional(ServerSettings)
+_make_FlashSessionInfo = positional(FlashSessionInfo)
+_make_FlashSessionResult = positional(FlashSessionResult)
+_make_FlashSessionsConfig = positional(FlashSessionsConfig)
+_make_CodingStringResult = positional(CodingStringResult)
+_make_CodingFileResult = positional(CodingFileResult)
+_make_QuickTestResult = positional(QuickTestResult)
+_make_EcuConfigurationResult = positional(EcuConfigurationResult)
+_make_EcuOrderEntry = positional(EcuOrderEntry)
+_make_VehicleUpdateConfig = positional(VehicleUpdateConfig)
+_make_VehicleUpdateResult = positional(VehicleUpdateResult)
+_make_UpdatePackageInfo = positional(UpdatePackageInfo)
+_make_VehicleReportConfig = positional(VehicleReportConfig)
+_make_VehicleData = positional(VehicleData)
+_make_UploadReportConfiguration = positional(UploadReportConfiguration)
+_make_VehicleInformation = positional(VehicleInformation)
 
 _U32 = struct.Struct("<I")
 _u32_read = _U32.unpack_from
@@ -167,7 +269,7 @@ def read_MvciServerError(b: bytes, p: int) -> tuple[Optional[MvciServerError], i
     p += 4 + n
     v_extra_code, = _S_i_read(b, p)
     p += 4
-    return MvciServerError(code=v_code, code_text=v_code_text, vendor_code=v_vendor_code, vendor_code_text=v_vendor_code_text, extra_text=v_extra_text, extra_code=v_extra_code), p
+    return _make_MvciServerError(v_code, v_code_text, v_vendor_code, v_vendor_code_text, v_extra_text, v_extra_code), p
 
 
 def read_NegativeResponse(b: bytes, p: int) -> tuple[Optional[NegativeResponse], int]:
@@ -184,7 +286,7 @@ def read_NegativeResponse(b: bytes, p: int) -> tuple[Optional[NegativeResponse],
     (n,) = _u32_read(b, p)
     v_bytes = b[p + 4 : p + 4 + n]
     p += 4 + n
-    return NegativeResponse(code=v_code, name=v_text, service_id=v_value1, value2=v_value2, bytes=v_bytes), p
+    return _make_NegativeResponse(v_code, v_text, v_value1, v_value2, v_bytes), p
 
 
 def read_KelError(b: bytes, p: int) -> tuple[Optional[KelError], int]:
@@ -203,7 +305,7 @@ def read_KelError(b: bytes, p: int) -> tuple[Optional[KelError], int]:
     p += 4
     v_mvci_error, p = read_MvciServerError(b, p)
     v_negative_response, p = read_NegativeResponse(b, p)
-    return KelError(code=v_code, message=v_message, details=v_details, sub_code=v_sub_code, mvci_error=v_mvci_error, negative_response=v_negative_response), p
+    return _make_KelError(v_code, v_message, v_details, v_sub_code, v_mvci_error, v_negative_response), p
 
 
 def read_NamedItem(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
@@ -222,7 +324,7 @@ def read_NamedItem(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
     (n,) = _u32_read(b, p)
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return NamedItem(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
+    return _make_NamedItem(v_item_text1, v_item_text2, v_item_text3, v_item_text4), p
 
 
 def read_ParameterResult(b: bytes, p: int) -> tuple[Optional[ParameterResult], int]:
@@ -269,7 +371,7 @@ def read_ParameterResult(b: bytes, p: int) -> tuple[Optional[ParameterResult], i
     p += 4 + n
     v_value3, v_flag, v_value4 = _S_IBi_read(b, p)
     p += 9
-    return ParameterResult(name=v_item_text1, description=v_item_text2, codec=v_item_text3, item_text4=v_item_text4, value=v_text1, unit=v_text2, child_count=v_value1, children=v_children, text3=v_text3, error=v_error, text4=v_text4, byte_position=v_value2, data=v_data, data_length=v_value3, flag=v_flag, value4=v_value4), p
+    return _make_ParameterResult(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_text1, v_text2, v_value1, v_children, v_text3, v_error, v_text4, v_value2, v_data, v_value3, v_flag, v_value4), p
 
 
 def read_ClearDtcResult(b: bytes, p: int) -> tuple[Optional[ClearDtcResult], int]:
@@ -282,7 +384,7 @@ def read_ClearDtcResult(b: bytes, p: int) -> tuple[Optional[ClearDtcResult], int
     v_target = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    return ClearDtcResult(status=TargetResultStatus(v_status), target=v_target, error=v_error), p
+    return _make_ClearDtcResult(TargetResultStatus(v_status), v_target, v_error), p
 
 
 def read_DtcReadConfig(b: bytes, p: int) -> tuple[Optional[DtcReadConfig], int]:
@@ -291,7 +393,7 @@ def read_DtcReadConfig(b: bytes, p: int) -> tuple[Optional[DtcReadConfig], int]:
     p += 1
     v_value, v_flag1, v_flag2, v_flag3 = _S_iBBB_read(b, p)
     p += 7
-    return DtcReadConfig(status_mask=v_value, with_snapshots=v_flag1, with_extended_data=v_flag2, with_special_data=v_flag3), p
+    return _make_DtcReadConfig(v_value, v_flag1, v_flag2, v_flag3), p
 
 
 def read_ReadDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
@@ -312,7 +414,7 @@ def read_ReadDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
         v_dtcs.append(e_v_dtcs)
     v_value, = _S_i_read(b, p)
     p += 4
-    return ReadDtcResult(status=TargetResultStatus(v_status), target=v_target, error=v_error, dtcs=v_dtcs, dtc_total=v_value), p
+    return _make_ReadDtcResult(TargetResultStatus(v_status), v_target, v_error, v_dtcs, v_value), p
 
 
 def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
@@ -355,7 +457,7 @@ def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
         v_special_data_groups.append(e_v_special_data_groups)
     v_value2, = _S_i_read(b, p)
     p += 4
-    return DtcResult(code=v_code, display_code=v_text1, description=v_text2, status=DtcStatus(v_value1), snapshots=v_parameters1, extended_data=v_parameters2, ecu=v_text3, symptom=v_text4, special_data_groups=v_special_data_groups, severity=v_value2), p
+    return _make_DtcResult(v_code, v_text1, v_text2, DtcStatus(v_value1), v_parameters1, v_parameters2, v_text3, v_text4, v_special_data_groups, v_value2), p
 
 
 def read_SpecialDataGroup(b: bytes, p: int) -> tuple[Optional[SpecialDataGroup], int]:
@@ -368,7 +470,7 @@ def read_SpecialDataGroup(b: bytes, p: int) -> tuple[Optional[SpecialDataGroup],
     for _ in range(n):
         e_v_items, p = read_SpecialData(b, p)
         v_items.append(e_v_items)
-    return SpecialDataGroup(items=v_items), p
+    return _make_SpecialDataGroup(v_items), p
 
 
 def read_VariantIdentResult(b: bytes, p: int) -> tuple[Optional[VariantIdentResult], int]:
@@ -384,7 +486,7 @@ def read_VariantIdentResult(b: bytes, p: int) -> tuple[Optional[VariantIdentResu
     (n,) = _u32_read(b, p)
     v_variant = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return VariantIdentResult(target=v_target, status=TargetResultStatus(v_status), error=v_error, variant=v_variant), p
+    return _make_VariantIdentResult(v_target, TargetResultStatus(v_status), v_error, v_variant), p
 
 
 def read_ReadDataResult(b: bytes, p: int) -> tuple[Optional[ReadDataResult], int]:
@@ -406,7 +508,7 @@ def read_ReadDataResult(b: bytes, p: int) -> tuple[Optional[ReadDataResult], int
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
         v_parameters.append(e_v_parameters)
-    return ReadDataResult(target=v_target, status=TargetResultStatus(v_status), variant=v_text, error=v_error, parameters=v_parameters), p
+    return _make_ReadDataResult(v_target, TargetResultStatus(v_status), v_text, v_error, v_parameters), p
 
 
 def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
@@ -451,7 +553,7 @@ def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
     (n,) = _u32_read(b, p)
     v_text5 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return Target(name=v_item_text1, description=v_item_text2, variant=v_item_text3, item_text4=v_item_text4, address=v_value1, protocol=v_text1, bus=v_text2, items=v_items, aliases=v_names, part_number=v_text3, software_version=v_text4, responds=v_value2, hardware_version=v_text5), p
+    return _make_Target(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_value1, v_text1, v_text2, v_items, v_names, v_text3, v_text4, v_value2, v_text5), p
 
 
 def read_TargetStatus(b: bytes, p: int) -> tuple[Optional[TargetStatus], int]:
@@ -470,7 +572,7 @@ def read_TargetStatus(b: bytes, p: int) -> tuple[Optional[TargetStatus], int]:
     (n,) = _u32_read(b, p)
     v_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return TargetStatus(target=v_target, state=v_text, error=v_error, counts=v_values, variant=v_text2), p
+    return _make_TargetStatus(v_target, v_text, v_error, v_values, v_text2), p
 
 
 def read_TargetFilter(b: bytes, p: int) -> tuple[Optional[TargetFilter], int]:
@@ -482,7 +584,7 @@ def read_TargetFilter(b: bytes, p: int) -> tuple[Optional[TargetFilter], int]:
     p += 4 + n
     v_flag, v_value = _S_Bi_read(b, p)
     p += 5
-    return TargetFilter(pattern=v_pattern, exclude=v_flag, tag=v_value), p
+    return _make_TargetFilter(v_pattern, v_flag, v_value), p
 
 
 def read_ParameterInput(b: bytes, p: int) -> tuple[Optional[ParameterInput], int]:
@@ -501,7 +603,7 @@ def read_ParameterInput(b: bytes, p: int) -> tuple[Optional[ParameterInput], int
     (n,) = _u32_read(b, p)
     v_value = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return ParameterInput(name=v_name, children=v_children, value=v_value), p
+    return _make_ParameterInput(v_name, v_children, v_value), p
 
 
 def read_ServiceInput(b: bytes, p: int) -> tuple[Optional[ServiceInput], int]:
@@ -522,7 +624,7 @@ def read_ServiceInput(b: bytes, p: int) -> tuple[Optional[ServiceInput], int]:
     p += 4 + n
     v_value, = _S_Q_read(b, p)
     p += 8
-    return ServiceInput(parameters=v_parameters, service=v_service, data=v_data, value=v_value), p
+    return _make_ServiceInput(v_parameters, v_service, v_data, v_value), p
 
 
 def read_ServiceResult(b: bytes, p: int) -> tuple[Optional[ServiceResult], int]:
@@ -556,7 +658,7 @@ def read_ServiceResult(b: bytes, p: int) -> tuple[Optional[ServiceResult], int]:
     v_request, p = read_RequestResult(b, p)
     v_value1, = _S_i_read(b, p)
     p += 4
-    return ServiceResult(service=v_item_text1, target=v_item_text2, description=v_item_text3, session=v_item_text4, responses=v_responses, status=ServiceStatus(v_status), outcome=v_text1, error=v_error, request=v_request, service_id=v_value1), p
+    return _make_ServiceResult(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_responses, ServiceStatus(v_status), v_text1, v_error, v_request, v_value1), p
 
 
 def read_ResponseResult(b: bytes, p: int) -> tuple[Optional[ResponseResult], int]:
@@ -589,7 +691,7 @@ def read_ResponseResult(b: bytes, p: int) -> tuple[Optional[ResponseResult], int
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
         v_parameters.append(e_v_parameters)
-    return ResponseResult(kind=v_item_text1, target=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, positive=v_flag, error=v_error, data=v_data, time=v_value1, nrc=v_value2, parameters=v_parameters), p
+    return _make_ResponseResult(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_flag, v_error, v_data, v_value1, v_value2, v_parameters), p
 
 
 def read_RequestResult(b: bytes, p: int) -> tuple[Optional[RequestResult], int]:
@@ -608,7 +710,7 @@ def read_RequestResult(b: bytes, p: int) -> tuple[Optional[RequestResult], int]:
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
         v_parameters.append(e_v_parameters)
-    return RequestResult(error=v_error, data=v_data, time=v_value1, value2=v_value2, parameters=v_parameters), p
+    return _make_RequestResult(v_error, v_data, v_value1, v_value2, v_parameters), p
 
 
 def read_UnlockResult(b: bytes, p: int) -> tuple[Optional[UnlockResult], int]:
@@ -623,7 +725,7 @@ def read_UnlockResult(b: bytes, p: int) -> tuple[Optional[UnlockResult], int]:
     for _ in range(n):
         e_v_services, p = read_ServiceResult(b, p)
         v_services.append(e_v_services)
-    return UnlockResult(unlock=v_value, services=v_services), p
+    return _make_UnlockResult(v_value, v_services), p
 
 
 def read_ServiceInfo(b: bytes, p: int) -> tuple[Optional[ServiceInfo], int]:
@@ -668,7 +770,7 @@ def read_ServiceInfo(b: bytes, p: int) -> tuple[Optional[ServiceInfo], int]:
     v_error, p = read_KelError(b, p)
     v_values = list(_S_5I_read(b, p))
     p += 20
-    return ServiceInfo(name=v_item_text1, description=v_item_text2, service_id=v_item_text3, target=v_item_text4, available=v_flag, responses=v_responses, parameters=v_parameters, uds_service=v_text1, sessions=v_items, error=v_error, numbers=v_values), p
+    return _make_ServiceInfo(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_flag, v_responses, v_parameters, v_text1, v_items, v_error, v_values), p
 
 
 def read_ResponseInfo(b: bytes, p: int) -> tuple[Optional[ResponseInfo], int]:
@@ -695,7 +797,7 @@ def read_ResponseInfo(b: bytes, p: int) -> tuple[Optional[ResponseInfo], int]:
     for _ in range(n):
         e_v_parameters, p = read_ParameterInfo(b, p)
         v_parameters.append(e_v_parameters)
-    return ResponseInfo(kind=v_item_text1, first_byte=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, status=v_status, parameters=v_parameters), p
+    return _make_ResponseInfo(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_status, v_parameters), p
 
 
 def read_ParameterInfo(b: bytes, p: int) -> tuple[Optional[ParameterInfo], int]:
@@ -758,7 +860,7 @@ def read_ParameterInfo(b: bytes, p: int) -> tuple[Optional[ParameterInfo], int]:
     v_flag4, = _S_b_read(b, p)
     p += 1
     v_unit, p = read_UnitInfo(b, p)
-    return ParameterInfo(name=v_item_text1, description=v_item_text2, codec=v_item_text3, item_text4=v_item_text4, default_value=v_text1, unit_text=v_text2, data_type=v_text3, byte_position=v_value1, path=v_text4, children=v_children, scaling=v_text5, choices=v_names, constant=v_flag1, byte_length=v_value2, error=v_error, required=v_flag2, numbers=v_values, structure=v_flag3, valid_values=v_constraint1, raw_range=v_constraint2, minimum=v_text6, maximum=v_text7, repeated=v_flag4, unit=v_unit), p
+    return _make_ParameterInfo(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_text1, v_text2, v_text3, v_value1, v_text4, v_children, v_text5, v_names, v_flag1, v_value2, v_error, v_flag2, v_values, v_flag3, v_constraint1, v_constraint2, v_text6, v_text7, v_flag4, v_unit), p
 
 
 def read_ConstraintInfo(b: bytes, p: int) -> tuple[Optional[ConstraintInfo], int]:
@@ -779,7 +881,7 @@ def read_ConstraintInfo(b: bytes, p: int) -> tuple[Optional[ConstraintInfo], int
     for _ in range(n):
         e_v_scales, p = read_ScaleConstraintInfo(b, p)
         v_scales.append(e_v_scales)
-    return ConstraintInfo(kind=v_text1, scale=v_text2, present=v_flag, scales=v_scales), p
+    return _make_ConstraintInfo(v_text1, v_text2, v_flag, v_scales), p
 
 
 def read_ScaleConstraintInfo(b: bytes, p: int) -> tuple[Optional[ScaleConstraintInfo], int]:
@@ -806,7 +908,7 @@ def read_ScaleConstraintInfo(b: bytes, p: int) -> tuple[Optional[ScaleConstraint
     p += 4 + n
     v_flag, v_value = _S_bi_read(b, p)
     p += 5
-    return ScaleConstraintInfo(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, lower=v_text1, upper=v_text2, inclusive=v_flag, raw_value=v_value), p
+    return _make_ScaleConstraintInfo(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_text1, v_text2, v_flag, v_value), p
 
 
 def read_UnitInfo(b: bytes, p: int) -> tuple[Optional[UnitInfo], int]:
@@ -817,7 +919,7 @@ def read_UnitInfo(b: bytes, p: int) -> tuple[Optional[UnitInfo], int]:
     p += 28
     v_value1, v_flag1, v_value2, v_flag2 = _S_QbQb_read(b, p)
     p += 18
-    return UnitInfo(exponents=v_values, factor_bits=v_value1, known=v_flag1, offset_bits=v_value2, has_offset=v_flag2), p
+    return _make_UnitInfo(v_values, v_value1, v_flag1, v_value2, v_flag2), p
 
 
 def read_ParameterInfoConfig(b: bytes, p: int) -> tuple[Optional[ParameterInfoConfig], int]:
@@ -838,7 +940,7 @@ def read_ParameterInfoConfig(b: bytes, p: int) -> tuple[Optional[ParameterInfoCo
     (n,) = _u32_read(b, p)
     v_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return ParameterInfoConfig(target=v_text1, service=v_text2, in_response=v_value, path=v_text3, text4=v_text4), p
+    return _make_ParameterInfoConfig(v_text1, v_text2, v_value, v_text3, v_text4), p
 
 
 def read_KelEvent(b: bytes, p: int) -> tuple[Optional[KelEvent], int]:
@@ -857,7 +959,7 @@ def read_KelEvent(b: bytes, p: int) -> tuple[Optional[KelEvent], int]:
     (n,) = _u32_read(b, p)
     v_detail = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return KelEvent(name=v_name, kind=EventKind(v_kind), code=v_code, message=v_text, error=v_error, detail=v_detail), p
+    return _make_KelEvent(v_name, EventKind(v_kind), v_code, v_text, v_error, v_detail), p
 
 
 def read_EventReport(b: bytes, p: int) -> tuple[Optional[EventReport], int]:
@@ -870,7 +972,7 @@ def read_EventReport(b: bytes, p: int) -> tuple[Optional[EventReport], int]:
     for _ in range(n):
         e_v_events, p = read_KelEvent(b, p)
         v_events.append(e_v_events)
-    return EventReport(events=v_events), p
+    return _make_EventReport(v_events), p
 
 
 def read_FileFilter(b: bytes, p: int) -> tuple[Optional[FileFilter], int]:
@@ -882,7 +984,7 @@ def read_FileFilter(b: bytes, p: int) -> tuple[Optional[FileFilter], int]:
     p += 4 + n
     v_flag, v_value = _S_bI_read(b, p)
     p += 5
-    return FileFilter(pattern=v_pattern, exclude=v_flag, value=v_value), p
+    return _make_FileFilter(v_pattern, v_flag, v_value), p
 
 
 def read_TargetConfig(b: bytes, p: int) -> tuple[Optional[TargetConfig], int]:
@@ -897,7 +999,7 @@ def read_TargetConfig(b: bytes, p: int) -> tuple[Optional[TargetConfig], int]:
     (n,) = _u32_read(b, p)
     v_text2 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return TargetConfig(value=v_value, text1=v_text1, text2=v_text2), p
+    return _make_TargetConfig(v_value, v_text1, v_text2), p
 
 
 def read_ProjectConfig(b: bytes, p: int) -> tuple[Optional[ProjectConfig], int]:
@@ -953,7 +1055,7 @@ def read_ProjectConfig(b: bytes, p: int) -> tuple[Optional[ProjectConfig], int]:
     p += 8
     v_flags = list(_S_4b_read(b, p))
     p += 4
-    return ProjectConfig(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, filters1=v_filters1, value0=v_value0, targets=v_targets, filters2=v_filters2, strings1=v_strings1, text1=v_text1, value1=v_value1, text2=v_text2, strings2=v_strings2, text3=v_text3, value2=v_value2, value3=v_value3, flags=v_flags), p
+    return _make_ProjectConfig(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_filters1, v_value0, v_targets, v_filters2, v_strings1, v_text1, v_value1, v_text2, v_strings2, v_text3, v_value2, v_value3, v_flags), p
 
 
 def read_ProjectDetails(b: bytes, p: int) -> tuple[Optional[ProjectDetails], int]:
@@ -988,7 +1090,7 @@ def read_ProjectDetails(b: bytes, p: int) -> tuple[Optional[ProjectDetails], int
     for _ in range(n):
         e_v_users, p = read_UserInfo(b, p)
         v_users.append(e_v_users)
-    return ProjectDetails(database_files=v_db_files1, loaded_database_files=v_db_files2, name=v_text1, format=v_value1, folder=v_text2, selected=v_value2, users=v_users), p
+    return _make_ProjectDetails(v_db_files1, v_db_files2, v_text1, v_value1, v_text2, v_value2, v_users), p
 
 
 def read_DbFileInfo(b: bytes, p: int) -> tuple[Optional[DbFileInfo], int]:
@@ -1004,7 +1106,7 @@ def read_DbFileInfo(b: bytes, p: int) -> tuple[Optional[DbFileInfo], int]:
     v_size, v_loaded = _S_Qb_read(b, p)
     p += 9
     v_error, p = read_KelError(b, p)
-    return DbFileInfo(name=v_name, path=v_path, size=v_size, loaded=v_loaded, error=v_error), p
+    return _make_DbFileInfo(v_name, v_path, v_size, v_loaded, v_error), p
 
 
 def read_SystemInfo(b: bytes, p: int) -> tuple[Optional[SystemInfo], int]:
@@ -1027,7 +1129,7 @@ def read_SystemInfo(b: bytes, p: int) -> tuple[Optional[SystemInfo], int]:
     (n,) = _u32_read(b, p)
     v_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return SystemInfo(processors=v_value1, page_size=v_value2, system=v_text1, pointer_bits=v_value3, release=v_text2, host=v_text3, architecture=v_text4), p
+    return _make_SystemInfo(v_value1, v_value2, v_text1, v_value3, v_text2, v_text3, v_text4), p
 
 
 def read_SystemProperty(b: bytes, p: int) -> tuple[Optional[SystemProperty], int]:
@@ -1074,7 +1176,7 @@ def read_SystemProperty(b: bytes, p: int) -> tuple[Optional[SystemProperty], int
     p += 4 + n
     v_value3, v_flag, v_value4 = _S_IbI_read(b, p)
     p += 9
-    return SystemProperty(name=v_item_text1, label=v_item_text2, item_text3=v_item_text3, unit=v_item_text4, value=v_text1, default_value=v_text2, value1=v_value1, children=v_children, text3=v_text3, error=v_error, text4=v_text4, value2=v_value2, data=v_data, value3=v_value3, changed=v_flag, value4=v_value4), p
+    return _make_SystemProperty(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_text1, v_text2, v_value1, v_children, v_text3, v_error, v_text4, v_value2, v_data, v_value3, v_flag, v_value4), p
 
 
 def read_TarnApiConfig(b: bytes, p: int) -> tuple[Optional[TarnApiConfig], int]:
@@ -1095,7 +1197,7 @@ def read_TarnApiConfig(b: bytes, p: int) -> tuple[Optional[TarnApiConfig], int]:
     (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return TarnApiConfig(value1=v_value1, flag1=v_flag1, flag2=v_flag2, value2=v_value2, server=v_server, value3=v_value3, value4=v_value4, value5=v_value5, flag3=v_flag3, value6=v_value6, value7=v_value7, oauth2_configs=v_oauth2_configs, text=v_text), p
+    return _make_TarnApiConfig(v_value1, v_flag1, v_flag2, v_value2, v_server, v_value3, v_value4, v_value5, v_flag3, v_value6, v_value7, v_oauth2_configs, v_text), p
 
 
 def read_ServerConfig(b: bytes, p: int) -> tuple[Optional[ServerConfig], int]:
@@ -1110,7 +1212,7 @@ def read_ServerConfig(b: bytes, p: int) -> tuple[Optional[ServerConfig], int]:
     (n,) = _u32_read(b, p)
     v_name = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return ServerConfig(address=v_address, port=v_port, enabled=v_enabled, name=v_name), p
+    return _make_ServerConfig(v_address, v_port, v_enabled, v_name), p
 
 
 def read_Oauth2Config(b: bytes, p: int) -> tuple[Optional[Oauth2Config], int]:
@@ -1127,7 +1229,7 @@ def read_Oauth2Config(b: bytes, p: int) -> tuple[Optional[Oauth2Config], int]:
     (n,) = _u32_read(b, p)
     v_redirect_url = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return Oauth2Config(issuer=v_issuer, client_id=v_client_id, scopes=v_scopes, redirect_url=v_redirect_url), p
+    return _make_Oauth2Config(v_issuer, v_client_id, v_scopes, v_redirect_url), p
 
 
 def read_MoxConfig(b: bytes, p: int) -> tuple[Optional[MoxConfig], int]:
@@ -1158,7 +1260,7 @@ def read_MoxConfig(b: bytes, p: int) -> tuple[Optional[MoxConfig], int]:
     v_text7 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_tcp, p = read_TcpInfo(b, p)
-    return MoxConfig(text1=v_text1, text2=v_text2, text3=v_text3, text4=v_text4, text5=v_text5, flag1=v_flag1, flag2=v_flag2, flag3=v_flag3, value=v_value, flag4=v_flag4, flag5=v_flag5, flag6=v_flag6, text6=v_text6, text7=v_text7, tcp=v_tcp), p
+    return _make_MoxConfig(v_text1, v_text2, v_text3, v_text4, v_text5, v_flag1, v_flag2, v_flag3, v_value, v_flag4, v_flag5, v_flag6, v_text6, v_text7, v_tcp), p
 
 
 def read_TcpInfo(b: bytes, p: int) -> tuple[Optional[TcpInfo], int]:
@@ -1167,7 +1269,7 @@ def read_TcpInfo(b: bytes, p: int) -> tuple[Optional[TcpInfo], int]:
     p += 1
     v_value1, v_value2, v_value3, v_value4, v_value5, v_value6 = _S_BBBIII_read(b, p)
     p += 15
-    return TcpInfo(value1=v_value1, value2=v_value2, value3=v_value3, value4=v_value4, value5=v_value5, value6=v_value6), p
+    return _make_TcpInfo(v_value1, v_value2, v_value3, v_value4, v_value5, v_value6), p
 
 
 def read_StatusInfo(b: bytes, p: int) -> tuple[Optional[StatusInfo], int]:
@@ -1176,7 +1278,7 @@ def read_StatusInfo(b: bytes, p: int) -> tuple[Optional[StatusInfo], int]:
     p += 1
     v_value1, v_value2, v_value3, v_value4, v_value5, v_value6, v_value7, v_value8 = _S_QQQQQIQQ_read(b, p)
     p += 60
-    return StatusInfo(calls=v_value1, failed_calls=v_value2, uptime_ms=v_value3, call_microseconds=v_value4, database_files_loaded=v_value5, projects=v_value6, status_text_changes=v_value7, started_ms=v_value8), p
+    return _make_StatusInfo(v_value1, v_value2, v_value3, v_value4, v_value5, v_value6, v_value7, v_value8), p
 
 
 def read_TransmissionInfo(b: bytes, p: int) -> tuple[Optional[TransmissionInfo], int]:
@@ -1185,7 +1287,7 @@ def read_TransmissionInfo(b: bytes, p: int) -> tuple[Optional[TransmissionInfo],
     p += 1
     v_value1, v_value2, v_value3, v_value4 = _S_QQQQ_read(b, p)
     p += 32
-    return TransmissionInfo(requests=v_value1, responses=v_value2, request_bytes=v_value3, response_bytes=v_value4), p
+    return _make_TransmissionInfo(v_value1, v_value2, v_value3, v_value4), p
 
 
 def read_ProcessInfo(b: bytes, p: int) -> tuple[Optional[ProcessInfo], int]:
@@ -1203,7 +1305,7 @@ def read_ProcessInfo(b: bytes, p: int) -> tuple[Optional[ProcessInfo], int]:
     (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return ProcessInfo(processes=v_processes, is64_bit=v_flag1, initialized=v_flag2, status_text=v_text), p
+    return _make_ProcessInfo(v_processes, v_flag1, v_flag2, v_text), p
 
 
 def read_ProcessEntry(b: bytes, p: int) -> tuple[Optional[ProcessEntry], int]:
@@ -1227,7 +1329,7 @@ def read_ProcessEntry(b: bytes, p: int) -> tuple[Optional[ProcessEntry], int]:
     for _ in range(n):
         e_v_items2, p = read_ProcessMemory(b, p)
         v_items2.append(e_v_items2)
-    return ProcessEntry(pid=v_value, threads=v_items1, executable=v_text, memory=v_items2), p
+    return _make_ProcessEntry(v_value, v_items1, v_text, v_items2), p
 
 
 def read_ProcessThread(b: bytes, p: int) -> tuple[Optional[ProcessThread], int]:
@@ -1239,7 +1341,7 @@ def read_ProcessThread(b: bytes, p: int) -> tuple[Optional[ProcessThread], int]:
     (n,) = _u32_read(b, p)
     v_name = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return ProcessThread(id=v_id, name=v_name), p
+    return _make_ProcessThread(v_id, v_name), p
 
 
 def read_ProcessMemory(b: bytes, p: int) -> tuple[Optional[ProcessMemory], int]:
@@ -1251,7 +1353,7 @@ def read_ProcessMemory(b: bytes, p: int) -> tuple[Optional[ProcessMemory], int]:
     p += 4 + n
     v_bytes, = _S_Q_read(b, p)
     p += 8
-    return ProcessMemory(name=v_name, bytes=v_bytes), p
+    return _make_ProcessMemory(v_name, v_bytes), p
 
 
 def read_GlobalProtocolParameterSet(b: bytes, p: int) -> tuple[Optional[GlobalProtocolParameterSet], int]:
@@ -1276,7 +1378,7 @@ def read_GlobalProtocolParameterSet(b: bytes, p: int) -> tuple[Optional[GlobalPr
     for _ in range(n):
         e_v_parameters, p = read_GlobalProtocolParameter(b, p)
         v_parameters.append(e_v_parameters)
-    return GlobalProtocolParameterSet(name=v_text1, protocol=v_text2, text3=v_text3, text4=v_text4, parameters=v_parameters), p
+    return _make_GlobalProtocolParameterSet(v_text1, v_text2, v_text3, v_text4, v_parameters), p
 
 
 def read_GlobalProtocolParameter(b: bytes, p: int) -> tuple[Optional[GlobalProtocolParameter], int]:
@@ -1318,7 +1420,7 @@ def read_GlobalProtocolParameter(b: bytes, p: int) -> tuple[Optional[GlobalProto
     v_tcp, p = read_TcpInfo(b, p)
     v_value1, v_flag = _S_Ib_read(b, p)
     p += 5
-    return GlobalProtocolParameter(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4, value=v_value, default_value=v_default_value, infos=v_infos, choices=v_choices, error=v_error, constraints=v_constraints, tcp=v_tcp, value1=v_value1, flag=v_flag), p
+    return _make_GlobalProtocolParameter(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_value, v_default_value, v_infos, v_choices, v_error, v_constraints, v_tcp, v_value1, v_flag), p
 
 
 def read_LoadDatabaseResult(b: bytes, p: int) -> tuple[Optional[LoadDatabaseResult], int]:
@@ -1331,7 +1433,7 @@ def read_LoadDatabaseResult(b: bytes, p: int) -> tuple[Optional[LoadDatabaseResu
     v_flag, = _S_b_read(b, p)
     p += 1
     v_error, p = read_KelError(b, p)
-    return LoadDatabaseResult(file=v_text, loaded=v_flag, error=v_error), p
+    return _make_LoadDatabaseResult(v_text, v_flag, v_error), p
 
 
 def read_InterfaceInformation(b: bytes, p: int) -> tuple[Optional[InterfaceInformation], int]:
@@ -1374,7 +1476,7 @@ def read_InterfaceInformation(b: bytes, p: int) -> tuple[Optional[InterfaceInfor
         v_items.append(e_v_items)
     v_value, = _S_Q_read(b, p)
     p += 8
-    return InterfaceInformation(name=v_item_text1, long_name=v_item_text2, vendor=v_item_text3, description=v_item_text4, resources=v_resources, connected=v_flag1, dynamic=v_flag2, kind=v_text1, address=v_text2, plugged_in=v_flag3, vendor_modules=v_items, handle=v_value), p
+    return _make_InterfaceInformation(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_resources, v_flag1, v_flag2, v_text1, v_text2, v_flag3, v_items, v_value), p
 
 
 def read_ResourceInformation(b: bytes, p: int) -> tuple[Optional[ResourceInformation], int]:
@@ -1395,7 +1497,7 @@ def read_ResourceInformation(b: bytes, p: int) -> tuple[Optional[ResourceInforma
     p += 4 + n
     v_id, v_pin, v_in_use = _S_IIb_read(b, p)
     p += 9
-    return ResourceInformation(name=v_item_text1, description=v_item_text2, protocol=v_item_text3, physical_link=v_item_text4, id=v_id, pin=v_pin, in_use=v_in_use), p
+    return _make_ResourceInformation(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_id, v_pin, v_in_use), p
 
 
 def read_InterfaceInformationItem(b: bytes, p: int) -> tuple[Optional[InterfaceInformationItem], int]:
@@ -1414,7 +1516,7 @@ def read_InterfaceInformationItem(b: bytes, p: int) -> tuple[Optional[InterfaceI
     (n,) = _u32_read(b, p)
     v_item_text4 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return InterfaceInformationItem(name=v_item_text1, vendor=v_item_text2, version=v_item_text3, description=v_item_text4), p
+    return _make_InterfaceInformationItem(v_item_text1, v_item_text2, v_item_text3, v_item_text4), p
 
 
 def read_ScanInterfaceResult(b: bytes, p: int) -> tuple[Optional[ScanInterfaceResult], int]:
@@ -1423,7 +1525,7 @@ def read_ScanInterfaceResult(b: bytes, p: int) -> tuple[Optional[ScanInterfaceRe
     p += 1
     v_interface_info, p = read_InterfaceInformation(b, p)
     v_error, p = read_KelError(b, p)
-    return ScanInterfaceResult(interface_info=v_interface_info, error=v_error), p
+    return _make_ScanInterfaceResult(v_interface_info, v_error), p
 
 
 def read_DynInterfaceDetection(b: bytes, p: int) -> tuple[Optional[DynInterfaceDetection], int]:
@@ -1438,7 +1540,7 @@ def read_DynInterfaceDetection(b: bytes, p: int) -> tuple[Optional[DynInterfaceD
     p += 4 + n
     v_only_free, = _S_b_read(b, p)
     p += 1
-    return DynInterfaceDetection(name_pattern=v_name_pattern, kind=v_kind, only_free=v_only_free), p
+    return _make_DynInterfaceDetection(v_name_pattern, v_kind, v_only_free), p
 
 
 def read_ModuleDyn(b: bytes, p: int) -> tuple[Optional[ModuleDyn], int]:
@@ -1480,7 +1582,7 @@ def read_ModuleDyn(b: bytes, p: int) -> tuple[Optional[ModuleDyn], int]:
         v_resources.append(e_v_resources)
     v_port, v_flag2, v_handle = _S_IbQ_read(b, p)
     p += 13
-    return ModuleDyn(name=v_name, long_name=v_long_name, vendor=v_vendor, kind=v_kind, address=v_address, vendor_module=v_vendor_module, connected=v_flag1, serial_number=v_serial_number, firmware=v_firmware, network=v_network, resources=v_resources, port=v_port, exclusive=v_flag2, handle=v_handle), p
+    return _make_ModuleDyn(v_name, v_long_name, v_vendor, v_kind, v_address, v_vendor_module, v_flag1, v_serial_number, v_firmware, v_network, v_resources, v_port, v_flag2, v_handle), p
 
 
 def read_DeviceInfo(b: bytes, p: int) -> tuple[Optional[DeviceInfo], int]:
@@ -1521,7 +1623,7 @@ def read_DeviceInfo(b: bytes, p: int) -> tuple[Optional[DeviceInfo], int]:
     p += 4 + n
     v_flag, v_handle, v_value6, v_value8, v_value9, v_value10 = _S_bQIQQQ_read(b, p)
     p += 37
-    return DeviceInfo(name=v_text1, vendor_id=v_value1, product_id=v_value2, vendor=v_text2, serial_number=v_text3, resources=v_value3, firmware=v_text4, kind=v_text5, ethernet_pin_state=v_value4, links=v_value5, address=v_text6, protocols=v_protocols, long_name=v_text7, modules=v_modules, description=v_text8, connected=v_flag, handle=v_handle, dynamic=v_value6, value8=v_value8, value9=v_value9, value10=v_value10), p
+    return _make_DeviceInfo(v_text1, v_value1, v_value2, v_text2, v_text3, v_value3, v_text4, v_text5, v_value4, v_value5, v_text6, v_protocols, v_text7, v_modules, v_text8, v_flag, v_handle, v_value6, v_value8, v_value9, v_value10), p
 
 
 def read_PhysicalLinksOnModule(b: bytes, p: int) -> tuple[Optional[PhysicalLinksOnModule], int]:
@@ -1537,7 +1639,7 @@ def read_PhysicalLinksOnModule(b: bytes, p: int) -> tuple[Optional[PhysicalLinks
     for _ in range(n):
         e_v_links, p = read_PhysicalLink(b, p)
         v_links.append(e_v_links)
-    return PhysicalLinksOnModule(module=v_module, links=v_links), p
+    return _make_PhysicalLinksOnModule(v_module, v_links), p
 
 
 def read_PhysicalLink(b: bytes, p: int) -> tuple[Optional[PhysicalLink], int]:
@@ -1558,7 +1660,7 @@ def read_PhysicalLink(b: bytes, p: int) -> tuple[Optional[PhysicalLink], int]:
     p += 4 + n
     v_baudrate, v_enabled = _S_Ib_read(b, p)
     p += 5
-    return PhysicalLink(name=v_item_text1, type=v_item_text2, pins=v_item_text3, description=v_item_text4, baudrate=v_baudrate, enabled=v_enabled), p
+    return _make_PhysicalLink(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_baudrate, v_enabled), p
 
 
 def read_InterfaceConfiguration(b: bytes, p: int) -> tuple[Optional[InterfaceConfiguration], int]:
@@ -1571,7 +1673,7 @@ def read_InterfaceConfiguration(b: bytes, p: int) -> tuple[Optional[InterfaceCon
     for _ in range(n):
         e_v_entries, p = read_InterfaceConfigurationEntry(b, p)
         v_entries.append(e_v_entries)
-    return InterfaceConfiguration(entries=v_entries), p
+    return _make_InterfaceConfiguration(v_entries), p
 
 
 def read_InterfaceConfigurationEntry(b: bytes, p: int) -> tuple[Optional[InterfaceConfigurationEntry], int]:
@@ -1601,7 +1703,7 @@ def read_InterfaceConfigurationEntry(b: bytes, p: int) -> tuple[Optional[Interfa
     for _ in range(n):
         e_v_items, p = read_ResourceInformation(b, p)
         v_items.append(e_v_items)
-    return InterfaceConfigurationEntry(name=v_text1, long_name=v_text2, vendor=v_text3, kind=v_text4, address=v_text5, ethernet_pin_state=v_value, enabled=v_flag, resources=v_items), p
+    return _make_InterfaceConfigurationEntry(v_text1, v_text2, v_text3, v_text4, v_text5, v_value, v_flag, v_items), p
 
 
 def read_InterfaceProvider(b: bytes, p: int) -> tuple[Optional[InterfaceProvider], int]:
@@ -1625,7 +1727,7 @@ def read_InterfaceProvider(b: bytes, p: int) -> tuple[Optional[InterfaceProvider
     p += 4 + n
     v_value, v_flag = _S_Ib_read(b, p)
     p += 5
-    return InterfaceProvider(name=v_item_text1, description=v_item_text2, vendor=v_item_text3, version=v_item_text4, library=v_text, priority=v_value, enabled=v_flag), p
+    return _make_InterfaceProvider(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_text, v_value, v_flag), p
 
 
 def read_DoIPParameter(b: bytes, p: int) -> tuple[Optional[DoIPParameter], int]:
@@ -1640,7 +1742,7 @@ def read_DoIPParameter(b: bytes, p: int) -> tuple[Optional[DoIPParameter], int]:
     v_value3, = _S_I_read(b, p)
     p += 4
     v_strings, p = read_texts(b, p)
-    return DoIPParameter(discovery_port=v_value1, announcement_wait_ms=v_value2, broadcast_address=v_text, tcp_port=v_value3, adapters=v_strings), p
+    return _make_DoIPParameter(v_value1, v_value2, v_text, v_value3, v_strings), p
 
 
 def read_WLanSignalData(b: bytes, p: int) -> tuple[Optional[WLanSignalData], int]:
@@ -1652,7 +1754,7 @@ def read_WLanSignalData(b: bytes, p: int) -> tuple[Optional[WLanSignalData], int
     (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return WLanSignalData(quality=v_value1, signal_dbm_below_zero=v_value2, noise_dbm_below_zero=v_value3, channel=v_value4, frequency_mhz=v_value5, bytes_received=v_value6, transmit_rate_mbits=v_value7, receive_rate_mbits=v_value8, retransmissions=v_value9, lost_beacons=v_value10, channel_width_mhz=v_value11, ssid=v_text), p
+    return _make_WLanSignalData(v_value1, v_value2, v_value3, v_value4, v_value5, v_value6, v_value7, v_value8, v_value9, v_value10, v_value11, v_text), p
 
 
 def read_SupportedInterface(b: bytes, p: int) -> tuple[Optional[SupportedInterface], int]:
@@ -1671,7 +1773,7 @@ def read_SupportedInterface(b: bytes, p: int) -> tuple[Optional[SupportedInterfa
     (n,) = _u32_read(b, p)
     v_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return SupportedInterface(kind=v_text1, description=v_text2, protocols=v_names, max_interfaces=v_value, vendor_module=v_text3), p
+    return _make_SupportedInterface(v_text1, v_text2, v_names, v_value, v_text3), p
 
 
 def read_MonitoringItem(b: bytes, p: int) -> tuple[Optional[MonitoringItem], int]:
@@ -1692,7 +1794,7 @@ def read_MonitoringItem(b: bytes, p: int) -> tuple[Optional[MonitoringItem], int
     v_value4, = _S_I_read(b, p)
     p += 4
     v_detail, p = read_MonitoringItemDetail(b, p)
-    return MonitoringItem(unit=v_text1, data=v_data, time=v_value1, number=v_value2, answered=v_flag1, positive=v_flag2, replayed=v_flag3, nrc=v_value3, source=v_text2, service_id=v_value4, detail=v_detail), p
+    return _make_MonitoringItem(v_text1, v_data, v_value1, v_value2, v_flag1, v_flag2, v_flag3, v_value3, v_text2, v_value4, v_detail), p
 
 
 def read_MonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[MonitoringItemDetail], int]:
@@ -1705,7 +1807,7 @@ def read_MonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[MonitoringItem
     (n,) = _u32_read(b, p)
     v_text = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return MonitoringItemDetail(response=v_response, summary=v_text), p
+    return _make_MonitoringItemDetail(v_response, v_text), p
 
 
 def read_PduMonitoringItem(b: bytes, p: int) -> tuple[Optional[PduMonitoringItem], int]:
@@ -1729,7 +1831,7 @@ def read_PduMonitoringItem(b: bytes, p: int) -> tuple[Optional[PduMonitoringItem
     (n,) = _u32_read(b, p)
     v_text3 = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return PduMonitoringItem(direction=v_value1, data=v_data, detail=v_detail, unit=v_text1, direction_text=v_text2, time=v_value2, hex=v_text3), p
+    return _make_PduMonitoringItem(v_value1, v_data, v_detail, v_text1, v_text2, v_value2, v_text3), p
 
 
 def read_PduMonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[PduMonitoringItemDetail], int]:
@@ -1738,7 +1840,7 @@ def read_PduMonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[PduMonitori
     p += 1
     v_sequence, v_exchange = _S_QQ_read(b, p)
     p += 16
-    return PduMonitoringItemDetail(sequence=v_sequence, exchange=v_exchange), p
+    return _make_PduMonitoringItemDetail(v_sequence, v_exchange), p
 
 
 def read_FileInfo(b: bytes, p: int) -> tuple[Optional[FileInfo], int]:
@@ -1759,7 +1861,7 @@ def read_FileInfo(b: bytes, p: int) -> tuple[Optional[FileInfo], int]:
     p += 4 + n
     v_value2, v_value3 = _S_QQ_read(b, p)
     p += 16
-    return FileInfo(name=v_name, error=v_error, read_only=v_flag, attributes=v_value1, path=v_text1, modified=v_text2, size=v_value2, modified_ms=v_value3), p
+    return _make_FileInfo(v_name, v_error, v_flag, v_value1, v_text1, v_text2, v_value2, v_value3), p
 
 
 def read_DirectoryInfo(b: bytes, p: int) -> tuple[Optional[DirectoryInfo], int]:
@@ -1792,7 +1894,7 @@ def read_DirectoryInfo(b: bytes, p: int) -> tuple[Optional[DirectoryInfo], int]:
         v_directories.append(e_v_directories)
     v_flag2, = _S_b_read(b, p)
     p += 1
-    return DirectoryInfo(name=v_name, error=v_error, read_only=v_flag, attributes=v_value1, path=v_text1, modified=v_text2, files=v_files, directories=v_directories, contents_read=v_flag2), p
+    return _make_DirectoryInfo(v_name, v_error, v_flag, v_value1, v_text1, v_text2, v_files, v_directories, v_flag2), p
 
 
 def read_FileCopyResult(b: bytes, p: int) -> tuple[Optional[FileCopyResult], int]:
@@ -1808,7 +1910,7 @@ def read_FileCopyResult(b: bytes, p: int) -> tuple[Optional[FileCopyResult], int
     v_file, p = read_FileInfo(b, p)
     v_value2, = _S_i_read(b, p)
     p += 4
-    return FileCopyResult(failed=v_value1, source=v_text, error=v_error, file=v_file, index=v_value2), p
+    return _make_FileCopyResult(v_value1, v_text, v_error, v_file, v_value2), p
 
 
 def read_DirectoryCopyResult(b: bytes, p: int) -> tuple[Optional[DirectoryCopyResult], int]:
@@ -1822,7 +1924,7 @@ def read_DirectoryCopyResult(b: bytes, p: int) -> tuple[Optional[DirectoryCopyRe
     p += 4 + n
     v_error, p = read_KelError(b, p)
     v_directory, p = read_DirectoryCopyItem(b, p)
-    return DirectoryCopyResult(outcome=v_value1, source=v_text, error=v_error, directory=v_directory), p
+    return _make_DirectoryCopyResult(v_value1, v_text, v_error, v_directory), p
 
 
 def read_DirectoryCopyItem(b: bytes, p: int) -> tuple[Optional[DirectoryCopyItem], int]:
@@ -1843,7 +1945,7 @@ def read_DirectoryCopyItem(b: bytes, p: int) -> tuple[Optional[DirectoryCopyItem
     for _ in range(n):
         e_v_failures, p = read_FileCopyResult(b, p)
         v_failures.append(e_v_failures)
-    return DirectoryCopyItem(source=v_source, target=v_target, files=v_files, directories=v_directories, bytes=v_bytes, failures=v_failures), p
+    return _make_DirectoryCopyItem(v_source, v_target, v_files, v_directories, v_bytes, v_failures), p
 
 
 def read_PathCopyResult(b: bytes, p: int) -> tuple[Optional[PathCopyResult], int]:
@@ -1856,7 +1958,7 @@ def read_PathCopyResult(b: bytes, p: int) -> tuple[Optional[PathCopyResult], int
     v_value2, = _S_i_read(b, p)
     p += 4
     v_item, p = read_PathCopyItem(b, p)
-    return PathCopyResult(failed=v_value1, error=v_error, is_directory=v_value2, item=v_item), p
+    return _make_PathCopyResult(v_value1, v_error, v_value2, v_item), p
 
 
 def read_PathCopyItem(b: bytes, p: int) -> tuple[Optional[PathCopyItem], int]:
@@ -1871,7 +1973,7 @@ def read_PathCopyItem(b: bytes, p: int) -> tuple[Optional[PathCopyItem], int]:
     p += 4 + n
     v_size, = _S_Q_read(b, p)
     p += 8
-    return PathCopyItem(source=v_source, target=v_target, size=v_size), p
+    return _make_PathCopyItem(v_source, v_target, v_size), p
 
 
 def read_FileReferenceResult(b: bytes, p: int) -> tuple[Optional[FileReferenceResult], int]:
@@ -1880,7 +1982,7 @@ def read_FileReferenceResult(b: bytes, p: int) -> tuple[Optional[FileReferenceRe
     p += 1
     v_references, p = read_texts(b, p)
     v_error, p = read_KelError(b, p)
-    return FileReferenceResult(references=v_references, error=v_error), p
+    return _make_FileReferenceResult(v_references, v_error), p
 
 
 def read_FileCopyConfig(b: bytes, p: int) -> tuple[Optional[FileCopyConfig], int]:
@@ -1893,7 +1995,7 @@ def read_FileCopyConfig(b: bytes, p: int) -> tuple[Optional[FileCopyConfig], int
     p += 4 + n
     v_overwrite, = _S_b_read(b, p)
     p += 1
-    return FileCopyConfig(files=v_files, target=v_target, overwrite=v_overwrite), p
+    return _make_FileCopyConfig(v_files, v_target, v_overwrite), p
 
 
 def read_DirectoryCopyConfig(b: bytes, p: int) -> tuple[Optional[DirectoryCopyConfig], int]:
@@ -1909,7 +2011,7 @@ def read_DirectoryCopyConfig(b: bytes, p: int) -> tuple[Optional[DirectoryCopyCo
     (n,) = _u32_read(b, p)
     v_pattern = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return DirectoryCopyConfig(directories=v_directories, target=v_target, overwrite=v_overwrite, recursive=v_recursive, pattern=v_pattern), p
+    return _make_DirectoryCopyConfig(v_directories, v_target, v_overwrite, v_recursive, v_pattern), p
 
 
 def read_PathCopyConfig(b: bytes, p: int) -> tuple[Optional[PathCopyConfig], int]:
@@ -1924,7 +2026,7 @@ def read_PathCopyConfig(b: bytes, p: int) -> tuple[Optional[PathCopyConfig], int
     p += 4 + n
     v_overwrite, = _S_b_read(b, p)
     p += 1
-    return PathCopyConfig(source=v_source, target=v_target, overwrite=v_overwrite), p
+    return _make_PathCopyConfig(v_source, v_target, v_overwrite), p
 
 
 def read_UserInfo(b: bytes, p: int) -> tuple[Optional[UserInfo], int]:
@@ -1939,7 +2041,7 @@ def read_UserInfo(b: bytes, p: int) -> tuple[Optional[UserInfo], int]:
     p += 4 + n
     v_value, = _S_I_read(b, p)
     p += 4
-    return UserInfo(name=v_name, role_name=v_text, role=v_value), p
+    return _make_UserInfo(v_name, v_text, v_value), p
 
 
 def read_LogInOutConfig(b: bytes, p: int) -> tuple[Optional[LogInOutConfig], int]:
@@ -1952,7 +2054,7 @@ def read_LogInOutConfig(b: bytes, p: int) -> tuple[Optional[LogInOutConfig], int
     (n,) = _u32_read(b, p)
     v_password = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return LogInOutConfig(user=v_user, password=v_password), p
+    return _make_LogInOutConfig(v_user, v_password), p
 
 
 def read_TarnApiServerConfig(b: bytes, p: int) -> tuple[Optional[TarnApiServerConfig], int]:
@@ -1993,7 +2095,7 @@ def read_TarnApiServerConfig(b: bytes, p: int) -> tuple[Optional[TarnApiServerCo
         v_users2.append(e_v_users2)
     v_value2, = _S_H_read(b, p)
     p += 2
-    return TarnApiServerConfig(users=v_users, user_management=v_flag, connections=v_value1, address=v_text1, sovd_address=v_text2, filters=v_filters, identity_provider=v_text3, login_address=v_text4, logged_in=v_users2, login_attempts=v_value2), p
+    return _make_TarnApiServerConfig(v_users, v_flag, v_value1, v_text1, v_text2, v_filters, v_text3, v_text4, v_users2, v_value2), p
 
 
 def read_ServerSettings(b: bytes, p: int) -> tuple[Optional[ServerSettings], int]:
@@ -2002,7 +2104,7 @@ def read_ServerSettings(b: bytes, p: int) -> tuple[Optional[ServerSettings], int
     p += 1
     v_flag, v_value1, v_value2, v_value3 = _S_bIII_read(b, p)
     p += 13
-    return ServerSettings(running=v_flag, connections=v_value1, users=v_value2, sovd_running=v_value3), p
+    return _make_ServerSettings(v_flag, v_value1, v_value2, v_value3), p
 
 
 def read_FlashSessionInfo(b: bytes, p: int) -> tuple[Optional[FlashSessionInfo], int]:
@@ -2023,7 +2125,7 @@ def read_FlashSessionInfo(b: bytes, p: int) -> tuple[Optional[FlashSessionInfo],
     p += 4 + n
     v_size, v_duration, v_level = _S_QII_read(b, p)
     p += 16
-    return FlashSessionInfo(name=v_name, target=v_target, description=v_description, version=v_version, size=v_size, duration=v_duration, level=v_level), p
+    return _make_FlashSessionInfo(v_name, v_target, v_description, v_version, v_size, v_duration, v_level), p
 
 
 def read_FlashSessionResult(b: bytes, p: int) -> tuple[Optional[FlashSessionResult], int]:
@@ -2047,7 +2149,7 @@ def read_FlashSessionResult(b: bytes, p: int) -> tuple[Optional[FlashSessionResu
     v_size, v_transferred, v_progress, v_duration = _S_QQII_read(b, p)
     p += 24
     v_error, p = read_KelError(b, p)
-    return FlashSessionResult(name=v_name, target=v_target, status=FlashStatus(v_status), version_before=v_version_before, version_after=v_version_after, size=v_size, transferred=v_transferred, progress=v_progress, duration=v_duration, error=v_error), p
+    return _make_FlashSessionResult(v_name, v_target, FlashStatus(v_status), v_version_before, v_version_after, v_size, v_transferred, v_progress, v_duration, v_error), p
 
 
 def read_FlashSessionsConfig(b: bytes, p: int) -> tuple[Optional[FlashSessionsConfig], int]:
@@ -2060,7 +2162,7 @@ def read_FlashSessionsConfig(b: bytes, p: int) -> tuple[Optional[FlashSessionsCo
     v_sessions, p = read_texts(b, p)
     v_block_length, v_stop_on_error = _S_Ib_read(b, p)
     p += 5
-    return FlashSessionsConfig(target=v_target, sessions=v_sessions, block_length=v_block_length, stop_on_error=v_stop_on_error), p
+    return _make_FlashSessionsConfig(v_target, v_sessions, v_block_length, v_stop_on_error), p
 
 
 def read_CodingStringResult(b: bytes, p: int) -> tuple[Optional[CodingStringResult], int]:
@@ -2082,7 +2184,7 @@ def read_CodingStringResult(b: bytes, p: int) -> tuple[Optional[CodingStringResu
     v_data = b[p + 4 : p + 4 + n]
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    return CodingStringResult(target=v_target, status=TargetResultStatus(v_status), identifier=v_identifier, coding=v_coding, data=v_data, error=v_error), p
+    return _make_CodingStringResult(v_target, TargetResultStatus(v_status), v_identifier, v_coding, v_data, v_error), p
 
 
 def read_CodingFileResult(b: bytes, p: int) -> tuple[Optional[CodingFileResult], int]:
@@ -2106,7 +2208,7 @@ def read_CodingFileResult(b: bytes, p: int) -> tuple[Optional[CodingFileResult],
     v_verified, = _S_b_read(b, p)
     p += 1
     v_error, p = read_KelError(b, p)
-    return CodingFileResult(target=v_target, status=TargetResultStatus(v_status), written=v_written, coding=v_coding, data=v_data, verified=v_verified, error=v_error), p
+    return _make_CodingFileResult(v_target, TargetResultStatus(v_status), v_written, v_coding, v_data, v_verified, v_error), p
 
 
 def read_QuickTestResult(b: bytes, p: int) -> tuple[Optional[QuickTestResult], int]:
@@ -2130,7 +2232,7 @@ def read_QuickTestResult(b: bytes, p: int) -> tuple[Optional[QuickTestResult], i
         e_v_dtcs, p = read_DtcResult(b, p)
         v_dtcs.append(e_v_dtcs)
     v_error, p = read_KelError(b, p)
-    return QuickTestResult(target=v_target, status=TargetResultStatus(v_status), variant=v_variant, identified=v_identified, dtcs=v_dtcs, error=v_error), p
+    return _make_QuickTestResult(v_target, TargetResultStatus(v_status), v_variant, v_identified, v_dtcs, v_error), p
 
 
 def read_EcuConfigurationResult(b: bytes, p: int) -> tuple[Optional[EcuConfigurationResult], int]:
@@ -2146,7 +2248,7 @@ def read_EcuConfigurationResult(b: bytes, p: int) -> tuple[Optional[EcuConfigura
     v_status, v_written = _S_iI_read(b, p)
     p += 8
     v_error, p = read_KelError(b, p)
-    return EcuConfigurationResult(target=v_target, configuration=v_configuration, status=TargetResultStatus(v_status), written=v_written, error=v_error), p
+    return _make_EcuConfigurationResult(v_target, v_configuration, TargetResultStatus(v_status), v_written, v_error), p
 
 
 def read_EcuOrderEntry(b: bytes, p: int) -> tuple[Optional[EcuOrderEntry], int]:
@@ -2161,7 +2263,7 @@ def read_EcuOrderEntry(b: bytes, p: int) -> tuple[Optional[EcuOrderEntry], int]:
     p += 4 + n
     v_address, v_gateway, v_optional = _S_Ibb_read(b, p)
     p += 6
-    return EcuOrderEntry(target=v_target, bus=v_bus, address=v_address, gateway=v_gateway, optional=v_optional), p
+    return _make_EcuOrderEntry(v_target, v_bus, v_address, v_gateway, v_optional), p
 
 
 def read_VehicleUpdateConfig(b: bytes, p: int) -> tuple[Optional[VehicleUpdateConfig], int]:
@@ -2177,7 +2279,7 @@ def read_VehicleUpdateConfig(b: bytes, p: int) -> tuple[Optional[VehicleUpdateCo
         v_packages.append(e_v_packages)
     v_stop_on_error, v_force, v_block_length = _S_bbI_read(b, p)
     p += 6
-    return VehicleUpdateConfig(targets=v_targets, packages=v_packages, stop_on_error=v_stop_on_error, force=v_force, block_length=v_block_length), p
+    return _make_VehicleUpdateConfig(v_targets, v_packages, v_stop_on_error, v_force, v_block_length), p
 
 
 def read_VehicleUpdateResult(b: bytes, p: int) -> tuple[Optional[VehicleUpdateResult], int]:
@@ -2201,7 +2303,7 @@ def read_VehicleUpdateResult(b: bytes, p: int) -> tuple[Optional[VehicleUpdateRe
     v_position, v_progress, v_overall_progress, v_duration = _S_IIII_read(b, p)
     p += 16
     v_error, p = read_KelError(b, p)
-    return VehicleUpdateResult(target=v_target, status=v_status, package=v_package, version_before=v_version_before, version_after=v_version_after, position=v_position, progress=v_progress, overall_progress=v_overall_progress, duration=v_duration, error=v_error), p
+    return _make_VehicleUpdateResult(v_target, v_status, v_package, v_version_before, v_version_after, v_position, v_progress, v_overall_progress, v_duration, v_error), p
 
 
 def read_UpdatePackageInfo(b: bytes, p: int) -> tuple[Optional[UpdatePackageInfo], int]:
@@ -2230,7 +2332,7 @@ def read_UpdatePackageInfo(b: bytes, p: int) -> tuple[Optional[UpdatePackageInfo
     p += 4 + n
     v_state, = _S_i_read(b, p)
     p += 4
-    return UpdatePackageInfo(name=v_name, version=v_version, description=v_description, kind=v_kind, targets=v_targets, size=v_size, checksum=v_checksum, location=v_location, state=v_state), p
+    return _make_UpdatePackageInfo(v_name, v_version, v_description, v_kind, v_targets, v_size, v_checksum, v_location, v_state), p
 
 
 def read_VehicleReportConfig(b: bytes, p: int) -> tuple[Optional[VehicleReportConfig], int]:
@@ -2249,7 +2351,7 @@ def read_VehicleReportConfig(b: bytes, p: int) -> tuple[Optional[VehicleReportCo
     v_targets, p = read_texts(b, p)
     v_identification, v_dtcs = _S_bb_read(b, p)
     p += 2
-    return VehicleReportConfig(name=v_name, title=v_title, comment=v_comment, targets=v_targets, identification=v_identification, dtcs=v_dtcs), p
+    return _make_VehicleReportConfig(v_name, v_title, v_comment, v_targets, v_identification, v_dtcs), p
 
 
 def read_VehicleData(b: bytes, p: int) -> tuple[Optional[VehicleData], int]:
@@ -2276,7 +2378,7 @@ def read_VehicleData(b: bytes, p: int) -> tuple[Optional[VehicleData], int]:
     p += 4 + n
     v_address, v_status, v_dtc_count = _S_IiI_read(b, p)
     p += 12
-    return VehicleData(vin=v_vin, model=v_model, target=v_target, variant=v_variant, software_version=v_software_version, bus=v_bus, address=v_address, status=v_status, dtc_count=v_dtc_count), p
+    return _make_VehicleData(v_vin, v_model, v_target, v_variant, v_software_version, v_bus, v_address, v_status, v_dtc_count), p
 
 
 def read_UploadReportConfiguration(b: bytes, p: int) -> tuple[Optional[UploadReportConfiguration], int]:
@@ -2303,7 +2405,7 @@ def read_UploadReportConfiguration(b: bytes, p: int) -> tuple[Optional[UploadRep
     p += 4 + n
     v_overwrite, v_with_twin = _S_bb_read(b, p)
     p += 2
-    return UploadReportConfiguration(report_file=v_report_file, folder=v_folder, name=v_name, vin=v_vin, user=v_user, comment=v_comment, overwrite=v_overwrite, with_twin=v_with_twin), p
+    return _make_UploadReportConfiguration(v_report_file, v_folder, v_name, v_vin, v_user, v_comment, v_overwrite, v_with_twin), p
 
 
 def read_VehicleInformation(b: bytes, p: int) -> tuple[Optional[VehicleInformation], int]:
@@ -2322,7 +2424,7 @@ def read_VehicleInformation(b: bytes, p: int) -> tuple[Optional[VehicleInformati
     v_license_plate = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_equipment, p = read_texts(b, p)
-    return VehicleInformation(vin=v_vin, model=v_model, model_year=v_model_year, mileage=v_mileage, license_plate=v_license_plate, equipment=v_equipment), p
+    return _make_VehicleInformation(v_vin, v_model, v_model_year, v_mileage, v_license_plate, v_equipment), p
 
 
 def read_SupportedDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:

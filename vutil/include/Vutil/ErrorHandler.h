@@ -24,20 +24,18 @@ protected:
 
 class VUTIL_API ErrorHandler {
 public:
-    // Read without locking on every trace call; set by configuration or tests.
+    // The gate, read without locking on every trace call: the number of registered
+    // listeners and the debug trace level. A hot path tests s_listenerCount first, so
+    // while nobody listens it pays one load.
+    static std::atomic<int> s_listenerCount;
+    static std::atomic<int> s_debugTraceLevel;
+
     static int listenerCount();
     static int debugTraceLevel();
     static void setDebugTraceLevel(int level);
 
     static void addListener(const std::shared_ptr<TraceListener>& listener);
     static void removeListener(const std::shared_ptr<TraceListener>& listener);
-
-    // A mirror of the gate for hot paths: *mirror holds the debug trace level while a
-    // listener is registered and 0 otherwise, kept current on every change, so that a
-    // caller tests it with one load instead of a call into this library. Remove it before
-    // the variable goes away.
-    static void addGateMirror(std::atomic<int>* mirror);
-    static void removeGateMirror(std::atomic<int>* mirror);
 
     // Delivers one line to every listener (TraceHelper calls this).
     static void dispatch(const std::string& source, const std::string& line);
