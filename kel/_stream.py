@@ -9,7 +9,10 @@ decoding. Such a function makes exactly what __init__ makes, given every field."
 from __future__ import annotations
 
 import dataclasses
-from typing import Any, Callable
+import enum
+from typing import Any, Callable, TypeVar
+
+E = TypeVar("E", bound=enum.Enum)
 
 
 def positional(cls: type) -> Callable[..., Any]:
@@ -24,3 +27,18 @@ def positional(cls: type) -> Callable[..., Any]:
     exec(compile(source, f"<kel record {cls.__name__}>", "exec"), scope)  # noqa: S102
     make: Callable[..., Any] = scope[f"make_{cls.__name__}"]
     return make
+
+
+def member_of(cls: type[E]) -> Callable[[int], E]:
+    """A function of(value) that returns cls(value). An enum's call goes through its
+    metaclass and costs several times a dictionary lookup; the members (and, for a flag,
+    every combination made so far) are in the enum's own value map, so a value met before
+    is one lookup, and only a new one takes the call."""
+    members: dict[Any, E] = cls._value2member_map_  # type: ignore[assignment]
+    get = members.get
+
+    def of(value: int) -> E:
+        member = get(value)
+        return member if member is not None else cls(value)
+
+    return of

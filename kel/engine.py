@@ -27,6 +27,8 @@ from . import _library
 # time the engine took to take it, and the error of a start that failed. kel.setup_logging()
 # shows them.
 _log = logging.getLogger("kel")
+# The engine states by number, for get_state (an unnamed number still goes through the enum).
+_states: dict[int, EngineState] = {member.value: member for member in EngineState}
 
 
 @contextlib.contextmanager
@@ -69,6 +71,7 @@ class Engine(Operations):
         # Each engine object handed out counts one use in the library's registry; this
         # gives it back also when the caller forgets release().
         self._release = weakref.finalize(self, lib.releaseTarnApi, api)
+        self._released = False  # release() was called (a plain flag: read on every call)
 
     @classmethod
     def remote(cls, handle: int, *, library: Optional[str] = None) -> Engine:
@@ -97,6 +100,7 @@ class Engine(Operations):
 
     def release(self) -> None:
         """Gives the engine object back; the engine is not used afterwards."""
+        self._released = True
         self._release()
 
     def __enter__(self) -> Engine:
@@ -164,7 +168,7 @@ class Engine(Operations):
             return self._dispatch(number, data)
 
     def _dispatch(self, number: int, data: bytes) -> bytes:
-        if not self._release.alive:
+        if self._released:
             raise RuntimeError("the engine object was released")
         try:
             frame = self._frames.pop()
@@ -201,7 +205,7 @@ class Engine(Operations):
         # one foreign call instead of py_call and py_result (the stream route costs about
         # twice a bare call, this one hardly more). The engine's error is the same record
         # either way, so callers see the same EngineError.
-        if not self._release.alive:
+        if self._released:
             raise RuntimeError("the engine object was released")
         try:
             scalar = self._scalars.pop()
@@ -214,7 +218,8 @@ class Engine(Operations):
         self._scalars.append(scalar)
         if failed:
             raise EngineError.of(_take_error(self._lib, failed))
-        return EngineState(state)
+        member = _states.get(state)  # the enum's call costs several times this lookup
+        return member if member is not None else EngineState(state)
 
     def _decoding(self, data: bytes) -> contextlib.AbstractContextManager[None]:
         if len(data) >= _LARGE_RESULT:

@@ -324,11 +324,17 @@ def reader(iface: kelidl.Interface, rec: kelidl.Record, pool: StructPool) -> lis
     if target == rec.name:
         # The values are in the order of the dataclass's fields (both follow the members):
         # positions instead of keywords, see kel/_stream.py.
-        out.append(f"    return _make_{target}({', '.join(typed(f, loc) for f, loc in values)}), p")
+        out.append(f"    return _make_{target}({', '.join(decoded(f, loc) for f, loc in values)}), p")
     else:
-        args = ", ".join(f"{py_name(iface, rec.name, f.name)}={typed(f, loc)}" for f, loc in values)
+        args = ", ".join(f"{py_name(iface, rec.name, f.name)}={decoded(f, loc)}" for f, loc in values)
         out.append(f"    return {target}({args}), p")
     return out + ["", ""]
+
+
+def decoded(v, expression: str) -> str:
+    """A decoded member's value, as its enum where it has `type=` (through the fast lookup
+    that stream.py binds for each enum, see kel/_stream.py)."""
+    return f"_as_{v.type}({expression})" if v.type else expression
 
 
 def typed(v, expression: str, prefix: str = "") -> str:
@@ -439,9 +445,11 @@ def stream_py(iface: kelidl.Interface) -> str:
         out.append("from .records import " + ", ".join(names))
     out += enum_import(iface, stream_classes(iface))[:1]
     made = [r.name for r in stream_classes(iface) if c_name(iface, r.name) == r.name]
+    enums = sorted({str(f.type) for r in stream_classes(iface) for f in iface.members(r.name) if f.type})
     if made:
-        out += ["from .._stream import positional", ""]
+        out += ["from .._stream import member_of, positional", ""]
         out += [f"_make_{name} = positional({name})" for name in made]
+        out += [f"_as_{name} = member_of({name})" for name in enums]
     out.append(STREAM_HELPERS)
     # Bound methods: one attribute lookup less per value on the hot path.
     for code, name in pool.codes.items():

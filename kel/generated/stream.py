@@ -11,7 +11,7 @@ from typing import Optional, Sequence
 
 from .records import ClearDtcResult, CodingFileResult, CodingStringResult, ConstraintInfo, DbFileInfo, DeviceInfo, DirectoryCopyConfig, DirectoryCopyItem, DirectoryCopyResult, DirectoryInfo, DoIPParameter, DtcReadConfig, DtcResult, DynInterfaceDetection, EcuConfigurationResult, EcuOrderEntry, EventReport, FileCopyConfig, FileCopyResult, FileFilter, FileInfo, FileReferenceResult, FlashSessionInfo, FlashSessionResult, FlashSessionsConfig, GlobalProtocolParameter, GlobalProtocolParameterSet, InterfaceConfiguration, InterfaceConfigurationEntry, InterfaceInformation, InterfaceInformationItem, InterfaceProvider, KelError, KelEvent, LoadDatabaseResult, LogInOutConfig, ModuleDyn, MonitoringItem, MonitoringItemDetail, MoxConfig, MvciServerError, NamedItem, NegativeResponse, Oauth2Config, ParameterInfo, ParameterInfoConfig, ParameterInput, ParameterResult, PathCopyConfig, PathCopyItem, PathCopyResult, PduMonitoringItem, PduMonitoringItemDetail, PhysicalLink, PhysicalLinksOnModule, ProcessEntry, ProcessInfo, ProcessMemory, ProcessThread, ProjectConfig, ProjectDetails, QuickTestResult, ReadDataResult, ReadDtcResult, RequestResult, ResourceInformation, ResponseInfo, ResponseResult, ScaleConstraintInfo, ScanInterfaceResult, ServerConfig, ServerSettings, ServiceInfo, ServiceInput, ServiceResult, SpecialDataGroup, StatusInfo, SupportedInterface, SystemInfo, SystemProperty, Target, TargetConfig, TargetFilter, TargetStatus, TarnApiConfig, TarnApiServerConfig, TcpInfo, TransmissionInfo, UnitInfo, UnlockResult, UpdatePackageInfo, UploadReportConfiguration, UserInfo, VariantIdentResult, VehicleData, VehicleInformation, VehicleReportConfig, VehicleUpdateConfig, VehicleUpdateResult, WLanSignalData
 from .enums import DtcStatus, EventKind, FlashStatus, ServiceStatus, TargetResultStatus
-from .._stream import positional
+from .._stream import member_of, positional
 
 _make_MvciServerError = positional(MvciServerError)
 _make_NegativeResponse = positional(NegativeResponse)
@@ -113,6 +113,11 @@ _make_VehicleReportConfig = positional(VehicleReportConfig)
 _make_VehicleData = positional(VehicleData)
 _make_UploadReportConfiguration = positional(UploadReportConfiguration)
 _make_VehicleInformation = positional(VehicleInformation)
+_as_DtcStatus = member_of(DtcStatus)
+_as_EventKind = member_of(EventKind)
+_as_FlashStatus = member_of(FlashStatus)
+_as_ServiceStatus = member_of(ServiceStatus)
+_as_TargetResultStatus = member_of(TargetResultStatus)
 
 _U32 = struct.Struct("<I")
 _u32_read = _U32.unpack_from
@@ -384,7 +389,7 @@ def read_ClearDtcResult(b: bytes, p: int) -> tuple[Optional[ClearDtcResult], int
     v_target = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    return _make_ClearDtcResult(TargetResultStatus(v_status), v_target, v_error), p
+    return _make_ClearDtcResult(_as_TargetResultStatus(v_status), v_target, v_error), p
 
 
 def read_DtcReadConfig(b: bytes, p: int) -> tuple[Optional[DtcReadConfig], int]:
@@ -414,7 +419,7 @@ def read_ReadDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
         v_dtcs.append(e_v_dtcs)
     v_value, = _S_i_read(b, p)
     p += 4
-    return _make_ReadDtcResult(TargetResultStatus(v_status), v_target, v_error, v_dtcs, v_value), p
+    return _make_ReadDtcResult(_as_TargetResultStatus(v_status), v_target, v_error, v_dtcs, v_value), p
 
 
 def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
@@ -457,7 +462,7 @@ def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
         v_special_data_groups.append(e_v_special_data_groups)
     v_value2, = _S_i_read(b, p)
     p += 4
-    return _make_DtcResult(v_code, v_text1, v_text2, DtcStatus(v_value1), v_parameters1, v_parameters2, v_text3, v_text4, v_special_data_groups, v_value2), p
+    return _make_DtcResult(v_code, v_text1, v_text2, _as_DtcStatus(v_value1), v_parameters1, v_parameters2, v_text3, v_text4, v_special_data_groups, v_value2), p
 
 
 def read_SpecialDataGroup(b: bytes, p: int) -> tuple[Optional[SpecialDataGroup], int]:
@@ -486,7 +491,7 @@ def read_VariantIdentResult(b: bytes, p: int) -> tuple[Optional[VariantIdentResu
     (n,) = _u32_read(b, p)
     v_variant = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return _make_VariantIdentResult(v_target, TargetResultStatus(v_status), v_error, v_variant), p
+    return _make_VariantIdentResult(v_target, _as_TargetResultStatus(v_status), v_error, v_variant), p
 
 
 def read_ReadDataResult(b: bytes, p: int) -> tuple[Optional[ReadDataResult], int]:
@@ -508,7 +513,7 @@ def read_ReadDataResult(b: bytes, p: int) -> tuple[Optional[ReadDataResult], int
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
         v_parameters.append(e_v_parameters)
-    return _make_ReadDataResult(v_target, TargetResultStatus(v_status), v_text, v_error, v_parameters), p
+    return _make_ReadDataResult(v_target, _as_TargetResultStatus(v_status), v_text, v_error, v_parameters), p
 
 
 def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
@@ -658,7 +663,7 @@ def read_ServiceResult(b: bytes, p: int) -> tuple[Optional[ServiceResult], int]:
     v_request, p = read_RequestResult(b, p)
     v_value1, = _S_i_read(b, p)
     p += 4
-    return _make_ServiceResult(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_responses, ServiceStatus(v_status), v_text1, v_error, v_request, v_value1), p
+    return _make_ServiceResult(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_responses, _as_ServiceStatus(v_status), v_text1, v_error, v_request, v_value1), p
 
 
 def read_ResponseResult(b: bytes, p: int) -> tuple[Optional[ResponseResult], int]:
@@ -959,7 +964,7 @@ def read_KelEvent(b: bytes, p: int) -> tuple[Optional[KelEvent], int]:
     (n,) = _u32_read(b, p)
     v_detail = b[p + 4 : p + 4 + n].decode()
     p += 4 + n
-    return _make_KelEvent(v_name, EventKind(v_kind), v_code, v_text, v_error, v_detail), p
+    return _make_KelEvent(v_name, _as_EventKind(v_kind), v_code, v_text, v_error, v_detail), p
 
 
 def read_EventReport(b: bytes, p: int) -> tuple[Optional[EventReport], int]:
@@ -2149,7 +2154,7 @@ def read_FlashSessionResult(b: bytes, p: int) -> tuple[Optional[FlashSessionResu
     v_size, v_transferred, v_progress, v_duration = _S_QQII_read(b, p)
     p += 24
     v_error, p = read_KelError(b, p)
-    return _make_FlashSessionResult(v_name, v_target, FlashStatus(v_status), v_version_before, v_version_after, v_size, v_transferred, v_progress, v_duration, v_error), p
+    return _make_FlashSessionResult(v_name, v_target, _as_FlashStatus(v_status), v_version_before, v_version_after, v_size, v_transferred, v_progress, v_duration, v_error), p
 
 
 def read_FlashSessionsConfig(b: bytes, p: int) -> tuple[Optional[FlashSessionsConfig], int]:
@@ -2184,7 +2189,7 @@ def read_CodingStringResult(b: bytes, p: int) -> tuple[Optional[CodingStringResu
     v_data = b[p + 4 : p + 4 + n]
     p += 4 + n
     v_error, p = read_KelError(b, p)
-    return _make_CodingStringResult(v_target, TargetResultStatus(v_status), v_identifier, v_coding, v_data, v_error), p
+    return _make_CodingStringResult(v_target, _as_TargetResultStatus(v_status), v_identifier, v_coding, v_data, v_error), p
 
 
 def read_CodingFileResult(b: bytes, p: int) -> tuple[Optional[CodingFileResult], int]:
@@ -2208,7 +2213,7 @@ def read_CodingFileResult(b: bytes, p: int) -> tuple[Optional[CodingFileResult],
     v_verified, = _S_b_read(b, p)
     p += 1
     v_error, p = read_KelError(b, p)
-    return _make_CodingFileResult(v_target, TargetResultStatus(v_status), v_written, v_coding, v_data, v_verified, v_error), p
+    return _make_CodingFileResult(v_target, _as_TargetResultStatus(v_status), v_written, v_coding, v_data, v_verified, v_error), p
 
 
 def read_QuickTestResult(b: bytes, p: int) -> tuple[Optional[QuickTestResult], int]:
@@ -2232,7 +2237,7 @@ def read_QuickTestResult(b: bytes, p: int) -> tuple[Optional[QuickTestResult], i
         e_v_dtcs, p = read_DtcResult(b, p)
         v_dtcs.append(e_v_dtcs)
     v_error, p = read_KelError(b, p)
-    return _make_QuickTestResult(v_target, TargetResultStatus(v_status), v_variant, v_identified, v_dtcs, v_error), p
+    return _make_QuickTestResult(v_target, _as_TargetResultStatus(v_status), v_variant, v_identified, v_dtcs, v_error), p
 
 
 def read_EcuConfigurationResult(b: bytes, p: int) -> tuple[Optional[EcuConfigurationResult], int]:
@@ -2248,7 +2253,7 @@ def read_EcuConfigurationResult(b: bytes, p: int) -> tuple[Optional[EcuConfigura
     v_status, v_written = _S_iI_read(b, p)
     p += 8
     v_error, p = read_KelError(b, p)
-    return _make_EcuConfigurationResult(v_target, v_configuration, TargetResultStatus(v_status), v_written, v_error), p
+    return _make_EcuConfigurationResult(v_target, v_configuration, _as_TargetResultStatus(v_status), v_written, v_error), p
 
 
 def read_EcuOrderEntry(b: bytes, p: int) -> tuple[Optional[EcuOrderEntry], int]:
@@ -2443,7 +2448,7 @@ def read_SupportedDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], 
     for _ in range(n):
         e_v_dtcs, p = read_DtcResult(b, p)
         v_dtcs.append(e_v_dtcs)
-    return ReadDtcResult(status=TargetResultStatus(v_status), target=v_target, error=v_error, dtcs=v_dtcs), p
+    return ReadDtcResult(status=_as_TargetResultStatus(v_status), target=v_target, error=v_error, dtcs=v_dtcs), p
 
 
 def read_SpecialData(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
