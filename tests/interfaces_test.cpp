@@ -656,9 +656,11 @@ TEST_F(InterfacesConcurrency, SavedConfigurationIsAlwaysWholeAndKeepsReplacedTex
                 ++reads;
             }
             in.close();
-            // A reader that holds the file open without pause keeps Windows from ever
-            // replacing it; real readers pause.
-            std::this_thread::sleep_for(std::chrono::microseconds(100));
+#if defined(_WIN32)
+            // A reader that opens the file again at once keeps Windows from ever replacing
+            // it (a C runtime stream denies deletion while open); real readers pause.
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+#endif
         }
     });
     for (int i = 0; i < 200; ++i) {
