@@ -9,6 +9,7 @@ from __future__ import annotations
 import dataclasses
 import pathlib
 import re
+from typing import Iterator
 
 SCALARS = {
     "bool": ("bool", "bool"),
@@ -446,21 +447,27 @@ def _parse_operation(line: str, where: str) -> Operation:
     return op
 
 
+def _statements(path: pathlib.Path, docs: _Docs, kind: str) -> Iterator[tuple[int, str, list[str]]]:
+    """The lines of a description file that say something, as (line number, the raw line,
+    its words without comments); `#:` lines go to `docs` for the `kind` below them."""
+    for n, raw in enumerate(path.read_text().splitlines(), 1):
+        if docs.read(raw, f"{path.name}:{n}"):
+            continue
+        line = _words(raw)
+        if not line.strip():
+            docs.none_pending(kind)
+            continue
+        yield n, raw, line.split()
+
+
 def parse_records(path: pathlib.Path, known: dict[str, Record] | None = None) -> dict[str, Record]:
     """The records of one description file. `known` are records of another file that
     these may use (the test records use the interface's); they are not returned."""
     records: dict[str, Record] = {}
     current: Record | None = None
     docs = _Docs()
-    for n, raw in enumerate(path.read_text().splitlines(), 1):
+    for n, raw, words in _statements(path, docs, "record"):
         where = f"{path.name}:{n}"
-        if docs.read(raw, where):
-            continue
-        line = _words(raw)
-        if not line.strip():
-            docs.none_pending("record")
-            continue
-        words = line.split()
         if not raw[0].isspace():
             if words[0] != "record" or len(words) < 2:
                 raise DescriptionError(f"{where}: expected 'record <Name>'")
@@ -524,15 +531,8 @@ def parse_enums(path: pathlib.Path) -> dict[str, Enum]:
     enums: dict[str, Enum] = {}
     current: Enum | None = None
     docs = _Docs()
-    for n, raw in enumerate(path.read_text().splitlines(), 1):
+    for n, raw, words in _statements(path, docs, "enum"):
         where = f"{path.name}:{n}"
-        if docs.read(raw, where):
-            continue
-        line = _words(raw)
-        if not line.strip():
-            docs.none_pending("enum")
-            continue
-        words = line.split()
         if not raw[0].isspace():
             if words[0] != "enum" or len(words) not in (2, 3) or words[2:] not in ([], ["flags"]) \
                     or not re.fullmatch(r"[A-Z]\w*", words[1]):
@@ -564,15 +564,8 @@ def parse(root: pathlib.Path) -> Interface:
     family: str | None = None
     family_docs: dict[str, str] = {}
     docs = _Docs()
-    for n, raw in enumerate(path.read_text().splitlines(), 1):
+    for n, raw, words in _statements(path, docs, "operation"):
         where = f"{path.name}:{n}"
-        if docs.read(raw, where):
-            continue
-        line = _words(raw)
-        if not line.strip():
-            docs.none_pending("operation")
-            continue
-        words = line.split()
         if words[0] == "family":
             if len(words) != 2 or not re.fullmatch(r"[A-Za-z]\w*", words[1]):
                 raise DescriptionError(f"{where}: expected 'family <Name>'")
@@ -583,7 +576,7 @@ def parse(root: pathlib.Path) -> Interface:
             continue
         if _trailing_doc(raw):
             raise DescriptionError(f"{where}: an operation's doc stands in #: lines above it")
-        op = _parse_operation(line, where)
+        op = _parse_operation(_words(raw), where)
         op.line = n
         op.family = family
         op.doc = docs.take()
