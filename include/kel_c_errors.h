@@ -69,6 +69,7 @@
     1316 /* the users file in the data root cannot be read or written */
 #define KEL_ERROR_SOVD_SERVER_RUNNING 1317
 #define KEL_ERROR_SOVD_SERVER_NOT_RUNNING 1318
+#define KEL_ERROR_NOT_LOOPBACK 1319 /* a server would listen on an address that is not loopback */
 #define KEL_ERROR_UNKNOWN_INTERFACE 1400
 #define KEL_ERROR_UNKNOWN_RESOURCE 1401
 #define KEL_ERROR_NAME_TAKEN 1402 /* an interface or resource of that name exists already */

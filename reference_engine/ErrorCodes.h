@@ -72,6 +72,7 @@ enum ErrorCode : int32_t {
     UsersUnreadable = 1316,   // the users file in the data root cannot be read or written
     SovdServerRunning = 1317,
     SovdServerNotRunning = 1318,
+    NotLoopback = 1319, // a server would listen on an address that is not loopback
 
     // Interfaces: 1400-1499.
     UnknownInterface = 1400,

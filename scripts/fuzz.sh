@@ -10,7 +10,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 seconds=${1:-60}
 JOBS=${JOBS:-2}
 
-scripts/ensure-packages.sh clang clang-14 libclang-rt-14-dev cmake ninja-build nlohmann-json3-dev
+scripts/ensure-packages.sh clang clang-14 libclang-rt-14-dev cmake ninja-build nlohmann-json3-dev libboost-dev
 
 cmake --preset fuzz >/dev/null
 cmake --build --preset fuzz -j "$JOBS" --target dispatch_fuzz

@@ -93,6 +93,8 @@ class ErrorCode(enum.IntEnum):
     """The users file in the data root cannot be read or written."""
     SOVD_SERVER_RUNNING = 1317
     SOVD_SERVER_NOT_RUNNING = 1318
+    NOT_LOOPBACK = 1319
+    """A server would listen on an address that is not loopback."""
     UNKNOWN_INTERFACE = 1400
     UNKNOWN_RESOURCE = 1401
     NAME_TAKEN = 1402

@@ -11,6 +11,7 @@
 #include "VehicleDescription.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <fstream>
 #include <utility>
 
@@ -87,11 +88,36 @@ ServersSettings ServersSettings::parse(const nlohmann::json& section) {
             wholeNumber(section, "throttleMs", settings.throttleMs, 1, 3600000));
         settings.failureNames = static_cast<uint32_t>(
             wholeNumber(section, "failureNames", settings.failureNames, 1, 1000000));
+        settings.port = static_cast<uint16_t>(wholeNumber(section, "port", 0, 0, UINT16_MAX));
+        settings.sovdPort =
+            static_cast<uint16_t>(wholeNumber(section, "sovdPort", 0, 0, UINT16_MAX));
+        if (section.contains("listenAddress")) {
+            settings.listenAddress = section.at("listenAddress").get<std::string>();
+        }
         return settings;
     } catch (const std::exception& e) {
         throw TarnApiException(BadVehicleDescription, L"The vehicle description is not valid",
                                fromUtf8(e.what()));
     }
+}
+
+std::string listenAddress(const ServersSettings& settings) {
+    const std::string& address = settings.listenAddress;
+    // 127.0.0.0/8 in dotted form, or the one IPv6 loopback address.
+    const auto loopbackV4 = [](const std::string& text) {
+        unsigned a = 0, b = 0, c = 0, d = 0;
+        char end = 0;
+        const int read = std::sscanf(text.c_str(), "%3u.%3u.%3u.%3u%c", &a, &b, &c, &d, &end);
+        return read == 4 && a == 127 && b <= 255 && c <= 255 && d <= 255 &&
+               std::count(text.begin(), text.end(), '.') == 3;
+    };
+    if (loopbackV4(address) || address == "::1") {
+        return address;
+    }
+    throw TarnApiException(NotLoopback, L"The servers listen on the loopback interface only",
+                           L"listenAddress " + fromUtf8(address) +
+                               L" is not 127.0.0.0/8 or ::1; no setting opens the "
+                               L"simulated vehicle to a network");
 }
 
 void ServersState::load(const ServersSettings& settings) {

@@ -39,10 +39,20 @@ struct ServersSettings {
     uint32_t failedLogins = 3;            // failures in a row before logins are throttled
     uint32_t throttleMs = 1000;           // the first wait; it doubles with each failure
     uint32_t failureNames = 1000;         // names whose failures are kept at most
+    // Where the engine's server and the SOVD server listen. Loopback only: a description
+    // that names any other address is refused when a server starts (listenAddress()).
+    std::string listenAddress = "127.0.0.1";
+    uint16_t port = 0;     // the engine's server; 0 lets the system choose
+    uint16_t sovdPort = 0; // the SOVD server; 0 lets the system choose
 
     // Throws TarnApiException BadVehicleDescription.
     static ServersSettings parse(const nlohmann::json& section);
 };
+
+// The address the servers bind to: `settings.listenAddress` when it is a loopback address
+// (127.0.0.0/8 or ::1), else TarnApiException NotLoopback. No setting opens the simulated
+// vehicle to a network.
+std::string listenAddress(const ServersSettings& settings);
 
 // Per vehicle, under its own lock. Users and the user management switch live in the
 // data root's "users" folder, read on first use.
