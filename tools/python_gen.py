@@ -290,33 +290,50 @@ def reader(iface: kelidl.Interface, rec: kelidl.Record, pool: StructPool) -> lis
     out = [f"def read_{rec.name}(b: bytes, p: int) -> tuple[Optional[{target}], int]:",
            "    if not b[p]:", "        return None, p + 1", "    p += 1"]
     values = []
-    for run in scalar_runs(iface.members(rec.name)):
+    sized = ("wstr", "bytes", "list")
+    runs = scalar_runs(iface.members(rec.name))
+    # Each struct read costs about as much as a short string's decode, so a member's
+    # length prefix is read with the scalars before it, and an empty text, common in
+    # results, is not decoded at all.
+    counted = False  # the next member's length is in `n` already and p is past it
+    for i, run in enumerate(runs):
         f = run[0]
         local = "v_" + snake(f.name).rstrip("_")
         if f.kind in kelidl.SCALARS:
-            code = "<" + "".join(CODES[x.kind] for x in run)
-            size = sum(kelidl_width(x.kind) for x in run)
-            locals_ = ["v_" + snake(x.name).rstrip("_") for x in run]
-            out.append(f"    {', '.join(locals_)}{',' if len(run) == 1 else ''} = {pool.name(code)}_read(b, p)")
+            following = runs[i + 1][0] if i + 1 < len(runs) else None
+            counted = following is not None and following.kind in sized
+            code = "<" + "".join(CODES[x.kind] for x in run) + ("I" if counted else "")
+            size = sum(kelidl_width(x.kind) for x in run) + (4 if counted else 0)
+            locals_ = ["v_" + snake(x.name).rstrip("_") for x in run] + (["n"] if counted else [])
+            out.append(f"    {', '.join(locals_)}{',' if len(locals_) == 1 else ''} = {pool.name(code)}_read(b, p)")
             out.append(f"    p += {size}")
             values += [(x, loc) for x, loc in zip(run, locals_)]
             continue
+        start, skip = "p", ""  # where the member's data starts, relative to p
+        if f.kind in sized:
+            if not counted:
+                out.append("    (n,) = _u32_read(b, p)")
+                start, skip = "p + 4", "4 + "
+            counted = False
+        if f.kind == "list" and skip:
+            out.append("    p += 4")
         if f.kind == "array":
             code = f"<{f.length}{CODES[f.element]}"
             out.append(f"    {local} = list({pool.name(code)}_read(b, p))")
             out.append(f"    p += {f.length * kelidl_width(f.element)}")
         elif f.kind == "wstr":
-            out += ["    (n,) = _u32_read(b, p)", f"    {local} = b[p + 4 : p + 4 + n].decode()", "    p += 4 + n"]
+            out += [f"    {local} = b[{start} : {start} + n].decode() if n else \"\"", f"    p += {skip}n"]
         elif f.kind == "wstrs":
             out.append(f"    {local}, p = read_texts(b, p)")
         elif f.kind == "bytes":
-            out += ["    (n,) = _u32_read(b, p)", f"    {local} = b[p + 4 : p + 4 + n]", "    p += 4 + n"]
+            out += [f"    {local} = b[{start} : {start} + n]", f"    p += {skip}n"]
         elif f.kind == "rec":
-            out.append(f"    {local}, p = read_{f.record}(b, p)")
+            # An absent record is one byte: no call for it.
+            out += ["    if b[p]:", f"        {local}, p = read_{f.record}(b, p)", "    else:",
+                    f"        {local} = None", "        p += 1"]
         elif f.kind == "list":
             elem = c_name(iface, f.record)
-            out += ["    (n,) = _u32_read(b, p)", "    p += 4",
-                    f"    {local}: list[Optional[{elem}]] = []",
+            out += [f"    {local}: list[Optional[{elem}]] = []",
                     "    for _ in range(n):",
                     f"        e_{local}, p = read_{f.record}(b, p)",
                     f"        {local}.append(e_{local})"]

@@ -169,10 +169,12 @@ def write_values(o: bytearray, code: str, values: Sequence[int]) -> None:
     o += _U32.pack(len(values))
     o += struct.pack(f"<{len(values)}{code}", *values)
 
+_S_iI_read = struct.Struct("<iI").unpack_from
+_S_iI_write = struct.Struct("<iI").pack
 _S_i_read = struct.Struct("<i").unpack_from
 _S_i_write = struct.Struct("<i").pack
-_S_QQ_read = struct.Struct("<QQ").unpack_from
-_S_QQ_write = struct.Struct("<QQ").pack
+_S_QQI_read = struct.Struct("<QQI").unpack_from
+_S_QQI_write = struct.Struct("<QQI").pack
 _S_IBi_read = struct.Struct("<IBi").unpack_from
 _S_IBi_write = struct.Struct("<IBi").pack
 _S_iBBB_read = struct.Struct("<iBBB").unpack_from
@@ -185,6 +187,10 @@ _S_Q_read = struct.Struct("<Q").unpack_from
 _S_Q_write = struct.Struct("<Q").pack
 _S_b_read = struct.Struct("<?").unpack_from
 _S_b_write = struct.Struct("<?").pack
+_S_QI_read = struct.Struct("<QI").unpack_from
+_S_QI_write = struct.Struct("<QI").pack
+_S_bI_read = struct.Struct("<?I").unpack_from
+_S_bI_write = struct.Struct("<?I").pack
 _S_bi_read = struct.Struct("<?i").unpack_from
 _S_bi_write = struct.Struct("<?i").pack
 _S_8I_read = struct.Struct("<8I").unpack_from
@@ -193,48 +199,52 @@ _S_7I_read = struct.Struct("<7I").unpack_from
 _S_7I_write = struct.Struct("<7I").pack
 _S_QbQb_read = struct.Struct("<Q?Q?").unpack_from
 _S_QbQb_write = struct.Struct("<Q?Q?").pack
-_S_ii_read = struct.Struct("<ii").unpack_from
-_S_ii_write = struct.Struct("<ii").pack
-_S_bI_read = struct.Struct("<?I").unpack_from
-_S_bI_write = struct.Struct("<?I").pack
-_S_I_read = struct.Struct("<I").unpack_from
-_S_I_write = struct.Struct("<I").pack
+_S_iiI_read = struct.Struct("<iiI").unpack_from
+_S_iiI_write = struct.Struct("<iiI").pack
 _S_II_read = struct.Struct("<II").unpack_from
 _S_II_write = struct.Struct("<II").pack
 _S_4b_read = struct.Struct("<4?").unpack_from
 _S_4b_write = struct.Struct("<4?").pack
 _S_Qb_read = struct.Struct("<Q?").unpack_from
 _S_Qb_write = struct.Struct("<Q?").pack
+_S_III_read = struct.Struct("<III").unpack_from
+_S_III_write = struct.Struct("<III").pack
 _S_IbI_read = struct.Struct("<I?I").unpack_from
 _S_IbI_write = struct.Struct("<I?I").pack
 _S_ibbi_read = struct.Struct("<i??i").unpack_from
 _S_ibbi_write = struct.Struct("<i??i").pack
-_S_IIIbIH_read = struct.Struct("<III?IH").unpack_from
-_S_IIIbIH_write = struct.Struct("<III?IH").pack
-_S_Ib_read = struct.Struct("<I?").unpack_from
-_S_Ib_write = struct.Struct("<I?").pack
-_S_bbbIbbb_read = struct.Struct("<???I???").unpack_from
-_S_bbbIbbb_write = struct.Struct("<???I???").pack
+_S_IIIbIHI_read = struct.Struct("<III?IHI").unpack_from
+_S_IIIbIHI_write = struct.Struct("<III?IHI").pack
+_S_bbbIbbbI_read = struct.Struct("<???I???I").unpack_from
+_S_bbbIbbbI_write = struct.Struct("<???I???I").pack
 _S_BBBIII_read = struct.Struct("<BBBIII").unpack_from
 _S_BBBIII_write = struct.Struct("<BBBIII").pack
 _S_QQQQQIQQ_read = struct.Struct("<QQQQQIQQ").unpack_from
 _S_QQQQQIQQ_write = struct.Struct("<QQQQQIQQ").pack
 _S_QQQQ_read = struct.Struct("<QQQQ").unpack_from
 _S_QQQQ_write = struct.Struct("<QQQQ").pack
-_S_bb_read = struct.Struct("<??").unpack_from
-_S_bb_write = struct.Struct("<??").pack
+_S_bbI_read = struct.Struct("<??I").unpack_from
+_S_bbI_write = struct.Struct("<??I").pack
+_S_Ib_read = struct.Struct("<I?").unpack_from
+_S_Ib_write = struct.Struct("<I?").pack
 _S_IIb_read = struct.Struct("<II?").unpack_from
 _S_IIb_write = struct.Struct("<II?").pack
 _S_IbQ_read = struct.Struct("<I?Q").unpack_from
 _S_IbQ_write = struct.Struct("<I?Q").pack
 _S_bQIQQQ_read = struct.Struct("<?QIQQQ").unpack_from
 _S_bQIQQQ_write = struct.Struct("<?QIQQQ").pack
-_S_IIIIIQIIIIH_read = struct.Struct("<IIIIIQIIIIH").unpack_from
-_S_IIIIIQIIIIH_write = struct.Struct("<IIIIIQIIIIH").pack
-_S_QIbbbI_read = struct.Struct("<QI???I").unpack_from
-_S_QIbbbI_write = struct.Struct("<QI???I").pack
-_S_IIQ_read = struct.Struct("<IIQ").unpack_from
-_S_IIQ_write = struct.Struct("<IIQ").pack
+_S_I_read = struct.Struct("<I").unpack_from
+_S_I_write = struct.Struct("<I").pack
+_S_IIIIIQIIIIHI_read = struct.Struct("<IIIIIQIIIIHI").unpack_from
+_S_IIIIIQIIIIHI_write = struct.Struct("<IIIIIQIIIIHI").pack
+_S_QIbbbII_read = struct.Struct("<QI???II").unpack_from
+_S_QIbbbII_write = struct.Struct("<QI???II").pack
+_S_QQ_read = struct.Struct("<QQ").unpack_from
+_S_QQ_write = struct.Struct("<QQ").pack
+_S_bII_read = struct.Struct("<?II").unpack_from
+_S_bII_write = struct.Struct("<?II").pack
+_S_IIQI_read = struct.Struct("<IIQI").unpack_from
+_S_IIQI_write = struct.Struct("<IIQI").pack
 _S_H_read = struct.Struct("<H").unpack_from
 _S_H_write = struct.Struct("<H").pack
 _S_bIII_read = struct.Struct("<?III").unpack_from
@@ -243,34 +253,42 @@ _S_QII_read = struct.Struct("<QII").unpack_from
 _S_QII_write = struct.Struct("<QII").pack
 _S_QQII_read = struct.Struct("<QQII").unpack_from
 _S_QQII_write = struct.Struct("<QQII").pack
-_S_iI_read = struct.Struct("<iI").unpack_from
-_S_iI_write = struct.Struct("<iI").pack
 _S_Ibb_read = struct.Struct("<I??").unpack_from
 _S_Ibb_write = struct.Struct("<I??").pack
-_S_bbI_read = struct.Struct("<??I").unpack_from
-_S_bbI_write = struct.Struct("<??I").pack
 _S_IIII_read = struct.Struct("<IIII").unpack_from
 _S_IIII_write = struct.Struct("<IIII").pack
+_S_bb_read = struct.Struct("<??").unpack_from
+_S_bb_write = struct.Struct("<??").pack
 _S_IiI_read = struct.Struct("<IiI").unpack_from
 _S_IiI_write = struct.Struct("<IiI").pack
+_S_ii_read = struct.Struct("<ii").unpack_from
+_S_ii_write = struct.Struct("<ii").pack
+_S_IIIbIH_read = struct.Struct("<III?IH").unpack_from
+_S_IIIbIH_write = struct.Struct("<III?IH").pack
+_S_bbbIbbb_read = struct.Struct("<???I???").unpack_from
+_S_bbbIbbb_write = struct.Struct("<???I???").pack
+_S_IIIIIQIIIIH_read = struct.Struct("<IIIIIQIIIIH").unpack_from
+_S_IIIIIQIIIIH_write = struct.Struct("<IIIIIQIIIIH").pack
+_S_QIbbbI_read = struct.Struct("<QI???I").unpack_from
+_S_QIbbbI_write = struct.Struct("<QI???I").pack
+_S_IIQ_read = struct.Struct("<IIQ").unpack_from
+_S_IIQ_write = struct.Struct("<IIQ").pack
 
 
 def read_MvciServerError(b: bytes, p: int) -> tuple[Optional[MvciServerError], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_code, = _S_i_read(b, p)
-    p += 4
+    v_code, n = _S_iI_read(b, p)
+    p += 8
+    v_code_text = b[p : p + n].decode() if n else ""
+    p += n
+    v_vendor_code, n = _S_iI_read(b, p)
+    p += 8
+    v_vendor_code_text = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_code_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_vendor_code, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_vendor_code_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_extra_text = b[p + 4 : p + 4 + n].decode()
+    v_extra_text = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_extra_code, = _S_i_read(b, p)
     p += 4
@@ -281,16 +299,14 @@ def read_NegativeResponse(b: bytes, p: int) -> tuple[Optional[NegativeResponse],
     if not b[p]:
         return None, p + 1
     p += 1
-    v_code, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_value1, v_value2 = _S_QQ_read(b, p)
-    p += 16
-    (n,) = _u32_read(b, p)
-    v_bytes = b[p + 4 : p + 4 + n]
-    p += 4 + n
+    v_code, n = _S_iI_read(b, p)
+    p += 8
+    v_text = b[p : p + n].decode() if n else ""
+    p += n
+    v_value1, v_value2, n = _S_QQI_read(b, p)
+    p += 20
+    v_bytes = b[p : p + n]
+    p += n
     return _make_NegativeResponse(v_code, v_text, v_value1, v_value2, v_bytes), p
 
 
@@ -298,18 +314,25 @@ def read_KelError(b: bytes, p: int) -> tuple[Optional[KelError], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_code, = _S_i_read(b, p)
-    p += 4
+    v_code, n = _S_iI_read(b, p)
+    p += 8
+    v_message = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_message = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_details = b[p + 4 : p + 4 + n].decode()
+    v_details = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_sub_code, = _S_i_read(b, p)
     p += 4
-    v_mvci_error, p = read_MvciServerError(b, p)
-    v_negative_response, p = read_NegativeResponse(b, p)
+    if b[p]:
+        v_mvci_error, p = read_MvciServerError(b, p)
+    else:
+        v_mvci_error = None
+        p += 1
+    if b[p]:
+        v_negative_response, p = read_NegativeResponse(b, p)
+    else:
+        v_negative_response = None
+        p += 1
     return _make_KelError(v_code, v_message, v_details, v_sub_code, v_mvci_error, v_negative_response), p
 
 
@@ -318,16 +341,16 @@ def read_NamedItem(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_NamedItem(v_item_text1, v_item_text2, v_item_text3, v_item_text4), p
 
@@ -337,43 +360,44 @@ def read_ParameterResult(b: bytes, p: int) -> tuple[Optional[ParameterResult], i
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value1, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value1, n = _S_iI_read(b, p)
+    p += 8
     v_children: list[Optional[ParameterResult]] = []
     for _ in range(n):
         e_v_children, p = read_ParameterResult(b, p)
         v_children.append(e_v_children)
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value2, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_data = b[p + 4 : p + 4 + n]
-    p += 4 + n
+    v_value2, n = _S_iI_read(b, p)
+    p += 8
+    v_data = b[p : p + n]
+    p += n
     v_value3, v_flag, v_value4 = _S_IBi_read(b, p)
     p += 9
     return _make_ParameterResult(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_text1, v_text2, v_value1, v_children, v_text3, v_error, v_text4, v_value2, v_data, v_value3, v_flag, v_value4), p
@@ -383,12 +407,15 @@ def read_ClearDtcResult(b: bytes, p: int) -> tuple[Optional[ClearDtcResult], int
     if not b[p]:
         return None, p + 1
     p += 1
-    v_status, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_error, p = read_KelError(b, p)
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_target = b[p : p + n].decode() if n else ""
+    p += n
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_ClearDtcResult(_as_TargetResultStatus(v_status), v_target, v_error), p
 
 
@@ -405,12 +432,15 @@ def read_ReadDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_status, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_error, p = read_KelError(b, p)
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_target = b[p : p + n].decode() if n else ""
+    p += n
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
     p += 4
     v_dtcs: list[Optional[DtcResult]] = []
@@ -426,18 +456,15 @@ def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_code, = _S_i_read(b, p)
-    p += 4
+    v_code, n = _S_iI_read(b, p)
+    p += 8
+    v_text1 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_value1, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value1, n = _S_iI_read(b, p)
+    p += 8
     v_parameters1: list[Optional[ParameterResult]] = []
     for _ in range(n):
         e_v_parameters1, p = read_ParameterResult(b, p)
@@ -449,10 +476,10 @@ def read_DtcResult(b: bytes, p: int) -> tuple[Optional[DtcResult], int]:
         e_v_parameters2, p = read_ParameterResult(b, p)
         v_parameters2.append(e_v_parameters2)
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -483,13 +510,17 @@ def read_VariantIdentResult(b: bytes, p: int) -> tuple[Optional[VariantIdentResu
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_status, = _S_i_read(b, p)
     p += 4
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
-    v_variant = b[p + 4 : p + 4 + n].decode()
+    v_variant = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_VariantIdentResult(v_target, _as_TargetResultStatus(v_status), v_error, v_variant), p
 
@@ -499,14 +530,17 @@ def read_ReadDataResult(b: bytes, p: int) -> tuple[Optional[ReadDataResult], int
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_status, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_error, p = read_KelError(b, p)
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_text = b[p : p + n].decode() if n else ""
+    p += n
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
     p += 4
     v_parameters: list[Optional[ParameterResult]] = []
@@ -521,24 +555,23 @@ def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value1, = _S_i_read(b, p)
-    p += 4
+    v_value1, n = _S_iI_read(b, p)
+    p += 8
+    v_text1 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -548,16 +581,15 @@ def read_Target(b: bytes, p: int) -> tuple[Optional[Target], int]:
         v_items.append(e_v_items)
     v_names, p = read_texts(b, p)
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value2, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text5 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_value2, n = _S_iI_read(b, p)
+    p += 8
+    v_text5 = b[p : p + n].decode() if n else ""
+    p += n
     return _make_Target(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_value1, v_text1, v_text2, v_items, v_names, v_text3, v_text4, v_value2, v_text5), p
 
 
@@ -566,16 +598,20 @@ def read_TargetStatus(b: bytes, p: int) -> tuple[Optional[TargetStatus], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
+    v_text = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     v_values = list(_S_5I_read(b, p))
     p += 20
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_TargetStatus(v_target, v_text, v_error, v_values, v_text2), p
 
@@ -585,7 +621,7 @@ def read_TargetFilter(b: bytes, p: int) -> tuple[Optional[TargetFilter], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_pattern = b[p + 4 : p + 4 + n].decode()
+    v_pattern = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_flag, v_value = _S_Bi_read(b, p)
     p += 5
@@ -597,7 +633,7 @@ def read_ParameterInput(b: bytes, p: int) -> tuple[Optional[ParameterInput], int
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -606,7 +642,7 @@ def read_ParameterInput(b: bytes, p: int) -> tuple[Optional[ParameterInput], int
         e_v_children, p = read_ParameterInput(b, p)
         v_children.append(e_v_children)
     (n,) = _u32_read(b, p)
-    v_value = b[p + 4 : p + 4 + n].decode()
+    v_value = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_ParameterInput(v_name, v_children, v_value), p
 
@@ -622,7 +658,7 @@ def read_ServiceInput(b: bytes, p: int) -> tuple[Optional[ServiceInput], int]:
         e_v_parameters, p = read_ParameterInput(b, p)
         v_parameters.append(e_v_parameters)
     (n,) = _u32_read(b, p)
-    v_service = b[p + 4 : p + 4 + n].decode()
+    v_service = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     v_data = b[p + 4 : p + 4 + n]
@@ -637,16 +673,16 @@ def read_ServiceResult(b: bytes, p: int) -> tuple[Optional[ServiceResult], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -654,13 +690,20 @@ def read_ServiceResult(b: bytes, p: int) -> tuple[Optional[ServiceResult], int]:
     for _ in range(n):
         e_v_responses, p = read_ResponseResult(b, p)
         v_responses.append(e_v_responses)
-    v_status, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_error, p = read_KelError(b, p)
-    v_request, p = read_RequestResult(b, p)
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_text1 = b[p : p + n].decode() if n else ""
+    p += n
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
+    if b[p]:
+        v_request, p = read_RequestResult(b, p)
+    else:
+        v_request = None
+        p += 1
     v_value1, = _S_i_read(b, p)
     p += 4
     return _make_ServiceResult(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_responses, _as_ServiceStatus(v_status), v_text1, v_error, v_request, v_value1), p
@@ -671,27 +714,29 @@ def read_ResponseResult(b: bytes, p: int) -> tuple[Optional[ResponseResult], int
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_flag, = _S_b_read(b, p)
     p += 1
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
     v_data = b[p + 4 : p + 4 + n]
     p += 4 + n
-    v_value1, v_value2 = _S_QQ_read(b, p)
-    p += 16
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value1, v_value2, n = _S_QQI_read(b, p)
+    p += 20
     v_parameters: list[Optional[ParameterResult]] = []
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
@@ -703,14 +748,16 @@ def read_RequestResult(b: bytes, p: int) -> tuple[Optional[RequestResult], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
     v_data = b[p + 4 : p + 4 + n]
     p += 4 + n
-    v_value1, v_value2 = _S_QQ_read(b, p)
-    p += 16
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value1, v_value2, n = _S_QQI_read(b, p)
+    p += 20
     v_parameters: list[Optional[ParameterResult]] = []
     for _ in range(n):
         e_v_parameters, p = read_ParameterResult(b, p)
@@ -722,10 +769,8 @@ def read_UnlockResult(b: bytes, p: int) -> tuple[Optional[UnlockResult], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value, = _S_Q_read(b, p)
-    p += 8
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value, n = _S_QI_read(b, p)
+    p += 12
     v_services: list[Optional[ServiceResult]] = []
     for _ in range(n):
         e_v_services, p = read_ServiceResult(b, p)
@@ -738,21 +783,19 @@ def read_ServiceInfo(b: bytes, p: int) -> tuple[Optional[ServiceInfo], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_flag, = _S_b_read(b, p)
-    p += 1
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_flag, n = _S_bI_read(b, p)
+    p += 5
     v_responses: list[Optional[ResponseInfo]] = []
     for _ in range(n):
         e_v_responses, p = read_ResponseInfo(b, p)
@@ -764,7 +807,7 @@ def read_ServiceInfo(b: bytes, p: int) -> tuple[Optional[ServiceInfo], int]:
         e_v_parameters, p = read_ParameterInfo(b, p)
         v_parameters.append(e_v_parameters)
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -772,7 +815,11 @@ def read_ServiceInfo(b: bytes, p: int) -> tuple[Optional[ServiceInfo], int]:
     for _ in range(n):
         e_v_items, p = read_NamedItem(b, p)
         v_items.append(e_v_items)
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     v_values = list(_S_5I_read(b, p))
     p += 20
     return _make_ServiceInfo(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_flag, v_responses, v_parameters, v_text1, v_items, v_error, v_values), p
@@ -783,21 +830,19 @@ def read_ResponseInfo(b: bytes, p: int) -> tuple[Optional[ResponseInfo], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_status, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_status, n = _S_iI_read(b, p)
+    p += 8
     v_parameters: list[Optional[ParameterInfo]] = []
     for _ in range(n):
         e_v_parameters, p = read_ParameterInfo(b, p)
@@ -810,31 +855,30 @@ def read_ParameterInfo(b: bytes, p: int) -> tuple[Optional[ParameterInfo], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value1, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_value1, n = _S_iI_read(b, p)
+    p += 8
+    v_text4 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
     p += 4
     v_children: list[Optional[ParameterInfo]] = []
@@ -842,29 +886,45 @@ def read_ParameterInfo(b: bytes, p: int) -> tuple[Optional[ParameterInfo], int]:
         e_v_children, p = read_ParameterInfo(b, p)
         v_children.append(e_v_children)
     (n,) = _u32_read(b, p)
-    v_text5 = b[p + 4 : p + 4 + n].decode()
+    v_text5 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_names, p = read_texts(b, p)
     v_flag1, v_value2 = _S_bi_read(b, p)
     p += 5
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     v_flag2, = _S_b_read(b, p)
     p += 1
     v_values = list(_S_8I_read(b, p))
     p += 32
     v_flag3, = _S_b_read(b, p)
     p += 1
-    v_constraint1, p = read_ConstraintInfo(b, p)
-    v_constraint2, p = read_ConstraintInfo(b, p)
+    if b[p]:
+        v_constraint1, p = read_ConstraintInfo(b, p)
+    else:
+        v_constraint1 = None
+        p += 1
+    if b[p]:
+        v_constraint2, p = read_ConstraintInfo(b, p)
+    else:
+        v_constraint2 = None
+        p += 1
     (n,) = _u32_read(b, p)
-    v_text6 = b[p + 4 : p + 4 + n].decode()
+    v_text6 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text7 = b[p + 4 : p + 4 + n].decode()
+    v_text7 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_flag4, = _S_b_read(b, p)
     p += 1
-    v_unit, p = read_UnitInfo(b, p)
+    if b[p]:
+        v_unit, p = read_UnitInfo(b, p)
+    else:
+        v_unit = None
+        p += 1
     return _make_ParameterInfo(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_text1, v_text2, v_text3, v_value1, v_text4, v_children, v_text5, v_names, v_flag1, v_value2, v_error, v_flag2, v_values, v_flag3, v_constraint1, v_constraint2, v_text6, v_text7, v_flag4, v_unit), p
 
 
@@ -873,15 +933,13 @@ def read_ConstraintInfo(b: bytes, p: int) -> tuple[Optional[ConstraintInfo], int
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_flag, = _S_b_read(b, p)
-    p += 1
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_flag, n = _S_bI_read(b, p)
+    p += 5
     v_scales: list[Optional[ScaleConstraintInfo]] = []
     for _ in range(n):
         e_v_scales, p = read_ScaleConstraintInfo(b, p)
@@ -894,22 +952,22 @@ def read_ScaleConstraintInfo(b: bytes, p: int) -> tuple[Optional[ScaleConstraint
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_flag, v_value = _S_bi_read(b, p)
     p += 5
@@ -932,18 +990,17 @@ def read_ParameterInfoConfig(b: bytes, p: int) -> tuple[Optional[ParameterInfoCo
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value, = _S_i_read(b, p)
-    p += 4
+    v_value, n = _S_iI_read(b, p)
+    p += 8
+    v_text3 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_ParameterInfoConfig(v_text1, v_text2, v_value, v_text3, v_text4), p
 
@@ -953,16 +1010,19 @@ def read_KelEvent(b: bytes, p: int) -> tuple[Optional[KelEvent], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_kind, v_code = _S_ii_read(b, p)
-    p += 8
+    v_kind, v_code, n = _S_iiI_read(b, p)
+    p += 12
+    v_text = b[p : p + n].decode() if n else ""
+    p += n
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_error, p = read_KelError(b, p)
-    (n,) = _u32_read(b, p)
-    v_detail = b[p + 4 : p + 4 + n].decode()
+    v_detail = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_KelEvent(v_name, _as_EventKind(v_kind), v_code, v_text, v_error, v_detail), p
 
@@ -985,7 +1045,7 @@ def read_FileFilter(b: bytes, p: int) -> tuple[Optional[FileFilter], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_pattern = b[p + 4 : p + 4 + n].decode()
+    v_pattern = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_flag, v_value = _S_bI_read(b, p)
     p += 5
@@ -996,13 +1056,12 @@ def read_TargetConfig(b: bytes, p: int) -> tuple[Optional[TargetConfig], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value, = _S_i_read(b, p)
-    p += 4
+    v_value, n = _S_iI_read(b, p)
+    p += 8
+    v_text1 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_TargetConfig(v_value, v_text1, v_text2), p
 
@@ -1012,16 +1071,16 @@ def read_ProjectConfig(b: bytes, p: int) -> tuple[Optional[ProjectConfig], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -1029,10 +1088,8 @@ def read_ProjectConfig(b: bytes, p: int) -> tuple[Optional[ProjectConfig], int]:
     for _ in range(n):
         e_v_filters1, p = read_FileFilter(b, p)
         v_filters1.append(e_v_filters1)
-    v_value0, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value0, n = _S_iI_read(b, p)
+    p += 8
     v_targets: list[Optional[TargetConfig]] = []
     for _ in range(n):
         e_v_targets, p = read_TargetConfig(b, p)
@@ -1045,16 +1102,15 @@ def read_ProjectConfig(b: bytes, p: int) -> tuple[Optional[ProjectConfig], int]:
         v_filters2.append(e_v_filters2)
     v_strings1, p = read_texts(b, p)
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value1, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_value1, n = _S_II_read(b, p)
+    p += 8
+    v_text2 = b[p : p + n].decode() if n else ""
+    p += n
     v_strings2, p = read_texts(b, p)
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_value2, v_value3 = _S_II_read(b, p)
     p += 8
@@ -1080,17 +1136,14 @@ def read_ProjectDetails(b: bytes, p: int) -> tuple[Optional[ProjectDetails], int
         e_v_db_files2, p = read_DbFileInfo(b, p)
         v_db_files2.append(e_v_db_files2)
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value1, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_value2, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value1, n = _S_II_read(b, p)
+    p += 8
+    v_text2 = b[p : p + n].decode() if n else ""
+    p += n
+    v_value2, n = _S_II_read(b, p)
+    p += 8
     v_users: list[Optional[UserInfo]] = []
     for _ in range(n):
         e_v_users, p = read_UserInfo(b, p)
@@ -1103,14 +1156,18 @@ def read_DbFileInfo(b: bytes, p: int) -> tuple[Optional[DbFileInfo], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_path = b[p + 4 : p + 4 + n].decode()
+    v_path = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_size, v_loaded = _S_Qb_read(b, p)
     p += 9
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_DbFileInfo(v_name, v_path, v_size, v_loaded, v_error), p
 
 
@@ -1118,21 +1175,19 @@ def read_SystemInfo(b: bytes, p: int) -> tuple[Optional[SystemInfo], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value1, v_value2 = _S_II_read(b, p)
+    v_value1, v_value2, n = _S_III_read(b, p)
+    p += 12
+    v_text1 = b[p : p + n].decode() if n else ""
+    p += n
+    v_value3, n = _S_II_read(b, p)
     p += 8
+    v_text2 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_value3, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_SystemInfo(v_value1, v_value2, v_text1, v_value3, v_text2, v_text3, v_text4), p
 
@@ -1142,43 +1197,44 @@ def read_SystemProperty(b: bytes, p: int) -> tuple[Optional[SystemProperty], int
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value1, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value1, n = _S_II_read(b, p)
+    p += 8
     v_children: list[Optional[SystemProperty]] = []
     for _ in range(n):
         e_v_children, p = read_SystemProperty(b, p)
         v_children.append(e_v_children)
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value2, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_data = b[p + 4 : p + 4 + n]
-    p += 4 + n
+    v_value2, n = _S_II_read(b, p)
+    p += 8
+    v_data = b[p : p + n]
+    p += n
     v_value3, v_flag, v_value4 = _S_IbI_read(b, p)
     p += 9
     return _make_SystemProperty(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_text1, v_text2, v_value1, v_children, v_text3, v_error, v_text4, v_value2, v_data, v_value3, v_flag, v_value4), p
@@ -1190,17 +1246,19 @@ def read_TarnApiConfig(b: bytes, p: int) -> tuple[Optional[TarnApiConfig], int]:
     p += 1
     v_value1, v_flag1, v_flag2, v_value2 = _S_ibbi_read(b, p)
     p += 10
-    v_server, p = read_ServerConfig(b, p)
-    v_value3, v_value4, v_value5, v_flag3, v_value6, v_value7 = _S_IIIbIH_read(b, p)
-    p += 19
-    (n,) = _u32_read(b, p)
-    p += 4
+    if b[p]:
+        v_server, p = read_ServerConfig(b, p)
+    else:
+        v_server = None
+        p += 1
+    v_value3, v_value4, v_value5, v_flag3, v_value6, v_value7, n = _S_IIIbIHI_read(b, p)
+    p += 23
     v_oauth2_configs: list[Optional[Oauth2Config]] = []
     for _ in range(n):
         e_v_oauth2_configs, p = read_Oauth2Config(b, p)
         v_oauth2_configs.append(e_v_oauth2_configs)
     (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
+    v_text = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_TarnApiConfig(v_value1, v_flag1, v_flag2, v_value2, v_server, v_value3, v_value4, v_value5, v_flag3, v_value6, v_value7, v_oauth2_configs, v_text), p
 
@@ -1210,13 +1268,12 @@ def read_ServerConfig(b: bytes, p: int) -> tuple[Optional[ServerConfig], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_address = b[p + 4 : p + 4 + n].decode()
+    v_address = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_port, v_enabled = _S_Ib_read(b, p)
-    p += 5
-    (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_port, v_enabled, n = _S_IbI_read(b, p)
+    p += 9
+    v_name = b[p : p + n].decode() if n else ""
+    p += n
     return _make_ServerConfig(v_address, v_port, v_enabled, v_name), p
 
 
@@ -1225,14 +1282,14 @@ def read_Oauth2Config(b: bytes, p: int) -> tuple[Optional[Oauth2Config], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_issuer = b[p + 4 : p + 4 + n].decode()
+    v_issuer = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_client_id = b[p + 4 : p + 4 + n].decode()
+    v_client_id = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_scopes, p = read_texts(b, p)
     (n,) = _u32_read(b, p)
-    v_redirect_url = b[p + 4 : p + 4 + n].decode()
+    v_redirect_url = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_Oauth2Config(v_issuer, v_client_id, v_scopes, v_redirect_url), p
 
@@ -1242,29 +1299,32 @@ def read_MoxConfig(b: bytes, p: int) -> tuple[Optional[MoxConfig], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text5 = b[p + 4 : p + 4 + n].decode()
+    v_text5 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_flag1, v_flag2, v_flag3, v_value, v_flag4, v_flag5, v_flag6 = _S_bbbIbbb_read(b, p)
-    p += 10
+    v_flag1, v_flag2, v_flag3, v_value, v_flag4, v_flag5, v_flag6, n = _S_bbbIbbbI_read(b, p)
+    p += 14
+    v_text6 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text6 = b[p + 4 : p + 4 + n].decode()
+    v_text7 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text7 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_tcp, p = read_TcpInfo(b, p)
+    if b[p]:
+        v_tcp, p = read_TcpInfo(b, p)
+    else:
+        v_tcp = None
+        p += 1
     return _make_MoxConfig(v_text1, v_text2, v_text3, v_text4, v_text5, v_flag1, v_flag2, v_flag3, v_value, v_flag4, v_flag5, v_flag6, v_text6, v_text7, v_tcp), p
 
 
@@ -1305,11 +1365,10 @@ def read_ProcessInfo(b: bytes, p: int) -> tuple[Optional[ProcessInfo], int]:
     for _ in range(n):
         e_v_processes, p = read_ProcessEntry(b, p)
         v_processes.append(e_v_processes)
-    v_flag1, v_flag2 = _S_bb_read(b, p)
-    p += 2
-    (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_flag1, v_flag2, n = _S_bbI_read(b, p)
+    p += 6
+    v_text = b[p : p + n].decode() if n else ""
+    p += n
     return _make_ProcessInfo(v_processes, v_flag1, v_flag2, v_text), p
 
 
@@ -1317,16 +1376,14 @@ def read_ProcessEntry(b: bytes, p: int) -> tuple[Optional[ProcessEntry], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value, n = _S_II_read(b, p)
+    p += 8
     v_items1: list[Optional[ProcessThread]] = []
     for _ in range(n):
         e_v_items1, p = read_ProcessThread(b, p)
         v_items1.append(e_v_items1)
     (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
+    v_text = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -1341,11 +1398,10 @@ def read_ProcessThread(b: bytes, p: int) -> tuple[Optional[ProcessThread], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_id, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_id, n = _S_II_read(b, p)
+    p += 8
+    v_name = b[p : p + n].decode() if n else ""
+    p += n
     return _make_ProcessThread(v_id, v_name), p
 
 
@@ -1354,7 +1410,7 @@ def read_ProcessMemory(b: bytes, p: int) -> tuple[Optional[ProcessMemory], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_bytes, = _S_Q_read(b, p)
     p += 8
@@ -1366,16 +1422,16 @@ def read_GlobalProtocolParameterSet(b: bytes, p: int) -> tuple[Optional[GlobalPr
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -1391,22 +1447,22 @@ def read_GlobalProtocolParameter(b: bytes, p: int) -> tuple[Optional[GlobalProto
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_value = b[p + 4 : p + 4 + n].decode()
+    v_value = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_default_value = b[p + 4 : p + 4 + n].decode()
+    v_default_value = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -1415,14 +1471,22 @@ def read_GlobalProtocolParameter(b: bytes, p: int) -> tuple[Optional[GlobalProto
         e_v_infos, p = read_ParameterInfo(b, p)
         v_infos.append(e_v_infos)
     v_choices, p = read_texts(b, p)
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
     p += 4
     v_constraints: list[Optional[ConstraintInfo]] = []
     for _ in range(n):
         e_v_constraints, p = read_ConstraintInfo(b, p)
         v_constraints.append(e_v_constraints)
-    v_tcp, p = read_TcpInfo(b, p)
+    if b[p]:
+        v_tcp, p = read_TcpInfo(b, p)
+    else:
+        v_tcp = None
+        p += 1
     v_value1, v_flag = _S_Ib_read(b, p)
     p += 5
     return _make_GlobalProtocolParameter(v_item_text1, v_item_text2, v_item_text3, v_item_text4, v_value, v_default_value, v_infos, v_choices, v_error, v_constraints, v_tcp, v_value1, v_flag), p
@@ -1433,11 +1497,15 @@ def read_LoadDatabaseResult(b: bytes, p: int) -> tuple[Optional[LoadDatabaseResu
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
+    v_text = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_flag, = _S_b_read(b, p)
     p += 1
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_LoadDatabaseResult(v_text, v_flag, v_error), p
 
 
@@ -1446,16 +1514,16 @@ def read_InterfaceInformation(b: bytes, p: int) -> tuple[Optional[InterfaceInfor
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -1463,18 +1531,15 @@ def read_InterfaceInformation(b: bytes, p: int) -> tuple[Optional[InterfaceInfor
     for _ in range(n):
         e_v_resources, p = read_ResourceInformation(b, p)
         v_resources.append(e_v_resources)
-    v_flag1, v_flag2 = _S_bb_read(b, p)
-    p += 2
+    v_flag1, v_flag2, n = _S_bbI_read(b, p)
+    p += 6
+    v_text1 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_flag3, = _S_b_read(b, p)
-    p += 1
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_flag3, n = _S_bI_read(b, p)
+    p += 5
     v_items: list[Optional[InterfaceInformationItem]] = []
     for _ in range(n):
         e_v_items, p = read_InterfaceInformationItem(b, p)
@@ -1489,16 +1554,16 @@ def read_ResourceInformation(b: bytes, p: int) -> tuple[Optional[ResourceInforma
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_id, v_pin, v_in_use = _S_IIb_read(b, p)
     p += 9
@@ -1510,16 +1575,16 @@ def read_InterfaceInformationItem(b: bytes, p: int) -> tuple[Optional[InterfaceI
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_InterfaceInformationItem(v_item_text1, v_item_text2, v_item_text3, v_item_text4), p
 
@@ -1528,8 +1593,16 @@ def read_ScanInterfaceResult(b: bytes, p: int) -> tuple[Optional[ScanInterfaceRe
     if not b[p]:
         return None, p + 1
     p += 1
-    v_interface_info, p = read_InterfaceInformation(b, p)
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_interface_info, p = read_InterfaceInformation(b, p)
+    else:
+        v_interface_info = None
+        p += 1
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_ScanInterfaceResult(v_interface_info, v_error), p
 
 
@@ -1538,10 +1611,10 @@ def read_DynInterfaceDetection(b: bytes, p: int) -> tuple[Optional[DynInterfaceD
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name_pattern = b[p + 4 : p + 4 + n].decode()
+    v_name_pattern = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_kind = b[p + 4 : p + 4 + n].decode()
+    v_kind = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_only_free, = _S_b_read(b, p)
     p += 1
@@ -1553,31 +1626,34 @@ def read_ModuleDyn(b: bytes, p: int) -> tuple[Optional[ModuleDyn], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_long_name = b[p + 4 : p + 4 + n].decode()
+    v_long_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_vendor = b[p + 4 : p + 4 + n].decode()
+    v_vendor = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_kind = b[p + 4 : p + 4 + n].decode()
+    v_kind = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_address = b[p + 4 : p + 4 + n].decode()
+    v_address = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_vendor_module, p = read_InterfaceInformationItem(b, p)
-    v_flag1, = _S_b_read(b, p)
-    p += 1
+    if b[p]:
+        v_vendor_module, p = read_InterfaceInformationItem(b, p)
+    else:
+        v_vendor_module = None
+        p += 1
+    v_flag1, n = _S_bI_read(b, p)
+    p += 5
+    v_serial_number = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_serial_number = b[p + 4 : p + 4 + n].decode()
+    v_firmware = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_firmware = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_network = b[p + 4 : p + 4 + n].decode()
+    v_network = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -1595,36 +1671,33 @@ def read_DeviceInfo(b: bytes, p: int) -> tuple[Optional[DeviceInfo], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value1, v_value2 = _S_II_read(b, p)
+    v_value1, v_value2, n = _S_III_read(b, p)
+    p += 12
+    v_text2 = b[p : p + n].decode() if n else ""
+    p += n
+    (n,) = _u32_read(b, p)
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
+    p += 4 + n
+    v_value3, n = _S_II_read(b, p)
     p += 8
+    v_text4 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text5 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_value3, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text5 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_value4, v_value5 = _S_II_read(b, p)
-    p += 8
-    (n,) = _u32_read(b, p)
-    v_text6 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_value4, v_value5, n = _S_III_read(b, p)
+    p += 12
+    v_text6 = b[p : p + n].decode() if n else ""
+    p += n
     v_protocols, p = read_texts(b, p)
     (n,) = _u32_read(b, p)
-    v_text7 = b[p + 4 : p + 4 + n].decode()
+    v_text7 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_modules, p = read_texts(b, p)
     (n,) = _u32_read(b, p)
-    v_text8 = b[p + 4 : p + 4 + n].decode()
+    v_text8 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_flag, v_handle, v_value6, v_value8, v_value9, v_value10 = _S_bQIQQQ_read(b, p)
     p += 37
@@ -1636,7 +1709,7 @@ def read_PhysicalLinksOnModule(b: bytes, p: int) -> tuple[Optional[PhysicalLinks
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_module = b[p + 4 : p + 4 + n].decode()
+    v_module = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -1652,16 +1725,16 @@ def read_PhysicalLink(b: bytes, p: int) -> tuple[Optional[PhysicalLink], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_baudrate, v_enabled = _S_Ib_read(b, p)
     p += 5
@@ -1686,24 +1759,22 @@ def read_InterfaceConfigurationEntry(b: bytes, p: int) -> tuple[Optional[Interfa
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text5 = b[p + 4 : p + 4 + n].decode()
+    v_text5 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_value, v_flag = _S_Ib_read(b, p)
-    p += 5
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_value, v_flag, n = _S_IbI_read(b, p)
+    p += 9
     v_items: list[Optional[ResourceInformation]] = []
     for _ in range(n):
         e_v_items, p = read_ResourceInformation(b, p)
@@ -1716,19 +1787,19 @@ def read_InterfaceProvider(b: bytes, p: int) -> tuple[Optional[InterfaceProvider
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
+    v_text = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_value, v_flag = _S_Ib_read(b, p)
     p += 5
@@ -1739,11 +1810,10 @@ def read_DoIPParameter(b: bytes, p: int) -> tuple[Optional[DoIPParameter], int]:
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value1, v_value2 = _S_II_read(b, p)
-    p += 8
-    (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_value1, v_value2, n = _S_III_read(b, p)
+    p += 12
+    v_text = b[p : p + n].decode() if n else ""
+    p += n
     v_value3, = _S_I_read(b, p)
     p += 4
     v_strings, p = read_texts(b, p)
@@ -1754,11 +1824,10 @@ def read_WLanSignalData(b: bytes, p: int) -> tuple[Optional[WLanSignalData], int
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value1, v_value2, v_value3, v_value4, v_value5, v_value6, v_value7, v_value8, v_value9, v_value10, v_value11 = _S_IIIIIQIIIIH_read(b, p)
-    p += 46
-    (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_value1, v_value2, v_value3, v_value4, v_value5, v_value6, v_value7, v_value8, v_value9, v_value10, v_value11, n = _S_IIIIIQIIIIHI_read(b, p)
+    p += 50
+    v_text = b[p : p + n].decode() if n else ""
+    p += n
     return _make_WLanSignalData(v_value1, v_value2, v_value3, v_value4, v_value5, v_value6, v_value7, v_value8, v_value9, v_value10, v_value11, v_text), p
 
 
@@ -1767,17 +1836,16 @@ def read_SupportedInterface(b: bytes, p: int) -> tuple[Optional[SupportedInterfa
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_names, p = read_texts(b, p)
-    v_value, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_value, n = _S_II_read(b, p)
+    p += 8
+    v_text3 = b[p : p + n].decode() if n else ""
+    p += n
     return _make_SupportedInterface(v_text1, v_text2, v_names, v_value, v_text3), p
 
 
@@ -1786,19 +1854,22 @@ def read_MonitoringItem(b: bytes, p: int) -> tuple[Optional[MonitoringItem], int
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     v_data = b[p + 4 : p + 4 + n]
     p += 4 + n
-    v_value1, v_value2, v_flag1, v_flag2, v_flag3, v_value3 = _S_QIbbbI_read(b, p)
-    p += 19
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_value1, v_value2, v_flag1, v_flag2, v_flag3, v_value3, n = _S_QIbbbII_read(b, p)
+    p += 23
+    v_text2 = b[p : p + n].decode() if n else ""
+    p += n
     v_value4, = _S_I_read(b, p)
     p += 4
-    v_detail, p = read_MonitoringItemDetail(b, p)
+    if b[p]:
+        v_detail, p = read_MonitoringItemDetail(b, p)
+    else:
+        v_detail = None
+        p += 1
     return _make_MonitoringItem(v_text1, v_data, v_value1, v_value2, v_flag1, v_flag2, v_flag3, v_value3, v_text2, v_value4, v_detail), p
 
 
@@ -1810,7 +1881,7 @@ def read_MonitoringItemDetail(b: bytes, p: int) -> tuple[Optional[MonitoringItem
     v_response = b[p + 4 : p + 4 + n]
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
+    v_text = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_MonitoringItemDetail(v_response, v_text), p
 
@@ -1819,23 +1890,25 @@ def read_PduMonitoringItem(b: bytes, p: int) -> tuple[Optional[PduMonitoringItem
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value1, = _S_I_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_data = b[p + 4 : p + 4 + n]
-    p += 4 + n
-    v_detail, p = read_PduMonitoringItemDetail(b, p)
-    (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_value2, = _S_Q_read(b, p)
+    v_value1, n = _S_II_read(b, p)
     p += 8
+    v_data = b[p : p + n]
+    p += n
+    if b[p]:
+        v_detail, p = read_PduMonitoringItemDetail(b, p)
+    else:
+        v_detail = None
+        p += 1
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
+    (n,) = _u32_read(b, p)
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
+    p += 4 + n
+    v_value2, n = _S_QI_read(b, p)
+    p += 12
+    v_text3 = b[p : p + n].decode() if n else ""
+    p += n
     return _make_PduMonitoringItem(v_value1, v_data, v_detail, v_text1, v_text2, v_value2, v_text3), p
 
 
@@ -1853,16 +1926,19 @@ def read_FileInfo(b: bytes, p: int) -> tuple[Optional[FileInfo], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_error, p = read_KelError(b, p)
-    v_flag, v_value1 = _S_bI_read(b, p)
-    p += 5
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
+    v_flag, v_value1, n = _S_bII_read(b, p)
+    p += 9
+    v_text1 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_value2, v_value3 = _S_QQ_read(b, p)
     p += 16
@@ -1874,16 +1950,19 @@ def read_DirectoryInfo(b: bytes, p: int) -> tuple[Optional[DirectoryInfo], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_error, p = read_KelError(b, p)
-    v_flag, v_value1 = _S_bI_read(b, p)
-    p += 5
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
+    v_flag, v_value1, n = _S_bII_read(b, p)
+    p += 9
+    v_text1 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -1906,13 +1985,20 @@ def read_FileCopyResult(b: bytes, p: int) -> tuple[Optional[FileCopyResult], int
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value1, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_error, p = read_KelError(b, p)
-    v_file, p = read_FileInfo(b, p)
+    v_value1, n = _S_iI_read(b, p)
+    p += 8
+    v_text = b[p : p + n].decode() if n else ""
+    p += n
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
+    if b[p]:
+        v_file, p = read_FileInfo(b, p)
+    else:
+        v_file = None
+        p += 1
     v_value2, = _S_i_read(b, p)
     p += 4
     return _make_FileCopyResult(v_value1, v_text, v_error, v_file, v_value2), p
@@ -1922,13 +2008,20 @@ def read_DirectoryCopyResult(b: bytes, p: int) -> tuple[Optional[DirectoryCopyRe
     if not b[p]:
         return None, p + 1
     p += 1
-    v_value1, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_error, p = read_KelError(b, p)
-    v_directory, p = read_DirectoryCopyItem(b, p)
+    v_value1, n = _S_iI_read(b, p)
+    p += 8
+    v_text = b[p : p + n].decode() if n else ""
+    p += n
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
+    if b[p]:
+        v_directory, p = read_DirectoryCopyItem(b, p)
+    else:
+        v_directory = None
+        p += 1
     return _make_DirectoryCopyResult(v_value1, v_text, v_error, v_directory), p
 
 
@@ -1937,15 +2030,13 @@ def read_DirectoryCopyItem(b: bytes, p: int) -> tuple[Optional[DirectoryCopyItem
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_source = b[p + 4 : p + 4 + n].decode()
+    v_source = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_files, v_directories, v_bytes = _S_IIQ_read(b, p)
-    p += 16
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_files, v_directories, v_bytes, n = _S_IIQI_read(b, p)
+    p += 20
     v_failures: list[Optional[FileCopyResult]] = []
     for _ in range(n):
         e_v_failures, p = read_FileCopyResult(b, p)
@@ -1959,10 +2050,18 @@ def read_PathCopyResult(b: bytes, p: int) -> tuple[Optional[PathCopyResult], int
     p += 1
     v_value1, = _S_i_read(b, p)
     p += 4
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     v_value2, = _S_i_read(b, p)
     p += 4
-    v_item, p = read_PathCopyItem(b, p)
+    if b[p]:
+        v_item, p = read_PathCopyItem(b, p)
+    else:
+        v_item = None
+        p += 1
     return _make_PathCopyResult(v_value1, v_error, v_value2, v_item), p
 
 
@@ -1971,10 +2070,10 @@ def read_PathCopyItem(b: bytes, p: int) -> tuple[Optional[PathCopyItem], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_source = b[p + 4 : p + 4 + n].decode()
+    v_source = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_size, = _S_Q_read(b, p)
     p += 8
@@ -1986,7 +2085,11 @@ def read_FileReferenceResult(b: bytes, p: int) -> tuple[Optional[FileReferenceRe
         return None, p + 1
     p += 1
     v_references, p = read_texts(b, p)
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_FileReferenceResult(v_references, v_error), p
 
 
@@ -1996,7 +2099,7 @@ def read_FileCopyConfig(b: bytes, p: int) -> tuple[Optional[FileCopyConfig], int
     p += 1
     v_files, p = read_texts(b, p)
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_overwrite, = _S_b_read(b, p)
     p += 1
@@ -2009,13 +2112,12 @@ def read_DirectoryCopyConfig(b: bytes, p: int) -> tuple[Optional[DirectoryCopyCo
     p += 1
     v_directories, p = read_texts(b, p)
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_overwrite, v_recursive = _S_bb_read(b, p)
-    p += 2
-    (n,) = _u32_read(b, p)
-    v_pattern = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_overwrite, v_recursive, n = _S_bbI_read(b, p)
+    p += 6
+    v_pattern = b[p : p + n].decode() if n else ""
+    p += n
     return _make_DirectoryCopyConfig(v_directories, v_target, v_overwrite, v_recursive, v_pattern), p
 
 
@@ -2024,10 +2126,10 @@ def read_PathCopyConfig(b: bytes, p: int) -> tuple[Optional[PathCopyConfig], int
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_source = b[p + 4 : p + 4 + n].decode()
+    v_source = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_overwrite, = _S_b_read(b, p)
     p += 1
@@ -2039,10 +2141,10 @@ def read_UserInfo(b: bytes, p: int) -> tuple[Optional[UserInfo], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
+    v_text = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_value, = _S_I_read(b, p)
     p += 4
@@ -2054,10 +2156,10 @@ def read_LogInOutConfig(b: bytes, p: int) -> tuple[Optional[LogInOutConfig], int
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_user = b[p + 4 : p + 4 + n].decode()
+    v_user = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_password = b[p + 4 : p + 4 + n].decode()
+    v_password = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return _make_LogInOutConfig(v_user, v_password), p
 
@@ -2072,13 +2174,12 @@ def read_TarnApiServerConfig(b: bytes, p: int) -> tuple[Optional[TarnApiServerCo
     for _ in range(n):
         e_v_users, p = read_UserInfo(b, p)
         v_users.append(e_v_users)
-    v_flag, v_value1 = _S_bI_read(b, p)
-    p += 5
+    v_flag, v_value1, n = _S_bII_read(b, p)
+    p += 9
+    v_text1 = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_text1 = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_text2 = b[p + 4 : p + 4 + n].decode()
+    v_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -2087,10 +2188,10 @@ def read_TarnApiServerConfig(b: bytes, p: int) -> tuple[Optional[TarnApiServerCo
         e_v_filters, p = read_FileFilter(b, p)
         v_filters.append(e_v_filters)
     (n,) = _u32_read(b, p)
-    v_text3 = b[p + 4 : p + 4 + n].decode()
+    v_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text4 = b[p + 4 : p + 4 + n].decode()
+    v_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     p += 4
@@ -2117,16 +2218,16 @@ def read_FlashSessionInfo(b: bytes, p: int) -> tuple[Optional[FlashSessionInfo],
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_description = b[p + 4 : p + 4 + n].decode()
+    v_description = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_version = b[p + 4 : p + 4 + n].decode()
+    v_version = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_size, v_duration, v_level = _S_QII_read(b, p)
     p += 16
@@ -2138,22 +2239,25 @@ def read_FlashSessionResult(b: bytes, p: int) -> tuple[Optional[FlashSessionResu
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_status, = _S_i_read(b, p)
-    p += 4
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_version_before = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_version_before = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_version_after = b[p + 4 : p + 4 + n].decode()
+    v_version_after = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_size, v_transferred, v_progress, v_duration = _S_QQII_read(b, p)
     p += 24
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_FlashSessionResult(v_name, v_target, _as_FlashStatus(v_status), v_version_before, v_version_after, v_size, v_transferred, v_progress, v_duration, v_error), p
 
 
@@ -2162,7 +2266,7 @@ def read_FlashSessionsConfig(b: bytes, p: int) -> tuple[Optional[FlashSessionsCo
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_sessions, p = read_texts(b, p)
     v_block_length, v_stop_on_error = _S_Ib_read(b, p)
@@ -2175,20 +2279,23 @@ def read_CodingStringResult(b: bytes, p: int) -> tuple[Optional[CodingStringResu
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_status, = _S_i_read(b, p)
-    p += 4
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_identifier = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_identifier = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_coding = b[p + 4 : p + 4 + n].decode()
+    v_coding = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     v_data = b[p + 4 : p + 4 + n]
     p += 4 + n
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_CodingStringResult(v_target, _as_TargetResultStatus(v_status), v_identifier, v_coding, v_data, v_error), p
 
 
@@ -2197,22 +2304,25 @@ def read_CodingFileResult(b: bytes, p: int) -> tuple[Optional[CodingFileResult],
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_status, = _S_i_read(b, p)
-    p += 4
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_written = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_written = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_coding = b[p + 4 : p + 4 + n].decode()
+    v_coding = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
     v_data = b[p + 4 : p + 4 + n]
     p += 4 + n
     v_verified, = _S_b_read(b, p)
     p += 1
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_CodingFileResult(v_target, _as_TargetResultStatus(v_status), v_written, v_coding, v_data, v_verified, v_error), p
 
 
@@ -2221,22 +2331,23 @@ def read_QuickTestResult(b: bytes, p: int) -> tuple[Optional[QuickTestResult], i
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_status, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_variant = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_identified, = _S_b_read(b, p)
-    p += 1
-    (n,) = _u32_read(b, p)
-    p += 4
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_variant = b[p : p + n].decode() if n else ""
+    p += n
+    v_identified, n = _S_bI_read(b, p)
+    p += 5
     v_dtcs: list[Optional[DtcResult]] = []
     for _ in range(n):
         e_v_dtcs, p = read_DtcResult(b, p)
         v_dtcs.append(e_v_dtcs)
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_QuickTestResult(v_target, _as_TargetResultStatus(v_status), v_variant, v_identified, v_dtcs, v_error), p
 
 
@@ -2245,14 +2356,18 @@ def read_EcuConfigurationResult(b: bytes, p: int) -> tuple[Optional[EcuConfigura
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_configuration = b[p + 4 : p + 4 + n].decode()
+    v_configuration = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_status, v_written = _S_iI_read(b, p)
     p += 8
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_EcuConfigurationResult(v_target, v_configuration, _as_TargetResultStatus(v_status), v_written, v_error), p
 
 
@@ -2261,10 +2376,10 @@ def read_EcuOrderEntry(b: bytes, p: int) -> tuple[Optional[EcuOrderEntry], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_bus = b[p + 4 : p + 4 + n].decode()
+    v_bus = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_address, v_gateway, v_optional = _S_Ibb_read(b, p)
     p += 6
@@ -2292,22 +2407,25 @@ def read_VehicleUpdateResult(b: bytes, p: int) -> tuple[Optional[VehicleUpdateRe
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_status, = _S_i_read(b, p)
-    p += 4
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_package = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_package = b[p + 4 : p + 4 + n].decode()
+    v_version_before = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_version_before = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_version_after = b[p + 4 : p + 4 + n].decode()
+    v_version_after = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_position, v_progress, v_overall_progress, v_duration = _S_IIII_read(b, p)
     p += 16
-    v_error, p = read_KelError(b, p)
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     return _make_VehicleUpdateResult(v_target, v_status, v_package, v_version_before, v_version_after, v_position, v_progress, v_overall_progress, v_duration, v_error), p
 
 
@@ -2316,24 +2434,23 @@ def read_UpdatePackageInfo(b: bytes, p: int) -> tuple[Optional[UpdatePackageInfo
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_version = b[p + 4 : p + 4 + n].decode()
+    v_version = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_description = b[p + 4 : p + 4 + n].decode()
+    v_description = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_kind, = _S_I_read(b, p)
     p += 4
     v_targets, p = read_texts(b, p)
-    v_size, = _S_Q_read(b, p)
-    p += 8
+    v_size, n = _S_QI_read(b, p)
+    p += 12
+    v_checksum = b[p : p + n].decode() if n else ""
+    p += n
     (n,) = _u32_read(b, p)
-    v_checksum = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    (n,) = _u32_read(b, p)
-    v_location = b[p + 4 : p + 4 + n].decode()
+    v_location = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_state, = _S_i_read(b, p)
     p += 4
@@ -2345,13 +2462,13 @@ def read_VehicleReportConfig(b: bytes, p: int) -> tuple[Optional[VehicleReportCo
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_title = b[p + 4 : p + 4 + n].decode()
+    v_title = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_comment = b[p + 4 : p + 4 + n].decode()
+    v_comment = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_targets, p = read_texts(b, p)
     v_identification, v_dtcs = _S_bb_read(b, p)
@@ -2364,22 +2481,22 @@ def read_VehicleData(b: bytes, p: int) -> tuple[Optional[VehicleData], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_vin = b[p + 4 : p + 4 + n].decode()
+    v_vin = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_model = b[p + 4 : p + 4 + n].decode()
+    v_model = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
+    v_target = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_variant = b[p + 4 : p + 4 + n].decode()
+    v_variant = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_software_version = b[p + 4 : p + 4 + n].decode()
+    v_software_version = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_bus = b[p + 4 : p + 4 + n].decode()
+    v_bus = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_address, v_status, v_dtc_count = _S_IiI_read(b, p)
     p += 12
@@ -2391,22 +2508,22 @@ def read_UploadReportConfiguration(b: bytes, p: int) -> tuple[Optional[UploadRep
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_report_file = b[p + 4 : p + 4 + n].decode()
+    v_report_file = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_folder = b[p + 4 : p + 4 + n].decode()
+    v_folder = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_name = b[p + 4 : p + 4 + n].decode()
+    v_name = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_vin = b[p + 4 : p + 4 + n].decode()
+    v_vin = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_user = b[p + 4 : p + 4 + n].decode()
+    v_user = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_comment = b[p + 4 : p + 4 + n].decode()
+    v_comment = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_overwrite, v_with_twin = _S_bb_read(b, p)
     p += 2
@@ -2418,16 +2535,15 @@ def read_VehicleInformation(b: bytes, p: int) -> tuple[Optional[VehicleInformati
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_vin = b[p + 4 : p + 4 + n].decode()
+    v_vin = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_model = b[p + 4 : p + 4 + n].decode()
+    v_model = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
-    v_model_year, v_mileage = _S_II_read(b, p)
-    p += 8
-    (n,) = _u32_read(b, p)
-    v_license_plate = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
+    v_model_year, v_mileage, n = _S_III_read(b, p)
+    p += 12
+    v_license_plate = b[p : p + n].decode() if n else ""
+    p += n
     v_equipment, p = read_texts(b, p)
     return _make_VehicleInformation(v_vin, v_model, v_model_year, v_mileage, v_license_plate, v_equipment), p
 
@@ -2436,12 +2552,15 @@ def read_SupportedDtcResult(b: bytes, p: int) -> tuple[Optional[ReadDtcResult], 
     if not b[p]:
         return None, p + 1
     p += 1
-    v_status, = _S_i_read(b, p)
-    p += 4
-    (n,) = _u32_read(b, p)
-    v_target = b[p + 4 : p + 4 + n].decode()
-    p += 4 + n
-    v_error, p = read_KelError(b, p)
+    v_status, n = _S_iI_read(b, p)
+    p += 8
+    v_target = b[p : p + n].decode() if n else ""
+    p += n
+    if b[p]:
+        v_error, p = read_KelError(b, p)
+    else:
+        v_error = None
+        p += 1
     (n,) = _u32_read(b, p)
     p += 4
     v_dtcs: list[Optional[DtcResult]] = []
@@ -2456,16 +2575,16 @@ def read_SpecialData(b: bytes, p: int) -> tuple[Optional[NamedItem], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     return NamedItem(name=v_item_text1, item_text2=v_item_text2, item_text3=v_item_text3, item_text4=v_item_text4), p
 
@@ -2475,7 +2594,7 @@ def read_FilterPattern(b: bytes, p: int) -> tuple[Optional[FileFilter], int]:
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_pattern = b[p + 4 : p + 4 + n].decode()
+    v_pattern = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_flag, = _S_b_read(b, p)
     p += 1
@@ -2487,19 +2606,19 @@ def read_InterfaceProviderDyn(b: bytes, p: int) -> tuple[Optional[InterfaceProvi
         return None, p + 1
     p += 1
     (n,) = _u32_read(b, p)
-    v_item_text1 = b[p + 4 : p + 4 + n].decode()
+    v_item_text1 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text2 = b[p + 4 : p + 4 + n].decode()
+    v_item_text2 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text3 = b[p + 4 : p + 4 + n].decode()
+    v_item_text3 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_item_text4 = b[p + 4 : p + 4 + n].decode()
+    v_item_text4 = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     (n,) = _u32_read(b, p)
-    v_text = b[p + 4 : p + 4 + n].decode()
+    v_text = b[p + 4 : p + 4 + n].decode() if n else ""
     p += 4 + n
     v_value, v_flag = _S_Ib_read(b, p)
     p += 5
