@@ -260,8 +260,8 @@ std::string Client::first() {
 }
 
 std::string Client::final(std::string_view serverFirst) {
-    if (clientFirstBare_.empty()) {
-        throw std::logic_error("SCRAM: final before first");
+    if (clientFirstBare_.empty() || !authMessage_.empty()) {
+        throw std::logic_error("SCRAM: final before first, or twice");
     }
     Attributes attributes(serverFirst);
     const std::string_view nonce = attributes.take('r');
