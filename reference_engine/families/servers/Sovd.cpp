@@ -6,14 +6,11 @@
 
 #include "Describe.h"
 #include "ErrorCodes.h"
+#include "Net.h"
 #include "PasswordHash.h"
 #include "Servers.h"
 #include "SimulatedVehicle.h"
 
-#include "Net.h"
-
-#include <boost/beast/core.hpp>
-#include <boost/beast/http.hpp>
 #include <nlohmann/json.hpp>
 
 #include <algorithm>
@@ -27,6 +24,9 @@
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include <boost/beast/core.hpp>
+#include <boost/beast/http.hpp>
 
 namespace Varno::Kel_cpp::Reference {
 namespace {
@@ -42,7 +42,7 @@ using Response = http::response<http::string_body>;
 constexpr std::size_t maxConnections = 16;
 constexpr std::uint32_t headerLimit = 8 * 1024;
 constexpr std::uint64_t bodyLimit = 16 * 1024;
-constexpr auto idleTimeout = std::chrono::seconds(10); // wall time: reading or writing
+constexpr auto idleTimeout = std::chrono::seconds(10);    // wall time: reading or writing
 constexpr auto tokenLifetime = std::chrono::seconds(300); // login clock
 constexpr std::size_t maxTokens = 1024;
 constexpr std::string_view prefix = "/sovd/v1";
@@ -103,8 +103,12 @@ Problem engineProblem(int32_t code, const std::wstring& message, const std::wstr
 }
 
 Problem invalidToken(std::string detail) {
-    return {401, "The access token is not valid", std::move(detail), 0,
-            std::string(realm) + ", error=\"invalid_token\"", {}};
+    return {401,
+            "The access token is not valid",
+            std::move(detail),
+            0,
+            std::string(realm) + ", error=\"invalid_token\"",
+            {}};
 }
 
 Response jsonResponse(http::status status, const Json& body) {
@@ -163,8 +167,9 @@ std::vector<std::string> segments(std::string_view target) {
             const int high = i + 2 < end ? digit(target[i + 1]) : -1;
             const int low = i + 2 < end ? digit(target[i + 2]) : -1;
             if (high < 0 || low < 0) {
-                throw Problem{400, "The path is malformed", "a % is not followed by two hex digits",
-                              0, {}, {}};
+                throw Problem{
+                    400, "The path is malformed", "a % is not followed by two hex digits", 0, {},
+                    {}};
             }
             segment += static_cast<char>(high * 16 + low);
             i += 2;
@@ -234,9 +239,12 @@ Json faultJson(const DtcResult& d) {
     for (std::size_t bit = 0; bit < statusBits.size(); ++bit) {
         status[statusBits[bit]] = ((d.value1 >> bit) & 1) != 0;
     }
-    Json j{{"code", utf8(d.text1)},      {"number", d.code},
-           {"description", utf8(d.text2)}, {"status", status},
-           {"severity", d.value2},         {"snapshot", parametersJson(d.parameters1, "label")},
+    Json j{{"code", utf8(d.text1)},
+           {"number", d.code},
+           {"description", utf8(d.text2)},
+           {"status", status},
+           {"severity", d.value2},
+           {"snapshot", parametersJson(d.parameters1, "label")},
            {"extendedData", parametersJson(d.parameters2, "label")}};
     if (!d.text4.empty()) {
         j["symptom"] = utf8(d.text4);
@@ -409,14 +417,15 @@ private:
             close();
             return;
         }
-        if (error && error.category() == http::make_error_code(http::error::bad_target).category()) {
+        if (error &&
+            error.category() == http::make_error_code(http::error::bad_target).category()) {
             // Malformed: one answer, and the connection closes, as what follows cannot be
             // trusted to start a request.
             const unsigned status = error == http::error::body_limit     ? 413
                                     : error == http::error::header_limit ? 431
                                                                          : 400;
-            Response response = problemResponse(
-                {status, "The request is malformed", error.message(), 0, {}, {}});
+            Response response =
+                problemResponse({status, "The request is malformed", error.message(), 0, {}, {}});
             response.keep_alive(false);
             response.prepare_payload();
             write(std::move(response));
@@ -540,11 +549,13 @@ Caller SovdServer::Impl::caller(const Request& request) {
 Response SovdServer::Impl::authorize(const Request& request) {
     const Json body = Json::parse(request.body(), nullptr, false);
     if (body.is_discarded() || !body.is_object() || !body.contains("user") ||
-        !body.contains("password") || !body["user"].is_string() ||
-        !body["password"].is_string()) {
-        throw Problem{400, "The request is malformed",
+        !body.contains("password") || !body["user"].is_string() || !body["password"].is_string()) {
+        throw Problem{400,
+                      "The request is malformed",
                       "the body is a JSON object with the strings \"user\" and \"password\"",
-                      0, {}, {}};
+                      0,
+                      {},
+                      {}};
     }
     Caller c;
     c.vehicle = vehicle.lock();
@@ -561,9 +572,10 @@ Response SovdServer::Impl::authorize(const Request& request) {
     const auto now = loginClock();
     std::erase_if(tokens, [now](const auto& entry) { return entry.second.expires <= now; });
     if (tokens.size() >= maxTokens) { // the one closest to its end goes
-        tokens.erase(std::min_element(tokens.begin(), tokens.end(), [](const auto& a, const auto& b) {
-            return a.second.expires < b.second.expires;
-        }));
+        tokens.erase(
+            std::min_element(tokens.begin(), tokens.end(), [](const auto& a, const auto& b) {
+                return a.second.expires < b.second.expires;
+            }));
     }
     const std::string token = randomToken();
     tokens[tokenKey(token)] = {login->user, now + tokenLifetime};
@@ -578,8 +590,12 @@ Response SovdServer::Impl::route(const Request& request) {
     const auto method = request.method();
     const auto only = [&](std::initializer_list<http::verb> verbs, const char* allow) {
         if (std::find(verbs.begin(), verbs.end(), method) == verbs.end()) {
-            throw Problem{405, "The resource does not allow this method",
-                          std::string(request.method_string()), 0, {}, allow};
+            throw Problem{405,
+                          "The resource does not allow this method",
+                          std::string(request.method_string()),
+                          0,
+                          {},
+                          allow};
         }
     };
     const auto notFound = [&] {
