@@ -34,14 +34,9 @@ class SovdTest(unittest.TestCase):
 
     def setUp(self) -> None:
         self.root = tempfile.mkdtemp(prefix="kel_sovd_test")
-        description = json.loads((ROOT / "reference_engine/vehicles/default.json").read_text())
-        description["servers"] = {"passwordIterations": 1000, "failedLogins": 3}
         sim.kelsim_reset()
         sim.kelsim_setDataRoot(self.root)
-        self.assertEqual(sim.kelsim_setVehicleJson(json.dumps(description).encode()), 0)
-        sim.kelsim_restart()
-        self.engine = kel.Engine()
-        self.engine.__enter__()
+        self.start_vehicle()
         self.engine.start_sovd_server()
         config = self.engine.get_server_configuration()
         assert config is not None
@@ -49,6 +44,14 @@ class SovdTest(unittest.TestCase):
         self.assertEqual((address.scheme, address.hostname), ("http", "127.0.0.1"))
         assert address.port is not None
         self.port = address.port
+
+    def start_vehicle(self, **servers: Any) -> None:
+        description = json.loads((ROOT / "reference_engine/vehicles/default.json").read_text())
+        description["servers"] = {"passwordIterations": 1000, "failedLogins": 3, **servers}
+        self.assertEqual(sim.kelsim_setVehicleJson(json.dumps(description).encode()), 0)
+        sim.kelsim_restart()
+        self.engine = kel.Engine()
+        self.engine.__enter__()
 
     def tearDown(self) -> None:
         self.engine.__exit__(None, None, None)
@@ -176,8 +179,15 @@ class Resources(SovdTest):
         sim.kelsim_restart()
         with self.assertRaises(ConnectionRefusedError):
             self.call("GET", "/sovd/v1/components")
-        self.engine = kel.Engine()
-        self.engine.__enter__()
+
+        # A fixed port that another socket holds.
+        with socket.socket() as taken:
+            taken.bind(("127.0.0.1", 0))
+            taken.listen()
+            self.start_vehicle(sovdPort=taken.getsockname()[1])
+            with self.assertRaises(kel.EngineError) as refused:
+                self.engine.start_sovd_server()
+            self.assertEqual(refused.exception.code, 1310)
 
 
 class Tokens(SovdTest):

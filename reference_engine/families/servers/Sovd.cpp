@@ -717,9 +717,15 @@ SovdServer::SovdServer(std::weak_ptr<SimulatedVehicle> vehicle, const ServersSet
     const tcp::endpoint endpoint{address, settings.sovdPort};
     auto& acceptor = impl_->acceptor;
     acceptor.open(endpoint.protocol(), error);
-#ifndef _WIN32
-    // Windows' SO_REUSEADDR would let a second server take the port; elsewhere it only
-    // lets a fixed port be used again while old connections wait out TIME_WAIT.
+#ifdef _WIN32
+    // No other socket may take the port over while the server listens.
+    if (!error) {
+        acceptor.set_option(
+            asio::detail::socket_option::boolean<SOL_SOCKET, SO_EXCLUSIVEADDRUSE>(true), error);
+    }
+#else
+    // Lets a fixed port be used again while old connections wait out TIME_WAIT (Windows'
+    // SO_REUSEADDR would let a second server take it).
     if (!error) {
         acceptor.set_option(asio::socket_base::reuse_address(true), error);
     }
