@@ -7,6 +7,8 @@
 #include <Vutil/ErrorHandler.h>
 #include <Vutil/TraceRecorder.h>
 
+#include <Net.h>
+#include <array>
 #include <atomic>
 #include <condition_variable>
 #include <cstring>
@@ -50,6 +52,7 @@ enum : int32_t {
     UsersUnreadable = 1316,
     SovdServerRunning = 1317,
     SovdServerNotRunning = 1318,
+    NotLoopback = 1319,
 };
 enum : uint32_t { Operator = 1, Administrator = 2 };
 
@@ -894,7 +897,7 @@ TEST_F(Servers, ServerStateAndConfiguration) {
     EXPECT_EQ(config->userCount, 1U);
     EXPECT_EQ(config->flag, 0);
     EXPECT_STREQ(config->text1, L"") << "the server is stopped";
-    EXPECT_STREQ(config->text2, L"kel-sim://sovd");
+    EXPECT_EQ(std::wstring(config->text2).rfind(L"http://127.0.0.1:", 0), 0U) << config->text2;
     EXPECT_STREQ(config->text3, L"kel-sim-idp");
     EXPECT_EQ(config->filterCount, 0U);
     ASSERT_EQ(config->userCount2, 1U) << "the local object's login";
@@ -1106,6 +1109,102 @@ TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
             EXPECT_EQ(signs[i], i % 2 == 0 ? L'+' : L'-') << "client " << i;
         }
         EXPECT_EQ(signs.size() % 2, 0U) << "every connection ended once";
+    }
+}
+
+} // namespace
+
+// SOVD
+
+namespace {
+
+uint16_t sovdPort(TarnApi* api) {
+    ErrorSlot error;
+    TarnApiServerConfig* config = nullptr;
+    kel_getServerConfiguration(api, &error, &config);
+    if (error || config == nullptr) {
+        return 0;
+    }
+    const std::wstring address = config->text2;
+    release_TarnApiServerConfig(config);
+    const auto colon = address.rfind(L':');
+    return colon == std::wstring::npos || address.rfind(L"http://127.0.0.1:", 0) != 0
+               ? 0
+               : static_cast<uint16_t>(std::stoul(address.substr(colon + 1)));
+}
+
+// One GET over a plain socket: what came back before the server closed the connection,
+// or why nothing could be sent.
+std::string httpGet(uint16_t port, const std::string& path) {
+    namespace asio = boost::asio;
+    asio::io_context io;
+    asio::ip::tcp::socket socket(io);
+    boost::system::error_code error;
+    socket.connect({asio::ip::make_address("127.0.0.1"), port}, error);
+    if (error) {
+        return "no connection";
+    }
+    const std::string request =
+        "GET " + path + " HTTP/1.1\r\nHost: 127.0.0.1\r\nConnection: close\r\n\r\n";
+    asio::write(socket, asio::buffer(request), error);
+    std::string answer;
+    std::array<char, 4096> chunk{};
+    while (!error) {
+        answer.append(chunk.data(), socket.read_some(asio::buffer(chunk), error));
+    }
+    return answer;
+}
+
+TEST_F(Servers, TheSovdServerListensOnLoopbackOnlyAndServesHttp) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"name": "open", "ecus": [{"name": "ECM"}],
+        "servers": {"listenAddress": "0.0.0.0"}})"),
+              0);
+    restart();
+    EXPECT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), NotLoopback);
+    EXPECT_EQ(sovdPort(api), 0) << "nothing listens";
+
+    ASSERT_EQ(kelsim_setVehicleJson(vehicle), 0);
+    restart();
+    ASSERT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), 0);
+    const uint16_t port = sovdPort(api);
+    ASSERT_NE(port, 0);
+    const std::string answer = httpGet(port, "/sovd/v1/components");
+    EXPECT_EQ(answer.rfind("HTTP/1.1 200", 0), 0U) << answer;
+    EXPECT_NE(answer.find(R"("id":"ECM")"), std::string::npos) << answer;
+}
+
+// A request the engine is still serving when the server stops, or when the vehicle's
+// last other reference goes (the request then ends the vehicle on the serving thread).
+TEST_F(ServersConcurrency, TheSovdServerStopsAndEndsUnderARequestInFlight) {
+    for (const bool endVehicle : {false, true}) {
+        ASSERT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), 0);
+        const uint16_t port = sovdPort(api);
+        ASSERT_NE(port, 0);
+        kelsim_setDelay("getTargets", 300);
+        const uint64_t before = kelsim_callCount("getTargets");
+        std::string answer;
+        std::thread client([&] { answer = httpGet(port, "/sovd/v1/components"); });
+        for (int i = 0; i < 1000 && kelsim_callCount("getTargets") == before; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        }
+        if (endVehicle) {
+            releaseTarnApi(api);
+            api = nullptr;
+            kelsim_restart();
+        } else {
+            EXPECT_EQ(code([&](KelError** e) { kel_stopSOVDServer(api, e); }), 0);
+            EXPECT_EQ(httpGet(port, "/sovd/v1/components"), "no connection");
+        }
+        client.join();
+        EXPECT_TRUE(answer.empty() || answer.rfind("HTTP/1.1 200", 0) == 0) << answer;
+        kelsim_setDelay("getTargets", 0);
+        if (endVehicle) {
+            for (int i = 0; i < 1000 && httpGet(port, "/") != "no connection"; ++i) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(5));
+            }
+            EXPECT_EQ(httpGet(port, "/"), "no connection") << "the server ended with the vehicle";
+            restart();
+        }
     }
 }
 

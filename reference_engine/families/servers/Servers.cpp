@@ -7,6 +7,7 @@
 #include "IdentityProvider.h"
 #include "SafeFiles.h"
 #include "SimulatedVehicle.h"
+#include "Sovd.h"
 #include "VehicleClock.h"
 #include "VehicleDescription.h"
 
@@ -753,20 +754,28 @@ void Servers::startSOVDServer() {
         throw TarnApiException(SovdServerRunning, L"The SOVD server runs already",
                                state_.sovdAddress_);
     }
-    state_.sovdAddress_ = L"kel-sim://sovd";
+    // Its requests wait for this lock (admit) until the start is complete.
+    state_.sovd_ = std::make_shared<SovdServer>(vehicle_, state_.settings_);
+    state_.sovdAddress_ = state_.sovd_->address();
     post(*vehicle_, EventKind::SovdServerStarted, 0, L"The SOVD server started",
          state_.sovdAddress_);
 }
 
 void Servers::stopSOVDServer() {
     vehicle_->lifecycle.requireInitialized();
-    const std::lock_guard lock(state_.mutex_);
-    state_.readUsersLocked(); // admitted by ServersState::admit
-    if (state_.sovdAddress_.empty()) {
-        throw TarnApiException(SovdServerNotRunning, L"The SOVD server is not running");
+    std::shared_ptr<SovdServer> stopped;
+    {
+        const std::lock_guard lock(state_.mutex_);
+        state_.readUsersLocked(); // admitted by ServersState::admit
+        if (state_.sovdAddress_.empty()) {
+            throw TarnApiException(SovdServerNotRunning, L"The SOVD server is not running");
+        }
+        stopped = std::move(state_.sovd_);
+        state_.sovdAddress_.clear();
+        post(*vehicle_, EventKind::SovdServerStopped, 0, L"The SOVD server stopped", L"");
     }
-    state_.sovdAddress_.clear();
-    post(*vehicle_, EventKind::SovdServerStopped, 0, L"The SOVD server stopped", L"");
+    // Outside the lock: the request it finishes first may need it.
+    stopped.reset();
 }
 
 std::shared_ptr<ServerSettings> Servers::getServerSettings() {
@@ -805,6 +814,17 @@ std::shared_ptr<TarnApiServerConfig> Servers::getServerConfiguration() {
     }
     config->value2 = static_cast<uint16_t>(state_.settings_.failedLogins);
     return config;
+}
+
+bool ServersState::actAs(uint64_t handle, const std::wstring& user) {
+    const std::lock_guard lock(mutex_);
+    readUsersLocked();
+    const auto session = sessions_.find(handle);
+    if (!users_.contains(user) || session == sessions_.end() || session->second.ended) {
+        return false;
+    }
+    session->second.user = user;
+    return true;
 }
 
 } // namespace Varno::Kel_cpp::Reference

@@ -21,6 +21,7 @@
 namespace Varno::Kel_cpp::Reference {
 
 class SimulatedVehicle;
+class SovdServer;
 struct EngineObject;
 
 // Roles of the server's users (UserInfo::value).
@@ -116,6 +117,15 @@ private:
     // Connections ended (false) and renewed (true), in order, for the handlers.
     std::deque<std::pair<std::wstring, bool>> announcements_;
     bool announcing_ = false;
+
+public:
+    // Logs the remote connection `handle` in as `user`, for whom a SOVD access token
+    // stands: false when there is no such user (any more) or the connection has ended.
+    bool actAs(uint64_t handle, const std::wstring& user);
+
+private:
+    // Set while sovdAddress_ is; it stops when it goes, at the latest with the vehicle.
+    std::shared_ptr<SovdServer> sovd_;
 };
 
 class Servers final : public ServersFamily {
