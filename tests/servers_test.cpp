@@ -19,6 +19,8 @@
 #include <thread>
 #include <vector>
 
+#include <Net.h>
+#include <families/servers/Frames.h>
 #include <families/servers/PasswordHash.h>
 
 namespace {
@@ -173,15 +175,20 @@ protected:
         return connection;
     }
 
-    // A connection of its own, through the started server (remote() is one per handle).
+    // A connection of its own, on a socket to the started server (remote() is one per
+    // handle, in the process).
     TarnApi* connection() {
-        ErrorSlot error;
-        wchar_t* address = nullptr;
-        kel_startServer(api, L"", &error, &address); // ServerRunning after the first time
-        release_Memory(address);
+        if (address_.empty()) {
+            ErrorSlot error;
+            wchar_t* address = nullptr;
+            kel_startServer(api, L"", &error, &address);
+            EXPECT_FALSE(error);
+            address_ = address;
+            release_Memory(address);
+        }
         uint64_t registered = 0;
         ErrorSlot failed;
-        kel_connectRemoteServer(api, L"kel-sim://server", &failed, &registered);
+        kel_connectRemoteServer(api, address_.c_str(), &failed, &registered);
         EXPECT_FALSE(failed);
         auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
         remotes_.push_back(client);
@@ -265,6 +272,7 @@ protected:
     }
 
     std::filesystem::path root_;
+    std::wstring address_; // the server's, once connection() started it
     std::vector<TarnApi*> remotes_;
 };
 
@@ -644,7 +652,7 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
 
     uint64_t untouched = 77;
     EXPECT_EQ(code([&](KelError** e) {
-                  kel_connectRemoteServer(api, L"kel-sim://server", e, &untouched);
+                  kel_connectRemoteServer(api, L"kel://127.0.0.1:1", e, &untouched);
               }),
               ServerNotRunning);
     EXPECT_EQ(untouched, 77U) << "no handle for a failed connection";
@@ -655,7 +663,7 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     ASSERT_NE(address, nullptr);
     const std::wstring where = address;
     release_Memory(address);
-    EXPECT_EQ(where, L"kel-sim://server");
+    EXPECT_EQ(where.rfind(L"kel://127.0.0.1:", 0), 0U) << "on loopback, with the port given";
     EXPECT_EQ(code([&](KelError** e) {
                   wchar_t* again = nullptr;
                   kel_startServer(api, L"other", e, &again);
@@ -728,18 +736,28 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     EXPECT_EQ(code([&](KelError** e) { kel_disconnect(api, e); }), NotARemoteConnection);
     releaseTarnApi(client);
     remotes_.clear();
-    EXPECT_EQ((handler.heard()), (std::vector<std::wstring>{L"+" + name, L"-" + name, L"+" + name,
-                                                            L"-" + name, L"+" + name, L"-" + name}))
+    // Each renewal is a new socket, so a new engine object on the server.
+    std::vector<wchar_t> signs;
+    for (const auto& heard : handler.heard()) {
+        signs.push_back(heard[0]);
+    }
+    EXPECT_EQ(signs, (std::vector<wchar_t>{L'+', L'-', L'+', L'-', L'+', L'-'}))
         << "a connection ended earlier is not reported again when it goes";
 
+    // The client's goodbye after disconnect reaches the server's engine object as the
+    // closed connection (ConnectionClosed), on the connection's own thread.
     std::vector<int32_t> kinds;
-    for (const auto& e : events(channel)) {
-        kinds.push_back(e.kind);
-        if (e.kind == 31) {
-            EXPECT_EQ(e.detail, L"maintenance");
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while ((kinds.empty() || kinds.back() != 10) && std::chrono::steady_clock::now() < until) {
+        for (const auto& e : events(channel)) {
+            kinds.push_back(e.kind);
+            if (e.kind == 31) {
+                EXPECT_EQ(e.detail, L"maintenance");
+            }
         }
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
-    EXPECT_EQ(kinds, (std::vector<int32_t>{30, 11, 31, 12, 30, 11, 12, 11, 12}));
+    EXPECT_EQ(kinds, (std::vector<int32_t>{30, 11, 31, 12, 30, 11, 12, 11, 12, 10}));
 }
 
 TEST_F(Servers, ServerStateAndConfiguration) {
@@ -888,6 +906,167 @@ TEST_F(Servers, CertificatesComeFromTheStoreAndNoneIsMadeUp) {
     EXPECT_EQ(count, 0U);
 }
 
+// Reports of an asynchronous call on a socket, to the caller's callback.
+struct Reports {
+    std::mutex mutex;
+    std::condition_variable changed;
+    int count = 0;
+    std::vector<int32_t> finals;
+    static void callback(ReadDtcResult** results, uint32_t count, bool isFinal, uint64_t,
+                         KelError* error, void* context) {
+        auto* self = static_cast<Reports*>(context);
+        release_ReadDtcResult_array(results, count);
+        const std::lock_guard lock(self->mutex);
+        ++self->count;
+        if (isFinal) {
+            self->finals.push_back(error != nullptr ? error->code : 0);
+        }
+        release_KelError(error);
+        self->changed.notify_all();
+    }
+    bool waitForFinals(std::size_t wanted) {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, std::chrono::seconds(20),
+                                [&] { return finals.size() >= wanted; });
+    }
+};
+
+TEST_F(Servers, ARemoteObjectOnASocketCallsReportsAndReadsEvents) {
+    TarnApi* client = connection();
+    ASSERT_NE(client, nullptr);
+    EXPECT_EQ(address_.rfind(L"kel://127.0.0.1:", 0), 0U);
+    EXPECT_EQ(getState(client), 0);
+    EXPECT_NE(handle(client), handle(api)) << "the server's engine object of the socket";
+    EXPECT_EQ(code([&](KelError** e) { kel_logOut(client, credentials(L"nobody", password), e); }),
+              NotLoggedIn)
+        << "an engine error comes back with its code";
+    RecordingHandler handler;
+    EXPECT_EQ(code([&](KelError** e) {
+                  kel_registerServerHandler(reinterpret_cast<uint64_t>(client), &handler, e);
+              }),
+              1320)
+        << "a handler of this process cannot be registered on the server";
+
+    ErrorSlot error;
+    uint64_t channel = 0;
+    kel_openEventChannel(client, &error, &channel);
+    ASSERT_FALSE(error);
+    kelsim_setAsyncReports("readSupportedDtcsAsync", 3);
+    Reports reports;
+    kel_readSupportedDtcsAsync(client, nullptr, 0, nullptr, &error, Reports::callback, &reports);
+    ASSERT_FALSE(error);
+    ASSERT_TRUE(reports.waitForFinals(1));
+    EXPECT_EQ(reports.count, 3);
+    EXPECT_EQ(reports.finals, std::vector<int32_t>{0});
+
+    EventReport* report = nullptr;
+    kel_getCurrentEvents(client, channel, 0, &error, &report);
+    ASSERT_FALSE(error);
+    ASSERT_NE(report, nullptr);
+    bool completed = false;
+    for (uint32_t i = 0; i < report->eventCount; ++i) {
+        completed = completed || report->events[i]->kind == 8; // AsyncCompleted
+    }
+    release_EventReport(report);
+    EXPECT_TRUE(completed) << "the server's events reach the client's channel";
+}
+
+TEST_F(Servers, AServerListensOnLoopbackOnly) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "ECM"}],
+        "servers": {"listenAddress": "0.0.0.0"}})"),
+              0);
+    restart();
+    EXPECT_EQ(code([&](KelError** e) {
+                  wchar_t* address = nullptr;
+                  kel_startServer(api, L"", e, &address);
+              }),
+              1319);
+}
+
+TEST_F(Servers, AnOperatorIsRefusedOnTheSocketWhatTheTableRefuses) {
+    ASSERT_EQ(addUser(api, L"anna", password, Operator), 0);
+    ASSERT_EQ(userManagement(api, true), 0);
+    TarnApi* anna = connection();
+    EXPECT_EQ(getState(anna), NotLoggedIn);
+    ASSERT_EQ(logIn(anna, L"anna", password), 0);
+    EXPECT_EQ(getState(anna), 0);
+    EXPECT_EQ(addUser(anna, L"eve", password, Administrator), NeedsAdministrator);
+}
+
+// A client that breaks the protocol loses its own connection, and no other.
+TEST_F(Servers, AMalformedFrameClosesOnlyItsConnection) {
+    TarnApi* client = connection();
+    namespace asio = boost::asio;
+    const auto colon = address_.rfind(L':');
+    const auto port = static_cast<uint16_t>(std::stoul(address_.substr(colon + 1)));
+    asio::io_context io;
+    asio::ip::tcp::socket raw(io);
+    raw.connect({asio::ip::make_address("127.0.0.1"), port});
+    std::vector<uint8_t> bytes(16, 0xEE); // no kind of the protocol, a length above the bound
+    asio::write(raw, asio::buffer(bytes));
+    boost::system::error_code error;
+    std::array<uint8_t, 64> answer{};
+    std::size_t total = 0;
+    while (!error) {
+        total += raw.read_some(asio::buffer(answer), error);
+    }
+    EXPECT_EQ(error, asio::error::eof) << "the server closed the socket";
+    EXPECT_EQ(total, 0U);
+    EXPECT_EQ(getState(client), 0) << "the other connection still works";
+}
+
+TEST_F(Servers, TheServerEndsSocketsCleanlyAndAClientThatVanishesIsABrokenConnection) {
+    TarnApi* client = connection();
+    const uint64_t own = handle(client);
+    const uint64_t channel = openChannel();
+    // The server ends its sockets: the client fails its calls at once.
+    ASSERT_EQ(code([&](KelError** e) { kel_stopServer(api, L"", e); }), 0);
+    EXPECT_EQ(getState(client), ConnectionEnded);
+    ErrorSlot error;
+    wchar_t* address = nullptr;
+    kel_startServer(api, L"", &error, &address);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(std::wstring(address), address_) << "a server started again takes its port again";
+    release_Memory(address);
+    uint8_t renewed = 0;
+    kel_reconnectRemoteServer(client, own, &error, &renewed);
+    ASSERT_FALSE(error);
+    EXPECT_EQ(renewed, 1);
+    EXPECT_EQ(getState(client), 0);
+    events(channel); // what came so far
+
+    // Now a raw client that vanishes mid-call: the server's engine object hears of it.
+    namespace asio = boost::asio;
+    const auto port =
+        static_cast<uint16_t>(std::stoul(address_.substr(address_.rfind(L':') + 1)));
+    {
+        asio::io_context io;
+        asio::ip::tcp::socket raw(io);
+        raw.connect({asio::ip::make_address("127.0.0.1"), port});
+        const auto hello = ref::Wire::helloPayload();
+        ref::Wire::Header header;
+        header.kind = ref::Wire::Kind::Hello;
+        asio::write(raw, asio::buffer(ref::Wire::frames(header, hello.data(), hello.size(), {})));
+        std::array<uint8_t, 30> welcome{};
+        asio::read(raw, asio::buffer(welcome));
+        header.kind = ref::Wire::Kind::Call;
+        header.length = 100; // announced, never sent
+        std::array<uint8_t, 16> half{};
+        ref::Wire::writeHeader(header, half.data());
+        asio::write(raw, asio::buffer(half));
+    }
+    std::vector<int32_t> kinds;
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (std::find(kinds.begin(), kinds.end(), 9) == kinds.end() &&
+           std::chrono::steady_clock::now() < until) {
+        for (const auto& e : events(channel)) {
+            kinds.push_back(e.kind);
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+    EXPECT_NE(std::find(kinds.begin(), kinds.end(), 9), kinds.end()) << "ConnectionBroken";
+}
+
 using ServersConcurrency = Servers;
 
 // Remote clients call, log in and renew their connections while the server ends them,
@@ -912,7 +1091,16 @@ TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
         clients.emplace_back([&] {
             ErrorSlot connectError;
             uint64_t registered = 0;
-            kel_connectRemoteServer(api, where.c_str(), &connectError, &registered);
+            // The server may end a socket before its handshake is through: 1301.
+            for (int tries = 0; registered == 0 && tries < 100; ++tries) {
+                if (code([&](KelError** e) {
+                        kel_connectRemoteServer(api, where.c_str(), e, &registered);
+                    }) != ConnectionEnded &&
+                    registered == 0) {
+                    ++unexpected;
+                    return;
+                }
+            }
             auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT
             uint64_t own = 0;
             kel_getHandle(client, &connectError, &own);
@@ -942,6 +1130,7 @@ TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
                     break;
                 }
                 default:
+                    ADD_FAILURE() << "getState: " << getState(client);
                     ++unexpected;
                 }
             }
@@ -962,7 +1151,7 @@ TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
     for (const auto& heard : handler.heard()) {
         byClient[heard.substr(1)].push_back(heard[0]);
     }
-    EXPECT_EQ(byClient.size(), 4U);
+    EXPECT_GE(byClient.size(), 4U) << "each renewal after the server ended a socket is a new client";
     for (const auto& [client, signs] : byClient) {
         for (std::size_t i = 0; i < signs.size(); ++i) {
             EXPECT_EQ(signs[i], i % 2 == 0 ? L'+' : L'-') << "client " << i;

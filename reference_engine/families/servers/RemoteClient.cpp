@@ -104,6 +104,9 @@ public:
         if (welcome.header.kind == Wire::Kind::Result) {
             throw answerError(welcome.payload);
         }
+        if (welcome.header.kind == Wire::Kind::Goodbye) {
+            throw ended(L"the server ended it before it began");
+        }
         if (welcome.header.kind != Wire::Kind::Welcome || welcome.payload.size() != 14 ||
             !Wire::acceptsHello({welcome.payload.begin(), welcome.payload.begin() + 6})) {
             throw TarnApiException(ProtocolError, L"The server speaks another protocol", address);
@@ -449,7 +452,8 @@ bool RemoteClient::reconnect(uint16_t position, uint64_t handle) {
     try {
         renewed = std::make_shared<Link>(address_, local_);
     } catch (const TarnApiException& e) {
-        if (e.code == ServerNotRunning) {
+        // Nothing listens, or the server ended the new socket at once: not now.
+        if (e.code == ServerNotRunning || e.code == ConnectionEnded) {
             return false;
         }
         throw;
@@ -463,6 +467,11 @@ std::vector<uint8_t> RemoteClient::reconnectArguments(uint64_t handle) {
     Writer out;
     out.write(handle);
     return bytesOf(out);
+}
+
+uint64_t RemoteClient::handle() {
+    const std::lock_guard lock(mutex_);
+    return link_->handle();
 }
 
 void RemoteClient::disconnect(uint16_t position) {

@@ -420,6 +420,13 @@ RemoteServer::RemoteServer(std::weak_ptr<SimulatedVehicle> vehicle, const Server
     boost::system::error_code error;
     const tcp::endpoint endpoint(asio::ip::make_address(host), settings.port);
     core_->acceptor.open(endpoint.protocol(), error);
+#if !defined(_WIN32)
+    // A port of a server just stopped is free again at once (on Windows the option would
+    // let another program take a port in use instead).
+    if (!error) {
+        core_->acceptor.set_option(tcp::acceptor::reuse_address(true), error);
+    }
+#endif
     if (!error) {
         core_->acceptor.bind(endpoint, error);
     }
@@ -431,7 +438,8 @@ RemoteServer::RemoteServer(std::weak_ptr<SimulatedVehicle> vehicle, const Server
                                fromUtf8(host) + L":" + std::to_wstring(settings.port) + L": " +
                                    fromUtf8(error.message()));
     }
-    const uint16_t port = core_->acceptor.local_endpoint().port();
+    port_ = core_->acceptor.local_endpoint().port();
+    const uint16_t port = port_;
     address_ = L"kel://" + (host.find(':') != std::string::npos ? L"[" + fromUtf8(host) + L"]"
                                                                  : fromUtf8(host)) +
                L":" + std::to_wstring(port);

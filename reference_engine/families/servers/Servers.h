@@ -122,6 +122,7 @@ private:
     std::map<std::wstring, Failures> failures_; // by user name, known or not
     std::wstring serverAddress_;                // empty while the server is stopped
     std::shared_ptr<Remote::RemoteServer> server_; // its listener while it runs
+    uint16_t lastPort_ = 0; // a server started again takes its port again, when free
     std::wstring sovdAddress_;                  // empty while the SOVD server is stopped
     // Connections ended (false) and renewed (true), in order, for the handlers.
     std::deque<std::pair<std::wstring, bool>> announcements_;
