@@ -7,6 +7,7 @@
 #include <Vutil/ErrorHandler.h>
 #include <Vutil/TraceRecorder.h>
 
+#include <Net.h>
 #include <atomic>
 #include <condition_variable>
 #include <cstring>
@@ -19,7 +20,6 @@
 #include <thread>
 #include <vector>
 
-#include <Net.h>
 #include <families/servers/Frames.h>
 #include <families/servers/PasswordHash.h>
 
@@ -1037,8 +1037,7 @@ TEST_F(Servers, TheServerEndsSocketsCleanlyAndAClientThatVanishesIsABrokenConnec
 
     // Now a raw client that vanishes mid-call: the server's engine object hears of it.
     namespace asio = boost::asio;
-    const auto port =
-        static_cast<uint16_t>(std::stoul(address_.substr(address_.rfind(L':') + 1)));
+    const auto port = static_cast<uint16_t>(std::stoul(address_.substr(address_.rfind(L':') + 1)));
     {
         asio::io_context io;
         asio::ip::tcp::socket raw(io);
@@ -1065,6 +1064,51 @@ TEST_F(Servers, TheServerEndsSocketsCleanlyAndAClientThatVanishesIsABrokenConnec
         std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     EXPECT_NE(std::find(kinds.begin(), kinds.end(), 9), kinds.end()) << "ConnectionBroken";
+}
+
+// A server that dies mid-call: the client's call fails at once with 1301, and its local
+// engine's channels carry the broken connection.
+TEST_F(Servers, AServerThatDiesMidCallEndsTheCallAndIsPostedLocally) {
+    namespace asio = boost::asio;
+    asio::io_context io;
+    asio::ip::tcp::acceptor acceptor(io, {asio::ip::make_address("127.0.0.1"), 0});
+    const uint16_t port = acceptor.local_endpoint().port();
+    std::thread server([&] {
+        asio::ip::tcp::socket socket(io);
+        acceptor.accept(socket);
+        std::array<uint8_t, 22> hello{};
+        asio::read(socket, asio::buffer(hello));
+        auto payload = ref::Wire::helloPayload();
+        payload.resize(payload.size() + 8, 0x11);
+        ref::Wire::Header header;
+        header.kind = ref::Wire::Kind::Welcome;
+        asio::write(socket,
+                    asio::buffer(ref::Wire::frames(header, payload.data(), payload.size(), {})));
+        std::array<uint8_t, 16> call{};
+        asio::read(socket, asio::buffer(call)); // the call comes; no answer, no goodbye
+    });
+    const uint64_t channel = openChannel();
+    const std::wstring where = L"kel://127.0.0.1:" + std::to_wstring(port);
+    uint64_t registered = 0;
+    ErrorSlot error;
+    kel_connectRemoteServer(api, where.c_str(), &error, &registered);
+    ASSERT_FALSE(error);
+    auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
+    remotes_.push_back(client);
+    EXPECT_EQ(getState(client), ConnectionEnded);
+    server.join();
+    EXPECT_EQ(getState(client), ConnectionEnded);
+    std::vector<Event> broken;
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(10);
+    while (broken.empty() && std::chrono::steady_clock::now() < until) {
+        for (const auto& e : events(channel)) {
+            if (e.kind == 9) {
+                broken.push_back(e);
+            }
+        }
+    }
+    ASSERT_EQ(broken.size(), 1U);
+    EXPECT_EQ(broken[0].detail, L"server " + where);
 }
 
 using ServersConcurrency = Servers;
@@ -1147,17 +1191,63 @@ TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
     }
     EXPECT_EQ(unexpected.load(), 0);
 
+    // The last sockets' ends reach the handler from the server's connection threads.
     std::map<std::wstring, std::vector<wchar_t>> byClient;
-    for (const auto& heard : handler.heard()) {
-        byClient[heard.substr(1)].push_back(heard[0]);
-    }
-    EXPECT_GE(byClient.size(), 4U) << "each renewal after the server ended a socket is a new client";
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    do {
+        byClient.clear();
+        for (const auto& heard : handler.heard()) {
+            byClient[heard.substr(1)].push_back(heard[0]);
+        }
+    } while (std::any_of(byClient.begin(), byClient.end(),
+                         [](const auto& entry) { return entry.second.size() % 2 != 0; }) &&
+             std::chrono::steady_clock::now() < until);
+    EXPECT_GE(byClient.size(), 4U)
+        << "each renewal after the server ended a socket is a new client";
     for (const auto& [client, signs] : byClient) {
         for (std::size_t i = 0; i < signs.size(); ++i) {
             EXPECT_EQ(signs[i], i % 2 == 0 ? L'+' : L'-') << "client " << i;
         }
         EXPECT_EQ(signs.size() % 2, 0U) << "every connection ended once";
     }
+}
+
+// 50 clients on sockets of their own, 200 calls each, while the server serves them all:
+// every call is answered. Time bounds are hang guards only (bench/ measures).
+TEST_F(ServersConcurrency, FiftyClientsOfTwoHundredCallsEach) {
+    std::vector<TarnApi*> clients;
+    for (int c = 0; c < 50; ++c) {
+        clients.push_back(connection());
+        ASSERT_NE(clients.back(), nullptr);
+    }
+    std::atomic<int> answered{0};
+    std::atomic<int> failed{0};
+    std::vector<std::thread> threads;
+    for (TarnApi* client : clients) {
+        threads.emplace_back([&, client] {
+            for (int i = 0; i < 200; ++i) {
+                ErrorSlot error;
+                if (i % 2 == 0) {
+                    int32_t state = -1;
+                    kel_getState(client, &error, &state);
+                } else {
+                    wchar_t target[] = L"ECM";
+                    wchar_t* targets[] = {target};
+                    kel_test::List<ReadDtcResult, release_ReadDtcResult_array> list;
+                    kel_readDtcs(client, targets, 1, nullptr, &error, &list.items, &list.count);
+                    if (!error && list.count != 1) {
+                        ++failed;
+                    }
+                }
+                ++(error ? failed : answered);
+            }
+        });
+    }
+    for (auto& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(answered.load(), 50 * 200);
+    EXPECT_EQ(failed.load(), 0);
 }
 
 } // namespace

@@ -8,8 +8,8 @@
 
 #include <array>
 #include <condition_variable>
-#include <cstring>
 #include <cstdio>
+#include <cstring>
 #include <deque>
 #include <map>
 #include <optional>
@@ -85,8 +85,8 @@ public:
         boost::system::error_code error;
         const auto ip = asio::ip::make_address(endpoint.host, error);
         if (error || !ip.is_loopback()) {
-            throw TarnApiException(NotLoopback, L"Remote connections go to the loopback interface only",
-                                   address);
+            throw TarnApiException(
+                NotLoopback, L"Remote connections go to the loopback interface only", address);
         }
         socket_.connect(tcp::endpoint(ip, endpoint.port), error);
         if (error) {
@@ -405,8 +405,7 @@ private:
 };
 
 RemoteClient::RemoteClient(const std::wstring& address, std::weak_ptr<SimulatedVehicle> local)
-    : address_(address), local_(std::move(local)),
-      link_(std::make_shared<Link>(address_, local_)) {
+    : address_(address), local_(std::move(local)), link_(std::make_shared<Link>(address_, local_)) {
     handles_.insert(link_->handle());
 }
 
@@ -440,8 +439,7 @@ bool RemoteClient::reconnect(uint16_t position, uint64_t handle) {
     }
     if (link_ && link_->alive()) {
         try {
-            return link_->roundTrip(position, reconnectArguments(link_->handle()), {})
-                       .at(0) != 0;
+            return link_->roundTrip(position, reconnectArguments(link_->handle()), {}).at(0) != 0;
         } catch (const TarnApiException& e) {
             if (e.code != ConnectionEnded) {
                 throw;

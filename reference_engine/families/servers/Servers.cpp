@@ -88,8 +88,8 @@ ServersSettings ServersSettings::parse(const nlohmann::json& section) {
             wholeNumber(section, "idleTimeoutMs", settings.idleTimeoutMs, 100, 86400000));
         settings.readTimeoutMs = static_cast<uint32_t>(
             wholeNumber(section, "readTimeoutMs", settings.readTimeoutMs, 100, 3600000));
-        settings.maxMessageBytes = static_cast<uint32_t>(wholeNumber(
-            section, "maxMessageBytes", settings.maxMessageBytes, 1U << 20, 1U << 30));
+        settings.maxMessageBytes = static_cast<uint32_t>(
+            wholeNumber(section, "maxMessageBytes", settings.maxMessageBytes, 1U << 20, 1U << 30));
         if (section.contains("listenAddress")) {
             settings.listenAddress = section.at("listenAddress").get<std::string>();
         }
@@ -401,7 +401,8 @@ void Servers::restartServer(int32_t endClients) {
 std::shared_ptr<TarnApi> Servers::connectRemoteServer(const std::wstring& address) {
     vehicle_->lifecycle.requireInitialized();
     // A broken connection is posted on this engine's vehicle.
-    return std::make_shared<RemoteEngine>(std::make_shared<Remote::RemoteClient>(address, vehicle_));
+    return std::make_shared<RemoteEngine>(
+        std::make_shared<Remote::RemoteClient>(address, vehicle_));
 }
 
 void Servers::disconnect() {
