@@ -22,6 +22,7 @@
 
 #include <families/servers/Frames.h>
 #include <families/servers/PasswordHash.h>
+#include <families/servers/Scram.h>
 
 namespace {
 
@@ -105,6 +106,143 @@ TEST(PasswordHash, MatchesThePublishedTestVectors) {
     EXPECT_NE(stored.hash, again.hash);
     EXPECT_TRUE(stored.matches(password));
     EXPECT_FALSE(stored.matches(L"S3cret-P\u00e4ssw\u00f6rt-"));
+}
+
+namespace {
+namespace scram {
+
+namespace Scram = ref::Scram;
+
+// The users the SCRAM tests know, at the least count the engine allows but for RFC 7677's.
+Scram::Server::Lookup users() {
+    return [](const std::wstring& user) -> std::optional<Scram::Keys> {
+        if (user == L"user") {
+            const auto salt = Scram::fromBase64("W22ZaJ0SNY7soEsUEjb6gQ==");
+            return Scram::Keys::fromPasswordHash(
+                {salt, 4096, ref::pbkdf2HmacSha256(bytes("pencil"), salt, 4096, 32)});
+        }
+        if (user == L"J\u00fcrgen, =admin") {
+            return Scram::Keys::fromPasswordHash(ref::PasswordHash::make(password, 1000));
+        }
+        return std::nullopt;
+    };
+}
+
+// Runs an exchange; the server's final message, or nullopt when it refuses the proof.
+std::optional<std::string> logIn(Scram::Client& client, Scram::Server& server) {
+    const std::string serverFirst = server.first(client.first(), users());
+    return server.final(client.final(serverFirst));
+}
+
+} // namespace scram
+} // namespace
+
+// RFC 7677's example, byte for byte (its strings; recomputed with Python's hashlib and hmac).
+TEST(Scram, ReproducesThePublishedExchange) {
+    namespace Scram = ref::Scram;
+    Scram::Client client(L"user", L"pencil", "rOprNGfwEbeRWgbNEkqO");
+    Scram::Server server("%hvYDpWUa2RaTCAfuxFIlj)hNlF$k0");
+    const std::string clientFirst = client.first();
+    EXPECT_EQ(clientFirst, "n,,n=user,r=rOprNGfwEbeRWgbNEkqO");
+    const std::string serverFirst = server.first(clientFirst, scram::users());
+    EXPECT_EQ(serverFirst, "r=rOprNGfwEbeRWgbNEkqO%hvYDpWUa2RaTCAfuxFIlj)hNlF$k0,"
+                           "s=W22ZaJ0SNY7soEsUEjb6gQ==,i=4096");
+    const std::string clientFinal = client.final(serverFirst);
+    EXPECT_EQ(clientFinal, "c=biws,r=rOprNGfwEbeRWgbNEkqO%hvYDpWUa2RaTCAfuxFIlj)hNlF$k0,"
+                           "p=dHzbZapWIk4jUhN+Ute9ytag9zjfMHgsqmmiz7AndVQ=");
+    const auto serverFinal = server.final(clientFinal);
+    ASSERT_TRUE(serverFinal);
+    EXPECT_EQ(*serverFinal, "v=6rriTRBi23WpRR/wtup+mMhUZUn/dB5nLTJRsjl95G4=");
+    EXPECT_TRUE(client.verify(*serverFinal));
+    EXPECT_FALSE(client.verify("v=" + Scram::base64(std::vector<uint8_t>(32))));
+    EXPECT_FALSE(client.verify("e=invalid-proof"));
+
+    // RFC 4648's vectors; decoding takes canonical Base64 only.
+    const std::vector<std::pair<std::string, std::string>> vectors{
+        {"", ""}, {"f", "Zg=="}, {"fo", "Zm8="}, {"foo", "Zm9v"}, {"foob", "Zm9vYg=="}};
+    for (const auto& [text, encoded] : vectors) {
+        EXPECT_EQ(Scram::base64(bytes(text.c_str())), encoded);
+        EXPECT_EQ(Scram::fromBase64(encoded), std::vector<uint8_t>(text.begin(), text.end()));
+    }
+    for (const char* bad : {"Zg", "Zg=", "Zh==", "Zm9=", "Z===", "Zg==Zm9v", "Zm9v!A==", "Zm 9"}) {
+        EXPECT_THROW(Scram::fromBase64(bad), Scram::Malformed) << bad;
+    }
+}
+
+TEST(Scram, RefusesWrongPasswordsUnknownUsersAndReplays) {
+    namespace Scram = ref::Scram;
+    const std::wstring name = L"J\u00fcrgen, =admin";
+    Scram::Client right(name, password);
+    EXPECT_NE(right.first().find("n=J\xc3\xbcrgen=2C =3Dadmin,"), std::string::npos);
+    Scram::Server server;
+    const std::string serverFirst = server.first(right.first(), scram::users());
+    EXPECT_EQ(server.user(), name);
+    const std::string recorded = right.final(serverFirst);
+    const auto accepted = server.final(recorded);
+    ASSERT_TRUE(accepted);
+    EXPECT_TRUE(right.verify(*accepted));
+    EXPECT_THROW(server.final(recorded), std::logic_error) << "one proof per exchange";
+
+    Scram::Client wrong(name, L"S3cret-P\u00e4ssw\u00f6rt-");
+    Scram::Server other;
+    EXPECT_FALSE(scram::logIn(wrong, other));
+
+    // A recorded final, on a new exchange of the same client-first.
+    Scram::Server replayed;
+    replayed.first(right.first(), scram::users());
+    EXPECT_FALSE(replayed.final(recorded));
+
+    // An unknown name gets a salt of its own, the same each time, and the count just seen.
+    const auto answer = [](const std::wstring& user) {
+        Scram::Client client(user, password, "abc");
+        Scram::Server server("def");
+        const std::string first = server.first(client.first(), scram::users());
+        EXPECT_FALSE(server.final(client.final(first)));
+        return first;
+    };
+    const std::string unknown = answer(L"nobody");
+    EXPECT_EQ(unknown, answer(L"nobody"));
+    EXPECT_NE(unknown, answer(L"somebody"));
+    const std::size_t salt = unknown.find(",s=") + 3;
+    EXPECT_EQ(unknown.substr(0, salt), "r=abcdef,s=");
+    EXPECT_EQ(Scram::fromBase64(unknown.substr(salt, unknown.find(",i=") - salt)).size(),
+              ref::PasswordHash::saltLength);
+    EXPECT_TRUE(unknown.ends_with(",i=1000"));
+}
+
+TEST(Scram, MalformedMessagesThrow) {
+    namespace Scram = ref::Scram;
+    for (const std::string& clientFirst : std::vector<std::string>{
+             "", "n,,", "y,,n=user,r=abc", "p=tls-server-end-point,,n=user,r=abc",
+             "n,a=admin,n=user,r=abc", "n,,r=abc", "n,,n=user", "n,,n=user,r=", "n,,n=us=2Ar,r=abc",
+             "n,,n=,r=abc", "n,,m=ext,n=user,r=abc", "n,,n=user,r=a\x01z", "n,,n=\xff,r=abc",
+             "n,,n=user,r=abc,,", std::string("n,,n=us\0er,r=abc", 16)}) {
+        Scram::Server server;
+        EXPECT_THROW(server.first(clientFirst, scram::users()), Scram::Malformed) << clientFirst;
+    }
+
+    const std::string salt = ",s=W22ZaJ0SNY7soEsUEjb6gQ==";
+    for (const std::string& serverFirst : std::vector<std::string>{
+             "", "r=abcdef", "r=abcdef" + salt, "r=abcdef,i=4096", "r=abc" + salt + ",i=4096",
+             "r=xyzdef" + salt + ",i=4096", "r=abcdef,s=W22ZaJ0,i=4096", "r=abcdef,s=,i=4096",
+             "r=abcdef" + salt + ",i=999", "r=abcdef" + salt + ",i=04096",
+             "r=abcdef" + salt + ",i=-4096", "r=abcdef" + salt + ",i=99999999999",
+             "m=ext,r=abcdef" + salt + ",i=4096"}) {
+        Scram::Client client(L"user", L"pencil", "abc");
+        client.first();
+        EXPECT_THROW(client.final(serverFirst), Scram::Malformed) << serverFirst;
+    }
+
+    const std::string proof = ",p=dHzbZapWIk4jUhN+Ute9ytag9zjfMHgsqmmiz7AndVQ=";
+    for (const std::string& clientFinal : std::vector<std::string>{
+             "", "c=biws,r=abcdef", "r=abcdef" + proof, "c=biws" + proof, "c=eSws,r=abcdef" + proof,
+             "c=biws,r=abcdef,p=dHzb", "c=biws,r=abcdef,p=!!!!",
+             "c=biws,r=abcdef,p=" + Scram::base64(std::vector<uint8_t>(31))}) {
+        Scram::Client client(L"user", L"pencil", "abc");
+        Scram::Server server("def");
+        server.first(client.first(), scram::users());
+        EXPECT_THROW(server.final(clientFinal), Scram::Malformed) << clientFinal;
+    }
 }
 
 // Fast hashing for the tests (the default is 100000 iterations); three failures in a
