@@ -4,6 +4,7 @@
 #include "ErrorCodes.h"
 #include "Frames.h"
 #include "Net.h"
+#include "Scram.h"
 #include "SimulatedVehicle.h"
 
 #include <array>
@@ -130,7 +131,8 @@ public:
     }
 
     std::vector<uint8_t> roundTrip(uint16_t operation, const std::vector<uint8_t>& arguments,
-                                   std::shared_ptr<AsyncReceiver> async) {
+                                   std::shared_ptr<AsyncReceiver> async,
+                                   Wire::Kind kind = Wire::Kind::Call) {
         uint64_t id = 0;
         {
             const std::lock_guard lock(mutex_);
@@ -141,7 +143,7 @@ public:
             calls_[id].async = std::move(async);
         }
         try {
-            send(Wire::Kind::Call, operation, id, arguments);
+            send(kind, operation, id, arguments);
         } catch (...) {
             const std::lock_guard lock(mutex_);
             calls_.erase(id);
@@ -470,6 +472,30 @@ std::vector<uint8_t> RemoteClient::reconnectArguments(uint64_t handle) {
 uint64_t RemoteClient::handle() {
     const std::lock_guard lock(mutex_);
     return link_->handle();
+}
+
+void RemoteClient::logIn(const std::shared_ptr<LogInOutConfig>& config) {
+    if (!config || config->user.empty()) {
+        throw TarnApiException(BadServersArgument, L"A login needs a user name");
+    }
+    const auto link = current();
+    const auto step = [&](uint16_t number, const std::string& text) {
+        const auto answer =
+            link->roundTrip(number, {text.begin(), text.end()}, nullptr, Wire::Kind::Login);
+        return std::string(answer.begin(), answer.end());
+    };
+    try {
+        Scram::Client scram(config->user, config->password);
+        const std::string serverFirst = step(1, scram.first());
+        const std::string serverFinal = step(2, scram.final(serverFirst));
+        if (!scram.verify(serverFinal)) {
+            throw TarnApiException(ProtocolError,
+                                   L"The server did not prove that it knows the user", address_);
+        }
+    } catch (const Scram::Malformed& e) {
+        throw TarnApiException(ProtocolError, L"The server's login message is not acceptable",
+                               fromUtf8(e.what()));
+    }
 }
 
 void RemoteClient::disconnect(uint16_t position) {
