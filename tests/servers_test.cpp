@@ -1373,6 +1373,29 @@ TEST_F(Servers, ALoginOnTheWireCarriesNoPasswordAndCannotBeReplayed) {
     EXPECT_EQ(getState(first), NotLoggedIn);
 }
 
+// Arguments and a result above one frame travel in continuation parts.
+TEST_F(Servers, AFileOfSeveralFramesTravelsBothWays) {
+    TarnApi* client = connection();
+    std::vector<uint8_t> content(3 * 1024 * 1024 + 17);
+    for (std::size_t i = 0; i < content.size(); ++i) {
+        content[i] = static_cast<uint8_t>(i * 7 + i / 4096);
+    }
+    ErrorSlot error;
+    uint32_t written = 0;
+    kel_writeFile(client, L"exchange/big.bin", content.data(),
+                  static_cast<uint32_t>(content.size()), 0, 1, &error, &written);
+    ASSERT_FALSE(error) << error->code;
+    EXPECT_EQ(written, content.size());
+    void* data = nullptr;
+    uint32_t size = 0;
+    kel_readFile(client, L"exchange/big.bin", 0, 0, 0, &error, &data, &size);
+    ASSERT_FALSE(error) << error->code;
+    const std::vector<uint8_t> back(static_cast<uint8_t*>(data),
+                                    static_cast<uint8_t*>(data) + size);
+    release_Memory(data);
+    EXPECT_TRUE(back == content);
+}
+
 using ServersConcurrency = Servers;
 
 // Remote clients call, log in and renew their connections while the server ends them,
