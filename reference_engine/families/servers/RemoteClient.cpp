@@ -73,8 +73,16 @@ std::shared_ptr<KelError> errorRecord(const TarnApiException& e) {
 
 // One socket and its reader thread. Callers write their frames under writeMutex_ and
 // wait for their answers; the reader hands each answer to its caller by call id.
-class Link {
+class Link : public std::enable_shared_from_this<Link> {
 public:
+    // Connects and starts the reader, which keeps the link until its socket ends.
+    static std::shared_ptr<Link> open(const std::wstring& address,
+                                      std::weak_ptr<SimulatedVehicle> local) {
+        auto link = std::make_shared<Link>(address, std::move(local));
+        std::thread([link] { link->readLoop(); }).detach();
+        return link;
+    }
+
     Link(const std::wstring& address, std::weak_ptr<SimulatedVehicle> local)
         : address_(address), local_(std::move(local)), socket_(io_) {
         Endpoint endpoint;
@@ -113,15 +121,11 @@ public:
             throw TarnApiException(ProtocolError, L"The server speaks another protocol", address);
         }
         std::memcpy(&handle_, welcome.payload.data() + 6, 8);
-        reader_ = std::thread([this] { readLoop(); });
     }
 
     Link(const Link&) = delete;
     Link& operator=(const Link&) = delete;
-    ~Link() {
-        close(true);
-        reader_.join();
-    }
+    ~Link() = default;
 
     uint64_t handle() const { return handle_; }
 
@@ -402,16 +406,15 @@ private:
     std::map<uint64_t, Pending> calls_;
     std::map<uint64_t, std::shared_ptr<AsyncReceiver>> asyncCalls_;
     std::map<uint64_t, std::deque<std::vector<uint8_t>>> early_;
-
-    std::thread reader_;
 };
 
 RemoteClient::RemoteClient(const std::wstring& address, std::weak_ptr<SimulatedVehicle> local)
-    : address_(address), local_(std::move(local)), link_(std::make_shared<Link>(address_, local_)) {
+    : address_(address), local_(std::move(local)), link_(Link::open(address_, local_)) {
     handles_.insert(link_->handle());
 }
 
-RemoteClient::~RemoteClient() = default;
+// The reader goes once the server has closed the socket after the goodbye.
+RemoteClient::~RemoteClient() { link_->close(true); }
 
 std::shared_ptr<Link> RemoteClient::current() {
     const std::lock_guard lock(mutex_);
@@ -450,7 +453,7 @@ bool RemoteClient::reconnect(uint16_t position, uint64_t handle) {
     }
     std::shared_ptr<Link> renewed;
     try {
-        renewed = std::make_shared<Link>(address_, local_);
+        renewed = Link::open(address_, local_);
     } catch (const TarnApiException& e) {
         // Nothing listens, or the server ended the new socket at once: not now.
         if (e.code == ServerNotRunning || e.code == ConnectionEnded) {
@@ -460,6 +463,7 @@ bool RemoteClient::reconnect(uint16_t position, uint64_t handle) {
     }
     handles_.insert(renewed->handle());
     std::swap(link_, renewed);
+    renewed->close(true); // ended already; its reader lets go of it
     return true;
 }
 

@@ -247,9 +247,13 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
         write(Wire::frames(header, payload.data(), payload.size(), core->limits));
     }
 
-    // From any thread.
+    // From any thread. A connection already gone has nothing left to write.
     void post(std::function<void(Connection&)> work) {
-        asio::post(core->io, [self = shared_from_this(), work = std::move(work)] { work(*self); });
+        asio::post(core->io, [weak = weak_from_this(), work = std::move(work)] {
+            if (const auto self = weak.lock()) {
+                work(*self);
+            }
+        });
     }
 
     void report(uint16_t operation, uint64_t callId, std::vector<uint8_t> payload) override {
