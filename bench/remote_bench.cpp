@@ -64,7 +64,7 @@ void BM_GetStateRemote(benchmark::State& state) {
     static TarnApi* const connection = newConnection();
     getState(state, connection);
 }
-BENCHMARK(BM_GetStateRemote);
+BENCHMARK(BM_GetStateRemote)->UseRealTime();
 
 // Calls per second of all threads together (items_per_second), a socket per thread.
 void BM_GetStateRemoteClients(benchmark::State& state) {
