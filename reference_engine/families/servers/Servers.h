@@ -4,6 +4,7 @@
 
 #include "Families.h"
 #include "PasswordHash.h"
+#include "Scram.h"
 
 #include <nlohmann/json.hpp>
 
@@ -14,6 +15,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +25,9 @@ namespace Varno::Kel_cpp::Reference {
 class SimulatedVehicle;
 class SovdServer;
 struct EngineObject;
+namespace Remote {
+class RemoteServer;
+}
 
 // Roles of the server's users (UserInfo::value).
 enum UserRole : uint32_t {
@@ -45,6 +50,12 @@ struct ServersSettings {
     std::string listenAddress = "127.0.0.1";
     uint16_t port = 0;     // the engine's server; 0 lets the system choose
     uint16_t sovdPort = 0; // the SOVD server; 0 lets the system choose
+    // The engine's server's bounds (reference_engine/README.md, "The server on loopback").
+    uint32_t maxConnections = 64;
+    uint32_t maxPendingCalls = 64;        // per connection, received and not yet answered
+    uint32_t idleTimeoutMs = 600000;      // no message from a client: the server ends it
+    uint32_t readTimeoutMs = 30000;       // a message begun must be whole within this
+    uint32_t maxMessageBytes = 64U << 20; // a call's arguments or result, all parts told
 
     // Throws TarnApiException BadVehicleDescription.
     static ServersSettings parse(const nlohmann::json& section);
@@ -76,6 +87,14 @@ public:
     void connectionGone(SimulatedVehicle& vehicle, const std::wstring& client);
     // Announces the queued ends and renewals, outside the lock (see Servers.cpp).
     void announce(SimulatedVehicle& vehicle);
+
+    // A remote connection's login by SCRAM-SHA-256 (RemoteServer.cpp), with the throttle
+    // and events of logIn: the keys of `user` (none for an unknown name), counted as an
+    // attempt first (throws LoginThrottled); then the exchange's outcome, which throws
+    // LoginFailed for a wrong proof and ConnectionEnded for a session ended meanwhile.
+    std::optional<Scram::Keys> scramKeys(const std::wstring& user, uint32_t& attempt);
+    void scramOutcome(SimulatedVehicle& vehicle, uint64_t handle, const std::wstring& user,
+                      bool proved, uint32_t attempt);
 
 private:
     friend class Servers;
@@ -110,10 +129,12 @@ private:
     std::filesystem::path usersFile_;
     std::map<std::wstring, User> users_;
     bool userManagement_ = false;
-    std::map<uint64_t, Session> sessions_;      // by engine handle
-    std::map<std::wstring, Failures> failures_; // by user name, known or not
-    std::wstring serverAddress_;                // empty while the server is stopped
-    std::wstring sovdAddress_;                  // empty while the SOVD server is stopped
+    std::map<uint64_t, Session> sessions_;         // by engine handle
+    std::map<std::wstring, Failures> failures_;    // by user name, known or not
+    std::wstring serverAddress_;                   // empty while the server is stopped
+    std::shared_ptr<Remote::RemoteServer> server_; // its listener while it runs
+    uint16_t lastPort_ = 0;    // a server started again takes its port again, when free
+    std::wstring sovdAddress_; // empty while the SOVD server is stopped
     // Connections ended (false) and renewed (true), in order, for the handlers.
     std::deque<std::pair<std::wstring, bool>> announcements_;
     bool announcing_ = false;
