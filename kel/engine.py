@@ -72,6 +72,7 @@ class Engine(Operations):
         # gives it back also when the caller forgets release().
         self._release = weakref.finalize(self, lib.releaseTarnApi, api)
         self._released = False  # release() was called (a plain flag: read on every call)
+        self._connected = False  # made by connect(): disconnected at the end of its block
 
     @classmethod
     def remote(cls, handle: int, *, library: Optional[str] = None) -> Engine:
@@ -86,6 +87,45 @@ class Engine(Operations):
         engine = cls.__new__(cls)
         engine._init(lib, api, False)
         return engine
+
+    @classmethod
+    def connect(cls, address: str, user: Optional[str] = None, password: Optional[str] = None, *,
+                library: Optional[str] = None) -> Engine:
+        """A remote engine object: connects to the engine's server at `address` (what
+        start_server returned there, such as "kel://127.0.0.1:7400", also from another
+        process: `kel-sim-server` prints it) and, when `user` is given, logs in with
+        `password`. Its calls travel to the server; the `with` block disconnects and
+        releases it (it is not initialised or ended: the server's engine is). A connection
+        that ended (the server stopped or went away) raises EngineError with code
+        ErrorCode.CONNECTION_ENDED on every call; reconnect() renews it.
+
+        Raises EngineError when the server cannot be reached or the login fails
+        (AccessDeniedError for a wrong user name or password), ValueError for a user
+        without a password.
+        """
+        if user is not None and password is None:
+            raise ValueError("a user logs in with a password")
+        local = cls(initialize=False, library=library)
+        try:
+            engine = local.connect_remote_server(address)
+        finally:
+            local.release()  # the remote engine object is registered on its own
+        engine._connected = True
+        if user is not None:
+            from .generated.records import LogInOutConfig
+
+            try:
+                engine.log_in(LogInOutConfig(user=user, password=password or ""))
+            except BaseException:
+                engine.release()
+                raise
+        return engine
+
+    def reconnect(self) -> bool:
+        """Renews this remote connection after it ended (reconnect_remote_server with its
+        own engine handle): True when it is connected again, False while the server is
+        not there. A renewed connection is logged out."""
+        return self.reconnect_remote_server(self.get_handle())
 
     def _adopt(self, address: int) -> Engine:
         """An engine object that an operation handed out (already registered)."""
@@ -113,8 +153,20 @@ class Engine(Operations):
         try:
             if self._initialize:
                 self.end()
+            elif self._connected:
+                self._disconnect(quietly=kind is not None)
         finally:
             self.release()
+
+    def _disconnect(self, quietly: bool) -> None:
+        try:
+            self.disconnect()
+        except EngineError as e:
+            # Ended already (by the server, or the server is gone), or not logged in to a
+            # server that manages users: releasing it ends what is left. An error of the
+            # block goes on rather than this one.
+            if not quietly and e.code not in (ErrorCode.CONNECTION_ENDED, ErrorCode.NOT_LOGGED_IN):
+                raise
 
     @contextlib.contextmanager
     def locked(self) -> Iterator[int]:
