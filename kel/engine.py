@@ -72,7 +72,13 @@ class Engine(Operations):
         # gives it back also when the caller forgets release().
         self._release = weakref.finalize(self, lib.releaseTarnApi, api)
         self._released = False  # release() was called (a plain flag: read on every call)
-        self._connected = False  # made by connect(): disconnected at the end of its block
+        # Made by connect(): disconnected at the end of its block; the local engine object
+        # it connected through (ended then too when connect() initialised it), and its
+        # engine handle, which reconnect() needs after the server has gone.
+        self._connected = False
+        self._local: Optional[Engine] = None
+        self._ends_local = False
+        self._remote_handle = 0
 
     @classmethod
     def remote(cls, handle: int, *, library: Optional[str] = None) -> Engine:
@@ -105,27 +111,41 @@ class Engine(Operations):
         """
         if user is not None and password is None:
             raise ValueError("a user logs in with a password")
+        # The local engine object connects; it must be initialised for that, and it hears
+        # ConnectionBroken when the server goes away (connection.local.events()).
         local = cls(initialize=False, library=library)
+        engine: Optional[Engine] = None
         try:
+            ends_local = local.get_state() != EngineState.INITIALIZED
+            if ends_local:
+                local.initialize()
             engine = local.connect_remote_server(address)
-        finally:
-            local.release()  # the remote engine object is registered on its own
-        engine._connected = True
-        if user is not None:
-            from .generated.records import LogInOutConfig
+            engine._connected = True
+            engine._local, engine._ends_local = local, ends_local
+            engine._remote_handle = engine.get_handle()
+            if user is not None:
+                from .generated.records import LogInOutConfig
 
-            try:
                 engine.log_in(LogInOutConfig(user=user, password=password or ""))
-            except BaseException:
-                engine.release()
-                raise
+        except BaseException as failure:
+            if engine is not None:  # disconnects, and lets the local one go
+                engine.__exit__(type(failure), failure, failure.__traceback__)
+            else:
+                local.release()
+            raise
         return engine
+
+    @property
+    def local(self) -> Optional[Engine]:
+        """For an engine from connect(): the local engine object it connected through,
+        whose event channels hear ConnectionBroken (kind 9) when the server goes away."""
+        return self._local
 
     def reconnect(self) -> bool:
         """Renews this remote connection after it ended (reconnect_remote_server with its
-        own engine handle): True when it is connected again, False while the server is
-        not there. A renewed connection is logged out."""
-        return self.reconnect_remote_server(self.get_handle())
+        engine handle): True when it is connected again, False while no server listens at
+        its address. A renewed connection is logged out."""
+        return self.reconnect_remote_server(self._remote_handle or self.get_handle())
 
     def _adopt(self, address: int) -> Engine:
         """An engine object that an operation handed out (already registered)."""
@@ -157,6 +177,13 @@ class Engine(Operations):
                 self._disconnect(quietly=kind is not None)
         finally:
             self.release()
+            if self._local is not None:
+                local, self._local = self._local, None
+                try:
+                    if self._ends_local:
+                        local.end()
+                finally:
+                    local.release()
 
     def _disconnect(self, quietly: bool) -> None:
         try:
