@@ -70,6 +70,12 @@
 #define KEL_ERROR_SOVD_SERVER_RUNNING 1317
 #define KEL_ERROR_SOVD_SERVER_NOT_RUNNING 1318
 #define KEL_ERROR_NOT_LOOPBACK 1319 /* a server would listen on an address that is not loopback */
+#define KEL_ERROR_NOT_REMOTABLE                                                                    \
+    1320 /* what cannot travel over a remote connection (a server handler, an engine object) */
+#define KEL_ERROR_PROTOCOL_ERROR                                                                   \
+    1321 /* the other end of a remote connection broke the protocol or speaks another version */
+#define KEL_ERROR_SERVER_BUSY                                                                      \
+    1322 /* the server takes no more connections, or this connection no more pending calls */
 #define KEL_ERROR_UNKNOWN_INTERFACE 1400
 #define KEL_ERROR_UNKNOWN_RESOURCE 1401
 #define KEL_ERROR_NAME_TAKEN 1402 /* an interface or resource of that name exists already */

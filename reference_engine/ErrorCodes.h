@@ -73,6 +73,12 @@ enum ErrorCode : int32_t {
     SovdServerRunning = 1317,
     SovdServerNotRunning = 1318,
     NotLoopback = 1319, // a server would listen on an address that is not loopback
+    NotRemotable =
+        1320, // what cannot travel over a remote connection (a server handler, an engine object)
+    ProtocolError =
+        1321, // the other end of a remote connection broke the protocol or speaks another version
+    ServerBusy =
+        1322, // the server takes no more connections, or this connection no more pending calls
 
     // Interfaces: 1400-1499.
     UnknownInterface = 1400,

@@ -19,6 +19,7 @@ import textwrap
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parent))
 import admission  # noqa: E402
+import remote_gen  # noqa: E402
 import errors_gen  # noqa: E402
 import conformance  # noqa: E402
 import kelidl  # noqa: E402
@@ -1041,6 +1042,7 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
         "interface/generated/EngineFields.h": engine_fields_h(iface),
         **conformance.outputs(iface),
         **admission.outputs(iface, ROOT),
+        **remote_gen.outputs(iface, engine_signature, engine_result),
         **errors_gen.outputs(ROOT),
         **record_classes_tests(iface),
         **python_gen.outputs(iface),

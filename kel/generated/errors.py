@@ -95,6 +95,12 @@ class ErrorCode(enum.IntEnum):
     SOVD_SERVER_NOT_RUNNING = 1318
     NOT_LOOPBACK = 1319
     """A server would listen on an address that is not loopback."""
+    NOT_REMOTABLE = 1320
+    """What cannot travel over a remote connection (a server handler, an engine object)."""
+    PROTOCOL_ERROR = 1321
+    """The other end of a remote connection broke the protocol or speaks another version."""
+    SERVER_BUSY = 1322
+    """The server takes no more connections, or this connection no more pending calls."""
     UNKNOWN_INTERFACE = 1400
     UNKNOWN_RESOURCE = 1401
     NAME_TAKEN = 1402

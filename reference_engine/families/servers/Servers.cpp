@@ -5,6 +5,8 @@
 #include "DataRoot.h"
 #include "Describe.h"
 #include "IdentityProvider.h"
+#include "RemoteEngine.h"
+#include "RemoteServer.h"
 #include "SafeFiles.h"
 #include "SimulatedVehicle.h"
 #include "VehicleClock.h"
@@ -17,19 +19,6 @@
 
 namespace Varno::Kel_cpp::Reference {
 namespace {
-
-// The addresses of the running servers of every vehicle: connectRemoteServer finds a
-// server's vehicle there. Taken with a Servers lock held, and nothing is taken under it.
-struct RunningServers {
-    std::mutex mutex;
-    std::map<std::wstring, std::weak_ptr<SimulatedVehicle>> byAddress;
-};
-
-RunningServers& runningServers() {
-    static auto* instance =
-        new RunningServers; // NOLINT(cppcoreguidelines-owning-memory): lives past exit
-    return *instance;
-}
 
 std::wstring roleName(uint32_t role) {
     return role == Administrator ? L"administrator" : L"operator";
@@ -91,6 +80,16 @@ ServersSettings ServersSettings::parse(const nlohmann::json& section) {
         settings.port = static_cast<uint16_t>(wholeNumber(section, "port", 0, 0, UINT16_MAX));
         settings.sovdPort =
             static_cast<uint16_t>(wholeNumber(section, "sovdPort", 0, 0, UINT16_MAX));
+        settings.maxConnections = static_cast<uint32_t>(
+            wholeNumber(section, "maxConnections", settings.maxConnections, 1, 10000));
+        settings.maxPendingCalls = static_cast<uint32_t>(
+            wholeNumber(section, "maxPendingCalls", settings.maxPendingCalls, 1, 100000));
+        settings.idleTimeoutMs = static_cast<uint32_t>(
+            wholeNumber(section, "idleTimeoutMs", settings.idleTimeoutMs, 100, 86400000));
+        settings.readTimeoutMs = static_cast<uint32_t>(
+            wholeNumber(section, "readTimeoutMs", settings.readTimeoutMs, 100, 3600000));
+        settings.maxMessageBytes = static_cast<uint32_t>(wholeNumber(
+            section, "maxMessageBytes", settings.maxMessageBytes, 1U << 20, 1U << 30));
         if (section.contains("listenAddress")) {
             settings.listenAddress = section.at("listenAddress").get<std::string>();
         }
@@ -324,23 +323,15 @@ std::wstring Servers::startServer(const std::wstring& name) {
         throw TarnApiException(BadServersArgument, L"This is not a server name",
                                L"up to 64 letters, digits, '.', '-' and '_'");
     }
-    const std::wstring address = L"kel-sim://" + server;
     const std::lock_guard lock(state_.mutex_);
     state_.readUsersLocked(); // admitted by ServersState::admit
     if (!state_.serverAddress_.empty()) {
         throw TarnApiException(ServerRunning, L"The server runs already",
                                L"it listens at " + state_.serverAddress_);
     }
-    {
-        auto& running = runningServers();
-        const std::lock_guard registry(running.mutex);
-        std::erase_if(running.byAddress, [](const auto& entry) { return entry.second.expired(); });
-        if (running.byAddress.contains(address)) {
-            throw TarnApiException(ServerRunning,
-                                   L"Another engine's server listens at this address", address);
-        }
-        running.byAddress[address] = vehicle_;
-    }
+    // Opening a socket calls nothing of the engine: safe under the lock.
+    state_.server_ = std::make_shared<Remote::RemoteServer>(vehicle_, state_.settings_);
+    const std::wstring address = state_.server_->address();
     state_.serverAddress_ = address;
     post(*vehicle_, EventKind::ServerStarted, 0, L"The server started", address);
     return address;
@@ -349,28 +340,28 @@ std::wstring Servers::startServer(const std::wstring& name) {
 void Servers::stopServer(const std::wstring& reason) {
     vehicle_->lifecycle.requireInitialized();
     std::vector<std::wstring> ended;
+    std::shared_ptr<Remote::RemoteServer> listener;
     {
         const std::lock_guard lock(state_.mutex_);
         state_.readUsersLocked(); // admitted by ServersState::admit
         if (state_.serverAddress_.empty()) {
             throw TarnApiException(ServerNotRunning, L"The server is not running");
         }
-        {
-            auto& running = runningServers();
-            const std::lock_guard registry(running.mutex);
-            running.byAddress.erase(state_.serverAddress_);
-        }
         state_.serverAddress_.clear();
+        listener = std::move(state_.server_);
         ended = endSessionsLocked([](uint64_t) { return true; });
         post(*vehicle_, EventKind::ServerStopped, static_cast<int32_t>(ended.size()),
              L"The server stopped", reason);
     }
     announce();
+    // Its connections' workers may be waiting for the lock: stopped outside it.
+    listener->stop();
 }
 
 void Servers::restartServer(int32_t endClients) {
     vehicle_->lifecycle.requireInitialized();
     std::vector<std::wstring> ended;
+    std::shared_ptr<Remote::RemoteServer> listener;
     {
         const std::lock_guard lock(state_.mutex_);
         state_.readUsersLocked(); // admitted by ServersState::admit
@@ -379,30 +370,22 @@ void Servers::restartServer(int32_t endClients) {
         }
         if (endClients != 0) {
             ended = endSessionsLocked([](uint64_t) { return true; });
+            listener = state_.server_;
         }
         post(*vehicle_, EventKind::ServerStopped, static_cast<int32_t>(ended.size()),
              L"The server stopped", L"restart");
         post(*vehicle_, EventKind::ServerStarted, 0, L"The server started", state_.serverAddress_);
     }
     announce();
+    if (listener) {
+        listener->endAll();
+    }
 }
 
 std::shared_ptr<TarnApi> Servers::connectRemoteServer(const std::wstring& address) {
     vehicle_->lifecycle.requireInitialized();
-    std::shared_ptr<SimulatedVehicle> server;
-    {
-        auto& running = runningServers();
-        const std::lock_guard registry(running.mutex);
-        const auto found = running.byAddress.find(address);
-        if (found != running.byAddress.end()) {
-            server = found->second.lock();
-        }
-    }
-    if (!server) {
-        throw TarnApiException(ServerNotRunning, L"No server listens at this address",
-                               address.empty() ? L"(empty address)" : address);
-    }
-    return connectRemoteClient(server);
+    // A broken connection is posted on this engine's vehicle.
+    return std::make_shared<RemoteEngine>(std::make_shared<Remote::RemoteClient>(address, vehicle_));
 }
 
 void Servers::disconnect() {
@@ -418,12 +401,17 @@ void Servers::disconnect() {
 void Servers::disconnectAllClients() {
     vehicle_->lifecycle.requireInitialized();
     std::vector<std::wstring> ended;
+    std::shared_ptr<Remote::RemoteServer> listener;
     {
         const std::lock_guard lock(state_.mutex_);
         state_.readUsersLocked(); // admitted by ServersState::admit
         ended = endSessionsLocked([](uint64_t) { return true; });
+        listener = state_.server_;
     }
     announce();
+    if (listener) {
+        listener->endAll();
+    }
 }
 
 bool Servers::reconnectRemoteServer(uint64_t handle) {
