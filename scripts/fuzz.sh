@@ -13,7 +13,7 @@ JOBS=${JOBS:-2}
 scripts/ensure-packages.sh clang clang-14 libclang-rt-14-dev cmake ninja-build nlohmann-json3-dev libboost-dev
 
 cmake --preset fuzz >/dev/null
-cmake --build --preset fuzz -j "$JOBS" --target dispatch_fuzz
+cmake --build --preset fuzz -j "$JOBS" --target dispatch_fuzz frame_fuzz
 
 # Seeds: every golden stream as the arguments of a few operations, for both dispatchers.
 # A seed is: dispatcher byte, operation number (u32 LE), argument bytes.
@@ -37,3 +37,22 @@ echo "== fuzzing the checked dispatchers for ${seconds} s"
 ulimit -s 1024
 build/fuzz/bin/dispatch_fuzz -max_total_time="$seconds" -max_len=262144 -rss_limit_mb=2048 -timeout=10 \
     -print_final_stats=1 "$corpus" 2>&1 | tail -n 25
+
+# The server protocol's frame parser: seeded with a handshake, a call and a result split
+# into continuation parts. Same stack as above.
+frames=build/fuzz/frames-corpus
+mkdir -p "$frames"
+python3 - "$frames" <<'PY'
+import pathlib, struct, sys
+corpus = pathlib.Path(sys.argv[1])
+def frame(kind, payload, flags=0, op=0, call=0):
+    return struct.pack("<IBBHQ", len(payload), kind, flags, op, call) + payload
+hello = struct.pack("<IH", 0x574C454B, 1)
+(corpus / "hello").write_bytes(bytes([255]) + frame(1, hello))
+(corpus / "call").write_bytes(bytes([7]) + frame(1, hello) + frame(3, b"", op=49, call=1))
+error = bytes([0, 1]) + struct.pack("<i", 1301) + struct.pack("<I", 3) + b"end" + struct.pack("<I", 0)
+(corpus / "parts").write_bytes(bytes([0]) + frame(4, error[:5], flags=1, call=2) + frame(4, error[5:], call=2))
+PY
+echo "== fuzzing the server protocol's frames for ${seconds} s"
+build/fuzz/bin/frame_fuzz -max_total_time="$seconds" -max_len=65536 -rss_limit_mb=2048 -timeout=10 \
+    -print_final_stats=1 "$frames" 2>&1 | tail -n 12

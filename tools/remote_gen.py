@@ -19,6 +19,8 @@ NS = "Varno::Kel_cpp::Reference"
 LOCAL = {
     "reconnectRemoteServer": "return client_->reconnect({position}, {args});",
     "disconnect": "client_->disconnect({position});",
+    # The server's handle of the socket, from the handshake: known after the end too.
+    "getHandle": "return client_->handle();",
 }
 
 

@@ -769,7 +769,7 @@ std::shared_ptr<ProcessInfo> RemoteEngine::getProcessInfo() {
 std::shared_ptr<TransmissionInfo> RemoteEngine::getTransmissionInfo() {
     return client_->call<std::shared_ptr<TransmissionInfo>>(253);
 }
-uint64_t RemoteEngine::getHandle() { return client_->call<uint64_t>(254); }
+uint64_t RemoteEngine::getHandle() { return client_->handle(); }
 std::shared_ptr<MoxConfig> RemoteEngine::getMoxConfiguration() {
     return client_->call<std::shared_ptr<MoxConfig>>(255);
 }

@@ -37,8 +37,8 @@ struct Header {
 };
 
 struct Limits {
-    uint32_t maxPayload = 1U << 20;   // one frame
-    uint32_t maxMessage = 64U << 20;  // a payload in continuation parts, all told
+    uint32_t maxPayload = 1U << 20;  // one frame
+    uint32_t maxMessage = 64U << 20; // a payload in continuation parts, all told
 };
 
 // Reads a header from exactly headerSize bytes; empty when it is not one this version

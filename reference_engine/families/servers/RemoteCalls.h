@@ -105,8 +105,8 @@ void serve(TarnApi& api, kel::OTXStream& in, kel::OTXStream& out,
     if constexpr (std::is_void_v<typename S::Result>) {
         std::apply([&](auto&... argument) { (api.*Member)(argument...); }, arguments);
     } else {
-        out.write(std::apply([&](auto&... argument) { return (api.*Member)(argument...); },
-                             arguments));
+        out.write(
+            std::apply([&](auto&... argument) { return (api.*Member)(argument...); }, arguments));
     }
 }
 
@@ -137,6 +137,5 @@ void serveAsync(TarnApi& api, kel::OTXStream& in, kel::OTXStream& out,
     }
     out.write(id);
 }
-
 
 } // namespace Varno::Kel_cpp::Reference::Remote

@@ -8,8 +8,8 @@
 
 #include <array>
 #include <condition_variable>
-#include <cstring>
 #include <cstdio>
+#include <cstring>
 #include <deque>
 #include <map>
 #include <optional>
@@ -85,8 +85,8 @@ public:
         boost::system::error_code error;
         const auto ip = asio::ip::make_address(endpoint.host, error);
         if (error || !ip.is_loopback()) {
-            throw TarnApiException(NotLoopback, L"Remote connections go to the loopback interface only",
-                                   address);
+            throw TarnApiException(
+                NotLoopback, L"Remote connections go to the loopback interface only", address);
         }
         socket_.connect(tcp::endpoint(ip, endpoint.port), error);
         if (error) {
@@ -103,6 +103,9 @@ public:
         }
         if (welcome.header.kind == Wire::Kind::Result) {
             throw answerError(welcome.payload);
+        }
+        if (welcome.header.kind == Wire::Kind::Goodbye) {
+            throw ended(L"the server ended it before it began");
         }
         if (welcome.header.kind != Wire::Kind::Welcome || welcome.payload.size() != 14 ||
             !Wire::acceptsHello({welcome.payload.begin(), welcome.payload.begin() + 6})) {
@@ -402,8 +405,7 @@ private:
 };
 
 RemoteClient::RemoteClient(const std::wstring& address, std::weak_ptr<SimulatedVehicle> local)
-    : address_(address), local_(std::move(local)),
-      link_(std::make_shared<Link>(address_, local_)) {
+    : address_(address), local_(std::move(local)), link_(std::make_shared<Link>(address_, local_)) {
     handles_.insert(link_->handle());
 }
 
@@ -437,8 +439,7 @@ bool RemoteClient::reconnect(uint16_t position, uint64_t handle) {
     }
     if (link_ && link_->alive()) {
         try {
-            return link_->roundTrip(position, reconnectArguments(link_->handle()), {})
-                       .at(0) != 0;
+            return link_->roundTrip(position, reconnectArguments(link_->handle()), {}).at(0) != 0;
         } catch (const TarnApiException& e) {
             if (e.code != ConnectionEnded) {
                 throw;
@@ -449,7 +450,8 @@ bool RemoteClient::reconnect(uint16_t position, uint64_t handle) {
     try {
         renewed = std::make_shared<Link>(address_, local_);
     } catch (const TarnApiException& e) {
-        if (e.code == ServerNotRunning) {
+        // Nothing listens, or the server ended the new socket at once: not now.
+        if (e.code == ServerNotRunning || e.code == ConnectionEnded) {
             return false;
         }
         throw;
@@ -463,6 +465,11 @@ std::vector<uint8_t> RemoteClient::reconnectArguments(uint64_t handle) {
     Writer out;
     out.write(handle);
     return bytesOf(out);
+}
+
+uint64_t RemoteClient::handle() {
+    const std::lock_guard lock(mutex_);
+    return link_->handle();
 }
 
 void RemoteClient::disconnect(uint16_t position) {

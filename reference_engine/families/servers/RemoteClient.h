@@ -97,6 +97,7 @@ public:
     // Local handling (the generated proxy sends these here).
     bool reconnect(uint16_t position, uint64_t handle);
     void disconnect(uint16_t position);
+    uint64_t handle();
 
 private:
     template <class T>

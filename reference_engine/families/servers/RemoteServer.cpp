@@ -75,22 +75,20 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
           assembler(this->core->limits) {}
 
     // ---- the I/O thread ----
-    void start() {
-        read();
-    }
+    void start() { read(); }
 
     void read() {
         armTimer();
-        socket.async_read_some(asio::buffer(buffer),
-                               [self = shared_from_this()](boost::system::error_code error,
-                                                           std::size_t count) {
-                                   self->received(error, count);
-                               });
+        socket.async_read_some(
+            asio::buffer(buffer),
+            [self = shared_from_this()](boost::system::error_code error, std::size_t count) {
+                self->received(error, count);
+            });
     }
 
     void armTimer() {
         const uint32_t ms = assembler.midMessage() || !greeted ? core->settings.readTimeoutMs
-                                                                : core->settings.idleTimeoutMs;
+                                                               : core->settings.idleTimeoutMs;
         timer.expires_after(std::chrono::milliseconds(ms));
         timer.async_wait([weak = weak_from_this()](boost::system::error_code error) {
             const auto self = weak.lock();
@@ -114,7 +112,8 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
         while (offset < count && !closing) {
             std::size_t used = 0;
             Wire::Assembler::Message message;
-            const auto status = assembler.feed(buffer.data() + offset, count - offset, used, message);
+            const auto status =
+                assembler.feed(buffer.data() + offset, count - offset, used, message);
             offset += used;
             if (status == Wire::Assembler::Status::Malformed) {
                 end(Ending::Broken);
@@ -220,20 +219,21 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
             return;
         }
         writing = true;
-        asio::async_write(socket, asio::buffer(writes.front()),
-                          [self = shared_from_this()](boost::system::error_code error, std::size_t) {
-                              self->writes.pop_front();
-                              if (error) {
-                                  self->writes.clear();
-                                  self->writing = false;
-                                  self->end(Ending::Broken);
-                                  if (self->closeAfterWrites) {
-                                      self->closeSocket();
-                                  }
-                                  return;
-                              }
-                              self->writeNext();
-                          });
+        asio::async_write(
+            socket, asio::buffer(writes.front()),
+            [self = shared_from_this()](boost::system::error_code error, std::size_t) {
+                self->writes.pop_front();
+                if (error) {
+                    self->writes.clear();
+                    self->writing = false;
+                    self->end(Ending::Broken);
+                    if (self->closeAfterWrites) {
+                        self->closeSocket();
+                    }
+                    return;
+                }
+                self->writeNext();
+            });
     }
 
     void answer(const Wire::Header& call, const std::vector<uint8_t>& payload) {
@@ -344,10 +344,11 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
         } catch (const TarnApiException& e) {
             return errorAnswer(e);
         } catch (const kel::MalformedInput& e) {
-            return errorAnswer({ProtocolError, L"The call's arguments are malformed",
-                                fromUtf8(e.what())});
+            return errorAnswer(
+                {ProtocolError, L"The call's arguments are malformed", fromUtf8(e.what())});
         } catch (const std::exception& e) {
-            return errorAnswer({ProtocolError, L"The call failed on the server", fromUtf8(e.what())});
+            return errorAnswer(
+                {ProtocolError, L"The call failed on the server", fromUtf8(e.what())});
         }
     }
 
@@ -400,9 +401,9 @@ void accept(const std::shared_ptr<Core>& core) {
             // The worker owns the connection's engine object and ends with it.
             std::thread([connection] { connection->work(); }).detach();
             if (core->connections.size() >= core->settings.maxConnections) {
-                connection->refuse({ServerBusy, L"The server takes no more connections",
-                                    std::to_wstring(core->settings.maxConnections) +
-                                        L" are connected"});
+                connection->refuse(
+                    {ServerBusy, L"The server takes no more connections",
+                     std::to_wstring(core->settings.maxConnections) + L" are connected"});
             } else {
                 core->connections.insert(connection);
                 connection->start();
@@ -420,6 +421,13 @@ RemoteServer::RemoteServer(std::weak_ptr<SimulatedVehicle> vehicle, const Server
     boost::system::error_code error;
     const tcp::endpoint endpoint(asio::ip::make_address(host), settings.port);
     core_->acceptor.open(endpoint.protocol(), error);
+#if !defined(_WIN32)
+    // A port of a server just stopped is free again at once (on Windows the option would
+    // let another program take a port in use instead).
+    if (!error) {
+        core_->acceptor.set_option(tcp::acceptor::reuse_address(true), error);
+    }
+#endif
     if (!error) {
         core_->acceptor.bind(endpoint, error);
     }
@@ -431,10 +439,12 @@ RemoteServer::RemoteServer(std::weak_ptr<SimulatedVehicle> vehicle, const Server
                                fromUtf8(host) + L":" + std::to_wstring(settings.port) + L": " +
                                    fromUtf8(error.message()));
     }
-    const uint16_t port = core_->acceptor.local_endpoint().port();
-    address_ = L"kel://" + (host.find(':') != std::string::npos ? L"[" + fromUtf8(host) + L"]"
-                                                                 : fromUtf8(host)) +
-               L":" + std::to_wstring(port);
+    port_ = core_->acceptor.local_endpoint().port();
+    const uint16_t port = port_;
+    address_ =
+        L"kel://" +
+        (host.find(':') != std::string::npos ? L"[" + fromUtf8(host) + L"]" : fromUtf8(host)) +
+        L":" + std::to_wstring(port);
     accept(core_);
     // Detached: it may outlive this object until its last socket is closed.
     std::thread([core = core_] { core->io.run(); }).detach();

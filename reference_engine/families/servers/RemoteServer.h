@@ -29,6 +29,7 @@ public:
 
     // "kel://127.0.0.1:<port>", the port the system gave.
     const std::wstring& address() const { return address_; }
+    uint16_t port() const { return port_; }
 
     // The server ends every connection: each client hears a Goodbye, and its socket
     // closes. stop() also stops listening; it returns once nothing more connects.
@@ -38,6 +39,7 @@ public:
 private:
     std::shared_ptr<Core> core_;
     std::wstring address_;
+    uint16_t port_ = 0;
 };
 
 } // namespace Remote

@@ -9,6 +9,8 @@
 #include <cstdint>
 #include <functional>
 #include <optional>
+#include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -41,7 +43,8 @@ public:
     // client-first-message: "n,,n=<user>,r=<nonce>".
     std::string first();
     // client-final-message, with the proof, from the server-first-message. Refuses fewer
-    // than 4096 iterations and a server nonce that does not extend the client's.
+    // than 1000 iterations (the engine's least passwordIterations) or more than 10000000,
+    // and a server nonce that does not extend the client's.
     std::string final(std::string_view serverFirst);
     // True when the server-final-message carries the server's signature ("v="), proving
     // the server knows the keys; false for "e=" or a wrong signature.

@@ -88,8 +88,8 @@ ServersSettings ServersSettings::parse(const nlohmann::json& section) {
             wholeNumber(section, "idleTimeoutMs", settings.idleTimeoutMs, 100, 86400000));
         settings.readTimeoutMs = static_cast<uint32_t>(
             wholeNumber(section, "readTimeoutMs", settings.readTimeoutMs, 100, 3600000));
-        settings.maxMessageBytes = static_cast<uint32_t>(wholeNumber(
-            section, "maxMessageBytes", settings.maxMessageBytes, 1U << 20, 1U << 30));
+        settings.maxMessageBytes = static_cast<uint32_t>(
+            wholeNumber(section, "maxMessageBytes", settings.maxMessageBytes, 1U << 20, 1U << 30));
         if (section.contains("listenAddress")) {
             settings.listenAddress = section.at("listenAddress").get<std::string>();
         }
@@ -330,7 +330,23 @@ std::wstring Servers::startServer(const std::wstring& name) {
                                L"it listens at " + state_.serverAddress_);
     }
     // Opening a socket calls nothing of the engine: safe under the lock.
-    state_.server_ = std::make_shared<Remote::RemoteServer>(vehicle_, state_.settings_);
+    // A server started again listens where it did, so that its clients reconnect.
+    auto settings = state_.settings_;
+    if (settings.port == 0 && state_.lastPort_ != 0) {
+        settings.port = state_.lastPort_;
+        try {
+            state_.server_ = std::make_shared<Remote::RemoteServer>(vehicle_, settings);
+        } catch (const TarnApiException& e) {
+            if (e.code != ServerRunning) {
+                throw;
+            }
+            settings.port = 0; // taken meanwhile
+        }
+    }
+    if (!state_.server_) {
+        state_.server_ = std::make_shared<Remote::RemoteServer>(vehicle_, settings);
+    }
+    state_.lastPort_ = state_.server_->port();
     const std::wstring address = state_.server_->address();
     state_.serverAddress_ = address;
     post(*vehicle_, EventKind::ServerStarted, 0, L"The server started", address);
@@ -385,7 +401,8 @@ void Servers::restartServer(int32_t endClients) {
 std::shared_ptr<TarnApi> Servers::connectRemoteServer(const std::wstring& address) {
     vehicle_->lifecycle.requireInitialized();
     // A broken connection is posted on this engine's vehicle.
-    return std::make_shared<RemoteEngine>(std::make_shared<Remote::RemoteClient>(address, vehicle_));
+    return std::make_shared<RemoteEngine>(
+        std::make_shared<Remote::RemoteClient>(address, vehicle_));
 }
 
 void Servers::disconnect() {

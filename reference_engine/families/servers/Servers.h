@@ -49,10 +49,10 @@ struct ServersSettings {
     uint16_t sovdPort = 0; // the SOVD server; 0 lets the system choose
     // The engine's server's bounds (reference_engine/README.md, "The server on loopback").
     uint32_t maxConnections = 64;
-    uint32_t maxPendingCalls = 64;         // per connection, received and not yet answered
-    uint32_t idleTimeoutMs = 600000;       // no message from a client: the server ends it
-    uint32_t readTimeoutMs = 30000;        // a message begun must be whole within this
-    uint32_t maxMessageBytes = 64U << 20;  // a call's arguments or result, all parts told
+    uint32_t maxPendingCalls = 64;        // per connection, received and not yet answered
+    uint32_t idleTimeoutMs = 600000;      // no message from a client: the server ends it
+    uint32_t readTimeoutMs = 30000;       // a message begun must be whole within this
+    uint32_t maxMessageBytes = 64U << 20; // a call's arguments or result, all parts told
 
     // Throws TarnApiException BadVehicleDescription.
     static ServersSettings parse(const nlohmann::json& section);
@@ -118,11 +118,12 @@ private:
     std::filesystem::path usersFile_;
     std::map<std::wstring, User> users_;
     bool userManagement_ = false;
-    std::map<uint64_t, Session> sessions_;      // by engine handle
-    std::map<std::wstring, Failures> failures_; // by user name, known or not
-    std::wstring serverAddress_;                // empty while the server is stopped
+    std::map<uint64_t, Session> sessions_;         // by engine handle
+    std::map<std::wstring, Failures> failures_;    // by user name, known or not
+    std::wstring serverAddress_;                   // empty while the server is stopped
     std::shared_ptr<Remote::RemoteServer> server_; // its listener while it runs
-    std::wstring sovdAddress_;                  // empty while the SOVD server is stopped
+    uint16_t lastPort_ = 0;    // a server started again takes its port again, when free
+    std::wstring sovdAddress_; // empty while the SOVD server is stopped
     // Connections ended (false) and renewed (true), in order, for the handlers.
     std::deque<std::pair<std::wstring, bool>> announcements_;
     bool announcing_ = false;
