@@ -21,6 +21,8 @@ LOCAL = {
     "disconnect": "client_->disconnect({position});",
     # The server's handle of the socket, from the handshake: known after the end too.
     "getHandle": "return client_->handle();",
+    # SCRAM-SHA-256 in Login frames: the password does not leave the client.
+    "logIn": "client_->logIn({args});",
 }
 
 

@@ -729,9 +729,7 @@ uint64_t RemoteEngine::clearSpecificDtcsAsync(const std::wstring& target,
 }
 void RemoteEngine::startSOVDServer() { return client_->call<void>(237); }
 void RemoteEngine::stopSOVDServer() { return client_->call<void>(238); }
-void RemoteEngine::logIn(std::shared_ptr<LogInOutConfig> config) {
-    return client_->call<void>(239, config);
-}
+void RemoteEngine::logIn(std::shared_ptr<LogInOutConfig> config) { client_->logIn(config); }
 std::shared_ptr<VehicleUpdateConfig>
 RemoteEngine::createVehicleUpdateConfig(const std::vector<std::wstring>& targets) {
     return client_->call<std::shared_ptr<VehicleUpdateConfig>>(240, targets);

@@ -27,7 +27,7 @@ std::optional<Header> readHeader(const uint8_t* bytes, const Limits& limits) {
     header.flags = bytes[5];
     header.operation = load<uint16_t>(bytes + 6);
     header.callId = load<uint64_t>(bytes + 8);
-    if (kind < static_cast<uint8_t>(Kind::Hello) || kind > static_cast<uint8_t>(Kind::Goodbye) ||
+    if (kind < static_cast<uint8_t>(Kind::Hello) || kind > static_cast<uint8_t>(Kind::Login) ||
         (header.flags & ~More) != 0 || header.length > limits.maxPayload) {
         return std::nullopt;
     }

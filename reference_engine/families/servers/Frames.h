@@ -22,6 +22,7 @@ enum class Kind : uint8_t {
     Result = 4,  // server -> client: status byte, then the result or the error record
     Report = 5,  // server -> client: one report of an asynchronous call
     Goodbye = 6, // either way: the sender ends the connection cleanly
+    Login = 7,   // client -> server: a SCRAM-SHA-256 message (operation 1 first, 2 final)
 };
 
 enum Flags : uint8_t {

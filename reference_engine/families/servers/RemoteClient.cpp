@@ -4,6 +4,7 @@
 #include "ErrorCodes.h"
 #include "Frames.h"
 #include "Net.h"
+#include "Scram.h"
 #include "SimulatedVehicle.h"
 
 #include <array>
@@ -72,8 +73,16 @@ std::shared_ptr<KelError> errorRecord(const TarnApiException& e) {
 
 // One socket and its reader thread. Callers write their frames under writeMutex_ and
 // wait for their answers; the reader hands each answer to its caller by call id.
-class Link {
+class Link : public std::enable_shared_from_this<Link> {
 public:
+    // Connects and starts the reader, which keeps the link until its socket ends.
+    static std::shared_ptr<Link> open(const std::wstring& address,
+                                      std::weak_ptr<SimulatedVehicle> local) {
+        auto link = std::make_shared<Link>(address, std::move(local));
+        std::thread([link] { link->readLoop(); }).detach();
+        return link;
+    }
+
     Link(const std::wstring& address, std::weak_ptr<SimulatedVehicle> local)
         : address_(address), local_(std::move(local)), socket_(io_) {
         Endpoint endpoint;
@@ -112,15 +121,11 @@ public:
             throw TarnApiException(ProtocolError, L"The server speaks another protocol", address);
         }
         std::memcpy(&handle_, welcome.payload.data() + 6, 8);
-        reader_ = std::thread([this] { readLoop(); });
     }
 
     Link(const Link&) = delete;
     Link& operator=(const Link&) = delete;
-    ~Link() {
-        close(true);
-        reader_.join();
-    }
+    ~Link() = default;
 
     uint64_t handle() const { return handle_; }
 
@@ -130,7 +135,8 @@ public:
     }
 
     std::vector<uint8_t> roundTrip(uint16_t operation, const std::vector<uint8_t>& arguments,
-                                   std::shared_ptr<AsyncReceiver> async) {
+                                   std::shared_ptr<AsyncReceiver> async,
+                                   Wire::Kind kind = Wire::Kind::Call) {
         uint64_t id = 0;
         {
             const std::lock_guard lock(mutex_);
@@ -141,7 +147,7 @@ public:
             calls_[id].async = std::move(async);
         }
         try {
-            send(Wire::Kind::Call, operation, id, arguments);
+            send(kind, operation, id, arguments);
         } catch (...) {
             const std::lock_guard lock(mutex_);
             calls_.erase(id);
@@ -400,16 +406,15 @@ private:
     std::map<uint64_t, Pending> calls_;
     std::map<uint64_t, std::shared_ptr<AsyncReceiver>> asyncCalls_;
     std::map<uint64_t, std::deque<std::vector<uint8_t>>> early_;
-
-    std::thread reader_;
 };
 
 RemoteClient::RemoteClient(const std::wstring& address, std::weak_ptr<SimulatedVehicle> local)
-    : address_(address), local_(std::move(local)), link_(std::make_shared<Link>(address_, local_)) {
+    : address_(address), local_(std::move(local)), link_(Link::open(address_, local_)) {
     handles_.insert(link_->handle());
 }
 
-RemoteClient::~RemoteClient() = default;
+// The reader goes once the server has closed the socket after the goodbye.
+RemoteClient::~RemoteClient() { link_->close(true); }
 
 std::shared_ptr<Link> RemoteClient::current() {
     const std::lock_guard lock(mutex_);
@@ -448,7 +453,7 @@ bool RemoteClient::reconnect(uint16_t position, uint64_t handle) {
     }
     std::shared_ptr<Link> renewed;
     try {
-        renewed = std::make_shared<Link>(address_, local_);
+        renewed = Link::open(address_, local_);
     } catch (const TarnApiException& e) {
         // Nothing listens, or the server ended the new socket at once: not now.
         if (e.code == ServerNotRunning || e.code == ConnectionEnded) {
@@ -458,6 +463,7 @@ bool RemoteClient::reconnect(uint16_t position, uint64_t handle) {
     }
     handles_.insert(renewed->handle());
     std::swap(link_, renewed);
+    renewed->close(true); // ended already; its reader lets go of it
     return true;
 }
 
@@ -470,6 +476,30 @@ std::vector<uint8_t> RemoteClient::reconnectArguments(uint64_t handle) {
 uint64_t RemoteClient::handle() {
     const std::lock_guard lock(mutex_);
     return link_->handle();
+}
+
+void RemoteClient::logIn(const std::shared_ptr<LogInOutConfig>& config) {
+    if (!config || config->user.empty()) {
+        throw TarnApiException(BadServersArgument, L"A login needs a user name");
+    }
+    const auto link = current();
+    const auto step = [&](uint16_t number, const std::string& text) {
+        const auto answer =
+            link->roundTrip(number, {text.begin(), text.end()}, nullptr, Wire::Kind::Login);
+        return std::string(answer.begin(), answer.end());
+    };
+    try {
+        Scram::Client scram(config->user, config->password);
+        const std::string serverFirst = step(1, scram.first());
+        const std::string serverFinal = step(2, scram.final(serverFirst));
+        if (!scram.verify(serverFinal)) {
+            throw TarnApiException(ProtocolError,
+                                   L"The server did not prove that it knows the user", address_);
+        }
+    } catch (const Scram::Malformed& e) {
+        throw TarnApiException(ProtocolError, L"The server's login message is not acceptable",
+                               fromUtf8(e.what()));
+    }
 }
 
 void RemoteClient::disconnect(uint16_t position) {

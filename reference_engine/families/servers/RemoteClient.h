@@ -98,6 +98,8 @@ public:
     bool reconnect(uint16_t position, uint64_t handle);
     void disconnect(uint16_t position);
     uint64_t handle();
+    // SCRAM-SHA-256 in Login frames: the password stays here.
+    void logIn(const std::shared_ptr<LogInOutConfig>& config);
 
 private:
     template <class T>

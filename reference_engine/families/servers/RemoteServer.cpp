@@ -6,6 +6,7 @@
 #include "Frames.h"
 #include "Net.h"
 #include "RemoteCalls.h"
+#include "Scram.h"
 #include "SimulatedVehicle.h"
 
 #include <algorithm>
@@ -16,6 +17,7 @@
 #include <deque>
 #include <future>
 #include <map>
+#include <optional>
 #include <set>
 #include <thread>
 #include <variant>
@@ -145,6 +147,7 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
         }
         switch (message.header.kind) {
         case Wire::Kind::Call:
+        case Wire::Kind::Login:
             if (pending.load() >= core->settings.maxPendingCalls) {
                 answer(message.header,
                        errorAnswer({ServerBusy, L"Too many calls of this connection are pending",
@@ -244,9 +247,13 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
         write(Wire::frames(header, payload.data(), payload.size(), core->limits));
     }
 
-    // From any thread.
+    // From any thread. A connection already gone has nothing left to write.
     void post(std::function<void(Connection&)> work) {
-        asio::post(core->io, [self = shared_from_this(), work = std::move(work)] { work(*self); });
+        asio::post(core->io, [weak = weak_from_this(), work = std::move(work)] {
+            if (const auto self = weak.lock()) {
+                work(*self);
+            }
+        });
     }
 
     void report(uint16_t operation, uint64_t callId, std::vector<uint8_t> payload) override {
@@ -279,6 +286,8 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
 
     void work() {
         std::shared_ptr<TarnApi> engine;
+        std::optional<Scram::Server> scram; // a login under way
+        uint32_t attempt = 0;
         for (;;) {
             Work next;
             {
@@ -296,7 +305,9 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
                 engine = welcome();
                 continue;
             }
-            auto payload = call(engine, message);
+            auto payload = message.header.kind == Wire::Kind::Login
+                               ? logIn(engine, message, scram, attempt)
+                               : call(engine, message);
             --pending;
             post([header = message.header, payload = std::move(payload)](Connection& self) {
                 self.answer(header, payload);
@@ -349,6 +360,47 @@ struct Connection final : Reporter, std::enable_shared_from_this<Connection> {
         } catch (const std::exception& e) {
             return errorAnswer(
                 {ProtocolError, L"The call failed on the server", fromUtf8(e.what())});
+        }
+    }
+
+    // SCRAM-SHA-256: the password never travels, and a proof is good for its own
+    // exchange only (the server's nonce is new each time).
+    std::vector<uint8_t> logIn(const std::shared_ptr<TarnApi>& engine,
+                               const Wire::Assembler::Message& message,
+                               std::optional<Scram::Server>& scram, uint32_t& attempt) {
+        const std::string text(message.payload.begin(), message.payload.end());
+        try {
+            const auto vehicle = core->vehicle.lock();
+            if (!engine || !vehicle) {
+                throw TarnApiException(ConnectionEnded, L"This remote connection has ended");
+            }
+            vehicle->lifecycle.requireInitialized();
+            std::string answer;
+            if (message.header.operation == 1) {
+                scram.emplace();
+                answer = scram->first(text, [&](const std::wstring& user) {
+                    return vehicle->servers.scramKeys(user, attempt);
+                });
+            } else if (message.header.operation == 2 && scram) {
+                auto proved = scram->final(text);
+                const std::wstring user = scram->user();
+                scram.reset();
+                vehicle->servers.scramOutcome(*vehicle, handle.load(), user, proved.has_value(),
+                                              attempt);
+                answer = std::move(*proved);
+            } else {
+                throw TarnApiException(ProtocolError, L"A login message out of turn");
+            }
+            Writer out;
+            out.write(uint8_t{1});
+            out.put(answer.data(), answer.size());
+            return bytesOf(out);
+        } catch (const TarnApiException& e) {
+            scram.reset();
+            return errorAnswer(e);
+        } catch (const Scram::Malformed& e) {
+            scram.reset();
+            return errorAnswer({ProtocolError, L"A malformed login message", fromUtf8(e.what())});
         }
     }
 

@@ -630,6 +630,37 @@ void Servers::logIn(std::shared_ptr<LogInOutConfig> config) {
     throw TarnApiException(LoginFailed, L"The user name or the password is wrong", name);
 }
 
+std::optional<Scram::Keys> ServersState::scramKeys(const std::wstring& user, uint32_t& attempt) {
+    const std::lock_guard lock(mutex_);
+    readUsersLocked();
+    attempt = countAttemptLocked(user, loginClock());
+    const auto found = users_.find(user);
+    if (found == users_.end()) {
+        return std::nullopt;
+    }
+    return Scram::Keys::fromPasswordHash(found->second.password);
+}
+
+void ServersState::scramOutcome(SimulatedVehicle& vehicle, uint64_t handle,
+                                const std::wstring& user, bool proved, uint32_t attempt) {
+    const std::lock_guard lock(mutex_);
+    const auto known = users_.find(user);
+    if (!proved || known == users_.end()) {
+        post(vehicle, EventKind::LoginFailed, static_cast<int32_t>(attempt), L"A login failed",
+             user);
+        throw TarnApiException(LoginFailed, L"The user name or the password is wrong", user);
+    }
+    failures_.erase(user);
+    auto& session = sessions_[handle];
+    if (session.ended) {
+        throw TarnApiException(ConnectionEnded, L"This remote connection has ended",
+                               L"reconnectRemoteServer renews it while the server runs");
+    }
+    session.user = user;
+    post(vehicle, EventKind::UserLoggedIn, static_cast<int32_t>(known->second.role),
+         L"A user logged in", user);
+}
+
 uint32_t ServersState::countAttemptLocked(const std::wstring& name,
                                           std::chrono::steady_clock::time_point now) {
     auto found = failures_.find(name);

@@ -4,6 +4,7 @@
 
 #include "Families.h"
 #include "PasswordHash.h"
+#include "Scram.h"
 
 #include <nlohmann/json.hpp>
 
@@ -14,6 +15,7 @@
 #include <map>
 #include <memory>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -84,6 +86,14 @@ public:
     void connectionGone(SimulatedVehicle& vehicle, const std::wstring& client);
     // Announces the queued ends and renewals, outside the lock (see Servers.cpp).
     void announce(SimulatedVehicle& vehicle);
+
+    // A remote connection's login by SCRAM-SHA-256 (RemoteServer.cpp), with the throttle
+    // and events of logIn: the keys of `user` (none for an unknown name), counted as an
+    // attempt first (throws LoginThrottled); then the exchange's outcome, which throws
+    // LoginFailed for a wrong proof and ConnectionEnded for a session ended meanwhile.
+    std::optional<Scram::Keys> scramKeys(const std::wstring& user, uint32_t& attempt);
+    void scramOutcome(SimulatedVehicle& vehicle, uint64_t handle, const std::wstring& user,
+                      bool proved, uint32_t attempt);
 
 private:
     friend class Servers;
