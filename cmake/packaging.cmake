@@ -71,6 +71,13 @@ install(TARGETS kel_cpp
     RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT engine
     LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT engine
     ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT engine)
+# The simulated vehicle as a server process of its own; installed in bin, it finds the engine
+# in the library folder.
+if(NOT WIN32)
+    file(RELATIVE_PATH _kel_lib_from_bin ${_kel_root}/${CMAKE_INSTALL_BINDIR} ${_kel_root}/${CMAKE_INSTALL_LIBDIR})
+    set_target_properties(kel-sim-server PROPERTIES INSTALL_RPATH "$ORIGIN;$ORIGIN/${_kel_lib_from_bin}")
+endif()
+install(TARGETS kel-sim-server RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT engine)
 install(FILES ${PROJECT_SOURCE_DIR}/include/kel_c.h ${PROJECT_SOURCE_DIR}/include/kel_c_errors.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 install(FILES ${PROJECT_SOURCE_DIR}/reference_engine/include/kel_sim.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}
     COMPONENT engine)

@@ -29,7 +29,7 @@ if(NOT CMAKE_CROSSCOMPILING AND KEL_SANITIZER STREQUAL "")
     add_test(NAME python COMMAND ${Python3_EXECUTABLE} -m unittest discover -s kel/tests -t .
         WORKING_DIRECTORY ${PROJECT_SOURCE_DIR})
     set_tests_properties(python PROPERTIES LABELS python TIMEOUT 300
-        ENVIRONMENT "KEL_C_LIBRARY=$<TARGET_FILE:kel_c>;PYTHONDONTWRITEBYTECODE=1")
+        ENVIRONMENT "KEL_C_LIBRARY=$<TARGET_FILE:kel_c>;KEL_SIM_SERVER=$<TARGET_FILE:kel-sim-server>;PYTHONDONTWRITEBYTECODE=1")
 
     # mypy --strict, with whichever interpreter has it (Debian's python3-mypy serves
     # /usr/bin/python3, which may not be the first python3 on PATH).

@@ -5,13 +5,16 @@ NO_COLOR set. A script can trust the exit code (EXIT_CODES, also in --help): 0 w
 target answered, 3 when some target answered with an error or a negative response (the
 data is printed all the same), 1 when the call itself failed (the engine's code and
 message on stderr; also a library that is missing or is not kel_c, or an operation this
-build does not offer), 2 for a wrong command line."""
+build does not offer), 2 for a wrong command line. With --connect ADDRESS (before the
+command) every command runs on the engine behind that server, logged in as --user NAME
+with the password from $KEL_PASSWORD or asked for; never from the command line."""
 
 from __future__ import annotations
 
 import argparse
 import dataclasses
 import enum
+import getpass
 import json
 import os
 import re
@@ -26,6 +29,9 @@ from .generated import records
 from .generated.enums import DtcStatus, EventKind
 
 OK, FAILED, USAGE, PARTLY = 0, 1, 2, 3
+# Where --user finds its password: never on the command line, where other users of the
+# machine and the shell's history see it.
+PASSWORD_VARIABLE = "KEL_PASSWORD"
 EXIT_CODES = """exit codes:
   0  every target answered
   3  some target answered with an error or a negative response (the data is still printed)
@@ -257,7 +263,8 @@ def cmd_events(engine: Engine, args: argparse.Namespace, o: Output) -> int:
     # The channel opens before the engine starts, so its start shows too.
     style = Style(o.out)
     with engine.events() as channel:
-        engine.initialize()
+        if not args.connect:  # a remote engine is the server's, started there
+            engine.initialize()
         events = channel.follow(timeout=args.seconds) if args.follow else iter(channel.poll())
         if not o.as_json:
             o.out.write(style(_event_line("kind", "name", "code", "text", "detail"), BOLD) + "\n")
@@ -339,6 +346,10 @@ def parser() -> argparse.ArgumentParser:
     p = options(argparse.ArgumentParser(prog="kel", description="The kel_c diagnostics engine from the command line.",
                                         epilog=EXIT_CODES, formatter_class=argparse.RawDescriptionHelpFormatter), True)
     p.add_argument("--version", action=_Version)
+    p.add_argument("--connect", metavar="ADDRESS",
+                   help="run the command on the engine whose server listens at ADDRESS (kel://127.0.0.1:7400)")
+    p.add_argument("--user", metavar="NAME", help=f"with --connect: log in as NAME; the password comes from "
+                                                  f"${PASSWORD_VARIABLE}, else it is asked for")
     common = options(argparse.ArgumentParser(add_help=False), False)
     commands = p.add_subparsers(dest="command", required=True)
 
@@ -381,10 +392,25 @@ def parser() -> argparse.ArgumentParser:
     return p
 
 
+def _engine(args: argparse.Namespace) -> Engine:
+    """The local engine, or with --connect the remote one, logged in as --user."""
+    if not args.connect:
+        return Engine(library=args.library, initialize=getattr(args, "initialize", True))
+    password = None
+    if args.user is not None:
+        password = os.environ.get(PASSWORD_VARIABLE)
+        if password is None:
+            password = getpass.getpass(f"password of {args.user} at {args.connect}: ")
+    return Engine.connect(args.connect, args.user, password, library=args.library)
+
+
 def main(argv: Optional[Sequence[str]] = None, out: TextIO = sys.stdout) -> int:
-    args = parser().parse_args(argv)
+    p = parser()
+    args = p.parse_args(argv)
+    if args.user is not None and not args.connect:
+        p.error("--user logs in to a server: give --connect ADDRESS too")
     try:
-        with Engine(library=args.library, initialize=getattr(args, "initialize", True)) as engine:
+        with _engine(args) as engine:
             code: int = args.run(engine, args, Output(args.json, out))
             return code
     except EngineError as e:

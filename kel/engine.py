@@ -72,6 +72,13 @@ class Engine(Operations):
         # gives it back also when the caller forgets release().
         self._release = weakref.finalize(self, lib.releaseTarnApi, api)
         self._released = False  # release() was called (a plain flag: read on every call)
+        # Made by connect(): disconnected at the end of its block; the local engine object
+        # it connected through (ended then too when connect() initialised it), and its
+        # engine handle, which reconnect() needs after the server has gone.
+        self._connected = False
+        self._local: Optional[Engine] = None
+        self._ends_local = False
+        self._remote_handle = 0
 
     @classmethod
     def remote(cls, handle: int, *, library: Optional[str] = None) -> Engine:
@@ -86,6 +93,59 @@ class Engine(Operations):
         engine = cls.__new__(cls)
         engine._init(lib, api, False)
         return engine
+
+    @classmethod
+    def connect(cls, address: str, user: Optional[str] = None, password: Optional[str] = None, *,
+                library: Optional[str] = None) -> Engine:
+        """A remote engine object: connects to the engine's server at `address` (what
+        start_server returned there, such as "kel://127.0.0.1:7400", also from another
+        process: `kel-sim-server` prints it) and, when `user` is given, logs in with
+        `password`. Its calls travel to the server; the `with` block disconnects and
+        releases it (it is not initialised or ended: the server's engine is). A connection
+        that ended (the server stopped or went away) raises EngineError with code
+        ErrorCode.CONNECTION_ENDED on every call; reconnect() renews it.
+
+        Raises EngineError when the server cannot be reached or the login fails
+        (AccessDeniedError for a wrong user name or password), ValueError for a user
+        without a password.
+        """
+        if user is not None and password is None:
+            raise ValueError("a user logs in with a password")
+        # The local engine object connects; it must be initialised for that, and it hears
+        # ConnectionBroken when the server goes away (connection.local.events()).
+        local = cls(initialize=False, library=library)
+        engine: Optional[Engine] = None
+        try:
+            ends_local = local.get_state() != EngineState.INITIALIZED
+            if ends_local:
+                local.initialize()
+            engine = local.connect_remote_server(address)
+            engine._connected = True
+            engine._local, engine._ends_local = local, ends_local
+            engine._remote_handle = engine.get_handle()
+            if user is not None:
+                from .generated.records import LogInOutConfig
+
+                engine.log_in(LogInOutConfig(user=user, password=password or ""))
+        except BaseException as failure:
+            if engine is not None:  # disconnects, and lets the local one go
+                engine.__exit__(type(failure), failure, failure.__traceback__)
+            else:
+                local.release()
+            raise
+        return engine
+
+    @property
+    def local(self) -> Optional[Engine]:
+        """For an engine from connect(): the local engine object it connected through,
+        whose event channels hear ConnectionBroken (kind 9) when the server goes away."""
+        return self._local
+
+    def reconnect(self) -> bool:
+        """Renews this remote connection after it ended (reconnect_remote_server with its
+        engine handle): True when it is connected again, False while no server listens at
+        its address. A renewed connection is logged out."""
+        return self.reconnect_remote_server(self._remote_handle or self.get_handle())
 
     def _adopt(self, address: int) -> Engine:
         """An engine object that an operation handed out (already registered)."""
@@ -113,8 +173,27 @@ class Engine(Operations):
         try:
             if self._initialize:
                 self.end()
+            elif self._connected:
+                self._disconnect(quietly=kind is not None)
         finally:
             self.release()
+            if self._local is not None:
+                local, self._local = self._local, None
+                try:
+                    if self._ends_local:
+                        local.end()
+                finally:
+                    local.release()
+
+    def _disconnect(self, quietly: bool) -> None:
+        try:
+            self.disconnect()
+        except EngineError as e:
+            # Ended already (by the server, or the server is gone), or not logged in to a
+            # server that manages users: releasing it ends what is left. An error of the
+            # block goes on rather than this one.
+            if not quietly and e.code not in (ErrorCode.CONNECTION_ENDED, ErrorCode.NOT_LOGGED_IN):
+                raise
 
     @contextlib.contextmanager
     def locked(self) -> Iterator[int]:

@@ -34,6 +34,10 @@ TarnApiException unsupported(const char* operation);
 // the fault, and the call says what it was.
 TarnApiException currentEngineError();
 
+// Copies as much of `value` as fits into `buffer` (`size` bytes with the NUL), as the
+// text hooks of kel_sim.h do; returns its full length.
+int64_t copyOut(const std::string& value, char* buffer, size_t size);
+
 // How the scripted result of one operation is read: the generated table has one entry
 // per operation. `parse` turns the JSON text into the value the operation returns (for
 // an asynchronous operation: the results its callback receives; for a void one: an

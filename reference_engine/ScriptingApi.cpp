@@ -10,14 +10,16 @@
 
 using Varno::Kel_cpp::MvciServerError;
 using Varno::Kel_cpp::TarnApiException;
+using Varno::Kel_cpp::Reference::copyOut;
 using Varno::Kel_cpp::Reference::Script;
 
 namespace {
 
 std::wstring text(const wchar_t* value) { return value != nullptr ? value : L""; }
 
-// Copies as much of `value` as fits, NUL-terminated; returns its full length.
-int64_t copyOut(const std::string& value, char* buffer, size_t size) {
+} // namespace
+
+int64_t Varno::Kel_cpp::Reference::copyOut(const std::string& value, char* buffer, size_t size) {
     if (buffer != nullptr && size > 0) {
         const size_t n = std::min(size - 1, value.size());
         std::memcpy(buffer, value.data(), n);
@@ -25,8 +27,6 @@ int64_t copyOut(const std::string& value, char* buffer, size_t size) {
     }
     return static_cast<int64_t>(value.size());
 }
-
-} // namespace
 
 extern "C" {
 

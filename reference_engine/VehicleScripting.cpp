@@ -1,4 +1,5 @@
 // kel_sim.h: the vehicle description and the asynchronous calls.
+#include "Script.h"
 #include "SimulatedVehicle.h"
 
 #include <fstream>
@@ -41,6 +42,18 @@ int32_t kelsim_setVehicleFile(const char* path) { return useSource(path, nullptr
 int32_t kelsim_setVehicleJson(const char* json) { return useSource(nullptr, json); }
 
 void kelsim_reloadVehicle(void) { SimulatedVehicle::reloadAll(); }
+
+int64_t kelsim_vehicleJson(char* buffer, size_t size) {
+    try {
+        const auto description = readVehicleDescription();
+        if (!description.problem.empty()) {
+            return -1;
+        }
+        return copyOut(description.root.dump(), buffer, size);
+    } catch (const std::exception&) {
+        return -1; // nothing may leave a C hook
+    }
+}
 
 void kelsim_setAsyncReports(const char* operation, uint32_t reports) {
     scriptAsyncReports(operation, reports);

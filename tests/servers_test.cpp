@@ -10,12 +10,16 @@
 #include <nlohmann/json.hpp>
 
 #include <Net.h>
+#include <algorithm>
 #include <array>
 #include <atomic>
+#include <chrono>
 #include <condition_variable>
+#include <cstdlib>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
+#include <future>
 #include <map>
 #include <mutex>
 #include <sstream>
@@ -26,6 +30,21 @@
 #include <families/servers/Frames.h>
 #include <families/servers/PasswordHash.h>
 #include <families/servers/Scram.h>
+
+#if defined(_WIN32)
+#include <windows.h>
+#else
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <unistd.h>
+
+#include <sys/wait.h>
+
+extern char** environ; // NOLINT: POSIX declares it for the programs that use it
+#endif
 
 namespace {
 
@@ -1537,6 +1556,319 @@ TEST_F(ServersConcurrency, FiftyClientsOfTwoHundredCallsEach) {
     }
     EXPECT_EQ(answered.load(), 50 * 200);
     EXPECT_EQ(failed.load(), 0);
+}
+
+// Across processes
+
+// kel-sim-server --port sets servers.port in the description that is in use, read back
+// through this hook.
+TEST_F(Servers, TheDescriptionInUseIsHandedOutAsJson) {
+    const int64_t length = kelsim_vehicleJson(nullptr, 0);
+    ASSERT_GT(length, 0);
+    std::string text(static_cast<std::size_t>(length) + 1, '\0');
+    EXPECT_EQ(kelsim_vehicleJson(text.data(), text.size()), length);
+    text.resize(static_cast<std::size_t>(length));
+    EXPECT_EQ(nlohmann::json::parse(text), nlohmann::json::parse(vehicle));
+    char cut[8];
+    EXPECT_EQ(kelsim_vehicleJson(cut, sizeof cut), length);
+    EXPECT_EQ(std::string(cut), text.substr(0, 7));
+}
+
+// kel-sim-server started as a process of its own (path from the build, or KEL_SIM_SERVER),
+// fed through a pipe on stdin so that it ends with the test even when the test does not
+// get to stop it. The address is the one line it prints.
+class ServerProcess {
+public:
+    explicit ServerProcess(const std::vector<std::string>& arguments) {
+        const char* configured = std::getenv("KEL_SIM_SERVER");
+        std::vector<std::string> line{configured != nullptr ? configured : KEL_SIM_SERVER_PATH,
+                                      "--until-stdin-closes"};
+        line.insert(line.end(), arguments.begin(), arguments.end());
+        start(line);
+        address_ = readLine();
+    }
+    ServerProcess(const ServerProcess&) = delete;
+    ServerProcess& operator=(const ServerProcess&) = delete;
+    ~ServerProcess() { kill(); }
+
+    const std::string& address() const { return address_; }
+    std::wstring wideAddress() const { return {address_.begin(), address_.end()}; } // ASCII
+    // The port of kel://127.0.0.1:<port>.
+    std::string port() const { return address_.substr(address_.rfind(':') + 1); }
+
+#if defined(_WIN32)
+    void kill() {
+        if (process_ != nullptr) {
+            TerminateProcess(process_, 9);
+            WaitForSingleObject(process_, 30000);
+            close();
+        }
+    }
+    // Closes its stdin and waits for it to stop; its exit code.
+    int stop() {
+        CloseHandle(input_);
+        input_ = nullptr;
+        DWORD code = 99;
+        if (WaitForSingleObject(process_, 30000) == WAIT_OBJECT_0) {
+            GetExitCodeProcess(process_, &code);
+        }
+        close();
+        return static_cast<int>(code);
+    }
+
+private:
+    void start(const std::vector<std::string>& line) {
+        SECURITY_ATTRIBUTES inherited{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
+        HANDLE childInput = nullptr;
+        HANDLE childOutput = nullptr;
+        ASSERT_TRUE(CreatePipe(&childInput, &input_, &inherited, 0));
+        ASSERT_TRUE(CreatePipe(&output_, &childOutput, &inherited, 0));
+        SetHandleInformation(input_, HANDLE_FLAG_INHERIT, 0); // only the child's ends pass on
+        SetHandleInformation(output_, HANDLE_FLAG_INHERIT, 0);
+        std::wstring command;
+        for (const auto& argument : line) {
+            command +=
+                (command.empty() ? L"\"" : L" \"") +
+                std::filesystem::path(std::u8string(argument.begin(), argument.end())).wstring() +
+                L"\"";
+        }
+        STARTUPINFOW startup{};
+        startup.cb = sizeof startup;
+        startup.dwFlags = STARTF_USESTDHANDLES;
+        startup.hStdInput = childInput;
+        startup.hStdOutput = childOutput;
+        startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
+        PROCESS_INFORMATION started{};
+        const BOOL created = CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0,
+                                            nullptr, nullptr, &startup, &started);
+        CloseHandle(childInput);
+        CloseHandle(childOutput);
+        ASSERT_TRUE(created) << "cannot start " << line[0] << ": error " << GetLastError();
+        CloseHandle(started.hThread);
+        process_ = started.hProcess;
+    }
+    std::string readLine() {
+        std::string line;
+        const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(60);
+        char c = 0;
+        DWORD read = 0;
+        while (output_ != nullptr && std::chrono::steady_clock::now() < until) {
+            DWORD waiting = 0;
+            if (!PeekNamedPipe(output_, nullptr, 0, nullptr, &waiting, nullptr)) {
+                break; // it ended without a line
+            }
+            if (waiting == 0) {
+                Sleep(10);
+                continue;
+            }
+            if (!ReadFile(output_, &c, 1, &read, nullptr) || read == 0 || c == '\n') {
+                break;
+            }
+            if (c != '\r') {
+                line += c;
+            }
+        }
+        return line;
+    }
+    void close() {
+        for (HANDLE* handle : {&process_, &input_, &output_}) {
+            if (*handle != nullptr) {
+                CloseHandle(*handle);
+                *handle = nullptr;
+            }
+        }
+    }
+
+    HANDLE process_ = nullptr;
+    HANDLE input_ = nullptr;
+    HANDLE output_ = nullptr;
+#else
+    void kill() {
+        if (pid_ > 0) {
+            ::kill(pid_, SIGKILL);
+            waitpid(pid_, nullptr, 0);
+            pid_ = 0;
+        }
+        close();
+    }
+    int stop() {
+        ::close(input_);
+        input_ = -1;
+        int status = 0;
+        pid_t ended = 0;
+        // A hang guard: it gets 30 s to stop before it is killed.
+        for (int i = 0; i < 3000 && (ended = waitpid(pid_, &status, WNOHANG)) == 0; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+        }
+        if (ended != pid_) {
+            kill();
+            return 99;
+        }
+        pid_ = 0;
+        close();
+        return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
+    }
+
+private:
+    void start(const std::vector<std::string>& line) {
+        int in[2];
+        int out[2];
+        // Close-on-exec: no other child of the test process holds these pipes open.
+        ASSERT_EQ(pipe2(in, O_CLOEXEC), 0);
+        ASSERT_EQ(pipe2(out, O_CLOEXEC), 0);
+        posix_spawn_file_actions_t actions;
+        posix_spawn_file_actions_init(&actions);
+        posix_spawn_file_actions_adddup2(&actions, in[0], STDIN_FILENO);
+        posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
+        std::vector<char*> argv;
+        for (const auto& argument : line) {
+            argv.push_back(const_cast<char*>(argument.c_str())); // NOLINT: posix_spawn's type
+        }
+        argv.push_back(nullptr);
+        const int failed =
+            posix_spawn(&pid_, line[0].c_str(), &actions, nullptr, argv.data(), environ);
+        posix_spawn_file_actions_destroy(&actions);
+        ::close(in[0]);
+        ::close(out[1]);
+        input_ = in[1];
+        output_ = out[0];
+        ASSERT_EQ(failed, 0) << "cannot start " << line[0] << ": " << std::strerror(failed);
+    }
+    std::string readLine() {
+        std::string line;
+        char c = 0;
+        pollfd ready{output_, POLLIN, 0};
+        while (output_ >= 0 && poll(&ready, 1, 60000) > 0 && ::read(output_, &c, 1) == 1 &&
+               c != '\n') {
+            line += c;
+        }
+        return line;
+    }
+    void close() {
+        for (int* fd : {&input_, &output_}) {
+            if (*fd >= 0) {
+                ::close(*fd);
+                *fd = -1;
+            }
+        }
+    }
+
+    pid_t pid_ = 0;
+    int input_ = -1;
+    int output_ = -1;
+#endif
+    std::string address_;
+};
+
+// The ThreadSanitizer preset runs only the concurrency cases: a call in flight while the
+// other process dies is one.
+class CrossProcessConcurrency : public Servers {
+protected:
+    void SetUp() override {
+        Servers::SetUp();
+        serverRoot_ = freshTempPath("kel_server_process");
+    }
+    void TearDown() override {
+        server_.reset();
+        Servers::TearDown();
+        std::filesystem::remove_all(serverRoot_);
+    }
+
+    // Starts (or starts again) the server process on a data root of its own.
+    void startServer(std::vector<std::string> arguments) {
+        const auto root = serverRoot_.u8string();
+        arguments.insert(arguments.begin(), {"--data-root", std::string(root.begin(), root.end())});
+        server_.reset(); // a server still there is killed first
+        server_ = std::make_unique<ServerProcess>(arguments);
+        ASSERT_EQ(server_->address().rfind("kel://127.0.0.1:", 0), 0U)
+            << "the line it printed: " << server_->address();
+    }
+
+    TarnApi* connect() {
+        ErrorSlot error;
+        uint64_t registered = 0;
+        kel_connectRemoteServer(api, server_->wideAddress().c_str(), &error, &registered);
+        EXPECT_FALSE(error) << server_->address() << ": " << (error ? error->code : 0);
+        auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
+        remotes_.push_back(client);
+        return client;
+    }
+
+    // The DTCs read through `on`: target, then its codes as text; or the call's error code.
+    static std::pair<int32_t, std::map<std::wstring, std::vector<std::wstring>>>
+    readDtcs(TarnApi* on) {
+        ErrorSlot error;
+        kel_test::List<ReadDtcResult, release_ReadDtcResult_array> results;
+        kel_readDtcs(on, nullptr, 0, nullptr, &error, &results.items, &results.count);
+        std::map<std::wstring, std::vector<std::wstring>> dtcs;
+        for (uint32_t i = 0; i < results.count; ++i) {
+            auto& codes = dtcs[results.items[i]->target];
+            for (uint32_t k = 0; k < results.items[i]->dtcCount; ++k) {
+                codes.emplace_back(results.items[i]->dtcs[k]->text1);
+            }
+        }
+        return {error ? error->code : 0, dtcs};
+    }
+
+    std::filesystem::path serverRoot_;
+    std::unique_ptr<ServerProcess> server_;
+};
+
+// This process runs the one-unit vehicle of these tests; the server process runs the
+// bundled default vehicle, which is what a remote read must see.
+TEST_F(CrossProcessConcurrency, AClientReadsTheVehicleOfTheServerProcess) {
+    ASSERT_NO_FATAL_FAILURE(startServer({}));
+    TarnApi* client = connect();
+    const auto [failed, dtcs] = readDtcs(client);
+    ASSERT_EQ(failed, 0);
+    EXPECT_EQ(dtcs.size(), 6U);
+    EXPECT_EQ(dtcs.at(L"ECM"), (std::vector<std::wstring>{L"P0301", L"P2463"}));
+    EXPECT_EQ(dtcs.at(L"GW"), std::vector<std::wstring>{L"U0121"});
+    EXPECT_TRUE(dtcs.at(L"ACC").empty()) << "silent: its error stays in its result";
+    EXPECT_EQ(readDtcs(api).second.size(), 1U) << "the local vehicle is not the server's";
+
+    EXPECT_EQ(server_->stop(), 0) << "stdin closed: a clean stop";
+    EXPECT_EQ(readDtcs(client).first, ConnectionEnded);
+}
+
+// The server dies with a call in flight: the call ends with 1301 at once rather than
+// waiting, the client hears ConnectionBroken, and the connection is renewed once a server
+// listens on the same port again.
+TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnectionIsRenewed) {
+    ASSERT_NO_FATAL_FAILURE(startServer({"--delay", "readDtcs=20000"}));
+    const auto port = server_->port();
+    TarnApi* client = connect();
+    const uint64_t own = handle(client);
+    const uint64_t channel = openChannel();
+
+    auto call = std::async(std::launch::async, [&] { return readDtcs(client).first; });
+    EXPECT_EQ(call.wait_for(std::chrono::milliseconds(300)), std::future_status::timeout)
+        << "the delay holds the call in flight";
+    server_->kill();
+    ASSERT_EQ(call.wait_for(std::chrono::seconds(15)), std::future_status::ready);
+    EXPECT_EQ(call.get(), ConnectionEnded);
+
+    std::vector<Event> heard;
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(15);
+    while (std::chrono::steady_clock::now() < until &&
+           std::none_of(heard.begin(), heard.end(), [](const Event& e) { return e.kind == 9; })) {
+        const auto more = events(channel);
+        heard.insert(heard.end(), more.begin(), more.end());
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+    }
+    EXPECT_TRUE(std::any_of(heard.begin(), heard.end(), [&](const Event& e) {
+        return e.kind == 9 && e.detail.find(server_->wideAddress()) != std::wstring::npos;
+    })) << "ConnectionBroken naming the server, on the engine object that connected";
+
+    uint8_t renewed = 1;
+    EXPECT_EQ(code([&](KelError** e) { kel_reconnectRemoteServer(client, own, e, &renewed); }), 0);
+    EXPECT_EQ(renewed, 0) << "no server listens";
+
+    ASSERT_NO_FATAL_FAILURE(startServer({"--port", port}));
+    EXPECT_EQ(server_->port(), port);
+    EXPECT_EQ(code([&](KelError** e) { kel_reconnectRemoteServer(client, own, e, &renewed); }), 0);
+    EXPECT_EQ(renewed, 1);
+    EXPECT_EQ(readDtcs(client).second.at(L"ECM"), (std::vector<std::wstring>{L"P0301", L"P2463"}));
 }
 
 } // namespace

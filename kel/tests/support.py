@@ -31,6 +31,7 @@ _SIM = {
     "kelsim_setAsyncInterval": (None, [_str, _u32]),
     "kelsim_failAsync": (None, [_str, _u32, _i32, _wstr, _wstr]),
     "kelsim_reset": (None, []),
+    "kelsim_setVehicleJson": (_i32, [_str]),
 }
 
 

@@ -97,6 +97,11 @@ KEL_SIM_API int32_t kelsim_setVehicleFile(const char* path);
 KEL_SIM_API int32_t kelsim_setVehicleJson(const char* json);
 /* Every live vehicle goes back to the fault memory of its description. */
 KEL_SIM_API void kelsim_reloadVehicle(void);
+/* The description that vehicles start from now (set above, else KEL_SIM_VEHICLE's file,
+ * else the default) as compact JSON in UTF-8, so that a caller can change one member and
+ * set it back with kelsim_setVehicleJson. Copies it as kelsim_lastArguments does and
+ * returns its full length, or -1 when it cannot be read or is not a JSON object. */
+KEL_SIM_API int64_t kelsim_vehicleJson(char* buffer, size_t size);
 
 /* ---- the data root ----
  * The real folder under which the engine keeps its files (reference_engine/README.md,

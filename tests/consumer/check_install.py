@@ -70,7 +70,14 @@ def check_prefix(prefix: pathlib.Path, source: pathlib.Path, work: pathlib.Path,
     info = run(sys.executable, prefix / "bin" / "kel", "--json", "info", cwd=work, env=env)
     if str(prefix.resolve()) not in info:
         raise SystemExit(f"{label}: kel did not load the installed library:\n{info}")
-    print(f"{label}: find_package, pkg-config {version} and kel serve from {prefix}")
+    # The installed server program finds the installed engine (its RPATH) and stops when its
+    # stdin ends.
+    server = subprocess.run([str(prefix / "bin" / "kel-sim-server"), "--until-stdin-closes", "--data-root",
+                             str(work / f"{label}-server")], env=env, input="", capture_output=True, text=True,
+                            timeout=120)
+    if server.returncode != 0 or server.stdout.count("\n") != 1:
+        raise SystemExit(f"{label}: kel-sim-server exited with {server.returncode}:\n{server.stdout}{server.stderr}")
+    print(f"{label}: find_package, pkg-config {version}, kel and kel-sim-server serve from {prefix}")
 
 
 def main() -> int:
