@@ -1520,34 +1520,78 @@ TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
     }
 }
 
-// 50 clients on sockets of their own, 200 calls each, while the server serves them all:
-// every call is answered. Time bounds are hang guards only (bench/ measures).
+// 50 clients on sockets of their own, 200 calls each (states, DTC reads, a service, a file
+// read in parts), while the server serves them all: every call is answered
+// right, and once the clients are gone the server holds no connection. Time bounds are
+// hang guards only (bench/ measures).
 TEST_F(ServersConcurrency, FiftyClientsOfTwoHundredCallsEach) {
     std::vector<TarnApi*> clients;
     for (int c = 0; c < 50; ++c) {
         clients.push_back(connection());
         ASSERT_NE(clients.back(), nullptr);
     }
+    constexpr uint32_t part = 64 * 1024; // the file is read in parts of two of these
+    std::vector<uint8_t> content(4 * part);
+    for (std::size_t i = 0; i < content.size(); ++i) {
+        content[i] = static_cast<uint8_t>(i * 13 + i / 1000);
+    }
+    {
+        ErrorSlot error;
+        uint32_t written = 0;
+        kel_writeFile(clients[0], L"exchange/load.bin", content.data(),
+                      static_cast<uint32_t>(content.size()), 0, 1, &error, &written);
+        ASSERT_FALSE(error) << error->code;
+    }
     std::atomic<int> answered{0};
-    std::atomic<int> failed{0};
+    std::atomic<int> wrong{0};
     std::vector<std::thread> threads;
     for (TarnApi* client : clients) {
         threads.emplace_back([&, client] {
             for (int i = 0; i < 200; ++i) {
                 ErrorSlot error;
-                if (i % 2 == 0) {
+                bool right = true;
+                switch (i % 4) {
+                case 0: {
                     int32_t state = -1;
                     kel_getState(client, &error, &state);
-                } else {
+                    right = state == 1;
+                    break;
+                }
+                case 1: {
                     wchar_t target[] = L"ECM";
                     wchar_t* targets[] = {target};
                     kel_test::List<ReadDtcResult, release_ReadDtcResult_array> list;
                     kel_readDtcs(client, targets, 1, nullptr, &error, &list.items, &list.count);
-                    if (!error && list.count != 1) {
-                        ++failed;
-                    }
+                    right = list.count == 1;
+                    break;
                 }
-                ++(error ? failed : answered);
+                case 2: {
+                    uint8_t request[] = {0x3E, 0x00}; // TesterPresent
+                    wchar_t unnamed[] = L"";
+                    ServiceInput input{nullptr, 0, unnamed, request, sizeof request, 0};
+                    ServiceInput* inputs[] = {&input};
+                    kel_test::List<ServiceResult, release_ServiceResult_array> list;
+                    kel_executeService(client, L"ECM", inputs, 1, &error, &list.items, &list.count);
+                    right = list.count == 1;
+                    break;
+                }
+                default: {
+                    const uint64_t offset = static_cast<uint64_t>(i / 4 % 3) * part;
+                    void* data = nullptr;
+                    uint32_t size = 0;
+                    kel_readFile(client, L"exchange/load.bin", offset, 2 * part, 1, &error, &data,
+                                 &size);
+                    right =
+                        size == 2 * part && std::memcmp(data, content.data() + offset, size) == 0;
+                    release_Memory(data);
+                    break;
+                }
+                }
+                if (!error && right) {
+                    ++answered;
+                } else {
+                    ++wrong;
+                }
             }
         });
     }
@@ -1555,7 +1599,48 @@ TEST_F(ServersConcurrency, FiftyClientsOfTwoHundredCallsEach) {
         thread.join();
     }
     EXPECT_EQ(answered.load(), 50 * 200);
-    EXPECT_EQ(failed.load(), 0);
+    EXPECT_EQ(wrong.load(), 0);
+
+    for (TarnApi* client : clients) {
+        releaseTarnApi(client);
+    }
+    remotes_.clear();
+    uint32_t connected = 0;
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    do {
+        ErrorSlot error;
+        ServerSettings* settings = nullptr;
+        kel_getServerSettings(api, &error, &settings);
+        ASSERT_FALSE(error);
+        connected = settings->value1;
+        release_ServerSettings(settings);
+    } while (connected != 0 && std::chrono::steady_clock::now() < until);
+    EXPECT_EQ(connected, 0U) << "every released client's connection ended on the server";
+}
+
+// The server takes at most maxConnections sockets; the one over is refused with 1322
+// and a place freed is taken again.
+TEST_F(Servers, ConnectionsAreBounded) {
+    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "ECM"}],
+        "servers": {"passwordIterations": 1000, "maxConnections": 2}})"),
+              0);
+    restart();
+    TarnApi* first = connection();
+    ASSERT_NE(connection(), nullptr);
+    uint64_t registered = 0;
+    EXPECT_EQ(
+        code([&](KelError** e) { kel_connectRemoteServer(api, address_.c_str(), e, &registered); }),
+        1322);
+    releaseTarnApi(first);
+    std::erase(remotes_, first);
+    int32_t refusal = 1322;
+    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (refusal == 1322 && std::chrono::steady_clock::now() < until) {
+        refusal = code(
+            [&](KelError** e) { kel_connectRemoteServer(api, address_.c_str(), e, &registered); });
+    }
+    ASSERT_EQ(refusal, 0) << "the released connection's place is free again";
+    releaseTarnApi(reinterpret_cast<TarnApi*>(registered)); // NOLINT(performance-no-int-to-ptr)
 }
 
 // Across processes
