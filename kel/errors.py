@@ -6,7 +6,8 @@ a negative response, or code 1102, raises NegativeResponseError; a silent unit
 NoResponseError; an unknown target UnknownTargetError; not logged in, a wrong password,
 throttled logins or a missing administrator AccessDeniedError; a path the sandbox refuses
 SandboxError; an operation the engine does not have NotSupportedError; a cancelled call
-CallCancelledError, which is also a concurrent.futures.CancelledError. Every other code
+CallCancelledError, which is also a concurrent.futures.CancelledError; a remote
+connection that has ended ConnectionEndedError, which is also a ConnectionError. Every other code
 raises EngineError itself. Per-item errors inside results stay data (KelError records);
 EngineError.of(record) raises one when a caller wants to."""
 
@@ -145,6 +146,11 @@ class CallCancelledError(EngineError, concurrent.futures.CancelledError):
     waits on futures treats it as any cancellation."""
 
 
+class ConnectionEndedError(EngineError, ConnectionError):
+    """The remote connection has ended: the server went away, ended it or was stopped, or
+    the socket broke. Also a ConnectionError; reconnect() renews it once a server listens."""
+
+
 class LibraryNotFound(OSError):
     """The kel_c library could not be loaded from any of the places searched."""
 
@@ -153,5 +159,5 @@ _KINDS: dict[object, type[EngineError]] = {
     MALFORMED_INPUT: MalformedInputError, NOT_AVAILABLE: NotAvailableError,
     "NegativeResponse": NegativeResponseError, "NoResponse": NoResponseError, "UnknownTarget": UnknownTargetError,
     "AccessDenied": AccessDeniedError, "Sandbox": SandboxError, "NotSupported": NotSupportedError,
-    "CallCancelled": CallCancelledError,
+    "CallCancelled": CallCancelledError, "ConnectionEnded": ConnectionEndedError,
 }

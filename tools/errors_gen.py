@@ -26,7 +26,7 @@ README = "reference_engine/README.md"
 BEGIN = "<!-- error codes: written by tools/generate.py from interface/errors.def -->"
 END = "<!-- end of the error codes -->"
 KINDS = ("NegativeResponse", "NoResponse", "UnknownTarget", "AccessDenied", "Sandbox", "NotSupported",
-         "CallCancelled")
+         "CallCancelled", "ConnectionEnded")
 # The library's own codes, beside the engine's.
 LIBRARY = [(-1001, "MalformedInput", "checked calls: input short or malformed"),
            (-1002, "NotAvailable", "the operation's records are not built yet")]

@@ -262,6 +262,7 @@ RAISES: dict[int, str] = {
     1012: "CallCancelled",
     1102: "NegativeResponse",
     1300: "AccessDenied",
+    1301: "ConnectionEnded",
     1306: "AccessDenied",
     1307: "AccessDenied",
     1308: "AccessDenied",

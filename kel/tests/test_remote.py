@@ -116,7 +116,7 @@ class RemoteTest(unittest.TestCase):
             with self.assertRaises(concurrent.futures.TimeoutError):
                 call.result(timeout=0.3)  # held in flight by the delay
             server.kill()
-            with self.assertRaises(kel.EngineError) as ended:
+            with self.assertRaises(kel.ConnectionEndedError) as ended:
                 call.result(timeout=15)
             self.assertEqual(ended.exception.error_code, kel.ErrorCode.CONNECTION_ENDED)
             self.assertFalse(remote.reconnect())
