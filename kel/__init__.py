@@ -21,8 +21,8 @@ from ._library import ENVIRONMENT, candidates, load
 from .asynccall import AsyncCall, AsyncReport
 from .engine import Engine
 from .errors import (AccessDeniedError, CallCancelledError, ConnectionEndedError, EngineError, LibraryError,
-                     LibraryNotFound, MalformedInputError, NegativeResponseError, NoResponseError, NotAvailableError, NotSupportedError,
-                     SandboxError, UnknownTargetError)
+                     LibraryNotFound, MalformedInputError, NegativeResponseError, NoResponseError, NotAvailableError,
+                     NotSupportedError, SandboxError, UnknownTargetError)
 from .generated.enums import *  # noqa: F401,F403
 from .generated.enums import __all__ as _enums
 from .generated.errors import ErrorCode
@@ -46,6 +46,6 @@ def setup_logging(level: int = logging.DEBUG, stream: Optional[TextIO] = None) -
 
 
 __all__ = ["ENVIRONMENT", "AccessDeniedError", "AsyncCall", "AsyncReport", "CallCancelledError",
-           "ConnectionEndedError", "Engine", "EngineError", "ErrorCode", "EventChannel", "LibraryError", "LibraryNotFound", "MalformedInputError",
-           "NegativeResponseError", "NoResponseError", "NotAvailableError", "NotSupportedError", "SandboxError",
+           "ConnectionEndedError", "Engine", "EngineError", "ErrorCode", "EventChannel", "LibraryError",
+           "LibraryNotFound", "MalformedInputError", "NegativeResponseError", "NoResponseError", "NotAvailableError", "NotSupportedError", "SandboxError",
            "UnknownTargetError", "candidates", "load", "setup_logging", "sim", *_enums, *_records]
