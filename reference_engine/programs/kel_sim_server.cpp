@@ -9,6 +9,8 @@
 // until stdin reaches its end; then stops the server and ends the engine.
 // Exit codes: 0 stopped cleanly, 1 an engine error (code and message on stderr), 2 a wrong
 // command line (with the usage on stderr).
+#include "Describe.h"
+
 #include <Kel_cpp/Engine.h>
 #include <Kel_cpp/TarnApiException.h>
 
@@ -75,72 +77,11 @@ const char* const usage =
     "It stops on SIGINT or SIGTERM (Ctrl-C). Exit codes: 0 stopped cleanly, 1 an engine\n"
     "error (its code and message on stderr), 2 a wrong command line.\n";
 
-// ---- text: the engine's wide text is UTF-16 on Windows and UTF-32 elsewhere ----
+// ---- text: the engine's own conversions (Describe.h), compiled into this program ----
 
-std::string toUtf8(const std::wstring& text) {
-    std::string out;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        auto c = static_cast<uint32_t>(text[i]);
-        if constexpr (sizeof(wchar_t) == 2) {
-            if (c >= 0xD800 && c < 0xDC00 && i + 1 < text.size() &&
-                static_cast<uint32_t>(text[i + 1]) >= 0xDC00 &&
-                static_cast<uint32_t>(text[i + 1]) < 0xE000) {
-                c = 0x10000 + ((c - 0xD800) << 10) + (static_cast<uint32_t>(text[++i]) - 0xDC00);
-            }
-        }
-        if ((c >= 0xD800 && c < 0xE000) || c > 0x10FFFF) {
-            c = 0xFFFD; // an unpaired surrogate has no UTF-8 form
-        }
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0 | (c >> 6));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else if (c < 0x10000) {
-            out += static_cast<char>(0xE0 | (c >> 12));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        } else {
-            out += static_cast<char>(0xF0 | (c >> 18));
-            out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-            out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-            out += static_cast<char>(0x80 | (c & 0x3F));
-        }
-    }
-    return out;
-}
-
-// Strict UTF-8; nothing for text that is not UTF-8.
-std::optional<std::wstring> fromUtf8(const std::string& text) {
-    std::wstring out;
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i]);
-        const std::size_t length = lead < 0x80 ? 1 : lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-        if ((lead >= 0x80 && lead < 0xC2) || lead > 0xF4 || i + length > text.size()) {
-            return std::nullopt;
-        }
-        uint32_t c = length == 1 ? lead : lead & (0x7F >> length);
-        for (std::size_t k = 1; k < length; ++k) {
-            const auto next = static_cast<unsigned char>(text[i + k]);
-            if ((next & 0xC0) != 0x80) {
-                return std::nullopt;
-            }
-            c = (c << 6) | (next & 0x3F);
-        }
-        const uint32_t least[] = {0, 0, 0x80, 0x800, 0x10000};
-        if (c < least[length] || c > 0x10FFFF || (c >= 0xD800 && c < 0xE000)) {
-            return std::nullopt; // overlong, out of range or a surrogate
-        }
-        if (sizeof(wchar_t) == 2 && c >= 0x10000) {
-            out += static_cast<wchar_t>(0xD800 + ((c - 0x10000) >> 10));
-            out += static_cast<wchar_t>(0xDC00 + ((c - 0x10000) & 0x3FF));
-        } else {
-            out += static_cast<wchar_t>(c);
-        }
-        i += length;
-    }
-    return out;
-}
+using Varno::Kel_cpp::Reference::fromUtf8;
+using Varno::Kel_cpp::Reference::pathFromWide;
+using Varno::Kel_cpp::Reference::toUtf8;
 
 // The command line in UTF-8: Windows hands main() the ANSI code page, so the wide
 // command line is read instead.
@@ -161,15 +102,6 @@ std::vector<std::string> arguments(int argc, char** argv) {
     }
 #endif
     return out;
-}
-
-std::filesystem::path pathOf(const std::wstring& text) {
-#if defined(_WIN32)
-    return std::filesystem::path(text);
-#else
-    // std::filesystem would convert through the C locale; the bytes are the name.
-    return std::filesystem::path(toUtf8(text));
-#endif
 }
 
 // ---- the command line ----
@@ -210,11 +142,10 @@ Options parse(const std::vector<std::string>& args) {
             return args[++i];
         };
         const auto wide = [&](const std::string& text) {
-            auto converted = fromUtf8(text);
-            if (!converted || converted->empty()) {
-                throw UsageError{option + " needs a name in UTF-8"};
+            if (text.empty()) {
+                throw UsageError{option + " needs a name"};
             }
-            return *converted;
+            return fromUtf8(text); // not UTF-8: U+FFFD stands in, as everywhere in the engine
         };
         if (option == "--port") {
             options.port = number<uint16_t>(value(), option);
@@ -250,7 +181,7 @@ Options parse(const std::vector<std::string>& args) {
 // The description file, read here so that a name the ANSI code page cannot hold still
 // opens on Windows; the engine checks it (kelsim_setVehicleJson).
 void useVehicleFile(const std::wstring& file) {
-    std::ifstream in(pathOf(file), std::ios::binary);
+    std::ifstream in(pathFromWide(file), std::ios::binary);
     std::ostringstream text;
     if (!in || !(text << in.rdbuf())) {
         descriptionFails(L"The vehicle description cannot be read", L"cannot open " + file);
