@@ -58,16 +58,6 @@ std::shared_ptr<KelError> cancelledError(const std::string& operation, uint64_t 
     return e;
 }
 
-std::shared_ptr<KelError> errorOf(const TarnApiException& exception) {
-    auto e = std::make_shared<KelError>();
-    e->code = exception.code;
-    e->message = exception.message;
-    e->details = exception.details;
-    e->subCode = exception.subCode;
-    e->mvciError = exception.mvciError;
-    return e;
-}
-
 std::wstring callDetail(const std::string& operation, uint64_t id) {
     return fromUtf8(operation) + L" call " + std::to_wstring(id);
 }

@@ -156,4 +156,14 @@ void describe(std::string& out, const std::vector<uint8_t>& bytes) {
     out += ']';
 }
 
+std::shared_ptr<KelError> errorOf(const TarnApiException& exception) {
+    auto e = std::make_shared<KelError>();
+    e->code = exception.code;
+    e->message = exception.message;
+    e->details = exception.details;
+    e->subCode = exception.subCode;
+    e->mvciError = exception.mvciError;
+    return e;
+}
+
 } // namespace Varno::Kel_cpp::Reference

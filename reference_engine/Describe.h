@@ -19,6 +19,10 @@ namespace Varno::Kel_cpp::Reference {
 std::string toUtf8(const std::wstring& text);
 std::wstring fromUtf8(const std::string& text);
 
+// The error record of an engine error: what an asynchronous report, a file operation's
+// result or the server's answer carries instead of the exception.
+std::shared_ptr<KelError> errorOf(const TarnApiException& exception);
+
 // Wide text and paths. The engine's wide text is UTF-16 on Windows and UTF-32 elsewhere,
 // while std::filesystem converts through the C locale on Linux (and fails on non-ASCII
 // there): every conversion goes through these two, which use UTF-8 on Linux.

@@ -109,15 +109,6 @@ void describeEntry(Entry& out, const Resolved& entry, bool directory,
 
 } // namespace
 
-std::shared_ptr<KelError> errorOf(const TarnApiException& exception) {
-    auto e = std::make_shared<KelError>();
-    e->code = exception.code;
-    e->message = exception.message;
-    e->details = exception.details;
-    e->subCode = exception.subCode;
-    return e;
-}
-
 std::shared_ptr<KelError> errorRecord(int32_t code, std::wstring message, std::wstring details) {
     auto e = std::make_shared<KelError>();
     e->code = code;

@@ -27,7 +27,6 @@ enum EntryAttribute : uint32_t {
 // Levels of a tree read in one call; deeper directories come unread (flag2 false).
 inline constexpr int maxTreeDepth = 64;
 
-std::shared_ptr<KelError> errorOf(const TarnApiException& exception);
 std::shared_ptr<KelError> errorRecord(int32_t code, std::wstring message, std::wstring details);
 
 std::shared_ptr<FileInfo> describeFile(const Resolved& file);

@@ -61,14 +61,6 @@ TarnApiException ended(const std::wstring& why) {
     return {ConnectionEnded, L"This remote connection has ended", why};
 }
 
-std::shared_ptr<KelError> errorRecord(const TarnApiException& e) {
-    auto error = std::make_shared<KelError>();
-    error->code = e.code;
-    error->message = e.message;
-    error->details = e.details;
-    return error;
-}
-
 } // namespace
 
 // One socket and its reader thread. Callers write their frames under writeMutex_ and
@@ -338,7 +330,7 @@ private:
             Reader in(payload);
             isFinal = receiver->deliver(in);
         } catch (const kel::MalformedInput&) {
-            receiver->fail(id, errorRecord({ProtocolError, L"The server's report is malformed"}));
+            receiver->fail(id, errorOf({ProtocolError, L"The server's report is malformed"}));
             isFinal = true;
         }
         if (isFinal) {
@@ -365,7 +357,7 @@ private:
         }
         answered_.notify_all();
         for (const auto& [id, receiver] : orphans) {
-            receiver->fail(id, errorRecord(ended(endedWhy_)));
+            receiver->fail(id, errorOf(ended(endedWhy_)));
         }
         if (broken) {
             if (const auto vehicle = local_.lock()) {

@@ -32,13 +32,7 @@ namespace {
 std::vector<uint8_t> errorAnswer(const TarnApiException& exception) {
     Writer out;
     out.write(uint8_t{0});
-    auto error = std::make_shared<KelError>();
-    error->code = exception.code;
-    error->message = exception.message;
-    error->details = exception.details;
-    error->subCode = exception.subCode;
-    error->mvciError = exception.mvciError;
-    out.write(error);
+    out.write(errorOf(exception));
     return bytesOf(out);
 }
 
