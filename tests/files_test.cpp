@@ -7,7 +7,6 @@
 #include <OTXStream.h>
 #include <algorithm>
 #include <atomic>
-#include <barrier>
 #include <chrono>
 #include <condition_variable>
 #include <cstring>
@@ -740,7 +739,23 @@ using FilesConcurrency = FilesTest;
 // both through now and then, and one writer's data was lost).
 TEST_F(FilesConcurrency, OfTwoWritersCreatingOneFileExactlyOneWins) {
     constexpr int rounds = 300;
-    std::barrier start(2);
+    // A rendezvous of the two writers per round. Not std::barrier: on mingw its wait
+    // (libstdc++ 12 without futexes) can miss a wake-up and hang the run under wine.
+    std::mutex mutex;
+    std::condition_variable arrived;
+    int waiting = 0;
+    int generation = 0;
+    const auto meet = [&] {
+        std::unique_lock lock(mutex);
+        const int mine = generation;
+        if (++waiting == 2) {
+            waiting = 0;
+            ++generation;
+            arrived.notify_all();
+        } else {
+            arrived.wait(lock, [&] { return generation != mine; });
+        }
+    };
     std::vector<int32_t> codes[2];
     // Enough data that writing it takes longer than the writers' start differs.
     const std::string data[] = {std::string(4 * 1024, 'A'), std::string(4 * 1024, 'B')};
@@ -748,7 +763,7 @@ TEST_F(FilesConcurrency, OfTwoWritersCreatingOneFileExactlyOneWins) {
         const auto* bytes = reinterpret_cast<const uint8_t*>(data[id].data());
         for (int round = 0; round < rounds; ++round) {
             const std::wstring path = L"exchange/race-" + std::to_wstring(round);
-            start.arrive_and_wait();
+            meet();
             ErrorSlot error;
             uint32_t written = 0;
             kel_writeFile(api, path.c_str(), bytes, 4 * 1024, 2, 0, &error, &written);

@@ -17,7 +17,7 @@ import zipfile
 
 # DLLs every Windows has; anything else must come in the zip.
 SYSTEM_DLLS = {"kernel32.dll", "msvcrt.dll", "user32.dll", "advapi32.dll", "ws2_32.dll", "shell32.dll", "ole32.dll",
-               "bcrypt.dll", "ntdll.dll", "crypt32.dll", "iphlpapi.dll", "userenv.dll", "secur32.dll"}
+               "bcrypt.dll", "ntdll.dll", "crypt32.dll", "iphlpapi.dll", "userenv.dll", "secur32.dll", "mswsock.dll"}
 REQUIRED = ["bin/kel_c.dll", "bin/kel_cpp.dll", "bin/vutil.dll", "include/kel_c.h", "include/kel_sim.h",
             "lib/libkel_c.dll.a", "lib/cmake/kel_c/kel_c-config.cmake", "lib/cmake/kel_c/kel_c-config-version.cmake",
             "lib/pkgconfig/kel_c.pc", "python/kel/__init__.py", "python/kel/_installed.py",
