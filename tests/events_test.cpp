@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <cstring>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -129,58 +128,6 @@ TEST_F(Events, EngineActionsComeBackOldestFirstWithTheirDetails) {
         EXPECT_FALSE(e.text.empty());
         EXPECT_FALSE(e.hasError);
     }
-}
-
-// A minimal reader of kel_call results, enough to walk an event report.
-struct ResultReader {
-    std::vector<uint8_t> bytes;
-    size_t at = 0;
-    template <class T>
-    T take() {
-        T value{};
-        EXPECT_LE(at + sizeof(T), bytes.size());
-        if (at + sizeof(T) <= bytes.size()) {
-            std::memcpy(&value, bytes.data() + at, sizeof(T));
-        }
-        at += sizeof(T);
-        return value;
-    }
-    std::string text() {
-        const auto length = take<uint32_t>();
-        std::string out(reinterpret_cast<const char*>(bytes.data() + at), length);
-        at += length;
-        return out;
-    }
-};
-
-ResultReader otxCall(int32_t operation, const std::vector<uint8_t>& input = {}) {
-    void* stream = nullptr;
-    uint64_t size = 0;
-    kel_call_checked(0, operation, input.data(), input.size(), &stream, &size);
-    ResultReader result;
-    result.bytes.resize(size);
-    kel_call_result(stream, result.bytes.data());
-    EXPECT_EQ(result.take<uint8_t>(), 1) << "status of operation " << operation;
-    return result;
-}
-
-TEST_F(Events, ComeBackThroughKelCallToo) {
-    // 45 openEventChannel, 147 lock, 47 getCurrentEvents(channel, limit).
-    const auto channel = otxCall(45).take<uint64_t>();
-    otxCall(147);
-    std::vector<uint8_t> input(12);
-    std::memcpy(input.data(), &channel, 8);
-    ResultReader report = otxCall(47, input); // limit 0: everything pending
-    EXPECT_EQ(report.take<uint8_t>(), 1) << "the report is present";
-    ASSERT_EQ(report.take<uint32_t>(), 1U) << "one event";
-    EXPECT_EQ(report.take<uint8_t>(), 1);
-    EXPECT_EQ(report.text(), "LockTaken");
-    EXPECT_EQ(report.take<int32_t>(), LockTaken);
-    report.take<int32_t>(); // code
-    EXPECT_FALSE(report.text().empty());
-    EXPECT_EQ(report.take<uint8_t>(), 0) << "no error record";
-    EXPECT_EQ(report.text().rfind("lock id ", 0), 0U);
-    EXPECT_EQ(report.at, report.bytes.size()) << "nothing follows the report";
 }
 
 TEST_F(Events, AnEmptyChannelGivesAnEmptyReportNotNull) {
