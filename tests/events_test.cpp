@@ -130,18 +130,6 @@ TEST_F(Events, EngineActionsComeBackOldestFirstWithTheirDetails) {
     }
 }
 
-TEST_F(Events, AnEmptyChannelGivesAnEmptyReportNotNull) {
-    const uint64_t channel = open();
-    ErrorSlot error;
-    EventReport* report = nullptr;
-    kel_getCurrentEvents(api, channel, 10, &error, &report);
-    ASSERT_FALSE(error);
-    ASSERT_NE(report, nullptr);
-    EXPECT_EQ(report->eventCount, 0U);
-    EXPECT_EQ(report->events, nullptr);
-    release_EventReport(report);
-}
-
 TEST_F(Events, LimitIsRespectedAndWhatIsReadIsGone) {
     const uint64_t channel = open();
     const uint64_t self = handle(api);

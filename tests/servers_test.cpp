@@ -1614,20 +1614,6 @@ TEST_F(Servers, ConnectionsAreBounded) {
 
 // Across processes
 
-// kel-sim-server --port sets servers.port in the description that is in use, read back
-// through this hook.
-TEST_F(Servers, TheDescriptionInUseIsHandedOutAsJson) {
-    const int64_t length = kelsim_vehicleJson(nullptr, 0);
-    ASSERT_GT(length, 0);
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    EXPECT_EQ(kelsim_vehicleJson(text.data(), text.size()), length);
-    text.resize(static_cast<std::size_t>(length));
-    EXPECT_EQ(nlohmann::json::parse(text), nlohmann::json::parse(vehicle));
-    char cut[8];
-    EXPECT_EQ(kelsim_vehicleJson(cut, sizeof cut), length);
-    EXPECT_EQ(std::string(cut), text.substr(0, 7));
-}
-
 // kel-sim-server started as a process of its own (path from the build, or KEL_SIM_SERVER),
 // fed through a pipe on stdin so that it ends with the test even when the test does not
 // get to stop it. The address is the one line it prints.
