@@ -109,11 +109,7 @@ TEST_F(Dispatch, ResultLayoutsMatchTheGoldenVectors) {
 }
 
 TEST_F(Dispatch, HandleSelectsTheEngineOnlyForItsOperations) {
-    KelError* error = nullptr;
-    uint64_t handle = 0;
-    kel_getHandle(api, &error, &handle);
-    ASSERT_EQ(error, nullptr);
-
+    const uint64_t handle = kel_test::handleOf(api);
     // 61 getHandle is served by the engine that `handle` selects: a remote connection.
     const OtxResult remote = otxCall(61, {}, handle);
     ASSERT_EQ(remote.bytes.size(), 9U);

@@ -15,6 +15,7 @@ namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::handleOf;
 
 // The vehicle's event kinds, as the reference engine numbers them.
 enum : int32_t {
@@ -90,13 +91,6 @@ protected:
         }
         return consume(report);
     }
-    uint64_t handle(TarnApi* of) {
-        ErrorSlot error;
-        uint64_t value = 0;
-        kel_getHandle(of, &error, &value);
-        EXPECT_FALSE(error);
-        return value;
-    }
 };
 
 TEST_F(Events, EngineActionsComeBackOldestFirstWithTheirDetails) {
@@ -132,7 +126,7 @@ TEST_F(Events, EngineActionsComeBackOldestFirstWithTheirDetails) {
 
 TEST_F(Events, LimitIsRespectedAndWhatIsReadIsGone) {
     const uint64_t channel = open();
-    const uint64_t self = handle(api);
+    const uint64_t self = handleOf(api);
     for (int32_t i = 0; i < 5; ++i) {
         ASSERT_EQ(kelsim_postEvent(self, 100, i, L"scripted", L"", 0, nullptr), 0);
     }
@@ -221,9 +215,9 @@ TEST_F(Events, ConnectionReportsBecomeEventsAndABrokenOneCarriesAnError) {
 TEST_F(Events, ScriptedEventsKeepEveryFieldAndNullTextsBecomeEmpty) {
     const uint64_t channel = open();
     ASSERT_EQ(
-        kelsim_postEvent(handle(api), 321, -7, L"t\u00e9xt", L"d\u00e9tail", 55, L"m\u00e9ssage"),
+        kelsim_postEvent(handleOf(api), 321, -7, L"t\u00e9xt", L"d\u00e9tail", 55, L"m\u00e9ssage"),
         0);
-    ASSERT_EQ(kelsim_postEvent(handle(api), 100, 0, nullptr, nullptr, 0, nullptr), 0);
+    ASSERT_EQ(kelsim_postEvent(handleOf(api), 100, 0, nullptr, nullptr, 0, nullptr), 0);
     EXPECT_EQ(kelsim_postEvent(0, 100, 0, nullptr, nullptr, 0, nullptr), -1);
 
     const auto events = read(channel);
@@ -242,7 +236,7 @@ TEST_F(Events, ScriptedEventsKeepEveryFieldAndNullTextsBecomeEmpty) {
 
 TEST_F(Events, AFullChannelDropsTheOldestAndSaysHowMany) {
     const uint64_t channel = open();
-    const uint64_t self = handle(api);
+    const uint64_t self = handleOf(api);
     constexpr int32_t capacity = 10000;
     for (int32_t i = 0; i < capacity + 5; ++i) {
         kelsim_postEvent(self, 100, i, nullptr, nullptr, 0, nullptr);
@@ -261,7 +255,7 @@ TEST_F(Events, TheDescriptionSetsTheChannelCapacity) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"channelCapacity": 3}})"), 0);
     const uint64_t channel = open();
     for (int32_t i = 0; i < 5; ++i) {
-        kelsim_postEvent(handle(api), 100, i, nullptr, nullptr, 0, nullptr);
+        kelsim_postEvent(handleOf(api), 100, i, nullptr, nullptr, 0, nullptr);
     }
     const auto events = read(channel);
     ASSERT_EQ(kinds(events), (std::vector<int32_t>{EventsLost, 100, 100, 100}));
@@ -297,7 +291,7 @@ TEST_F(Events, OpeningChannelsWithoutEndIsRefusedWithAnError) {
 TEST_F(Events, TheChannelLimitComesFromTheDescriptionAndCoversRemoteConnections) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"maxChannels": 2}})"), 0);
     ErrorSlot error;
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
     const uint64_t first = open();
     open(remote);
@@ -329,9 +323,9 @@ TEST_F(Events, AnEventsSectionThatIsNotValidRefusesTheDescription) {
 TEST_F(Events, RemoteClientsComingAndGoingAreEvents) {
     const uint64_t channel = open();
     ErrorSlot error;
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
-    const uint64_t remoteHandle = handle(remote);
+    const uint64_t remoteHandle = handleOf(remote);
     uint64_t lockId = 0;
     kel_lock(remote, &error, &lockId);
     ASSERT_FALSE(error);
@@ -392,7 +386,7 @@ TEST_F(ServerHandlers, HearRemoteClientsAndAreNeverDeletedByTheEngine) {
     registerHandler(api, handler.get()); // twice: still told once per client
 
     ErrorSlot error;
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
     const auto connected = handler->heard();
     ASSERT_EQ(connected.size(), 1U);
@@ -415,7 +409,7 @@ TEST_F(ServerHandlers, ARemoteConnectionOutlivingTheLocalEngineStillReachesTheHa
     bool destroyed = false;
     RecordingHandler handler(destroyed);
     ErrorSlot error;
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
     registerHandler(remote, &handler); // registered through the remote object: same vehicle
     releaseTarnApi(api);
@@ -446,7 +440,7 @@ TEST_F(ServerHandlers, AnEmptyHandlerIsHarmlessThroughTheExportAndTheDispatcher)
     bool destroyed = false;
     RecordingHandler handler(destroyed);
     registerHandler(api, &handler);
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
     releaseTarnApi(remote);
     const auto heard = handler.heard();
@@ -466,7 +460,7 @@ TEST_F(EventsConcurrency, ProducersAndOneConsumerPerChannelLoseAndRepeatNothing)
     constexpr int32_t lockRounds = 150;
     constexpr size_t expected = producers * perProducer + 2 * lockRounds;
 
-    const uint64_t self = handle(api);
+    const uint64_t self = handleOf(api);
     ErrorSlot error;
     TarnApi* remote = kel_getRemoteConnectionByHandle(self, &error);
     ASSERT_NE(remote, nullptr);

@@ -859,11 +859,7 @@ TEST_F(FilesTest, PublicDirectoriesAreRealFoldersAndMoreCanBeAdded) {
 // Users, certificates, interfaces, the update store and the engine's configuration are
 // the engine's alone: no public directory reaches them, whoever asks.
 TEST_F(FilesTest, TheEnginesOwnFilesAreOutOfEveryPublicDirectorysReach) {
-    const auto code = [](auto call) {
-        ErrorSlot error;
-        call(&error);
-        return error ? error->code : 0;
-    };
+    const auto code = [](auto call) { return kel_test::errorCodeOf(call); };
     for (const wchar_t* folder :
          {L"users", L"certificates", L"interfaces", L"updates", L"users/more", L"updates/packages",
           L"configuration", L"configuration/engine.json", L"projects/.."}) {

@@ -51,6 +51,7 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::freshTempPath;
+using kel_test::handleOf;
 namespace ref = Varno::Kel_cpp::Reference;
 
 enum : int32_t {
@@ -331,7 +332,7 @@ protected:
 
     TarnApi* remote() {
         ErrorSlot error;
-        TarnApi* connection = kel_getRemoteConnectionByHandle(handle(api), &error);
+        TarnApi* connection = kel_getRemoteConnectionByHandle(handleOf(api), &error);
         EXPECT_NE(connection, nullptr);
         remotes_.push_back(connection);
         return connection;
@@ -364,20 +365,9 @@ protected:
         return static_cast<uint16_t>(std::stoul(address_.substr(address_.rfind(L':') + 1)));
     }
 
-    static uint64_t handle(TarnApi* of) {
-        ErrorSlot error;
-        uint64_t value = 0;
-        kel_getHandle(of, &error, &value);
-        EXPECT_FALSE(error);
-        return value;
-    }
-
-    // The error code of a failed call, 0 for success.
     template <class Call>
     static int32_t code(Call call) {
-        ErrorSlot error;
-        call(&error);
-        return error ? error->code : 0;
+        return kel_test::errorCodeOf(call);
     }
 
     // The error code that a kel_call of `number`, without input, streams back: 0 for
@@ -501,7 +491,7 @@ TEST_F(Servers, UserManagementRefusesARemoteConnectionThatHasNotLoggedIn) {
     EXPECT_NE(std::wstring(refused->message).find(L"log in"), std::wstring::npos);
     EXPECT_EQ(state, -1);
     EXPECT_EQ(usersCode(client), NotLoggedIn);
-    EXPECT_EQ(streamedError(handle(api), 49), NotLoggedIn)
+    EXPECT_EQ(streamedError(handleOf(api), 49), NotLoggedIn)
         << "kel_call with the local handle goes through the same remote connection";
 
     uint8_t enabled = 0;
@@ -831,7 +821,7 @@ TEST_F(Servers, AnOperatorCancelsOnlyItsOwnAsynchronousCalls) {
         << "another's ids are ignored as unknown ones are";
     EXPECT_EQ(code([&](KelError** e) { kel_triggerAsyncCancels(bert, annas, 2, e); }), 0);
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAllAsyncCalls(bert, e); }), NeedsAdministrator);
-    EXPECT_EQ(kelsim_runningAsyncCalls(handle(api)), 2);
+    EXPECT_EQ(kelsim_runningAsyncCalls(handleOf(api)), 2);
 
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(anna, &annas[0], 1, e); }), 0);
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(root, &annas[1], 1, e); }), 0);
@@ -870,8 +860,8 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     ASSERT_FALSE(error);
     auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
     remotes_.push_back(client);
-    const uint64_t clientHandle = handle(client);
-    EXPECT_NE(clientHandle, handle(api));
+    const uint64_t clientHandle = handleOf(client);
+    EXPECT_NE(clientHandle, handleOf(api));
     EXPECT_EQ(getState(client), 0) << "the handle reaches the remote engine object";
     ASSERT_EQ(handler.heard().size(), 1U);
     const std::wstring name = handler.heard()[0].substr(1);
@@ -1095,7 +1085,7 @@ TEST_F(Servers, ARemoteObjectOnASocketCallsReportsAndReadsEvents) {
     ASSERT_NE(client, nullptr);
     EXPECT_EQ(address_.rfind(L"kel://127.0.0.1:", 0), 0U);
     EXPECT_EQ(getState(client), 0);
-    EXPECT_NE(handle(client), handle(api)) << "the server's engine object of the socket";
+    EXPECT_NE(handleOf(client), handleOf(api)) << "the server's engine object of the socket";
     EXPECT_EQ(code([&](KelError** e) { kel_logOut(client, credentials(L"nobody", password), e); }),
               NotLoggedIn)
         << "an engine error comes back with its code";
@@ -1165,7 +1155,7 @@ TEST_F(Servers, AMalformedFrameClosesOnlyItsConnection) {
 
 TEST_F(Servers, TheServerEndsSocketsCleanlyAndAClientThatVanishesIsABrokenConnection) {
     TarnApi* client = connection();
-    const uint64_t own = handle(client);
+    const uint64_t own = handleOf(client);
     const uint64_t channel = openChannel();
     // The server ends its sockets: the client fails its calls at once.
     ASSERT_EQ(code([&](KelError** e) { kel_stopServer(api, L"", e); }), 0);
@@ -1870,7 +1860,7 @@ TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnecti
     ASSERT_NO_FATAL_FAILURE(startServer({"--delay", "readDtcs=20000"}));
     const auto port = server_->port();
     TarnApi* client = connect();
-    const uint64_t own = handle(client);
+    const uint64_t own = handleOf(client);
     const uint64_t channel = openChannel();
 
     auto call = std::async(std::launch::async, [&] { return readDtcs(client).first; });
