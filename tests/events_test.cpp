@@ -4,7 +4,6 @@
 
 #include <atomic>
 #include <chrono>
-#include <cstring>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -16,6 +15,7 @@ namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::handleOf;
 
 // The vehicle's event kinds, as the reference engine numbers them.
 enum : int32_t {
@@ -91,13 +91,6 @@ protected:
         }
         return consume(report);
     }
-    uint64_t handle(TarnApi* of) {
-        ErrorSlot error;
-        uint64_t value = 0;
-        kel_getHandle(of, &error, &value);
-        EXPECT_FALSE(error);
-        return value;
-    }
 };
 
 TEST_F(Events, EngineActionsComeBackOldestFirstWithTheirDetails) {
@@ -131,73 +124,9 @@ TEST_F(Events, EngineActionsComeBackOldestFirstWithTheirDetails) {
     }
 }
 
-// A minimal reader of kel_call results, enough to walk an event report.
-struct ResultReader {
-    std::vector<uint8_t> bytes;
-    size_t at = 0;
-    template <class T>
-    T take() {
-        T value{};
-        EXPECT_LE(at + sizeof(T), bytes.size());
-        if (at + sizeof(T) <= bytes.size()) {
-            std::memcpy(&value, bytes.data() + at, sizeof(T));
-        }
-        at += sizeof(T);
-        return value;
-    }
-    std::string text() {
-        const auto length = take<uint32_t>();
-        std::string out(reinterpret_cast<const char*>(bytes.data() + at), length);
-        at += length;
-        return out;
-    }
-};
-
-ResultReader otxCall(int32_t operation, const std::vector<uint8_t>& input = {}) {
-    void* stream = nullptr;
-    uint64_t size = 0;
-    kel_call_checked(0, operation, input.data(), input.size(), &stream, &size);
-    ResultReader result;
-    result.bytes.resize(size);
-    kel_call_result(stream, result.bytes.data());
-    EXPECT_EQ(result.take<uint8_t>(), 1) << "status of operation " << operation;
-    return result;
-}
-
-TEST_F(Events, ComeBackThroughKelCallToo) {
-    // 45 openEventChannel, 147 lock, 47 getCurrentEvents(channel, limit).
-    const auto channel = otxCall(45).take<uint64_t>();
-    otxCall(147);
-    std::vector<uint8_t> input(12);
-    std::memcpy(input.data(), &channel, 8);
-    ResultReader report = otxCall(47, input); // limit 0: everything pending
-    EXPECT_EQ(report.take<uint8_t>(), 1) << "the report is present";
-    ASSERT_EQ(report.take<uint32_t>(), 1U) << "one event";
-    EXPECT_EQ(report.take<uint8_t>(), 1);
-    EXPECT_EQ(report.text(), "LockTaken");
-    EXPECT_EQ(report.take<int32_t>(), LockTaken);
-    report.take<int32_t>(); // code
-    EXPECT_FALSE(report.text().empty());
-    EXPECT_EQ(report.take<uint8_t>(), 0) << "no error record";
-    EXPECT_EQ(report.text().rfind("lock id ", 0), 0U);
-    EXPECT_EQ(report.at, report.bytes.size()) << "nothing follows the report";
-}
-
-TEST_F(Events, AnEmptyChannelGivesAnEmptyReportNotNull) {
-    const uint64_t channel = open();
-    ErrorSlot error;
-    EventReport* report = nullptr;
-    kel_getCurrentEvents(api, channel, 10, &error, &report);
-    ASSERT_FALSE(error);
-    ASSERT_NE(report, nullptr);
-    EXPECT_EQ(report->eventCount, 0U);
-    EXPECT_EQ(report->events, nullptr);
-    release_EventReport(report);
-}
-
 TEST_F(Events, LimitIsRespectedAndWhatIsReadIsGone) {
     const uint64_t channel = open();
-    const uint64_t self = handle(api);
+    const uint64_t self = handleOf(api);
     for (int32_t i = 0; i < 5; ++i) {
         ASSERT_EQ(kelsim_postEvent(self, 100, i, L"scripted", L"", 0, nullptr), 0);
     }
@@ -286,9 +215,9 @@ TEST_F(Events, ConnectionReportsBecomeEventsAndABrokenOneCarriesAnError) {
 TEST_F(Events, ScriptedEventsKeepEveryFieldAndNullTextsBecomeEmpty) {
     const uint64_t channel = open();
     ASSERT_EQ(
-        kelsim_postEvent(handle(api), 321, -7, L"t\u00e9xt", L"d\u00e9tail", 55, L"m\u00e9ssage"),
+        kelsim_postEvent(handleOf(api), 321, -7, L"t\u00e9xt", L"d\u00e9tail", 55, L"m\u00e9ssage"),
         0);
-    ASSERT_EQ(kelsim_postEvent(handle(api), 100, 0, nullptr, nullptr, 0, nullptr), 0);
+    ASSERT_EQ(kelsim_postEvent(handleOf(api), 100, 0, nullptr, nullptr, 0, nullptr), 0);
     EXPECT_EQ(kelsim_postEvent(0, 100, 0, nullptr, nullptr, 0, nullptr), -1);
 
     const auto events = read(channel);
@@ -307,7 +236,7 @@ TEST_F(Events, ScriptedEventsKeepEveryFieldAndNullTextsBecomeEmpty) {
 
 TEST_F(Events, AFullChannelDropsTheOldestAndSaysHowMany) {
     const uint64_t channel = open();
-    const uint64_t self = handle(api);
+    const uint64_t self = handleOf(api);
     constexpr int32_t capacity = 10000;
     for (int32_t i = 0; i < capacity + 5; ++i) {
         kelsim_postEvent(self, 100, i, nullptr, nullptr, 0, nullptr);
@@ -326,7 +255,7 @@ TEST_F(Events, TheDescriptionSetsTheChannelCapacity) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"channelCapacity": 3}})"), 0);
     const uint64_t channel = open();
     for (int32_t i = 0; i < 5; ++i) {
-        kelsim_postEvent(handle(api), 100, i, nullptr, nullptr, 0, nullptr);
+        kelsim_postEvent(handleOf(api), 100, i, nullptr, nullptr, 0, nullptr);
     }
     const auto events = read(channel);
     ASSERT_EQ(kinds(events), (std::vector<int32_t>{EventsLost, 100, 100, 100}));
@@ -362,7 +291,7 @@ TEST_F(Events, OpeningChannelsWithoutEndIsRefusedWithAnError) {
 TEST_F(Events, TheChannelLimitComesFromTheDescriptionAndCoversRemoteConnections) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "events": {"maxChannels": 2}})"), 0);
     ErrorSlot error;
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
     const uint64_t first = open();
     open(remote);
@@ -394,9 +323,9 @@ TEST_F(Events, AnEventsSectionThatIsNotValidRefusesTheDescription) {
 TEST_F(Events, RemoteClientsComingAndGoingAreEvents) {
     const uint64_t channel = open();
     ErrorSlot error;
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
-    const uint64_t remoteHandle = handle(remote);
+    const uint64_t remoteHandle = handleOf(remote);
     uint64_t lockId = 0;
     kel_lock(remote, &error, &lockId);
     ASSERT_FALSE(error);
@@ -457,7 +386,7 @@ TEST_F(ServerHandlers, HearRemoteClientsAndAreNeverDeletedByTheEngine) {
     registerHandler(api, handler.get()); // twice: still told once per client
 
     ErrorSlot error;
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
     const auto connected = handler->heard();
     ASSERT_EQ(connected.size(), 1U);
@@ -480,7 +409,7 @@ TEST_F(ServerHandlers, ARemoteConnectionOutlivingTheLocalEngineStillReachesTheHa
     bool destroyed = false;
     RecordingHandler handler(destroyed);
     ErrorSlot error;
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
     registerHandler(remote, &handler); // registered through the remote object: same vehicle
     releaseTarnApi(api);
@@ -511,7 +440,7 @@ TEST_F(ServerHandlers, AnEmptyHandlerIsHarmlessThroughTheExportAndTheDispatcher)
     bool destroyed = false;
     RecordingHandler handler(destroyed);
     registerHandler(api, &handler);
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle(api), &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
     releaseTarnApi(remote);
     const auto heard = handler.heard();
@@ -531,7 +460,7 @@ TEST_F(EventsConcurrency, ProducersAndOneConsumerPerChannelLoseAndRepeatNothing)
     constexpr int32_t lockRounds = 150;
     constexpr size_t expected = producers * perProducer + 2 * lockRounds;
 
-    const uint64_t self = handle(api);
+    const uint64_t self = handleOf(api);
     ErrorSlot error;
     TarnApi* remote = kel_getRemoteConnectionByHandle(self, &error);
     ASSERT_NE(remote, nullptr);

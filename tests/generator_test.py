@@ -235,43 +235,12 @@ class Roles(unittest.TestCase):
 
 
 class Generated(unittest.TestCase):
-    RECORDS = """
-        record Thing
-            wstr name
-            u32 value
-        # Handed in as a Thing, without its value.
-        record ThingInput as=Thing
-            wstr name
-        """
-
     def setUp(self):
-        self.description = Description(self.RECORDS, """\
-            op 2 take (list ThingInput things thingCount) -> flag taken
-            op 3 give (rec ThingInput thing, flag enabled)
-            op 4 special (wstr text) -> wstr result custom
-            op 5 plain (rec Thing thing)
-            """)
+        self.description = Description("", "op 4 special (wstr text) -> wstr result custom\n")
         self.iface = self.description.parse()
-        self.ops = {op.name: op for op in self.iface.operations}
 
     def tearDown(self):
         self.description.close()
-
-    def test_as_inputs_name_their_engine_class(self):
-        exports = generate.binding_exports_cpp(self.iface)
-        self.assertIn("kel::in::records<::Thing, Varno::Kel_cpp::ThingInput>(things, thingCount)", exports)
-        self.assertIn("kel::in::record<::Thing, Varno::Kel_cpp::ThingInput>(thing)", exports)
-        self.assertIn("kel::in::record(thing)", exports, "a record's own class needs no name")
-        self.assertEqual(generate.c_signature(self.ops["take"]),
-                         "void kel_take(TarnApi* api, Thing** things, uint32_t thingCount, KelError** error, "
-                         "uint8_t* taken)")
-
-    def test_flags_are_bytes_in_c_and_bool_in_the_engine(self):
-        self.assertEqual(generate.engine_signature(self.ops["give"]),
-                         "void give(std::shared_ptr<ThingInput> thing, bool enabled)")
-        self.assertIn("uint8_t enabled", generate.c_signature(self.ops["give"]))
-        self.assertIn("enabled != 0", generate.export_body(self.ops["give"]))
-        self.assertEqual(generate.engine_signature(self.ops["take"]).split(" ", 1)[0], "bool")
 
     def test_custom_exports_are_declared_but_not_written(self):
         header = generate.c_header(self.iface)
@@ -284,12 +253,6 @@ class Generated(unittest.TestCase):
         (self.description.root / "kel_c" / "custom").mkdir(parents=True)
         (self.description.root / "kel_c" / "custom" / "special.cpp").write_text("")
         self.assertEqual(generate.missing_custom_exports(self.iface, self.description.root), [])
-
-    def test_release_functions_for_every_c_record_only(self):
-        names = generate.exports_txt(self.iface).split()
-        self.assertIn("release_Thing", names)
-        self.assertIn("release_Thing_array", names)
-        self.assertNotIn("release_ThingInput", names, "an as= class is released as its C record")
 
 
 if __name__ == "__main__":

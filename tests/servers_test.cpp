@@ -51,6 +51,7 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::freshTempPath;
+using kel_test::handleOf;
 namespace ref = Varno::Kel_cpp::Reference;
 
 enum : int32_t {
@@ -331,7 +332,7 @@ protected:
 
     TarnApi* remote() {
         ErrorSlot error;
-        TarnApi* connection = kel_getRemoteConnectionByHandle(handle(api), &error);
+        TarnApi* connection = kel_getRemoteConnectionByHandle(handleOf(api), &error);
         EXPECT_NE(connection, nullptr);
         remotes_.push_back(connection);
         return connection;
@@ -348,29 +349,42 @@ protected:
             address_ = address;
             release_Memory(address);
         }
+        return connectTo(address_);
+    }
+    TarnApi* connectTo(const std::wstring& where) {
         uint64_t registered = 0;
         ErrorSlot failed;
-        kel_connectRemoteServer(api, address_.c_str(), &failed, &registered);
-        EXPECT_FALSE(failed);
+        kel_connectRemoteServer(api, where.c_str(), &failed, &registered);
+        EXPECT_FALSE(failed) << (failed ? failed->code : 0);
         auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
         remotes_.push_back(client);
         return client;
     }
-
-    static uint64_t handle(TarnApi* of) {
-        ErrorSlot error;
-        uint64_t value = 0;
-        kel_getHandle(of, &error, &value);
-        EXPECT_FALSE(error);
-        return value;
+    // The port of the started server's kel://127.0.0.1:<port>.
+    uint16_t port() const {
+        return static_cast<uint16_t>(std::stoul(address_.substr(address_.rfind(L':') + 1)));
     }
 
-    // The error code of a failed call, 0 for success.
     template <class Call>
     static int32_t code(Call call) {
-        ErrorSlot error;
-        call(&error);
-        return error ? error->code : 0;
+        return kel_test::errorCodeOf(call);
+    }
+
+    // The error code that a kel_call of `number`, without input, streams back: 0 for
+    // success, -1 for a failure without its error record.
+    static int32_t streamedError(uint64_t on, int32_t number) {
+        void* stream = nullptr;
+        uint64_t size = 0;
+        kel_call(on, number, nullptr, &stream, &size);
+        std::vector<uint8_t> result(size);
+        kel_call_result(stream, result.data());
+        int32_t streamed = -1;
+        if (!result.empty() && result[0] == 1) {
+            streamed = 0;
+        } else if (result.size() >= 6 && result[1] == 1) {
+            std::memcpy(&streamed, result.data() + 2, 4);
+        }
+        return streamed;
     }
 
     static LogInOutConfig* credentials(const wchar_t* user, const wchar_t* secret) {
@@ -393,6 +407,12 @@ protected:
         return code([&](KelError** e) { kel_getState(on, e, &state); });
     }
 
+    static int32_t usersCode(TarnApi* on) {
+        return code([&](KelError** e) {
+            kel_test::List<UserInfo, release_UserInfo_array> list;
+            kel_getUsers(on, e, &list.items, &list.count);
+        });
+    }
     static std::vector<std::pair<std::wstring, uint32_t>> users(TarnApi* on) {
         ErrorSlot error;
         kel_test::List<UserInfo, release_UserInfo_array> list;
@@ -426,6 +446,23 @@ protected:
         return result;
     }
 
+    // Reads the channel until what came satisfies `enough`, for 15 s at most; all that came.
+    template <class Enough>
+    std::vector<Event> eventsUntil(uint64_t channel, Enough enough) {
+        std::vector<Event> heard;
+        const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(15);
+        while (!enough(heard) && std::chrono::steady_clock::now() < until) {
+            const auto more = events(channel);
+            heard.insert(heard.end(), more.begin(), more.end());
+            std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        }
+        return heard;
+    }
+    static bool hasKind(const std::vector<Event>& heard, int32_t kind) {
+        return std::any_of(heard.begin(), heard.end(),
+                           [&](const Event& e) { return e.kind == kind; });
+    }
+
     std::string usersFile() const {
         std::ifstream in(root_ / "users" / "users.json", std::ios::binary);
         std::ostringstream text;
@@ -453,23 +490,9 @@ TEST_F(Servers, UserManagementRefusesARemoteConnectionThatHasNotLoggedIn) {
     EXPECT_EQ(refused->code, NotLoggedIn);
     EXPECT_NE(std::wstring(refused->message).find(L"log in"), std::wstring::npos);
     EXPECT_EQ(state, -1);
-    EXPECT_EQ(code([&](KelError** e) {
-                  kel_test::List<UserInfo, release_UserInfo_array> list;
-                  kel_getUsers(client, e, &list.items, &list.count);
-              }),
-              NotLoggedIn);
-    // kel_call with the local handle goes through the same remote connection.
-    void* stream = nullptr;
-    uint64_t size = 0;
-    kel_call(handle(api), 49, nullptr, &stream, &size);
-    std::vector<uint8_t> result(size);
-    kel_call_result(stream, result.data());
-    ASSERT_GE(result.size(), 6U);
-    EXPECT_EQ(result[0], 0) << "status byte: failed";
-    EXPECT_EQ(result[1], 1) << "the error record is present";
-    int32_t streamedCode = 0;
-    std::memcpy(&streamedCode, result.data() + 2, 4);
-    EXPECT_EQ(streamedCode, NotLoggedIn);
+    EXPECT_EQ(usersCode(client), NotLoggedIn);
+    EXPECT_EQ(streamedError(handleOf(api), 49), NotLoggedIn)
+        << "kel_call with the local handle goes through the same remote connection";
 
     uint8_t enabled = 0;
     EXPECT_EQ(code([&](KelError** e) { kel_getServerUserManagement(client, e, &enabled); }), 0);
@@ -479,12 +502,7 @@ TEST_F(Servers, UserManagementRefusesARemoteConnectionThatHasNotLoggedIn) {
 
     EXPECT_EQ(logIn(client, L"op", L"op-password"), 0);
     EXPECT_EQ(getState(client), 0);
-    EXPECT_EQ(code([&](KelError** e) {
-                  kel_test::List<UserInfo, release_UserInfo_array> list;
-                  kel_getUsers(client, e, &list.items, &list.count);
-              }),
-              NeedsAdministrator)
-        << "the user list is the administrators'";
+    EXPECT_EQ(usersCode(client), NeedsAdministrator) << "the user list is the administrators'";
     EXPECT_EQ(addUser(client, L"eve", L"x", Operator), NeedsAdministrator);
     EXPECT_EQ(userManagement(client, false), NeedsAdministrator);
 
@@ -565,11 +583,7 @@ TEST_F(Servers, UsersAndUserManagementSurviveARestart) {
     restart();
     client = remote();
     EXPECT_EQ(getState(client), UsersUnreadable);
-    EXPECT_EQ(code([&](KelError** e) {
-                  kel_test::List<UserInfo, release_UserInfo_array> list;
-                  kel_getUsers(api, e, &list.items, &list.count);
-              }),
-              UsersUnreadable);
+    EXPECT_EQ(usersCode(api), UsersUnreadable);
 }
 
 // Names and passwords with no UTF-8 form (an unpaired surrogate) are stored with U+FFFD
@@ -750,8 +764,34 @@ TEST_F(Servers, ARemoteEndEndsItsOwnSessionOnly) {
     EXPECT_EQ(logIn(client, L"anna", password), ConnectionEnded);
 }
 
-// Call ids are the vehicle's and easily guessed: an operator's cancel reaches only the
-// calls its own connection started; an administrator's reaches any.
+// Reports of an asynchronous call on a socket, to the caller's callback.
+struct Reports {
+    std::mutex mutex;
+    std::condition_variable changed;
+    int count = 0;
+    std::vector<int32_t> finals;
+    static void callback(ReadDtcResult** results, uint32_t count, bool isFinal, uint64_t,
+                         KelError* error, void* context) {
+        auto* self = static_cast<Reports*>(context);
+        release_ReadDtcResult_array(results, count);
+        const std::lock_guard lock(self->mutex);
+        ++self->count;
+        if (isFinal) {
+            self->finals.push_back(error != nullptr ? error->code : 0);
+        }
+        release_KelError(error);
+        self->changed.notify_all();
+    }
+    bool waitForFinals(std::size_t wanted) {
+        std::unique_lock lock(mutex);
+        return changed.wait_for(lock, std::chrono::seconds(20),
+                                [&] { return finals.size() >= wanted; });
+    }
+};
+
+// On sockets an operator is refused what the table refuses; and call ids are the
+// vehicle's and easily guessed: an operator's cancel reaches only the calls its own
+// connection started, an administrator's reaches any.
 TEST_F(Servers, AnOperatorCancelsOnlyItsOwnAsynchronousCalls) {
     ASSERT_EQ(addUser(api, L"root", password, Administrator), 0);
     ASSERT_EQ(addUser(api, L"anna", password, Operator), 0);
@@ -760,36 +800,19 @@ TEST_F(Servers, AnOperatorCancelsOnlyItsOwnAsynchronousCalls) {
     TarnApi* anna = connection();
     TarnApi* bert = connection();
     TarnApi* root = connection();
+    EXPECT_EQ(getState(anna), NotLoggedIn);
     ASSERT_EQ(logIn(anna, L"anna", password), 0);
+    EXPECT_EQ(addUser(anna, L"eve", password, Administrator), NeedsAdministrator)
+        << "on the socket too, the table refuses an operator";
     ASSERT_EQ(logIn(bert, L"bert", password), 0);
     ASSERT_EQ(logIn(root, L"root", password), 0);
 
     kelsim_setAsyncInterval("readSupportedDtcsAsync", 60000);
-    struct Finals {
-        std::mutex mutex;
-        std::condition_variable changed;
-        std::vector<int32_t> codes;
-        static void callback(ReadDtcResult** results, uint32_t count, bool isFinal, uint64_t,
-                             KelError* error, void* context) {
-            auto* self = static_cast<Finals*>(context);
-            release_ReadDtcResult_array(results, count);
-            const std::lock_guard lock(self->mutex);
-            if (isFinal) {
-                self->codes.push_back(error != nullptr ? error->code : 0);
-            }
-            release_KelError(error);
-            self->changed.notify_all();
-        }
-        bool waitFor(std::size_t count) {
-            std::unique_lock lock(mutex);
-            return changed.wait_for(lock, std::chrono::seconds(10),
-                                    [&] { return codes.size() >= count; });
-        }
-    } finals;
+    Reports finals;
     const auto start = [&](TarnApi* on) {
         ErrorSlot error;
         const uint64_t id =
-            kel_readSupportedDtcsAsync(on, nullptr, 0, nullptr, &error, Finals::callback, &finals);
+            kel_readSupportedDtcsAsync(on, nullptr, 0, nullptr, &error, Reports::callback, &finals);
         EXPECT_FALSE(error);
         return id;
     };
@@ -798,12 +821,12 @@ TEST_F(Servers, AnOperatorCancelsOnlyItsOwnAsynchronousCalls) {
         << "another's ids are ignored as unknown ones are";
     EXPECT_EQ(code([&](KelError** e) { kel_triggerAsyncCancels(bert, annas, 2, e); }), 0);
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAllAsyncCalls(bert, e); }), NeedsAdministrator);
-    EXPECT_EQ(kelsim_runningAsyncCalls(handle(api)), 2);
+    EXPECT_EQ(kelsim_runningAsyncCalls(handleOf(api)), 2);
 
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(anna, &annas[0], 1, e); }), 0);
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(root, &annas[1], 1, e); }), 0);
-    ASSERT_TRUE(finals.waitFor(2));
-    EXPECT_EQ(finals.codes, (std::vector<int32_t>{1012, 1012}));
+    ASSERT_TRUE(finals.waitForFinals(2));
+    EXPECT_EQ(finals.finals, (std::vector<int32_t>{1012, 1012}));
 }
 
 TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
@@ -837,8 +860,8 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     ASSERT_FALSE(error);
     auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
     remotes_.push_back(client);
-    const uint64_t clientHandle = handle(client);
-    EXPECT_NE(clientHandle, handle(api));
+    const uint64_t clientHandle = handleOf(client);
+    EXPECT_NE(clientHandle, handleOf(api));
     EXPECT_EQ(getState(client), 0) << "the handle reaches the remote engine object";
     ASSERT_EQ(handler.heard().size(), 1U);
     const std::wstring name = handler.heard()[0].substr(1);
@@ -851,16 +874,7 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     EXPECT_EQ(
         code([&](KelError** e) { kel_reconnectRemoteServer(client, registered, e, &unchanged); }),
         1005);
-    void* stream = nullptr;
-    uint64_t size = 0;
-    kel_call(registered, 49, nullptr, &stream, &size); // getState
-    std::vector<uint8_t> streamed(size);
-    kel_call_result(stream, streamed.data());
-    ASSERT_GE(streamed.size(), 6U);
-    EXPECT_EQ(streamed[0], 0) << "status byte: failed";
-    int32_t streamedCode = 0;
-    std::memcpy(&streamedCode, streamed.data() + 2, 4);
-    EXPECT_EQ(streamedCode, 1005);
+    EXPECT_EQ(streamedError(registered, 49), 1005);
 
     ServerSettings* settings = nullptr;
     kel_getServerSettings(client, &error, &settings);
@@ -909,15 +923,13 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     // The client's goodbye after disconnect reaches the server's engine object as the
     // closed connection (ConnectionClosed), on the connection's own thread.
     std::vector<int32_t> kinds;
-    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while ((kinds.empty() || kinds.back() != 10) && std::chrono::steady_clock::now() < until) {
-        for (const auto& e : events(channel)) {
-            kinds.push_back(e.kind);
-            if (e.kind == 31) {
-                EXPECT_EQ(e.detail, L"maintenance");
-            }
+    for (const auto& e : eventsUntil(channel, [](const auto& heard) {
+             return !heard.empty() && heard.back().kind == 10;
+         })) {
+        kinds.push_back(e.kind);
+        if (e.kind == 31) {
+            EXPECT_EQ(e.detail, L"maintenance");
         }
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
     }
     EXPECT_EQ(kinds, (std::vector<int32_t>{30, 11, 31, 12, 30, 11, 12, 11, 12, 10}));
 }
@@ -1068,37 +1080,12 @@ TEST_F(Servers, CertificatesComeFromTheStoreAndNoneIsMadeUp) {
     EXPECT_EQ(count, 0U);
 }
 
-// Reports of an asynchronous call on a socket, to the caller's callback.
-struct Reports {
-    std::mutex mutex;
-    std::condition_variable changed;
-    int count = 0;
-    std::vector<int32_t> finals;
-    static void callback(ReadDtcResult** results, uint32_t count, bool isFinal, uint64_t,
-                         KelError* error, void* context) {
-        auto* self = static_cast<Reports*>(context);
-        release_ReadDtcResult_array(results, count);
-        const std::lock_guard lock(self->mutex);
-        ++self->count;
-        if (isFinal) {
-            self->finals.push_back(error != nullptr ? error->code : 0);
-        }
-        release_KelError(error);
-        self->changed.notify_all();
-    }
-    bool waitForFinals(std::size_t wanted) {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, std::chrono::seconds(20),
-                                [&] { return finals.size() >= wanted; });
-    }
-};
-
 TEST_F(Servers, ARemoteObjectOnASocketCallsReportsAndReadsEvents) {
     TarnApi* client = connection();
     ASSERT_NE(client, nullptr);
     EXPECT_EQ(address_.rfind(L"kel://127.0.0.1:", 0), 0U);
     EXPECT_EQ(getState(client), 0);
-    EXPECT_NE(handle(client), handle(api)) << "the server's engine object of the socket";
+    EXPECT_NE(handleOf(client), handleOf(api)) << "the server's engine object of the socket";
     EXPECT_EQ(code([&](KelError** e) { kel_logOut(client, credentials(L"nobody", password), e); }),
               NotLoggedIn)
         << "an engine error comes back with its code";
@@ -1145,25 +1132,13 @@ TEST_F(Servers, AServerListensOnLoopbackOnly) {
               1319);
 }
 
-TEST_F(Servers, AnOperatorIsRefusedOnTheSocketWhatTheTableRefuses) {
-    ASSERT_EQ(addUser(api, L"anna", password, Operator), 0);
-    ASSERT_EQ(userManagement(api, true), 0);
-    TarnApi* anna = connection();
-    EXPECT_EQ(getState(anna), NotLoggedIn);
-    ASSERT_EQ(logIn(anna, L"anna", password), 0);
-    EXPECT_EQ(getState(anna), 0);
-    EXPECT_EQ(addUser(anna, L"eve", password, Administrator), NeedsAdministrator);
-}
-
 // A client that breaks the protocol loses its own connection, and no other.
 TEST_F(Servers, AMalformedFrameClosesOnlyItsConnection) {
     TarnApi* client = connection();
     namespace asio = boost::asio;
-    const auto colon = address_.rfind(L':');
-    const auto port = static_cast<uint16_t>(std::stoul(address_.substr(colon + 1)));
     asio::io_context io;
     asio::ip::tcp::socket raw(io);
-    raw.connect({asio::ip::make_address("127.0.0.1"), port});
+    raw.connect({asio::ip::make_address("127.0.0.1"), port()});
     std::vector<uint8_t> bytes(16, 0xEE); // no kind of the protocol, a length above the bound
     asio::write(raw, asio::buffer(bytes));
     boost::system::error_code error;
@@ -1180,7 +1155,7 @@ TEST_F(Servers, AMalformedFrameClosesOnlyItsConnection) {
 
 TEST_F(Servers, TheServerEndsSocketsCleanlyAndAClientThatVanishesIsABrokenConnection) {
     TarnApi* client = connection();
-    const uint64_t own = handle(client);
+    const uint64_t own = handleOf(client);
     const uint64_t channel = openChannel();
     // The server ends its sockets: the client fails its calls at once.
     ASSERT_EQ(code([&](KelError** e) { kel_stopServer(api, L"", e); }), 0);
@@ -1200,11 +1175,10 @@ TEST_F(Servers, TheServerEndsSocketsCleanlyAndAClientThatVanishesIsABrokenConnec
 
     // Now a raw client that vanishes mid-call: the server's engine object hears of it.
     namespace asio = boost::asio;
-    const auto port = static_cast<uint16_t>(std::stoul(address_.substr(address_.rfind(L':') + 1)));
     {
         asio::io_context io;
         asio::ip::tcp::socket raw(io);
-        raw.connect({asio::ip::make_address("127.0.0.1"), port});
+        raw.connect({asio::ip::make_address("127.0.0.1"), port()});
         const auto hello = ref::Wire::helloPayload();
         ref::Wire::Header header;
         header.kind = ref::Wire::Kind::Hello;
@@ -1217,16 +1191,9 @@ TEST_F(Servers, TheServerEndsSocketsCleanlyAndAClientThatVanishesIsABrokenConnec
         ref::Wire::writeHeader(header, half.data());
         asio::write(raw, asio::buffer(half));
     }
-    std::vector<int32_t> kinds;
-    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (std::find(kinds.begin(), kinds.end(), 9) == kinds.end() &&
-           std::chrono::steady_clock::now() < until) {
-        for (const auto& e : events(channel)) {
-            kinds.push_back(e.kind);
-        }
-        std::this_thread::sleep_for(std::chrono::milliseconds(5));
-    }
-    EXPECT_NE(std::find(kinds.begin(), kinds.end(), 9), kinds.end()) << "ConnectionBroken";
+    EXPECT_TRUE(
+        hasKind(eventsUntil(channel, [](const auto& heard) { return hasKind(heard, 9); }), 9))
+        << "ConnectionBroken";
 }
 
 // A server that dies mid-call: the client's call fails at once with 1301, and its local
@@ -1252,22 +1219,15 @@ TEST_F(Servers, AServerThatDiesMidCallEndsTheCallAndIsPostedLocally) {
     });
     const uint64_t channel = openChannel();
     const std::wstring where = L"kel://127.0.0.1:" + std::to_wstring(port);
-    uint64_t registered = 0;
-    ErrorSlot error;
-    kel_connectRemoteServer(api, where.c_str(), &error, &registered);
-    ASSERT_FALSE(error);
-    auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
-    remotes_.push_back(client);
+    TarnApi* client = connectTo(where);
     EXPECT_EQ(getState(client), ConnectionEnded);
     server.join();
     EXPECT_EQ(getState(client), ConnectionEnded);
     std::vector<Event> broken;
-    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(10);
-    while (broken.empty() && std::chrono::steady_clock::now() < until) {
-        for (const auto& e : events(channel)) {
-            if (e.kind == 9) {
-                broken.push_back(e);
-            }
+    for (const auto& e :
+         eventsUntil(channel, [](const auto& heard) { return hasKind(heard, 9); })) {
+        if (e.kind == 9) {
+            broken.push_back(e);
         }
     }
     ASSERT_EQ(broken.size(), 1U);
@@ -1301,8 +1261,7 @@ TEST_F(Servers, ALoginOnTheWireCarriesNoPasswordAndCannotBeReplayed) {
     TarnApi* first = connection(); // starts the server
     namespace asio = boost::asio;
     using asio::ip::tcp;
-    const auto serverPort =
-        static_cast<uint16_t>(std::stoul(address_.substr(address_.rfind(L':') + 1)));
+    const uint16_t serverPort = port();
     asio::io_context io;
     tcp::acceptor relay(io, {asio::ip::make_address("127.0.0.1"), 0});
     std::vector<uint8_t> sent;
@@ -1645,20 +1604,6 @@ TEST_F(Servers, ConnectionsAreBounded) {
 
 // Across processes
 
-// kel-sim-server --port sets servers.port in the description that is in use, read back
-// through this hook.
-TEST_F(Servers, TheDescriptionInUseIsHandedOutAsJson) {
-    const int64_t length = kelsim_vehicleJson(nullptr, 0);
-    ASSERT_GT(length, 0);
-    std::string text(static_cast<std::size_t>(length) + 1, '\0');
-    EXPECT_EQ(kelsim_vehicleJson(text.data(), text.size()), length);
-    text.resize(static_cast<std::size_t>(length));
-    EXPECT_EQ(nlohmann::json::parse(text), nlohmann::json::parse(vehicle));
-    char cut[8];
-    EXPECT_EQ(kelsim_vehicleJson(cut, sizeof cut), length);
-    EXPECT_EQ(std::string(cut), text.substr(0, 7));
-}
-
 // kel-sim-server started as a process of its own (path from the build, or KEL_SIM_SERVER),
 // fed through a pipe on stdin so that it ends with the test even when the test does not
 // get to stop it. The address is the one line it prints.
@@ -1869,15 +1814,7 @@ protected:
             << "the line it printed: " << server_->address();
     }
 
-    TarnApi* connect() {
-        ErrorSlot error;
-        uint64_t registered = 0;
-        kel_connectRemoteServer(api, server_->wideAddress().c_str(), &error, &registered);
-        EXPECT_FALSE(error) << server_->address() << ": " << (error ? error->code : 0);
-        auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
-        remotes_.push_back(client);
-        return client;
-    }
+    TarnApi* connect() { return connectTo(server_->wideAddress()); }
 
     // The DTCs read through `on`: target, then its codes as text; or the call's error code.
     static std::pair<int32_t, std::map<std::wstring, std::vector<std::wstring>>>
@@ -1923,7 +1860,7 @@ TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnecti
     ASSERT_NO_FATAL_FAILURE(startServer({"--delay", "readDtcs=20000"}));
     const auto port = server_->port();
     TarnApi* client = connect();
-    const uint64_t own = handle(client);
+    const uint64_t own = handleOf(client);
     const uint64_t channel = openChannel();
 
     auto call = std::async(std::launch::async, [&] { return readDtcs(client).first; });
@@ -1933,14 +1870,7 @@ TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnecti
     ASSERT_EQ(call.wait_for(std::chrono::seconds(15)), std::future_status::ready);
     EXPECT_EQ(call.get(), ConnectionEnded);
 
-    std::vector<Event> heard;
-    const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(15);
-    while (std::chrono::steady_clock::now() < until &&
-           std::none_of(heard.begin(), heard.end(), [](const Event& e) { return e.kind == 9; })) {
-        const auto more = events(channel);
-        heard.insert(heard.end(), more.begin(), more.end());
-        std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    }
+    const auto heard = eventsUntil(channel, [](const auto& seen) { return hasKind(seen, 9); });
     EXPECT_TRUE(std::any_of(heard.begin(), heard.end(), [&](const Event& e) {
         return e.kind == 9 && e.detail.find(server_->wideAddress()) != std::wstring::npos;
     })) << "ConnectionBroken naming the server, on the engine object that connected";

@@ -68,14 +68,6 @@ TEST(StreamStrings, ReadLengthPrefixedOrUpToTheNul) {
     EXPECT_EQ(nul.position, 1U);
 }
 
-TEST(StreamStrings, MalformedUtf8BecomesReplacementCharacters) {
-    const std::string bad = "A\xFF"
-                            "B\xC3";
-    EXPECT_EQ(kel::utf8::decode(bad), L"A\uFFFDB\uFFFD");
-    EXPECT_EQ(kel::utf8::decode(std::string("\xF0\x9F\x9A\x97")), L"\U0001F697");
-    EXPECT_EQ(kel::utf8::encode(L"\u00E9\U0001F697"), "\xC3\xA9\xF0\x9F\x9A\x97");
-}
-
 // The ASCII runs go several units at a time: a character of each UTF-8 length, and a
 // malformed byte, at every offset across those steps.
 TEST(StreamStrings, NonAsciiAtEveryOffsetOfAnAsciiRun) {

@@ -76,6 +76,23 @@ struct AsyncWatch {
     }
 };
 
+// The handle of an engine object (kel_getHandle), 0 if it has none.
+inline uint64_t handleOf(TarnApi* object) {
+    ErrorSlot error;
+    uint64_t handle = 0;
+    kel_getHandle(object, &error, &handle);
+    EXPECT_FALSE(error);
+    return handle;
+}
+
+// The error code of `call(&error)`, 0 when it succeeded.
+template <class Call>
+int32_t errorCodeOf(Call call) {
+    ErrorSlot error;
+    call(&error);
+    return error ? error->code : 0;
+}
+
 inline std::string lastArguments(const char* operation) {
     char buffer[4096];
     const int64_t length = kelsim_lastArguments(operation, buffer, sizeof buffer);

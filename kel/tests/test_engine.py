@@ -2,11 +2,9 @@
 
 from __future__ import annotations
 
-import struct
 import unittest
 
 import kel
-from kel.generated import stream
 
 from .support import EngineTest, last_arguments, script, sim
 
@@ -111,15 +109,6 @@ class Errors(EngineTest):
         self.assertIsNone(e.mvci_error)
         self.assertIn("error 42", str(e))
 
-    def test_the_mvci_error_comes_as_a_dataclass(self) -> None:
-        sim.kelsim_failNextWithMvci(b"lock", 1, 42, 7, "m", "d", 0x0101, "PDU_ERR_COMM_PC_TO_VCI_FAILED", -3,
-                                    "VCI timeout", "", 9)
-        with self.assertRaises(kel.EngineError) as raised:
-            self.engine.lock()
-        self.assertEqual(raised.exception.mvci_error,
-                         kel.MvciServerError(code=0x0101, code_text="PDU_ERR_COMM_PC_TO_VCI_FAILED", vendor_code=-3,
-                                             vendor_code_text="VCI timeout", extra_text="", extra_code=9))
-
     def test_a_per_item_error_can_be_raised_by_the_caller(self) -> None:
         acc = self.engine.identify_target("ACC")
         assert acc is not None and acc.error is not None
@@ -131,17 +120,6 @@ class Errors(EngineTest):
         # py_call returns the state itself, so -1 alone cannot mean failure.
         script("getState", "-1")
         self.assertEqual(self.engine.get_state(), -1)
-
-    def test_get_state_fails_alike_by_the_export_and_by_the_stream(self) -> None:
-        # get_state takes the C export directly; the stream route must give the same error.
-        raised = []
-        for call in (self.engine.get_state, lambda: self.engine._call(49, b"")):
-            sim.kelsim_failNextWithMvci(b"getState", 1, 42, 7, "m", "d", 0x0101, "PDU_ERR", -3, "x", "y", 5)
-            with self.assertRaises(kel.EngineError) as caught:
-                call()
-            raised.append(caught.exception)
-        self.assertEqual(raised[0].record, raised[1].record)
-        self.assertEqual(raised[0].code, 42)
 
     def test_the_library_reports_malformed_input(self) -> None:
         with self.assertRaises(kel.MalformedInputError) as raised:
@@ -159,15 +137,6 @@ class Errors(EngineTest):
         # It has no UTF-8 form; encoding it raised before the call was made.
         self.engine.identify_target("EC\udc00M")
         self.assertEqual(last_arguments("identifyTarget"), ["EC\ufffdM"])
-
-    def test_the_stream_reader_needs_no_more_than_the_result(self) -> None:
-        # Every record ends exactly where the next begins: a list read whole leaves nothing.
-        data = self.engine._call(17, b"")
-        (count,) = struct.unpack_from("<I", data)
-        position = 4
-        for _ in range(count):
-            _, position = stream.read_VariantIdentResult(data, position)
-        self.assertEqual(position, len(data))
 
 
 class LibraryLookup(unittest.TestCase):

@@ -25,7 +25,8 @@ class Errors(EngineTest):
     def test_each_code_raises_its_class(self) -> None:
         cases = [(1010, kel.NoResponseError), (1011, kel.UnknownTargetError), (1306, kel.AccessDeniedError),
                  (1308, kel.AccessDeniedError), (1606, kel.SandboxError), (1000, kel.NotSupportedError),
-                 (1012, kel.CallCancelledError), (1201, kel.EngineError), (-1001, kel.MalformedInputError)]
+                 (1012, kel.CallCancelledError), (1201, kel.EngineError), (-1001, kel.MalformedInputError),
+                 (1301, kel.ConnectionEndedError)]
         for code, kind in cases:
             with self.subTest(code=code):
                 sim.kelsim_failNext(b"getVersion", 1, code, 0, "scripted", "")
