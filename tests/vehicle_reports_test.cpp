@@ -272,25 +272,13 @@ TEST_F(VehicleReportsTest, VehicleDataDescribesEachUnitAsItIsNow) {
     EXPECT_STREQ(vehicleData()->items[0]->vin, L"");
 }
 
-TEST_F(VehicleReportsTest, VehicleDataShowsAnIncompleteAndAFlashedUpdate) {
+TEST_F(VehicleReportsTest, VehicleDataShowsAnIncompleteUpdate) {
     const auto dtcsBefore = unit(*vehicleData(), L"ECM")->dtcCount;
     enterProgramming();
     ASSERT_EQ(send(L"ECM", {0x31, 0x01, 0xFF, 0x00}).at(0), 0x71) << "erased";
     auto erased = vehicleData();
     EXPECT_STREQ(unit(*erased, L"ECM")->softwareVersion, L"");
     EXPECT_EQ(unit(*erased, L"ECM")->dtcCount, dtcsBefore + 1) << "programming incomplete";
-
-    const wchar_t* sessions[] = {L"ECM_SW_5430"};
-    ErrorSlot error;
-    List<FlashSessionResult, release_FlashSessionResult_array> flashed;
-    kel_executeFlashSessions(api, L"ECM", const_cast<wchar_t**>(sessions), 1, &error,
-                             &flashed.items, &flashed.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(flashed.count, 1U);
-    ASSERT_EQ(flashed.items[0]->status, 0);
-    auto now = vehicleData();
-    EXPECT_STREQ(unit(*now, L"ECM")->softwareVersion, L"5430");
-    EXPECT_EQ(unit(*now, L"ECM")->dtcCount, dtcsBefore);
 }
 
 TEST_F(VehicleReportsTest, VehicleDataIsReadOverTheBus) {
