@@ -2,6 +2,7 @@
 // coding file from the public directories, applying the description's ECU
 // configurations, each under the unit's own access rules; and checksums of files.
 #include "support.h"
+#include "uds.h"
 
 #include <cstring>
 #include <string>
@@ -215,12 +216,10 @@ TEST_F(CodingTest, EcuConfigurationsWriteTheirValuesWithPerTargetErrors) {
     EXPECT_EQ(nordic->items[0]->written, 2U);
     EXPECT_EQ(readCoding(), L"01A2003D");
 
-    ErrorSlot error;
     Configured none;
-    kel_performEcuConfiguration(api, nullptr, 0, L"NoSuchConfiguration", &error, &none.items,
-                                &none.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1804);
+    EXPECT_ENGINE_ERROR(error, 1804,
+                        kel_performEcuConfiguration(api, nullptr, 0, L"NoSuchConfiguration", &error,
+                                                    &none.items, &none.count));
 }
 
 TEST_F(CodingTest, ChecksumsMatchThePublishedCheckValues) {

@@ -199,14 +199,12 @@ TEST_F(FlashTest, CallsThatCannotStartAreRefusedWhole) {
                              &out.count);
     ASSERT_TRUE(noTarget);
     EXPECT_EQ(noTarget->code, 1011);
-    ErrorSlot noSessions;
-    kel_executeFlashSessions(api, L"ECM", nullptr, 0, &noSessions, &out.items, &out.count);
-    ASSERT_TRUE(noSessions);
-    EXPECT_EQ(noSessions->code, 1704);
-    ErrorSlot noConfig;
-    kel_executeFlashSessionsConfig(api, nullptr, &noConfig, &out.items, &out.count);
-    ASSERT_TRUE(noConfig);
-    EXPECT_EQ(noConfig->code, 1704);
+    EXPECT_ENGINE_ERROR(
+        noSessions, 1704,
+        kel_executeFlashSessions(api, L"ECM", nullptr, 0, &noSessions, &out.items, &out.count));
+    EXPECT_ENGINE_ERROR(
+        noConfig, 1704,
+        kel_executeFlashSessionsConfig(api, nullptr, &noConfig, &out.items, &out.count));
 }
 
 // What an asynchronous flash reports, and the cancel it may trigger.

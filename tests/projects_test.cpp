@@ -1,6 +1,7 @@
 // Projects, configuration and system information against the simulated engine. Each test
 // runs on a fresh data root of its own, so what one saves never reaches another.
 #include "support.h"
+#include "uds.h"
 
 #include <algorithm>
 #include <atomic>
@@ -141,10 +142,8 @@ TEST_F(ProjectsTest, TheDefaultProjectIsMadeInTheDataRootAndSelected) {
 
 TEST_F(ProjectsTest, SelectingAnUnknownProjectIsAnErrorAndKeepsTheSelection) {
     for (const wchar_t* name : {L"Nowhere", L"", L"../Default", L"Default/.."}) {
-        ErrorSlot error;
-        kel_setSelectedProject(api, &error, name);
-        ASSERT_TRUE(error) << "selected " << std::filesystem::path(name).string();
-        EXPECT_EQ(error->code, 1200);
+        SCOPED_TRACE(std::filesystem::path(name).string());
+        EXPECT_ENGINE_ERROR(error, 1200, kel_setSelectedProject(api, &error, name));
     }
     EXPECT_EQ(selected(), L"Default");
 }
@@ -195,14 +194,8 @@ TEST_F(ProjectsTest, ASavedProjectConfigurationOutlivesARestartAndAnUnsavedOneDo
 
 TEST_F(ProjectsTest, ProjectConfigurationsOfUnknownProjectsAndNullInputs) {
     EXPECT_EQ(configuration(L"Nowhere"), nullptr); // no record and no error
-    ErrorSlot error;
-    kel_setProjectConfiguration(api, L"Default", nullptr, &error);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1207);
-    ErrorSlot unknown;
-    kel_saveProjectConfiguration(api, L"Nowhere", &unknown);
-    ASSERT_TRUE(unknown);
-    EXPECT_EQ(unknown->code, 1200);
+    EXPECT_ENGINE_ERROR(error, 1207, kel_setProjectConfiguration(api, L"Default", nullptr, &error));
+    EXPECT_ENGINE_ERROR(unknown, 1200, kel_saveProjectConfiguration(api, L"Nowhere", &unknown));
 }
 
 TEST_F(ProjectsTest, TheEngineConfigurationOutlivesARestartOnlyWhenSaved) {
@@ -270,11 +263,8 @@ TEST_F(ProjectsTest, TheEngineConfigurationOutlivesARestartOnlyWhenSaved) {
 TEST_F(ProjectsTest, ASavedConfigurationThatCannotBeReadIsReportedUntilReplaced) {
     writeFile(root / "configuration" / "engine.json", "{\"format\": 1");
     restart();
-    ErrorSlot error;
     TarnApiConfig* config = nullptr;
-    kel_getConfiguration(api, &error, &config);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1209);
+    EXPECT_ENGINE_ERROR(error, 1209, kel_getConfiguration(api, &error, &config));
     EXPECT_EQ(config, nullptr);
     EXPECT_EQ(selected(), L"Default");
 
@@ -427,11 +417,8 @@ TEST_F(ProjectsTest, SystemPropertiesFormATreeAndAResetRestoresTheDefaults) {
     EXPECT_EQ(level->flag, 0);
     release_SystemProperty(level);
 
-    ErrorSlot unknown;
     SystemProperty* none = nullptr;
-    kel_getSystemProperty(api, L"Nothing", &unknown, &none);
-    ASSERT_TRUE(unknown);
-    EXPECT_EQ(unknown->code, 1208);
+    EXPECT_ENGINE_ERROR(unknown, 1208, kel_getSystemProperty(api, L"Nothing", &unknown, &none));
     EXPECT_EQ(none, nullptr);
 }
 

@@ -2,6 +2,7 @@
 // the order the services ran, parameter values bound into them, the stop rule after a
 // failed service, the asynchronous form, and runs that report as events and cancel.
 #include "support.h"
+#include "uds.h"
 
 #include <Kel_cpp/Records.h>
 
@@ -274,10 +275,7 @@ TEST_F(SequenceRunsConcurrency, ARunReportsItsServicesAsEventsAndEnds) {
     EXPECT_EQ(events[3].kind, sequenceEnded);
     EXPECT_EQ(events[3].code, 1) << "stopped by a failed service";
 
-    ErrorSlot ended;
-    kel_cancelSequence(api, id, &ended);
-    ASSERT_TRUE(ended);
-    EXPECT_EQ(ended->code, 2001) << "an ended run cannot be cancelled";
+    EXPECT_ENGINE_ERROR(ended, 2001, kel_cancelSequence(api, id, &ended));
     int32_t failed = 0;
     run(L"WriteVin", {L"A", L"Extended", L"one too many"}, &failed);
     EXPECT_EQ(failed, 2002);

@@ -335,16 +335,10 @@ TEST_F(ServicesTest, ThreeWrongKeysLockTheLevelForTheDelay) {
     EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000001")}).first, 0);
     EXPECT_EQ(seed(fine), Bytes(4, 0)) << "an unlocked level answers the zero seed";
 
-    ErrorSlot noSeed;
-    kel_sendKey(api, key.data(), 4, &noSeed);
-    ASSERT_TRUE(noSeed);
-    EXPECT_EQ(noSeed->code, 1103);
-    ErrorSlot nowhere;
+    EXPECT_ENGINE_ERROR(noSeed, 1103, kel_sendKey(api, key.data(), 4, &noSeed));
     uint8_t* bytes = reinterpret_cast<uint8_t*>(0x1);
     uint32_t length = 7;
-    kel_createSeed(api, 4242, 1, &nowhere, &bytes, &length);
-    ASSERT_TRUE(nowhere);
-    EXPECT_EQ(nowhere->code, 1011);
+    EXPECT_ENGINE_ERROR(nowhere, 1011, kel_createSeed(api, 4242, 1, &nowhere, &bytes, &length));
     EXPECT_EQ(length, 7U) << "outputs stay as they were";
 }
 
@@ -701,10 +695,8 @@ TEST_F(CyclicServicesConcurrency, ResultsAccumulateInCycleOrderUntilTheJobStops)
     EXPECT_EQ(requestsSent() - before, 20U);
 
     Results gone;
-    ErrorSlot error;
-    kel_getCyclicResults(api, job, &error, &gone.items, &gone.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1106);
+    EXPECT_ENGINE_ERROR(error, 1106,
+                        kel_getCyclicResults(api, job, &error, &gone.items, &gone.count));
     EXPECT_EQ(failure(kel_stopCyclicServices, job), 1106);
 }
 
@@ -766,18 +758,15 @@ TEST_F(CyclicServicesConcurrency, BadJobsAreRefusedAndARunningJobEndsWithItsVehi
     Inputs in;
     in.add(L"TesterPresent");
     uint64_t job = 0;
-    ErrorSlot zero;
-    kel_startCyclicServices(api, L"ECM", in.list(), in.count(), 0, &zero, &job);
-    ASSERT_TRUE(zero);
-    EXPECT_EQ(zero->code, 1101);
+    EXPECT_ENGINE_ERROR(
+        zero, 1101, kel_startCyclicServices(api, L"ECM", in.list(), in.count(), 0, &zero, &job));
     ErrorSlot empty;
     kel_startCyclicServices(api, L"ECM", nullptr, 0, 10, &empty, &job);
     ASSERT_TRUE(empty);
     EXPECT_EQ(empty->code, 1101);
-    ErrorSlot unknown;
-    kel_startCyclicServices(api, L"Nope", in.list(), in.count(), 10, &unknown, &job);
-    ASSERT_TRUE(unknown);
-    EXPECT_EQ(unknown->code, 1011);
+    EXPECT_ENGINE_ERROR(
+        unknown, 1011,
+        kel_startCyclicServices(api, L"Nope", in.list(), in.count(), 10, &unknown, &job));
 
     // Left running: the vehicle's end (kelsim_restart of the next test) joins the worker,
     // as a reload ends the job.

@@ -1,5 +1,6 @@
-// Raw UDS from the tests: request bytes sent to a unit through executeService, and the
-// documented key rule, written out again so that the engine's is checked.
+// Shared by the tests of the vehicle: an expected engine error, raw UDS request bytes
+// sent to a unit through executeService, and the documented key rule, written out again
+// so that the engine's is checked.
 #pragma once
 
 #include "support.h"
@@ -12,6 +13,15 @@
 namespace kel_test {
 
 using Bytes = std::vector<uint8_t>;
+
+// Runs `call`, which reports into the error slot `slot` it names, and expects the engine
+// error `expected` from it.
+#define EXPECT_ENGINE_ERROR(slot, expected, call)                                                  \
+    do {                                                                                           \
+        ::kel_test::ErrorSlot slot;                                                                \
+        call;                                                                                      \
+        EXPECT_EQ((slot) ? (slot)->code : 0, expected) << #call;                                   \
+    } while (false)
 
 // The default vehicle's ECM: the mask of its security level 2, which programming needs.
 constexpr uint32_t ecmProgrammingMask = 0xC3A5179E;

@@ -3,6 +3,7 @@
 // in ECU order, a cancel leaves no unit half written, the broker cannot be pointed
 // outside the engine's folders, and engine components stay updated across a restart.
 #include "support.h"
+#include "uds.h"
 
 #include <algorithm>
 #include <atomic>
@@ -548,22 +549,13 @@ TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {
     fs::remove_all(root / "broker" / "packages" / "tool-3");
     publish("tool", "4", "engine", "tool", Bytes(10, 4), 0, root / "updates" / "packages");
     put(root / "updates" / "packages" / "tool-4" / "tool_4.bin", std::string(10, '\5'));
-    ErrorSlot damaged;
-    kel_applyUpdatePackage(api, L"tool", &damaged);
-    ASSERT_TRUE(damaged);
-    EXPECT_EQ(damaged->code, 2203);
+    EXPECT_ENGINE_ERROR(damaged, 2203, kel_applyUpdatePackage(api, L"tool", &damaged));
     EXPECT_EQ(versions(), known);
 
     // Unknown names and control-unit software are not for applyUpdatePackage.
-    ErrorSlot unknown;
-    kel_applyUpdatePackage(api, L"nothing", &unknown);
-    ASSERT_TRUE(unknown);
-    EXPECT_EQ(unknown->code, 2202);
+    EXPECT_ENGINE_ERROR(unknown, 2202, kel_applyUpdatePackage(api, L"nothing", &unknown));
     publishEcu("ECM", "5432");
-    ErrorSlot ecu;
-    kel_applyUpdatePackage(api, L"ECM_SW", &ecu);
-    ASSERT_TRUE(ecu);
-    EXPECT_EQ(ecu->code, 2205);
+    EXPECT_ENGINE_ERROR(ecu, 2205, kel_applyUpdatePackage(api, L"ECM_SW", &ecu));
     EXPECT_EQ(version(L"ECM"), L"5428");
 }
 
@@ -747,15 +739,10 @@ TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne
 }
 
 TEST_F(VehicleUpdateTest, CallsThatCannotStartAreRefusedWhole) {
-    ErrorSlot noConfig;
     Results out;
-    kel_updateVehicle(api, nullptr, &noConfig, &out.items, &out.count);
-    ASSERT_TRUE(noConfig);
-    EXPECT_EQ(noConfig->code, 2211);
-    ErrorSlot noUpload;
-    kel_uploadReport(api, nullptr, &noUpload);
-    ASSERT_TRUE(noUpload);
-    EXPECT_EQ(noUpload->code, 2211);
+    EXPECT_ENGINE_ERROR(noConfig, 2211,
+                        kel_updateVehicle(api, nullptr, &noConfig, &out.items, &out.count));
+    EXPECT_ENGINE_ERROR(noUpload, 2211, kel_uploadReport(api, nullptr, &noUpload));
     ErrorSlot unknown;
     VehicleUpdateConfig* c = nullptr;
     const wchar_t* names[] = {L"ECM", L"NOPE"};
