@@ -390,23 +390,6 @@ TEST_F(InterfacesConcurrency, AsynchronousDetectionReportsEachModuleAsItIsFound)
     EXPECT_EQ(reports.finalError, 0);
 }
 
-TEST_F(InterfacesConcurrency, CancelledDetectionEndsWithTheCancelError) {
-    kelsim_setAsyncInterval("detectDynInterfacesExAsync", 5000);
-    Reports reports;
-    ErrorSlot error;
-    const auto id = kel_detectDynInterfacesExAsync(api, 0, &error, Reports::callback, &reports);
-    ASSERT_NE(id, 0u);
-    const auto started = std::chrono::steady_clock::now();
-    kel_cancelAsyncCalls(api, &id, 1, &error);
-    ASSERT_FALSE(error);
-    ASSERT_TRUE(reports.waitForFinal());
-    EXPECT_LT(std::chrono::steady_clock::now() - started, 4s) << "not the 5 s report";
-    const std::lock_guard lock(reports.mutex);
-    EXPECT_EQ(reports.finalError, 1012);
-    ASSERT_EQ(reports.modules.size(), 1u);
-    EXPECT_TRUE(reports.modules[0].empty());
-}
-
 TEST_F(InterfacesConcurrency, AsynchronousScanCarriesThePerInterfaceErrors) {
     struct ScanReports {
         std::mutex mutex;
