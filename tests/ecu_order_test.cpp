@@ -2,6 +2,7 @@
 // rules, filtering and completing an order, and order files in the public directories
 // (written, read back, refused when malformed or outside the sandbox).
 #include "support.h"
+#include "uds.h"
 
 #include <cstring>
 #include <filesystem>
@@ -14,6 +15,7 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::zeroed;
 
 using Entries = List<EcuOrderEntry, release_EcuOrderEntry_array>;
 using Names = std::vector<std::wstring>;
@@ -74,8 +76,7 @@ private:
                 items_.push_back(nullptr);
                 continue;
             }
-            auto* c = static_cast<EcuOrderEntry*>(allocate_Memory(sizeof(EcuOrderEntry)));
-            std::memset(c, 0, sizeof *c);
+            auto* c = zeroed<EcuOrderEntry>();
             c->target = duplicate_WString(e->target.c_str());
             c->bus = duplicate_WString(e->bus.c_str());
             c->address = e->address;

@@ -20,6 +20,7 @@ using kel_test::AsyncWatch;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::zeroed;
 using namespace std::chrono_literals;
 
 using Bytes = std::vector<uint8_t>;
@@ -164,8 +165,7 @@ TEST_F(FlashTest, SessionsRunInOrderAndAFailureStopsTheRestUnlessConfiguredOther
     EXPECT_EQ(identifiedVersion(), L"5428") << "nothing was flashed";
 
     enterProgramming();
-    auto* config = static_cast<FlashSessionsConfig*>(allocate_Memory(sizeof(FlashSessionsConfig)));
-    std::memset(config, 0, sizeof *config);
+    auto* config = zeroed<FlashSessionsConfig>();
     config->target = duplicate_WString(L"ECM");
     const wchar_t* names[] = {L"NoSuchSession", L"ECM_SW_5430", L"ECM_SW_5431"};
     config->sessions = static_cast<wchar_t**>(allocate_Memory(sizeof names));
@@ -385,8 +385,7 @@ TEST_F(FlashTest, QuickTestIdentifiesAndReadsEveryUnitInOnePass) {
     EXPECT_STREQ(all.items[0]->dtcs[0]->text3, L"ECM");
 
     // A status mask applies as in readDtcs; an unknown name has its own error.
-    auto* config = static_cast<DtcReadConfig*>(allocate_Memory(sizeof(DtcReadConfig)));
-    std::memset(config, 0, sizeof *config);
+    auto* config = zeroed<DtcReadConfig>();
     config->value = 0x01; // testFailed
     const wchar_t* names[] = {L"ECM", L"Nope"};
     QuickTests some;

@@ -26,18 +26,13 @@ using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::freshTempPath;
 using kel_test::List;
+using kel_test::zeroed;
 using namespace std::chrono_literals;
 
 using Interfaces = EngineTest;
 using InterfacesConcurrency = EngineTest;
 
 wchar_t* dup(const wchar_t* text) { return duplicate_WString(text); }
-
-// A record on the library's heap, every member 0/NULL, as a caller builds an input.
-template <class R>
-R* zeroed() {
-    return static_cast<R*>(std::memset(allocate_Memory(sizeof(R)), 0, sizeof(R)));
-}
 
 ResourceInformation* resource(const wchar_t* name) {
     auto* r = zeroed<ResourceInformation>();

@@ -20,6 +20,7 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::zeroed;
 
 using Bytes = std::vector<uint8_t>;
 using PduItems = List<PduMonitoringItem, release_PduMonitoringItem_array>;
@@ -109,8 +110,7 @@ protected:
 };
 
 DtcReadConfig* allDtcs() {
-    auto* c = static_cast<DtcReadConfig*>(allocate_Memory(sizeof(DtcReadConfig)));
-    std::memset(c, 0, sizeof *c);
+    auto* c = zeroed<DtcReadConfig>();
     c->value = 0xFF;
     return c;
 }

@@ -28,6 +28,7 @@ namespace {
 
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::zeroed;
 
 // Replaces a string member of a record the library handed out.
 void replace(wchar_t*& member, const wchar_t* text) {
@@ -268,8 +269,7 @@ TEST_F(ProjectsTest, ASavedConfigurationThatCannotBeReadIsReportedUntilReplaced)
     EXPECT_EQ(config, nullptr);
     EXPECT_EQ(selected(), L"Default");
 
-    config = static_cast<TarnApiConfig*>(allocate_Memory(sizeof(TarnApiConfig)));
-    std::memset(config, 0, sizeof *config);
+    config = zeroed<TarnApiConfig>();
     config->value1 = 9;
     config->text = duplicate_WString(L"");
     ErrorSlot set;

@@ -19,13 +19,13 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::zeroed;
 using namespace std::chrono_literals;
 
 using Results = List<ServiceResult, release_ServiceResult_array>;
 
 ParameterInput* value(const wchar_t* name, const wchar_t* text) {
-    auto* p = static_cast<ParameterInput*>(allocate_Memory(sizeof(ParameterInput)));
-    std::memset(p, 0, sizeof *p);
+    auto* p = zeroed<ParameterInput>();
     p->name = duplicate_WString(name);
     p->value = duplicate_WString(text);
     return p;

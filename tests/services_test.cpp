@@ -22,6 +22,7 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::zeroed;
 using namespace std::chrono_literals;
 
 using Results = List<ServiceResult, release_ServiceResult_array>;
@@ -36,8 +37,7 @@ using kel_test::keyFor;
 
 ParameterInput* param(const wchar_t* name, const wchar_t* value,
                       std::vector<ParameterInput*> children = {}) {
-    auto* p = static_cast<ParameterInput*>(allocate_Memory(sizeof(ParameterInput)));
-    std::memset(p, 0, sizeof *p);
+    auto* p = zeroed<ParameterInput>();
     p->name = duplicate_WString(name);
     p->value = duplicate_WString(value);
     if (!children.empty()) {
@@ -61,8 +61,7 @@ struct Inputs {
         }
     }
     Inputs& add(const wchar_t* service, std::vector<ParameterInput*> params = {}) {
-        auto* s = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
-        std::memset(s, 0, sizeof *s);
+        auto* s = zeroed<ServiceInput>();
         s->service = duplicate_WString(service);
         if (!params.empty()) {
             s->parameters = static_cast<ParameterInput**>(
@@ -502,8 +501,7 @@ TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
     ASSERT_EQ(settings.childCount, 2U);
     EXPECT_EQ(settings.children[0]->childCount, 2U) << "Channel: Cylinder and Mode";
 
-    auto* config = static_cast<ParameterInfoConfig*>(allocate_Memory(sizeof(ParameterInfoConfig)));
-    std::memset(config, 0, sizeof *config);
+    auto* config = zeroed<ParameterInfoConfig>();
     config->text1 = duplicate_WString(L"ECM");
     config->text2 = duplicate_WString(L"RoutineControl_0203");
     config->text3 = duplicate_WString(L"Settings.Channel.Mode");

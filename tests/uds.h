@@ -38,10 +38,15 @@ inline Bytes keyFor(const uint8_t* seed, uint32_t mask) {
             static_cast<uint8_t>(k >> 8), static_cast<uint8_t>(k)};
 }
 
+// A record on the library's heap with every member 0 or NULL, as a caller builds an input.
+template <class R>
+R* zeroed() {
+    return static_cast<R*>(std::memset(allocate_Memory(sizeof(R)), 0, sizeof(R)));
+}
+
 // Sends raw request bytes to a unit; its response bytes, empty when it stayed silent.
 inline Bytes sendRaw(TarnApi* api, const wchar_t* target, const Bytes& request) {
-    auto* input = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
-    std::memset(input, 0, sizeof *input);
+    auto* input = zeroed<ServiceInput>();
     input->service = duplicate_WString(L"");
     input->data = static_cast<uint8_t*>(allocate_Memory(request.size()));
     std::memcpy(input->data, request.data(), request.size());

@@ -29,6 +29,7 @@ using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::freshTempPath;
 using kel_test::List;
+using kel_test::zeroed;
 using namespace std::chrono_literals;
 
 using Bytes = std::vector<uint8_t>;
@@ -120,13 +121,6 @@ std::wstring wide(const std::string& s) { return std::wstring(s.begin(), s.end()
 
 wchar_t* dup(const std::wstring& s) { return duplicate_WString(s.c_str()); }
 
-template <class T>
-T* record() {
-    auto* r = static_cast<T*>(allocate_Memory(sizeof(T)));
-    std::memset(r, 0, sizeof(T));
-    return r;
-}
-
 wchar_t** texts(const std::vector<std::wstring>& values) {
     auto** out = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*) * (values.size() + 1)));
     for (std::size_t i = 0; i < values.size(); ++i) {
@@ -145,13 +139,13 @@ struct Wanted {
 VehicleUpdateConfig* config(const std::vector<std::wstring>& targets,
                             const std::vector<Wanted>& packages, bool stopOnError = true,
                             bool force = false) {
-    auto* c = record<VehicleUpdateConfig>();
+    auto* c = zeroed<VehicleUpdateConfig>();
     c->targets = texts(targets);
     c->targetCount = static_cast<uint32_t>(targets.size());
     c->packages = static_cast<UpdatePackageInfo**>(
         allocate_Memory(sizeof(UpdatePackageInfo*) * (packages.size() + 1)));
     for (std::size_t i = 0; i < packages.size(); ++i) {
-        auto* p = record<UpdatePackageInfo>();
+        auto* p = zeroed<UpdatePackageInfo>();
         p->name = dup(packages[i].name);
         p->version = dup(packages[i].version);
         p->description = dup(L"");
@@ -661,7 +655,7 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
     publishEcu("GW", "0200");
     publishEcu("TCM", "0830");
     const auto entry = [](const wchar_t* target, bool optional) {
-        auto* e = record<EcuOrderEntry>();
+        auto* e = zeroed<EcuOrderEntry>();
         e->target = dup(target);
         e->bus = dup(L"");
         e->optional = optional ? 1 : 0;
@@ -723,7 +717,7 @@ TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne
 
     std::vector<EcuOrderEntry*> entries;
     for (const wchar_t* target : {L"TCM", L"ECM", L"GW", L"DASH", L"BCM"}) {
-        auto* e = record<EcuOrderEntry>();
+        auto* e = zeroed<EcuOrderEntry>();
         e->target = dup(target);
         e->bus = dup(L"any");
         entries.push_back(e);
@@ -858,7 +852,7 @@ TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
     std::wstring comment = L"after the update";
     const auto upload = [&](const wchar_t* file, const wchar_t* folder, const wchar_t* name,
                             bool overwrite, bool twin) {
-        auto* c = record<UploadReportConfiguration>();
+        auto* c = zeroed<UploadReportConfiguration>();
         c->reportFile = dup(file);
         c->folder = dup(folder);
         c->name = dup(name);
