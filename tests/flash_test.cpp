@@ -401,24 +401,22 @@ TEST_F(FlashTest, QuickTestIdentifiesAndReadsEveryUnitInOnePass) {
     EXPECT_EQ(some.items[1]->error->code, 1011);
 }
 
-struct QuickWatch {
-    std::mutex mutex;
-    std::condition_variable changed;
+struct QuickWatch : AsyncWatch {
     std::vector<uint32_t> sizes;
     std::vector<std::wstring> targets;
-    bool done = false;
-    static void callback(QuickTestResult** results, uint32_t count, bool isFinal, uint64_t,
+    static void callback(QuickTestResult** results, uint32_t count, bool isFinal, uint64_t callId,
                          KelError* error, void* context) {
         auto* self = static_cast<QuickWatch*>(context);
-        const std::lock_guard lock(self->mutex);
-        self->sizes.push_back(count);
-        for (uint32_t i = 0; i < count; ++i) {
-            self->targets.emplace_back(results[i]->target);
+        {
+            const std::lock_guard lock(self->mutex);
+            self->sizes.push_back(count);
+            for (uint32_t i = 0; i < count; ++i) {
+                self->targets.emplace_back(results[i]->target);
+            }
         }
         release_QuickTestResult_array(results, count);
         release_KelError(error);
-        self->done = self->done || isFinal;
-        self->changed.notify_all();
+        self->reported(callId, false, isFinal);
     }
 };
 
@@ -428,8 +426,7 @@ TEST_F(FlashTest, AsynchronousQuickTestReportsOneUnitAtATime) {
     ErrorSlot error;
     kel_performQuickTestAsync(api, nullptr, 0, nullptr, &error, QuickWatch::callback, &watch);
     ASSERT_FALSE(error);
-    std::unique_lock lock(watch.mutex);
-    ASSERT_TRUE(watch.changed.wait_for(lock, 10s, [&] { return watch.done; }));
+    ASSERT_TRUE(watch.wait());
     EXPECT_EQ(watch.sizes, (std::vector<uint32_t>(6, 1)));
     EXPECT_EQ(watch.targets,
               (std::vector<std::wstring>{L"ECM", L"TCM", L"ESP", L"BCM", L"GW", L"ACC"}));

@@ -272,25 +272,23 @@ TEST_F(MeasurementTest, AReloadEndsRegistrations) {
     EXPECT_EQ(error->code, 1901);
 }
 
-struct Reports {
-    std::mutex mutex;
-    std::condition_variable changed;
+struct Reports : kel_test::AsyncWatch {
     std::vector<std::wstring> values;
-    bool done = false;
 
-    static void callback(ReadDataResult** results, uint32_t count, bool isFinal, uint64_t,
+    static void callback(ReadDataResult** results, uint32_t count, bool isFinal, uint64_t callId,
                          KelError* error, void* context) {
         auto& self = *static_cast<Reports*>(context);
-        const std::lock_guard lock(self.mutex);
-        for (uint32_t i = 0; i < count; ++i) {
-            for (uint32_t k = 0; k < results[i]->parameterCount; ++k) {
-                self.values.emplace_back(results[i]->parameters[k]->text1);
+        {
+            const std::lock_guard lock(self.mutex);
+            for (uint32_t i = 0; i < count; ++i) {
+                for (uint32_t k = 0; k < results[i]->parameterCount; ++k) {
+                    self.values.emplace_back(results[i]->parameters[k]->text1);
+                }
             }
         }
-        self.done = self.done || isFinal;
         release_ReadDataResult_array(results, count);
         release_KelError(error);
-        self.changed.notify_all();
+        self.reported(callId, false, isFinal);
     }
 };
 
@@ -303,8 +301,7 @@ TEST_F(MeasurementTest, AsynchronousReadsGiveWhatTheSynchronousOneGives) {
                                                        Reports::callback, &reports);
     ASSERT_FALSE(error);
     ASSERT_NE(id, 0U);
-    std::unique_lock lock(reports.mutex);
-    ASSERT_TRUE(reports.changed.wait_for(lock, 10s, [&] { return reports.done; }));
+    ASSERT_TRUE(reports.wait());
     EXPECT_EQ(reports.values, read({L"Speed", L"Coolant"}));
 }
 

@@ -207,35 +207,7 @@ TEST_F(SequencesTest, AStepMayBePassedOverWhenItFails) {
     EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "sequences": {"A": {"steps": [{}]}}})"), -1);
 }
 
-struct Reports {
-    std::mutex mutex;
-    std::condition_variable changed;
-    std::vector<uint32_t> counts;
-    std::vector<std::wstring> services;
-    int32_t finalError = -1;
-    bool done = false;
-
-    static void callback(ServiceResult** results, uint32_t count, bool isFinal, uint64_t,
-                         KelError* error, void* context) {
-        auto& self = *static_cast<Reports*>(context);
-        const std::lock_guard lock(self.mutex);
-        self.counts.push_back(count);
-        for (uint32_t i = 0; i < count; ++i) {
-            self.services.emplace_back(results[i]->itemText1);
-        }
-        if (isFinal) {
-            self.done = true;
-            self.finalError = error != nullptr ? error->code : 0;
-        }
-        release_ServiceResult_array(results, count);
-        release_KelError(error);
-        self.changed.notify_all();
-    }
-    bool wait() {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, 10s, [&] { return done; });
-    }
-};
+using Reports = kel_test::ServiceReports;
 
 TEST_F(SequencesTest, TheAsynchronousFormReportsEachService) {
     Values none{};
@@ -249,7 +221,7 @@ TEST_F(SequencesTest, TheAsynchronousFormReportsEachService) {
     EXPECT_EQ(reports.counts, (std::vector<uint32_t>{1, 1}));
     EXPECT_EQ(reports.services, (std::vector<std::wstring>{L"ReadDataByIdentifier_F190",
                                                            L"ReadDataByIdentifier_F189"}));
-    EXPECT_EQ(reports.finalError, 0);
+    EXPECT_EQ(reports.errorCode, 0);
 
     Reports refused;
     EXPECT_EQ(kel_executeSequenceAsync(api, L"ECM", L"Nope", nullptr, 0, &error, Reports::callback,

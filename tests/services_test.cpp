@@ -526,36 +526,7 @@ TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
     EXPECT_EQ(ident.items[0]->value2, 17);
 }
 
-// Collects the reports of asynchronous executions.
-struct Reports {
-    std::mutex mutex;
-    std::condition_variable changed;
-    std::vector<uint32_t> counts;
-    std::vector<int32_t> statuses;
-    int32_t finalError = -1;
-    bool done = false;
-
-    static void callback(ServiceResult** results, uint32_t count, bool isFinal, uint64_t /*id*/,
-                         KelError* error, void* context) {
-        auto& self = *static_cast<Reports*>(context);
-        const std::lock_guard lock(self.mutex);
-        self.counts.push_back(count);
-        for (uint32_t i = 0; i < count; ++i) {
-            self.statuses.push_back(results[i]->status);
-        }
-        if (isFinal) {
-            self.done = true;
-            self.finalError = error != nullptr ? error->code : 0;
-        }
-        release_ServiceResult_array(results, count);
-        release_KelError(error);
-        self.changed.notify_all();
-    }
-    bool wait(std::chrono::milliseconds limit) {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, limit, [&] { return done; });
-    }
-};
+using Reports = kel_test::ServiceReports;
 
 TEST_F(ServicesTest, AsynchronousExecutionReportsPerService) {
     Inputs in;
@@ -568,10 +539,10 @@ TEST_F(ServicesTest, AsynchronousExecutionReportsPerService) {
                                                                 &error, Reports::callback, &all);
     ASSERT_FALSE(error);
     ASSERT_NE(id, 0U);
-    ASSERT_TRUE(all.wait(5s));
+    ASSERT_TRUE(all.wait());
     EXPECT_EQ(all.counts, (std::vector<uint32_t>{1, 1, 1})) << "one report per service";
     EXPECT_EQ(all.statuses, (std::vector<int32_t>{0, 0, 3}));
-    EXPECT_EQ(all.finalError, 0);
+    EXPECT_EQ(all.errorCode, 0);
 
     Reports never;
     EXPECT_ENGINE_ERROR(unknown, 1011,
