@@ -343,31 +343,22 @@ TEST_F(Interfaces, DetectionFindsTheDynamicInterfacesAndConnectsThem) {
         kel_connectDynInterface(api, L"WVCI-9", 0, detection(L"*7", false), &notFound));
 }
 
-struct Reports {
-    std::mutex mutex;
-    std::condition_variable changed;
+struct Reports : kel_test::AsyncWatch {
     std::vector<std::vector<std::wstring>> modules;
     std::vector<bool> finals;
-    int32_t finalError = -1;
 
-    static void callback(ModuleDyn** results, uint32_t count, bool isFinal, uint64_t /*callId*/,
+    static void callback(ModuleDyn** results, uint32_t count, bool isFinal, uint64_t callId,
                          KelError* error, void* context) {
         auto* self = static_cast<Reports*>(context);
-        auto found = names(results, count);
-        const int32_t code = error != nullptr ? error->code : 0;
+        {
+            const std::lock_guard lock(self->mutex);
+            self->modules.push_back(names(results, count));
+            self->finals.push_back(isFinal);
+            self->errorCode = error != nullptr ? error->code : self->errorCode;
+        }
         release_ModuleDyn_array(results, count);
         release_KelError(error);
-        const std::lock_guard lock(self->mutex);
-        self->modules.push_back(std::move(found));
-        self->finals.push_back(isFinal);
-        if (isFinal) {
-            self->finalError = code;
-        }
-        self->changed.notify_all();
-    }
-    bool waitForFinal() {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, 10s, [&] { return finalError >= 0; });
+        self->reported(callId, false, isFinal);
     }
 };
 
@@ -378,39 +369,36 @@ TEST_F(InterfacesConcurrency, AsynchronousDetectionReportsEachModuleAsItIsFound)
                                                  Reports::callback, &reports);
     ASSERT_FALSE(error);
     ASSERT_NE(id, 0u);
-    ASSERT_TRUE(reports.waitForFinal());
+    ASSERT_TRUE(reports.wait());
     const std::lock_guard lock(reports.mutex);
     EXPECT_EQ(reports.modules, (std::vector<std::vector<std::wstring>>{{L"WVCI-7"}, {L"WVCI-9"}}));
     EXPECT_EQ(reports.finals, (std::vector<bool>{false, true}));
-    EXPECT_EQ(reports.finalError, 0);
+    EXPECT_EQ(reports.errorCode, 0);
 }
 
 TEST_F(InterfacesConcurrency, AsynchronousScanCarriesThePerInterfaceErrors) {
-    struct ScanReports {
-        std::mutex mutex;
-        std::condition_variable changed;
+    struct ScanReports : kel_test::AsyncWatch {
         std::vector<int32_t> codes;
-        bool done = false;
     } reports;
-    auto callback = [](ScanInterfaceResult** results, uint32_t count, bool isFinal, uint64_t,
+    auto callback = [](ScanInterfaceResult** results, uint32_t count, bool isFinal, uint64_t callId,
                        KelError* error, void* context) {
         auto* self = static_cast<ScanReports*>(context);
-        const std::lock_guard lock(self->mutex);
-        for (uint32_t i = 0; i < count; ++i) {
-            self->codes.push_back(results[i]->error != nullptr ? results[i]->error->code : 0);
+        {
+            const std::lock_guard lock(self->mutex);
+            for (uint32_t i = 0; i < count; ++i) {
+                self->codes.push_back(results[i]->error != nullptr ? results[i]->error->code : 0);
+            }
         }
         release_ScanInterfaceResult_array(results, count);
         release_KelError(error);
-        self->done = self->done || isFinal;
-        self->changed.notify_all();
+        self->reported(callId, false, isFinal);
     };
     const wchar_t* selected[] = {L"VCI2", L"VCI1"};
     ErrorSlot error;
     ASSERT_NE(kel_scanInterfaceConnectionAsync(api, const_cast<wchar_t**>(selected), 2, &error,
                                                callback, &reports),
               0u);
-    std::unique_lock lock(reports.mutex);
-    ASSERT_TRUE(reports.changed.wait_for(lock, 10s, [&] { return reports.done; }));
+    ASSERT_TRUE(reports.wait());
     EXPECT_EQ(reports.codes, (std::vector<int32_t>{1403, 0}));
 }
 

@@ -58,6 +58,12 @@ std::ostream& operator<<(std::ostream& out, const Seen& s) {
     return out;
 }
 
+DtcReadConfig* allDtcs() {
+    auto* c = zeroed<DtcReadConfig>();
+    c->value = 0xFF;
+    return c;
+}
+
 class Monitoring : public EngineTest {
 protected:
     uint64_t pduMonitor() {
@@ -78,6 +84,13 @@ protected:
     // Runs one raw request on `target`; returns the request and the unit's response.
     std::pair<Bytes, Bytes> raw(const wchar_t* target, const Bytes& request) {
         return {request, kel_test::sendRaw(api, target, request)};
+    }
+    void readAllDtcs(const wchar_t* target) {
+        ErrorSlot error;
+        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+        wchar_t* targets[] = {const_cast<wchar_t*>(target)};
+        kel_readDtcs(api, targets, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
+        EXPECT_FALSE(error);
     }
     std::vector<Seen> pdus(uint64_t monitor, uint32_t most = 0, int32_t keep = 0) {
         ErrorSlot error;
@@ -108,12 +121,6 @@ protected:
         return text;
     }
 };
-
-DtcReadConfig* allDtcs() {
-    auto* c = zeroed<DtcReadConfig>();
-    c->value = 0xFF;
-    return c;
-}
 
 TEST_F(Monitoring, PduMonitorShowsExactlyTheTrafficOfTheCallsInOrder) {
     raw(L"ECM", {0x3E, 0x00}); // before the monitor: not shown
@@ -156,13 +163,7 @@ TEST_F(Monitoring, PduMonitorShowsExactlyTheTrafficOfTheCallsInOrder) {
     }
     // A service, and a unit that stays silent.
     const auto [request, response] = raw(L"ECM", {0x22, 0xF1, 0x90});
-    {
-        ErrorSlot error;
-        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-        wchar_t* acc[] = {const_cast<wchar_t*>(L"ACC")};
-        kel_readDtcs(api, acc, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
-        ASSERT_FALSE(error);
-    }
+    readAllDtcs(L"ACC"); // the silent unit: a request, no answer
 
     ErrorSlot error;
     PduItems items;
@@ -240,12 +241,7 @@ TEST_F(Monitoring, ALinkGivesOneItemPerExchangeWithItsAnswer) {
     const auto [refusedRequest, negative] = raw(L"ECM", {0x22, 0xFF, 0xFF});
     ASSERT_EQ(negative.size(), 3u);
     ASSERT_EQ(negative[0], 0x7F);
-    {
-        ErrorSlot error;
-        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-        wchar_t* acc[] = {const_cast<wchar_t*>(L"ACC")};
-        kel_readDtcs(api, acc, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
-    }
+    readAllDtcs(L"ACC"); // the silent unit: a request, no answer
 
     ErrorSlot error;
     LinkItems items;
@@ -495,12 +491,7 @@ TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     const uint64_t live = link(L"live");
     raw(L"ECM", {0x22, 0xF1, 0x90});
     raw(L"ECM", {0x22, 0xFF, 0xFF});
-    {
-        ErrorSlot error;
-        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-        wchar_t* acc[] = {const_cast<wchar_t*>(L"ACC")};
-        kel_readDtcs(api, acc, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
-    }
+    readAllDtcs(L"ACC"); // the silent unit: a request, no answer
     ErrorSlot handleError;
     uint64_t engine = 0;
     kel_getHandle(api, &handleError, &engine);
