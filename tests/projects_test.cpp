@@ -169,8 +169,6 @@ TEST_F(ProjectsTest, ASavedProjectConfigurationOutlivesARestartAndAnUnsavedOneDo
         EXPECT_EQ(std::wstring(config->itemText2), expected);
         EXPECT_EQ(config->value0, value0);
         EXPECT_EQ(config->flags[2], value0 != 0);
-        EXPECT_NE(config->strings1, nullptr); // allocated even when empty
-        EXPECT_EQ(config->stringCount1, 0u);
         release_ProjectConfig(config);
     };
 
@@ -266,7 +264,6 @@ TEST_F(ProjectsTest, ASavedConfigurationThatCannotBeReadIsReportedUntilReplaced)
     restart();
     TarnApiConfig* config = nullptr;
     EXPECT_ENGINE_ERROR(error, 1209, kel_getConfiguration(api, &error, &config));
-    EXPECT_EQ(config, nullptr);
     EXPECT_EQ(selected(), L"Default");
 
     config = zeroed<TarnApiConfig>();
@@ -419,7 +416,6 @@ TEST_F(ProjectsTest, SystemPropertiesFormATreeAndAResetRestoresTheDefaults) {
 
     SystemProperty* none = nullptr;
     EXPECT_ENGINE_ERROR(unknown, 1208, kel_getSystemProperty(api, L"Nothing", &unknown, &none));
-    EXPECT_EQ(none, nullptr);
 }
 
 TEST_F(ProjectsTest, ProcessAndSystemInformationAreTheRealFigures) {

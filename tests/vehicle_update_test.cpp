@@ -267,6 +267,22 @@ protected:
         return error ? error->code : 0;
     }
 
+    bool updatesOnBroker() {
+        ErrorSlot error;
+        bool available = false;
+        kel_checkUpdatesOnBroker(api, &error, &available);
+        EXPECT_FALSE(error);
+        return available;
+    }
+    // Whether autoUpdate installed something; it must not fail.
+    bool autoUpdate() {
+        ErrorSlot error;
+        bool updated = false;
+        kel_autoUpdate(api, &error, &updated);
+        EXPECT_FALSE(error) << error->code;
+        return updated;
+    }
+
     bool lastUpdateSucceeded() {
         ErrorSlot error;
         bool succeeded = false;
@@ -452,27 +468,17 @@ TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeep
 
     publish("tool", "1.9", "engine", "tool", Bytes(100, 1));
     ErrorSlot error;
-    bool available = false;
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_TRUE(available);
-    bool updated = false;
-    kel_autoUpdate(api, &error, &updated);
-    ASSERT_FALSE(error) << error->code;
-    EXPECT_TRUE(updated);
+    EXPECT_TRUE(updatesOnBroker());
+    EXPECT_TRUE(autoUpdate());
     EXPECT_EQ(versions()[L"tool"], L"1.9");
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_FALSE(available);
-    kel_autoUpdate(api, &error, &updated);
-    EXPECT_FALSE(updated) << "nothing newer";
+    EXPECT_FALSE(updatesOnBroker());
+    EXPECT_FALSE(autoUpdate()) << "nothing newer";
 
     // 1.10 is newer than 1.9; an older one beside it is not chosen.
     publish("tool", "1.10", "engine", "tool", Bytes(200, 2));
     publish("tool", "1.8", "engine", "tool", Bytes(50, 3));
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_TRUE(available);
-    kel_autoUpdate(api, &error, &updated);
-    ASSERT_FALSE(error);
-    EXPECT_TRUE(updated);
+    EXPECT_TRUE(updatesOnBroker());
+    EXPECT_TRUE(autoUpdate());
     EXPECT_EQ(read(root / "updates" / "components" / "tool" / "tool_1.10.bin"),
               std::string(200, '\2'));
     EXPECT_EQ(listed(kel_getUpdatePackages),
@@ -481,8 +487,7 @@ TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeep
     restart();
     EXPECT_EQ(versions()[L"tool"], L"1.10");
     EXPECT_TRUE(lastUpdateSucceeded());
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_FALSE(available);
+    EXPECT_FALSE(updatesOnBroker());
 
     kel_clearUpdatePackages(api, &error);
     ASSERT_FALSE(error);
@@ -520,9 +525,7 @@ TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {
     ASSERT_TRUE(corrupt);
     EXPECT_EQ(corrupt->code, 2203);
     EXPECT_NE(std::wstring(corrupt->details).find(L"crc32:1A2B3C4D"), std::wstring::npos);
-    bool updated = true;
-    kel_autoUpdate(api, &error, &updated);
-    EXPECT_FALSE(updated);
+    EXPECT_FALSE(autoUpdate());
     EXPECT_FALSE(lastUpdateSucceeded());
     EXPECT_EQ(versions(), known);
     EXPECT_EQ(listed(kel_getUpdatePackages), std::vector<std::wstring>{L"tool-2:2"});
@@ -562,9 +565,7 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     publishEcu("TCM", "0830"); // what it runs already
     publishEcu("BCM", "0460", 5000);
     ErrorSlot error;
-    bool available = false;
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_TRUE(available);
+    EXPECT_TRUE(updatesOnBroker());
 
     VehicleUpdateConfig* made = nullptr;
     kel_createVehicleUpdateConfig(api, nullptr, 0, &error, &made);
@@ -617,8 +618,7 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     EXPECT_EQ(stored, (std::vector<std::wstring>{L"BCM_SW-0460:2", L"ECM_SW-5440:2"}));
 
     // Done: a new config finds nothing newer.
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_FALSE(available);
+    EXPECT_FALSE(updatesOnBroker());
     VehicleUpdateConfig* again = nullptr;
     const wchar_t* ecm[] = {L"ECM"};
     kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(ecm), 1, &error, &again);
@@ -737,13 +737,11 @@ TEST_F(VehicleUpdateTest, CallsThatCannotStartAreRefusedWhole) {
     EXPECT_ENGINE_ERROR(noConfig, 2211,
                         kel_updateVehicle(api, nullptr, &noConfig, &out.items, &out.count));
     EXPECT_ENGINE_ERROR(noUpload, 2211, kel_uploadReport(api, nullptr, &noUpload));
-    ErrorSlot unknown;
     VehicleUpdateConfig* c = nullptr;
     const wchar_t* names[] = {L"ECM", L"NOPE"};
-    kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(names), 2, &unknown, &c);
-    ASSERT_TRUE(unknown);
-    EXPECT_EQ(unknown->code, 1011);
-    EXPECT_EQ(c, nullptr);
+    EXPECT_ENGINE_ERROR(
+        unknown, 1011,
+        kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(names), 2, &unknown, &c));
 }
 
 // What an asynchronous update reports, and the cancel it may trigger.
