@@ -123,25 +123,6 @@ TEST_F(AsyncConcurrency, ReadDtcsReportsOnePerTargetThenFinal) {
     EXPECT_EQ(targets, (std::vector<std::wstring>{L"ECM", L"TCM", L"ESP", L"BCM", L"GW", L"ACC"}));
 }
 
-TEST_F(AsyncConcurrency, ReportsWithoutResultsPassNullLists) {
-    kelsim_setAsyncReports("identifyTargetsAsync", 3);
-    IdentCollector collector;
-    ErrorSlot error;
-    const wchar_t* names[] = {L"GW"};
-    const uint64_t id = kel_identifyTargetsAsync(api, const_cast<wchar_t**>(names), 1, &error,
-                                                 IdentCollector::callback, &collector);
-    ASSERT_NE(id, 0U);
-    ASSERT_TRUE(collector.waitForFinals(1));
-    const auto reports = collector.reports();
-    ASSERT_EQ(reports.size(), 3U);
-    EXPECT_TRUE(reports[0].nullList);
-    EXPECT_FALSE(reports[0].isFinal);
-    EXPECT_TRUE(reports[1].nullList);
-    EXPECT_FALSE(reports[2].nullList);
-    EXPECT_TRUE(reports[2].isFinal);
-    EXPECT_EQ(reports[2].targets, std::vector<std::wstring>{L"GW"});
-}
-
 TEST_F(AsyncConcurrency, ManyCallsFromManyThreads) {
     kelsim_setAsyncInterval("readDtcsAsync", 1);
     kelsim_setAsyncInterval("identifyAllTargetsAsync", 1);
