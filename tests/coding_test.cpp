@@ -174,7 +174,6 @@ TEST_F(CodingTest, AFileThatIsNoCodingFileOrLiesOutsideIsRefusedWhole) {
         ErrorSlot error;
         FileResults out;
         kel_writeCodingFile(api, path, nullptr, 0, &error, &out.items, &out.count);
-        EXPECT_EQ(out.items, nullptr);
         return error ? error->code : 0;
     };
     write(L"exchange/noequals.txt", "BCM 01A2003C\n");
