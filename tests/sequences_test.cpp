@@ -19,17 +19,11 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::param;
 using kel_test::zeroed;
 using namespace std::chrono_literals;
 
 using Results = List<ServiceResult, release_ServiceResult_array>;
-
-ParameterInput* value(const wchar_t* name, const wchar_t* text) {
-    auto* p = zeroed<ParameterInput>();
-    p->name = duplicate_WString(name);
-    p->value = duplicate_WString(text);
-    return p;
-}
 
 // Parameter values for one call, freed at the end of the test.
 struct Values {
@@ -150,7 +144,7 @@ protected:
 };
 
 TEST_F(SequencesTest, ResultsComeInOrderAndAFailedServiceStopsTheRest) {
-    Values vin{value(L"Vin", L"WVWZZZ1KZ8W000999")};
+    Values vin{param(L"Vin", L"WVWZZZ1KZ8W000999")};
     // Writing the VIN needs security access: refused, the read after it is not sent.
     EXPECT_EQ(execute(L"WriteVin", vin),
               (std::vector<Outcome>{{L"DiagnosticSessionControl", 0, 0},
@@ -172,13 +166,13 @@ TEST_F(SequencesTest, ResultsComeInOrderAndAFailedServiceStopsTheRest) {
 TEST_F(SequencesTest, ParametersAreCheckedBeforeAnythingIsSent) {
     Values none{};
     EXPECT_EQ(executeFails(L"WriteVin", none), 2002) << "Vin has no default";
-    Values unknown{value(L"Vin", L"X"), value(L"Colour", L"red")};
+    Values unknown{param(L"Vin", L"X"), param(L"Colour", L"red")};
     EXPECT_EQ(executeFails(L"WriteVin", unknown), 2002);
     EXPECT_EQ(executeFails(L"NoSuchSequence", none), 2000);
     EXPECT_EQ(executeFails(L"ReadSoftwareInfo", none, L"Nope"), 1011);
 
     // A default can be given another value: an unknown session is refused by the unit.
-    Values session{value(L"Vin", L"WVWZZZ1KZ8W000999"), value(L"Session", L"Programming")};
+    Values session{param(L"Vin", L"WVWZZZ1KZ8W000999"), param(L"Session", L"Programming")};
     const auto outcomes = execute(L"WriteVin", session);
     ASSERT_EQ(outcomes.size(), 3U);
     EXPECT_EQ(outcomes[0].status, 0);

@@ -34,20 +34,7 @@ constexpr uint32_t ecmAddress = 2016;
 constexpr uint32_t ecmKeyMask = 0x5A3C96E1;
 
 using kel_test::keyFor;
-
-ParameterInput* param(const wchar_t* name, const wchar_t* value,
-                      std::vector<ParameterInput*> children = {}) {
-    auto* p = zeroed<ParameterInput>();
-    p->name = duplicate_WString(name);
-    p->value = duplicate_WString(value);
-    if (!children.empty()) {
-        p->children = static_cast<ParameterInput**>(
-            allocate_Memory(children.size() * sizeof(ParameterInput*)));
-        std::copy(children.begin(), children.end(), p->children);
-        p->childCount = static_cast<uint32_t>(children.size());
-    }
-    return p;
-}
+using kel_test::param;
 
 // A list of services to send, freed at the end of the test.
 struct Inputs {

@@ -44,6 +44,21 @@ R* zeroed() {
     return static_cast<R*>(std::memset(allocate_Memory(sizeof(R)), 0, sizeof(R)));
 }
 
+// A parameter value as a caller hands one in, with its children.
+inline ParameterInput* param(const wchar_t* name, const wchar_t* value,
+                             std::vector<ParameterInput*> children = {}) {
+    auto* p = zeroed<ParameterInput>();
+    p->name = duplicate_WString(name);
+    p->value = duplicate_WString(value);
+    if (!children.empty()) {
+        p->children = static_cast<ParameterInput**>(
+            allocate_Memory(children.size() * sizeof(ParameterInput*)));
+        std::copy(children.begin(), children.end(), p->children);
+        p->childCount = static_cast<uint32_t>(children.size());
+    }
+    return p;
+}
+
 // The reports of an asynchronous call of services: how many results each carried, and
 // each result's service and status, in order.
 struct ServiceReports : AsyncWatch {
