@@ -9,8 +9,11 @@ using kel_test::ErrorSlot;
 
 using Lifecycle = EngineTest;
 
-TEST_F(Lifecycle, InitializeAndEndChangeTheState) {
+TEST_F(Lifecycle, InitializeAndEndChangeTheStateNotTheHandle) {
     ErrorSlot error;
+    uint64_t handle = 0;
+    kel_getHandle(api, &error, &handle);
+    EXPECT_NE(handle, 0U);
     int32_t state = -1;
     kel_getState(api, &error, &state);
     EXPECT_EQ(state, 1);
@@ -18,6 +21,9 @@ TEST_F(Lifecycle, InitializeAndEndChangeTheState) {
     kel_getState(api, &error, &state);
     EXPECT_EQ(state, 2);
     EXPECT_FALSE(error);
+    uint64_t same = 0;
+    kel_getHandle(api, &error, &same);
+    EXPECT_EQ(same, handle);
 
     uint64_t lockId = 0;
     kel_lock(api, &error, &lockId);
@@ -91,16 +97,6 @@ TEST_F(Lifecycle, BreakLockFreesTheLock) {
     kel_unlock(api, lockId, &error);
     ASSERT_TRUE(error) << "the broken lock's id is no longer valid";
     EXPECT_EQ(error->code, 1003);
-}
-
-TEST_F(Lifecycle, HandleIsStableAndNonZero) {
-    ErrorSlot error;
-    uint64_t first = 0;
-    uint64_t second = 0;
-    kel_getHandle(api, &error, &first);
-    kel_getHandle(api, &error, &second);
-    EXPECT_NE(first, 0U);
-    EXPECT_EQ(first, second);
 }
 
 TEST_F(Lifecycle, CallDurationMeasuresThePreviousCall) {
