@@ -48,24 +48,20 @@ std::vector<std::wstring> namesOf(const Targets& t) {
 
 using TargetsFamily = EngineTest;
 
-TEST_F(TargetsFamily, IdentifyAllReportsVariantsAndTheSilentEcu) {
+TEST_F(TargetsFamily, IdentificationGivesVariantsAndAnErrorPerUnit) {
     ErrorSlot error;
-    Idents out;
-    kel_identifyAllTargets(api, &error, &out.items, &out.count);
+    Idents all;
+    kel_identifyAllTargets(api, &error, &all.items, &all.count);
     ASSERT_FALSE(error);
-    ASSERT_EQ(out.count, 6U);
-    EXPECT_STREQ(out.items[0]->target, L"ECM");
-    EXPECT_STREQ(out.items[0]->variant, L"ECM_EDC17_CR_2L0_V3");
-    EXPECT_EQ(out.items[0]->status, 0);
-    EXPECT_EQ(out.items[0]->error, nullptr);
-    EXPECT_STREQ(out.items[5]->target, L"ACC");
-    EXPECT_STREQ(out.items[5]->variant, L"");
-    ASSERT_NE(out.items[5]->error, nullptr);
-    EXPECT_EQ(out.items[5]->error->code, 1010);
-}
+    ASSERT_EQ(all.count, 6U);
+    EXPECT_STREQ(all.items[0]->target, L"ECM");
+    EXPECT_STREQ(all.items[0]->variant, L"ECM_EDC17_CR_2L0_V3");
+    EXPECT_EQ(all.items[0]->status, 0);
+    EXPECT_STREQ(all.items[5]->target, L"ACC");
+    EXPECT_STREQ(all.items[5]->variant, L"");
+    ASSERT_NE(all.items[5]->error, nullptr);
+    EXPECT_EQ(all.items[5]->error->code, 1010);
 
-TEST_F(TargetsFamily, IdentifyTargetsAndIdentifyTarget) {
-    ErrorSlot error;
     Idents out;
     const wchar_t* names[] = {L"TCM", L"Nope"};
     kel_identifyTargets(api, const_cast<wchar_t**>(names), 2, &error, &out.items, &out.count);
