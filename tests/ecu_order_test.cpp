@@ -205,7 +205,6 @@ TEST_F(EcuOrderTest, FilteringKeepsTheOrdersOrderAndKnowsAliases) {
 
     std::wstring details;
     EXPECT_EQ(filter(given, {L"ECM", L"Ghost", L"Nope"}, kept, &details), 2102);
-    EXPECT_TRUE(kept.empty()) << "no result on failure";
     EXPECT_NE(details.find(L"Ghost"), std::wstring::npos);
     EXPECT_NE(details.find(L"Nope"), std::wstring::npos);
 
