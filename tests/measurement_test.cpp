@@ -2,6 +2,7 @@
 // the vehicle clock instead of waiting, and read each value in the middle of a long
 // sample, so that the value read is the one the clock says, however slow the machine.
 #include "support.h"
+#include "uds.h"
 
 #include <Kel_cpp/Records.h>
 
@@ -250,17 +251,13 @@ TEST_F(MeasurementTest, ARegistrationShowsValuesMovingUntilItEnds) {
     kel_getMeasurementValues(api, registration, &error, &gone.items, &gone.count);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->code, 1901);
-    ErrorSlot again;
-    kel_unregisterMeasurementValues(api, registration, &again);
-    ASSERT_TRUE(again);
-    EXPECT_EQ(again->code, 1901);
+    EXPECT_ENGINE_ERROR(again, 1901, kel_unregisterMeasurementValues(api, registration, &again));
 
     auto wrong = names({L"Speed", L"Nope"});
-    ErrorSlot refused;
     uint64_t none = 0;
-    kel_registerMeasurementValues(api, L"PCM", wrong.data(), 2, &refused, &none);
-    ASSERT_TRUE(refused);
-    EXPECT_EQ(refused->code, 1900);
+    EXPECT_ENGINE_ERROR(
+        refused, 1900,
+        kel_registerMeasurementValues(api, L"PCM", wrong.data(), 2, &refused, &none));
 }
 
 TEST_F(MeasurementTest, AReloadEndsRegistrations) {
@@ -275,25 +272,23 @@ TEST_F(MeasurementTest, AReloadEndsRegistrations) {
     EXPECT_EQ(error->code, 1901);
 }
 
-struct Reports {
-    std::mutex mutex;
-    std::condition_variable changed;
+struct Reports : kel_test::AsyncWatch {
     std::vector<std::wstring> values;
-    bool done = false;
 
-    static void callback(ReadDataResult** results, uint32_t count, bool isFinal, uint64_t,
+    static void callback(ReadDataResult** results, uint32_t count, bool isFinal, uint64_t callId,
                          KelError* error, void* context) {
         auto& self = *static_cast<Reports*>(context);
-        const std::lock_guard lock(self.mutex);
-        for (uint32_t i = 0; i < count; ++i) {
-            for (uint32_t k = 0; k < results[i]->parameterCount; ++k) {
-                self.values.emplace_back(results[i]->parameters[k]->text1);
+        {
+            const std::lock_guard lock(self.mutex);
+            for (uint32_t i = 0; i < count; ++i) {
+                for (uint32_t k = 0; k < results[i]->parameterCount; ++k) {
+                    self.values.emplace_back(results[i]->parameters[k]->text1);
+                }
             }
         }
-        self.done = self.done || isFinal;
         release_ReadDataResult_array(results, count);
         release_KelError(error);
-        self.changed.notify_all();
+        self.reported(callId, false, isFinal);
     }
 };
 
@@ -306,8 +301,7 @@ TEST_F(MeasurementTest, AsynchronousReadsGiveWhatTheSynchronousOneGives) {
                                                        Reports::callback, &reports);
     ASSERT_FALSE(error);
     ASSERT_NE(id, 0U);
-    std::unique_lock lock(reports.mutex);
-    ASSERT_TRUE(reports.changed.wait_for(lock, 10s, [&] { return reports.done; }));
+    ASSERT_TRUE(reports.wait());
     EXPECT_EQ(reports.values, read({L"Speed", L"Coolant"}));
 }
 

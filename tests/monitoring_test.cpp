@@ -5,9 +5,8 @@
 // service's request and response, the DTCs and identification values read), never
 // from a copy of the vehicle description. The default vehicle's ACC does not answer.
 #include "support.h"
+#include "uds.h"
 
-#include <OTXStream.h>
-#include <convert.h>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -21,6 +20,7 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::zeroed;
 
 using Bytes = std::vector<uint8_t>;
 using PduItems = List<PduMonitoringItem, release_PduMonitoringItem_array>;
@@ -58,6 +58,12 @@ std::ostream& operator<<(std::ostream& out, const Seen& s) {
     return out;
 }
 
+DtcReadConfig* allDtcs() {
+    auto* c = zeroed<DtcReadConfig>();
+    c->value = 0xFF;
+    return c;
+}
+
 class Monitoring : public EngineTest {
 protected:
     uint64_t pduMonitor() {
@@ -75,28 +81,16 @@ protected:
         EXPECT_FALSE(error) << (error ? error->code : 0);
         return handle;
     }
-    // Runs one raw request on `target`; returns the request and response the call reports.
+    // Runs one raw request on `target`; returns the request and the unit's response.
     std::pair<Bytes, Bytes> raw(const wchar_t* target, const Bytes& request) {
-        auto* s = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
-        std::memset(s, 0, sizeof *s);
-        s->service = duplicate_WString(L"");
-        s->data = static_cast<uint8_t*>(allocate_Memory(request.size()));
-        std::memcpy(s->data, request.data(), request.size());
-        s->dataLength = static_cast<uint32_t>(request.size());
+        return {request, kel_test::sendRaw(api, target, request)};
+    }
+    void readAllDtcs(const wchar_t* target) {
         ErrorSlot error;
-        List<ServiceResult, release_ServiceResult_array> results;
-        kel_executeService(api, target, &s, 1, &error, &results.items, &results.count);
-        release_ServiceInput(s);
+        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+        wchar_t* targets[] = {const_cast<wchar_t*>(target)};
+        kel_readDtcs(api, targets, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
         EXPECT_FALSE(error);
-        if (error || results.count != 1) {
-            ADD_FAILURE() << "executeService on " << std::string(target, target + 3);
-            return {};
-        }
-        const ServiceResult& r = *results.items[0];
-        const Bytes sent = r.request ? bytesOf(r.request->data, r.request->dataLength) : Bytes{};
-        const Bytes answer =
-            r.responseCount ? bytesOf(r.responses[0]->data, r.responses[0]->dataLength) : Bytes{};
-        return {sent, answer};
     }
     std::vector<Seen> pdus(uint64_t monitor, uint32_t most = 0, int32_t keep = 0) {
         ErrorSlot error;
@@ -127,13 +121,6 @@ protected:
         return text;
     }
 };
-
-DtcReadConfig* allDtcs() {
-    auto* c = static_cast<DtcReadConfig*>(allocate_Memory(sizeof(DtcReadConfig)));
-    std::memset(c, 0, sizeof *c);
-    c->value = 0xFF;
-    return c;
-}
 
 TEST_F(Monitoring, PduMonitorShowsExactlyTheTrafficOfTheCallsInOrder) {
     raw(L"ECM", {0x3E, 0x00}); // before the monitor: not shown
@@ -176,14 +163,7 @@ TEST_F(Monitoring, PduMonitorShowsExactlyTheTrafficOfTheCallsInOrder) {
     }
     // A service, and a unit that stays silent.
     const auto [request, response] = raw(L"ECM", {0x22, 0xF1, 0x90});
-    ASSERT_EQ(request, (Bytes{0x22, 0xF1, 0x90}));
-    {
-        ErrorSlot error;
-        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-        wchar_t* acc[] = {const_cast<wchar_t*>(L"ACC")};
-        kel_readDtcs(api, acc, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
-        ASSERT_FALSE(error);
-    }
+    readAllDtcs(L"ACC"); // the silent unit: a request, no answer
 
     ErrorSlot error;
     PduItems items;
@@ -217,14 +197,7 @@ TEST_F(Monitoring, PduMonitorShowsExactlyTheTrafficOfTheCallsInOrder) {
     expected.push_back({L"ACC", false, {0x19, 0x02, 0xFF}});
     EXPECT_EQ(seen, expected);
 
-    // Reading removed them: the next read is empty, NULL and 0.
-    PduItems again;
-    ErrorSlot againError;
-    again.count = 7;
-    kel_getPduMonitoringItems(api, monitor, 0, 0, &againError, &again.items, &again.count);
-    EXPECT_FALSE(againError);
-    EXPECT_EQ(again.items, nullptr);
-    EXPECT_EQ(again.count, 0u);
+    EXPECT_TRUE(pdus(monitor).empty()) << "reading removed them";
 }
 
 TEST_F(Monitoring, ValuesOfAFetchCountAndKeep) {
@@ -268,12 +241,7 @@ TEST_F(Monitoring, ALinkGivesOneItemPerExchangeWithItsAnswer) {
     const auto [refusedRequest, negative] = raw(L"ECM", {0x22, 0xFF, 0xFF});
     ASSERT_EQ(negative.size(), 3u);
     ASSERT_EQ(negative[0], 0x7F);
-    {
-        ErrorSlot error;
-        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-        wchar_t* acc[] = {const_cast<wchar_t*>(L"ACC")};
-        kel_readDtcs(api, acc, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
-    }
+    readAllDtcs(L"ACC"); // the silent unit: a request, no answer
 
     ErrorSlot error;
     LinkItems items;
@@ -309,25 +277,18 @@ TEST_F(Monitoring, ALinkGivesOneItemPerExchangeWithItsAnswer) {
     EXPECT_EQ(silent.detail, nullptr);
 
     LinkItems none;
-    ErrorSlot noneError;
-    kel_getMonitoringItems(api, bench, 0, 0, &noneError, &none.items, &none.count);
-    EXPECT_FALSE(noneError);
-    EXPECT_EQ(none.count, 0u);
-    EXPECT_EQ(none.items, nullptr);
+    kel_getMonitoringItems(api, bench, 0, 0, &error, &none.items, &none.count);
+    EXPECT_EQ(none.count, 0u) << "reading removed them";
 }
 
 TEST_F(Monitoring, LinksAreListedByNameUntilReleased) {
     const uint64_t first = link(L"bench");
     link(L"Prüfstand 2");
-    ErrorSlot taken;
     uint64_t handle = 0;
-    kel_createMonitoringLink(api, L"bench", &taken, &handle);
-    ASSERT_TRUE(taken);
-    EXPECT_EQ(taken->code, LinkExists);
-    ErrorSlot unnamed;
-    kel_createMonitoringLink(api, L"", &unnamed, &handle);
-    ASSERT_TRUE(unnamed);
-    EXPECT_EQ(unnamed->code, BadArgument);
+    EXPECT_ENGINE_ERROR(taken, LinkExists,
+                        kel_createMonitoringLink(api, L"bench", &taken, &handle));
+    EXPECT_ENGINE_ERROR(unnamed, BadArgument,
+                        kel_createMonitoringLink(api, L"", &unnamed, &handle));
 
     const auto names = [&] {
         ErrorSlot error;
@@ -369,30 +330,20 @@ TEST_F(Monitoring, ReleasedUnknownAndForeignHandlesAreEngineErrors) {
     EXPECT_EQ(errorOf(kel_releaseApiTraceMonitor, trace), UnknownMonitor);
     EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, bench), UnknownMonitor);
 
-    ErrorSlot read;
     PduItems items;
-    items.count = 9;
-    kel_getPduMonitoringItems(api, monitor, 0, 0, &read, &items.items, &items.count);
-    ASSERT_TRUE(read);
-    EXPECT_EQ(read->code, UnknownMonitor);
-    EXPECT_EQ(items.count, 9u); // untouched on failure
-    items.count = 0;
-    ErrorSlot readTrace;
+    EXPECT_ENGINE_ERROR(
+        read, UnknownMonitor,
+        kel_getPduMonitoringItems(api, monitor, 0, 0, &read, &items.items, &items.count));
     void* data = nullptr;
     uint32_t length = 0;
-    kel_getApiTraceContent(api, trace, 0, 0, &readTrace, &data, &length);
-    ASSERT_TRUE(readTrace);
-    EXPECT_EQ(readTrace->code, UnknownMonitor);
-    EXPECT_EQ(data, nullptr);
+    EXPECT_ENGINE_ERROR(readTrace, UnknownMonitor,
+                        kel_getApiTraceContent(api, trace, 0, 0, &readTrace, &data, &length));
 
     // Monitors need an initialised engine, as every call on the vehicle does.
     ErrorSlot ended;
     kel_end(api, &ended);
-    ErrorSlot create;
     uint64_t none = 0;
-    kel_createPduMonitor(api, &create, &none);
-    ASSERT_TRUE(create);
-    EXPECT_EQ(create->code, 1001);
+    EXPECT_ENGINE_ERROR(create, 1001, kel_createPduMonitor(api, &create, &none));
 }
 
 // <number> <vehicle time ms> <operation> <duration>us <ok|failed> <arguments>
@@ -441,22 +392,18 @@ TEST_F(Monitoring, ApiTraceShowsTheCallsMadeWithSecretsMasked) {
     const std::string text = apiTrace(trace);
     EXPECT_EQ(text.find("Hunter2-Secret"), std::string::npos) << text;
     const auto lines = traceLines(text);
-    ASSERT_EQ(lines.size(), 4u) << text;
-    EXPECT_EQ(lines[0][0], "1");
-    EXPECT_EQ(lines[0][2], "getApiTraceContent");
-    EXPECT_EQ(lines[0][5], "[" + std::to_string(trace) + ",0,0]");
-    EXPECT_EQ(lines[1][0], "2");
-    EXPECT_EQ(lines[1][2], "thirdPartyLogin");
-    EXPECT_EQ(lines[1][3].substr(lines[1][3].size() - 2), "us");
-    EXPECT_EQ(lines[1][4], loginError ? "failed:" + std::to_string(loginError->code) : "ok");
-    EXPECT_EQ(lines[1][5], R"(["***"])");
-    EXPECT_EQ(lines[2][0], "3");
-    EXPECT_EQ(lines[2][2], "getState");
-    EXPECT_EQ(lines[2][4], "failed:77"); // the error code the call failed with
-    EXPECT_EQ(lines[2][5], "[]");
-    EXPECT_EQ(lines[3][2], "releasePduMonitor");
-    EXPECT_EQ(lines[3][4], "failed:" + std::to_string(UnknownMonitor));
-    EXPECT_EQ(lines[3][5], "[987654]");
+    std::vector<std::string> seen; // each line's number, operation, outcome and arguments
+    for (const auto& line : lines) {
+        seen.push_back(line[0] + " " + line[2] + " " + line[4] + " " + line[5]);
+        EXPECT_TRUE(line[3].ends_with("us")) << line[3];
+    }
+    const std::string login = loginError ? "failed:" + std::to_string(loginError->code) : "ok";
+    EXPECT_EQ(seen,
+              (std::vector<std::string>{
+                  "1 getApiTraceContent ok [" + std::to_string(trace) + ",0,0]",
+                  "2 thirdPartyLogin " + login + R"( ["***"])", "3 getState failed:77 []",
+                  "4 releasePduMonitor failed:" + std::to_string(UnknownMonitor) + " [987654]"}));
+    ASSERT_EQ(lines.size(), 4u);
     EXPECT_LE(std::stoll(lines[0][1]), std::stoll(lines[2][1]));
 
     // Taken out: the next read has only the read before it, numbered on.
@@ -522,14 +469,10 @@ TEST_F(Monitoring, AnOperatorsApiTraceShowsOnlyItsOwnCalls) {
     EXPECT_NE(everything.find("writeFile"), std::string::npos) << everything;
     EXPECT_NE(everything.find("getState"), std::string::npos) << everything;
 
-    ErrorSlot unread;
-    kel_getApiTraceContent(client, all, 0, 0, &unread, &data, &length);
-    ASSERT_TRUE(unread);
-    EXPECT_EQ(unread->code, UnknownMonitor);
-    ErrorSlot unreleased;
-    kel_releaseApiTraceMonitor(client, all, &unreleased);
-    ASSERT_TRUE(unreleased);
-    EXPECT_EQ(unreleased->code, UnknownMonitor);
+    EXPECT_ENGINE_ERROR(unread, UnknownMonitor,
+                        kel_getApiTraceContent(client, all, 0, 0, &unread, &data, &length));
+    EXPECT_ENGINE_ERROR(unreleased, UnknownMonitor,
+                        kel_releaseApiTraceMonitor(client, all, &unreleased));
     releaseTarnApi(client);
     releaseTarnApi(api);
     kelsim_reset();
@@ -544,12 +487,7 @@ TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     const uint64_t live = link(L"live");
     raw(L"ECM", {0x22, 0xF1, 0x90});
     raw(L"ECM", {0x22, 0xFF, 0xFF});
-    {
-        ErrorSlot error;
-        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-        wchar_t* acc[] = {const_cast<wchar_t*>(L"ACC")};
-        kel_readDtcs(api, acc, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
-    }
+    readAllDtcs(L"ACC"); // the silent unit: a request, no answer
     ErrorSlot handleError;
     uint64_t engine = 0;
     kel_getHandle(api, &handleError, &engine);
@@ -566,10 +504,8 @@ TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     ErrorSlot open;
     kel_openTraceFileMonitoringLink(api, replay, L"traces/run.trc", &open);
     ASSERT_FALSE(open) << open->code;
-    ErrorSlot twice;
-    kel_openTraceFileMonitoringLink(api, replay, L"traces/run.trc", &twice);
-    ASSERT_TRUE(twice);
-    EXPECT_EQ(twice->code, TraceFileOpen);
+    EXPECT_ENGINE_ERROR(twice, TraceFileOpen,
+                        kel_openTraceFileMonitoringLink(api, replay, L"traces/run.trc", &twice));
     raw(L"ECM", {0x3E, 0x00}); // live traffic does not reach a link that replays
     EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, replay), 0);
     kelsim_advanceClock(60000);
@@ -710,69 +646,6 @@ TEST_F(MonitoringConcurrency, ExchangesFromSeveralThreadsAreAllSeenInPairs) {
     for (const wchar_t* unit : units) {
         EXPECT_EQ(requests[unit], perThread);
     }
-}
-
-// ---- the same monitor through kel_call and py_call ----
-
-std::vector<uint8_t> streamed(PduMonitoringItem** items, uint32_t count) {
-    const auto engine = kel::listFromC(items, count);
-    kel::OTXStream out(true, false, true);
-    out.write(engine);
-    return {out.buffer, out.buffer + out.position};
-}
-
-TEST_F(Monitoring, KelCallAndPyCallReachTheSameMonitor) {
-    // kel_call 14 (createPduMonitor): no arguments; status 1, then the handle.
-    void* stream = nullptr;
-    uint64_t size = 0;
-    kel_call_checked(0, 14, nullptr, 0, &stream, &size);
-    std::vector<uint8_t> created(size);
-    kel_call_result(stream, created.data());
-    ASSERT_EQ(created.size(), 9u);
-    ASSERT_EQ(created[0], 1);
-    uint64_t monitor = 0;
-    std::memcpy(&monitor, created.data() + 1, sizeof monitor); // little-endian, as the host
-
-    raw(L"ECM", {0x22, 0xF1, 0x90});
-
-    // Fetch 13 (handle, most, keep) through py_call and kel_call leaving the items, then
-    // through the export taking them: all three carry the same two items.
-    std::vector<uint8_t> arguments(16, 0);
-    std::memcpy(arguments.data(), &monitor, 8);
-    arguments[12] = 1; // keep
-    uint32_t pySize = 0;
-    void* buffer = nullptr;
-    ASSERT_EQ(py_call_checked(api, 13, 0, arguments.data(), arguments.size(), &pySize, &buffer), 0);
-    std::vector<uint8_t> pyResult(pySize);
-    py_result(pyResult.data(), static_cast<int32_t>(pySize), buffer);
-    kel_call_checked(0, 13, arguments.data(), arguments.size(), &stream, &size);
-    std::vector<uint8_t> otxResult(size);
-    kel_call_result(stream, otxResult.data());
-    ASSERT_FALSE(otxResult.empty());
-    EXPECT_EQ(otxResult[0], 1);
-
-    ErrorSlot error;
-    PduItems exported;
-    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &exported.items, &exported.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(exported.count, 2u);
-    const auto expected = streamed(exported.items, exported.count);
-    EXPECT_EQ(std::vector<uint8_t>(otxResult.begin() + 1, otxResult.end()), expected);
-    EXPECT_EQ(pyResult, expected);
-
-    // Released through kel_call 16, a second release through py_call is the engine's error.
-    kel_call_checked(0, 16, arguments.data(), 8, &stream, &size);
-    std::vector<uint8_t> released(size);
-    kel_call_result(stream, released.data());
-    EXPECT_EQ(released, std::vector<uint8_t>{1});
-    ASSERT_EQ(py_call_checked(api, 16, 0, arguments.data(), 8, &pySize, &buffer), -1);
-    std::vector<uint8_t> refusal(pySize);
-    py_result(refusal.data(), static_cast<int32_t>(pySize), buffer);
-    kel::OTXStream in(refusal.data(), true, true, true);
-    std::shared_ptr<Varno::Kel_cpp::KelError> engineError;
-    in.read(engineError);
-    ASSERT_TRUE(engineError);
-    EXPECT_EQ(engineError->code, UnknownMonitor);
 }
 
 } // namespace

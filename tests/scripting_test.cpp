@@ -21,8 +21,6 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::freshTempPath;
-using kel_test::lastArguments;
-using kel_test::List;
 using Varno::Kel_cpp::Reference::describe;
 using Varno::Kel_cpp::Reference::Json;
 using Varno::Kel_cpp::Reference::parseText;
@@ -126,7 +124,7 @@ TEST_F(ScriptedResults, AScriptedFailureWinsAndLeavesTheResultForTheNextCall) {
     EXPECT_EQ(state(api), 5);
 }
 
-TEST_F(ScriptedResults, AVoidOperationReturnsAtOnceWithItsArgumentsRecorded) {
+TEST_F(ScriptedResults, AVoidOperationReturnsAtOnce) {
     ASSERT_EQ(kelsim_scriptResult("end", "null"), 0);
     ErrorSlot error;
     kel_end(api, &error);
@@ -135,45 +133,6 @@ TEST_F(ScriptedResults, AVoidOperationReturnsAtOnceWithItsArgumentsRecorded) {
     EXPECT_EQ(kelsim_scriptResult("stopServer", "0"), -1);
     EXPECT_EQ(scriptError(),
               "stopServer: result: expected null (the operation returns nothing), got 0");
-    ASSERT_EQ(kelsim_scriptResult("stopServer", "null"), 0);
-    kel_stopServer(api, L"Zürich \U0001D11E", &error);
-    EXPECT_FALSE(error);
-    EXPECT_EQ(lastArguments("stopServer"), "[\"Zürich \U0001D11E\"]");
-}
-
-TEST_F(ScriptedResults, CarryTextListsBytesAndRecordsExactly) {
-    ASSERT_EQ(kelsim_scriptResult("getVersion", R"("v\"1\" \u00e9 \ud834\udd1e")"), 0);
-    ErrorSlot error;
-    wchar_t* version = nullptr;
-    kel_getVersion(api, &error, &version);
-    ASSERT_FALSE(error);
-    EXPECT_STREQ(version, L"v\"1\" \u00e9 \U0001D11E");
-    release_Memory(version);
-
-    ASSERT_EQ(kelsim_scriptResult("createSeed", "[0,255,16]"), 0);
-    uint8_t* seed = nullptr;
-    uint32_t length = 0;
-    kel_createSeed(api, 1, 2, &error, &seed, &length);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(length, 3U);
-    EXPECT_EQ(std::vector<uint8_t>(seed, seed + length), (std::vector<uint8_t>{0, 255, 16}));
-    release_Memory(seed);
-    EXPECT_EQ(lastArguments("createSeed"), "[1,2]");
-
-    ASSERT_EQ(kelsim_scriptResult("identifyTarget", "null"), 0);
-    VariantIdentResult* ident = nullptr;
-    kel_identifyTarget(api, L"ECM", &error, &ident);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(ident, nullptr) << "ECM exists, but null was scripted";
-
-    ASSERT_EQ(kelsim_scriptResult("readDtcs", ("[" + dtcs(goodDtc) + "]").c_str()), 0);
-    List<ReadDtcResult, release_ReadDtcResult_array> out;
-    kel_readDtcs(api, nullptr, 0, nullptr, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(out.count, 1U);
-    EXPECT_STREQ(out.items[0]->target, L"ECM");
-    ASSERT_EQ(out.items[0]->dtcCount, 1U);
-    EXPECT_EQ(out.items[0]->dtcs[0]->code, 1);
 }
 
 TEST_F(ScriptedResults, RefuseWhatCannotBeScriptedAndSayWhy) {
@@ -244,7 +203,6 @@ TEST_F(ScriptedConcurrency, AsynchronousResultsArriveInOneFinalReportFromAnEngin
     const uint64_t next =
         kel_readDtcsAsync(api, nullptr, 0, nullptr, &error, Reports::callback, &reports);
     ASSERT_FALSE(error);
-    EXPECT_EQ(lastArguments("readDtcsAsync"), R"([[],null,"callback"])");
     EXPECT_NE(first, 0U);
     EXPECT_NE(first, next);
     ASSERT_TRUE(reports.waitFor(2));

@@ -2,6 +2,7 @@
 // the order the services ran, parameter values bound into them, the stop rule after a
 // failed service, the asynchronous form, and runs that report as events and cancel.
 #include "support.h"
+#include "uds.h"
 
 #include <Kel_cpp/Records.h>
 
@@ -18,17 +19,11 @@ namespace {
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::param;
+using kel_test::zeroed;
 using namespace std::chrono_literals;
 
 using Results = List<ServiceResult, release_ServiceResult_array>;
-
-ParameterInput* value(const wchar_t* name, const wchar_t* text) {
-    auto* p = static_cast<ParameterInput*>(allocate_Memory(sizeof(ParameterInput)));
-    std::memset(p, 0, sizeof *p);
-    p->name = duplicate_WString(name);
-    p->value = duplicate_WString(text);
-    return p;
-}
 
 // Parameter values for one call, freed at the end of the test.
 struct Values {
@@ -149,7 +144,7 @@ protected:
 };
 
 TEST_F(SequencesTest, ResultsComeInOrderAndAFailedServiceStopsTheRest) {
-    Values vin{value(L"Vin", L"WVWZZZ1KZ8W000999")};
+    Values vin{param(L"Vin", L"WVWZZZ1KZ8W000999")};
     // Writing the VIN needs security access: refused, the read after it is not sent.
     EXPECT_EQ(execute(L"WriteVin", vin),
               (std::vector<Outcome>{{L"DiagnosticSessionControl", 0, 0},
@@ -171,13 +166,13 @@ TEST_F(SequencesTest, ResultsComeInOrderAndAFailedServiceStopsTheRest) {
 TEST_F(SequencesTest, ParametersAreCheckedBeforeAnythingIsSent) {
     Values none{};
     EXPECT_EQ(executeFails(L"WriteVin", none), 2002) << "Vin has no default";
-    Values unknown{value(L"Vin", L"X"), value(L"Colour", L"red")};
+    Values unknown{param(L"Vin", L"X"), param(L"Colour", L"red")};
     EXPECT_EQ(executeFails(L"WriteVin", unknown), 2002);
     EXPECT_EQ(executeFails(L"NoSuchSequence", none), 2000);
     EXPECT_EQ(executeFails(L"ReadSoftwareInfo", none, L"Nope"), 1011);
 
     // A default can be given another value: an unknown session is refused by the unit.
-    Values session{value(L"Vin", L"WVWZZZ1KZ8W000999"), value(L"Session", L"Programming")};
+    Values session{param(L"Vin", L"WVWZZZ1KZ8W000999"), param(L"Session", L"Programming")};
     const auto outcomes = execute(L"WriteVin", session);
     ASSERT_EQ(outcomes.size(), 3U);
     EXPECT_EQ(outcomes[0].status, 0);
@@ -206,35 +201,7 @@ TEST_F(SequencesTest, AStepMayBePassedOverWhenItFails) {
     EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "sequences": {"A": {"steps": [{}]}}})"), -1);
 }
 
-struct Reports {
-    std::mutex mutex;
-    std::condition_variable changed;
-    std::vector<uint32_t> counts;
-    std::vector<std::wstring> services;
-    int32_t finalError = -1;
-    bool done = false;
-
-    static void callback(ServiceResult** results, uint32_t count, bool isFinal, uint64_t,
-                         KelError* error, void* context) {
-        auto& self = *static_cast<Reports*>(context);
-        const std::lock_guard lock(self.mutex);
-        self.counts.push_back(count);
-        for (uint32_t i = 0; i < count; ++i) {
-            self.services.emplace_back(results[i]->itemText1);
-        }
-        if (isFinal) {
-            self.done = true;
-            self.finalError = error != nullptr ? error->code : 0;
-        }
-        release_ServiceResult_array(results, count);
-        release_KelError(error);
-        self.changed.notify_all();
-    }
-    bool wait() {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, 10s, [&] { return done; });
-    }
-};
+using Reports = kel_test::ServiceReports;
 
 TEST_F(SequencesTest, TheAsynchronousFormReportsEachService) {
     Values none{};
@@ -248,7 +215,7 @@ TEST_F(SequencesTest, TheAsynchronousFormReportsEachService) {
     EXPECT_EQ(reports.counts, (std::vector<uint32_t>{1, 1}));
     EXPECT_EQ(reports.services, (std::vector<std::wstring>{L"ReadDataByIdentifier_F190",
                                                            L"ReadDataByIdentifier_F189"}));
-    EXPECT_EQ(reports.finalError, 0);
+    EXPECT_EQ(reports.errorCode, 0);
 
     Reports refused;
     EXPECT_EQ(kel_executeSequenceAsync(api, L"ECM", L"Nope", nullptr, 0, &error, Reports::callback,
@@ -274,10 +241,7 @@ TEST_F(SequenceRunsConcurrency, ARunReportsItsServicesAsEventsAndEnds) {
     EXPECT_EQ(events[3].kind, sequenceEnded);
     EXPECT_EQ(events[3].code, 1) << "stopped by a failed service";
 
-    ErrorSlot ended;
-    kel_cancelSequence(api, id, &ended);
-    ASSERT_TRUE(ended);
-    EXPECT_EQ(ended->code, 2001) << "an ended run cannot be cancelled";
+    EXPECT_ENGINE_ERROR(ended, 2001, kel_cancelSequence(api, id, &ended));
     int32_t failed = 0;
     run(L"WriteVin", {L"A", L"Extended", L"one too many"}, &failed);
     EXPECT_EQ(failed, 2002);

@@ -1,5 +1,6 @@
-// Raw UDS from the tests: request bytes sent to a unit through executeService, and the
-// documented key rule, written out again so that the engine's is checked.
+// Shared by the tests of the vehicle: an expected engine error, raw UDS request bytes
+// sent to a unit through executeService, and the documented key rule, written out again
+// so that the engine's is checked.
 #pragma once
 
 #include "support.h"
@@ -12,6 +13,15 @@
 namespace kel_test {
 
 using Bytes = std::vector<uint8_t>;
+
+// Runs `call`, which reports into the error slot `slot` it names, and expects the engine
+// error `expected` from it.
+#define EXPECT_ENGINE_ERROR(slot, expected, call)                                                  \
+    do {                                                                                           \
+        ::kel_test::ErrorSlot slot;                                                                \
+        call;                                                                                      \
+        EXPECT_EQ((slot) ? (slot)->code : 0, expected) << #call;                                   \
+    } while (false)
 
 // The default vehicle's ECM: the mask of its security level 2, which programming needs.
 constexpr uint32_t ecmProgrammingMask = 0xC3A5179E;
@@ -28,10 +38,55 @@ inline Bytes keyFor(const uint8_t* seed, uint32_t mask) {
             static_cast<uint8_t>(k >> 8), static_cast<uint8_t>(k)};
 }
 
+// A record on the library's heap with every member 0 or NULL, as a caller builds an input.
+template <class R>
+R* zeroed() {
+    return static_cast<R*>(std::memset(allocate_Memory(sizeof(R)), 0, sizeof(R)));
+}
+
+// A parameter value as a caller hands one in, with its children.
+inline ParameterInput* param(const wchar_t* name, const wchar_t* value,
+                             std::vector<ParameterInput*> children = {}) {
+    auto* p = zeroed<ParameterInput>();
+    p->name = duplicate_WString(name);
+    p->value = duplicate_WString(value);
+    if (!children.empty()) {
+        p->children = static_cast<ParameterInput**>(
+            allocate_Memory(children.size() * sizeof(ParameterInput*)));
+        std::copy(children.begin(), children.end(), p->children);
+        p->childCount = static_cast<uint32_t>(children.size());
+    }
+    return p;
+}
+
+// The reports of an asynchronous call of services: how many results each carried, and
+// each result's service and status, in order.
+struct ServiceReports : AsyncWatch {
+    std::vector<uint32_t> counts;
+    std::vector<std::wstring> services;
+    std::vector<int32_t> statuses;
+
+    static void callback(ServiceResult** results, uint32_t count, bool isFinal, uint64_t callId,
+                         KelError* error, void* context) {
+        auto& self = *static_cast<ServiceReports*>(context);
+        {
+            const std::lock_guard lock(self.mutex);
+            self.counts.push_back(count);
+            for (uint32_t i = 0; i < count; ++i) {
+                self.services.emplace_back(results[i]->itemText1);
+                self.statuses.push_back(results[i]->status);
+            }
+            self.errorCode = error != nullptr ? error->code : self.errorCode;
+        }
+        release_ServiceResult_array(results, count);
+        release_KelError(error);
+        self.reported(callId, false, isFinal);
+    }
+};
+
 // Sends raw request bytes to a unit; its response bytes, empty when it stayed silent.
 inline Bytes sendRaw(TarnApi* api, const wchar_t* target, const Bytes& request) {
-    auto* input = static_cast<ServiceInput*>(allocate_Memory(sizeof(ServiceInput)));
-    std::memset(input, 0, sizeof *input);
+    auto* input = zeroed<ServiceInput>();
     input->service = duplicate_WString(L"");
     input->data = static_cast<uint8_t*>(allocate_Memory(request.size()));
     std::memcpy(input->data, request.data(), request.size());

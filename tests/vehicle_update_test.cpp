@@ -3,6 +3,7 @@
 // in ECU order, a cancel leaves no unit half written, the broker cannot be pointed
 // outside the engine's folders, and engine components stay updated across a restart.
 #include "support.h"
+#include "uds.h"
 
 #include <algorithm>
 #include <atomic>
@@ -28,6 +29,7 @@ using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::freshTempPath;
 using kel_test::List;
+using kel_test::zeroed;
 using namespace std::chrono_literals;
 
 using Bytes = std::vector<uint8_t>;
@@ -119,13 +121,6 @@ std::wstring wide(const std::string& s) { return std::wstring(s.begin(), s.end()
 
 wchar_t* dup(const std::wstring& s) { return duplicate_WString(s.c_str()); }
 
-template <class T>
-T* record() {
-    auto* r = static_cast<T*>(allocate_Memory(sizeof(T)));
-    std::memset(r, 0, sizeof(T));
-    return r;
-}
-
 wchar_t** texts(const std::vector<std::wstring>& values) {
     auto** out = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*) * (values.size() + 1)));
     for (std::size_t i = 0; i < values.size(); ++i) {
@@ -144,13 +139,13 @@ struct Wanted {
 VehicleUpdateConfig* config(const std::vector<std::wstring>& targets,
                             const std::vector<Wanted>& packages, bool stopOnError = true,
                             bool force = false) {
-    auto* c = record<VehicleUpdateConfig>();
+    auto* c = zeroed<VehicleUpdateConfig>();
     c->targets = texts(targets);
     c->targetCount = static_cast<uint32_t>(targets.size());
     c->packages = static_cast<UpdatePackageInfo**>(
         allocate_Memory(sizeof(UpdatePackageInfo*) * (packages.size() + 1)));
     for (std::size_t i = 0; i < packages.size(); ++i) {
-        auto* p = record<UpdatePackageInfo>();
+        auto* p = zeroed<UpdatePackageInfo>();
         p->name = dup(packages[i].name);
         p->version = dup(packages[i].version);
         p->description = dup(L"");
@@ -270,6 +265,22 @@ protected:
         ErrorSlot error;
         kel_setBrokerUrl(api, url, &error);
         return error ? error->code : 0;
+    }
+
+    bool updatesOnBroker() {
+        ErrorSlot error;
+        bool available = false;
+        kel_checkUpdatesOnBroker(api, &error, &available);
+        EXPECT_FALSE(error);
+        return available;
+    }
+    // Whether autoUpdate installed something; it must not fail.
+    bool autoUpdate() {
+        ErrorSlot error;
+        bool updated = false;
+        kel_autoUpdate(api, &error, &updated);
+        EXPECT_FALSE(error) << error->code;
+        return updated;
     }
 
     bool lastUpdateSucceeded() {
@@ -457,27 +468,17 @@ TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeep
 
     publish("tool", "1.9", "engine", "tool", Bytes(100, 1));
     ErrorSlot error;
-    bool available = false;
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_TRUE(available);
-    bool updated = false;
-    kel_autoUpdate(api, &error, &updated);
-    ASSERT_FALSE(error) << error->code;
-    EXPECT_TRUE(updated);
+    EXPECT_TRUE(updatesOnBroker());
+    EXPECT_TRUE(autoUpdate());
     EXPECT_EQ(versions()[L"tool"], L"1.9");
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_FALSE(available);
-    kel_autoUpdate(api, &error, &updated);
-    EXPECT_FALSE(updated) << "nothing newer";
+    EXPECT_FALSE(updatesOnBroker());
+    EXPECT_FALSE(autoUpdate()) << "nothing newer";
 
     // 1.10 is newer than 1.9; an older one beside it is not chosen.
     publish("tool", "1.10", "engine", "tool", Bytes(200, 2));
     publish("tool", "1.8", "engine", "tool", Bytes(50, 3));
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_TRUE(available);
-    kel_autoUpdate(api, &error, &updated);
-    ASSERT_FALSE(error);
-    EXPECT_TRUE(updated);
+    EXPECT_TRUE(updatesOnBroker());
+    EXPECT_TRUE(autoUpdate());
     EXPECT_EQ(read(root / "updates" / "components" / "tool" / "tool_1.10.bin"),
               std::string(200, '\2'));
     EXPECT_EQ(listed(kel_getUpdatePackages),
@@ -486,8 +487,7 @@ TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeep
     restart();
     EXPECT_EQ(versions()[L"tool"], L"1.10");
     EXPECT_TRUE(lastUpdateSucceeded());
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_FALSE(available);
+    EXPECT_FALSE(updatesOnBroker());
 
     kel_clearUpdatePackages(api, &error);
     ASSERT_FALSE(error);
@@ -525,9 +525,7 @@ TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {
     ASSERT_TRUE(corrupt);
     EXPECT_EQ(corrupt->code, 2203);
     EXPECT_NE(std::wstring(corrupt->details).find(L"crc32:1A2B3C4D"), std::wstring::npos);
-    bool updated = true;
-    kel_autoUpdate(api, &error, &updated);
-    EXPECT_FALSE(updated);
+    EXPECT_FALSE(autoUpdate());
     EXPECT_FALSE(lastUpdateSucceeded());
     EXPECT_EQ(versions(), known);
     EXPECT_EQ(listed(kel_getUpdatePackages), std::vector<std::wstring>{L"tool-2:2"});
@@ -548,22 +546,13 @@ TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {
     fs::remove_all(root / "broker" / "packages" / "tool-3");
     publish("tool", "4", "engine", "tool", Bytes(10, 4), 0, root / "updates" / "packages");
     put(root / "updates" / "packages" / "tool-4" / "tool_4.bin", std::string(10, '\5'));
-    ErrorSlot damaged;
-    kel_applyUpdatePackage(api, L"tool", &damaged);
-    ASSERT_TRUE(damaged);
-    EXPECT_EQ(damaged->code, 2203);
+    EXPECT_ENGINE_ERROR(damaged, 2203, kel_applyUpdatePackage(api, L"tool", &damaged));
     EXPECT_EQ(versions(), known);
 
     // Unknown names and control-unit software are not for applyUpdatePackage.
-    ErrorSlot unknown;
-    kel_applyUpdatePackage(api, L"nothing", &unknown);
-    ASSERT_TRUE(unknown);
-    EXPECT_EQ(unknown->code, 2202);
+    EXPECT_ENGINE_ERROR(unknown, 2202, kel_applyUpdatePackage(api, L"nothing", &unknown));
     publishEcu("ECM", "5432");
-    ErrorSlot ecu;
-    kel_applyUpdatePackage(api, L"ECM_SW", &ecu);
-    ASSERT_TRUE(ecu);
-    EXPECT_EQ(ecu->code, 2205);
+    EXPECT_ENGINE_ERROR(ecu, 2205, kel_applyUpdatePackage(api, L"ECM_SW", &ecu));
     EXPECT_EQ(version(L"ECM"), L"5428");
 }
 
@@ -576,9 +565,7 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     publishEcu("TCM", "0830"); // what it runs already
     publishEcu("BCM", "0460", 5000);
     ErrorSlot error;
-    bool available = false;
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_TRUE(available);
+    EXPECT_TRUE(updatesOnBroker());
 
     VehicleUpdateConfig* made = nullptr;
     kel_createVehicleUpdateConfig(api, nullptr, 0, &error, &made);
@@ -631,8 +618,7 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     EXPECT_EQ(stored, (std::vector<std::wstring>{L"BCM_SW-0460:2", L"ECM_SW-5440:2"}));
 
     // Done: a new config finds nothing newer.
-    kel_checkUpdatesOnBroker(api, &error, &available);
-    EXPECT_FALSE(available);
+    EXPECT_FALSE(updatesOnBroker());
     VehicleUpdateConfig* again = nullptr;
     const wchar_t* ecm[] = {L"ECM"};
     kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(ecm), 1, &error, &again);
@@ -669,7 +655,7 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
     publishEcu("GW", "0200");
     publishEcu("TCM", "0830");
     const auto entry = [](const wchar_t* target, bool optional) {
-        auto* e = record<EcuOrderEntry>();
+        auto* e = zeroed<EcuOrderEntry>();
         e->target = dup(target);
         e->bus = dup(L"");
         e->optional = optional ? 1 : 0;
@@ -731,7 +717,7 @@ TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne
 
     std::vector<EcuOrderEntry*> entries;
     for (const wchar_t* target : {L"TCM", L"ECM", L"GW", L"DASH", L"BCM"}) {
-        auto* e = record<EcuOrderEntry>();
+        auto* e = zeroed<EcuOrderEntry>();
         e->target = dup(target);
         e->bus = dup(L"any");
         entries.push_back(e);
@@ -747,22 +733,15 @@ TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne
 }
 
 TEST_F(VehicleUpdateTest, CallsThatCannotStartAreRefusedWhole) {
-    ErrorSlot noConfig;
     Results out;
-    kel_updateVehicle(api, nullptr, &noConfig, &out.items, &out.count);
-    ASSERT_TRUE(noConfig);
-    EXPECT_EQ(noConfig->code, 2211);
-    ErrorSlot noUpload;
-    kel_uploadReport(api, nullptr, &noUpload);
-    ASSERT_TRUE(noUpload);
-    EXPECT_EQ(noUpload->code, 2211);
-    ErrorSlot unknown;
+    EXPECT_ENGINE_ERROR(noConfig, 2211,
+                        kel_updateVehicle(api, nullptr, &noConfig, &out.items, &out.count));
+    EXPECT_ENGINE_ERROR(noUpload, 2211, kel_uploadReport(api, nullptr, &noUpload));
     VehicleUpdateConfig* c = nullptr;
     const wchar_t* names[] = {L"ECM", L"NOPE"};
-    kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(names), 2, &unknown, &c);
-    ASSERT_TRUE(unknown);
-    EXPECT_EQ(unknown->code, 1011);
-    EXPECT_EQ(c, nullptr);
+    EXPECT_ENGINE_ERROR(
+        unknown, 1011,
+        kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(names), 2, &unknown, &c));
 }
 
 // What an asynchronous update reports, and the cancel it may trigger.
@@ -871,7 +850,7 @@ TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
     std::wstring comment = L"after the update";
     const auto upload = [&](const wchar_t* file, const wchar_t* folder, const wchar_t* name,
                             bool overwrite, bool twin) {
-        auto* c = record<UploadReportConfiguration>();
+        auto* c = zeroed<UploadReportConfiguration>();
         c->reportFile = dup(file);
         c->folder = dup(folder);
         c->name = dup(name);
