@@ -41,21 +41,28 @@ if(WIN32)
 endif()
 
 # ---- where things go ----------------------------------------------------------------------
-# The Python package goes where the interpreter CMake finds (Python3_EXECUTABLE: give a
-# venv's or pyenv's python to install for it) says purelib is for the prefix, so that
-# interpreter finds it: <prefix>/lib/python3.X/site-packages for a venv, pyenv or
-# python.org build. Debian's own python3 reports its /usr/local scheme (posix_local); for
-# it the Debian layout is taken, <prefix>/lib/python3/dist-packages, which it searches
-# under /usr. Without an interpreter the Debian layout stays.
+# The Python package goes where an interpreter's sysconfig says purelib is for the prefix,
+# so that interpreter finds it: the one given as Python3_EXECUTABLE (a venv's or pyenv's:
+# <prefix>/lib/python3.X/site-packages), else the system's /usr/bin/python3, the one a
+# Debian package serves, else the first found. Debian's own python3 reports its /usr/local
+# scheme (posix_local); for it the Debian layout is taken, <prefix>/lib/python3/dist-packages,
+# which it searches under /usr. Without an interpreter the Debian layout stays.
 if(WIN32)
     set(KEL_PYTHON_INSTALL_DIR python CACHE STRING "Folder (under the prefix) of the Python package kel")
     set(_kel_library_dir ${CMAKE_INSTALL_BINDIR})
 else()
     if(NOT DEFINED CACHE{KEL_PYTHON_INSTALL_DIR})
-        find_package(Python3 COMPONENTS Interpreter)
+        if(DEFINED CACHE{Python3_EXECUTABLE})
+            set(_kel_layout_python ${Python3_EXECUTABLE})
+        elseif(EXISTS /usr/bin/python3)
+            set(_kel_layout_python /usr/bin/python3)
+        else()
+            find_package(Python3 COMPONENTS Interpreter)
+            set(_kel_layout_python ${Python3_EXECUTABLE})
+        endif()
         set(_kel_purelib lib/python3/dist-packages)
-        if(Python3_Interpreter_FOUND)
-            execute_process(COMMAND ${Python3_EXECUTABLE} -c [=[
+        if(_kel_layout_python)
+            execute_process(COMMAND ${_kel_layout_python} -c [=[
 import sysconfig
 scheme = sysconfig.get_default_scheme() if hasattr(sysconfig, "get_default_scheme") else sysconfig._get_default_scheme()
 if scheme == "posix_local":

@@ -183,6 +183,13 @@ def check_debs(packages: pathlib.Path, build: pathlib.Path, work: pathlib.Path, 
     tree.check_without_simulator(vendor)
     for component in ("sim", "python"):
         run("dpkg-deb", "-x", debs[PACKAGES[component]], root)
+    # The system's interpreter, the one the package serves, searches where it went.
+    system_python = pathlib.Path("/usr/bin/python3")
+    if system_python.exists():
+        searched = run(system_python, "-c", "import sys; print('\\n'.join(sys.path))").split()
+        places = [str(p.parent.parent.relative_to(root).as_posix()) for p in root.glob("usr/lib/**/kel/__init__.py")]
+        if not any(f"/{place}" in searched for place in places):
+            raise SystemExit(f"{PACKAGES['python']}: the package in {places} is not on {system_python}'s path")
     Tree(root / "usr", work, "deb+sim").check_with_simulator()
     for name, deb in debs.items():
         fields = run("dpkg-deb", "--field", deb, "Installed-Size", "Depends")
