@@ -179,6 +179,8 @@ if(WIN32)
     # Two zips: kel_c with everything a user of a real engine needs, and the simulator.
     set(CPACK_GENERATOR ZIP)
     set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
+    # Both unpack into the same folder, kel_c-<version>-win64: the simulator joins kel_c there.
+    set(CPACK_COMPONENT_INCLUDE_TOPLEVEL_DIRECTORY ON)
     set(CPACK_COMPONENTS_GROUPING ONE_PER_GROUP)
     foreach(_kel_component IN ITEMS RUNTIME DEVELOPMENT PYTHON)
         set(CPACK_COMPONENT_${_kel_component}_GROUP kel_c)

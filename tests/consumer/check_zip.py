@@ -1,9 +1,9 @@
 #!/usr/bin/env python3
 """Checks the Windows zips that CPack makes: kel_c's holds the DLLs, the header, the import
 library, the CMake and pkg-config files, the Python package and the examples, and nothing
-of the simulated engine, which comes in a zip of its own; every DLL imports only Windows
-system DLLs and DLLs of the two zips (no compiler runtime left behind); and kel_c.dll
-carries its version resource. Standard library only."""
+of the simulated engine, which comes in a zip of its own that unpacks into the same
+folder; every DLL imports only Windows system DLLs and DLLs of the two zips (no compiler
+runtime left behind); and kel_c.dll carries its version resource. Standard library only."""
 
 from __future__ import annotations
 
@@ -49,13 +49,17 @@ def main() -> int:
     faults = []
     with tempfile.TemporaryDirectory() as scratch:
         contents = {}
+        tops = set()
         for name, archive in archives.items():
             with zipfile.ZipFile(archive) as z:
                 names = z.namelist()
                 z.extractall(pathlib.Path(scratch) / name)
+            tops |= {n.split("/", 1)[0] for n in names}
             contents[name] = {n.split("/", 1)[1]: pathlib.Path(scratch) / name / n for n in names if "/" in n}
             faults += [f"{archive.name}: missing {r}" for r in REQUIRED[name] if r not in contents[name]]
             print(f"{archive.name}: {len(names)} entries")
+        if len(tops) != 1:
+            faults.append(f"the zips do not unpack into one folder: {sorted(tops)}")
         faults += [f"the kel_c zip holds the simulator's {n}" for n in contents["kel_c"] if SIMULATOR.search(n)
                    and not n.startswith(("python/", "share/doc/"))]
         dlls = [path for files in contents.values() for n, path in files.items() if n.lower().endswith(".dll")]
