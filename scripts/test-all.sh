@@ -1,9 +1,10 @@
 #!/usr/bin/env bash
 # Runs every test of the project: configures, builds and tests each CMake preset in turn
 # (Linux, Linux with AddressSanitizer + UBSan, Linux with ThreadSanitizer, and the Windows
-# build under wine), builds the optimised 'release' preset and runs each benchmark for a
-# moment, fuzzes the checked dispatchers for a bounded time ('fuzz', FUZZ_SECONDS), then
-# prints a summary. Exits non-zero if any step of any preset fails.
+# build under wine), builds the optimised 'release' preset, runs each benchmark for a
+# moment and makes and checks the packages from it (scripts/make-packages.sh), fuzzes the
+# checked dispatchers for a bounded time ('fuzz', FUZZ_SECONDS), then prints a summary.
+# Exits non-zero if any step of any preset fails.
 #
 #   scripts/test-all.sh                 # all presets
 #   scripts/test-all.sh linux windows   # only these (presets, or fuzz)
@@ -93,11 +94,14 @@ run_preset() {
     elif ! cmake --build --preset "$preset" -j "$JOBS"; then
         result[$preset]="build FAILED"
     elif [[ $preset == release ]]; then
-        # The optimised build has no tests of its own: its benchmarks run briefly instead.
-        if scripts/bench-smoke.sh "build/$preset"; then
-            result[$preset]="passed"
-        else
+        # The optimised build has no tests of its own: its benchmarks run briefly instead,
+        # and the packages are made from it and checked.
+        if ! scripts/bench-smoke.sh "build/$preset"; then
             result[$preset]="benchmarks FAILED"
+        elif ! scripts/make-packages.sh --no-build; then
+            result[$preset]="packages FAILED"
+        else
+            result[$preset]="passed"
         fi
     elif ! ctest --preset "$preset"; then
         result[$preset]="tests FAILED"
