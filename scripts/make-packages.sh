@@ -9,6 +9,8 @@
 # The packages land in build/release/packages. JOBS (default 2) sets the build parallelism.
 set -eu
 cd "$(dirname "$0")/.."
+# CPack finds the libraries by `file` and their dependencies by dpkg-shlibdeps.
+scripts/ensure-packages.sh dpkg-dev file
 build=build/release
 if [ "${1:-}" != "--no-build" ]; then
     [ -f "$build/CMakeCache.txt" ] || cmake --preset release

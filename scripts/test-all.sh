@@ -22,7 +22,7 @@ else
 fi
 
 # --- Tools -----------------------------------------------------------------------------------
-packages=(cmake ninja-build g++ libgtest-dev libgmock-dev nlohmann-json3-dev libboost-dev pkg-config)
+packages=(cmake ninja-build g++ libgtest-dev libgmock-dev nlohmann-json3-dev libboost-dev pkg-config dpkg-dev file)
 for preset in "${presets[@]}"; do
     if [[ $preset == windows ]]; then
         packages+=(g++-mingw-w64-x86-64-posix wine wine64)
