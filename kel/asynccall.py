@@ -6,14 +6,12 @@ import asyncio
 import concurrent.futures
 import dataclasses
 import threading
-from typing import TYPE_CHECKING, Any, Callable, Generator, Iterator, Optional
+from typing import Any, Callable, Generator, Iterator, Optional
 
+from ._owner import CallOwner
 from .errors import CallCancelledError, EngineError
 from .generated import c_records
 from .generated.records import KelError
-
-if TYPE_CHECKING:
-    from .engine import Engine
 
 # Calls whose final report has not come yet: their callback must stay alive for C.
 _running: set[AsyncCall] = set()
@@ -45,7 +43,7 @@ class AsyncCall(concurrent.futures.Future[list[Any]]):
     concurrent.futures.CancelledError) with the engine's error; any other error of a report
     is the call's exception()."""
 
-    def __init__(self, engine: Engine, convert: object, release: Callable[[Any, int], None]) -> None:
+    def __init__(self, engine: CallOwner, convert: object, release: Callable[[Any, int], None]) -> None:
         super().__init__()
         self._engine = engine
         self._convert: Callable[[Optional[int]], Any] = convert  # type: ignore[assignment]

@@ -4,19 +4,17 @@ from __future__ import annotations
 
 import time
 from types import TracebackType
-from typing import TYPE_CHECKING, Iterator, Optional, Type
+from typing import Iterator, Optional, Type
 
+from ._owner import ChannelOwner
 from .generated.records import KelEvent
-
-if TYPE_CHECKING:
-    from .engine import Engine
 
 
 class EventChannel:
     """`with engine.events() as channel:` opens a channel and closes it at the end. A
     channel sees what happens after it was opened."""
 
-    def __init__(self, engine: Engine) -> None:
+    def __init__(self, engine: ChannelOwner) -> None:
         self._engine = engine
         self.channel: Optional[int] = None
 

@@ -25,7 +25,11 @@
 
 namespace Varno::Kel_cpp::Reference {
 
-class EventChannels;
+// Hears each report as it is made: its progress in percent (isFinal false) or, at the
+// end, the error code (0 when the call succeeded). The vehicle posts these as events; the
+// calls know nothing of its event channels. Told with the calls' lock held.
+using AsyncListener = std::function<void(bool isFinal, int32_t code, std::wstring text,
+                                         std::wstring detail, std::shared_ptr<KelError> error)>;
 
 // What tests script for the asynchronous form of an operation (by its name, for
 // example "readDtcsAsync").
@@ -46,8 +50,8 @@ void resetAsyncScripts();
 
 class AsyncCalls {
 public:
-    // Reports progress and completion as events on `events`.
-    explicit AsyncCalls(EventChannels& events);
+    // Tells `listener` of every report, until the calls end.
+    explicit AsyncCalls(AsyncListener listener);
     AsyncCalls(const AsyncCalls&) = delete;
     AsyncCalls& operator=(const AsyncCalls&) = delete;
     // Ends every running call with a final CallCancelled report and lets the workers go.
@@ -214,7 +218,7 @@ private:
         std::condition_variable wake;
         std::map<uint64_t, std::shared_ptr<Call>> calls;
         bool closing = false;
-        EventChannels* events = nullptr; // null once closing: no more events
+        AsyncListener listener; // empty once closing: nobody more is told
     };
 
     uint64_t enqueue(const char* operation, std::shared_ptr<Call> call);

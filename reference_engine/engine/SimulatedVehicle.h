@@ -88,8 +88,14 @@ public:
     VehicleReportsState reports;
     VehicleUpdateState vehicleUpdate;
 
-    // Stays the last member: it ends its calls while the rest still exists.
-    AsyncCalls async{events.channels};
+    // Stays the last member: it ends its calls while the rest still exists. Its reports
+    // are the vehicle's events.
+    AsyncCalls async{[&channels = events.channels](bool isFinal, int32_t code, std::wstring text,
+                                                   std::wstring detail,
+                                                   std::shared_ptr<KelError> error) {
+        channels.post(isFinal ? EventKind::AsyncCompleted : EventKind::AsyncProgress, code,
+                      std::move(text), std::move(detail), std::move(error));
+    }};
 
 private:
     void load(VehicleDescription description);

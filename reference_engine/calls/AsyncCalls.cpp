@@ -3,7 +3,6 @@
 #include "Describe.h"
 #include "ErrorCodes.h"
 #include "Script.h"
-#include "families/events/EventChannels.h"
 
 #include <Kel_cpp/TarnApiException.h>
 
@@ -99,8 +98,8 @@ void resetAsyncScripts() {
     s.byOperation.clear();
 }
 
-AsyncCalls::AsyncCalls(EventChannels& events) : state_(std::make_shared<State>()) {
-    state_->events = &events;
+AsyncCalls::AsyncCalls(AsyncListener listener) : state_(std::make_shared<State>()) {
+    state_->listener = std::move(listener);
     for (unsigned i = 0; i < workerCount; ++i) {
         workers_.emplace_back([state = state_] { work(state); });
     }
@@ -110,7 +109,7 @@ AsyncCalls::AsyncCalls(EventChannels& events) : state_(std::make_shared<State>()
 // the engine's static hold on its local object goes) Windows has already stopped them,
 // and any wait could last forever; and a callback that lets go of the last engine
 // object runs this on a worker. Nothing needs the wait: a worker touches only the
-// shared state and its call, posts no events once `events` is null, and ends a call
+// shared state and its call, tells nobody once the listener is gone, and ends a call
 // still in progress with the cancelled report itself. The workers leave once the state
 // is closed and empty.
 AsyncCalls::~AsyncCalls() {
@@ -118,7 +117,7 @@ AsyncCalls::~AsyncCalls() {
     {
         const std::lock_guard lock(state_->mutex);
         state_->closing = true;
-        state_->events = nullptr;
+        state_->listener = nullptr;
         for (auto it = state_->calls.begin(); it != state_->calls.end();) {
             it->second->cancelled = true;
             it->second->due = std::chrono::steady_clock::now();
@@ -288,17 +287,16 @@ void AsyncCalls::step(State& state, Call& call, std::unique_lock<std::mutex>& lo
         isFinal = true;
     }
     lock.lock();
-    if (state.events != nullptr) {
-        const auto detail = callDetail(call.operation, call.id);
+    if (state.listener) {
+        auto detail = callDetail(call.operation, call.id);
         if (isFinal) {
-            state.events->post(EventKind::AsyncCompleted, failure ? failure->code : 0,
-                               failure ? L"An asynchronous call ended with an error"
-                                       : L"An asynchronous call completed",
-                               detail, failure);
+            state.listener(true, failure ? failure->code : 0,
+                           failure ? L"An asynchronous call ended with an error"
+                                   : L"An asynchronous call completed",
+                           std::move(detail), failure);
         } else {
-            state.events->post(EventKind::AsyncProgress,
-                               static_cast<int32_t>(100 * (call.next + 1) / call.reports),
-                               L"An asynchronous call made progress", detail);
+            state.listener(false, static_cast<int32_t>(100 * (call.next + 1) / call.reports),
+                           L"An asynchronous call made progress", std::move(detail), nullptr);
         }
     }
     const uint64_t id = call.id;
