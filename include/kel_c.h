@@ -13,6 +13,14 @@
 #ifndef KEL_C_H
 #define KEL_C_H
 
+/* The version of this header, the project's version in CMakeLists.txt, written here
+ * by the generator (which the generated_up_to_date test keeps in step), so the header
+ * stands alone and installs as one file. */
+#define KEL_C_VERSION_MAJOR 0
+#define KEL_C_VERSION_MINOR 1
+#define KEL_C_VERSION_PATCH 0
+#define KEL_C_VERSION "0.1.0"
+
 #include <stdbool.h>
 #include <stddef.h>
 #include <stdint.h>

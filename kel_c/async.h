@@ -2,7 +2,8 @@
 // function and context; the engine reports through the handler's onCompleted, once or
 // several times, from a thread of its own.
 //
-// Each asynchronous operation has its own handler class (generated/handlers.h), because
+// Each asynchronous operation has its own handler class (beside its export, in
+// generated/exports_<k>.cpp), because
 // each derives from its own engine callback class. What a report does depends only on
 // the C record and the engine class of the results, so handlers that convert the same
 // way share one Completion<C, E> instantiation.

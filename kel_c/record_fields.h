@@ -21,9 +21,17 @@
 
 namespace kel {
 
+// Names T through V: the tables in generated/records.h are partial specialisations whose
+// members depend on V, so the compiler builds a table only for the records a translation
+// unit uses (built eagerly, the tables cost every includer about 2 s and 450 MB).
+template <class V, class T>
+struct Deferred {
+    using type = T;
+};
+
 // Specialised for every C record in generated/records.h: `Engine` is the engine class,
 // `fields` the descriptor tuple.
-template <class C>
+template <class C, class = void>
 struct Record;
 
 template <class C>
@@ -31,7 +39,7 @@ using EngineOf = typename Record<C>::Engine;
 
 // Specialised in generated/records.h for each further engine class E that is handed out
 // as the C record C (`as=` in the description): `fields` pairs E's members with C's.
-template <class C, class E>
+template <class C, class E, class = void>
 struct Alias;
 
 // The one-record and list converters, defined in convert.h. E is the engine class: the

@@ -104,8 +104,8 @@ class Secrets(unittest.TestCase):
         self.assertTrue(fields["password"].secret)
         self.assertEqual(fields["password"].direction, "in")
         self.assertFalse(fields["user"].secret)
-        self.assertIn('secret("password", &Login::password)', generate.engine_fields_h(self.iface))
-        self.assertIn('member("user", &Login::user)', generate.engine_fields_h(self.iface))
+        self.assertIn('secret("password", &E::password)', generate.engine_fields_h(self.iface))
+        self.assertIn('member("user", &E::user)', generate.engine_fields_h(self.iface))
         self.assertIn('script_->enter(*clock_, "logIn", login, Secret{pin}, role);',
                       generate.engine_front_cpp(self.iface))
         self.assertIn("return vehicle_->logIn(login, pin, role);", generate.engine_front_cpp(self.iface),
@@ -253,6 +253,20 @@ class Generated(unittest.TestCase):
         (self.description.root / "kel_c" / "custom").mkdir(parents=True)
         (self.description.root / "kel_c" / "custom" / "special.cpp").write_text("")
         self.assertEqual(generate.missing_custom_exports(self.iface, self.description.root), [])
+
+    def test_header_version_is_the_cmake_project_version(self):
+        cmake = self.description.root / "CMakeLists.txt"
+        cmake.write_text("cmake_minimum_required(VERSION 3.25)\n"
+                         "project(kel_c VERSION 2.10.3 LANGUAGES C CXX)\n")
+        version = generate.cmake_version(self.description.root)
+        self.assertEqual(version, (2, 10, 3))
+        header = generate.c_header(self.iface, version)
+        for line in ["#define KEL_C_VERSION_MAJOR 2", "#define KEL_C_VERSION_MINOR 10",
+                     "#define KEL_C_VERSION_PATCH 3", '#define KEL_C_VERSION "2.10.3"']:
+            self.assertIn(line + "\n", header)
+        cmake.write_text("project(kel_c LANGUAGES C CXX)\n")
+        with self.assertRaises(kelidl.DescriptionError):
+            generate.cmake_version(self.description.root)
 
 
 if __name__ == "__main__":

@@ -12,6 +12,7 @@ from __future__ import annotations
 
 import argparse
 import pathlib
+import re
 import shutil
 import subprocess
 import sys
@@ -543,8 +544,31 @@ def c_structs(records: list[kelidl.Record], iface: kelidl.Interface, documented:
     return out
 
 
-def c_header(iface: kelidl.Interface) -> str:
+def cmake_version(root: pathlib.Path) -> tuple[int, int, int]:
+    """The project's one version, from `project(kel_c VERSION x.y.z ...)` in CMakeLists.txt."""
+    text = (root / "CMakeLists.txt").read_text()
+    match = re.search(r"^project\(\s*kel_c\s+VERSION\s+(\d+)\.(\d+)\.(\d+)[\s)]", text, re.M)
+    if match is None:
+        raise kelidl.DescriptionError("CMakeLists.txt names no version x.y.z in project(kel_c VERSION ...)")
+    major, minor, patch = (int(x) for x in match.groups())
+    return major, minor, patch
+
+
+def c_version(version: tuple[int, int, int]) -> str:
+    major, minor, patch = version
+    return "\n".join([
+        "/* The version of this header, the project's version in CMakeLists.txt, written here",
+        " * by the generator (which the generated_up_to_date test keeps in step), so the header",
+        " * stands alone and installs as one file. */",
+        f"#define KEL_C_VERSION_MAJOR {major}",
+        f"#define KEL_C_VERSION_MINOR {minor}",
+        f"#define KEL_C_VERSION_PATCH {patch}",
+        f'#define KEL_C_VERSION "{major}.{minor}.{patch}"', ""])
+
+
+def c_header(iface: kelidl.Interface, version: tuple[int, int, int] | None = None) -> str:
     ready = iface.ready_records()
+    version = cmake_version(ROOT) if version is None else version
     out = [f"/* {BANNER} */",
            "/* kel_c: the C interface of the Kel_cpp diagnostics engine.",
            " *",
@@ -557,7 +581,8 @@ def c_header(iface: kelidl.Interface) -> str:
            " * uint32_t count; an empty list is NULL with count 0. Each export's comment says what",
            " * it does, who owns each pointer (see KEL_CONSUMED, KEL_KEPT and KEL_OUT below) and",
            " * how to free what it hands out. */",
-           C_PROLOGUE, "/* ---- records ---- */"]
+           C_PROLOGUE.replace("#define KEL_C_H\n", "#define KEL_C_H\n\n" + c_version(version), 1),
+           "/* ---- records ---- */"]
     for rec in ready:
         out.append(f"typedef struct {rec.struct} {rec.name};")
     out.append("")
@@ -596,10 +621,10 @@ def table_entry(c: str, f: kelidl.Field, c_member: kelidl.Field) -> str:
 def record_tables(records: list[kelidl.Record], engine_ns: str, iface: kelidl.Interface) -> list[str]:
     out = []
     for rec in records:
-        c = f"::{rec.name}"
-        fields = [table_entry(c, f, f) for f in iface.members(rec.name)]
-        out.append(f"template <> struct Record<{c}> {{")
-        out.append(f"    using Engine = {engine_ns}::{rec.name};")
+        fields = [table_entry("C", f, f) for f in iface.members(rec.name)]
+        out.append(f"template <class V> struct Record<::{rec.name}, V> {{")
+        out.append(f"    using C = typename Deferred<V, ::{rec.name}>::type;")
+        out.append(f"    using Engine = typename Deferred<V, {engine_ns}::{rec.name}>::type;")
         out.append(f'    static constexpr const char* name = "{rec.name}";')
         out.append("    static constexpr auto fields = std::make_tuple(")
         out.append(",\n".join(f"        {x}" for x in fields) + ");")
@@ -681,9 +706,39 @@ def shared_release(iface: kelidl.Interface, rec: kelidl.Record) -> list[str]:
     return out
 
 
-def binding_exports_cpp(iface: kelidl.Interface) -> str:
-    out = [f"// {BANNER}", "// The exports: each one line over the generic frame.", "",
-           '#include "frame.h"', '#include "generated/handlers.h"', "", 'extern "C" {', ""]
+# The exports and the dispatcher's calls compile in a few parts, each holding whole
+# families in description order: one object of all of them needed about 1.2 GB to compile
+# and more sections than a plain COFF object holds, and could not use a second core.
+# Every part instantiates again the stream and conversion code of the records that its
+# families share with others' (four parts cost 40 s of CPU where one object cost 29 s),
+# so not one part per family.
+BINDING_PARTS = 4
+
+
+def binding_parts(iface: kelidl.Interface) -> list[list[str]]:
+    """The families of each part: consecutive families, a part closed before the family
+    that would take it further past its share of the exports and dispatcher calls than
+    it stays short without."""
+    def weight(family: str) -> int:
+        ops = [op for op in iface.operations if op.family == family]
+        return (sum(iface.exported(op) and not op.custom for op in ops) +
+                sum(op.otx is not None and iface.streamable(op) for op in ops))
+    families = iface.families()
+    share = sum(map(weight, families)) / BINDING_PARTS
+    parts: list[list[str]] = [[]]
+    done = 0
+    for family in families:
+        if parts[-1] and done + weight(family) / 2 > share * len(parts) and len(parts) < BINDING_PARTS:
+            parts.append([])
+        parts[-1].append(family)
+        done += weight(family)
+    return parts
+
+
+def binding_releases_cpp(iface: kelidl.Interface) -> str:
+    out = [f"// {BANNER}", "// The release exports of the records.", "",
+           '#include "convert.h"', "", "#include <kel_c.h>", "", "#include <cstddef>", "",
+           'extern "C" {', ""]
     for rec in iface.ready_records():
         n = rec.name
         if rec.release:
@@ -691,11 +746,43 @@ def binding_exports_cpp(iface: kelidl.Interface) -> str:
             continue
         out.append(f"void release_{n}({n}* ptr) {{ kel::release(ptr); }}")
         out.append(f"void release_{n}_array({n}** ptr, uint64_t count) {{ kel::releaseArray(ptr, count); }}")
-    out.append("")
-    for op in iface.operations:
-        if iface.exported(op) and not op.custom:
-            out.append(f"{c_signature(op)} {{ {export_body(op)} }}")
     out += ["", '} // extern "C"']
+    return "\n".join(out) + "\n"
+
+
+def binding_exports_cpp(iface: kelidl.Interface, families: list[str] | None = None) -> str:
+    """One part's exports (every family's by default), each one line over the generic
+    frame, with the handler classes of its asynchronous operations."""
+    families = iface.families() if families is None else families
+    ops = [op for op in iface.operations
+           if op.family in families and iface.exported(op) and not op.custom]
+    handlers = [op for op in async_ops(iface) if op.family in families]
+    out = [f"// {BANNER}", f"// The exports of the families {', '.join(families)}: each one line",
+           "// over the generic frame.", "",
+           '#include "async.h"' if handlers else '#include "frame.h"', ""]
+    out += handler_classes(handlers)
+    out += ['extern "C" {', ""]
+    for op in ops:
+        out.append(f"{c_signature(op)} {{ {export_body(op)} }}")
+    out += ["", '} // extern "C"']
+    return "\n".join(out) + "\n"
+
+
+def dispatch_calls(iface: kelidl.Interface, families: list[str] | None = None) -> list[str]:
+    """The `call` instantiation of each streamable operation with a dispatcher number."""
+    out = []
+    for op in sorted((o for o in iface.operations if o.otx is not None), key=lambda o: o.otx):
+        if iface.streamable(op) and (families is None or op.family in families):
+            discard = ", true" if op.discard else ", false"
+            out.append(f"void call<&TarnApi::{op.name}{discard}>(TarnApi&, OTXStream&, OTXStream&, int32_t*);")
+    return out
+
+
+def dispatch_part_cpp(iface: kelidl.Interface, families: list[str]) -> str:
+    out = [f"// {BANNER}", f"// The dispatcher's calls of the families {', '.join(families)}.", "",
+           '#include "dispatch.h"', "", "namespace kel::dispatch {", ""]
+    out += [f"template {line}" for line in dispatch_calls(iface, families)]
+    out += ["", "} // namespace kel::dispatch"]
     return "\n".join(out) + "\n"
 
 
@@ -892,8 +979,12 @@ def engine_fields_h(iface: kelidl.Interface) -> str:
            "template <class C, class M> constexpr Member<C, M, false, true> secret(const char* name, M C::*pointer) {",
            "    return {name, pointer};",
            "}", "",
+           "// Makes a table's members name the record through V, so that the compiler builds",
+           "// a table only for the records a translation unit uses: built eagerly, the tables",
+           "// cost every includer about 2 s and 450 MB.",
+           "template <class V, class T> struct Deferred { using type = T; };", "",
            "// Specialised for every engine record class.",
-           "template <class E> struct Of;", ""]
+           "template <class E, class = void> struct Of;", ""]
     out += fields_of(list(iface.records.values()), "", iface)
     out.append(f"}} // namespace {ENGINE_NS}::Fields")
     return "\n".join(out) + "\n"
@@ -907,10 +998,11 @@ def fields_of(records: list[kelidl.Record], engine_ns: str, iface: kelidl.Interf
         cls = f"{engine_ns}{rec.name}"
         names = [("bitset" if f.kind == "bits" else "secret" if f.secret else "member", f.name)
                  for f in iface.members(rec.name)]
-        out.append(f"template <> struct Of<{cls}> {{")
+        out.append(f"template <class V> struct Of<{cls}, V> {{")
         if names:
+            out.append(f"    using E = typename Deferred<V, {cls}>::type;")
             out.append("    static constexpr auto list = std::make_tuple(")
-            out.append(",\n".join(f'        {k}("{n}", &{cls}::{n})' for k, n in names) + ");")
+            out.append(",\n".join(f'        {k}("{n}", &E::{n})' for k, n in names) + ");")
         else:
             out.append("    static constexpr auto list = std::make_tuple();")
         out.append("};")
@@ -924,6 +1016,9 @@ def dispatch_table_h(iface: kelidl.Interface) -> str:
            "// operation. Numbers not listed name no operation.",
            "#pragma once", "", '#include "dispatch.h"', "", "#include <array>", "",
            "namespace kel::dispatch {", "",
+           "// Instantiated in the parts (dispatch_<k>.cpp), by family.", ""]
+    out += [f"extern template {line}" for line in dispatch_calls(iface)]
+    out += ["",
            f"inline constexpr std::array<Operation, {sum(o.otx is not None for o in iface.operations)}> operations{{"]
     for op in sorted((o for o in iface.operations if o.otx is not None), key=lambda o: o.otx):
         if iface.streamable(op):
@@ -950,11 +1045,11 @@ def alias_tables(aliases: list[kelidl.Record], engine_ns: str, iface: kelidl.Int
     """Tables of the `as=` classes: their members paired with the C record's, by name."""
     out = []
     for rec in aliases:
-        c = f"::{rec.alias}"
         theirs = {f.name: f for f in iface.members(rec.alias)}
-        fields = [table_entry(c, f, theirs[f.name]) for f in iface.members(rec.name)]
-        out.append(f"template <> struct Alias<{c}, {engine_ns}::{rec.name}> {{")
-        out.append(f"    using Engine = {engine_ns}::{rec.name};")
+        fields = [table_entry("C", f, theirs[f.name]) for f in iface.members(rec.name)]
+        out.append(f"template <class V> struct Alias<::{rec.alias}, {engine_ns}::{rec.name}, V> {{")
+        out.append(f"    using C = typename Deferred<V, ::{rec.alias}>::type;")
+        out.append(f"    using Engine = typename Deferred<V, {engine_ns}::{rec.name}>::type;")
         out.append("    static constexpr auto fields = std::make_tuple(")
         out.append(",\n".join(f"        {x}" for x in fields) + ");")
         out.append("};")
@@ -1005,13 +1100,12 @@ def async_export_body(op: kelidl.Operation) -> str:
             f"[&](auto* handler) {{ return {call}; }});")
 
 
-def handlers_h(iface: kelidl.Interface) -> str:
-    out = [f"// {BANNER}",
-           "// One handler class per asynchronous operation, deriving (through kel::Handler)",
-           "// from the engine's callback class. Handlers that convert the same results share",
-           "// their kel::Completion base.",
-           "#pragma once", "", '#include "async.h"', ""]
-    for op in async_ops(iface):
+def handler_classes(ops: list[kelidl.Operation]) -> list[str]:
+    """One handler class per asynchronous operation, deriving (through kel::Handler) from
+    the engine's callback class. Handlers that convert the same results share their
+    kel::Completion base."""
+    out = []
+    for op in ops:
         result = op.sync.result
         name = handler_class(op)
         out += [f"class {name} final",
@@ -1019,7 +1113,15 @@ def handlers_h(iface: kelidl.Interface) -> str:
                 f"::{result.c_name}, {ENGINE_NS}::{result.record}, {callback_function(op)}> {{",
                 "    using Handler::Handler;",
                 "};", ""]
-    return "\n".join(out) + "\n"
+    return out
+
+
+def binding_outputs(iface: kelidl.Interface) -> dict[str, str]:
+    files = {"kel_c/generated/releases.cpp": binding_releases_cpp(iface)}
+    for k, families in enumerate(binding_parts(iface), start=1):
+        files[f"kel_c/generated/exports_{k}.cpp"] = binding_exports_cpp(iface, families)
+        files[f"kel_c/generated/dispatch_{k}.cpp"] = dispatch_part_cpp(iface, families)
+    return files
 
 
 def outputs(iface: kelidl.Interface) -> dict[str, str]:
@@ -1028,8 +1130,7 @@ def outputs(iface: kelidl.Interface) -> dict[str, str]:
         "engine/Kel_cpp/TarnApi.h": tarn_api_h(iface),
         "include/kel_c.h": c_header(iface),
         "kel_c/generated/records.h": binding_records_h(iface),
-        "kel_c/generated/exports.cpp": binding_exports_cpp(iface),
-        "kel_c/generated/handlers.h": handlers_h(iface),
+        **binding_outputs(iface),
         "kel_c/generated/exports.txt": exports_txt(iface),
         "kel_c/generated/dispatch_table.h": dispatch_table_h(iface),
         "reference_engine/generated/EngineFront.h": engine_front_h(iface),
@@ -1076,7 +1177,7 @@ def check_docs(iface: kelidl.Interface) -> None:
         raise kelidl.DescriptionError("records without a '#:' doc: " + ", ".join(r.name for r in records))
 
 
-GENERATED_FOLDERS = ["tests/generated/conformance", "tests/generated/record_classes", python_gen.OUT_DIR]
+GENERATED_FOLDERS = ["kel_c/generated", "tests/generated/conformance", "tests/generated/record_classes", python_gen.OUT_DIR]
 
 
 def main() -> int:
@@ -1094,7 +1195,11 @@ def main() -> int:
         print("custom operations need their hand-written export:", *missing, sep="\n  ", file=sys.stderr)
         return 2
     stale = []
-    written = outputs(iface)
+    try:
+        written = outputs(iface)
+    except kelidl.DescriptionError as e:
+        print(f"interface description: {e}", file=sys.stderr)
+        return 2
     # Folders whose files are all generated: a file no longer generated goes too.
     for folder in GENERATED_FOLDERS:
         for path in sorted((ROOT / folder).glob("*")):

@@ -9,6 +9,417 @@
 
 namespace kel::dispatch {
 
+// Instantiated in the parts (dispatch_<k>.cpp), by family.
+
+extern template void call<&TarnApi::initialize, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::end, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::startServer, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::stopServer, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::restartServer, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                          int32_t*);
+extern template void call<&TarnApi::getProjectConfiguration, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::setProjectConfiguration, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::saveProjectConfiguration, false>(TarnApi&, OTXStream&,
+                                                                     OTXStream&, int32_t*);
+extern template void call<&TarnApi::createMonitoringLink, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::getMonitoringItems, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::releaseMonitoringLink, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::getPduMonitoringItems, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::createPduMonitor, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::saveConfiguration, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::releasePduMonitor, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::identifyAllTargets, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::readIdentificationValues, false>(TarnApi&, OTXStream&,
+                                                                     OTXStream&, int32_t*);
+extern template void call<&TarnApi::readDataByIdentifiers, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::identifyTarget, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::readDtcs, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::readSupportedDtcs, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::clearAllDtcs, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                         int32_t*);
+extern template void call<&TarnApi::getServiceInfos, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::executeService, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::readCodingStrings, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::performQuickTest, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::connectRemoteServer, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::getMeasurementValueInfos, false>(TarnApi&, OTXStream&,
+                                                                     OTXStream&, int32_t*);
+extern template void call<&TarnApi::registerMeasurementValues, false>(TarnApi&, OTXStream&,
+                                                                      OTXStream&, int32_t*);
+extern template void call<&TarnApi::getMeasurementValues, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::unregisterMeasurementValues, false>(TarnApi&, OTXStream&,
+                                                                        OTXStream&, int32_t*);
+extern template void call<&TarnApi::getIdentificationValueInfos, false>(TarnApi&, OTXStream&,
+                                                                        OTXStream&, int32_t*);
+extern template void call<&TarnApi::cancelAsyncCalls, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::createSeed, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::sendKey, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::openEventChannel, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::closeEventChannel, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::getCurrentEvents, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::getProjectConfigurations, false>(TarnApi&, OTXStream&,
+                                                                     OTXStream&, int32_t*);
+extern template void call<&TarnApi::getState, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getVersion, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getSelectedProject, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::setSelectedProject, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::getConfiguration, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::setConfiguration, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::getServerSettings, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::getSelectedVehicleInformation, false>(TarnApi&, OTXStream&,
+                                                                          OTXStream&, int32_t*);
+extern template void call<&TarnApi::setSelectedVehicleInformation, false>(TarnApi&, OTXStream&,
+                                                                          OTXStream&, int32_t*);
+extern template void call<&TarnApi::getTargets, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getProcessInfo, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::getTransmissionInfo, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::getHandle, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getMoxConfiguration, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::getInterfaceConfiguration, false>(TarnApi&, OTXStream&,
+                                                                      OTXStream&, int32_t*);
+extern template void call<&TarnApi::setInterfaceConfiguration, false>(TarnApi&, OTXStream&,
+                                                                      OTXStream&, int32_t*);
+extern template void call<&TarnApi::getMonitoringLinks, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::closeTraceFileMonitoringLink, false>(TarnApi&, OTXStream&,
+                                                                         OTXStream&, int32_t*);
+extern template void call<&TarnApi::openTraceFileMonitoringLink, false>(TarnApi&, OTXStream&,
+                                                                        OTXStream&, int32_t*);
+extern template void call<&TarnApi::startTraceFileMonitoringLink, false>(TarnApi&, OTXStream&,
+                                                                         OTXStream&, int32_t*);
+extern template void call<&TarnApi::stopTraceFileMonitoringLink, false>(TarnApi&, OTXStream&,
+                                                                        OTXStream&, int32_t*);
+extern template void call<&TarnApi::saveInterfaceConfiguration, false>(TarnApi&, OTXStream&,
+                                                                       OTXStream&, int32_t*);
+extern template void call<&TarnApi::scanInterfaceConnection, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::getInterfaceLongName, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::disconnect, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::readMeasurementValues, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::readFile, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getGlobalProtocolParameterSets, false>(TarnApi&, OTXStream&,
+                                                                           OTXStream&, int32_t*);
+extern template void call<&TarnApi::setGlobalProtocolParameterSets, false>(TarnApi&, OTXStream&,
+                                                                           OTXStream&, int32_t*);
+extern template void call<&TarnApi::connectInterfaces, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::disconnectInterfaces, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::executeDoIPBroadcast, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::detectDynInterfacesEx, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::refreshProjectList, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::identifyTargets, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::getStatusInfo, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                          int32_t*);
+extern template void call<&TarnApi::getActuatorServiceInfos, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::getSessionTargetFilters, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::setSessionTargetFilters, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::createSocketBridge, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::releaseSocketBridge, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::getSingleMeasurementValueInfos, false>(TarnApi&, OTXStream&,
+                                                                           OTXStream&, int32_t*);
+extern template void call<&TarnApi::getFilteredTargets, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::isProjectConversionRequired, false>(TarnApi&, OTXStream&,
+                                                                        OTXStream&, int32_t*);
+extern template void call<&TarnApi::convertProject, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::setMoxConfiguration, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::saveMoxConfiguration, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::startCyclicServices, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::stopCyclicServices, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::getCyclicResults, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::getProjectDetails, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::clearLinkCache, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::addInterface, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                         int32_t*);
+extern template void call<&TarnApi::addResource, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::removeInterface, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::getSupportedInterfaces, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                   int32_t*);
+extern template void call<&TarnApi::removeResource, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::getFlashSessionInfos, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::getSystemProperty, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::resetSystemProperty, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::setSystemProperty, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::executeFlashSessions, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::getInterfaceProviders, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::setInterfaceProviders, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::getVendorModuleNames, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::getVendorModuleNamesEx, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                   int32_t*);
+extern template void call<&TarnApi::detectDynInterfaces, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::connectDynInterface, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::disconnectDynInterfaces, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::updateCyclicServices, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::cancelAllAsyncCalls, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::getProjectDirectory, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::getSelectedProjectDirectory, false>(TarnApi&, OTXStream&,
+                                                                        OTXStream&, int32_t*);
+extern template void call<&TarnApi::getConfigDirectory, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::createFile, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::createDirectory, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::deleteDirectory, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::writeFile, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getTraceDirectory, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::deleteFiles, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getServerUserManagement, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::findDirectories, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::findFiles, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::initializeDirectoryElements, false>(TarnApi&, OTXStream&,
+                                                                        OTXStream&, int32_t*);
+extern template void call<&TarnApi::getCurrentDebugTraceDirectory, false>(TarnApi&, OTXStream&,
+                                                                          OTXStream&, int32_t*);
+extern template void call<&TarnApi::readEcuOrder, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                         int32_t*);
+extern template void call<&TarnApi::filterEcuOrder, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::addMissingTargetsToEcuOrder, false>(TarnApi&, OTXStream&,
+                                                                        OTXStream&, int32_t*);
+extern template void call<&TarnApi::createVehicleReport, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::lock, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::unlock, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::isLocked, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::breakLock, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::setEthernetPinState, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::getEthernetPinState, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::connectDynInterfaceEx, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::createVehicleUpdateConfig, false>(TarnApi&, OTXStream&,
+                                                                      OTXStream&, int32_t*);
+extern template void call<&TarnApi::addUser, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::setServerUserManagement, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::testSocketBridge, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::removeUser, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::logOut, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getUsers, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::updateUser, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::disconnectAllClients, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::getPackagesFromBroker, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::copyFiles, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::copyDirectories, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::calculateChecksum, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::checkUpdatesOnBroker, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::autoUpdate, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::runSequence, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::unlockVehicle, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                          int32_t*);
+extern template void call<&TarnApi::releaseVehicleUnlock, true>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::cancelSequence, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::getServerConfiguration, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                   int32_t*);
+extern template void call<&TarnApi::getRegisteredDevices, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::getSystemInfo, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                          int32_t*);
+extern template void call<&TarnApi::getUpdatePackages, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::applyUpdatePackage, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::renameFile, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getCallDuration, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::onConnectionBroken, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::createApiTraceMonitor, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::getApiTraceContent, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::getCurrentVersions, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::releaseApiTraceMonitor, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                   int32_t*);
+extern template void call<&TarnApi::checkUpdateSuccess, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::cleanUpdateTmp, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::executeFlashSessionsConfig, false>(TarnApi&, OTXStream&,
+                                                                       OTXStream&, int32_t*);
+extern template void call<&TarnApi::setStatusText, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                          int32_t*);
+extern template void call<&TarnApi::loadDatabaseFile, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::reconnectRemoteServer, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::copyProjectWithFilters, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                   int32_t*);
+extern template void call<&TarnApi::getVehicleData, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+extern template void call<&TarnApi::getProjectsDetails, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::filterFiles, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::unloadDatabaseFile, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::getDefaultDoIPParameter, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::moveFile, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getPublicDirectories, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::updateVehicle, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                          int32_t*);
+extern template void call<&TarnApi::executeServiceInDefaultSession, false>(TarnApi&, OTXStream&,
+                                                                           OTXStream&, int32_t*);
+extern template void call<&TarnApi::getTargetStatus, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::logIn, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getPhysicalLinks, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::setPhysicalLinks, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::moveDirectory, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                          int32_t*);
+extern template void call<&TarnApi::pathExists, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::uploadReport, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                         int32_t*);
+extern template void call<&TarnApi::getFileReferences, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::resolvePath, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::onConnectionClosed, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::openTerminal, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                         int32_t*);
+extern template void call<&TarnApi::closeTerminal, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                          int32_t*);
+extern template void call<&TarnApi::isDirectory, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getDirectoryInfo, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::getFileInfo, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::isFile, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::getWLanSignalData, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::clearDoIPEcuCollection, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                   int32_t*);
+extern template void call<&TarnApi::setBrokerUrl, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                         int32_t*);
+extern template void call<&TarnApi::copyPath, false>(TarnApi&, OTXStream&, OTXStream&, int32_t*);
+extern template void call<&TarnApi::thirdPartyLogin, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::clearUpdatePackages, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::selectDynamicProject, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::getCertificateByPublicKey, false>(TarnApi&, OTXStream&,
+                                                                      OTXStream&, int32_t*);
+extern template void call<&TarnApi::createCertificateFromCSR, false>(TarnApi&, OTXStream&,
+                                                                     OTXStream&, int32_t*);
+extern template void call<&TarnApi::getCertificateChainById, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::createDefaultECUOrder, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::writeCodingFile, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::getThirdPartyLoginUrl, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::registerServerHandler, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                  int32_t*);
+extern template void call<&TarnApi::writeEcuOrder, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                          int32_t*);
+extern template void call<&TarnApi::getEcuOrderFilePath, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::performVehicleUpdate, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                 int32_t*);
+extern template void call<&TarnApi::startSOVDServer, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::triggerAsyncCancels, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                                int32_t*);
+extern template void call<&TarnApi::addPublicDirectory, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                               int32_t*);
+extern template void call<&TarnApi::executeSequence, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                            int32_t*);
+extern template void call<&TarnApi::createVehicleUpdateReport, false>(TarnApi&, OTXStream&,
+                                                                      OTXStream&, int32_t*);
+extern template void call<&TarnApi::getParameterInfo, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                             int32_t*);
+extern template void call<&TarnApi::performEcuConfiguration, false>(TarnApi&, OTXStream&,
+                                                                    OTXStream&, int32_t*);
+extern template void call<&TarnApi::clearSpecificDtcs, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                              int32_t*);
+extern template void call<&TarnApi::stopSOVDServer, false>(TarnApi&, OTXStream&, OTXStream&,
+                                                           int32_t*);
+
 inline constexpr std::array<Operation, 224> operations{
     Operation{2, "initialize", &call<&TarnApi::initialize>, false, false},
     Operation{3, "end", &call<&TarnApi::end>, false, false},

@@ -145,159 +145,136 @@ public:
 
 namespace kel {
 
-template <>
-struct Record<::ProbeLeaf> {
-    using Engine = kel_test::ProbeLeaf;
+template <class V>
+struct Record<::ProbeLeaf, V> {
+    using C = typename Deferred<V, ::ProbeLeaf>::type;
+    using Engine = typename Deferred<V, kel_test::ProbeLeaf>::type;
     static constexpr const char* name = "ProbeLeaf";
     static constexpr auto fields = std::make_tuple(
-        field(&::ProbeLeaf::itemText1, &Engine::itemText1),
-        field(&::ProbeLeaf::itemText2, &Engine::itemText2),
-        field(&::ProbeLeaf::itemText3, &Engine::itemText3),
-        field(&::ProbeLeaf::itemText4, &Engine::itemText4),
-        field(&::ProbeLeaf::label, &Engine::label), field(&::ProbeLeaf::stamp, &Engine::stamp),
-        field(&::ProbeLeaf::marker, &Engine::marker));
+        field(&C::itemText1, &Engine::itemText1), field(&C::itemText2, &Engine::itemText2),
+        field(&C::itemText3, &Engine::itemText3), field(&C::itemText4, &Engine::itemText4),
+        field(&C::label, &Engine::label), field(&C::stamp, &Engine::stamp),
+        field(&C::marker, &Engine::marker));
 };
 
-template <>
-struct Record<::ProbeNode> {
-    using Engine = kel_test::ProbeNode;
+template <class V>
+struct Record<::ProbeNode, V> {
+    using C = typename Deferred<V, ::ProbeNode>::type;
+    using Engine = typename Deferred<V, kel_test::ProbeNode>::type;
     static constexpr const char* name = "ProbeNode";
     static constexpr auto fields = std::make_tuple(
-        field(&::ProbeNode::itemText1, &Engine::itemText1),
-        field(&::ProbeNode::itemText2, &Engine::itemText2),
-        field(&::ProbeNode::itemText3, &Engine::itemText3),
-        field(&::ProbeNode::itemText4, &Engine::itemText4),
-        field(&::ProbeNode::name, &Engine::name), field(&::ProbeNode::error, &Engine::error),
-        field(&::ProbeNode::ok, &Engine::ok),
-        field(&::ProbeNode::leaves, &::ProbeNode::leafCount, &Engine::leaves),
-        outOnly(field(&::ProbeNode::nodes, &::ProbeNode::nodeCount, &Engine::nodes)),
-        inOnly(field(&::ProbeNode::request, &Engine::request)),
-        field(&::ProbeNode::size, &Engine::size));
+        field(&C::itemText1, &Engine::itemText1), field(&C::itemText2, &Engine::itemText2),
+        field(&C::itemText3, &Engine::itemText3), field(&C::itemText4, &Engine::itemText4),
+        field(&C::name, &Engine::name), field(&C::error, &Engine::error),
+        field(&C::ok, &Engine::ok), field(&C::leaves, &C::leafCount, &Engine::leaves),
+        outOnly(field(&C::nodes, &C::nodeCount, &Engine::nodes)),
+        inOnly(field(&C::request, &Engine::request)), field(&C::size, &Engine::size));
 };
 
-template <>
-struct Record<::Probe> {
-    using Engine = kel_test::Probe;
+template <class V>
+struct Record<::Probe, V> {
+    using C = typename Deferred<V, ::Probe>::type;
+    using Engine = typename Deferred<V, kel_test::Probe>::type;
     static constexpr const char* name = "Probe";
     static constexpr auto fields = std::make_tuple(
-        field(&::Probe::text, &Engine::text),
-        field(&::Probe::names, &::Probe::nameCount, &Engine::names),
-        field(&::Probe::tags, &::Probe::tagCount, &Engine::tags, always),
-        field(&::Probe::leaves, &::Probe::leafCount, &Engine::leaves),
-        field(&::Probe::leaf, &Engine::leaf), field(&::Probe::error, &Engine::error),
-        field(&::Probe::data, &::Probe::dataLength, &Engine::data),
-        field(&::Probe::flag, &Engine::flag), field(&::Probe::signedValue, &Engine::signedValue),
-        field(&::Probe::unsignedValue, &Engine::unsignedValue),
-        field(&::Probe::wideSigned, &Engine::wideSigned),
-        field(&::Probe::wideValue, &Engine::wideValue),
-        field(&::Probe::narrowValue, &Engine::narrowValue),
-        field(&::Probe::values, &Engine::values), field(&::Probe::switches, &Engine::switches),
-        field(&::Probe::children, &::Probe::childCount, &Engine::children),
-        field(&::Probe::labels, &::Probe::labelCount, &Engine::labels),
-        field(&::Probe::node, &Engine::node), field(&::Probe::entry, &Engine::entry));
+        field(&C::text, &Engine::text), field(&C::names, &C::nameCount, &Engine::names),
+        field(&C::tags, &C::tagCount, &Engine::tags, always),
+        field(&C::leaves, &C::leafCount, &Engine::leaves), field(&C::leaf, &Engine::leaf),
+        field(&C::error, &Engine::error), field(&C::data, &C::dataLength, &Engine::data),
+        field(&C::flag, &Engine::flag), field(&C::signedValue, &Engine::signedValue),
+        field(&C::unsignedValue, &Engine::unsignedValue),
+        field(&C::wideSigned, &Engine::wideSigned), field(&C::wideValue, &Engine::wideValue),
+        field(&C::narrowValue, &Engine::narrowValue), field(&C::values, &Engine::values),
+        field(&C::switches, &Engine::switches),
+        field(&C::children, &C::childCount, &Engine::children),
+        field(&C::labels, &C::labelCount, &Engine::labels), field(&C::node, &Engine::node),
+        field(&C::entry, &Engine::entry));
 };
 
-template <>
-struct Alias<::ProbeLeaf, kel_test::ProbeLeafLabel> {
-    using Engine = kel_test::ProbeLeafLabel;
+template <class V>
+struct Alias<::ProbeLeaf, kel_test::ProbeLeafLabel, V> {
+    using C = typename Deferred<V, ::ProbeLeaf>::type;
+    using Engine = typename Deferred<V, kel_test::ProbeLeafLabel>::type;
     static constexpr auto fields = std::make_tuple(
-        field(&::ProbeLeaf::itemText1, &Engine::itemText1),
-        field(&::ProbeLeaf::itemText2, &Engine::itemText2),
-        field(&::ProbeLeaf::itemText3, &Engine::itemText3),
-        field(&::ProbeLeaf::itemText4, &Engine::itemText4),
-        field(&::ProbeLeaf::label, &Engine::label), field(&::ProbeLeaf::marker, &Engine::marker));
+        field(&C::itemText1, &Engine::itemText1), field(&C::itemText2, &Engine::itemText2),
+        field(&C::itemText3, &Engine::itemText3), field(&C::itemText4, &Engine::itemText4),
+        field(&C::label, &Engine::label), field(&C::marker, &Engine::marker));
 };
 
-template <>
-struct Alias<::ProbeNode, kel_test::ProbeNodeEntry> {
-    using Engine = kel_test::ProbeNodeEntry;
+template <class V>
+struct Alias<::ProbeNode, kel_test::ProbeNodeEntry, V> {
+    using C = typename Deferred<V, ::ProbeNode>::type;
+    using Engine = typename Deferred<V, kel_test::ProbeNodeEntry>::type;
     static constexpr auto fields = std::make_tuple(
-        field(&::ProbeNode::itemText1, &Engine::itemText1),
-        field(&::ProbeNode::itemText2, &Engine::itemText2),
-        field(&::ProbeNode::itemText3, &Engine::itemText3),
-        field(&::ProbeNode::itemText4, &Engine::itemText4),
-        field(&::ProbeNode::name, &Engine::name), field(&::ProbeNode::error, &Engine::error),
-        field(&::ProbeNode::ok, &Engine::ok));
+        field(&C::itemText1, &Engine::itemText1), field(&C::itemText2, &Engine::itemText2),
+        field(&C::itemText3, &Engine::itemText3), field(&C::itemText4, &Engine::itemText4),
+        field(&C::name, &Engine::name), field(&C::error, &Engine::error),
+        field(&C::ok, &Engine::ok));
 };
 
 } // namespace kel
 
 namespace Varno::Kel_cpp::Fields {
 
-template <>
-struct Of<kel_test::ProbeLeaf> {
+template <class V>
+struct Of<kel_test::ProbeLeaf, V> {
+    using E = typename Deferred<V, kel_test::ProbeLeaf>::type;
     static constexpr auto list = std::make_tuple(
-        member("itemText1", &kel_test::ProbeLeaf::itemText1),
-        member("itemText2", &kel_test::ProbeLeaf::itemText2),
-        member("itemText3", &kel_test::ProbeLeaf::itemText3),
-        member("itemText4", &kel_test::ProbeLeaf::itemText4),
-        member("label", &kel_test::ProbeLeaf::label), member("stamp", &kel_test::ProbeLeaf::stamp),
-        member("marker", &kel_test::ProbeLeaf::marker));
+        member("itemText1", &E::itemText1), member("itemText2", &E::itemText2),
+        member("itemText3", &E::itemText3), member("itemText4", &E::itemText4),
+        member("label", &E::label), member("stamp", &E::stamp), member("marker", &E::marker));
 };
 
-template <>
-struct Of<kel_test::ProbeLeafLabel> {
+template <class V>
+struct Of<kel_test::ProbeLeafLabel, V> {
+    using E = typename Deferred<V, kel_test::ProbeLeafLabel>::type;
     static constexpr auto list =
-        std::make_tuple(member("itemText1", &kel_test::ProbeLeafLabel::itemText1),
-                        member("itemText2", &kel_test::ProbeLeafLabel::itemText2),
-                        member("itemText3", &kel_test::ProbeLeafLabel::itemText3),
-                        member("itemText4", &kel_test::ProbeLeafLabel::itemText4),
-                        member("label", &kel_test::ProbeLeafLabel::label),
-                        member("marker", &kel_test::ProbeLeafLabel::marker));
+        std::make_tuple(member("itemText1", &E::itemText1), member("itemText2", &E::itemText2),
+                        member("itemText3", &E::itemText3), member("itemText4", &E::itemText4),
+                        member("label", &E::label), member("marker", &E::marker));
 };
 
-template <>
-struct Of<kel_test::ProbeEntry> {
-    static constexpr auto list = std::make_tuple(
-        member("itemText1", &kel_test::ProbeEntry::itemText1),
-        member("itemText2", &kel_test::ProbeEntry::itemText2),
-        member("itemText3", &kel_test::ProbeEntry::itemText3),
-        member("itemText4", &kel_test::ProbeEntry::itemText4),
-        member("name", &kel_test::ProbeEntry::name), member("error", &kel_test::ProbeEntry::error),
-        member("ok", &kel_test::ProbeEntry::ok));
-};
-
-template <>
-struct Of<kel_test::ProbeNode> {
-    static constexpr auto list = std::make_tuple(
-        member("itemText1", &kel_test::ProbeNode::itemText1),
-        member("itemText2", &kel_test::ProbeNode::itemText2),
-        member("itemText3", &kel_test::ProbeNode::itemText3),
-        member("itemText4", &kel_test::ProbeNode::itemText4),
-        member("name", &kel_test::ProbeNode::name), member("error", &kel_test::ProbeNode::error),
-        member("ok", &kel_test::ProbeNode::ok), member("leaves", &kel_test::ProbeNode::leaves),
-        member("nodes", &kel_test::ProbeNode::nodes),
-        member("request", &kel_test::ProbeNode::request),
-        member("size", &kel_test::ProbeNode::size));
-};
-
-template <>
-struct Of<kel_test::ProbeNodeEntry> {
+template <class V>
+struct Of<kel_test::ProbeEntry, V> {
+    using E = typename Deferred<V, kel_test::ProbeEntry>::type;
     static constexpr auto list =
-        std::make_tuple(member("itemText1", &kel_test::ProbeNodeEntry::itemText1),
-                        member("itemText2", &kel_test::ProbeNodeEntry::itemText2),
-                        member("itemText3", &kel_test::ProbeNodeEntry::itemText3),
-                        member("itemText4", &kel_test::ProbeNodeEntry::itemText4),
-                        member("name", &kel_test::ProbeNodeEntry::name),
-                        member("error", &kel_test::ProbeNodeEntry::error),
-                        member("ok", &kel_test::ProbeNodeEntry::ok));
+        std::make_tuple(member("itemText1", &E::itemText1), member("itemText2", &E::itemText2),
+                        member("itemText3", &E::itemText3), member("itemText4", &E::itemText4),
+                        member("name", &E::name), member("error", &E::error), member("ok", &E::ok));
 };
 
-template <>
-struct Of<kel_test::Probe> {
+template <class V>
+struct Of<kel_test::ProbeNode, V> {
+    using E = typename Deferred<V, kel_test::ProbeNode>::type;
+    static constexpr auto list =
+        std::make_tuple(member("itemText1", &E::itemText1), member("itemText2", &E::itemText2),
+                        member("itemText3", &E::itemText3), member("itemText4", &E::itemText4),
+                        member("name", &E::name), member("error", &E::error), member("ok", &E::ok),
+                        member("leaves", &E::leaves), member("nodes", &E::nodes),
+                        member("request", &E::request), member("size", &E::size));
+};
+
+template <class V>
+struct Of<kel_test::ProbeNodeEntry, V> {
+    using E = typename Deferred<V, kel_test::ProbeNodeEntry>::type;
+    static constexpr auto list =
+        std::make_tuple(member("itemText1", &E::itemText1), member("itemText2", &E::itemText2),
+                        member("itemText3", &E::itemText3), member("itemText4", &E::itemText4),
+                        member("name", &E::name), member("error", &E::error), member("ok", &E::ok));
+};
+
+template <class V>
+struct Of<kel_test::Probe, V> {
+    using E = typename Deferred<V, kel_test::Probe>::type;
     static constexpr auto list = std::make_tuple(
-        member("text", &kel_test::Probe::text), member("names", &kel_test::Probe::names),
-        member("tags", &kel_test::Probe::tags), member("leaves", &kel_test::Probe::leaves),
-        member("leaf", &kel_test::Probe::leaf), member("error", &kel_test::Probe::error),
-        member("data", &kel_test::Probe::data), member("flag", &kel_test::Probe::flag),
-        member("signedValue", &kel_test::Probe::signedValue),
-        member("unsignedValue", &kel_test::Probe::unsignedValue),
-        member("wideSigned", &kel_test::Probe::wideSigned),
-        member("wideValue", &kel_test::Probe::wideValue),
-        member("narrowValue", &kel_test::Probe::narrowValue),
-        member("values", &kel_test::Probe::values), member("switches", &kel_test::Probe::switches),
-        member("children", &kel_test::Probe::children), member("labels", &kel_test::Probe::labels),
-        member("node", &kel_test::Probe::node), member("entry", &kel_test::Probe::entry));
+        member("text", &E::text), member("names", &E::names), member("tags", &E::tags),
+        member("leaves", &E::leaves), member("leaf", &E::leaf), member("error", &E::error),
+        member("data", &E::data), member("flag", &E::flag), member("signedValue", &E::signedValue),
+        member("unsignedValue", &E::unsignedValue), member("wideSigned", &E::wideSigned),
+        member("wideValue", &E::wideValue), member("narrowValue", &E::narrowValue),
+        member("values", &E::values), member("switches", &E::switches),
+        member("children", &E::children), member("labels", &E::labels), member("node", &E::node),
+        member("entry", &E::entry));
 };
 
 } // namespace Varno::Kel_cpp::Fields
