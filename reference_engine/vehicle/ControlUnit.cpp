@@ -361,7 +361,7 @@ Bytes Ecu::respond(const Bytes& request, int64_t nowMs) {
         return reply(rest);
     }
     case 0x14: {
-        const uint32_t group = bigEndian(Bytes(request.begin() + 1, request.end()));
+        const uint32_t group = bigEndian(std::span(request).subspan(1));
         bool found = false;
         for (auto& d : dtcs) {
             if (group == 0xFFFFFF || d.code == group) {

@@ -7,6 +7,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <stdexcept>
 #include <string>
 
@@ -47,7 +48,7 @@ inline Bytes hexBytes(const std::wstring& hex) {
     return out;
 }
 
-inline uint32_t bigEndian(const Bytes& bytes) {
+inline uint32_t bigEndian(std::span<const uint8_t> bytes) {
     uint32_t v = 0;
     for (const auto b : bytes) {
         v = v << 8 | b;
