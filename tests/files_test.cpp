@@ -3,6 +3,7 @@
 // errors of copies and deletes, a cancelled asynchronous copy, whole trees, and names
 // beyond ASCII.
 #include "support.h"
+#include "uds.h"
 
 #include <OTXStream.h>
 #include <algorithm>
@@ -17,6 +18,7 @@
 #include <mutex>
 #include <string>
 #include <thread>
+#include <utf8.h>
 #include <vector>
 
 namespace {
@@ -24,6 +26,13 @@ namespace {
 namespace fs = std::filesystem;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::zeroed;
+
+#if defined(_WIN32)
+constexpr bool onWindows = true;
+#else
+constexpr bool onWindows = false;
+#endif
 
 // The engine's error codes the tests expect (reference_engine/ErrorCodes.h).
 enum : int32_t {
@@ -45,30 +54,8 @@ enum : int32_t {
 };
 
 fs::path fromWide(const std::wstring& text) {
-#if defined(_WIN32)
-    return fs::path(text);
-#else
-    std::string utf8;
-    for (const wchar_t c : text) { // UTF-32 to UTF-8
-        const auto u = static_cast<uint32_t>(c);
-        if (u < 0x80) {
-            utf8 += static_cast<char>(u);
-        } else if (u < 0x800) {
-            utf8 += static_cast<char>(0xC0 | (u >> 6));
-            utf8 += static_cast<char>(0x80 | (u & 0x3F));
-        } else if (u < 0x10000) {
-            utf8 += static_cast<char>(0xE0 | (u >> 12));
-            utf8 += static_cast<char>(0x80 | ((u >> 6) & 0x3F));
-            utf8 += static_cast<char>(0x80 | (u & 0x3F));
-        } else {
-            utf8 += static_cast<char>(0xF0 | (u >> 18));
-            utf8 += static_cast<char>(0x80 | ((u >> 12) & 0x3F));
-            utf8 += static_cast<char>(0x80 | ((u >> 6) & 0x3F));
-            utf8 += static_cast<char>(0x80 | (u & 0x3F));
-        }
-    }
+    const std::string utf8 = kel::utf8::encode(text);
     return fs::path(std::u8string(utf8.begin(), utf8.end()));
-#endif
 }
 
 std::string contents(const fs::path& file) {
@@ -103,30 +90,42 @@ int partFiles(const fs::path& folder) {
     return n;
 }
 
-DirectoryInfo* directoryRecord(const wchar_t* enginePath) {
-    auto* d = static_cast<DirectoryInfo*>(allocate_Memory(sizeof(DirectoryInfo)));
-    std::memset(d, 0, sizeof *d);
-    d->name = duplicate_WString(L"");
-    d->text1 = duplicate_WString(enginePath);
-    d->text2 = duplicate_WString(L"");
-    return d;
+// A file or directory record as a caller hands one in: only its engine path set.
+template <class R>
+R* record(const wchar_t* enginePath) {
+    auto* r = zeroed<R>();
+    r->name = duplicate_WString(L"");
+    r->text1 = duplicate_WString(enginePath);
+    r->text2 = duplicate_WString(L"");
+    return r;
 }
+DirectoryInfo* directoryRecord(const wchar_t* path) { return record<DirectoryInfo>(path); }
+FileInfo* fileRecord(const wchar_t* path) { return record<FileInfo>(path); }
 
-FileInfo* fileRecord(const wchar_t* enginePath) {
-    auto* f = static_cast<FileInfo*>(allocate_Memory(sizeof(FileInfo)));
-    std::memset(f, 0, sizeof *f);
-    f->name = duplicate_WString(L"");
-    f->text1 = duplicate_WString(enginePath);
-    f->text2 = duplicate_WString(L"");
-    return f;
-}
-
-wchar_t** strings(std::vector<std::wstring>& values, std::vector<wchar_t*>& pointers) {
-    pointers.clear();
-    for (auto& v : values) {
-        pointers.push_back(v.data());
+wchar_t** texts(const std::vector<std::wstring>& values) {
+    auto** out = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*) * values.size()));
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        out[i] = duplicate_WString(values[i].c_str());
     }
-    return pointers.data();
+    return out;
+}
+
+PathCopyConfig* pathCopy(const wchar_t* source, const wchar_t* target, bool overwrite) {
+    auto* config = zeroed<PathCopyConfig>();
+    config->source = duplicate_WString(source);
+    config->target = duplicate_WString(target);
+    config->overwrite = overwrite ? 1 : 0;
+    return config;
+}
+
+FileCopyConfig* fileCopy(const std::vector<std::wstring>& files, const wchar_t* target,
+                         bool overwrite) {
+    auto* config = zeroed<FileCopyConfig>();
+    config->files = texts(files);
+    config->fileCount = static_cast<uint32_t>(files.size());
+    config->target = duplicate_WString(target);
+    config->overwrite = overwrite ? 1 : 0;
+    return config;
 }
 
 // A fresh data root per test, and a folder beside it that nothing may reach: the
@@ -255,23 +254,53 @@ int32_t refusal(const Attempt& attempt, TarnApi* api, const std::wstring& path) 
     return e != nullptr ? codeOf(e) : entry;
 }
 
-template <class Config>
-Config* zeroed() {
-    auto* config = static_cast<Config*>(allocate_Memory(sizeof(Config)));
-    std::memset(static_cast<void*>(config), 0, sizeof(Config));
-    return config;
-}
-
-wchar_t** oneText(const wchar_t* text) {
-    auto** texts = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*)));
-    texts[0] = duplicate_WString(text);
-    return texts;
-}
-
 // The code of the one per-entry error in a result list, 0 when there is none.
 template <class R>
 int32_t entryCode(R** results, uint32_t count) {
     return count == 1 && results[0]->error ? results[0]->error->code : 0;
+}
+
+// A yes/no question about one path.
+template <void (*Query)(TarnApi*, const wchar_t*, KelError**, uint8_t*)>
+int32_t query(TarnApi* api, const wchar_t* p, KelError** e) {
+    uint8_t out = 9;
+    Query(api, p, e, &out);
+    return 0;
+}
+
+// A move with the path as its source (`from`) or as its target.
+template <void (*Move)(TarnApi*, const wchar_t*, const wchar_t*, KelError**, uint8_t*), bool from>
+int32_t move(TarnApi* api, const wchar_t* p, KelError** e) {
+    const bool file = Move == kel_moveFile;
+    const wchar_t* other = from ? (file ? L"exchange/moved.txt" : L"exchange/moveddir")
+                                : (file ? L"exchange/bait.txt" : L"exchange/baitdir");
+    uint8_t out = 9;
+    Move(api, from ? p : other, from ? other : p, e, &out);
+    return 0;
+}
+
+DirectoryCopyConfig* directoryCopy(const std::vector<std::wstring>& directories,
+                                   const wchar_t* target, const wchar_t* pattern) {
+    auto* config = zeroed<DirectoryCopyConfig>();
+    config->directories = texts(directories);
+    config->directoryCount = static_cast<uint32_t>(directories.size());
+    config->target = duplicate_WString(target);
+    config->pattern = duplicate_WString(pattern);
+    config->recursive = 1;
+    return config;
+}
+
+int32_t copyPath(TarnApi* api, PathCopyConfig* config, KelError** e) {
+    List<PathCopyResult, release_PathCopyResult_array> out;
+    kel_copyPath(api, config, e, &out.items, &out.count);
+    return 0;
+}
+
+// copyFiles refuses a bad target whole, a bad source per entry.
+int32_t copyFiles(TarnApi* api, FileCopyConfig* config, KelError** e) {
+    List<FileCopyResult, release_FileCopyResult_array> out;
+    kel_copyFiles(api, config, e, &out.items, &out.count);
+    return entryCode(out.items, out.count);
 }
 
 std::vector<std::pair<const char*, Attempt>> attempts() {
@@ -324,24 +353,9 @@ std::vector<std::pair<const char*, Attempt>> attempts() {
              release_FileInfo(out);
              return 0;
          }},
-        {"pathExists",
-         [](TarnApi* api, const wchar_t* p, KelError** e) {
-             uint8_t out = 9;
-             kel_pathExists(api, p, e, &out);
-             return 0;
-         }},
-        {"isFile",
-         [](TarnApi* api, const wchar_t* p, KelError** e) {
-             uint8_t out = 9;
-             kel_isFile(api, p, e, &out);
-             return 0;
-         }},
-        {"isDirectory",
-         [](TarnApi* api, const wchar_t* p, KelError** e) {
-             uint8_t out = 9;
-             kel_isDirectory(api, p, e, &out);
-             return 0;
-         }},
+        {"pathExists", query<kel_pathExists>},
+        {"isFile", query<kel_isFile>},
+        {"isDirectory", query<kel_isDirectory>},
         {"resolvePath",
          [](TarnApi* api, const wchar_t* p, KelError** e) {
              wchar_t* out = nullptr;
@@ -354,77 +368,32 @@ std::vector<std::pair<const char*, Attempt>> attempts() {
              kel_renameFile(api, p, L"renamed.txt", e);
              return 0;
          }},
-        {"moveFile to",
-         [](TarnApi* api, const wchar_t* p, KelError** e) {
-             uint8_t out = 9;
-             kel_moveFile(api, L"exchange/bait.txt", p, e, &out);
-             return 0;
-         }},
-        {"moveFile from",
-         [](TarnApi* api, const wchar_t* p, KelError** e) {
-             uint8_t out = 9;
-             kel_moveFile(api, p, L"exchange/moved.txt", e, &out);
-             return 0;
-         }},
-        {"moveDirectory to",
-         [](TarnApi* api, const wchar_t* p, KelError** e) {
-             uint8_t out = 9;
-             kel_moveDirectory(api, L"exchange/baitdir", p, e, &out);
-             return 0;
-         }},
+        {"moveFile to", move<kel_moveFile, false>},
+        {"moveFile from", move<kel_moveFile, true>},
+        {"moveDirectory to", move<kel_moveDirectory, false>},
         {"copyPath to",
          [](TarnApi* api, const wchar_t* p, KelError** e) {
-             auto* config = zeroed<PathCopyConfig>();
-             config->source = duplicate_WString(L"exchange/bait.txt");
-             config->target = duplicate_WString(p);
-             config->overwrite = 1;
-             List<PathCopyResult, release_PathCopyResult_array> out;
-             kel_copyPath(api, config, e, &out.items, &out.count);
-             return 0;
+             return copyPath(api, pathCopy(L"exchange/bait.txt", p, true), e);
          }},
         {"copyPath from",
          [](TarnApi* api, const wchar_t* p, KelError** e) {
-             auto* config = zeroed<PathCopyConfig>();
-             config->source = duplicate_WString(p);
-             config->target = duplicate_WString(L"exchange/copied");
-             config->overwrite = 1;
-             List<PathCopyResult, release_PathCopyResult_array> out;
-             kel_copyPath(api, config, e, &out.items, &out.count);
-             return 0;
+             return copyPath(api, pathCopy(p, L"exchange/copied", true), e);
          }},
         {"copyFiles to",
          [](TarnApi* api, const wchar_t* p, KelError** e) {
-             auto* config = zeroed<FileCopyConfig>();
-             config->files = oneText(L"exchange/bait.txt");
-             config->fileCount = 1;
-             config->target = duplicate_WString(p);
-             config->overwrite = 1;
-             List<FileCopyResult, release_FileCopyResult_array> out;
-             kel_copyFiles(api, config, e, &out.items, &out.count);
-             return 0;
+             return copyFiles(api, fileCopy({L"exchange/bait.txt"}, p, true), e);
          }},
         {"copyFiles from (per entry)",
          [](TarnApi* api, const wchar_t* p, KelError** e) {
-             auto* config = zeroed<FileCopyConfig>();
-             config->files = oneText(p);
-             config->fileCount = 1;
-             config->target = duplicate_WString(L"exchange");
-             config->overwrite = 1;
-             List<FileCopyResult, release_FileCopyResult_array> out;
-             kel_copyFiles(api, config, e, &out.items, &out.count);
+             const int32_t code = copyFiles(api, fileCopy({p}, L"exchange", true), e);
              EXPECT_EQ(*e, nullptr);
-             return entryCode(out.items, out.count);
+             return code;
          }},
         {"copyDirectories from (per entry)",
          [](TarnApi* api, const wchar_t* p, KelError** e) {
-             auto* config = zeroed<DirectoryCopyConfig>();
-             config->directories = oneText(p);
-             config->directoryCount = 1;
-             config->target = duplicate_WString(L"exchange");
-             config->pattern = duplicate_WString(L"");
-             config->recursive = 1;
              List<DirectoryCopyResult, release_DirectoryCopyResult_array> out;
-             kel_copyDirectories(api, config, e, &out.items, &out.count);
+             kel_copyDirectories(api, directoryCopy({p}, L"exchange", L""), e, &out.items,
+                                 &out.count);
              EXPECT_EQ(*e, nullptr);
              return entryCode(out.items, out.count);
          }},
@@ -443,14 +412,10 @@ std::vector<std::pair<const char*, Attempt>> attempts() {
              release_FileInfo(files[0]);
              EXPECT_EQ(*e, nullptr);
              // The summary names the entry's own code in its details.
-             int32_t code = 0;
-             if (outcome != nullptr) {
-                 const std::wstring details = outcome->details;
-                 const auto colon = details.rfind(L": ");
-                 code = colon == std::wstring::npos ? 0 : std::stoi(details.substr(colon + 2, 4));
-             }
+             const std::wstring details = outcome != nullptr ? outcome->details : L"";
+             const auto colon = details.rfind(L": ");
              release_KelError(outcome);
-             return code;
+             return colon == std::wstring::npos ? 0 : std::stoi(details.substr(colon + 2, 4));
          }},
         {"getFileReferences (per entry)",
          [](TarnApi* api, const wchar_t* p, KelError** e) {
@@ -520,42 +485,34 @@ TEST_F(FileSandbox, EveryEscapeAttemptThroughTheExportsIsRefused) {
     RecordProperty("escapeAttemptsExports", tried);
 }
 
-// The same refusals reach a caller of kel_call and py_call as the error record of the
-// result stream; the dispatchers' strings may even hold a NUL, which a C string cannot.
+// The same refusals reach a caller of kel_call as the error record of the result stream;
+// its strings may even hold a NUL, which a C string cannot (a path cut there would be a
+// harmless one).
 TEST_F(FileSandbox, EveryEscapeAttemptThroughKelCallIsRefused) {
     std::vector<Escape> cases = escapes();
     cases.push_back(
         {std::wstring(L"projects/a") + L'\0' + L"/../../outside/secret.txt", ControlCharacter});
     cases.push_back({std::wstring(L"exchange/x") + L'\0', ControlCharacter});
+    // An operation's number, a path written before the one tried (if any), and the stream
+    // bytes of the arguments after it.
     struct Numbered {
         int32_t number;
-        std::function<void(kel::OTXStream&, const std::wstring&)> arguments;
+        const wchar_t* before;
+        std::vector<uint8_t> after;
     };
     const std::vector<Numbered> operations = {
-        {77,
-         [](kel::OTXStream& s, const std::wstring& p) {
-             s.write(p).write(uint64_t{0}).write(uint32_t{0}).write(uint8_t{0});
-         }},
-        {135,
-         [](kel::OTXStream& s, const std::wstring& p) {
-             s.write(p).write(std::vector<uint8_t>{1, 2}).write(uint32_t{0}).write(uint8_t{1});
-         }},
-        {220, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // pathExists
-        {225, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // resolvePath
-        {231, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // isDirectory
-        {232, [](kel::OTXStream& s, const std::wstring& p) { s.write(p).write(uint8_t{1}); }},
-        {233, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // getFileInfo
-        {234, [](kel::OTXStream& s, const std::wstring& p) { s.write(p); }}, // isFile
-        {140,
-         [](kel::OTXStream& s, const std::wstring& p) {
-             s.write(p).write(std::wstring(L"*")).write(uint8_t{1});
-         }},
-        {186, [](kel::OTXStream& s,
-                 const std::wstring& p) { s.write(p).write(std::wstring(L"x.txt")); }},
-        {209, [](kel::OTXStream& s,
-                 const std::wstring& p) { s.write(std::wstring(L"exchange/bait.txt")).write(p); }},
-        {261, [](kel::OTXStream& s,
-                 const std::wstring& p) { s.write(std::wstring(L"escape")).write(p); }},
+        {77, nullptr, std::vector<uint8_t>(13, 0)},            // readFile
+        {135, nullptr, {2, 0, 0, 0, 1, 2, 0, 0, 0, 0, 1}},     // writeFile
+        {220, nullptr, {}},                                    // pathExists
+        {225, nullptr, {}},                                    // resolvePath
+        {231, nullptr, {}},                                    // isDirectory
+        {232, nullptr, {1}},                                   // getDirectoryInfo
+        {233, nullptr, {}},                                    // getFileInfo
+        {234, nullptr, {}},                                    // isFile
+        {140, nullptr, {1, 0, 0, 0, '*', 1}},                  // findFiles
+        {186, nullptr, {5, 0, 0, 0, 'x', '.', 't', 'x', 't'}}, // renameFile
+        {209, L"exchange/bait.txt", {}},                       // moveFile
+        {261, L"escape", {}},                                  // addPublicDirectory
     };
     write(L"exchange/bait.txt", "bait");
     const auto rootBefore = snapshot(root);
@@ -566,7 +523,11 @@ TEST_F(FileSandbox, EveryEscapeAttemptThroughKelCallIsRefused) {
                 continue; // addPublicDirectory's folder is relative to the data root
             }
             kel::OTXStream in(true, false, true);
-            op.arguments(in, escape.path);
+            if (op.before != nullptr) {
+                in.write(std::wstring(op.before));
+            }
+            in.write(escape.path);
+            in.put(op.after.data(), op.after.size());
             void* stream = nullptr;
             uint64_t size = 0;
             kel_call_checked(0, op.number, in.buffer, in.position, &stream, &size);
@@ -584,21 +545,8 @@ TEST_F(FileSandbox, EveryEscapeAttemptThroughKelCallIsRefused) {
             ++tried;
         }
     }
-    // py_call: NUL-terminated strings, so no NUL inside; -1 tells of an engine error.
-    for (const auto& escape : escapes()) {
-        std::vector<uint8_t> input;
-        const std::string utf8(escape.path.begin(), escape.path.end()); // the cases are ASCII
-        input.insert(input.end(), utf8.begin(), utf8.end());
-        input.push_back(0);
-        uint32_t size = 0;
-        void* buffer = nullptr;
-        EXPECT_EQ(py_call_checked(api, 220, 0, input.data(), input.size(), &size, &buffer), -1);
-        std::vector<uint8_t> bytes(size);
-        py_result(bytes.data(), static_cast<int32_t>(size), buffer);
-        ++tried;
-    }
     EXPECT_EQ(snapshot(root), rootBefore);
-    std::cout << "[ note ] escape attempts through kel_call and py_call: " << tried << "\n";
+    std::cout << "[ note ] escape attempts through kel_call: " << tried << "\n";
     RecordProperty("escapeAttemptsDispatchers", tried);
 }
 
@@ -606,52 +554,35 @@ TEST_F(FileSandbox, EveryEscapeAttemptThroughKelCallIsRefused) {
 // mixed slashes, and the public directory's name in any case.
 TEST_F(FileSandbox, HarmlessPathsAreNotRefused) {
     write(L"exchange/a.b..c/file.tar.gz", "x");
+    uint8_t found = 9;
     for (const wchar_t* path :
          {L"exchange/a.b..c/file.tar.gz", L"./exchange//a.b..c\\.\\file.tar.gz",
           L"EXCHANGE/a.b..c/file.tar.gz", L"exchange\\a.b..c\\file.tar.gz"}) {
-        ErrorSlot error;
-        uint8_t isFile = 0;
-        kel_isFile(api, path, &error, &isFile);
-        EXPECT_FALSE(error);
-        EXPECT_EQ(isFile, 1);
+        EXPECT_ENGINE_ERROR(error, 0, kel_isFile(api, path, &error, &found));
+        EXPECT_EQ(found, 1);
     }
     // A link that stays inside its public directory is followed; one into another public
     // directory is not (its entries would have two homes).
     if (link(real(L"exchange/a.b..c"), real(L"exchange/inside"), true) &&
         link(real(L"exchange/a.b..c"), real(L"projects/elsewhere"), true)) {
         EXPECT_EQ(read(L"exchange/inside/file.tar.gz"), std::vector<uint8_t>{'x'});
-        ErrorSlot across;
-        uint8_t found = 9;
-        kel_isFile(api, L"projects/elsewhere/file.tar.gz", &across, &found);
-        ASSERT_TRUE(across);
-        EXPECT_EQ(across->code, Outside);
+        EXPECT_ENGINE_ERROR(across, Outside,
+                            kel_isFile(api, L"projects/elsewhere/file.tar.gz", &across, &found));
     }
     // File names follow the platform: one file for any case on Windows only.
-    ErrorSlot error;
-    uint8_t found = 9;
-    kel_isFile(api, L"exchange/A.B..C/FILE.TAR.GZ", &error, &found);
-    ASSERT_FALSE(error);
-#if defined(_WIN32)
-    EXPECT_EQ(found, 1);
-#else
-    EXPECT_EQ(found, 0);
-#endif
+    EXPECT_ENGINE_ERROR(error, 0, kel_isFile(api, L"exchange/A.B..C/FILE.TAR.GZ", &error, &found));
+    EXPECT_EQ(found, onWindows ? 1 : 0);
 }
 
 TEST_F(FileSandbox, PublicDirectoriesThemselvesCannotBeDeletedMovedOrReplaced) {
-    ErrorSlot error;
     KelError* outcome = nullptr;
-    kel_deleteDirectory(api, L"projects", &error, &outcome);
-    EXPECT_FALSE(error);
-    ASSERT_NE(outcome, nullptr);
-    EXPECT_EQ(outcome->code, PublicRoot);
-    release_KelError(outcome);
+    EXPECT_ENGINE_ERROR(error, 0, kel_deleteDirectory(api, L"projects", &error, &outcome));
+    EXPECT_EQ(codeOf(outcome), PublicRoot);
     uint8_t moved = 9;
-    kel_moveDirectory(api, L"traces", L"exchange/traces", &error, &moved);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, PublicRoot);
-    EXPECT_EQ(moved, 9);
+    EXPECT_ENGINE_ERROR(error, PublicRoot,
+                        kel_moveDirectory(api, L"traces", L"exchange/traces", &error, &moved));
     EXPECT_TRUE(fs::is_directory(real(L"traces")));
+    EXPECT_TRUE(fs::is_directory(real(L"projects")));
 }
 
 // ---- reading and writing ----------------------------------------------------------------
@@ -668,34 +599,27 @@ TEST_F(FilesTest, ReadAndWriteRealFilesWithOffsetsModesAndNonAsciiNames) {
     write(name, "new", 0); // replace
     EXPECT_EQ(contents(real(name)), "new");
 
-    ErrorSlot error;
     uint32_t out = 0;
     const uint8_t byte = 1;
-    kel_writeFile(api, name, &byte, 1, 2, 0, &error, &out); // create only
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, Exists);
+    // Mode 2 creates only.
+    EXPECT_ENGINE_ERROR(exists, Exists, kel_writeFile(api, name, &byte, 1, 2, 0, &exists, &out));
     EXPECT_EQ(contents(real(name)), "new");
-
     // "exact": asking for more than is there fails instead of giving less.
-    ErrorSlot short_;
-    void* data = reinterpret_cast<void*>(1);
+    void* data = nullptr;
     uint32_t size = 5;
-    kel_readFile(api, name, 1, 10, 1, &short_, &data, &size);
-    ASSERT_TRUE(short_);
-    EXPECT_EQ(data, reinterpret_cast<void*>(1));
-
+    ErrorSlot tooShort;
+    kel_readFile(api, name, 1, 10, 1, &tooShort, &data, &size);
+    EXPECT_TRUE(tooShort);
     // Without `flag` a missing directory is not made.
-    ErrorSlot noParent;
-    kel_writeFile(api, L"exchange/none/x.txt", &byte, 1, 0, 0, &noParent, &out);
-    ASSERT_TRUE(noParent);
-    EXPECT_EQ(noParent->code, NotFound);
+    EXPECT_ENGINE_ERROR(
+        noParent, NotFound,
+        kel_writeFile(api, L"exchange/none/x.txt", &byte, 1, 0, 0, &noParent, &out));
     EXPECT_FALSE(fs::exists(real(L"exchange/none")));
 
     // The name comes back as it was written, through the file's record.
-    ErrorSlot infoError;
     FileInfo* info = nullptr;
-    kel_getFileInfo(api, name, &infoError, &info);
-    ASSERT_FALSE(infoError);
+    EXPECT_ENGINE_ERROR(infoError, 0, kel_getFileInfo(api, name, &infoError, &info));
+    ASSERT_NE(info, nullptr);
     EXPECT_EQ(std::wstring(info->name), L"\u00d6l \U0001F697.bin");
     EXPECT_EQ(std::wstring(info->text1), name);
     EXPECT_EQ(info->value2, 3U);
@@ -835,60 +759,47 @@ TEST_F(FilesTest, PublicDirectoriesAreRealFoldersAndMoreCanBeAdded) {
     write(L"archive/a.txt", "a");
     EXPECT_EQ(contents(root / "reports/2026/archive/a.txt"), "a");
     // The same file under both names.
-    std::vector<std::wstring> paths{L"ARCHIVE/a.txt", L"reports/missing.txt"};
-    std::vector<wchar_t*> pointers;
+    wchar_t** paths = texts({L"ARCHIVE/a.txt", L"reports/missing.txt"});
     List<FileReferenceResult, release_FileReferenceResult_array> refs;
-    kel_getFileReferences(api, strings(paths, pointers), 2, &error, &refs.items, &refs.count);
+    kel_getFileReferences(api, paths, 2, &error, &refs.items, &refs.count);
+    release_StringArray(paths, 2);
     ASSERT_FALSE(error);
     ASSERT_EQ(refs.count, 2U);
     ASSERT_EQ(refs.items[0]->referenceCount, 2U);
     EXPECT_EQ(std::wstring(refs.items[0]->references[0]), L"Archive/a.txt");
     EXPECT_EQ(std::wstring(refs.items[0]->references[1]), L"reports/2026/archive/a.txt");
     EXPECT_EQ(refs.items[0]->error, nullptr);
-    ASSERT_NE(refs.items[1]->error, nullptr);
-    EXPECT_EQ(refs.items[1]->error->code, NotFound);
+    EXPECT_EQ(entryCode(refs.items + 1, 1), NotFound);
 
     // A taken name is refused; the same name for the same folder again is not.
-    kel_addPublicDirectory(api, L"archive", L"reports/2026/archive", &error);
-    EXPECT_FALSE(error);
-    kel_addPublicDirectory(api, L"archive", L"reports", &error);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, Exists);
+    EXPECT_ENGINE_ERROR(e, 0, kel_addPublicDirectory(api, L"archive", L"reports/2026/archive", &e));
+    EXPECT_ENGINE_ERROR(e, Exists, kel_addPublicDirectory(api, L"archive", L"reports", &e));
 }
 
 // Users, certificates, interfaces, the update store and the engine's configuration are
 // the engine's alone: no public directory reaches them, whoever asks.
 TEST_F(FilesTest, TheEnginesOwnFilesAreOutOfEveryPublicDirectorysReach) {
-    const auto code = [](auto call) { return kel_test::errorCodeOf(call); };
     for (const wchar_t* folder :
          {L"users", L"certificates", L"interfaces", L"updates", L"users/more", L"updates/packages",
-          L"configuration", L"configuration/engine.json", L"projects/.."}) {
-        SCOPED_TRACE(fromWide(folder).string());
-        const int32_t refused =
-            code([&](KelError** e) { kel_addPublicDirectory(api, L"mine", folder, e); });
-        EXPECT_EQ(refused, std::wstring(folder) == L"projects/.." ? Parent : EngineFolder);
+          L"configuration", L"configuration/engine.json"}) {
+        EXPECT_ENGINE_ERROR(e, EngineFolder, kel_addPublicDirectory(api, L"mine", folder, &e));
     }
-    ErrorSlot error;
-    kel_saveConfiguration(api, &error);
-    ASSERT_FALSE(error);
+    EXPECT_ENGINE_ERROR(e, Parent, kel_addPublicDirectory(api, L"mine", L"projects/..", &e));
+    EXPECT_ENGINE_ERROR(e, 0, kel_saveConfiguration(api, &e));
     ASSERT_TRUE(fs::exists(root / "configuration" / "engine.json"));
     void* data = nullptr;
     uint32_t size = 0;
-    EXPECT_EQ(code([&](KelError** e) {
-                  kel_readFile(api, L"configuration/engine.json", 0, 0, 0, e, &data, &size);
-              }),
-              EngineFolder);
+    EXPECT_ENGINE_ERROR(e, EngineFolder,
+                        kel_readFile(api, L"configuration/engine.json", 0, 0, 0, &e, &data, &size));
     uint32_t written = 0;
     const uint8_t byte = 'x';
     for (const wchar_t* path : {L"configuration/Engine.json.new", L"configuration/mox.json"}) {
-        EXPECT_EQ(
-            code([&](KelError** e) { kel_writeFile(api, path, &byte, 1, 0, 1, e, &written); }),
-            EngineFolder);
+        EXPECT_ENGINE_ERROR(e, EngineFolder,
+                            kel_writeFile(api, path, &byte, 1, 0, 1, &e, &written));
     }
     uint8_t exists = 0;
-    EXPECT_EQ(
-        code([&](KelError** e) { kel_pathExists(api, L"updates/installed.json", e, &exists); }),
-        UnknownPublic);
+    EXPECT_ENGINE_ERROR(e, UnknownPublic,
+                        kel_pathExists(api, L"updates/installed.json", &e, &exists));
     write(L"configuration/ecu-order.txt", "the rest of the folder stays the clients'");
 }
 
@@ -919,11 +830,10 @@ TEST_F(FilesTest, DeletesReportEveryFailingEntryAndDoTheRest) {
     EXPECT_FALSE(fs::exists(real(L"exchange/a.txt")));
     EXPECT_FALSE(fs::exists(real(L"exchange/b.txt")));
 
-    // A directory goes whole; its outcome is NULL on success, the error stays untouched.
+    // A directory goes whole; its outcome is NULL on success.
     write(L"exchange/tree/x/y/z.txt", "z");
     KelError* done = reinterpret_cast<KelError*>(1);
-    kel_deleteDirectory(api, L"exchange/tree", &error, &done);
-    EXPECT_FALSE(error);
+    EXPECT_ENGINE_ERROR(e, 0, kel_deleteDirectory(api, L"exchange/tree", &e, &done));
     EXPECT_EQ(done, nullptr);
     EXPECT_FALSE(fs::exists(real(L"exchange/tree")));
 }
@@ -932,18 +842,9 @@ TEST_F(FilesTest, CopiesReportEveryFailingEntryAndCopyTheRest) {
     write(L"projects/p/one.odx", "one");
     write(L"projects/p/two.odx", "two");
     write(L"exchange/out/two.odx", "old");
-    std::vector<std::wstring> sources{L"projects/p/one.odx", L"projects/p/missing.odx",
-                                      L"../outside/secret.txt", L"projects/p/two.odx",
-                                      L"projects/p"};
-    std::vector<wchar_t*> pointers;
-    auto* config = static_cast<FileCopyConfig*>(allocate_Memory(sizeof(FileCopyConfig)));
-    config->files = static_cast<wchar_t**>(allocate_Memory(sources.size() * sizeof(wchar_t*)));
-    for (std::size_t i = 0; i < sources.size(); ++i) {
-        config->files[i] = duplicate_WString(sources[i].c_str());
-    }
-    config->fileCount = static_cast<uint32_t>(sources.size());
-    config->target = duplicate_WString(L"exchange/out");
-    config->overwrite = 0;
+    auto* config = fileCopy({L"projects/p/one.odx", L"projects/p/missing.odx",
+                             L"../outside/secret.txt", L"projects/p/two.odx", L"projects/p"},
+                            L"exchange/out", false);
     ErrorSlot error;
     List<FileCopyResult, release_FileCopyResult_array> results;
     kel_copyFiles(api, config, &error, &results.items, &results.count);
@@ -964,17 +865,10 @@ TEST_F(FilesTest, CopiesReportEveryFailingEntryAndCopyTheRest) {
     write(L"projects/p/sub/three.odx", "three");
     write(L"projects/p/sub/skip.txt", "skip");
     link(outside, real(L"projects/p/sub/out"), true);
-    auto* dirs = static_cast<DirectoryCopyConfig*>(allocate_Memory(sizeof(DirectoryCopyConfig)));
-    dirs->directories = static_cast<wchar_t**>(allocate_Memory(2 * sizeof(wchar_t*)));
-    dirs->directories[0] = duplicate_WString(L"projects/p");
-    dirs->directories[1] = duplicate_WString(L"projects/none");
-    dirs->directoryCount = 2;
-    dirs->target = duplicate_WString(L"exchange");
-    dirs->overwrite = 0;
-    dirs->recursive = 1;
-    dirs->pattern = duplicate_WString(L"*.odx");
     List<DirectoryCopyResult, release_DirectoryCopyResult_array> copied;
-    kel_copyDirectories(api, dirs, &error, &copied.items, &copied.count);
+    kel_copyDirectories(api,
+                        directoryCopy({L"projects/p", L"projects/none"}, L"exchange", L"*.odx"),
+                        &error, &copied.items, &copied.count);
     ASSERT_FALSE(error);
     ASSERT_EQ(copied.count, 2U);
     EXPECT_EQ(copied.items[1]->value1, 2);
@@ -999,29 +893,14 @@ TEST_F(FilesTest, CopiesReportEveryFailingEntryAndCopyTheRest) {
 TEST_F(FilesTest, ARefusedCopyLeavesNoFileBehind) {
     write(L"exchange/big.bin", std::string(1 << 20, 'x'));
     const auto before = snapshot(root);
-    auto* config = static_cast<PathCopyConfig*>(allocate_Memory(sizeof(PathCopyConfig)));
-    config->source = duplicate_WString(L"exchange/big.bin");
-    config->target = duplicate_WString(L"exchange/new/../../../outside/big.bin");
-    config->overwrite = 1;
-    ErrorSlot error;
-    PathCopyResult** results = nullptr;
-    uint32_t count = 0;
-    kel_copyPath(api, config, &error, &results, &count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, Parent);
-    EXPECT_EQ(results, nullptr);
-    EXPECT_EQ(snapshot(root), before);
+    const auto code = [&](PathCopyConfig* config) {
+        return kel_test::errorCodeOf([&](KelError** e) { copyPath(api, config, e); });
+    };
+    EXPECT_EQ(code(pathCopy(L"exchange/big.bin", L"exchange/new/../../../outside/big.bin", true)),
+              Parent);
     EXPECT_FALSE(fs::exists(outside / "big.bin"));
-
     // A directory into itself would never end.
-    ErrorSlot inside;
-    auto* loop = static_cast<PathCopyConfig*>(allocate_Memory(sizeof(PathCopyConfig)));
-    loop->source = duplicate_WString(L"exchange");
-    loop->target = duplicate_WString(L"exchange/again");
-    loop->overwrite = 0;
-    kel_copyPath(api, loop, &inside, &results, &count);
-    ASSERT_TRUE(inside);
-    EXPECT_EQ(inside->code, 1617);
+    EXPECT_EQ(code(pathCopy(L"exchange", L"exchange/again", false)), 1617);
     EXPECT_EQ(snapshot(root), before);
 }
 
@@ -1074,13 +953,10 @@ TEST_F(FilesTest, ACancelledAsynchronousCopyLeavesAConsistentTree) {
         }
     }
     kelsim_setAsyncInterval("copyPathAsync", 15); // one entry per report, 15 ms apart
-    auto* config = static_cast<PathCopyConfig*>(allocate_Memory(sizeof(PathCopyConfig)));
-    config->source = duplicate_WString(L"projects/big");
-    config->target = duplicate_WString(L"exchange/big");
-    config->overwrite = 0;
     Reports reports;
     ErrorSlot error;
-    const uint64_t id = kel_copyPathAsync(api, config, &error, Reports::onPath, &reports);
+    const uint64_t id = kel_copyPathAsync(api, pathCopy(L"projects/big", L"exchange/big", false),
+                                          &error, Reports::onPath, &reports);
     ASSERT_FALSE(error);
     ASSERT_NE(id, 0U);
     ASSERT_TRUE(reports.waitFor([&] { return reports.reports >= 8 || reports.final; }));
@@ -1117,14 +993,8 @@ TEST_F(FilesTest, AnAsynchronousFileCopyReportsInSlicesWithPerEntryErrors) {
     write(L"exchange/b.txt", "b");
     fs::create_directories(real(L"reports/in"));
     kelsim_setAsyncReports("copyFilesAsync", 2);
-    auto* config = static_cast<FileCopyConfig*>(allocate_Memory(sizeof(FileCopyConfig)));
-    config->files = static_cast<wchar_t**>(allocate_Memory(3 * sizeof(wchar_t*)));
-    config->files[0] = duplicate_WString(L"exchange/a.txt");
-    config->files[1] = duplicate_WString(L"/etc/passwd");
-    config->files[2] = duplicate_WString(L"exchange/b.txt");
-    config->fileCount = 3;
-    config->target = duplicate_WString(L"reports/in");
-    config->overwrite = 1;
+    auto* config =
+        fileCopy({L"exchange/a.txt", L"/etc/passwd", L"exchange/b.txt"}, L"reports/in", true);
     struct Seen {
         std::mutex mutex;
         std::condition_variable done;
@@ -1199,8 +1069,7 @@ TEST_F(FilesTest, FiltersSelectFilesAndCopyTheSelectedProject) {
     release_DirectoryInfo(tree);
 
     fs::create_directories(real(L"exchange/copy"));
-    auto* config = static_cast<FileCopyConfig*>(allocate_Memory(sizeof(FileCopyConfig)));
-    std::memset(config, 0, sizeof *config);
+    auto* config = zeroed<FileCopyConfig>();
     config->target = duplicate_WString(L"exchange/copy");
     List<FileInfo, release_FileInfo_array> copied;
     kel_copyProjectWithFilters(api, filters, 2, 1, config, L"", &error, &copied.items,
@@ -1227,19 +1096,14 @@ TEST_F(FilesTest, CreateRenameAndMoveWorkOnRealEntries) {
     ASSERT_FALSE(error);
     EXPECT_EQ(file->value2, 0U);
     release_FileInfo(file);
-    kel_createFile(api, directoryRecord(L"exchange/\u00e9t\u00e9"), L"a.txt", &error, &file);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, Exists);
-    release_KelError(error.error);
-    error.error = nullptr;
+    EXPECT_ENGINE_ERROR(
+        e, Exists,
+        kel_createFile(api, directoryRecord(L"exchange/\u00e9t\u00e9"), L"a.txt", &e, &file));
 
-    kel_renameFile(api, L"exchange/\u00e9t\u00e9/a.txt", L"b.txt", &error);
-    ASSERT_FALSE(error);
-    kel_renameFile(api, L"exchange/\u00e9t\u00e9/b.txt", L"../b.txt", &error);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, InvalidPath); // a new name is one name, never a path
-    release_KelError(error.error);
-    error.error = nullptr;
+    EXPECT_ENGINE_ERROR(e, 0, kel_renameFile(api, L"exchange/\u00e9t\u00e9/a.txt", L"b.txt", &e));
+    // A new name is one name, never a path.
+    EXPECT_ENGINE_ERROR(e, InvalidPath,
+                        kel_renameFile(api, L"exchange/\u00e9t\u00e9/b.txt", L"../b.txt", &e));
 
     uint8_t moved = 9;
     kel_moveFile(api, L"exchange/\u00e9t\u00e9/b.txt", L"reports/deep/c.txt", &error, &moved);
