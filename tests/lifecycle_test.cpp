@@ -1,110 +1,82 @@
 // The lifecycle exports against the simulated engine: state, locks, handle and call
 // duration.
 #include "support.h"
+#include "uds.h"
 
 namespace {
 
-using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::handleOf;
 
-using Lifecycle = EngineTest;
+class Lifecycle : public kel_test::EngineTest {
+protected:
+    int32_t state() {
+        int32_t out = -1;
+        EXPECT_ENGINE_ERROR(error, 0, kel_getState(api, &error, &out));
+        return out;
+    }
+    bool locked() {
+        bool out = false;
+        EXPECT_ENGINE_ERROR(error, 0, kel_isLocked(api, &error, &out));
+        return out;
+    }
+    uint64_t lock() {
+        uint64_t id = 0;
+        EXPECT_ENGINE_ERROR(error, 0, kel_lock(api, &error, &id));
+        return id;
+    }
+};
 
 TEST_F(Lifecycle, InitializeAndEndChangeTheStateNotTheHandle) {
-    ErrorSlot error;
-    uint64_t handle = 0;
-    kel_getHandle(api, &error, &handle);
+    const uint64_t handle = handleOf(api);
     EXPECT_NE(handle, 0U);
-    int32_t state = -1;
-    kel_getState(api, &error, &state);
-    EXPECT_EQ(state, 1);
-    kel_end(api, &error);
-    kel_getState(api, &error, &state);
-    EXPECT_EQ(state, 2);
-    EXPECT_FALSE(error);
-    uint64_t same = 0;
-    kel_getHandle(api, &error, &same);
-    EXPECT_EQ(same, handle);
-
+    EXPECT_EQ(state(), 1);
+    EXPECT_ENGINE_ERROR(error, 0, kel_end(api, &error));
+    EXPECT_EQ(state(), 2);
+    EXPECT_EQ(handleOf(api), handle);
     uint64_t lockId = 0;
-    kel_lock(api, &error, &lockId);
-    ASSERT_TRUE(error) << "an ended engine cannot be locked";
-    EXPECT_EQ(error->code, 1001);
+    // An ended engine cannot be locked.
+    EXPECT_ENGINE_ERROR(error, 1001, kel_lock(api, &error, &lockId));
 }
 
-TEST_F(Lifecycle, LockIssuesTheIdThatUnlockChecks) {
-    ErrorSlot error;
-    uint64_t lockId = 0;
-    bool locked = true;
-    kel_isLocked(api, &error, &locked);
-    EXPECT_FALSE(locked);
-    kel_lock(api, &error, &lockId);
-    ASSERT_FALSE(error);
+TEST_F(Lifecycle, LockIssuesTheIdThatUnlockChecksAndBreakLockFrees) {
+    EXPECT_FALSE(locked());
+    const uint64_t lockId = lock();
     EXPECT_NE(lockId, 0U);
-    kel_isLocked(api, &error, &locked);
-    EXPECT_TRUE(locked);
-
+    EXPECT_TRUE(locked());
     uint64_t second = 0;
-    kel_lock(api, &error, &second);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1002);
-    release_KelError(error.error);
-    error.error = nullptr;
+    EXPECT_ENGINE_ERROR(error, 1002, kel_lock(api, &error, &second));
+    EXPECT_ENGINE_ERROR(error, 1004, kel_unlock(api, lockId + 1, &error));
+    EXPECT_ENGINE_ERROR(error, 0, kel_unlock(api, lockId, &error));
+    EXPECT_FALSE(locked());
 
-    kel_unlock(api, lockId + 1, &error);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1004);
-    release_KelError(error.error);
-    error.error = nullptr;
-
-    kel_unlock(api, lockId, &error);
-    EXPECT_FALSE(error);
-    kel_isLocked(api, &error, &locked);
-    EXPECT_FALSE(locked);
+    const uint64_t broken = lock();
+    EXPECT_ENGINE_ERROR(error, 0, kel_breakLock(api, &error));
+    EXPECT_FALSE(locked());
+    // The broken lock's id is no longer valid.
+    EXPECT_ENGINE_ERROR(error, 1003, kel_unlock(api, broken, &error));
 }
 
 TEST_F(Lifecycle, TheDescriptionSetsTheFirstLockIdAndAReloadStartsThereAgain) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "lifecycle": {"firstLockId": 77}})"), 0);
-    ErrorSlot error;
-    uint64_t first = 0;
-    uint64_t second = 0;
-    kel_lock(api, &error, &first);
-    kel_unlock(api, first, &error);
-    kel_lock(api, &error, &second);
-    kel_unlock(api, second, &error);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(first, 77U);
-    EXPECT_EQ(second, 78U);
-
+    for (const uint64_t expected : {77U, 78U}) {
+        const uint64_t id = lock();
+        EXPECT_EQ(id, expected);
+        EXPECT_ENGINE_ERROR(error, 0, kel_unlock(api, id, &error));
+    }
     kelsim_reloadVehicle();
-    uint64_t again = 0;
-    kel_lock(api, &error, &again);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(again, 77U);
+    EXPECT_EQ(lock(), 77U);
 
     EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "lifecycle": {"firstLockId": 0}})"), -1)
         << "0 means not locked";
     EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "lifecycle": {"firstLockId": -5}})"), -1);
 }
 
-TEST_F(Lifecycle, BreakLockFreesTheLock) {
-    ErrorSlot error;
-    uint64_t lockId = 0;
-    kel_lock(api, &error, &lockId);
-    kel_breakLock(api, &error);
-    bool locked = true;
-    kel_isLocked(api, &error, &locked);
-    EXPECT_FALSE(locked);
-    kel_unlock(api, lockId, &error);
-    ASSERT_TRUE(error) << "the broken lock's id is no longer valid";
-    EXPECT_EQ(error->code, 1003);
-}
-
 TEST_F(Lifecycle, CallDurationMeasuresThePreviousCall) {
     kelsim_setDelay("isLocked", 30);
-    ErrorSlot error;
-    bool locked = false;
-    kel_isLocked(api, &error, &locked);
+    locked();
     uint64_t micros = 0;
+    ErrorSlot error;
     kel_getCallDuration(api, &error, &micros);
     EXPECT_GE(micros, 30000U) << "isLocked waited 30 ms";
     kel_getCallDuration(api, &error, &micros);
