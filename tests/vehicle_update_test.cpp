@@ -117,6 +117,16 @@ std::map<std::string, std::string> snapshot(const fs::path& root) {
     return out;
 }
 
+std::string manifest(const std::string& name, const std::string& version, const std::string& kind,
+                     const std::string& target, const std::string& payload, std::size_t size,
+                     const std::string& checksum) {
+    return R"({"format": "kel-package", "version": 1, "name": ")" + name +
+           R"(", "packageVersion": ")" + version + R"(", "kind": ")" + kind +
+           R"(", "targets": [")" + target + R"("], "description": "test package", "payload": ")" +
+           payload + R"(", "size": )" + std::to_string(size) + R"(, "checksum": ")" + checksum +
+           R"("})";
+}
+
 std::wstring wide(const std::string& s) { return std::wstring(s.begin(), s.end()); }
 
 wchar_t* dup(const std::wstring& s) { return duplicate_WString(s.c_str()); }
@@ -162,6 +172,68 @@ VehicleUpdateConfig* config(const std::vector<std::wstring>& targets,
     return c;
 }
 
+// ECU order entries as a caller hands them in: a target and whether it is optional.
+struct Order {
+    std::vector<EcuOrderEntry*> entries;
+    explicit Order(std::initializer_list<std::pair<const wchar_t*, bool>> targets) {
+        for (const auto& [target, optional] : targets) {
+            auto* e = zeroed<EcuOrderEntry>();
+            e->target = dup(target);
+            e->bus = dup(L"");
+            e->optional = optional ? 1 : 0;
+            entries.push_back(e);
+        }
+    }
+    Order(const Order&) = delete;
+    Order& operator=(const Order&) = delete;
+    ~Order() {
+        for (auto* e : entries) {
+            release_EcuOrderEntry(e);
+        }
+    }
+};
+
+// What an asynchronous update reports, and the cancel it may trigger.
+struct UpdateWatch : AsyncWatch {
+    std::wstring cancelOn; // cancel once this unit reports this much progress
+    uint32_t cancelAt = 101;
+    std::vector<std::pair<std::wstring, uint32_t>> running; // unit and progress
+    std::vector<uint32_t> overall;
+    std::vector<std::wstring> final;  // target:status of the final report
+    std::vector<int32_t> finalErrors; // their error codes, 0 for none
+    std::vector<std::wstring> finalAfter;
+
+    static void callback(VehicleUpdateResult** results, uint32_t count, bool isFinal,
+                         uint64_t callId, KelError* error, void* context) {
+        auto* self = static_cast<UpdateWatch*>(context);
+        bool cancel = false;
+        {
+            const std::lock_guard lock(self->mutex);
+            for (uint32_t i = 0; i < count; ++i) {
+                const VehicleUpdateResult& r = *results[i];
+                if (isFinal) {
+                    self->final.push_back(std::wstring(r.target) + L":" +
+                                          std::to_wstring(r.status));
+                    self->finalErrors.push_back(r.error != nullptr ? r.error->code : 0);
+                    self->finalAfter.emplace_back(r.versionAfter);
+                    continue;
+                }
+                self->overall.push_back(r.overallProgress);
+                if (r.status == 1) {
+                    self->running.emplace_back(r.target, r.progress);
+                    cancel = cancel || (r.target == self->cancelOn && r.progress >= self->cancelAt);
+                }
+            }
+            self->errorCode = error != nullptr ? error->code : self->errorCode;
+        }
+        release_VehicleUpdateResult_array(results, count);
+        release_KelError(error);
+        self->reported(callId, cancel, isFinal);
+    }
+};
+
+const std::vector<Wanted> ecmAndBcm = {{L"ECM_SW", L"5432", L"ECM"}, {L"BCM_SW", L"0460", L"BCM"}};
+
 class VehicleUpdateTest : public EngineTest {
 protected:
     void SetUp() override {
@@ -193,6 +265,16 @@ protected:
         ASSERT_FALSE(error);
     }
 
+    // The output of a call that must succeed.
+    template <class T, class... Args>
+    T ok(void (*call)(TarnApi*, Args..., KelError**, T*), Args... args) {
+        ErrorSlot error;
+        T out{};
+        call(api, args..., &error, &out);
+        EXPECT_FALSE(error) << (error ? error->code : 0);
+        return out;
+    }
+
     // Puts a package on the broker (or in `packagesFolder`); a `declared` checksum other
     // than the payload's makes it corrupt.
     fs::path publish(const std::string& name, const std::string& version, const std::string& kind,
@@ -203,13 +285,8 @@ protected:
             (name + "-" + version);
         const std::string file = name + "_" + version + ".bin";
         put(folder / file, std::string(payload.begin(), payload.end()));
-        put(folder / "manifest.json",
-            R"({"format": "kel-package", "version": 1, "name": ")" + name +
-                R"(", "packageVersion": ")" + version + R"(", "kind": ")" + kind +
-                R"(", "targets": [")" + target +
-                R"("], "description": "test package", "payload": ")" + file + R"(", "size": )" +
-                std::to_string(payload.size()) + R"(, "checksum": ")" +
-                crcText(declared != 0 ? declared : crc32(payload)) + R"("})");
+        put(folder / "manifest.json", manifest(name, version, kind, target, file, payload.size(),
+                                               crcText(declared != 0 ? declared : crc32(payload))));
         return folder;
     }
     void publishEcu(const std::string& target, const std::string& version,
@@ -262,42 +339,12 @@ protected:
     }
 
     int32_t setBroker(const wchar_t* url) {
-        ErrorSlot error;
-        kel_setBrokerUrl(api, url, &error);
-        return error ? error->code : 0;
+        return kel_test::errorCodeOf([&](KelError** e) { kel_setBrokerUrl(api, url, e); });
     }
-
-    bool updatesOnBroker() {
-        ErrorSlot error;
-        bool available = false;
-        kel_checkUpdatesOnBroker(api, &error, &available);
-        EXPECT_FALSE(error);
-        return available;
-    }
-    // Whether autoUpdate installed something; it must not fail.
-    bool autoUpdate() {
-        ErrorSlot error;
-        bool updated = false;
-        kel_autoUpdate(api, &error, &updated);
-        EXPECT_FALSE(error) << error->code;
-        return updated;
-    }
-
-    bool lastUpdateSucceeded() {
-        ErrorSlot error;
-        bool succeeded = false;
-        kel_checkUpdateSuccess(api, &error, &succeeded);
-        EXPECT_FALSE(error);
-        return succeeded;
-    }
-
-    uint64_t pduMonitor() {
-        ErrorSlot error;
-        uint64_t handle = 0;
-        kel_createPduMonitor(api, &error, &handle);
-        EXPECT_FALSE(error);
-        return handle;
-    }
+    bool updatesOnBroker() { return ok(kel_checkUpdatesOnBroker); }
+    bool autoUpdate() { return ok(kel_autoUpdate); } // whether it installed something
+    bool lastUpdateSucceeded() { return ok(kel_checkUpdateSuccess); }
+    uint64_t pduMonitor() { return ok(kel_createPduMonitor); }
     // The units that requests went to, in the order they first appear, and how many; and
     // the largest TransferData request.
     std::vector<std::wstring> unitsTalkedTo(uint64_t monitor, std::map<std::wstring, int>* counts,
@@ -329,6 +376,20 @@ protected:
         return out;
     }
 
+    // Updates the ECM and the BCM asynchronously, reported to `watch`; whether it ended.
+    bool updateAsync(UpdateWatch& watch) {
+        kelsim_setAsyncInterval("updateVehicleAsync", 0);
+        publishEcu("ECM", "5432");
+        publishEcu("BCM", "0460");
+        watch.api = api;
+        ErrorSlot error;
+        const uint64_t id = kel_updateVehicleAsync(api, config({}, ecmAndBcm), &error,
+                                                   UpdateWatch::callback, &watch);
+        EXPECT_FALSE(error);
+        EXPECT_NE(id, 0U);
+        return id != 0 && watch.wait();
+    }
+
     fs::path base, root, outside;
 };
 
@@ -344,28 +405,20 @@ std::vector<std::wstring> statuses(const Results& r) {
 // ---- the broker --------------------------------------------------------------------------
 
 TEST_F(VehicleUpdateTest, TheBrokerOffersItsValidPackagesAndSkipsTheOthersWithAnEvent) {
-    ErrorSlot error;
-    uint64_t channel = 0;
-    kel_openEventChannel(api, &error, &channel);
-    ASSERT_FALSE(error);
+    const uint64_t channel = ok(kel_openEventChannel);
     publishEcu("ECM", "5432");
     publish("tool", "1.9", "engine", "tool", Bytes(100, 7));
     const fs::path packages = root / "broker" / "packages";
     put(packages / "notjson" / "manifest.json", "{nope");
     put(packages / "nomanifest" / "payload.bin", "x");
     put(packages / "escape" / "manifest.json",
-        R"({"format": "kel-package", "version": 1, "name": "E", "packageVersion": "1",
-            "kind": "ecu", "targets": ["ECM"], "payload": "../../exchange/x.bin", "size": 1,
-            "checksum": "crc32:00000000"})");
+        manifest("E", "1", "ecu", "ECM", "../../exchange/x.bin", 1, "crc32:00000000"));
     put(packages / "self" / "manifest.json",
-        R"({"format": "kel-package", "version": 1, "name": "S", "packageVersion": "1",
-            "kind": "engine", "targets": ["kel_cpp"], "payload": "p.bin", "size": 1,
-            "checksum": "crc32:00000000"})");
+        manifest("S", "1", "engine", "kel_cpp", "p.bin", 1, "crc32:00000000"));
     put(packages / "badsum" / "manifest.json",
-        R"({"format": "kel-package", "version": 1, "name": "B", "packageVersion": "1",
-            "kind": "ecu", "targets": ["ECM"], "payload": "p.bin", "size": 1,
-            "checksum": "crc32:12345"})");
+        manifest("B", "1", "ecu", "ECM", "p.bin", 1, "crc32:12345"));
 
+    ErrorSlot error;
     Packages offered;
     kel_getPackagesFromBroker(api, &error, &offered.items, &offered.count);
     ASSERT_FALSE(error);
@@ -467,7 +520,6 @@ TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeep
     EXPECT_TRUE(lastUpdateSucceeded()) << "no update yet: nothing failed";
 
     publish("tool", "1.9", "engine", "tool", Bytes(100, 1));
-    ErrorSlot error;
     EXPECT_TRUE(updatesOnBroker());
     EXPECT_TRUE(autoUpdate());
     EXPECT_EQ(versions()[L"tool"], L"1.9");
@@ -489,17 +541,15 @@ TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeep
     EXPECT_TRUE(lastUpdateSucceeded());
     EXPECT_FALSE(updatesOnBroker());
 
-    kel_clearUpdatePackages(api, &error);
-    ASSERT_FALSE(error);
+    EXPECT_ENGINE_ERROR(error, 0, kel_clearUpdatePackages(api, &error));
     EXPECT_TRUE(listed(kel_getUpdatePackages).empty());
     EXPECT_EQ(versions()[L"tool"], L"1.10") << "clearing downloads uninstalls nothing";
 
     // Installed packages are kept by whole name: installing tool leaves tool-extra installed.
     publish("tool-extra", "1", "engine", "extra", Bytes(10, 4));
-    kel_applyUpdatePackage(api, L"tool-extra", &error);
+    EXPECT_ENGINE_ERROR(error, 0, kel_applyUpdatePackage(api, L"tool-extra", &error));
     publish("tool", "1.11", "engine", "tool", Bytes(10, 5));
-    kel_applyUpdatePackage(api, L"tool", &error);
-    ASSERT_FALSE(error);
+    EXPECT_ENGINE_ERROR(error, 0, kel_applyUpdatePackage(api, L"tool", &error));
     EXPECT_EQ(listed(kel_getUpdatePackages),
               (std::vector<std::wstring>{L"tool-1.11:2", L"tool-extra-1:2"}));
     // A store that listed "<name>-<version>" texts is read through the packages' manifests.
@@ -511,9 +561,7 @@ TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeep
 
 TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {
     publish("tool", "2", "engine", "tool", Bytes(100, 1));
-    ErrorSlot error;
-    kel_applyUpdatePackage(api, L"tool", &error);
-    ASSERT_FALSE(error);
+    EXPECT_ENGINE_ERROR(error, 0, kel_applyUpdatePackage(api, L"tool", &error));
     EXPECT_TRUE(lastUpdateSucceeded());
     const auto store = snapshot(root / "updates");
     const auto known = versions();
@@ -538,8 +586,7 @@ TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {
     expected.erase("last-update.json");
     EXPECT_EQ(after, expected);
     EXPECT_FALSE(fs::is_empty(root / "updates" / "tmp"));
-    kel_cleanUpdateTmp(api, &error);
-    ASSERT_FALSE(error);
+    EXPECT_ENGINE_ERROR(error, 0, kel_cleanUpdateTmp(api, &error));
     EXPECT_FALSE(fs::exists(root / "updates" / "tmp") && !fs::is_empty(root / "updates" / "tmp"));
 
     // A downloaded copy damaged afterwards is refused as well.
@@ -633,9 +680,7 @@ TEST_F(VehicleUpdateTest, ACorruptUnitPackageFailsThatUnitAloneAndItStaysUntouch
     publishEcu("BCM", "0460");
     const uint64_t monitor = pduMonitor();
     ErrorSlot error;
-    auto out = update(config({}, {{L"ECM_SW", L"5432", L"ECM"}, {L"BCM_SW", L"0460", L"BCM"}},
-                             /*stopOnError=*/false),
-                      &error);
+    auto out = update(config({}, ecmAndBcm, /*stopOnError=*/false), &error);
     ASSERT_FALSE(error);
     EXPECT_EQ(statuses(*out),
               (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:4", L"ECM:2", L"TCM:4"}));
@@ -654,21 +699,16 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
     publishEcu("BCM", "0460");
     publishEcu("GW", "0200");
     publishEcu("TCM", "0830");
-    const auto entry = [](const wchar_t* target, bool optional) {
-        auto* e = zeroed<EcuOrderEntry>();
-        e->target = dup(target);
-        e->bus = dup(L"");
-        e->optional = optional ? 1 : 0;
-        return e;
-    };
-    std::vector<EcuOrderEntry*> entries = {entry(L"ECM", false),  entry(L"TRAILER", true),
-                                           entry(L"TCM", false),  entry(L"GW", false),
-                                           entry(L"ROOF", false), entry(L"BCM", false)};
+    Order order({{L"ECM", false},
+                 {L"TRAILER", true},
+                 {L"TCM", false},
+                 {L"GW", false},
+                 {L"ROOF", false},
+                 {L"BCM", false}});
     const auto perform = [&](VehicleUpdateConfig* c) {
         auto out = std::make_unique<Results>();
         ErrorSlot error;
-        kel_performVehicleUpdate(api, entries.data(), static_cast<uint32_t>(entries.size()), c,
-                                 &error, &out->items, &out->count);
+        kel_performVehicleUpdate(api, order.entries.data(), 6, c, &error, &out->items, &out->count);
         EXPECT_FALSE(error);
         return out;
     };
@@ -696,9 +736,6 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
               (std::vector<std::wstring>{L"TCM:0", L"GW:2", L"ROOF:3", L"BCM:3"}));
     EXPECT_GE(kelsim_clockMs() - before, 3000) << "the TCM was written";
     EXPECT_EQ(forced->items[3]->error->code, 2208);
-    for (auto* e : entries) {
-        release_EcuOrderEntry(e);
-    }
 }
 
 TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne) {
@@ -715,19 +752,9 @@ TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne
     EXPECT_EQ(updateAll(),
               (std::vector<std::wstring>{L"GW:4", L"BCM:4", L"DASH:4", L"ECM:4", L"TCM:4"}));
 
-    std::vector<EcuOrderEntry*> entries;
-    for (const wchar_t* target : {L"TCM", L"ECM", L"GW", L"DASH", L"BCM"}) {
-        auto* e = zeroed<EcuOrderEntry>();
-        e->target = dup(target);
-        e->bus = dup(L"any");
-        entries.push_back(e);
-    }
-    ErrorSlot error;
-    kel_writeEcuOrder(api, L"", entries.data(), static_cast<uint32_t>(entries.size()), &error);
-    ASSERT_FALSE(error) << error->code;
-    for (auto* e : entries) {
-        release_EcuOrderEntry(e);
-    }
+    Order order(
+        {{L"TCM", false}, {L"ECM", false}, {L"GW", false}, {L"DASH", false}, {L"BCM", false}});
+    EXPECT_ENGINE_ERROR(error, 0, kel_writeEcuOrder(api, L"", order.entries.data(), 5, &error));
     EXPECT_EQ(updateAll(),
               (std::vector<std::wstring>{L"TCM:4", L"ECM:4", L"GW:4", L"DASH:4", L"BCM:4"}));
 }
@@ -744,58 +771,9 @@ TEST_F(VehicleUpdateTest, CallsThatCannotStartAreRefusedWhole) {
         kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(names), 2, &unknown, &c));
 }
 
-// What an asynchronous update reports, and the cancel it may trigger.
-struct UpdateWatch : AsyncWatch {
-    std::wstring cancelOn; // cancel once this unit reports this much progress
-    uint32_t cancelAt = 101;
-    std::vector<std::pair<std::wstring, uint32_t>> running; // unit and progress
-    std::vector<uint32_t> overall;
-    std::vector<std::wstring> final;  // target:status of the final report
-    std::vector<int32_t> finalErrors; // their error codes, 0 for none
-    std::vector<std::wstring> finalAfter;
-
-    static void callback(VehicleUpdateResult** results, uint32_t count, bool isFinal,
-                         uint64_t callId, KelError* error, void* context) {
-        auto* self = static_cast<UpdateWatch*>(context);
-        bool cancel = false;
-        {
-            const std::lock_guard lock(self->mutex);
-            for (uint32_t i = 0; i < count; ++i) {
-                const VehicleUpdateResult& r = *results[i];
-                if (isFinal) {
-                    self->final.push_back(std::wstring(r.target) + L":" +
-                                          std::to_wstring(r.status));
-                    self->finalErrors.push_back(r.error != nullptr ? r.error->code : 0);
-                    self->finalAfter.emplace_back(r.versionAfter);
-                    continue;
-                }
-                self->overall.push_back(r.overallProgress);
-                if (r.status == 1) {
-                    self->running.emplace_back(r.target, r.progress);
-                    cancel = cancel || (r.target == self->cancelOn && r.progress >= self->cancelAt);
-                }
-            }
-            self->errorCode = error != nullptr ? error->code : self->errorCode;
-        }
-        release_VehicleUpdateResult_array(results, count);
-        release_KelError(error);
-        self->reported(callId, cancel, isFinal);
-    }
-};
-
 TEST_F(VehicleUpdateTest, ConcurrencyAsynchronousUpdateReportsEachUnitAndTheWholeThenTheList) {
-    kelsim_setAsyncInterval("updateVehicleAsync", 0);
-    publishEcu("ECM", "5432");
-    publishEcu("BCM", "0460");
     UpdateWatch watch;
-    watch.api = api;
-    ErrorSlot error;
-    const uint64_t id = kel_updateVehicleAsync(
-        api, config({}, {{L"ECM_SW", L"5432", L"ECM"}, {L"BCM_SW", L"0460", L"BCM"}}), &error,
-        UpdateWatch::callback, &watch);
-    ASSERT_FALSE(error);
-    ASSERT_NE(id, 0U);
-    ASSERT_TRUE(watch.wait());
+    ASSERT_TRUE(updateAsync(watch));
     const std::lock_guard lock(watch.mutex);
     EXPECT_EQ(watch.errorCode, 0);
     EXPECT_EQ(watch.final,
@@ -812,19 +790,10 @@ TEST_F(VehicleUpdateTest, ConcurrencyAsynchronousUpdateReportsEachUnitAndTheWhol
 }
 
 TEST_F(VehicleUpdateTest, ConcurrencyACancelFinishesTheUnitBeingWrittenAndLeavesTheRest) {
-    kelsim_setAsyncInterval("updateVehicleAsync", 0);
-    publishEcu("ECM", "5432");
-    publishEcu("BCM", "0460");
     UpdateWatch watch;
-    watch.api = api;
     watch.cancelOn = L"BCM";
     watch.cancelAt = 30;
-    ErrorSlot error;
-    kel_updateVehicleAsync(api,
-                           config({}, {{L"ECM_SW", L"5432", L"ECM"}, {L"BCM_SW", L"0460", L"BCM"}}),
-                           &error, UpdateWatch::callback, &watch);
-    ASSERT_FALSE(error);
-    ASSERT_TRUE(watch.wait());
+    ASSERT_TRUE(updateAsync(watch));
     {
         const std::lock_guard lock(watch.mutex);
         EXPECT_EQ(watch.errorCode, 1012);
