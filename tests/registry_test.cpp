@@ -8,6 +8,7 @@
 namespace {
 
 using kel_test::ErrorSlot;
+using kel_test::handleOf;
 
 // The engine object currently behind kel_getTarnApi, observed without keeping it alive.
 // The engine also keeps its local object itself; that hold is let go here, so that
@@ -18,7 +19,7 @@ std::weak_ptr<Varno::Kel_cpp::TarnApi> observeLocalEngine() {
     return engine;
 }
 
-TEST(Registry, SameObjectTwiceIsCountedTwice) {
+TEST(Registry, SameObjectTwiceIsCountedTwiceAndUnknownOrSurplusReleasesAreIgnored) {
     TarnApi* first = kel_getTarnApi();
     TarnApi* second = kel_getTarnApi();
     ASSERT_NE(first, nullptr);
@@ -26,33 +27,21 @@ TEST(Registry, SameObjectTwiceIsCountedTwice) {
     const auto engine = observeLocalEngine();
     ASSERT_EQ(engine.lock().get(), first);
 
+    releaseTarnApi(nullptr);
+    int notAnEngine = 0;
+    releaseTarnApi(reinterpret_cast<TarnApi*>(&notAnEngine));
     releaseTarnApi(first);
     EXPECT_FALSE(engine.expired()) << "one use is still registered";
     releaseTarnApi(second);
     EXPECT_TRUE(engine.expired()) << "the last release drops the registry's reference";
-}
-
-TEST(Registry, UnknownAndSurplusReleasesAreIgnored) {
-    TarnApi* api = kel_getTarnApi();
-    const auto engine = observeLocalEngine();
-    releaseTarnApi(nullptr);
-    int notAnEngine = 0;
-    releaseTarnApi(reinterpret_cast<TarnApi*>(&notAnEngine));
-    EXPECT_FALSE(engine.expired());
-
-    releaseTarnApi(api);
-    EXPECT_TRUE(engine.expired());
-    releaseTarnApi(api); // surplus: no entry any more, no effect
+    releaseTarnApi(second); // surplus: no entry any more, no effect
 }
 
 TEST(Registry, RemoteConnectionsLiveBesideTheLocalEngine) {
     TarnApi* local = kel_getTarnApi();
-    ErrorSlot error;
-    uint64_t handle = 0;
-    kel_getHandle(local, &error, &handle);
-    ASSERT_FALSE(error);
+    const uint64_t handle = handleOf(local);
     ASSERT_NE(handle, 0U);
-
+    ErrorSlot error;
     TarnApi* remote = kel_getRemoteConnectionByHandle(handle, &error);
     ASSERT_FALSE(error);
     ASSERT_NE(remote, nullptr);
@@ -60,9 +49,7 @@ TEST(Registry, RemoteConnectionsLiveBesideTheLocalEngine) {
     EXPECT_EQ(kel_getRemoteConnectionByHandle(handle, &error), remote)
         << "same connection, second use";
 
-    uint64_t remoteHandle = 0;
-    kel_getHandle(remote, &error, &remoteHandle);
-    EXPECT_NE(remoteHandle, handle);
+    EXPECT_NE(handleOf(remote), handle);
 
     // The remote connection shares the vehicle: what the local engine does shows there.
     kel_initialize(local, &error);
@@ -108,9 +95,7 @@ TEST(Registry, LastReleaseMayReenterTheRegistry) {
     ReentrantHandler handler;
     ErrorSlot error;
     kel_registerServerHandler(reinterpret_cast<uintptr_t>(local), &handler, &error);
-    uint64_t handle = 0;
-    kel_getHandle(local, &error, &handle);
-    TarnApi* remote = kel_getRemoteConnectionByHandle(handle, &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(handleOf(local), &error);
     ASSERT_NE(remote, nullptr);
     releaseTarnApi(remote); // the connection ends here and tells the handler
     EXPECT_EQ(handler.calls, 1);
@@ -121,10 +106,7 @@ TEST(Registry, LastReleaseMayReenterTheRegistry) {
 
 TEST(RegistryConcurrency, ManyThreadsShareAndReleaseEngineObjects) {
     TarnApi* local = kel_getTarnApi(); // held throughout, so every thread sees this object
-    ErrorSlot error;
-    uint64_t handle = 0;
-    kel_getHandle(local, &error, &handle);
-    ASSERT_FALSE(error);
+    const uint64_t handle = handleOf(local);
 
     constexpr int threads = 8;
     constexpr int rounds = 400;
