@@ -108,24 +108,22 @@ protected:
     }
 
     std::vector<Entry> defaultOrder() {
-        ErrorSlot error;
         Entries out;
-        kel_createDefaultECUOrder(api, &error, &out.items, &out.count);
-        EXPECT_FALSE(error);
+        EXPECT_ENGINE_ERROR(error, 0,
+                            kel_createDefaultECUOrder(api, &error, &out.items, &out.count));
         return entriesOf(out);
     }
     // The call's error code, 0 on success; `out` receives the result.
     int32_t read(const wchar_t* path, std::vector<Entry>& out) {
-        ErrorSlot error;
         Entries list;
-        kel_readEcuOrder(api, path, &error, &list.items, &list.count);
+        const int32_t code = kel_test::errorCodeOf(
+            [&](KelError** e) { kel_readEcuOrder(api, path, e, &list.items, &list.count); });
         out = entriesOf(list);
-        return error ? error->code : 0;
+        return code;
     }
     int32_t write(const wchar_t* path, COrder& order) {
-        ErrorSlot error;
-        kel_writeEcuOrder(api, path, order.items(), order.count(), &error);
-        return error ? error->code : 0;
+        return kel_test::errorCodeOf(
+            [&](KelError** e) { kel_writeEcuOrder(api, path, order.items(), order.count(), e); });
     }
     int32_t filter(COrder& order, const Names& targets, Names& out,
                    std::wstring* details = nullptr) {
@@ -141,26 +139,25 @@ protected:
         return error ? error->code : 0;
     }
     int32_t addMissing(COrder& order, std::vector<Entry>& out) {
-        ErrorSlot error;
         Entries list;
-        kel_addMissingTargetsToEcuOrder(api, order.items(), order.count(), &error, &list.items,
-                                        &list.count);
+        const int32_t code = kel_test::errorCodeOf([&](KelError** e) {
+            kel_addMissingTargetsToEcuOrder(api, order.items(), order.count(), e, &list.items,
+                                            &list.count);
+        });
         out = entriesOf(list);
-        return error ? error->code : 0;
+        return code;
     }
     void writeFile(const wchar_t* path, const std::string& text) {
-        ErrorSlot error;
         uint32_t written = 0;
-        kel_writeFile(api, path, reinterpret_cast<const uint8_t*>(text.data()),
-                      static_cast<uint32_t>(text.size()), 0, 1, &error, &written);
-        ASSERT_FALSE(error) << (error ? error->code : 0);
+        EXPECT_ENGINE_ERROR(error, 0,
+                            kel_writeFile(api, path, reinterpret_cast<const uint8_t*>(text.data()),
+                                          static_cast<uint32_t>(text.size()), 0, 1, &error,
+                                          &written));
     }
     std::string readFile(const wchar_t* path) {
-        ErrorSlot error;
         void* data = nullptr;
         uint32_t length = 0;
-        kel_readFile(api, path, 0, 0, 0, &error, &data, &length);
-        EXPECT_FALSE(error);
+        EXPECT_ENGINE_ERROR(error, 0, kel_readFile(api, path, 0, 0, 0, &error, &data, &length));
         std::string text(static_cast<const char*>(data), length);
         release_Memory(data);
         return text;
@@ -253,11 +250,8 @@ TEST_F(EcuOrderTest, AnOrderHandedInNamesEachTargetOnce) {
         EXPECT_EQ(write(L"exchange/bad-order.txt", *order), 2101);
     }
     // What a line could not hold unchanged is refused before anything is written.
-    const std::vector<Entry> unwritable = {{L"ECM", L"Power\ttrain", 1},
-                                           {L"ECM", L" Powertrain", 1},
-                                           {L"#ECM", L"Powertrain", 1},
-                                           {L"ECM\n", L"Powertrain", 1}};
-    for (const auto& e : unwritable) {
+    for (const Entry& e : {Entry{L"ECM", L"Power\ttrain", 1}, Entry{L"ECM", L" Powertrain", 1},
+                           Entry{L"#ECM", L"Powertrain", 1}, Entry{L"ECM\n", L"Powertrain", 1}}) {
         COrder order({&e});
         EXPECT_EQ(write(L"exchange/unwritable.txt", order), 2101) << e.target << "/" << e.bus;
     }
@@ -291,12 +285,14 @@ TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactly) {
 }
 
 TEST_F(EcuOrderTest, TheVehiclesOrderFileStandsForTheDefaultOrderUntilWritten) {
-    ErrorSlot error;
-    wchar_t* path = nullptr;
-    kel_getEcuOrderFilePath(api, &error, &path);
-    ASSERT_FALSE(error);
-    EXPECT_STREQ(path, L"configuration/ecu-order.txt");
-    release_Memory(path);
+    const auto orderFilePath = [&] {
+        wchar_t* path = nullptr;
+        EXPECT_ENGINE_ERROR(error, 0, kel_getEcuOrderFilePath(api, &error, &path));
+        std::wstring text = path != nullptr ? path : L"<null>";
+        release_Memory(path);
+        return text;
+    };
+    EXPECT_EQ(orderFilePath(), L"configuration/ecu-order.txt");
 
     std::vector<Entry> current;
     ASSERT_EQ(read(L"", current), 0);
@@ -314,10 +310,7 @@ TEST_F(EcuOrderTest, TheVehiclesOrderFileStandsForTheDefaultOrderUntilWritten) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A"}],
         "ecuOrder": {"file": "exchange/vehicle order.txt"}})"),
               0);
-    kel_getEcuOrderFilePath(api, &error, &path);
-    ASSERT_FALSE(error);
-    EXPECT_STREQ(path, L"exchange/vehicle order.txt");
-    release_Memory(path);
+    EXPECT_EQ(orderFilePath(), L"exchange/vehicle order.txt");
 }
 
 TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
