@@ -359,31 +359,14 @@ TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
     EXPECT_EQ(read(L"exchange/huge.txt", back), 2100) << "over 1 MiB";
 }
 
-TEST_F(EcuOrderTest, OrderFilesStayInsideTheSandbox) {
+// Every way out of the sandbox is tried on both calls with the other file exports; a
+// public directory itself is no order file.
+TEST_F(EcuOrderTest, APublicDirectoryIsNoOrderFile) {
     const Entry ecm{L"ECM", L"Powertrain CAN", 0x7E0};
     COrder order({&ecm});
-    struct Case {
-        const wchar_t* path;
-        int32_t read;
-        int32_t write;
-    };
-    const std::vector<Case> cases = {
-        {L"exchange/../../escaped.txt", 1606, 1606},
-        {L"/tmp/escaped.txt", 1604, 1604},
-        {L"C:\\escaped.txt", 1605, 1605},
-        {L"\\\\server\\share\\x.txt", 1603, 1603},
-        {L"nowhere/escaped.txt", 1607, 1607},
-        {L"exchange", 1611, 1613},
-    };
-    for (const auto& c : cases) {
-        std::vector<Entry> out;
-        EXPECT_EQ(read(c.path, out), c.read) << c.path;
-        EXPECT_EQ(write(c.path, order), c.write) << c.path;
-    }
-    wchar_t root[4096];
-    ASSERT_GT(kelsim_dataRoot(root, 4096), 0);
-    EXPECT_FALSE(
-        std::filesystem::exists(std::filesystem::path(root).parent_path() / "escaped.txt"));
+    std::vector<Entry> out;
+    EXPECT_EQ(read(L"exchange", out), 1611);
+    EXPECT_EQ(write(L"exchange", order), 1613);
 }
 
 } // namespace
