@@ -132,8 +132,10 @@ protected:
 };
 
 // Trees up to the bound reach the engine whole; one level more, or the hundred thousand
-// that exhausted the stack, is malformed input and the engine is not called.
-TEST_F(CheckedNesting, TheBoundIsExactAndDeeperTreesAreMalformedNotACrash) {
+// that exhausted the stack, is malformed input and the engine is not called. The bound is
+// on nesting, not on the number of records: many deep siblings pass, and a rejected call
+// leaves nothing behind for the next one.
+TEST_F(CheckedNesting, TheBoundIsExactPerBranchAndDeeperTreesAreMalformedNotACrash) {
     for (const bool python : {false, true}) {
         SCOPED_TRACE(python ? "py_call_checked" : "kel_call_checked");
         kelsim_reset();
@@ -152,32 +154,9 @@ TEST_F(CheckedNesting, TheBoundIsExactAndDeeperTreesAreMalformedNotACrash) {
         EXPECT_EQ(errorOf(true, 133, directoryChain(depth)), KEL_ERROR_MALFORMED_INPUT) << depth;
     }
     EXPECT_EQ(kelsim_callCount("createDirectory"), 1U);
-}
-
-// The bound is on nesting, not on the number of records: many deep siblings pass, and a
-// rejected call leaves nothing behind for the next one.
-TEST_F(CheckedNesting, DepthIsPerBranchAndStartsAfreshEachCall) {
-    EXPECT_EQ(errorOf(false, 262, parameterChains(false, 1, maxRecordDepth + 1)),
-              KEL_ERROR_MALFORMED_INPUT);
     EXPECT_NE(errorOf(false, 262, parameterChains(false, 40, maxRecordDepth)),
               KEL_ERROR_MALFORMED_INPUT);
     EXPECT_EQ(recordedParameters(), 40 * std::size_t{maxRecordDepth});
-}
-
-TEST(StreamNesting, OnlyBoundedStreamsLimitTheDepth) {
-    const Bytes deep = parameterChains(false, 1, maxRecordDepth + 8);
-    const std::size_t header = 12; // two empty strings and the parameter count
-    std::vector<std::shared_ptr<Varno::Kel_cpp::ParameterInput>> parameters(1);
-
-    kel::OTXStream plain(deep.data() + header, true, false, true);
-    plain.read(parameters[0]);
-    EXPECT_EQ(plain.position, deep.size() - header) << "the plain form reads on unchecked";
-    EXPECT_EQ(plain.depth, 0U);
-
-    kel::OTXStream bounded(deep.data() + header, true, false, true);
-    bounded.bounded = true;
-    bounded.size = static_cast<uint32_t>(deep.size() - header);
-    EXPECT_THROW(bounded.read(parameters[0]), kel::MalformedInput);
 }
 
 // ---- invalid text ----------------------------------------------------------------
