@@ -201,7 +201,6 @@ struct UpdateWatch : AsyncWatch {
     std::vector<uint32_t> overall;
     std::vector<std::wstring> final;  // target:status of the final report
     std::vector<int32_t> finalErrors; // their error codes, 0 for none
-    std::vector<std::wstring> finalAfter;
 
     static void callback(VehicleUpdateResult** results, uint32_t count, bool isFinal,
                          uint64_t callId, KelError* error, void* context) {
@@ -215,7 +214,6 @@ struct UpdateWatch : AsyncWatch {
                     self->final.push_back(std::wstring(r.target) + L":" +
                                           std::to_wstring(r.status));
                     self->finalErrors.push_back(r.error != nullptr ? r.error->code : 0);
-                    self->finalAfter.emplace_back(r.versionAfter);
                     continue;
                 }
                 self->overall.push_back(r.overallProgress);
@@ -800,7 +798,6 @@ TEST_F(VehicleUpdateTest, ConcurrencyACancelFinishesTheUnitBeingWrittenAndLeaves
         EXPECT_EQ(watch.final,
                   (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:3", L"ECM:3", L"TCM:3"}));
         EXPECT_EQ(watch.finalErrors, (std::vector<int32_t>{0, 0, 1012, 1012, 1012}));
-        EXPECT_EQ(watch.finalAfter[1], L"0460");
         EXPECT_EQ(watch.running.back(), (std::pair<std::wstring, uint32_t>{L"BCM", 30}));
     }
     EXPECT_EQ(version(L"BCM"), L"0460") << "finished, not left erased";
