@@ -6,7 +6,6 @@
 
 #include <cstring>
 #include <filesystem>
-#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -46,17 +45,23 @@ Names targetsOf(const Entries& list) {
     return out;
 }
 
-// An order as C records on the library's heap, as a caller hands one in; a null Entry
-// pointer stands for a NULL element.
+// An order as C records on the library's heap, as a caller hands one in; `withNull` adds
+// a NULL element at the end.
 class COrder {
 public:
-    explicit COrder(std::initializer_list<const Entry*> entries) { add(entries); }
-    explicit COrder(const std::vector<Entry>& entries) {
-        std::vector<const Entry*> all;
+    explicit COrder(const std::vector<Entry>& entries, bool withNull = false) {
         for (const auto& e : entries) {
-            all.push_back(&e);
+            auto* c = zeroed<EcuOrderEntry>();
+            c->target = duplicate_WString(e.target.c_str());
+            c->bus = duplicate_WString(e.bus.c_str());
+            c->address = e.address;
+            c->gateway = e.gateway ? 1 : 0;
+            c->optional = e.optional ? 1 : 0;
+            items_.push_back(c);
         }
-        add(all);
+        if (withNull) {
+            items_.push_back(nullptr);
+        }
     }
     COrder(const COrder&) = delete;
     COrder& operator=(const COrder&) = delete;
@@ -69,22 +74,6 @@ public:
     uint32_t count() const { return static_cast<uint32_t>(items_.size()); }
 
 private:
-    template <class Pointers>
-    void add(const Pointers& entries) {
-        for (const auto* e : entries) {
-            if (e == nullptr) {
-                items_.push_back(nullptr);
-                continue;
-            }
-            auto* c = zeroed<EcuOrderEntry>();
-            c->target = duplicate_WString(e->target.c_str());
-            c->bus = duplicate_WString(e->bus.c_str());
-            c->address = e->address;
-            c->gateway = e->gateway ? 1 : 0;
-            c->optional = e->optional ? 1 : 0;
-            items_.push_back(c);
-        }
-    }
     std::vector<EcuOrderEntry*> items_;
 };
 
@@ -207,7 +196,7 @@ TEST_F(EcuOrderTest, FilteringKeepsTheOrdersOrderAndKnowsAliases) {
 
     // An entry named by an alias is found by the unit's name too.
     const Entry byAlias{L"Gateway", L"Diagnostic CAN", 1808, true, false};
-    COrder aliased({&byAlias});
+    COrder aliased({byAlias});
     ASSERT_EQ(filter(aliased, {L"GW"}, kept), 0);
     EXPECT_EQ(kept, (Names{L"Gateway"}));
 }
@@ -238,9 +227,9 @@ TEST_F(EcuOrderTest, CompletingAnOrderAppendsExactlyTheMissingUnitsInDefaultOrde
 TEST_F(EcuOrderTest, AnOrderHandedInNamesEachTargetOnce) {
     const Entry ecm{L"ECM", L"Powertrain CAN", 0x7E0};
     const Entry unnamed{L"", L"Powertrain CAN", 0x7E1};
-    COrder twice({&ecm, &ecm});
-    COrder withNull({&ecm, nullptr});
-    COrder withEmpty({&unnamed});
+    COrder twice({ecm, ecm});
+    COrder withNull({ecm}, true);
+    COrder withEmpty({unnamed});
     std::vector<COrder*> bad = {&twice, &withNull, &withEmpty};
     for (auto* order : bad) {
         std::vector<Entry> out;
@@ -252,7 +241,7 @@ TEST_F(EcuOrderTest, AnOrderHandedInNamesEachTargetOnce) {
     // What a line could not hold unchanged is refused before anything is written.
     for (const Entry& e : {Entry{L"ECM", L"Power\ttrain", 1}, Entry{L"ECM", L" Powertrain", 1},
                            Entry{L"#ECM", L"Powertrain", 1}, Entry{L"ECM\n", L"Powertrain", 1}}) {
-        COrder order({&e});
+        COrder order({e});
         EXPECT_EQ(write(L"exchange/unwritable.txt", order), 2101) << e.target << "/" << e.bus;
     }
     std::vector<Entry> out;
@@ -363,7 +352,7 @@ TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
 // public directory itself is no order file.
 TEST_F(EcuOrderTest, APublicDirectoryIsNoOrderFile) {
     const Entry ecm{L"ECM", L"Powertrain CAN", 0x7E0};
-    COrder order({&ecm});
+    COrder order({ecm});
     std::vector<Entry> out;
     EXPECT_EQ(read(L"exchange", out), 1611);
     EXPECT_EQ(write(L"exchange", order), 1613);

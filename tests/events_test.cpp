@@ -15,6 +15,7 @@
 namespace {
 
 using kel_test::EngineTest;
+using kel_test::errorCodeOf;
 using kel_test::ErrorSlot;
 using kel_test::handleOf;
 
@@ -427,23 +428,17 @@ TEST_F(EventsConcurrency, ProducersAndOneConsumerPerChannelLoseAndRepeatNothing)
     }
     threads.emplace_back([&] {
         for (int32_t i = 0; i < lockRounds; ++i) {
-            KelError* e = nullptr;
             uint64_t lockId = 0;
-            kel_lock(remote, &e, &lockId);
-            if (e == nullptr) {
-                kel_unlock(remote, lockId, &e);
-            }
-            if (e != nullptr) {
+            if (errorCodeOf([&](KelError** e) { kel_lock(remote, e, &lockId); }) != 0 ||
+                errorCodeOf([&](KelError** e) { kel_unlock(remote, lockId, e); }) != 0) {
                 ++failures;
-                release_KelError(e);
             }
         }
     });
 
     std::vector<std::vector<Event>> received(channels.size());
-    std::vector<std::thread> consumers;
     for (size_t c = 0; c < channels.size(); ++c) {
-        consumers.emplace_back([&, c] {
+        threads.emplace_back([&, c] {
             const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(60);
             while (received[c].size() < expected && std::chrono::steady_clock::now() < deadline) {
                 KelError* e = nullptr;
@@ -454,20 +449,14 @@ TEST_F(EventsConcurrency, ProducersAndOneConsumerPerChannelLoseAndRepeatNothing)
                     release_KelError(e);
                     return;
                 }
-                if (report->eventCount > 7) {
-                    ++failures;
-                }
-                for (auto& event : consume(report)) {
-                    received[c].push_back(std::move(event));
-                }
+                failures += report->eventCount > 7 ? 1 : 0;
+                const auto events = consume(report);
+                received[c].insert(received[c].end(), events.begin(), events.end());
                 std::this_thread::yield();
             }
         });
     }
     for (auto& t : threads) {
-        t.join();
-    }
-    for (auto& t : consumers) {
         t.join();
     }
     releaseTarnApi(remote);
