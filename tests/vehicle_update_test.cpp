@@ -653,14 +653,13 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     const auto order = unitsTalkedTo(monitor, &counts, &largest);
     EXPECT_EQ(order, (std::vector<std::wstring>{L"BCM", L"ECM"}));
     EXPECT_EQ(largest, 502U) << "blocks of 500 bytes after 36 and the counter";
-    EXPECT_EQ(counts.count(L"TCM") + counts.count(L"GW") + counts.count(L"DASH"), 0U);
 
     EXPECT_EQ(version(L"ECM"), L"5440");
     EXPECT_EQ(version(L"BCM"), L"0460");
     EXPECT_EQ(version(L"TCM"), L"0830");
     EXPECT_TRUE(lastUpdateSucceeded());
-    const auto stored = listed(kel_getUpdatePackages);
-    EXPECT_EQ(stored, (std::vector<std::wstring>{L"BCM_SW-0460:2", L"ECM_SW-5440:2"}));
+    EXPECT_EQ(listed(kel_getUpdatePackages),
+              (std::vector<std::wstring>{L"BCM_SW-0460:2", L"ECM_SW-5440:2"}));
 
     // Done: a new config finds nothing newer.
     EXPECT_FALSE(updatesOnBroker());
