@@ -172,15 +172,16 @@ VehicleUpdateConfig* config(const std::vector<std::wstring>& targets,
     return c;
 }
 
-// ECU order entries as a caller hands them in: a target and whether it is optional.
+// ECU order entries as a caller hands them in, the `optional` ones marked so.
 struct Order {
     std::vector<EcuOrderEntry*> entries;
-    explicit Order(std::initializer_list<std::pair<const wchar_t*, bool>> targets) {
-        for (const auto& [target, optional] : targets) {
+    explicit Order(const std::vector<std::wstring>& targets,
+                   const std::set<std::wstring>& optional = {}) {
+        for (const auto& target : targets) {
             auto* e = zeroed<EcuOrderEntry>();
             e->target = dup(target);
             e->bus = dup(L"");
-            e->optional = optional ? 1 : 0;
+            e->optional = optional.count(target) != 0 ? 1 : 0;
             entries.push_back(e);
         }
     }
@@ -696,12 +697,7 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
     publishEcu("BCM", "0460");
     publishEcu("GW", "0200");
     publishEcu("TCM", "0830");
-    Order order({{L"ECM", false},
-                 {L"TRAILER", true},
-                 {L"TCM", false},
-                 {L"GW", false},
-                 {L"ROOF", false},
-                 {L"BCM", false}});
+    Order order({L"ECM", L"TRAILER", L"TCM", L"GW", L"ROOF", L"BCM"}, {L"TRAILER"});
     const auto perform = [&](VehicleUpdateConfig* c) {
         auto out = std::make_unique<Results>();
         ErrorSlot error;
@@ -749,8 +745,7 @@ TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne
     EXPECT_EQ(updateAll(),
               (std::vector<std::wstring>{L"GW:4", L"BCM:4", L"DASH:4", L"ECM:4", L"TCM:4"}));
 
-    Order order(
-        {{L"TCM", false}, {L"ECM", false}, {L"GW", false}, {L"DASH", false}, {L"BCM", false}});
+    Order order({L"TCM", L"ECM", L"GW", L"DASH", L"BCM"});
     EXPECT_ENGINE_ERROR(error, 0, kel_writeEcuOrder(api, L"", order.entries.data(), 5, &error));
     EXPECT_EQ(updateAll(),
               (std::vector<std::wstring>{L"TCM:4", L"ECM:4", L"GW:4", L"DASH:4", L"BCM:4"}));
