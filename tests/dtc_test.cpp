@@ -46,15 +46,21 @@ const ReadDtcResult* find(const DtcLists& list, const wchar_t* target) {
 }
 
 using Dtcs = EngineTest;
+using kel_test::fetch;
+
+std::unique_ptr<DtcLists> read(TarnApi* api, std::vector<const wchar_t*> names,
+                               DtcReadConfig* filter = nullptr, bool supported = false) {
+    auto* const call = supported ? kel_readSupportedDtcs : kel_readDtcs;
+    return fetch<DtcLists>([&](auto... out) {
+        call(api, const_cast<wchar_t**>(names.data()), static_cast<uint32_t>(names.size()), filter,
+             out...);
+    });
+}
 
 TEST_F(Dtcs, ReadGivesTheStoredDtcsWithTheirTrees) {
-    ErrorSlot error;
-    DtcLists out;
-    const wchar_t* names[] = {L"ECM", L"GW"};
-    kel_readDtcs(api, const_cast<wchar_t**>(names), 2, nullptr, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(out.count, 2U);
-    const ReadDtcResult& ecm = *out.items[0];
+    const auto out = read(api, {L"ECM", L"GW"});
+    ASSERT_EQ(out->count, 2U);
+    const ReadDtcResult& ecm = *out->items[0];
     EXPECT_EQ(codesOf(ecm), (std::vector<std::wstring>{L"P0301", L"P2463"}));
     EXPECT_EQ(ecm.value, 2) << "a stored-DTC count, which only readDtcs has";
     const DtcResult& misfire = *ecm.dtcs[0];
@@ -69,26 +75,21 @@ TEST_F(Dtcs, ReadGivesTheStoredDtcsWithTheirTrees) {
     ASSERT_EQ(misfire.specialDataGroupCount, 2U);
     EXPECT_STREQ(misfire.specialDataGroups[0]->items[0]->itemText2, L"23");
     EXPECT_EQ(ecm.dtcs[1]->specialDataGroupCount, 0U);
-    EXPECT_EQ(codesOf(*out.items[1]), (std::vector<std::wstring>{L"U0121"}));
+    EXPECT_EQ(codesOf(*out->items[1]), (std::vector<std::wstring>{L"U0121"}));
 
     // A config filters by status mask and leaves out the data not asked for.
-    DtcLists masked;
-    kel_readDtcs(api, const_cast<wchar_t**>(names), 1, config(0x01, true, false, false), &error,
-                 &masked.items, &masked.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(masked.count, 1U);
-    EXPECT_EQ(codesOf(*masked.items[0]), (std::vector<std::wstring>{L"P0301"}))
+    const auto masked = read(api, {L"ECM"}, config(0x01, true, false, false));
+    ASSERT_EQ(masked->count, 1U);
+    EXPECT_EQ(codesOf(*masked->items[0]), (std::vector<std::wstring>{L"P0301"}))
         << "status mask 0x01 keeps the DTC whose test fails now";
-    EXPECT_EQ(masked.items[0]->dtcs[0]->parameterCount1, 3U);
-    EXPECT_EQ(masked.items[0]->dtcs[0]->parameterCount2, 0U) << "extended data not asked for";
-    EXPECT_EQ(masked.items[0]->dtcs[0]->specialDataGroupCount, 0U);
+    EXPECT_EQ(masked->items[0]->dtcs[0]->parameterCount1, 3U);
+    EXPECT_EQ(masked->items[0]->dtcs[0]->parameterCount2, 0U) << "extended data not asked for";
+    EXPECT_EQ(masked->items[0]->dtcs[0]->specialDataGroupCount, 0U);
 
     // No targets: every unit; the silent one fails on its own and the call succeeds.
-    DtcLists all;
-    kel_readDtcs(api, nullptr, 0, nullptr, &error, &all.items, &all.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(all.count, 6U);
-    const ReadDtcResult* acc = find(all, L"ACC");
+    const auto all = read(api, {});
+    ASSERT_EQ(all->count, 6U);
+    const ReadDtcResult* acc = find(*all, L"ACC");
     ASSERT_NE(acc, nullptr);
     ASSERT_NE(acc->error, nullptr);
     EXPECT_EQ(acc->error->code, 1010);
@@ -96,63 +97,44 @@ TEST_F(Dtcs, ReadGivesTheStoredDtcsWithTheirTrees) {
     EXPECT_STREQ(acc->error->mvciError->codeText, L"PDU_ERR_EVT_NOT_RESPONDING");
     EXPECT_EQ(acc->dtcCount, 0U);
     EXPECT_NE(acc->status, 0);
-}
 
-TEST_F(Dtcs, SupportedDtcsListEveryCodeAndLeaveValueZero) {
-    ErrorSlot error;
-    DtcLists out;
-    const wchar_t* names[] = {L"ECM", L"Nope"};
-    kel_readSupportedDtcs(api, const_cast<wchar_t**>(names), 2, config(0x01, false, false, false),
-                          &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(out.count, 2U);
-    // P0602 comes with the ECM's programming: stored while an update is incomplete.
-    EXPECT_EQ(codesOf(*out.items[0]),
+    // Supported DTCs list every code, the mask aside, and leave the count 0. P0602 comes
+    // with the ECM's programming: stored while an update is incomplete.
+    const auto supported = read(api, {L"ECM", L"Nope"}, config(0x01, false, false, false), true);
+    ASSERT_EQ(supported->count, 2U);
+    EXPECT_EQ(codesOf(*supported->items[0]),
               (std::vector<std::wstring>{L"P0301", L"P2463", L"P0087", L"P0401", L"P0602"}));
-    EXPECT_EQ(out.items[0]->status, 0);
-    ASSERT_NE(out.items[1]->error, nullptr);
-    EXPECT_EQ(out.items[1]->error->code, 1011);
+    EXPECT_EQ(supported->items[0]->status, 0);
+    ASSERT_NE(supported->items[1]->error, nullptr);
+    EXPECT_EQ(supported->items[1]->error->code, 1011);
 }
 
-TEST_F(Dtcs, ClearAllEmptiesTheFaultMemoryOfTheGivenTargets) {
-    ErrorSlot error;
-    ClearLists cleared;
+TEST_F(Dtcs, ClearsEmptyTheFaultMemoryOfTheGivenTargetsOrCodes) {
     const wchar_t* names[] = {L"ECM", L"ACC"};
-    kel_clearAllDtcs(api, const_cast<wchar_t**>(names), 2, &error, &cleared.items, &cleared.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(cleared.count, 2U);
-    EXPECT_STREQ(cleared.items[0]->target, L"ECM");
-    EXPECT_EQ(cleared.items[0]->status, 0);
-    EXPECT_EQ(cleared.items[0]->error, nullptr);
-    ASSERT_NE(cleared.items[1]->error, nullptr);
-    EXPECT_EQ(cleared.items[1]->error->code, 1010);
+    const auto cleared = fetch<ClearLists>(
+        [&](auto... out) { kel_clearAllDtcs(api, const_cast<wchar_t**>(names), 2, out...); });
+    ASSERT_EQ(cleared->count, 2U);
+    EXPECT_STREQ(cleared->items[0]->target, L"ECM");
+    EXPECT_EQ(cleared->items[0]->status, 0);
+    EXPECT_EQ(cleared->items[0]->error, nullptr);
+    ASSERT_NE(cleared->items[1]->error, nullptr);
+    EXPECT_EQ(cleared->items[1]->error->code, 1010);
 
-    DtcLists after;
-    kel_readDtcs(api, nullptr, 0, nullptr, &error, &after.items, &after.count);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(find(after, L"ECM")->dtcCount, 0U);
-    EXPECT_EQ(find(after, L"ECM")->dtcs, nullptr);
-    EXPECT_EQ(find(after, L"TCM")->dtcCount, 1U) << "other targets keep their DTCs";
-
-    DtcLists supported;
-    kel_readSupportedDtcs(api, nullptr, 0, nullptr, &error, &supported.items, &supported.count);
-    EXPECT_EQ(find(supported, L"ECM")->dtcCount, 5U)
+    const auto after = read(api, {});
+    EXPECT_EQ(find(*after, L"ECM")->dtcCount, 0U);
+    EXPECT_EQ(find(*after, L"ECM")->dtcs, nullptr);
+    EXPECT_EQ(find(*after, L"TCM")->dtcCount, 1U) << "other targets keep their DTCs";
+    EXPECT_EQ(find(*read(api, {}, nullptr, true), L"ECM")->dtcCount, 5U)
         << "clearing does not change what is supported";
-}
 
-TEST_F(Dtcs, ClearSpecificRemovesOnlyTheGivenCodes) {
-    ErrorSlot error;
-    ClearLists cleared;
+    // A specific clear removes only the given codes; an unknown one is no error.
+    kelsim_reloadVehicle();
     const uint32_t codes[] = {0x030100, 0x123456};
-    kel_clearSpecificDtcs(api, L"ECM", codes, 2, &error, &cleared.items, &cleared.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(cleared.count, 1U);
-    EXPECT_EQ(cleared.items[0]->error, nullptr);
-
-    DtcLists after;
-    const wchar_t* names[] = {L"ECM"};
-    kel_readDtcs(api, const_cast<wchar_t**>(names), 1, nullptr, &error, &after.items, &after.count);
-    EXPECT_EQ(codesOf(*after.items[0]), (std::vector<std::wstring>{L"P2463"}));
+    const auto specific = fetch<ClearLists>(
+        [&](auto... out) { kel_clearSpecificDtcs(api, L"ECM", codes, 2, out...); });
+    ASSERT_EQ(specific->count, 1U);
+    EXPECT_EQ(specific->items[0]->error, nullptr);
+    EXPECT_EQ(codesOf(*read(api, {L"ECM"})->items[0]), (std::vector<std::wstring>{L"P2463"}));
 }
 
 using VehicleConcurrency = EngineTest;

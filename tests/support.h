@@ -41,6 +41,29 @@ struct List {
     ~List() { Release(items, count); }
 };
 
+// The list that `call(&error, &items, &count)` hands out; the call must succeed.
+template <class L, class Call>
+std::unique_ptr<L> fetch(Call call) {
+    auto out = std::make_unique<L>();
+    ErrorSlot error;
+    call(&error, &out->items, &out->count);
+    EXPECT_FALSE(error) << "error " << (error ? error->code : 0);
+    return out;
+}
+
+template <class R>
+using Owned = std::unique_ptr<R, void (*)(R*)>;
+
+// The record that `call(&error, &record)` hands out, freed by `release`; the call must succeed.
+template <class R, class Call>
+Owned<R> fetchRecord(void (*release)(R*), Call call) {
+    R* out = nullptr;
+    ErrorSlot error;
+    call(&error, &out);
+    EXPECT_FALSE(error) << "error " << (error ? error->code : 0);
+    return {out, release};
+}
+
 // A path in the temporary folder that no other test uses, for a data root or scratch
 // folder of its own; not created. Kept short: the sandbox tests nest deep paths in it.
 inline std::filesystem::path freshTempPath(const std::string& prefix) {
