@@ -21,6 +21,7 @@ namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::fetch;
 using kel_test::List;
 using kel_test::zeroed;
 using namespace std::chrono_literals;
@@ -228,14 +229,10 @@ TEST_F(ServicesTest, NegativeResponsesCarryTheirBytes) {
     EXPECT_EQ(acc->items[0]->status, 2);
     EXPECT_EQ(acc->items[0]->error->code, 1010);
     EXPECT_EQ(acc->items[0]->responseCount, 0U);
-
-    // An unknown target fails the call.
-    ErrorSlot error;
     Results none;
-    kel_executeService(api, L"Nope", silent.list(), silent.count(), &error, &none.items,
-                       &none.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1011);
+    EXPECT_ENGINE_ERROR(unknown, 1011,
+                        kel_executeService(api, L"Nope", silent.list(), silent.count(), &unknown,
+                                           &none.items, &none.count));
 }
 
 TEST_F(ServicesTest, SessionAndSecurityRulesHold) {
@@ -295,20 +292,19 @@ TEST_F(ServicesTest, ThreeWrongKeysLockTheLevelForTheDelay) {
         ASSERT_NE(s, Bytes(4, 0));
         ErrorSlot keyError;
         kel_sendKey(api, wrong.data(), 4, &keyError);
-        ASSERT_TRUE(keyError);
-        EXPECT_EQ(keyError->code, 1102);
-        EXPECT_EQ(keyError->subCode, expected);
+        EXPECT_EQ(keyError ? std::make_pair(keyError->code, keyError->subCode)
+                           : std::make_pair(0, 0),
+                  std::make_pair(1102, expected));
     }
-    ErrorSlot locked;
-    seed(locked);
-    ASSERT_TRUE(locked);
-    EXPECT_EQ(locked->subCode, 0x37) << "requiredTimeDelayNotExpired";
+    const auto seedRefusal = [&] {
+        ErrorSlot e;
+        seed(e);
+        return e ? e->subCode : 0;
+    };
+    EXPECT_EQ(seedRefusal(), 0x37) << "requiredTimeDelayNotExpired";
     kelsim_advanceClock(9000);
-    ErrorSlot stillLocked;
     enterSession(L"Extended"); // keeps the session: it is not the lockout that ends
-    seed(stillLocked);
-    ASSERT_TRUE(stillLocked);
-    EXPECT_EQ(stillLocked->subCode, 0x37);
+    EXPECT_EQ(seedRefusal(), 0x37);
 
     kelsim_advanceClock(1001);
     ErrorSlot fine;
@@ -357,22 +353,19 @@ TEST_F(ServicesTest, AWrittenValueIsReadBackByServiceAndIdentification) {
     const auto byService = run(read);
     EXPECT_EQ(responseShape(*byService->items[0]), L"Identifier=F190,VIN=WVWZZZ1KZ8W999999");
 
-    ErrorSlot error;
-    List<ReadDataResult, release_ReadDataResult_array> values;
-    const wchar_t* ecm[] = {L"ECM"};
-    kel_readIdentificationValues(api, const_cast<wchar_t**>(ecm), 1, &error, &values.items,
-                                 &values.count);
-    ASSERT_FALSE(error);
-    ASSERT_GE(values.items[0]->parameterCount, 1U);
-    EXPECT_STREQ(values.items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
-    List<ReadDataResult, release_ReadDataResult_array> byName;
+    using Data = List<ReadDataResult, release_ReadDataResult_array>;
+    wchar_t* ecm[] = {const_cast<wchar_t*>(L"ECM")};
+    const auto values =
+        fetch<Data>([&](auto... out) { kel_readIdentificationValues(api, ecm, 1, out...); });
+    ASSERT_GE(values->items[0]->parameterCount, 1U);
+    EXPECT_STREQ(values->items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
     const wchar_t* ids[] = {L"VIN", L"IdleSpeedTarget"};
-    kel_readDataByIdentifiers(api, L"ECM", const_cast<wchar_t**>(ids), 2, &error, &byName.items,
-                              &byName.count);
-    ASSERT_FALSE(error);
-    EXPECT_STREQ(byName.items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
-    EXPECT_STREQ(byName.items[0]->parameters[1]->text1, L"800");
-    EXPECT_STREQ(byName.items[0]->parameters[1]->text2, L"1/min");
+    const auto byName = fetch<Data>([&](auto... out) {
+        kel_readDataByIdentifiers(api, L"ECM", const_cast<wchar_t**>(ids), 2, out...);
+    });
+    EXPECT_STREQ(byName->items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
+    EXPECT_STREQ(byName->items[0]->parameters[1]->text1, L"800");
+    EXPECT_STREQ(byName->items[0]->parameters[1]->text2, L"1/min");
 
     // A scaled value: 900 1/min at 0.25 per bit is 3600; the unit refuses one out of range.
     Inputs idle;
@@ -388,10 +381,9 @@ TEST_F(ServicesTest, AWrittenValueIsReadBackByServiceAndIdentification) {
 
     // The fault memory is the same too: cleared by service, gone for readDtcs.
     EXPECT_EQ(one(L"ClearDiagnosticInformation").first, 0);
-    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-    kel_readDtcs(api, const_cast<wchar_t**>(ecm), 1, nullptr, &error, &dtcs.items, &dtcs.count);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(dtcs.items[0]->dtcCount, 0U);
+    const auto dtcs = fetch<List<ReadDtcResult, release_ReadDtcResult_array>>(
+        [&](auto... out) { kel_readDtcs(api, ecm, 1, nullptr, out...); });
+    EXPECT_EQ(dtcs->items[0]->dtcCount, 0U);
 }
 
 TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
@@ -415,9 +407,7 @@ TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
     EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000003")}).second,
               0x7F)
         << "released: back in the default session";
-    kel_releaseVehicleUnlock(api, value, &error);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1104);
+    EXPECT_ENGINE_ERROR(twice, 1104, kel_releaseVehicleUnlock(api, value, &twice));
 
     // With services given, those run; a failing one gives no unlock.
     Inputs given;
@@ -435,13 +425,15 @@ TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
 }
 
 TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
-    ErrorSlot error;
-    ServiceInfos writes;
-    kel_getServiceInfos(api, L"ECM", L"WriteDataByIdentifier_*", nullptr, 0, 0, &error,
-                        &writes.items, &writes.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(writes.count, 3U) << "F190, 0100, 0102";
-    const ServiceInfo& idle = *writes.items[1];
+    const auto infos = [&](const wchar_t* pattern, std::vector<const wchar_t*> names, int32_t sid) {
+        return fetch<ServiceInfos>([&](auto... out) {
+            kel_getServiceInfos(api, L"ECM", pattern, const_cast<wchar_t**>(names.data()),
+                                static_cast<uint32_t>(names.size()), sid, out...);
+        });
+    };
+    const auto writes = infos(L"WriteDataByIdentifier_*", {}, 0);
+    ASSERT_EQ(writes->count, 3U) << "F190, 0100, 0102";
+    const ServiceInfo& idle = *writes->items[1];
     EXPECT_EQ(idle.flag, 0) << "not allowed in the default session";
     EXPECT_EQ(idle.values[0], 0x2EU);
     EXPECT_EQ(idle.values[1], 1U) << "security level";
@@ -466,24 +458,18 @@ TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
     EXPECT_EQ(one(L"WriteDataByIdentifier_0100", {param(L"IdleSpeedTarget", L"1000.25")}).second,
               0x31);
 
-    ServiceInfos picked;
-    const wchar_t* names[] = {L"TesterPresent", L"Missing"};
-    kel_getServiceInfos(api, L"ECM", L"", const_cast<wchar_t**>(names), 2, 0, &error, &picked.items,
-                        &picked.count);
-    ASSERT_EQ(picked.count, 2U);
-    EXPECT_EQ(picked.items[0]->flag, 1);
-    EXPECT_EQ(picked.items[1]->error->code, 1100);
-    ServiceInfos routines;
-    kel_getServiceInfos(api, L"ECM", L"", nullptr, 0, 0x31, &error, &routines.items,
-                        &routines.count);
-    EXPECT_EQ(routines.count, 4U)
+    const auto picked = infos(L"", {L"TesterPresent", L"Missing"}, 0);
+    ASSERT_EQ(picked->count, 2U);
+    EXPECT_EQ(picked->items[0]->flag, 1);
+    EXPECT_EQ(picked->items[1]->error->code, 1100);
+    EXPECT_EQ(infos(L"", {}, 0x31)->count, 4U)
         << "InjectorTest, SelfTest, and the erase and check of programming";
 
-    Infos actuators;
-    kel_getActuatorServiceInfos(api, L"ECM", L"", &error, &actuators.items, &actuators.count);
-    ASSERT_EQ(actuators.count, 1U);
-    EXPECT_STREQ(actuators.items[0]->itemText1, L"RoutineControl_0203");
-    const ParameterInfo& settings = *actuators.items[0]->children[2];
+    const auto actuators =
+        fetch<Infos>([&](auto... out) { kel_getActuatorServiceInfos(api, L"ECM", L"", out...); });
+    ASSERT_EQ(actuators->count, 1U);
+    EXPECT_STREQ(actuators->items[0]->itemText1, L"RoutineControl_0203");
+    const ParameterInfo& settings = *actuators->items[0]->children[2];
     ASSERT_EQ(settings.childCount, 2U);
     EXPECT_EQ(settings.children[0]->childCount, 2U) << "Channel: Cylinder and Mode";
 
@@ -492,24 +478,19 @@ TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
     config->text2 = duplicate_WString(L"RoutineControl_0203");
     config->text3 = duplicate_WString(L"Settings.Channel.Mode");
     config->text4 = duplicate_WString(L"");
-    ParameterInfo* mode = nullptr;
-    kel_getParameterInfo(api, config, &error, &mode);
-    ASSERT_FALSE(error);
-    ASSERT_NE(mode, nullptr);
+    const auto mode = kel_test::fetchRecord(
+        release_ParameterInfo, [&](auto... out) { kel_getParameterInfo(api, config, out...); });
+    ASSERT_NE(mode.get(), nullptr);
     ASSERT_EQ(mode->nameCount, 2U);
     EXPECT_STREQ(mode->names[1], L"Hold");
-    release_ParameterInfo(mode);
-    kel_getParameterInfo(api, nullptr, &error, &mode);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1101);
+    ParameterInfo* none = nullptr;
+    EXPECT_ENGINE_ERROR(null, 1101, kel_getParameterInfo(api, nullptr, &null, &none));
 
-    ErrorSlot identError;
-    Infos ident;
-    kel_getIdentificationValueInfos(api, L"ECM", &identError, &ident.items, &ident.count);
-    ASSERT_FALSE(identError);
-    ASSERT_EQ(ident.count, 5U);
-    EXPECT_STREQ(ident.items[0]->itemText2, L"F190");
-    EXPECT_EQ(ident.items[0]->value2, 17);
+    const auto ident =
+        fetch<Infos>([&](auto... out) { kel_getIdentificationValueInfos(api, L"ECM", out...); });
+    ASSERT_EQ(ident->count, 5U);
+    EXPECT_STREQ(ident->items[0]->itemText2, L"F190");
+    EXPECT_EQ(ident->items[0]->value2, 17);
 }
 
 using Reports = kel_test::ServiceReports;
