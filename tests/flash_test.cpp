@@ -401,35 +401,14 @@ TEST_F(FlashTest, QuickTestIdentifiesAndReadsEveryUnitInOnePass) {
     EXPECT_EQ(some.items[1]->error->code, 1011);
 }
 
-struct QuickWatch : AsyncWatch {
-    std::vector<uint32_t> sizes;
-    std::vector<std::wstring> targets;
-    static void callback(QuickTestResult** results, uint32_t count, bool isFinal, uint64_t callId,
-                         KelError* error, void* context) {
-        auto* self = static_cast<QuickWatch*>(context);
-        {
-            const std::lock_guard lock(self->mutex);
-            self->sizes.push_back(count);
-            for (uint32_t i = 0; i < count; ++i) {
-                self->targets.emplace_back(results[i]->target);
-            }
-        }
-        release_QuickTestResult_array(results, count);
-        release_KelError(error);
-        self->reported(callId, false, isFinal);
-    }
-};
-
 TEST_F(FlashTest, AsynchronousQuickTestReportsOneUnitAtATime) {
     kelsim_setAsyncInterval("performQuickTestAsync", 0);
-    QuickWatch watch;
-    ErrorSlot error;
-    kel_performQuickTestAsync(api, nullptr, 0, nullptr, &error, QuickWatch::callback, &watch);
-    ASSERT_FALSE(error);
-    ASSERT_TRUE(watch.wait());
-    EXPECT_EQ(watch.sizes, (std::vector<uint32_t>(6, 1)));
-    EXPECT_EQ(watch.targets,
-              (std::vector<std::wstring>{L"ECM", L"TCM", L"ESP", L"BCM", L"GW", L"ACC"}));
+    kel_test::AsyncReports<QuickTestResult, release_QuickTestResult_array> reports(
+        [](const QuickTestResult& r) { return std::wstring(r.target); });
+    reports.run(
+        [&](auto... call) { return kel_performQuickTestAsync(api, nullptr, 0, nullptr, call...); });
+    EXPECT_EQ(reports.texts, (std::vector<std::vector<std::wstring>>{
+                                 {L"ECM"}, {L"TCM"}, {L"ESP"}, {L"BCM"}, {L"GW"}, {L"ACC"}}));
 }
 
 } // namespace

@@ -272,37 +272,22 @@ TEST_F(MeasurementTest, AReloadEndsRegistrations) {
     EXPECT_EQ(error->code, 1901);
 }
 
-struct Reports : kel_test::AsyncWatch {
-    std::vector<std::wstring> values;
-
-    static void callback(ReadDataResult** results, uint32_t count, bool isFinal, uint64_t callId,
-                         KelError* error, void* context) {
-        auto& self = *static_cast<Reports*>(context);
-        {
-            const std::lock_guard lock(self.mutex);
-            for (uint32_t i = 0; i < count; ++i) {
-                for (uint32_t k = 0; k < results[i]->parameterCount; ++k) {
-                    self.values.emplace_back(results[i]->parameters[k]->text1);
-                }
-            }
-        }
-        release_ReadDataResult_array(results, count);
-        release_KelError(error);
-        self.reported(callId, false, isFinal);
-    }
-};
-
 TEST_F(MeasurementTest, AsynchronousReadsGiveWhatTheSynchronousOneGives) {
     middleOfNextSample();
     auto which = names({L"Speed", L"Coolant"});
-    Reports reports;
-    ErrorSlot error;
-    const uint64_t id = kel_readMeasurementValuesAsync(api, L"PCM", which.data(), 2, &error,
-                                                       Reports::callback, &reports);
-    ASSERT_FALSE(error);
-    ASSERT_NE(id, 0U);
-    ASSERT_TRUE(reports.wait());
-    EXPECT_EQ(reports.values, read({L"Speed", L"Coolant"}));
+    kel_test::AsyncReports<ReadDataResult, release_ReadDataResult_array> reports(
+        [](const ReadDataResult& r) {
+            std::wstring values;
+            for (uint32_t k = 0; k < r.parameterCount; ++k) {
+                values += (k == 0 ? L"" : L",") + std::wstring(r.parameters[k]->text1);
+            }
+            return values;
+        });
+    reports.run([&](auto... call) {
+        return kel_readMeasurementValuesAsync(api, L"PCM", which.data(), 2, call...);
+    });
+    const auto now = read({L"Speed", L"Coolant"});
+    EXPECT_EQ(reports.all(), std::vector<std::wstring>{now.at(0) + L"," + now.at(1)});
 }
 
 TEST(MeasurementDescription, BadMeasurementsAreRefused) {

@@ -201,28 +201,22 @@ TEST_F(SequencesTest, AStepMayBePassedOverWhenItFails) {
     EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "sequences": {"A": {"steps": [{}]}}})"), -1);
 }
 
-using Reports = kel_test::ServiceReports;
-
 TEST_F(SequencesTest, TheAsynchronousFormReportsEachService) {
-    Values none{};
-    Reports reports;
-    ErrorSlot error;
-    const uint64_t id = kel_executeSequenceAsync(api, L"ECM", L"ReadSoftwareInfo", nullptr, 0,
-                                                 &error, Reports::callback, &reports);
-    ASSERT_FALSE(error);
-    ASSERT_NE(id, 0U);
-    ASSERT_TRUE(reports.wait());
-    EXPECT_EQ(reports.counts, (std::vector<uint32_t>{1, 1}));
-    EXPECT_EQ(reports.services, (std::vector<std::wstring>{L"ReadDataByIdentifier_F190",
-                                                           L"ReadDataByIdentifier_F189"}));
+    using Reports = kel_test::AsyncReports<ServiceResult, release_ServiceResult_array>;
+    const auto service = [](const ServiceResult& r) { return std::wstring(r.itemText1); };
+    Reports reports(service);
+    reports.run([&](auto... call) {
+        return kel_executeSequenceAsync(api, L"ECM", L"ReadSoftwareInfo", nullptr, 0, call...);
+    });
+    EXPECT_EQ(reports.texts, (std::vector<std::vector<std::wstring>>{
+                                 {L"ReadDataByIdentifier_F190"}, {L"ReadDataByIdentifier_F189"}}));
     EXPECT_EQ(reports.errorCode, 0);
 
-    Reports refused;
-    EXPECT_EQ(kel_executeSequenceAsync(api, L"ECM", L"Nope", nullptr, 0, &error, Reports::callback,
-                                       &refused),
-              0U);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 2000);
+    Reports refused(service);
+    EXPECT_ENGINE_ERROR(error, 2000,
+                        EXPECT_EQ(kel_executeSequenceAsync(api, L"ECM", L"Nope", nullptr, 0, &error,
+                                                           Reports::callback, &refused),
+                                  0U));
 }
 
 // Runs go on the family's worker: these run under the thread sanitizer too.

@@ -493,28 +493,32 @@ TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
     EXPECT_EQ(ident->items[0]->value2, 17);
 }
 
-using Reports = kel_test::ServiceReports;
+// Each result of an asynchronous call of services as "<service> <status>".
+using ServiceReports = kel_test::AsyncReports<ServiceResult, release_ServiceResult_array>;
+std::wstring serviceAndStatus(const ServiceResult& r) {
+    return std::wstring(r.itemText1) + L" " + std::to_wstring(r.status);
+}
 
 TEST_F(ServicesTest, AsynchronousExecutionReportsPerService) {
     Inputs in;
     in.add(L"TesterPresent")
         .add(L"ReadDataByIdentifier_F190")
         .add(L"WriteDataByIdentifier_F190", {param(L"VIN", L"X")});
-    Reports all;
-    ErrorSlot error;
-    const uint64_t id = kel_executeServiceInDefaultSessionAsync(api, L"ECM", in.list(), in.count(),
-                                                                &error, Reports::callback, &all);
-    ASSERT_FALSE(error);
-    ASSERT_NE(id, 0U);
-    ASSERT_TRUE(all.wait());
-    EXPECT_EQ(all.counts, (std::vector<uint32_t>{1, 1, 1})) << "one report per service";
-    EXPECT_EQ(all.statuses, (std::vector<int32_t>{0, 0, 3}));
+    ServiceReports all(serviceAndStatus);
+    all.run([&](auto... call) {
+        return kel_executeServiceInDefaultSessionAsync(api, L"ECM", in.list(), in.count(), call...);
+    });
+    EXPECT_EQ(all.texts,
+              (std::vector<std::vector<std::wstring>>{{L"TesterPresent 0"},
+                                                      {L"ReadDataByIdentifier_F190 0"},
+                                                      {L"WriteDataByIdentifier_F190 3"}}))
+        << "one report per service";
     EXPECT_EQ(all.errorCode, 0);
 
-    Reports never;
+    ServiceReports never(serviceAndStatus);
     EXPECT_ENGINE_ERROR(unknown, 1011,
                         kel_executeServiceAsync(api, L"Nope", in.list(), in.count(), &unknown,
-                                                Reports::callback, &never));
+                                                ServiceReports::callback, &never));
 }
 
 } // namespace

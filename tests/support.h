@@ -11,10 +11,12 @@
 #include <chrono>
 #include <condition_variable>
 #include <filesystem>
+#include <functional>
 #include <kel_sim.h>
 #include <memory>
 #include <mutex>
 #include <string>
+#include <vector>
 
 namespace kel_test {
 
@@ -96,6 +98,52 @@ struct AsyncWatch {
     bool wait() {
         std::unique_lock lock(mutex);
         return changed.wait_for(lock, std::chrono::seconds(20), [&] { return done; });
+    }
+};
+
+// The reports of one asynchronous call, each result reduced to a text by `describe`:
+// the texts of each report, whether it was final, and the last error code reported.
+template <class R, void (*Release)(R**, uint64_t)>
+struct AsyncReports : AsyncWatch {
+    explicit AsyncReports(std::function<std::wstring(const R&)> describe)
+        : describe(std::move(describe)) {}
+    std::function<std::wstring(const R&)> describe;
+    std::vector<std::vector<std::wstring>> texts;
+    std::vector<bool> finals;
+
+    static void callback(R** results, uint32_t count, bool isFinal, uint64_t callId,
+                         KelError* error, void* context) {
+        auto& self = *static_cast<AsyncReports*>(context);
+        {
+            const std::lock_guard lock(self.mutex);
+            self.texts.emplace_back();
+            for (uint32_t i = 0; i < count; ++i) {
+                self.texts.back().push_back(self.describe(*results[i]));
+            }
+            self.finals.push_back(isFinal);
+            self.errorCode = error != nullptr ? error->code : self.errorCode;
+        }
+        Release(results, count);
+        release_KelError(error);
+        self.reported(callId, false, isFinal);
+    }
+    // Starts the call by `start(&error, callback, context)`, which must succeed, and waits
+    // for its final report.
+    template <class Start>
+    void run(Start start) {
+        ErrorSlot error;
+        EXPECT_NE(start(&error, callback, this), 0U);
+        ASSERT_FALSE(error) << error->code;
+        ASSERT_TRUE(wait());
+    }
+    // Every report's texts, in order.
+    std::vector<std::wstring> all() {
+        const std::lock_guard lock(mutex);
+        std::vector<std::wstring> out;
+        for (const auto& report : texts) {
+            out.insert(out.end(), report.begin(), report.end());
+        }
+        return out;
     }
 };
 
