@@ -13,6 +13,7 @@
 #include <mutex>
 #include <numbers>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -175,9 +176,9 @@ TEST_F(MeasurementTest, DescriptionsGiveUnitAndRange) {
     EXPECT_EQ(some.items[1]->error->code, 1900);
 
     Infos none;
-    kel_getMeasurementValueInfos(api, L"Nope", &error, &none.items, &none.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1011);
+    EXPECT_ENGINE_ERROR(
+        unknown, 1011,
+        kel_getMeasurementValueInfos(api, L"Nope", &unknown, &none.items, &none.count));
 }
 
 TEST_F(MeasurementTest, ReadsGoOverTheBusWithPerValueAndPerTargetErrors) {
@@ -245,31 +246,27 @@ TEST_F(MeasurementTest, ARegistrationShowsValuesMovingUntilItEnds) {
     EXPECT_NEAR(later[0], ramp(t + 3 * sampleMs), 0.5);
     EXPECT_NEAR(later[1], sine(t + 3 * sampleMs), 0.125);
 
+    const auto gone = [&] {
+        Reads none;
+        return kel_test::errorCodeOf([&](KelError** e) {
+            kel_getMeasurementValues(api, registration, e, &none.items, &none.count);
+        });
+    };
     kel_unregisterMeasurementValues(api, registration, &error);
     ASSERT_FALSE(error);
-    Reads gone;
-    kel_getMeasurementValues(api, registration, &error, &gone.items, &gone.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1901);
+    EXPECT_EQ(gone(), 1901);
     EXPECT_ENGINE_ERROR(again, 1901, kel_unregisterMeasurementValues(api, registration, &again));
-
     auto wrong = names({L"Speed", L"Nope"});
     uint64_t none = 0;
     EXPECT_ENGINE_ERROR(
         refused, 1900,
         kel_registerMeasurementValues(api, L"PCM", wrong.data(), 2, &refused, &none));
-}
 
-TEST_F(MeasurementTest, AReloadEndsRegistrations) {
-    ErrorSlot error;
-    uint64_t registration = 0;
+    // A reload ends registrations.
     kel_registerMeasurementValues(api, L"PCM", nullptr, 0, &error, &registration);
     ASSERT_FALSE(error);
     kelsim_reloadVehicle();
-    Reads gone;
-    kel_getMeasurementValues(api, registration, &error, &gone.items, &gone.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1901);
+    EXPECT_EQ(gone(), 1901);
 }
 
 TEST_F(MeasurementTest, AsynchronousReadsGiveWhatTheSynchronousOneGives) {
@@ -291,29 +288,19 @@ TEST_F(MeasurementTest, AsynchronousReadsGiveWhatTheSynchronousOneGives) {
 }
 
 TEST(MeasurementDescription, BadMeasurementsAreRefused) {
-    const auto with = [](const std::string& measurement) {
-        return R"({"ecus": [{"name": "X", "measurements": [)" + measurement + "]}]}";
-    };
-    EXPECT_EQ(kelsim_setVehicleJson(with(R"({"id": "1", "name": "A"})").c_str()), -1) << "no range";
-    EXPECT_EQ(
-        kelsim_setVehicleJson(with(R"({"id": "1", "name": "A", "min": 0, "max": 300})").c_str()),
-        -1)
-        << "300 does not fit in one byte";
-    EXPECT_EQ(kelsim_setVehicleJson(with(R"({"id": "1", "name": "A", "min": 0, "max": 9,
-                           "motion": {"kind": "derived", "source": "B"}})")
-                                        .c_str()),
-              -1)
-        << "a source that comes later or not at all";
-    EXPECT_EQ(
-        kelsim_setVehicleJson(
-            with(R"({"id": "1", "name": "A", "min": 0, "max": 9, "motion": {"kind": "jump"}})")
-                .c_str()),
-        -1);
-    EXPECT_EQ(kelsim_setVehicleJson(with(R"({"id": "1", "name": "A", "min": 0, "max": 9,
-                                            "motion": {"kind": "sine", "amplitude": 1,
-                                                       "periodMs": 0}})")
-                                        .c_str()),
-              -1);
+    const std::string ranged = R"("id": "2001", "name": "A", "min": 0, "max": 9, "motion": )";
+    const std::vector<std::pair<std::string, int>> cases = {
+        {R"("id": "2001", "name": "A")", -1},                       // no range
+        {R"("id": "2001", "name": "A", "min": 0, "max": 300)", -1}, // 300 does not fit one byte
+        {ranged + R"({"kind": "derived", "source": "B"})", -1},     // a source that comes later
+        {ranged + R"({"kind": "jump"})", -1},                       // no such motion
+        {ranged + R"({"kind": "sine", "amplitude": 1, "periodMs": 0})", -1},
+        {ranged + R"({"kind": "constant", "value": 1})", 0}};
+    for (const auto& [measurement, expected] : cases) {
+        const auto description =
+            R"({"ecus": [{"name": "X", "measurements": [{)" + measurement + "}]}]}";
+        EXPECT_EQ(kelsim_setVehicleJson(description.c_str()), expected) << measurement;
+    }
     kelsim_reset();
 }
 
