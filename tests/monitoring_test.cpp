@@ -101,13 +101,11 @@ protected:
             [&](auto... out) { kel_getMonitoringItems(api, link, 0, 0, out...); });
     }
     std::vector<Seen> pdus(uint64_t monitor, uint32_t most = 0, int32_t keep = 0) {
-        ErrorSlot error;
-        PduItems items;
-        kel_getPduMonitoringItems(api, monitor, most, keep, &error, &items.items, &items.count);
-        EXPECT_FALSE(error) << (error ? error->code : 0);
+        const auto items = fetch<PduItems>(
+            [&](auto... o) { kel_getPduMonitoringItems(api, monitor, most, keep, o...); });
         std::vector<Seen> out;
-        for (uint32_t i = 0; i < items.count; ++i) {
-            const auto& p = *items.items[i];
+        for (uint32_t i = 0; i < items->count; ++i) {
+            const auto& p = *items->items[i];
             out.push_back({p.text1, p.value1 == 2, bytesOf(p.data, p.dataLength)});
         }
         return out;

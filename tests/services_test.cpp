@@ -557,13 +557,11 @@ protected:
         return job;
     }
     std::vector<Cyclic> fetch(uint64_t job) {
-        Results out;
-        ErrorSlot error;
-        kel_getCyclicResults(api, job, &error, &out.items, &out.count);
-        EXPECT_FALSE(error) << (error ? error->code : 0);
+        const auto out =
+            kel_test::fetch<Results>([&](auto... o) { kel_getCyclicResults(api, job, o...); });
         std::vector<Cyclic> results;
-        for (uint32_t i = 0; i < out.count; ++i) {
-            const ServiceResult& r = *out.items[i];
+        for (uint32_t i = 0; i < out->count; ++i) {
+            const ServiceResult& r = *out->items[i];
             results.push_back(
                 {r.itemText1, r.request != nullptr ? r.request->value2 : 0, r.status});
         }
@@ -580,12 +578,9 @@ protected:
         return all;
     }
     uint64_t requestsSent() {
-        ErrorSlot error;
-        TransmissionInfo* info = nullptr;
-        kel_getTransmissionInfo(api, &error, &info);
-        const uint64_t sent = info != nullptr ? info->value1 : 0;
-        release_TransmissionInfo(info);
-        return sent;
+        return kel_test::fetchRecord(release_TransmissionInfo,
+                                     [&](auto... out) { kel_getTransmissionInfo(api, out...); })
+            ->value1;
     }
     int32_t failure(void (*call)(TarnApi*, uint64_t, KelError**), uint64_t job) {
         ErrorSlot error;
