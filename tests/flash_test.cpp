@@ -166,8 +166,7 @@ TEST_F(FlashTest, SessionsRunInOrderAndAFailureStopsTheRestUnlessConfiguredOther
     config->stopOnError = 0;
     ErrorSlot error;
     Results out;
-    kel_executeFlashSessionsConfig(api, config, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_executeFlashSessionsConfig(api, config, &ok, &out.items, &out.count));
     ASSERT_EQ(out.count, 3U);
     EXPECT_EQ(out.items[0]->error->code, 1701);
     EXPECT_EQ(out.items[1]->status, 0);
@@ -251,10 +250,8 @@ TEST_F(FlashTest, ACancelledFlashLeavesAnIncompleteUpdateThatANewFlashRepairs) {
     watch.api = api;
     watch.cancelAt = 30;
     const wchar_t* names[] = {L"ECM_SW_5430"};
-    ErrorSlot error;
-    kel_executeFlashSessionsAsync(api, L"ECM", const_cast<wchar_t**>(names), 1, &error,
-                                  FlashWatch::callback, &watch);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_executeFlashSessionsAsync(api, L"ECM", const_cast<wchar_t**>(names), 1,
+                                                      &ok, FlashWatch::callback, &watch));
     ASSERT_TRUE(watch.wait());
     {
         const std::lock_guard lock(watch.mutex);

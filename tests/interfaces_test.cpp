@@ -116,8 +116,7 @@ TEST_F(Interfaces, DisconnectedInterfacesStopDiagnosticCallsUntilConnectedAgain)
     ASSERT_EQ(readDtcsError(api), 0);
 
     ErrorSlot error;
-    kel_disconnectInterfaces(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_disconnectInterfaces(api, &ok));
     EXPECT_EQ(readDtcsError(api), 1404);
     EXPECT_ENGINE_ERROR(
         async, 1404,
@@ -126,17 +125,14 @@ TEST_F(Interfaces, DisconnectedInterfacesStopDiagnosticCallsUntilConnectedAgain)
     fetch<List<Target, release_Target_array>>([&](auto... out) { kel_getTargets(api, out...); });
 
     EXPECT_FALSE(scan(api, {L"VCI1"}).front().connected);
-    ErrorSlot connectError;
-    kel_connectInterfaces(api, &connectError);
-    ASSERT_FALSE(connectError);
+    ASSERT_SUCCEEDS(ok, kel_connectInterfaces(api, &ok));
     const auto after = scan(api, {L"VCI1", L"VCI2"});
     EXPECT_TRUE(after[0].connected);
     EXPECT_FALSE(after[1].connected) << "VCI2 is not plugged in";
     EXPECT_EQ(readDtcsError(api), 0);
 
     // Connecting fails when no configured interface is plugged in.
-    kel_removeInterface(api, L"VCI1", &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_removeInterface(api, L"VCI1", &ok));
     EXPECT_EQ(readDtcsError(api), 1404) << "the connected interface went with it";
     kel_connectInterfaces(api, &error);
     ASSERT_TRUE(error);
@@ -161,9 +157,7 @@ TEST_F(Interfaces, ScanReportsEachInterfaceWithItsOwnError) {
 }
 
 TEST_F(Interfaces, ResourcesAreAddedWithTheirPinAndRemovedByName) {
-    ErrorSlot error;
-    kel_addResource(api, L"VCI1", resource(L"UDS_CAN_MS"), 0xABCD, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_addResource(api, L"VCI1", resource(L"UDS_CAN_MS"), 0xABCD, &ok));
     const auto devices = fetch<List<DeviceInfo, release_DeviceInfo_array>>(
         [&](auto... out) { kel_getRegisteredDevices(api, out...); });
     ASSERT_EQ(devices->count, 4u);
@@ -196,10 +190,9 @@ TEST_F(Interfaces, ResourcesAreAddedWithTheirPinAndRemovedByName) {
 TEST_F(Interfaces, AddedInterfaceIsCompletedAndCarriesItsVendorModule) {
     auto* info = interfaceNamed(L"VCI3");
     info->flag3 = 1;
-    ErrorSlot error;
     InterfaceInformation* added = nullptr;
-    kel_addInterface(api, info, L"BENCH_DPDU", L"", L"192.168.10.30", &error, &added);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok,
+                    kel_addInterface(api, info, L"BENCH_DPDU", L"", L"192.168.10.30", &ok, &added));
     ASSERT_NE(added, nullptr);
     EXPECT_STREQ(added->itemText2, L"VCI3") << "the long name defaults to the name";
     EXPECT_STREQ(added->text2, L"192.168.10.30");
@@ -290,8 +283,8 @@ TEST_F(Interfaces, DetectionFindsTheDynamicInterfacesAndConnectsThem) {
     EXPECT_EQ(detectEx(1)->count, 1u);
 
     ErrorSlot error;
-    kel_connectDynInterface(api, L"WVCI-7", 1, detection(L"WVCI-*", false), &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok,
+                    kel_connectDynInterface(api, L"WVCI-7", 1, detection(L"WVCI-*", false), &ok));
     EXPECT_EQ(detect(L"", true), (std::vector<std::wstring>{L"WVCI-9"}));
     const auto again = detectEx(0);
     EXPECT_EQ(again->items[0]->flag1, 1) << "connected";
@@ -299,12 +292,10 @@ TEST_F(Interfaces, DetectionFindsTheDynamicInterfacesAndConnectsThem) {
 
     // The dynamic interface alone carries diagnostic calls.
     kel_disconnectInterfaces(api, &error);
-    kel_connectDynInterfaceEx(api, L"WVCI-9", 0, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_connectDynInterfaceEx(api, L"WVCI-9", 0, &ok));
     EXPECT_EQ(readDtcsError(api), 0);
     const wchar_t* dynamic[] = {L"WVCI-9"};
-    kel_disconnectDynInterfaces(api, const_cast<wchar_t**>(dynamic), 1, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_disconnectDynInterfaces(api, const_cast<wchar_t**>(dynamic), 1, &ok));
     EXPECT_EQ(readDtcsError(api), 1404);
 
     EXPECT_ENGINE_ERROR(configured, 1411, kel_connectDynInterfaceEx(api, L"VCI1", 0, &configured));
@@ -351,8 +342,7 @@ std::vector<std::wstring> clearCollection(TarnApi* api) {
 TEST_F(Interfaces, DoIPCollectionKeepsTheEntityInUseWithItsError) {
     EXPECT_TRUE(clearCollection(api).empty()) << "nothing collected before a broadcast";
     ErrorSlot error;
-    kel_executeDoIPBroadcast(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_executeDoIPBroadcast(api, &ok));
     const auto first = clearCollection(api);
     ASSERT_EQ(first.size(), 1u);
     EXPECT_NE(first[0].find(L"0x1010"), std::wstring::npos);
@@ -364,8 +354,7 @@ TEST_F(Interfaces, DoIPCollectionKeepsTheEntityInUseWithItsError) {
     EXPECT_ENGINE_ERROR(cleared, 1409,
                         kel_createSocketBridge(api, 13400, 0x1000, &cleared, &bridge));
     EXPECT_EQ(bridge, 0u);
-    kel_createSocketBridge(api, 13400, 0x1010, &error, &bridge);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_createSocketBridge(api, 13400, 0x1010, &ok, &bridge));
     ASSERT_NE(bridge, 0u);
 
     uint8_t works = 0xAA;
@@ -375,8 +364,7 @@ TEST_F(Interfaces, DoIPCollectionKeepsTheEntityInUseWithItsError) {
     kel_testSocketBridge(api, bridge, &error, &works);
     EXPECT_EQ(works, 0) << "no interface carries it";
 
-    kel_releaseSocketBridge(api, bridge, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_releaseSocketBridge(api, bridge, &ok));
     EXPECT_ENGINE_ERROR(twice, 1406, kel_releaseSocketBridge(api, bridge, &twice));
     EXPECT_ENGINE_ERROR(released, 1406, kel_testSocketBridge(api, bridge, &released, &works));
 
@@ -391,16 +379,14 @@ TEST_F(Interfaces, TerminalOpensOnceAndClosesOnce) {
     EXPECT_EQ(opened, 1);
     kel_openTerminal(api, &error, &opened);
     EXPECT_EQ(opened, 0) << "already open";
-    kel_closeTerminal(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_closeTerminal(api, &ok));
     EXPECT_ENGINE_ERROR(twice, 1410, kel_closeTerminal(api, &twice));
 }
 
 TEST_F(Interfaces, PinStateAndWLanBelongToTheirInterface) {
     const wchar_t* both[] = {L"VCI1", L"WVCI-7"};
     ErrorSlot error;
-    kel_setEthernetPinState(api, 3, const_cast<wchar_t**>(both), 2, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setEthernetPinState(api, 3, const_cast<wchar_t**>(both), 2, &ok));
     uint32_t state = 0;
     kel_getEthernetPinState(api, L"WVCI-7", &error, &state);
     EXPECT_EQ(state, 3u);
@@ -432,8 +418,7 @@ TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {
     config->entries[0]->text2 = dup(L"Renamed");
     release_InterfaceConfigurationEntry(config->entries[1]);
     config->entryCount = 1;
-    kel_setInterfaceConfiguration(api, &error, config);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setInterfaceConfiguration(api, &ok, config));
     const auto all = scan(api, {});
     ASSERT_EQ(all.size(), 3u);
     EXPECT_EQ(all[0].name, L"VCI1");
@@ -452,8 +437,7 @@ TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {
     const auto both = providers();
     ASSERT_EQ(both->count, 2u);
     both->items[1]->value = 0;
-    kel_setInterfaceProviders(api, &error, both->items + 1, 1);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setInterfaceProviders(api, &ok, both->items + 1, 1));
     const auto after = providers();
     ASSERT_EQ(after->count, 1u);
     EXPECT_STREQ(after->items[0]->itemText1, L"SimDoIP");
@@ -470,8 +454,7 @@ TEST_F(InterfacesConcurrency, SavedConfigurationIsAlwaysWholeAndKeepsReplacedTex
     const std::wstring name{L'V', L'C', L'I', static_cast<wchar_t>(0xD800)};
     ErrorSlot error;
     InterfaceInformation* added = nullptr;
-    kel_addInterface(api, interfaceNamed(name), L"", L"", L"", &error, &added);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_addInterface(api, interfaceNamed(name), L"", L"", L"", &ok, &added));
     release_InterfaceInformation(added);
     kel_removeInterface(api, L"VCI2", &error);
 
@@ -479,8 +462,7 @@ TEST_F(InterfacesConcurrency, SavedConfigurationIsAlwaysWholeAndKeepsReplacedTex
     std::atomic<bool> saving{true};
     std::atomic<int> reads{0};
     std::atomic<int> partial{0};
-    kel_saveInterfaceConfiguration(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_saveInterfaceConfiguration(api, &ok));
     std::thread reader([&] {
         while (saving) {
             std::ifstream in(file, std::ios::binary);

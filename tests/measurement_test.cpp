@@ -149,8 +149,7 @@ TEST_F(MeasurementTest, ARandomWalkIsReproducibleAndStaysWithinItsRange) {
 TEST_F(MeasurementTest, DescriptionsGiveUnitAndRange) {
     Infos all;
     ErrorSlot error;
-    kel_getMeasurementValueInfos(api, L"PCM", &error, &all.items, &all.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getMeasurementValueInfos(api, L"PCM", &ok, &all.items, &all.count));
     ASSERT_EQ(all.count, 5U);
     const ParameterInfo& coolant = *all.items[1];
     EXPECT_STREQ(coolant.itemText1, L"Coolant");
@@ -166,9 +165,8 @@ TEST_F(MeasurementTest, DescriptionsGiveUnitAndRange) {
 
     auto which = names({L"Load", L"Nope"});
     Infos some;
-    kel_getSingleMeasurementValueInfos(api, L"PCM", which.data(), 2, &error, &some.items,
-                                       &some.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getSingleMeasurementValueInfos(api, L"PCM", which.data(), 2, &ok,
+                                                           &some.items, &some.count));
     ASSERT_EQ(some.count, 2U);
     EXPECT_STREQ(some.items[0]->text2, L"%");
     EXPECT_EQ(some.items[0]->error, nullptr);
@@ -189,8 +187,8 @@ TEST_F(MeasurementTest, ReadsGoOverTheBusWithPerValueAndPerTargetErrors) {
 
     auto which = names({L"Coolant", L"Nope"});
     Reads out;
-    kel_readMeasurementValues(api, L"PCM", which.data(), 2, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(
+        ok, kel_readMeasurementValues(api, L"PCM", which.data(), 2, &ok, &out.items, &out.count));
     ASSERT_EQ(out.count, 1U);
     EXPECT_EQ(out.items[0]->status, 0);
     ASSERT_EQ(out.items[0]->parameterCount, 2U);
@@ -207,8 +205,8 @@ TEST_F(MeasurementTest, ReadsGoOverTheBusWithPerValueAndPerTargetErrors) {
     release_TransmissionInfo(after);
 
     Reads silent;
-    kel_readMeasurementValues(api, L"MUTE", nullptr, 0, &error, &silent.items, &silent.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(
+        ok, kel_readMeasurementValues(api, L"MUTE", nullptr, 0, &ok, &silent.items, &silent.count));
     ASSERT_EQ(silent.count, 1U);
     EXPECT_EQ(silent.items[0]->status, 1);
     ASSERT_NE(silent.items[0]->error, nullptr);
@@ -219,10 +217,9 @@ TEST_F(MeasurementTest, ReadsGoOverTheBusWithPerValueAndPerTargetErrors) {
 
 TEST_F(MeasurementTest, ARegistrationShowsValuesMovingUntilItEnds) {
     auto which = names({L"Coolant", L"Speed"});
-    ErrorSlot error;
     uint64_t registration = 0;
-    kel_registerMeasurementValues(api, L"PCM", which.data(), 2, &error, &registration);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(
+        ok, kel_registerMeasurementValues(api, L"PCM", which.data(), 2, &ok, &registration));
     ASSERT_NE(registration, 0U);
 
     const auto fetch = [&] {
@@ -252,8 +249,7 @@ TEST_F(MeasurementTest, ARegistrationShowsValuesMovingUntilItEnds) {
             kel_getMeasurementValues(api, registration, e, &none.items, &none.count);
         });
     };
-    kel_unregisterMeasurementValues(api, registration, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_unregisterMeasurementValues(api, registration, &ok));
     EXPECT_EQ(gone(), 1901);
     EXPECT_ENGINE_ERROR(again, 1901, kel_unregisterMeasurementValues(api, registration, &again));
     auto wrong = names({L"Speed", L"Nope"});
@@ -263,8 +259,7 @@ TEST_F(MeasurementTest, ARegistrationShowsValuesMovingUntilItEnds) {
         kel_registerMeasurementValues(api, L"PCM", wrong.data(), 2, &refused, &none));
 
     // A reload ends registrations.
-    kel_registerMeasurementValues(api, L"PCM", nullptr, 0, &error, &registration);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_registerMeasurementValues(api, L"PCM", nullptr, 0, &ok, &registration));
     kelsim_reloadVehicle();
     EXPECT_EQ(gone(), 1901);
 }

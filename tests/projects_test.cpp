@@ -190,9 +190,7 @@ TEST_F(ProjectsTest, ASavedProjectConfigurationOutlivesARestartAndAnUnsavedOneDo
     check(L"Simulated vehicle project", 0);
 
     change();
-    ErrorSlot error;
-    kel_saveProjectConfiguration(api, L"Default", &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_saveProjectConfiguration(api, L"Default", &ok));
     restart();
     check(description, -5);
 
@@ -208,43 +206,35 @@ TEST_F(ProjectsTest, ASavedProjectConfigurationOutlivesARestartAndAnUnsavedOneDo
 
 TEST_F(ProjectsTest, TheEngineConfigurationOutlivesARestartOnlyWhenSaved) {
     std::filesystem::copy(projects() / "Default", projects() / "Second");
-    ErrorSlot error;
-    kel_refreshProjectList(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_refreshProjectList(api, &ok));
     ASSERT_EQ(selectionError(L"Second"), 0);
 
     TarnApiConfig* config = nullptr;
-    kel_getConfiguration(api, &error, &config);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getConfiguration(api, &ok, &config));
     ASSERT_NE(config, nullptr);
     ASSERT_NE(config->server, nullptr);
     config->value1 = 42;
     config->value7 = 0xBEEF;
     config->server->port = 7000;
-    kel_setConfiguration(api, &error, config);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setConfiguration(api, &ok, config));
 
     MoxConfig* mox = nullptr;
-    kel_getMoxConfiguration(api, &error, &mox);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getMoxConfiguration(api, &ok, &mox));
     ASSERT_NE(mox, nullptr);
     replace(mox->text1, L"mox \u00fc");
-    kel_setMoxConfiguration(api, &error, mox);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setMoxConfiguration(api, &ok, mox));
 
     SystemProperty* language = property(L"Engine.Language");
     ASSERT_NE(language, nullptr);
     replace(language->text1, L"de");
-    kel_setSystemProperty(api, language, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setSystemProperty(api, language, &ok));
 
-    kel_saveConfiguration(api, &error); // the Mox configuration is not saved
-    ASSERT_FALSE(error);
+    // The Mox configuration is not saved with it.
+    ASSERT_SUCCEEDS(ok, kel_saveConfiguration(api, &ok));
     restart();
 
     EXPECT_EQ(selected(), L"Second");
-    kel_getConfiguration(api, &error, &config);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getConfiguration(api, &ok, &config));
     EXPECT_EQ(config->value1, 42);
     EXPECT_EQ(config->value7, 0xBEEF);
     EXPECT_EQ(config->server->port, 7000u);
@@ -254,16 +244,13 @@ TEST_F(ProjectsTest, TheEngineConfigurationOutlivesARestartOnlyWhenSaved) {
     EXPECT_EQ(std::wstring(language->text1), L"de");
     EXPECT_EQ(language->flag, 1);
     release_SystemProperty(language);
-    kel_getMoxConfiguration(api, &error, &mox);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getMoxConfiguration(api, &ok, &mox));
     EXPECT_EQ(std::wstring(mox->text1), L"");
     replace(mox->text1, L"mox \u00fc");
-    kel_setMoxConfiguration(api, &error, mox);
-    kel_saveMoxConfiguration(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setMoxConfiguration(api, &ok, mox));
+    ASSERT_SUCCEEDS(ok, kel_saveMoxConfiguration(api, &ok));
     restart();
-    kel_getMoxConfiguration(api, &error, &mox);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getMoxConfiguration(api, &ok, &mox));
     EXPECT_EQ(std::wstring(mox->text1), L"mox \u00fc");
     release_MoxConfig(mox);
 }
@@ -278,14 +265,10 @@ TEST_F(ProjectsTest, ASavedConfigurationThatCannotBeReadIsReportedUntilReplaced)
     config = zeroed<TarnApiConfig>();
     config->value1 = 9;
     config->text = duplicate_WString(L"");
-    ErrorSlot set;
-    kel_setConfiguration(api, &set, config);
-    ASSERT_FALSE(set);
-    kel_saveConfiguration(api, &set);
-    ASSERT_FALSE(set);
+    ASSERT_SUCCEEDS(ok, kel_setConfiguration(api, &ok, config));
+    ASSERT_SUCCEEDS(ok, kel_saveConfiguration(api, &ok));
     restart();
-    kel_getConfiguration(api, &set, &config);
-    ASSERT_FALSE(set);
+    ASSERT_SUCCEEDS(ok, kel_getConfiguration(api, &ok, &config));
     EXPECT_EQ(config->value1, 9);
     EXPECT_EQ(config->server, nullptr);
     release_TarnApiConfig(config);
@@ -300,8 +283,7 @@ TEST_F(ProjectsTest, DatabaseFilesLoadAndUnloadWithAnErrorPerFile) {
                         const_cast<wchar_t*>(L"../../outside.kdb"),
                         const_cast<wchar_t*>(L"notes.kdb"), const_cast<wchar_t*>(L"vehicle.kdb")};
     List<LoadDatabaseResult, release_LoadDatabaseResult_array> loaded;
-    kel_loadDatabaseFile(api, files, 5, &error, &loaded.items, &loaded.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_loadDatabaseFile(api, files, 5, &ok, &loaded.items, &loaded.count));
     ASSERT_EQ(loaded.count, 5u);
     const int32_t expected[] = {0, 1203, 1206, 1204, 0};
     for (uint32_t i = 0; i < 5; ++i) {
@@ -340,9 +322,7 @@ TEST_F(ProjectsTest, AnOlderProjectMustBeConvertedBeforeItCanBeSelected) {
     writeFile(projects() / "Old" / "project.json", R"({"format": 1, "databases": ["old.kdb"]})");
     writeFile(projects() / "Old" / "old.kdb", database);
     writeFile(projects() / "Broken" / "project.json", "{not json");
-    ErrorSlot error;
-    kel_refreshProjectList(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_refreshProjectList(api, &ok));
 
     auto required = [&](const std::wstring& path) -> int {
         ErrorSlot e;
@@ -360,8 +340,7 @@ TEST_F(ProjectsTest, AnOlderProjectMustBeConvertedBeforeItCanBeSelected) {
     EXPECT_EQ(selectionError(L"Broken"), 1201);
     EXPECT_EQ(configuration(L"Old"), nullptr);
 
-    kel_convertProject(api, L"Old", &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_convertProject(api, L"Old", &ok));
     EXPECT_EQ(required(L"Old"), 0);
     restart();
     EXPECT_EQ(required(L"Old"), 0);
@@ -403,9 +382,7 @@ TEST_F(ProjectsTest, SystemPropertiesFormATreeAndAResetRestoresTheDefaults) {
     EXPECT_EQ(std::wstring(language->text1), L"en");
     release_SystemProperty(language);
 
-    ErrorSlot reset;
-    kel_resetSystemProperty(api, L"Engine", &reset);
-    ASSERT_FALSE(reset);
+    ASSERT_SUCCEEDS(ok, kel_resetSystemProperty(api, L"Engine", &ok));
     level = property(L"Engine.TraceLevel");
     EXPECT_EQ(std::wstring(level->text1), L"0");
     EXPECT_EQ(level->flag, 0);
@@ -448,13 +425,10 @@ TEST_F(ProjectsTest, ProcessAndSystemInformationAreTheRealFigures) {
 }
 
 TEST_F(ProjectsTest, TheStatusTextIsReportedAndPostedAsAnEvent) {
-    ErrorSlot error;
     uint64_t channel = 0;
-    kel_openEventChannel(api, &error, &channel);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_openEventChannel(api, &ok, &channel));
     const wchar_t* text = L"Flashing ECM \u2713";
-    kel_setStatusText(api, &error, text);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setStatusText(api, &ok, text));
 
     const auto report = fetchRecord(
         release_EventReport, [&](auto... out) { kel_getCurrentEvents(api, channel, 0, out...); });
@@ -501,13 +475,10 @@ TEST_F(ProjectsTest, ProjectsWithNonAsciiNamesAreFoundAndSelected) {
     const std::wstring name = L"Pr\u00fcfstand \u6e2c\u8a66";
     const auto folder = projects() / std::filesystem::path(u8"Pr\u00fcfstand \u6e2c\u8a66");
     std::filesystem::copy(projects() / "Default", folder);
-    ErrorSlot error;
-    kel_refreshProjectList(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_refreshProjectList(api, &ok));
     ASSERT_EQ(selectionError(name.c_str()), 0);
     EXPECT_EQ(selected(), name);
-    kel_saveConfiguration(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_saveConfiguration(api, &ok));
     restart();
     EXPECT_EQ(selected(), name);
     const auto details = projectDetails();
@@ -517,8 +488,7 @@ TEST_F(ProjectsTest, ProjectsWithNonAsciiNamesAreFoundAndSelected) {
     EXPECT_NE(std::wstring(details->dbFiles2[0]->path).find(name), std::wstring::npos);
 
     wchar_t* trace = nullptr;
-    kel_getCurrentDebugTraceDirectory(api, &error, &trace);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getCurrentDebugTraceDirectory(api, &ok, &trace));
     EXPECT_TRUE(std::filesystem::is_directory(root / "traces" / "debug"));
     release_Memory(trace);
 }

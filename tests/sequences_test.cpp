@@ -245,9 +245,7 @@ TEST_F(SequenceRunsConcurrency, ACancelStopsARunBetweenServices) {
     // The second read waits a minute of vehicle time.
     const uint64_t id = run(L"WarmUpCheck");
     ASSERT_NE(id, 0U);
-    ErrorSlot error;
-    kel_cancelSequence(api, id, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_cancelSequence(api, id, &ok));
     const auto events = eventsUntilEnded(channel, id);
     ASSERT_FALSE(events.empty());
     EXPECT_EQ(events.back().kind, sequenceEnded);

@@ -389,8 +389,7 @@ TEST_F(ServicesTest, AWrittenValueIsReadBackByServiceAndIdentification) {
 TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
     ErrorSlot error;
     UnlockResult* result = nullptr;
-    kel_unlockVehicle(api, L"ECM", nullptr, 0, &error, &result);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_unlockVehicle(api, L"ECM", nullptr, 0, &ok, &result));
     ASSERT_NE(result, nullptr);
     const uint64_t value = result->value;
     EXPECT_NE(value, 0U);
@@ -402,8 +401,7 @@ TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
     kelsim_advanceClock(60000);
     EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000002")}).first, 0)
         << "no timeout while unlocked";
-    kel_releaseVehicleUnlock(api, value, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_releaseVehicleUnlock(api, value, &ok));
     EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000003")}).second,
               0x7F)
         << "released: back in the default session";
@@ -414,9 +412,7 @@ TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
     given.add(L"DiagnosticSessionControl", {param(L"Session", L"Extended")});
     given.add(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000004")});
     UnlockResult* failed = nullptr;
-    ErrorSlot none;
-    kel_unlockVehicle(api, L"ECM", given.list(), given.count(), &none, &failed);
-    ASSERT_FALSE(none);
+    ASSERT_SUCCEEDS(ok, kel_unlockVehicle(api, L"ECM", given.list(), given.count(), &ok, &failed));
     ASSERT_NE(failed, nullptr);
     EXPECT_EQ(failed->value, 0U);
     ASSERT_EQ(failed->serviceCount, 2U);
@@ -644,9 +640,7 @@ TEST_F(CyclicServicesConcurrency, AnUpdateReplacesTheServicesFromTheNextCycle) {
 
     Inputs second;
     second.add(L"ReadDataByIdentifier_F190").add(L"NoSuchService");
-    ErrorSlot error;
-    kel_updateCyclicServices(api, job, second.list(), second.count(), &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_updateCyclicServices(api, job, second.list(), second.count(), &ok));
     std::vector<Cyclic> seen;
     ASSERT_TRUE(eventually([&] {
         const auto more = fetch(job);

@@ -43,6 +43,14 @@ struct List {
     ~List() { Release(items, count); }
 };
 
+// Runs `call`, which reports into the error slot `slot` it names, and requires it to succeed.
+#define ASSERT_SUCCEEDS(slot, call)                                                                \
+    do {                                                                                           \
+        ::kel_test::ErrorSlot slot;                                                                \
+        call;                                                                                      \
+        ASSERT_FALSE(slot) << #call << ": error " << (slot)->code;                                 \
+    } while (false)
+
 // The list that `call(&error, &items, &count)` hands out; the call must succeed.
 template <class L, class Call>
 std::unique_ptr<L> fetch(Call call) {

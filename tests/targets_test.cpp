@@ -263,8 +263,7 @@ TEST_F(TargetsFamily, SessionFiltersAreStoredAndApplied) {
     FilterInput filters;
     filters.add(L"A*", true, -3);
     ErrorSlot error;
-    kel_setSessionTargetFilters(api, &error, filters.items.data(), 1);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setSessionTargetFilters(api, &ok, filters.items.data(), 1));
     const auto stored = sessionFilters(api);
     ASSERT_EQ(stored->count, 1U);
     EXPECT_STREQ(stored->items[0]->pattern, L"A*");
@@ -302,9 +301,7 @@ TEST_F(TargetsFamily, StatusReportsEachTarget) {
     EXPECT_STREQ(out->items[1]->text, L"not responding");
 
     // Operations need an initialized engine.
-    ErrorSlot error;
-    kel_end(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_end(api, &ok));
     Idents none;
     EXPECT_ENGINE_ERROR(ended, 1001, kel_identifyAllTargets(api, &ended, &none.items, &none.count));
 }

@@ -285,10 +285,8 @@ TEST_F(VehicleReportsTest, VehicleDataShowsAnIncompleteUpdate) {
 }
 
 TEST_F(VehicleReportsTest, VehicleDataIsReadOverTheBus) {
-    ErrorSlot error;
     uint64_t monitor = 0;
-    kel_createPduMonitor(api, &error, &monitor);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_createPduMonitor(api, &ok, &monitor));
     vehicleData();
     const auto items = fetch<List<PduMonitoringItem, release_PduMonitoringItem_array>>(
         [&](auto... out) { kel_getPduMonitoringItems(api, monitor, 0, 0, out...); });
@@ -302,8 +300,7 @@ TEST_F(VehicleReportsTest, VehicleDataIsReadOverTheBus) {
     EXPECT_NE(std::find(ecmRequests.begin(), ecmRequests.end(), "22 F1 89"), ecmRequests.end());
     EXPECT_NE(std::find(ecmRequests.begin(), ecmRequests.end(), "19 02 FF"), ecmRequests.end());
 
-    kel_disconnectInterfaces(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_disconnectInterfaces(api, &ok));
     Data none;
     EXPECT_ENGINE_ERROR(offline, 1404, kel_getVehicleData(api, &offline, &none.items, &none.count));
 }
