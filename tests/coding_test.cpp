@@ -12,6 +12,7 @@
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::fetch;
@@ -122,8 +123,7 @@ TEST_F(CodingTest, ACodingFileIsWrittenByServiceAndReadBack) {
     auto refused = writeFile(L"exchange/coding/bcm.txt");
     ASSERT_EQ(refused->count, 1U);
     EXPECT_EQ(refused->items[0]->status, 3);
-    ASSERT_NE(refused->items[0]->error, nullptr);
-    EXPECT_EQ(refused->items[0]->error->code, 1806);
+    ASSERT_EQ(codeIn(refused->items[0]->error), 1806);
     ASSERT_NE(refused->items[0]->error->negativeResponse, nullptr);
     EXPECT_EQ(refused->items[0]->error->negativeResponse->code, 0x7F);
     EXPECT_EQ(readCoding(), L"01A2003C");

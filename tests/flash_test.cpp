@@ -17,6 +17,7 @@
 namespace {
 
 using kel_test::AsyncWatch;
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::fetch;
@@ -102,8 +103,7 @@ TEST_F(FlashTest, WithoutProgrammingSessionOrSecurityTheUnitRefusesAndKeepsItsSo
     auto refused = flash({L"ECM_SW_5430"});
     const FlashSessionResult& r = *refused->items[0];
     EXPECT_EQ(r.status, 2);
-    ASSERT_NE(r.error, nullptr);
-    EXPECT_EQ(r.error->code, 1700);
+    ASSERT_EQ(codeIn(r.error), 1700);
     ASSERT_NE(r.error->negativeResponse, nullptr);
     EXPECT_EQ(r.error->negativeResponse->code, 0x7F); // serviceNotSupportedInActiveSession
     EXPECT_STREQ(r.versionBefore, L"5428");
@@ -313,8 +313,7 @@ TEST_F(FlashTest, AnImageTheUnitRejectsLeavesItIncompleteAndASilentUnitIsReporte
 
     auto mute = flash({L"Mute"}, L"MUTE");
     EXPECT_EQ(mute->items[0]->status, 2);
-    ASSERT_NE(mute->items[0]->error, nullptr);
-    EXPECT_EQ(mute->items[0]->error->code, 1010);
+    ASSERT_EQ(codeIn(mute->items[0]->error), 1010);
 }
 
 TEST_F(FlashTest, ADescriptionWhoseSessionsCannotBeFlashedIsRefused) {
@@ -354,8 +353,7 @@ TEST_F(FlashTest, QuickTestIdentifiesAndReadsEveryUnitInOnePass) {
         if (std::wstring(r.target) == L"ACC") {
             EXPECT_EQ(r.status, 1);
             EXPECT_EQ(r.identified, 0);
-            ASSERT_NE(r.error, nullptr);
-            EXPECT_EQ(r.error->code, 1010);
+            ASSERT_EQ(codeIn(r.error), 1010);
         } else {
             EXPECT_EQ(r.status, 0) << r.target;
             EXPECT_EQ(r.identified, 1) << r.target;

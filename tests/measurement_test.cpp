@@ -18,6 +18,7 @@
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
@@ -170,8 +171,7 @@ TEST_F(MeasurementTest, DescriptionsGiveUnitAndRange) {
     ASSERT_EQ(some.count, 2U);
     EXPECT_STREQ(some.items[0]->text2, L"%");
     EXPECT_EQ(some.items[0]->error, nullptr);
-    ASSERT_NE(some.items[1]->error, nullptr);
-    EXPECT_EQ(some.items[1]->error->code, 1900);
+    ASSERT_EQ(codeIn(some.items[1]->error), 1900);
 
     Infos none;
     EXPECT_ENGINE_ERROR(
@@ -194,8 +194,7 @@ TEST_F(MeasurementTest, ReadsGoOverTheBusWithPerValueAndPerTargetErrors) {
     ASSERT_EQ(out.items[0]->parameterCount, 2U);
     EXPECT_STREQ(out.items[0]->parameters[0]->text2, L"degC");
     ASSERT_EQ(out.items[0]->parameters[0]->dataLength, 1U);
-    ASSERT_NE(out.items[0]->parameters[1]->error, nullptr);
-    EXPECT_EQ(out.items[0]->parameters[1]->error->code, 1900);
+    ASSERT_EQ(codeIn(out.items[0]->parameters[1]->error), 1900);
 
     TransmissionInfo* after = nullptr;
     kel_getTransmissionInfo(api, &error, &after);
@@ -209,8 +208,7 @@ TEST_F(MeasurementTest, ReadsGoOverTheBusWithPerValueAndPerTargetErrors) {
         ok, kel_readMeasurementValues(api, L"MUTE", nullptr, 0, &ok, &silent.items, &silent.count));
     ASSERT_EQ(silent.count, 1U);
     EXPECT_EQ(silent.items[0]->status, 1);
-    ASSERT_NE(silent.items[0]->error, nullptr);
-    EXPECT_EQ(silent.items[0]->error->code, 1010);
+    ASSERT_EQ(codeIn(silent.items[0]->error), 1010);
 
     EXPECT_EQ(read({}).size(), 5U) << "no names: every value";
 }

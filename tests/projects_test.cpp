@@ -26,6 +26,7 @@
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::ErrorSlot;
 using kel_test::fetch;
 using kel_test::fetchRecord;
@@ -301,8 +302,7 @@ TEST_F(ProjectsTest, DatabaseFilesLoadAndUnloadWithAnErrorPerFile) {
     EXPECT_EQ(std::wstring(details->dbFiles2[1]->name), L"second.kdb");
     ASSERT_EQ(details->dbFileCount1, 3u); // every database file in the folder, by name
     EXPECT_EQ(std::wstring(details->dbFiles1[0]->name), L"notes.kdb");
-    ASSERT_NE(details->dbFiles1[0]->error, nullptr);
-    EXPECT_EQ(details->dbFiles1[0]->error->code, 1204);
+    ASSERT_EQ(codeIn(details->dbFiles1[0]->error), 1204);
     EXPECT_EQ(details->dbFiles1[0]->loaded, 0);
     EXPECT_EQ(details->dbFiles1[1]->loaded, 1);
     EXPECT_EQ(details->dbFiles1[1]->size, database.size());
@@ -313,8 +313,7 @@ TEST_F(ProjectsTest, DatabaseFilesLoadAndUnloadWithAnErrorPerFile) {
     ASSERT_EQ(unloaded->count, 2u);
     EXPECT_EQ(unloaded->items[0]->error, nullptr);
     EXPECT_EQ(unloaded->items[0]->flag, 0);
-    ASSERT_NE(unloaded->items[1]->error, nullptr);
-    EXPECT_EQ(unloaded->items[1]->error->code, 1205);
+    ASSERT_EQ(codeIn(unloaded->items[1]->error), 1205);
     EXPECT_EQ(statusInfo()->value5, 1u);
 }
 

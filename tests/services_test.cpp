@@ -19,6 +19,7 @@
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::fetch;
@@ -189,8 +190,7 @@ TEST_F(ServicesTest, AParameterTreeReachesTheUnitWithItsShape) {
     for (uint32_t i = 1; i < 3; ++i) {
         const ServiceResult& refused = *results->items[i];
         EXPECT_EQ(refused.status, 3);
-        ASSERT_NE(refused.error, nullptr);
-        EXPECT_EQ(refused.error->code, 1101);
+        ASSERT_EQ(codeIn(refused.error), 1101);
         EXPECT_EQ(refused.request, nullptr) << "nothing was sent";
     }
     EXPECT_NE(std::wstring(results->items[1]->error->details).find(L"Settings.Speed"),
@@ -210,8 +210,7 @@ TEST_F(ServicesTest, NegativeResponsesCarryTheirBytes) {
     EXPECT_EQ(write.status, 1);
     EXPECT_STREQ(write.text1, L"serviceNotSupportedInActiveSession");
     EXPECT_EQ(responseOf(write), (Bytes{0x7F, 0x2E, 0x7F}));
-    ASSERT_NE(write.error, nullptr) << "the service's error is its response's";
-    EXPECT_EQ(write.error->code, 1102);
+    ASSERT_EQ(codeIn(write.error), 1102) << "the service's error is its response's";
     ASSERT_NE(write.error->negativeResponse, nullptr);
     EXPECT_EQ(write.error->negativeResponse->value1, 0x2EU) << "the service id";
     EXPECT_EQ(responseShape(write), L"SIDRQ=2E,NRC=serviceNotSupportedInActiveSession");

@@ -164,6 +164,9 @@ inline uint64_t handleOf(TarnApi* object) {
     return handle;
 }
 
+// The code of an error record, 0 for none.
+inline int32_t codeIn(const KelError* error) { return error != nullptr ? error->code : 0; }
+
 // The error code of `call(&error)`, 0 when it succeeded.
 template <class Call>
 int32_t errorCodeOf(Call call) {

@@ -12,6 +12,7 @@
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
@@ -72,16 +73,14 @@ TEST_F(TargetsFamily, IdentificationGivesVariantsValuesAndAnErrorPerUnit) {
     EXPECT_EQ(all->items[0]->status, 0);
     EXPECT_STREQ(all->items[5]->target, L"ACC");
     EXPECT_STREQ(all->items[5]->variant, L"");
-    ASSERT_NE(all->items[5]->error, nullptr);
-    EXPECT_EQ(all->items[5]->error->code, 1010);
+    ASSERT_EQ(codeIn(all->items[5]->error), 1010);
 
     const wchar_t* names[] = {L"TCM", L"Nope"};
     const auto out = fetch<Idents>(
         [&](auto... o) { kel_identifyTargets(api, const_cast<wchar_t**>(names), 2, o...); });
     ASSERT_EQ(out->count, 2U);
     EXPECT_STREQ(out->items[0]->variant, L"TCM_DQ250_6F_V2");
-    ASSERT_NE(out->items[1]->error, nullptr);
-    EXPECT_EQ(out->items[1]->error->code, 1011);
+    ASSERT_EQ(codeIn(out->items[1]->error), 1011);
 
     const auto one = kel_test::fetchRecord(
         release_VariantIdentResult, [&](auto... o) { kel_identifyTarget(api, L"ESP", o...); });
@@ -112,8 +111,7 @@ TEST_F(TargetsFamily, IdentificationGivesVariantsValuesAndAnErrorPerUnit) {
     ASSERT_EQ(read->count, 1U);
     ASSERT_EQ(read->items[0]->parameterCount, 2U);
     EXPECT_STREQ(read->items[0]->parameters[0]->text1, L"03L 906 018 JH");
-    ASSERT_NE(read->items[0]->parameters[1]->error, nullptr) << "per-parameter error";
-    EXPECT_EQ(read->items[0]->parameters[1]->error->code, 1014);
+    ASSERT_EQ(codeIn(read->items[0]->parameters[1]->error), 1014) << "per-parameter error";
 }
 
 TEST_F(TargetsFamily, TargetsCarryTheirAliasesAndIdentification) {
