@@ -180,10 +180,12 @@ TEST_F(MeasurementTest, DescriptionsGiveUnitAndRange) {
 }
 
 TEST_F(MeasurementTest, ReadsGoOverTheBusWithPerValueAndPerTargetErrors) {
-    TransmissionInfo* before = nullptr;
-    ErrorSlot error;
-    kel_getTransmissionInfo(api, &error, &before);
-    ASSERT_NE(before, nullptr);
+    const auto requestsSent = [&] {
+        return kel_test::fetchRecord(release_TransmissionInfo,
+                                     [&](auto... out) { kel_getTransmissionInfo(api, out...); })
+            ->value1;
+    };
+    const uint64_t before = requestsSent();
 
     auto which = names({L"Coolant", L"Nope"});
     Reads out;
@@ -196,12 +198,7 @@ TEST_F(MeasurementTest, ReadsGoOverTheBusWithPerValueAndPerTargetErrors) {
     ASSERT_EQ(out.items[0]->parameters[0]->dataLength, 1U);
     ASSERT_EQ(codeIn(out.items[0]->parameters[1]->error), 1900);
 
-    TransmissionInfo* after = nullptr;
-    kel_getTransmissionInfo(api, &error, &after);
-    ASSERT_NE(after, nullptr);
-    EXPECT_EQ(after->value1 - before->value1, 1U) << "one ReadDataByIdentifier, none for Nope";
-    release_TransmissionInfo(before);
-    release_TransmissionInfo(after);
+    EXPECT_EQ(requestsSent() - before, 1U) << "one ReadDataByIdentifier, none for Nope";
 
     Reads silent;
     ASSERT_SUCCEEDS(
