@@ -327,14 +327,12 @@ TEST_F(InterfacesConcurrency, AsynchronousDetectionAndScanReportAsTheirSynchrono
 }
 
 std::vector<std::wstring> clearCollection(TarnApi* api) {
-    ErrorSlot error;
-    List<KelError, release_KelError_array> errors;
-    kel_clearDoIPEcuCollection(api, &error, &errors.items, &errors.count);
-    EXPECT_FALSE(error);
+    const auto errors = fetch<List<KelError, release_KelError_array>>(
+        [&](auto... out) { kel_clearDoIPEcuCollection(api, out...); });
     std::vector<std::wstring> out;
-    for (uint32_t i = 0; i < errors.count; ++i) {
-        EXPECT_EQ(errors.items[i]->code, 1407);
-        out.emplace_back(errors.items[i]->details);
+    for (uint32_t i = 0; i < errors->count; ++i) {
+        EXPECT_EQ(errors->items[i]->code, 1407);
+        out.emplace_back(errors->items[i]->details);
     }
     return out;
 }
@@ -398,13 +396,14 @@ TEST_F(Interfaces, PinStateAndWLanBelongToTheirInterface) {
     kel_getEthernetPinState(api, L"VCI1", &error, &state);
     EXPECT_EQ(state, 3u);
 
-    WLanSignalData* wlan = nullptr;
-    kel_getWLanSignalData(api, L"WVCI-7", &error, &wlan);
-    ASSERT_NE(wlan, nullptr);
+    const auto wlan = kel_test::fetchRecord(release_WLanSignalData, [&](auto... out) {
+        kel_getWLanSignalData(api, L"WVCI-7", out...);
+    });
+    ASSERT_NE(wlan.get(), nullptr);
     EXPECT_EQ(wlan->value11, 80);
     EXPECT_STREQ(wlan->text, L"Workshop-Diag");
-    release_WLanSignalData(wlan);
-    EXPECT_ENGINE_ERROR(noWLan, 1405, kel_getWLanSignalData(api, L"VCI1", &noWLan, &wlan));
+    WLanSignalData* none = nullptr;
+    EXPECT_ENGINE_ERROR(noWLan, 1405, kel_getWLanSignalData(api, L"VCI1", &noWLan, &none));
 }
 
 TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {

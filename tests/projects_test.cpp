@@ -374,9 +374,7 @@ TEST_F(ProjectsTest, SystemPropertiesFormATreeAndAResetRestoresTheDefaults) {
     engine = property(L"Engine");
     replace(engine->children[0]->text1, L"fr");
     replace(engine->children[2]->itemText1, L"Engine.Nothing");
-    kel_setSystemProperty(api, engine, &error);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1208);
+    EXPECT_ENGINE_ERROR(unknown, 1208, kel_setSystemProperty(api, engine, &unknown));
     SystemProperty* language = property(L"Engine.Language");
     EXPECT_EQ(std::wstring(language->text1), L"en");
     release_SystemProperty(language);
