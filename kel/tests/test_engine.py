@@ -3,7 +3,9 @@ answers is the C++ family tests' to check; the conversions are the conformance s
 
 from __future__ import annotations
 
+import os
 import unittest
+import unittest.mock
 
 import kel
 
@@ -111,19 +113,11 @@ class Errors(EngineTest):
 
 class LibraryLookup(unittest.TestCase):
     def test_the_environment_variable_comes_first_and_alone(self) -> None:
-        import os
-        old = os.environ.get(kel.ENVIRONMENT)
-        try:
-            os.environ[kel.ENVIRONMENT] = "/nowhere/libkel_c.so"
+        with unittest.mock.patch.dict(os.environ, {kel.ENVIRONMENT: "/nowhere/libkel_c.so"}):
             self.assertEqual([str(p) for p in kel.candidates()], ["/nowhere/libkel_c.so"])
             with self.assertRaises(kel.LibraryNotFound) as raised:
                 kel.load("/nowhere/libkel_c.so")
             self.assertIn("/nowhere/libkel_c.so", str(raised.exception))
-        finally:
-            if old is None:
-                del os.environ[kel.ENVIRONMENT]
-            else:
-                os.environ[kel.ENVIRONMENT] = old
 
 
 if __name__ == "__main__":

@@ -104,13 +104,15 @@ class GeneratedPackage:
 
 class Generated(unittest.TestCase):
     def setUp(self) -> None:
-        self.package = GeneratedPackage(RECORDS)
+        self.package = self.built(RECORDS)
         self.records = self.package.module("records")
         self.stream = self.package.module("stream")
         self.iface = self.package.iface
 
-    def tearDown(self) -> None:
-        self.package.close()
+    def built(self, records: str) -> GeneratedPackage:
+        package = GeneratedPackage(records)
+        self.addCleanup(package.close)
+        return package
 
     def value(self, variant: int) -> conformance.Rec:
         model = conformance.Model(self.iface, conformance.VARIANTS[variant], 7)
@@ -159,19 +161,13 @@ class Generated(unittest.TestCase):
         self.assertFalse(hasattr(self.records, "Later"))
         self.assertFalse(hasattr(operations, "read_later"))
         self.assertTrue(hasattr(operations, "read_things_async"))
-        built = GeneratedPackage(RECORDS.replace("record Later draft", "record Later"))
-        try:
-            self.assertTrue(hasattr(built.module("records"), "Later"))
-            self.assertTrue(hasattr(built.module("operations").Operations, "read_later"))
-        finally:
-            built.close()
+        built = self.built(RECORDS.replace("record Later draft", "record Later"))
+        self.assertTrue(hasattr(built.module("records"), "Later"))
+        self.assertTrue(hasattr(built.module("operations").Operations, "read_later"))
         # A draft record inside another holds back the outer one too.
-        nested = GeneratedPackage(RECORDS.replace("    wstr outward out\n", "    wstr outward out\n    rec Later later\n"))
-        try:
-            self.assertFalse(hasattr(nested.module("records"), "Thing"))
-            self.assertFalse(hasattr(nested.module("operations").Operations, "read_thing"))
-        finally:
-            nested.close()
+        nested = self.built(RECORDS.replace("    wstr outward out\n", "    wstr outward out\n    rec Later later\n"))
+        self.assertFalse(hasattr(nested.module("records"), "Thing"))
+        self.assertFalse(hasattr(nested.module("operations").Operations, "read_thing"))
 
 
 if __name__ == "__main__":
