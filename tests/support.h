@@ -1,5 +1,6 @@
 // Shared pieces of the tests: a fixture that hands each test a fresh, initialised
-// engine with nothing scripted, and small helpers for error records.
+// engine with nothing scripted, small helpers for error records, for calls that must
+// succeed and for the reports of asynchronous calls.
 #pragma once
 
 #include <Kel_cpp/Engine.h>
@@ -16,6 +17,7 @@
 #include <memory>
 #include <mutex>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace kel_test {
