@@ -145,85 +145,65 @@ using VehicleConcurrency = EngineTest;
 TEST_F(VehicleConcurrency, FamiliesShareOneVehicleFromManyThreads) {
     constexpr int rounds = 150;
     ErrorSlot error;
-    uint64_t self = 0;
-    kel_getHandle(api, &error, &self);
-    TarnApi* remote = kel_getRemoteConnectionByHandle(self, &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(kel_test::handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
 
     std::atomic<int> failures{0};
-    const auto check = [&](KelError* e) {
-        if (e != nullptr) {
-            ++failures;
-            release_KelError(e);
-        }
-    };
-    const wchar_t* ecm[] = {L"ECM"};
     std::vector<std::thread> threads;
-    threads.emplace_back([&] { // Lifecycle, through the remote connection
-        for (int i = 0; i < rounds; ++i) {
-            KelError* e = nullptr;
-            uint64_t lockId = 0;
-            kel_lock(remote, &e, &lockId);
-            if (e == nullptr) {
-                kel_unlock(remote, lockId, &e);
+    // Runs `round` `times` on a thread of its own; a round that fails, or whose answer no
+    // order of the calls explains, is a failure.
+    const auto spawn = [&](int times, auto round) {
+        threads.emplace_back([&failures, times, round] {
+            for (int i = 0; i < times; ++i) {
+                ErrorSlot e;
+                failures += round(&e) && !e ? 0 : 1;
             }
-            check(e);
+        });
+    };
+    wchar_t* ecm[] = {const_cast<wchar_t*>(L"ECM")};
+    spawn(rounds, [&](KelError** e) { // Lifecycle, through the remote connection
+        uint64_t lockId = 0;
+        kel_lock(remote, e, &lockId);
+        if (*e == nullptr) {
+            kel_unlock(remote, lockId, e);
         }
+        return true;
     });
-    threads.emplace_back([&] { // Events
-        for (int i = 0; i < rounds; ++i) {
-            KelError* e = nullptr;
-            uint64_t channel = 0;
-            kel_openEventChannel(remote, &e, &channel);
-            if (e == nullptr) {
-                kel_closeEventChannel(api, channel, &e);
-            }
-            check(e);
+    spawn(rounds, [&](KelError** e) { // Events
+        uint64_t channel = 0;
+        kel_openEventChannel(remote, e, &channel);
+        if (*e == nullptr) {
+            kel_closeEventChannel(api, channel, e);
         }
+        return true;
     });
-    threads.emplace_back([&] { // Diagnostics: the fault memory is whole or cleared
-        for (int i = 0; i < rounds; ++i) {
-            KelError* e = nullptr;
-            DtcLists read;
-            kel_readDtcs(api, const_cast<wchar_t**>(ecm), 1, nullptr, &e, &read.items, &read.count);
-            check(e);
-            if (read.count != 1 || (read.items[0]->dtcCount != 2 && read.items[0]->dtcCount != 0)) {
-                ++failures;
-            }
-        }
+    spawn(rounds, [&](KelError** e) { // Diagnostics: the fault memory is whole or cleared
+        DtcLists read;
+        kel_readDtcs(api, ecm, 1, nullptr, e, &read.items, &read.count);
+        return read.count == 1 && (read.items[0]->dtcCount == 2 || read.items[0]->dtcCount == 0);
     });
-    threads.emplace_back([&] { // clears and reloads of the description
-        for (int i = 0; i < rounds / 3; ++i) {
-            KelError* e = nullptr;
-            ClearLists cleared;
-            kel_clearAllDtcs(remote, const_cast<wchar_t**>(ecm), 1, &e, &cleared.items,
-                             &cleared.count);
-            check(e);
-            kelsim_reloadVehicle();
-        }
+    spawn(rounds / 3, [&](KelError** e) { // clears and reloads of the description
+        ClearLists cleared;
+        kel_clearAllDtcs(remote, ecm, 1, e, &cleared.items, &cleared.count);
+        kelsim_reloadVehicle();
+        return true;
     });
-    threads.emplace_back([&] { // session filters: set, or gone with a reload
-        auto* filter = static_cast<TargetFilter*>(allocate_Memory(sizeof(TargetFilter)));
-        filter->pattern = duplicate_WString(L"E*");
-        filter->flag = 0;
-        filter->value = 0;
-        for (int i = 0; i < rounds; ++i) {
-            KelError* e = nullptr;
-            kel_setSessionTargetFilters(api, &e, &filter, 1);
-            check(e);
-            e = nullptr;
-            List<Target, release_Target_array> targets;
-            kel_getFilteredTargets(remote, nullptr, 0, &e, &targets.items, &targets.count);
-            check(e);
-            if (targets.count != 2 && targets.count != 6) {
-                ++failures;
-            }
+    auto* filter = static_cast<TargetFilter*>(allocate_Memory(sizeof(TargetFilter)));
+    filter->pattern = duplicate_WString(L"E*");
+    filter->flag = 0;
+    filter->value = 0;
+    spawn(rounds, [&](KelError** e) { // session filters: set, or gone with a reload
+        List<Target, release_Target_array> targets;
+        kel_setSessionTargetFilters(api, e, &filter, 1);
+        if (*e == nullptr) {
+            kel_getFilteredTargets(remote, nullptr, 0, e, &targets.items, &targets.count);
         }
-        release_TargetFilter(filter);
+        return targets.count == 2 || targets.count == 6;
     });
     for (auto& t : threads) {
         t.join();
     }
+    release_TargetFilter(filter);
     releaseTarnApi(remote);
     EXPECT_EQ(failures.load(), 0);
 }
