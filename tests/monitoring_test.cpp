@@ -115,11 +115,14 @@ protected:
         call(api, handle, &error);
         return error ? error->code : 0;
     }
-    std::string apiTrace(uint64_t monitor, uint32_t most = 0, int32_t keep = 0) {
+    // The content of an API trace monitor, read through `from` (the engine by default).
+    std::string apiTrace(uint64_t monitor, uint32_t most = 0, int32_t keep = 0,
+                         TarnApi* from = nullptr) {
         ErrorSlot error;
         void* data = nullptr;
         uint32_t length = 0;
-        kel_getApiTraceContent(api, monitor, most, keep, &error, &data, &length);
+        kel_getApiTraceContent(from != nullptr ? from : api, monitor, most, keep, &error, &data,
+                               &length);
         EXPECT_FALSE(error);
         EXPECT_NE(data, nullptr); // allocated also for 0 bytes
         std::string text(static_cast<const char*>(data), length);
@@ -419,9 +422,7 @@ TEST_F(Monitoring, AnOperatorsApiTraceShowsOnlyItsOwnCalls) {
     kel_initialize(api, &error);
     kel_addUser(api, L"op", L"op-password", 1, &error);
     kel_setServerUserManagement(api, 1, &error);
-    uint64_t handle = 0;
-    kel_getHandle(api, &error, &handle);
-    TarnApi* client = kel_getRemoteConnectionByHandle(handle, &error);
+    TarnApi* client = kel_getRemoteConnectionByHandle(kel_test::handleOf(api), &error);
     auto* login = static_cast<LogInOutConfig*>(allocate_Memory(sizeof(LogInOutConfig)));
     login->user = duplicate_WString(L"op");
     login->password = duplicate_WString(L"op-password");
@@ -440,12 +441,7 @@ TEST_F(Monitoring, AnOperatorsApiTraceShowsOnlyItsOwnCalls) {
     kel_getState(client, &error, &state);
     ASSERT_FALSE(error) << error->code;
 
-    void* data = nullptr;
-    uint32_t length = 0;
-    kel_getApiTraceContent(client, own, 0, 0, &error, &data, &length);
-    ASSERT_FALSE(error) << error->code;
-    const std::string mine(static_cast<const char*>(data), length);
-    release_Memory(data);
+    const std::string mine = apiTrace(own, 0, 0, client);
     const auto lines = traceLines(mine);
     ASSERT_EQ(lines.size(), 1u) << mine;
     EXPECT_EQ(lines[0][2], "getState");
@@ -453,6 +449,8 @@ TEST_F(Monitoring, AnOperatorsApiTraceShowsOnlyItsOwnCalls) {
     EXPECT_NE(everything.find("writeFile"), std::string::npos) << everything;
     EXPECT_NE(everything.find("getState"), std::string::npos) << everything;
 
+    void* data = nullptr;
+    uint32_t length = 0;
     EXPECT_ENGINE_ERROR(unread, UnknownMonitor,
                         kel_getApiTraceContent(client, all, 0, 0, &unread, &data, &length));
     EXPECT_ENGINE_ERROR(unreleased, UnknownMonitor,
