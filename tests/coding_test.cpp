@@ -34,13 +34,11 @@ protected:
     }
     // The vehicle unlock of the BCM: extended session, level 1, which its coding needs.
     void unlockBcm() {
-        ErrorSlot error;
-        UnlockResult* result = nullptr;
-        kel_unlockVehicle(api, L"BCM", nullptr, 0, &error, &result);
-        ASSERT_FALSE(error);
+        const auto result = kel_test::fetchRecord(release_UnlockResult, [&](auto... out) {
+            kel_unlockVehicle(api, L"BCM", nullptr, 0, out...);
+        });
         ASSERT_NE(result, nullptr);
         EXPECT_NE(result->value, 0U);
-        release_UnlockResult(result);
     }
     // The codings of `targets` (none: every coded unit).
     std::unique_ptr<Codings> codings(std::vector<const wchar_t*> targets) {

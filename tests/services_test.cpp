@@ -134,12 +134,10 @@ protected:
         ASSERT_EQ(one(L"DiagnosticSessionControl", {param(L"Session", session)}).first, 0);
     }
     uint64_t unlock() {
-        ErrorSlot error;
-        UnlockResult* result = nullptr;
-        kel_unlockVehicle(api, L"ECM", nullptr, 0, &error, &result);
-        EXPECT_FALSE(error);
+        const auto result = kel_test::fetchRecord(release_UnlockResult, [&](auto... out) {
+            kel_unlockVehicle(api, L"ECM", nullptr, 0, out...);
+        });
         const uint64_t value = result != nullptr ? result->value : 0;
-        release_UnlockResult(result);
         EXPECT_NE(value, 0U);
         return value;
     }
