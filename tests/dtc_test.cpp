@@ -12,6 +12,7 @@
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
@@ -46,15 +47,21 @@ const ReadDtcResult* find(const DtcLists& list, const wchar_t* target) {
 }
 
 using Dtcs = EngineTest;
+using kel_test::fetch;
+
+std::unique_ptr<DtcLists> read(TarnApi* api, std::vector<const wchar_t*> names,
+                               DtcReadConfig* filter = nullptr, bool supported = false) {
+    auto* const call = supported ? kel_readSupportedDtcs : kel_readDtcs;
+    return fetch<DtcLists>([&](auto... out) {
+        call(api, const_cast<wchar_t**>(names.data()), static_cast<uint32_t>(names.size()), filter,
+             out...);
+    });
+}
 
 TEST_F(Dtcs, ReadGivesTheStoredDtcsWithTheirTrees) {
-    ErrorSlot error;
-    DtcLists out;
-    const wchar_t* names[] = {L"ECM", L"GW"};
-    kel_readDtcs(api, const_cast<wchar_t**>(names), 2, nullptr, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(out.count, 2U);
-    const ReadDtcResult& ecm = *out.items[0];
+    const auto out = read(api, {L"ECM", L"GW"});
+    ASSERT_EQ(out->count, 2U);
+    const ReadDtcResult& ecm = *out->items[0];
     EXPECT_EQ(codesOf(ecm), (std::vector<std::wstring>{L"P0301", L"P2463"}));
     EXPECT_EQ(ecm.value, 2) << "a stored-DTC count, which only readDtcs has";
     const DtcResult& misfire = *ecm.dtcs[0];
@@ -69,90 +76,63 @@ TEST_F(Dtcs, ReadGivesTheStoredDtcsWithTheirTrees) {
     ASSERT_EQ(misfire.specialDataGroupCount, 2U);
     EXPECT_STREQ(misfire.specialDataGroups[0]->items[0]->itemText2, L"23");
     EXPECT_EQ(ecm.dtcs[1]->specialDataGroupCount, 0U);
-    EXPECT_EQ(codesOf(*out.items[1]), (std::vector<std::wstring>{L"U0121"}));
+    EXPECT_EQ(codesOf(*out->items[1]), (std::vector<std::wstring>{L"U0121"}));
 
     // A config filters by status mask and leaves out the data not asked for.
-    DtcLists masked;
-    kel_readDtcs(api, const_cast<wchar_t**>(names), 1, config(0x01, true, false, false), &error,
-                 &masked.items, &masked.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(masked.count, 1U);
-    EXPECT_EQ(codesOf(*masked.items[0]), (std::vector<std::wstring>{L"P0301"}))
+    const auto masked = read(api, {L"ECM"}, config(0x01, true, false, false));
+    ASSERT_EQ(masked->count, 1U);
+    EXPECT_EQ(codesOf(*masked->items[0]), (std::vector<std::wstring>{L"P0301"}))
         << "status mask 0x01 keeps the DTC whose test fails now";
-    EXPECT_EQ(masked.items[0]->dtcs[0]->parameterCount1, 3U);
-    EXPECT_EQ(masked.items[0]->dtcs[0]->parameterCount2, 0U) << "extended data not asked for";
-    EXPECT_EQ(masked.items[0]->dtcs[0]->specialDataGroupCount, 0U);
+    EXPECT_EQ(masked->items[0]->dtcs[0]->parameterCount1, 3U);
+    EXPECT_EQ(masked->items[0]->dtcs[0]->parameterCount2, 0U) << "extended data not asked for";
+    EXPECT_EQ(masked->items[0]->dtcs[0]->specialDataGroupCount, 0U);
 
     // No targets: every unit; the silent one fails on its own and the call succeeds.
-    DtcLists all;
-    kel_readDtcs(api, nullptr, 0, nullptr, &error, &all.items, &all.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(all.count, 6U);
-    const ReadDtcResult* acc = find(all, L"ACC");
+    const auto all = read(api, {});
+    ASSERT_EQ(all->count, 6U);
+    const ReadDtcResult* acc = find(*all, L"ACC");
     ASSERT_NE(acc, nullptr);
-    ASSERT_NE(acc->error, nullptr);
-    EXPECT_EQ(acc->error->code, 1010);
+    ASSERT_EQ(codeIn(acc->error), 1010);
     ASSERT_NE(acc->error->mvciError, nullptr);
     EXPECT_STREQ(acc->error->mvciError->codeText, L"PDU_ERR_EVT_NOT_RESPONDING");
     EXPECT_EQ(acc->dtcCount, 0U);
     EXPECT_NE(acc->status, 0);
-}
 
-TEST_F(Dtcs, SupportedDtcsListEveryCodeAndLeaveValueZero) {
-    ErrorSlot error;
-    DtcLists out;
-    const wchar_t* names[] = {L"ECM", L"Nope"};
-    kel_readSupportedDtcs(api, const_cast<wchar_t**>(names), 2, config(0x01, false, false, false),
-                          &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(out.count, 2U);
-    // P0602 comes with the ECM's programming: stored while an update is incomplete.
-    EXPECT_EQ(codesOf(*out.items[0]),
+    // Supported DTCs list every code, the mask aside, and leave the count 0. P0602 comes
+    // with the ECM's programming: stored while an update is incomplete.
+    const auto supported = read(api, {L"ECM", L"Nope"}, config(0x01, false, false, false), true);
+    ASSERT_EQ(supported->count, 2U);
+    EXPECT_EQ(codesOf(*supported->items[0]),
               (std::vector<std::wstring>{L"P0301", L"P2463", L"P0087", L"P0401", L"P0602"}));
-    EXPECT_EQ(out.items[0]->status, 0);
-    ASSERT_NE(out.items[1]->error, nullptr);
-    EXPECT_EQ(out.items[1]->error->code, 1011);
+    EXPECT_EQ(supported->items[0]->status, 0);
+    ASSERT_EQ(codeIn(supported->items[1]->error), 1011);
 }
 
-TEST_F(Dtcs, ClearAllEmptiesTheFaultMemoryOfTheGivenTargets) {
-    ErrorSlot error;
-    ClearLists cleared;
+TEST_F(Dtcs, ClearsEmptyTheFaultMemoryOfTheGivenTargetsOrCodes) {
     const wchar_t* names[] = {L"ECM", L"ACC"};
-    kel_clearAllDtcs(api, const_cast<wchar_t**>(names), 2, &error, &cleared.items, &cleared.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(cleared.count, 2U);
-    EXPECT_STREQ(cleared.items[0]->target, L"ECM");
-    EXPECT_EQ(cleared.items[0]->status, 0);
-    EXPECT_EQ(cleared.items[0]->error, nullptr);
-    ASSERT_NE(cleared.items[1]->error, nullptr);
-    EXPECT_EQ(cleared.items[1]->error->code, 1010);
+    const auto cleared = fetch<ClearLists>(
+        [&](auto... out) { kel_clearAllDtcs(api, const_cast<wchar_t**>(names), 2, out...); });
+    ASSERT_EQ(cleared->count, 2U);
+    EXPECT_STREQ(cleared->items[0]->target, L"ECM");
+    EXPECT_EQ(cleared->items[0]->status, 0);
+    EXPECT_EQ(cleared->items[0]->error, nullptr);
+    ASSERT_EQ(codeIn(cleared->items[1]->error), 1010);
 
-    DtcLists after;
-    kel_readDtcs(api, nullptr, 0, nullptr, &error, &after.items, &after.count);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(find(after, L"ECM")->dtcCount, 0U);
-    EXPECT_EQ(find(after, L"ECM")->dtcs, nullptr);
-    EXPECT_EQ(find(after, L"TCM")->dtcCount, 1U) << "other targets keep their DTCs";
-
-    DtcLists supported;
-    kel_readSupportedDtcs(api, nullptr, 0, nullptr, &error, &supported.items, &supported.count);
-    EXPECT_EQ(find(supported, L"ECM")->dtcCount, 5U)
+    const auto after = read(api, {});
+    EXPECT_EQ(find(*after, L"ECM")->dtcCount, 0U);
+    EXPECT_EQ(find(*after, L"ECM")->dtcs, nullptr);
+    EXPECT_EQ(find(*after, L"TCM")->dtcCount, 1U) << "other targets keep their DTCs";
+    EXPECT_EQ(find(*read(api, {}, nullptr, true), L"ECM")->dtcCount, 5U)
         << "clearing does not change what is supported";
-}
 
-TEST_F(Dtcs, ClearSpecificRemovesOnlyTheGivenCodes) {
-    ErrorSlot error;
-    ClearLists cleared;
+    // A specific clear removes only the given codes; an unknown one is no error.
+    kelsim_reloadVehicle();
     const uint32_t codes[] = {0x030100, 0x123456};
-    kel_clearSpecificDtcs(api, L"ECM", codes, 2, &error, &cleared.items, &cleared.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(cleared.count, 1U);
-    EXPECT_EQ(cleared.items[0]->error, nullptr);
-
-    DtcLists after;
-    const wchar_t* names[] = {L"ECM"};
-    kel_readDtcs(api, const_cast<wchar_t**>(names), 1, nullptr, &error, &after.items, &after.count);
-    EXPECT_EQ(codesOf(*after.items[0]), (std::vector<std::wstring>{L"P2463"}));
+    const auto specific = fetch<ClearLists>(
+        [&](auto... out) { kel_clearSpecificDtcs(api, L"ECM", codes, 2, out...); });
+    ASSERT_EQ(specific->count, 1U);
+    EXPECT_EQ(specific->items[0]->error, nullptr);
+    EXPECT_EQ(codesOf(*read(api, {L"ECM"})->items[0]), (std::vector<std::wstring>{L"P2463"}));
 }
 
 using VehicleConcurrency = EngineTest;
@@ -165,85 +145,65 @@ using VehicleConcurrency = EngineTest;
 TEST_F(VehicleConcurrency, FamiliesShareOneVehicleFromManyThreads) {
     constexpr int rounds = 150;
     ErrorSlot error;
-    uint64_t self = 0;
-    kel_getHandle(api, &error, &self);
-    TarnApi* remote = kel_getRemoteConnectionByHandle(self, &error);
+    TarnApi* remote = kel_getRemoteConnectionByHandle(kel_test::handleOf(api), &error);
     ASSERT_NE(remote, nullptr);
 
     std::atomic<int> failures{0};
-    const auto check = [&](KelError* e) {
-        if (e != nullptr) {
-            ++failures;
-            release_KelError(e);
-        }
-    };
-    const wchar_t* ecm[] = {L"ECM"};
     std::vector<std::thread> threads;
-    threads.emplace_back([&] { // Lifecycle, through the remote connection
-        for (int i = 0; i < rounds; ++i) {
-            KelError* e = nullptr;
-            uint64_t lockId = 0;
-            kel_lock(remote, &e, &lockId);
-            if (e == nullptr) {
-                kel_unlock(remote, lockId, &e);
+    // Runs `round` `times` on a thread of its own; a round that fails, or whose answer no
+    // order of the calls explains, is a failure.
+    const auto spawn = [&](int times, auto round) {
+        threads.emplace_back([&failures, times, round] {
+            for (int i = 0; i < times; ++i) {
+                ErrorSlot e;
+                failures += round(&e) && !e ? 0 : 1;
             }
-            check(e);
+        });
+    };
+    wchar_t* ecm[] = {const_cast<wchar_t*>(L"ECM")};
+    spawn(rounds, [&](KelError** e) { // Lifecycle, through the remote connection
+        uint64_t lockId = 0;
+        kel_lock(remote, e, &lockId);
+        if (*e == nullptr) {
+            kel_unlock(remote, lockId, e);
         }
+        return true;
     });
-    threads.emplace_back([&] { // Events
-        for (int i = 0; i < rounds; ++i) {
-            KelError* e = nullptr;
-            uint64_t channel = 0;
-            kel_openEventChannel(remote, &e, &channel);
-            if (e == nullptr) {
-                kel_closeEventChannel(api, channel, &e);
-            }
-            check(e);
+    spawn(rounds, [&](KelError** e) { // Events
+        uint64_t channel = 0;
+        kel_openEventChannel(remote, e, &channel);
+        if (*e == nullptr) {
+            kel_closeEventChannel(api, channel, e);
         }
+        return true;
     });
-    threads.emplace_back([&] { // Diagnostics: the fault memory is whole or cleared
-        for (int i = 0; i < rounds; ++i) {
-            KelError* e = nullptr;
-            DtcLists read;
-            kel_readDtcs(api, const_cast<wchar_t**>(ecm), 1, nullptr, &e, &read.items, &read.count);
-            check(e);
-            if (read.count != 1 || (read.items[0]->dtcCount != 2 && read.items[0]->dtcCount != 0)) {
-                ++failures;
-            }
-        }
+    spawn(rounds, [&](KelError** e) { // Diagnostics: the fault memory is whole or cleared
+        DtcLists read;
+        kel_readDtcs(api, ecm, 1, nullptr, e, &read.items, &read.count);
+        return read.count == 1 && (read.items[0]->dtcCount == 2 || read.items[0]->dtcCount == 0);
     });
-    threads.emplace_back([&] { // clears and reloads of the description
-        for (int i = 0; i < rounds / 3; ++i) {
-            KelError* e = nullptr;
-            ClearLists cleared;
-            kel_clearAllDtcs(remote, const_cast<wchar_t**>(ecm), 1, &e, &cleared.items,
-                             &cleared.count);
-            check(e);
-            kelsim_reloadVehicle();
-        }
+    spawn(rounds / 3, [&](KelError** e) { // clears and reloads of the description
+        ClearLists cleared;
+        kel_clearAllDtcs(remote, ecm, 1, e, &cleared.items, &cleared.count);
+        kelsim_reloadVehicle();
+        return true;
     });
-    threads.emplace_back([&] { // session filters: set, or gone with a reload
-        auto* filter = static_cast<TargetFilter*>(allocate_Memory(sizeof(TargetFilter)));
-        filter->pattern = duplicate_WString(L"E*");
-        filter->flag = 0;
-        filter->value = 0;
-        for (int i = 0; i < rounds; ++i) {
-            KelError* e = nullptr;
-            kel_setSessionTargetFilters(api, &e, &filter, 1);
-            check(e);
-            e = nullptr;
-            List<Target, release_Target_array> targets;
-            kel_getFilteredTargets(remote, nullptr, 0, &e, &targets.items, &targets.count);
-            check(e);
-            if (targets.count != 2 && targets.count != 6) {
-                ++failures;
-            }
+    auto* filter = static_cast<TargetFilter*>(allocate_Memory(sizeof(TargetFilter)));
+    filter->pattern = duplicate_WString(L"E*");
+    filter->flag = 0;
+    filter->value = 0;
+    spawn(rounds, [&](KelError** e) { // session filters: set, or gone with a reload
+        List<Target, release_Target_array> targets;
+        kel_setSessionTargetFilters(api, e, &filter, 1);
+        if (*e == nullptr) {
+            kel_getFilteredTargets(remote, nullptr, 0, e, &targets.items, &targets.count);
         }
-        release_TargetFilter(filter);
+        return targets.count == 2 || targets.count == 6;
     });
     for (auto& t : threads) {
         t.join();
     }
+    release_TargetFilter(filter);
     releaseTarnApi(remote);
     EXPECT_EQ(failures.load(), 0);
 }

@@ -17,8 +17,10 @@
 namespace {
 
 using kel_test::AsyncWatch;
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::fetch;
 using kel_test::List;
 using kel_test::zeroed;
 using namespace std::chrono_literals;
@@ -51,14 +53,10 @@ protected:
 
     // The software version as identification reads it from the unit (F189).
     std::wstring identifiedVersion() {
-        const wchar_t* targets[] = {L"ECM"};
-        ErrorSlot error;
-        List<ReadDataResult, release_ReadDataResult_array> out;
-        kel_readIdentificationValues(api, const_cast<wchar_t**>(targets), 1, &error, &out.items,
-                                     &out.count);
-        EXPECT_FALSE(error);
-        for (uint32_t i = 0; out.count == 1 && i < out.items[0]->parameterCount; ++i) {
-            const ParameterResult& p = *out.items[0]->parameters[i];
+        const auto out = fetch<List<ReadDataResult, release_ReadDataResult_array>>(
+            [&](auto... o) { kel_readIdentificationValues(api, ecm, 1, o...); });
+        for (uint32_t i = 0; out->count == 1 && i < out->items[0]->parameterCount; ++i) {
+            const ParameterResult& p = *out->items[0]->parameters[i];
             if (std::wstring(p.itemText2) == L"F189") {
                 return p.text1;
             }
@@ -67,45 +65,37 @@ protected:
     }
 
     bool programmingDtcStored() {
-        const wchar_t* targets[] = {L"ECM"};
-        ErrorSlot error;
-        List<ReadDtcResult, release_ReadDtcResult_array> out;
-        kel_readDtcs(api, const_cast<wchar_t**>(targets), 1, nullptr, &error, &out.items,
-                     &out.count);
-        EXPECT_FALSE(error);
-        for (uint32_t i = 0; out.count == 1 && i < out.items[0]->dtcCount; ++i) {
-            if (std::wstring(out.items[0]->dtcs[i]->text1) == L"P0602") {
+        const auto out = fetch<List<ReadDtcResult, release_ReadDtcResult_array>>(
+            [&](auto... o) { kel_readDtcs(api, ecm, 1, nullptr, o...); });
+        for (uint32_t i = 0; out->count == 1 && i < out->items[0]->dtcCount; ++i) {
+            if (std::wstring(out->items[0]->dtcs[i]->text1) == L"P0602") {
                 return true;
             }
         }
         return false;
     }
+    std::unique_ptr<Infos> sessionInfos(const wchar_t* target) {
+        return fetch<Infos>([&](auto... out) { kel_getFlashSessionInfos(api, target, out...); });
+    }
+    wchar_t* ecm[1] = {const_cast<wchar_t*>(L"ECM")};
 };
 
 TEST_F(FlashTest, SessionsAreListedFromTheDescription) {
-    ErrorSlot error;
-    Infos ecm;
-    kel_getFlashSessionInfos(api, L"ECM", &error, &ecm.items, &ecm.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(ecm.count, 2U);
-    const FlashSessionInfo& first = *ecm.items[0];
+    const auto sessions = sessionInfos(L"ECM");
+    ASSERT_EQ(sessions->count, 2U);
+    const FlashSessionInfo& first = *sessions->items[0];
     EXPECT_STREQ(first.name, L"ECM_SW_5430");
     EXPECT_STREQ(first.target, L"ECM");
     EXPECT_STREQ(first.version, L"5430");
     EXPECT_EQ(first.size, 65536U);
     EXPECT_EQ(first.duration, 45000U);
     EXPECT_EQ(first.level, 2U);
-    EXPECT_STREQ(ecm.items[1]->name, L"ECM_SW_5431");
-
-    Infos tcm;
-    kel_getFlashSessionInfos(api, L"TCM", &error, &tcm.items, &tcm.count);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(tcm.count, 0U) << "a unit without programming offers nothing to flash";
-
+    EXPECT_STREQ(sessions->items[1]->name, L"ECM_SW_5431");
+    EXPECT_EQ(sessionInfos(L"TCM")->count, 0U) << "a unit without programming offers nothing";
     Infos none;
-    kel_getFlashSessionInfos(api, L"NoSuchUnit", &error, &none.items, &none.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1011);
+    EXPECT_ENGINE_ERROR(
+        unknown, 1011,
+        kel_getFlashSessionInfos(api, L"NoSuchUnit", &unknown, &none.items, &none.count));
 }
 
 TEST_F(FlashTest, WithoutProgrammingSessionOrSecurityTheUnitRefusesAndKeepsItsSoftware) {
@@ -113,8 +103,7 @@ TEST_F(FlashTest, WithoutProgrammingSessionOrSecurityTheUnitRefusesAndKeepsItsSo
     auto refused = flash({L"ECM_SW_5430"});
     const FlashSessionResult& r = *refused->items[0];
     EXPECT_EQ(r.status, 2);
-    ASSERT_NE(r.error, nullptr);
-    EXPECT_EQ(r.error->code, 1700);
+    ASSERT_EQ(codeIn(r.error), 1700);
     ASSERT_NE(r.error->negativeResponse, nullptr);
     EXPECT_EQ(r.error->negativeResponse->code, 0x7F); // serviceNotSupportedInActiveSession
     EXPECT_STREQ(r.versionBefore, L"5428");
@@ -177,8 +166,7 @@ TEST_F(FlashTest, SessionsRunInOrderAndAFailureStopsTheRestUnlessConfiguredOther
     config->stopOnError = 0;
     ErrorSlot error;
     Results out;
-    kel_executeFlashSessionsConfig(api, config, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_executeFlashSessionsConfig(api, config, &ok, &out.items, &out.count));
     ASSERT_EQ(out.count, 3U);
     EXPECT_EQ(out.items[0]->error->code, 1701);
     EXPECT_EQ(out.items[1]->status, 0);
@@ -192,13 +180,11 @@ TEST_F(FlashTest, SessionsRunInOrderAndAFailureStopsTheRestUnlessConfiguredOther
 }
 
 TEST_F(FlashTest, CallsThatCannotStartAreRefusedWhole) {
-    ErrorSlot noTarget;
     Results out;
     const wchar_t* names[] = {L"ECM_SW_5430"};
-    kel_executeFlashSessions(api, L"Nope", const_cast<wchar_t**>(names), 1, &noTarget, &out.items,
-                             &out.count);
-    ASSERT_TRUE(noTarget);
-    EXPECT_EQ(noTarget->code, 1011);
+    EXPECT_ENGINE_ERROR(noTarget, 1011,
+                        kel_executeFlashSessions(api, L"Nope", const_cast<wchar_t**>(names), 1,
+                                                 &noTarget, &out.items, &out.count));
     EXPECT_ENGINE_ERROR(
         noSessions, 1704,
         kel_executeFlashSessions(api, L"ECM", nullptr, 0, &noSessions, &out.items, &out.count));
@@ -264,10 +250,8 @@ TEST_F(FlashTest, ACancelledFlashLeavesAnIncompleteUpdateThatANewFlashRepairs) {
     watch.api = api;
     watch.cancelAt = 30;
     const wchar_t* names[] = {L"ECM_SW_5430"};
-    ErrorSlot error;
-    kel_executeFlashSessionsAsync(api, L"ECM", const_cast<wchar_t**>(names), 1, &error,
-                                  FlashWatch::callback, &watch);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_executeFlashSessionsAsync(api, L"ECM", const_cast<wchar_t**>(names), 1,
+                                                      &ok, FlashWatch::callback, &watch));
     ASSERT_TRUE(watch.wait());
     {
         const std::lock_guard lock(watch.mutex);
@@ -329,52 +313,47 @@ TEST_F(FlashTest, AnImageTheUnitRejectsLeavesItIncompleteAndASilentUnitIsReporte
 
     auto mute = flash({L"Mute"}, L"MUTE");
     EXPECT_EQ(mute->items[0]->status, 2);
-    ASSERT_NE(mute->items[0]->error, nullptr);
-    EXPECT_EQ(mute->items[0]->error->code, 1010);
+    ASSERT_EQ(codeIn(mute->items[0]->error), 1010);
 }
 
 TEST_F(FlashTest, ADescriptionWhoseSessionsCannotBeFlashedIsRefused) {
-    // No programming on the unit, a version the image header cannot hold, a session twice.
-    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A"}],
-        "flash": {"sessions": [{"name": "S", "target": "A", "version": "1"}]}})"),
-              -1);
-    // Programming needs the identifier that reports the version.
-    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A", "programming": {}}]})"), -1);
-    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A", "programming": {},
-        "identification": [{"id": "F189", "value": "0"}]}],
-        "flash": {"sessions": [{"name": "S", "target": "A", "version": "1", "size": 1}]}})"),
-              -1);
-    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A", "programming": {},
-        "identification": [{"id": "F189", "value": "0"}]}],
-        "flash": {"sessions": [{"name": "S", "target": "A", "version": "1"},
-                               {"name": "S", "target": "A", "version": "2"}]}})"),
-              -1);
-    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A", "programming": {},
-        "identification": [{"id": "F189", "value": "0"}]}],
-        "flash": {"sessions": [{"name": "S", "target": "A", "version": "1"}]}})"),
-              0);
+    // A unit that can be programmed, with sessions; only the last description is whole.
+    const auto with = [](const std::string& unit, const std::string& sessions) {
+        return R"({"ecus": [{"name": "A")" + unit + R"(}], "flash": {"sessions": [)" + sessions +
+               "]}}";
+    };
+    const std::string programmable = R"(, "programming": {},
+        "identification": [{"id": "F189", "value": "0"}])";
+    const std::string session = R"({"name": "S", "target": "A", "version": "1")";
+    const std::vector<std::pair<std::string, int>> cases = {
+        {with("", session + "}"), -1},                            // no programming on the unit
+        {with(R"(, "programming": {})", ""), -1},                 // nothing reports its version
+        {with(programmable, session + R"(, "size": 1})"), -1},    // the header does not fit
+        {with(programmable, session + "}," + session + "}"), -1}, // a session twice
+        {with(programmable, session + "}"), 0}};
+    for (const auto& [description, expected] : cases) {
+        EXPECT_EQ(kelsim_setVehicleJson(description.c_str()), expected) << description;
+    }
 }
 
 // ---- the quick test ----------------------------------------------------------------------
 
 TEST_F(FlashTest, QuickTestIdentifiesAndReadsEveryUnitInOnePass) {
-    ErrorSlot error;
-    QuickTests all;
-    kel_performQuickTest(api, nullptr, 0, nullptr, &error, &all.items, &all.count);
-    ASSERT_FALSE(error);
+    const auto allTests = fetch<QuickTests>(
+        [&](auto... out) { kel_performQuickTest(api, nullptr, 0, nullptr, out...); });
+    const QuickTests& all = *allTests;
     ASSERT_EQ(all.count, 6U) << "every unit of the vehicle";
-    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-    kel_readDtcs(api, nullptr, 0, nullptr, &error, &dtcs.items, &dtcs.count);
-    ASSERT_EQ(dtcs.count, all.count);
+    const auto dtcs = fetch<List<ReadDtcResult, release_ReadDtcResult_array>>(
+        [&](auto... out) { kel_readDtcs(api, nullptr, 0, nullptr, out...); });
+    ASSERT_EQ(dtcs->count, all.count);
     for (uint32_t i = 0; i < all.count; ++i) {
         const QuickTestResult& r = *all.items[i];
-        EXPECT_STREQ(r.target, dtcs.items[i]->target);
-        EXPECT_EQ(r.dtcCount, dtcs.items[i]->dtcCount) << "the same fault memory as readDtcs";
+        EXPECT_STREQ(r.target, dtcs->items[i]->target);
+        EXPECT_EQ(r.dtcCount, dtcs->items[i]->dtcCount) << "the same fault memory as readDtcs";
         if (std::wstring(r.target) == L"ACC") {
             EXPECT_EQ(r.status, 1);
             EXPECT_EQ(r.identified, 0);
-            ASSERT_NE(r.error, nullptr);
-            EXPECT_EQ(r.error->code, 1010);
+            ASSERT_EQ(codeIn(r.error), 1010);
         } else {
             EXPECT_EQ(r.status, 0) << r.target;
             EXPECT_EQ(r.identified, 1) << r.target;
@@ -388,48 +367,26 @@ TEST_F(FlashTest, QuickTestIdentifiesAndReadsEveryUnitInOnePass) {
     auto* config = zeroed<DtcReadConfig>();
     config->value = 0x01; // testFailed
     const wchar_t* names[] = {L"ECM", L"Nope"};
-    QuickTests some;
-    kel_performQuickTest(api, const_cast<wchar_t**>(names), 2, config, &error, &some.items,
-                         &some.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(some.count, 2U);
-    for (uint32_t i = 0; i < some.items[0]->dtcCount; ++i) {
-        EXPECT_NE(some.items[0]->dtcs[i]->value1 & 0x01, 0);
+    const auto some = fetch<QuickTests>([&](auto... out) {
+        kel_performQuickTest(api, const_cast<wchar_t**>(names), 2, config, out...);
+    });
+    ASSERT_EQ(some->count, 2U);
+    for (uint32_t i = 0; i < some->items[0]->dtcCount; ++i) {
+        EXPECT_NE(some->items[0]->dtcs[i]->value1 & 0x01, 0);
     }
-    EXPECT_LT(some.items[0]->dtcCount, all.items[0]->dtcCount);
-    EXPECT_EQ(some.items[1]->status, 2);
-    EXPECT_EQ(some.items[1]->error->code, 1011);
+    EXPECT_LT(some->items[0]->dtcCount, all.items[0]->dtcCount);
+    EXPECT_EQ(some->items[1]->status, 2);
+    EXPECT_EQ(some->items[1]->error->code, 1011);
 }
-
-struct QuickWatch : AsyncWatch {
-    std::vector<uint32_t> sizes;
-    std::vector<std::wstring> targets;
-    static void callback(QuickTestResult** results, uint32_t count, bool isFinal, uint64_t callId,
-                         KelError* error, void* context) {
-        auto* self = static_cast<QuickWatch*>(context);
-        {
-            const std::lock_guard lock(self->mutex);
-            self->sizes.push_back(count);
-            for (uint32_t i = 0; i < count; ++i) {
-                self->targets.emplace_back(results[i]->target);
-            }
-        }
-        release_QuickTestResult_array(results, count);
-        release_KelError(error);
-        self->reported(callId, false, isFinal);
-    }
-};
 
 TEST_F(FlashTest, AsynchronousQuickTestReportsOneUnitAtATime) {
     kelsim_setAsyncInterval("performQuickTestAsync", 0);
-    QuickWatch watch;
-    ErrorSlot error;
-    kel_performQuickTestAsync(api, nullptr, 0, nullptr, &error, QuickWatch::callback, &watch);
-    ASSERT_FALSE(error);
-    ASSERT_TRUE(watch.wait());
-    EXPECT_EQ(watch.sizes, (std::vector<uint32_t>(6, 1)));
-    EXPECT_EQ(watch.targets,
-              (std::vector<std::wstring>{L"ECM", L"TCM", L"ESP", L"BCM", L"GW", L"ACC"}));
+    kel_test::AsyncReports<QuickTestResult, release_QuickTestResult_array> reports(
+        [](const QuickTestResult& r) { return std::wstring(r.target); });
+    reports.run(
+        [&](auto... call) { return kel_performQuickTestAsync(api, nullptr, 0, nullptr, call...); });
+    EXPECT_EQ(reports.texts, (std::vector<std::vector<std::wstring>>{
+                                 {L"ECM"}, {L"TCM"}, {L"ESP"}, {L"BCM"}, {L"GW"}, {L"ACC"}}));
 }
 
 } // namespace

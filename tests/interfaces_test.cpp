@@ -24,6 +24,7 @@ namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::fetch;
 using kel_test::freshTempPath;
 using kel_test::List;
 using kel_test::zeroed;
@@ -31,6 +32,9 @@ using namespace std::chrono_literals;
 
 using Interfaces = EngineTest;
 using InterfacesConcurrency = EngineTest;
+using Strings = List<wchar_t, release_StringArray>;
+using Links = List<PhysicalLinksOnModule, release_PhysicalLinksOnModule_array>;
+using Modules = List<ModuleDyn, release_ModuleDyn_array>;
 
 wchar_t* dup(const wchar_t* text) { return duplicate_WString(text); }
 
@@ -112,35 +116,24 @@ TEST_F(Interfaces, DisconnectedInterfacesStopDiagnosticCallsUntilConnectedAgain)
     ASSERT_EQ(readDtcsError(api), 0);
 
     ErrorSlot error;
-    kel_disconnectInterfaces(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_disconnectInterfaces(api, &ok));
     EXPECT_EQ(readDtcsError(api), 1404);
-    ErrorSlot asyncError;
-    EXPECT_EQ(kel_readDtcsAsync(api, nullptr, 0, nullptr, &asyncError, nullptr, nullptr), 0u);
-    ASSERT_TRUE(asyncError);
-    EXPECT_EQ(asyncError->code, 1404);
+    EXPECT_ENGINE_ERROR(
+        async, 1404,
+        EXPECT_EQ(kel_readDtcsAsync(api, nullptr, 0, nullptr, &async, nullptr, nullptr), 0u));
     // Reading the project's targets needs no communication.
-    ErrorSlot targetsError;
-    List<Target, release_Target_array> targets;
-    kel_getTargets(api, &targetsError, &targets.items, &targets.count);
-    EXPECT_FALSE(targetsError);
+    fetch<List<Target, release_Target_array>>([&](auto... out) { kel_getTargets(api, out...); });
 
     EXPECT_FALSE(scan(api, {L"VCI1"}).front().connected);
-    ErrorSlot connectError;
-    kel_connectInterfaces(api, &connectError);
-    ASSERT_FALSE(connectError);
+    ASSERT_SUCCEEDS(ok, kel_connectInterfaces(api, &ok));
     const auto after = scan(api, {L"VCI1", L"VCI2"});
     EXPECT_TRUE(after[0].connected);
     EXPECT_FALSE(after[1].connected) << "VCI2 is not plugged in";
     EXPECT_EQ(readDtcsError(api), 0);
-}
 
-TEST_F(Interfaces, ConnectingFailsWhenNoConfiguredInterfaceIsPluggedIn) {
-    ErrorSlot removeError;
-    kel_removeInterface(api, L"VCI1", &removeError);
-    ASSERT_FALSE(removeError);
+    // Connecting fails when no configured interface is plugged in.
+    ASSERT_SUCCEEDS(ok, kel_removeInterface(api, L"VCI1", &ok));
     EXPECT_EQ(readDtcsError(api), 1404) << "the connected interface went with it";
-    ErrorSlot error;
     kel_connectInterfaces(api, &error);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->code, 1404);
@@ -164,27 +157,21 @@ TEST_F(Interfaces, ScanReportsEachInterfaceWithItsOwnError) {
 }
 
 TEST_F(Interfaces, ResourcesAreAddedWithTheirPinAndRemovedByName) {
-    ErrorSlot error;
-    kel_addResource(api, L"VCI1", resource(L"UDS_CAN_MS"), 0xABCD, &error);
-    ASSERT_FALSE(error);
-    ErrorSlot getError;
-    List<DeviceInfo, release_DeviceInfo_array> devices;
-    kel_getRegisteredDevices(api, &getError, &devices.items, &devices.count);
-    ASSERT_FALSE(getError);
-    ASSERT_EQ(devices.count, 4u);
-    EXPECT_EQ(devices.items[0]->value3, 3u) << "VCI1 now has three resources";
+    ASSERT_SUCCEEDS(ok, kel_addResource(api, L"VCI1", resource(L"UDS_CAN_MS"), 0xABCD, &ok));
+    const auto devices = fetch<List<DeviceInfo, release_DeviceInfo_array>>(
+        [&](auto... out) { kel_getRegisteredDevices(api, out...); });
+    ASSERT_EQ(devices->count, 4u);
+    EXPECT_EQ(devices->items[0]->value3, 3u) << "VCI1 now has three resources";
     // The u32 after the 64-bit handle tells a dynamic interface from a configured one.
-    EXPECT_EQ(devices.items[0]->value6, 0u) << "VCI1 is configured";
-    EXPECT_EQ(devices.items[3]->value6, 1u) << "WVCI-9 is dynamic";
-    EXPECT_NE(devices.items[3]->handle, devices.items[0]->handle);
+    EXPECT_EQ(devices->items[0]->value6, 0u) << "VCI1 is configured";
+    EXPECT_EQ(devices->items[3]->value6, 1u) << "WVCI-9 is dynamic";
+    EXPECT_NE(devices->items[3]->handle, devices->items[0]->handle);
 
-    ErrorSlot scanError;
-    List<ScanInterfaceResult, release_ScanInterfaceResult_array> results;
-    const wchar_t* vci1[] = {L"VCI1"};
-    kel_scanInterfaceConnection(api, const_cast<wchar_t**>(vci1), 1, &scanError, &results.items,
-                                &results.count);
-    ASSERT_EQ(results.count, 1u);
-    const auto* info = results.items[0]->interfaceInfo;
+    wchar_t* vci1[] = {const_cast<wchar_t*>(L"VCI1")};
+    const auto results = fetch<List<ScanInterfaceResult, release_ScanInterfaceResult_array>>(
+        [&](auto... out) { kel_scanInterfaceConnection(api, vci1, 1, out...); });
+    ASSERT_EQ(results->count, 1u);
+    const auto* info = results->items[0]->interfaceInfo;
     ASSERT_EQ(info->resourceCount, 3u);
     EXPECT_STREQ(info->resources[2]->itemText1, L"UDS_CAN_MS");
     EXPECT_EQ(info->resources[2]->pin, 0xABCDu);
@@ -195,23 +182,17 @@ TEST_F(Interfaces, ResourcesAreAddedWithTheirPinAndRemovedByName) {
     EXPECT_ENGINE_ERROR(unknownInterface, 1400,
                         kel_addResource(api, L"NOPE", resource(L"X"), 1, &unknownInterface));
 
-    ErrorSlot removeError;
-    kel_removeResource(api, L"VCI1", L"UDS_CAN_MS", &removeError);
-    EXPECT_FALSE(removeError);
+    EXPECT_ENGINE_ERROR(removed, 0, kel_removeResource(api, L"VCI1", L"UDS_CAN_MS", &removed));
     EXPECT_EQ(scan(api, {L"VCI1"}).front().resources.size(), 2u);
-    ErrorSlot again;
-    kel_removeResource(api, L"VCI1", L"UDS_CAN_MS", &again);
-    ASSERT_TRUE(again);
-    EXPECT_EQ(again->code, 1401);
+    EXPECT_ENGINE_ERROR(again, 1401, kel_removeResource(api, L"VCI1", L"UDS_CAN_MS", &again));
 }
 
 TEST_F(Interfaces, AddedInterfaceIsCompletedAndCarriesItsVendorModule) {
     auto* info = interfaceNamed(L"VCI3");
     info->flag3 = 1;
-    ErrorSlot error;
     InterfaceInformation* added = nullptr;
-    kel_addInterface(api, info, L"BENCH_DPDU", L"", L"192.168.10.30", &error, &added);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok,
+                    kel_addInterface(api, info, L"BENCH_DPDU", L"", L"192.168.10.30", &ok, &added));
     ASSERT_NE(added, nullptr);
     EXPECT_STREQ(added->itemText2, L"VCI3") << "the long name defaults to the name";
     EXPECT_STREQ(added->text2, L"192.168.10.30");
@@ -220,36 +201,27 @@ TEST_F(Interfaces, AddedInterfaceIsCompletedAndCarriesItsVendorModule) {
     ASSERT_EQ(added->itemCount, 1u);
     EXPECT_STREQ(added->items[0]->itemText1, L"BENCH_DPDU");
 
-    ErrorSlot namesError;
-    wchar_t** moduleNames = nullptr;
-    uint32_t moduleCount = 0;
-    kel_getVendorModuleNames(api, interfaceNamed(L"VCI3"), &namesError, &moduleNames, &moduleCount);
-    ASSERT_FALSE(namesError);
-    ASSERT_EQ(moduleCount, 1u);
-    EXPECT_STREQ(moduleNames[0], L"BENCH_DPDU");
-    release_StringArray(moduleNames, moduleCount);
-
+    const auto texts = [](const Strings& list) {
+        return std::vector<std::wstring>(list.items, list.items + list.count);
+    };
+    EXPECT_EQ(texts(*fetch<Strings>([&](auto... out) {
+                  kel_getVendorModuleNames(api, interfaceNamed(L"VCI3"), out...);
+              })),
+              std::vector<std::wstring>{L"BENCH_DPDU"});
     // Every interface's modules, each once; a pattern selects interfaces by name.
-    ErrorSlot exError;
-    kel_getVendorModuleNamesEx(api, L"", &exError, &moduleNames, &moduleCount);
-    ASSERT_FALSE(exError);
-    ASSERT_EQ(moduleCount, 3u);
-    EXPECT_STREQ(moduleNames[0], L"SIM_VCI_DPDU");
-    EXPECT_STREQ(moduleNames[1], L"SIM_WVCI_DOIP");
-    EXPECT_STREQ(moduleNames[2], L"BENCH_DPDU");
-    release_StringArray(moduleNames, moduleCount);
-    kel_getVendorModuleNamesEx(api, L"WVCI-?", &exError, &moduleNames, &moduleCount);
-    ASSERT_EQ(moduleCount, 1u);
-    EXPECT_STREQ(moduleNames[0], L"SIM_WVCI_DOIP");
-    release_StringArray(moduleNames, moduleCount);
+    const auto modules = [&](const wchar_t* pattern) {
+        return texts(*fetch<Strings>(
+            [&](auto... out) { kel_getVendorModuleNamesEx(api, pattern, out...); }));
+    };
+    EXPECT_EQ(modules(L""),
+              (std::vector<std::wstring>{L"SIM_VCI_DPDU", L"SIM_WVCI_DOIP", L"BENCH_DPDU"}));
+    EXPECT_EQ(modules(L"WVCI-?"), std::vector<std::wstring>{L"SIM_WVCI_DOIP"});
 
     InterfaceInformation* again = nullptr;
     EXPECT_ENGINE_ERROR(
         twice, 1402, kel_addInterface(api, interfaceNamed(L"VCI3"), L"", L"", L"", &twice, &again));
 
-    ErrorSlot removeError;
-    kel_removeInterface(api, L"VCI3", &removeError);
-    EXPECT_FALSE(removeError);
+    EXPECT_ENGINE_ERROR(removed, 0, kel_removeInterface(api, L"VCI3", &removed));
     wchar_t* longName = nullptr;
     EXPECT_ENGINE_ERROR(longNameError, 1400,
                         kel_getInterfaceLongName(api, L"VCI3", &longNameError, &longName));
@@ -257,12 +229,12 @@ TEST_F(Interfaces, AddedInterfaceIsCompletedAndCarriesItsVendorModule) {
 }
 
 TEST_F(Interfaces, PhysicalLinksAreReplacedWholeOrNotAtAll) {
-    ErrorSlot error;
-    List<PhysicalLinksOnModule, release_PhysicalLinksOnModule_array> current;
-    const wchar_t* vci1[] = {L"VCI1"};
-    kel_getPhysicalLinks(api, const_cast<wchar_t**>(vci1), 1, &error, &current.items,
-                         &current.count);
-    ASSERT_FALSE(error);
+    wchar_t* vci1[] = {const_cast<wchar_t*>(L"VCI1")};
+    const auto links = [&] {
+        return fetch<Links>([&](auto... out) { kel_getPhysicalLinks(api, vci1, 1, out...); });
+    };
+    const auto currentLinks = links();
+    Links& current = *currentLinks;
     ASSERT_EQ(current.count, 1u);
     ASSERT_EQ(current.items[0]->linkCount, 2u);
     EXPECT_STREQ(current.items[0]->links[1]->itemText1, L"K-Line");
@@ -272,69 +244,58 @@ TEST_F(Interfaces, PhysicalLinksAreReplacedWholeOrNotAtAll) {
     release_PhysicalLink(entry->links[1]);
     entry->linkCount = 1;
     entry->links[0]->baudrate = 250000;
-    ErrorSlot setError;
-    List<PhysicalLinksOnModule, release_PhysicalLinksOnModule_array> updated;
-    kel_setPhysicalLinks(api, current.items, current.count, &setError, &updated.items,
-                         &updated.count);
-    ASSERT_FALSE(setError);
-    ASSERT_EQ(updated.count, 1u);
-
-    ErrorSlot againError;
-    List<PhysicalLinksOnModule, release_PhysicalLinksOnModule_array> again;
-    kel_getPhysicalLinks(api, const_cast<wchar_t**>(vci1), 1, &againError, &again.items,
-                         &again.count);
-    ASSERT_EQ(again.count, 1u);
-    ASSERT_EQ(again.items[0]->linkCount, 1u);
-    EXPECT_STREQ(again.items[0]->links[0]->itemText1, L"HS-CAN");
-    EXPECT_EQ(again.items[0]->links[0]->baudrate, 250000u);
+    EXPECT_EQ(fetch<Links>([&](auto... out) {
+                  kel_setPhysicalLinks(api, current.items, current.count, out...);
+              })->count,
+              1u);
+    const auto again = links();
+    ASSERT_EQ(again->count, 1u);
+    ASSERT_EQ(again->items[0]->linkCount, 1u);
+    EXPECT_STREQ(again->items[0]->links[0]->itemText1, L"HS-CAN");
+    EXPECT_EQ(again->items[0]->links[0]->baudrate, 250000u);
 
     // One unknown module: nothing changes.
     std::wstring unknown = L"NOPE";
     auto* saved = current.items[0]->module;
     current.items[0]->module = unknown.data();
-    ErrorSlot unknownError;
-    List<PhysicalLinksOnModule, release_PhysicalLinksOnModule_array> none;
-    kel_setPhysicalLinks(api, current.items, current.count, &unknownError, &none.items,
-                         &none.count);
+    Links none;
+    EXPECT_ENGINE_ERROR(unknownModule, 1400,
+                        kel_setPhysicalLinks(api, current.items, current.count, &unknownModule,
+                                             &none.items, &none.count));
     current.items[0]->module = saved;
-    ASSERT_TRUE(unknownError);
-    EXPECT_EQ(unknownError->code, 1400);
 }
 
 TEST_F(Interfaces, DetectionFindsTheDynamicInterfacesAndConnectsThem) {
+    const auto detectEx = [&](uint32_t most) {
+        return fetch<Modules>([&](auto... out) { kel_detectDynInterfacesEx(api, most, out...); });
+    };
+    const auto detect = [&](const wchar_t* pattern, bool onlyFree) {
+        const auto found = fetch<Modules>([&](auto... out) {
+            kel_detectDynInterfaces(api, 0, detection(pattern, onlyFree), out...);
+        });
+        return names(found->items, found->count);
+    };
+    const auto all = detectEx(0);
+    EXPECT_EQ(names(all->items, all->count), (std::vector<std::wstring>{L"WVCI-7", L"WVCI-9"}));
+    ASSERT_NE(all->items[0]->vendorModule, nullptr);
+    EXPECT_STREQ(all->items[0]->vendorModule->itemText1, L"SIM_WVCI_DOIP");
+    EXPECT_EQ(detect(L"*7", false), (std::vector<std::wstring>{L"WVCI-7"}));
+    EXPECT_EQ(detectEx(1)->count, 1u);
+
     ErrorSlot error;
-    List<ModuleDyn, release_ModuleDyn_array> all;
-    kel_detectDynInterfacesEx(api, 0, &error, &all.items, &all.count);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(names(all.items, all.count), (std::vector<std::wstring>{L"WVCI-7", L"WVCI-9"}));
-    ASSERT_NE(all.items[0]->vendorModule, nullptr);
-    EXPECT_STREQ(all.items[0]->vendorModule->itemText1, L"SIM_WVCI_DOIP");
-
-    List<ModuleDyn, release_ModuleDyn_array> one;
-    kel_detectDynInterfaces(api, 0, detection(L"*7", false), &error, &one.items, &one.count);
-    EXPECT_EQ(names(one.items, one.count), (std::vector<std::wstring>{L"WVCI-7"}));
-    List<ModuleDyn, release_ModuleDyn_array> limited;
-    kel_detectDynInterfacesEx(api, 1, &error, &limited.items, &limited.count);
-    EXPECT_EQ(limited.count, 1u);
-
-    kel_connectDynInterface(api, L"WVCI-7", 1, detection(L"WVCI-*", false), &error);
-    ASSERT_FALSE(error);
-    List<ModuleDyn, release_ModuleDyn_array> free;
-    kel_detectDynInterfaces(api, 0, detection(L"", true), &error, &free.items, &free.count);
-    EXPECT_EQ(names(free.items, free.count), (std::vector<std::wstring>{L"WVCI-9"}));
-    List<ModuleDyn, release_ModuleDyn_array> again;
-    kel_detectDynInterfacesEx(api, 0, &error, &again.items, &again.count);
-    EXPECT_EQ(again.items[0]->flag1, 1) << "connected";
-    EXPECT_EQ(again.items[0]->flag2, 1) << "for exclusive use";
+    ASSERT_SUCCEEDS(ok,
+                    kel_connectDynInterface(api, L"WVCI-7", 1, detection(L"WVCI-*", false), &ok));
+    EXPECT_EQ(detect(L"", true), (std::vector<std::wstring>{L"WVCI-9"}));
+    const auto again = detectEx(0);
+    EXPECT_EQ(again->items[0]->flag1, 1) << "connected";
+    EXPECT_EQ(again->items[0]->flag2, 1) << "for exclusive use";
 
     // The dynamic interface alone carries diagnostic calls.
     kel_disconnectInterfaces(api, &error);
-    kel_connectDynInterfaceEx(api, L"WVCI-9", 0, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_connectDynInterfaceEx(api, L"WVCI-9", 0, &ok));
     EXPECT_EQ(readDtcsError(api), 0);
     const wchar_t* dynamic[] = {L"WVCI-9"};
-    kel_disconnectDynInterfaces(api, const_cast<wchar_t**>(dynamic), 1, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_disconnectDynInterfaces(api, const_cast<wchar_t**>(dynamic), 1, &ok));
     EXPECT_EQ(readDtcsError(api), 1404);
 
     EXPECT_ENGINE_ERROR(configured, 1411, kel_connectDynInterfaceEx(api, L"VCI1", 0, &configured));
@@ -343,74 +304,35 @@ TEST_F(Interfaces, DetectionFindsTheDynamicInterfacesAndConnectsThem) {
         kel_connectDynInterface(api, L"WVCI-9", 0, detection(L"*7", false), &notFound));
 }
 
-struct Reports : kel_test::AsyncWatch {
-    std::vector<std::vector<std::wstring>> modules;
-    std::vector<bool> finals;
+TEST_F(InterfacesConcurrency, AsynchronousDetectionAndScanReportAsTheirSynchronousForms) {
+    kel_test::AsyncReports<ModuleDyn, release_ModuleDyn_array> found(
+        [](const ModuleDyn& m) { return std::wstring(m.name); });
+    found.run([&](auto... call) {
+        return kel_detectDynInterfacesAsync(api, 0, detection(L"", false), call...);
+    });
+    EXPECT_EQ(found.texts, (std::vector<std::vector<std::wstring>>{{L"WVCI-7"}, {L"WVCI-9"}}))
+        << "each module as it is found";
+    EXPECT_EQ(found.finals, (std::vector<bool>{false, true}));
+    EXPECT_EQ(found.errorCode, 0);
 
-    static void callback(ModuleDyn** results, uint32_t count, bool isFinal, uint64_t callId,
-                         KelError* error, void* context) {
-        auto* self = static_cast<Reports*>(context);
-        {
-            const std::lock_guard lock(self->mutex);
-            self->modules.push_back(names(results, count));
-            self->finals.push_back(isFinal);
-            self->errorCode = error != nullptr ? error->code : self->errorCode;
-        }
-        release_ModuleDyn_array(results, count);
-        release_KelError(error);
-        self->reported(callId, false, isFinal);
-    }
-};
-
-TEST_F(InterfacesConcurrency, AsynchronousDetectionReportsEachModuleAsItIsFound) {
-    Reports reports;
-    ErrorSlot error;
-    const auto id = kel_detectDynInterfacesAsync(api, 0, detection(L"", false), &error,
-                                                 Reports::callback, &reports);
-    ASSERT_FALSE(error);
-    ASSERT_NE(id, 0u);
-    ASSERT_TRUE(reports.wait());
-    const std::lock_guard lock(reports.mutex);
-    EXPECT_EQ(reports.modules, (std::vector<std::vector<std::wstring>>{{L"WVCI-7"}, {L"WVCI-9"}}));
-    EXPECT_EQ(reports.finals, (std::vector<bool>{false, true}));
-    EXPECT_EQ(reports.errorCode, 0);
-}
-
-TEST_F(InterfacesConcurrency, AsynchronousScanCarriesThePerInterfaceErrors) {
-    struct ScanReports : kel_test::AsyncWatch {
-        std::vector<int32_t> codes;
-    } reports;
-    auto callback = [](ScanInterfaceResult** results, uint32_t count, bool isFinal, uint64_t callId,
-                       KelError* error, void* context) {
-        auto* self = static_cast<ScanReports*>(context);
-        {
-            const std::lock_guard lock(self->mutex);
-            for (uint32_t i = 0; i < count; ++i) {
-                self->codes.push_back(results[i]->error != nullptr ? results[i]->error->code : 0);
-            }
-        }
-        release_ScanInterfaceResult_array(results, count);
-        release_KelError(error);
-        self->reported(callId, false, isFinal);
-    };
+    kel_test::AsyncReports<ScanInterfaceResult, release_ScanInterfaceResult_array> scanned(
+        [](const ScanInterfaceResult& r) {
+            return std::to_wstring(r.error != nullptr ? r.error->code : 0);
+        });
     const wchar_t* selected[] = {L"VCI2", L"VCI1"};
-    ErrorSlot error;
-    ASSERT_NE(kel_scanInterfaceConnectionAsync(api, const_cast<wchar_t**>(selected), 2, &error,
-                                               callback, &reports),
-              0u);
-    ASSERT_TRUE(reports.wait());
-    EXPECT_EQ(reports.codes, (std::vector<int32_t>{1403, 0}));
+    scanned.run([&](auto... call) {
+        return kel_scanInterfaceConnectionAsync(api, const_cast<wchar_t**>(selected), 2, call...);
+    });
+    EXPECT_EQ(scanned.all(), (std::vector<std::wstring>{L"1403", L"0"}));
 }
 
 std::vector<std::wstring> clearCollection(TarnApi* api) {
-    ErrorSlot error;
-    List<KelError, release_KelError_array> errors;
-    kel_clearDoIPEcuCollection(api, &error, &errors.items, &errors.count);
-    EXPECT_FALSE(error);
+    const auto errors = fetch<List<KelError, release_KelError_array>>(
+        [&](auto... out) { kel_clearDoIPEcuCollection(api, out...); });
     std::vector<std::wstring> out;
-    for (uint32_t i = 0; i < errors.count; ++i) {
-        EXPECT_EQ(errors.items[i]->code, 1407);
-        out.emplace_back(errors.items[i]->details);
+    for (uint32_t i = 0; i < errors->count; ++i) {
+        EXPECT_EQ(errors->items[i]->code, 1407);
+        out.emplace_back(errors->items[i]->details);
     }
     return out;
 }
@@ -418,8 +340,7 @@ std::vector<std::wstring> clearCollection(TarnApi* api) {
 TEST_F(Interfaces, DoIPCollectionKeepsTheEntityInUseWithItsError) {
     EXPECT_TRUE(clearCollection(api).empty()) << "nothing collected before a broadcast";
     ErrorSlot error;
-    kel_executeDoIPBroadcast(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_executeDoIPBroadcast(api, &ok));
     const auto first = clearCollection(api);
     ASSERT_EQ(first.size(), 1u);
     EXPECT_NE(first[0].find(L"0x1010"), std::wstring::npos);
@@ -431,8 +352,7 @@ TEST_F(Interfaces, DoIPCollectionKeepsTheEntityInUseWithItsError) {
     EXPECT_ENGINE_ERROR(cleared, 1409,
                         kel_createSocketBridge(api, 13400, 0x1000, &cleared, &bridge));
     EXPECT_EQ(bridge, 0u);
-    kel_createSocketBridge(api, 13400, 0x1010, &error, &bridge);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_createSocketBridge(api, 13400, 0x1010, &ok, &bridge));
     ASSERT_NE(bridge, 0u);
 
     uint8_t works = 0xAA;
@@ -442,8 +362,7 @@ TEST_F(Interfaces, DoIPCollectionKeepsTheEntityInUseWithItsError) {
     kel_testSocketBridge(api, bridge, &error, &works);
     EXPECT_EQ(works, 0) << "no interface carries it";
 
-    kel_releaseSocketBridge(api, bridge, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_releaseSocketBridge(api, bridge, &ok));
     EXPECT_ENGINE_ERROR(twice, 1406, kel_releaseSocketBridge(api, bridge, &twice));
     EXPECT_ENGINE_ERROR(released, 1406, kel_testSocketBridge(api, bridge, &released, &works));
 
@@ -458,16 +377,14 @@ TEST_F(Interfaces, TerminalOpensOnceAndClosesOnce) {
     EXPECT_EQ(opened, 1);
     kel_openTerminal(api, &error, &opened);
     EXPECT_EQ(opened, 0) << "already open";
-    kel_closeTerminal(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_closeTerminal(api, &ok));
     EXPECT_ENGINE_ERROR(twice, 1410, kel_closeTerminal(api, &twice));
 }
 
 TEST_F(Interfaces, PinStateAndWLanBelongToTheirInterface) {
     const wchar_t* both[] = {L"VCI1", L"WVCI-7"};
     ErrorSlot error;
-    kel_setEthernetPinState(api, 3, const_cast<wchar_t**>(both), 2, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setEthernetPinState(api, 3, const_cast<wchar_t**>(both), 2, &ok));
     uint32_t state = 0;
     kel_getEthernetPinState(api, L"WVCI-7", &error, &state);
     EXPECT_EQ(state, 3u);
@@ -479,13 +396,14 @@ TEST_F(Interfaces, PinStateAndWLanBelongToTheirInterface) {
     kel_getEthernetPinState(api, L"VCI1", &error, &state);
     EXPECT_EQ(state, 3u);
 
-    WLanSignalData* wlan = nullptr;
-    kel_getWLanSignalData(api, L"WVCI-7", &error, &wlan);
-    ASSERT_NE(wlan, nullptr);
+    const auto wlan = kel_test::fetchRecord(release_WLanSignalData, [&](auto... out) {
+        kel_getWLanSignalData(api, L"WVCI-7", out...);
+    });
+    ASSERT_NE(wlan.get(), nullptr);
     EXPECT_EQ(wlan->value11, 80);
     EXPECT_STREQ(wlan->text, L"Workshop-Diag");
-    release_WLanSignalData(wlan);
-    EXPECT_ENGINE_ERROR(noWLan, 1405, kel_getWLanSignalData(api, L"VCI1", &noWLan, &wlan));
+    WLanSignalData* none = nullptr;
+    EXPECT_ENGINE_ERROR(noWLan, 1405, kel_getWLanSignalData(api, L"VCI1", &noWLan, &none));
 }
 
 TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {
@@ -499,8 +417,7 @@ TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {
     config->entries[0]->text2 = dup(L"Renamed");
     release_InterfaceConfigurationEntry(config->entries[1]);
     config->entryCount = 1;
-    kel_setInterfaceConfiguration(api, &error, config);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setInterfaceConfiguration(api, &ok, config));
     const auto all = scan(api, {});
     ASSERT_EQ(all.size(), 3u);
     EXPECT_EQ(all[0].name, L"VCI1");
@@ -512,17 +429,18 @@ TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {
     EXPECT_STREQ(longName, L"Renamed");
     release_Memory(longName);
 
-    List<InterfaceProvider, release_InterfaceProvider_array> providers;
-    kel_getInterfaceProviders(api, &error, &providers.items, &providers.count);
-    ASSERT_EQ(providers.count, 2u);
-    providers.items[1]->value = 0;
-    kel_setInterfaceProviders(api, &error, providers.items + 1, 1);
-    ASSERT_FALSE(error);
-    List<InterfaceProvider, release_InterfaceProvider_array> after;
-    kel_getInterfaceProviders(api, &error, &after.items, &after.count);
-    ASSERT_EQ(after.count, 1u);
-    EXPECT_STREQ(after.items[0]->itemText1, L"SimDoIP");
-    EXPECT_EQ(after.items[0]->value, 0u);
+    using Providers = List<InterfaceProvider, release_InterfaceProvider_array>;
+    const auto providers = [&] {
+        return fetch<Providers>([&](auto... out) { kel_getInterfaceProviders(api, out...); });
+    };
+    const auto both = providers();
+    ASSERT_EQ(both->count, 2u);
+    both->items[1]->value = 0;
+    ASSERT_SUCCEEDS(ok, kel_setInterfaceProviders(api, &ok, both->items + 1, 1));
+    const auto after = providers();
+    ASSERT_EQ(after->count, 1u);
+    EXPECT_STREQ(after->items[0]->itemText1, L"SimDoIP");
+    EXPECT_EQ(after->items[0]->value, 0u);
 }
 
 // A saved configuration is what the next engine starts with. Saves are written beside and
@@ -535,8 +453,7 @@ TEST_F(InterfacesConcurrency, SavedConfigurationIsAlwaysWholeAndKeepsReplacedTex
     const std::wstring name{L'V', L'C', L'I', static_cast<wchar_t>(0xD800)};
     ErrorSlot error;
     InterfaceInformation* added = nullptr;
-    kel_addInterface(api, interfaceNamed(name), L"", L"", L"", &error, &added);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_addInterface(api, interfaceNamed(name), L"", L"", L"", &ok, &added));
     release_InterfaceInformation(added);
     kel_removeInterface(api, L"VCI2", &error);
 
@@ -544,8 +461,7 @@ TEST_F(InterfacesConcurrency, SavedConfigurationIsAlwaysWholeAndKeepsReplacedTex
     std::atomic<bool> saving{true};
     std::atomic<int> reads{0};
     std::atomic<int> partial{0};
-    kel_saveInterfaceConfiguration(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_saveInterfaceConfiguration(api, &ok));
     std::thread reader([&] {
         while (saving) {
             std::ifstream in(file, std::ios::binary);

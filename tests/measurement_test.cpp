@@ -13,10 +13,12 @@
 #include <mutex>
 #include <numbers>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
@@ -148,8 +150,7 @@ TEST_F(MeasurementTest, ARandomWalkIsReproducibleAndStaysWithinItsRange) {
 TEST_F(MeasurementTest, DescriptionsGiveUnitAndRange) {
     Infos all;
     ErrorSlot error;
-    kel_getMeasurementValueInfos(api, L"PCM", &error, &all.items, &all.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getMeasurementValueInfos(api, L"PCM", &ok, &all.items, &all.count));
     ASSERT_EQ(all.count, 5U);
     const ParameterInfo& coolant = *all.items[1];
     EXPECT_STREQ(coolant.itemText1, L"Coolant");
@@ -165,63 +166,55 @@ TEST_F(MeasurementTest, DescriptionsGiveUnitAndRange) {
 
     auto which = names({L"Load", L"Nope"});
     Infos some;
-    kel_getSingleMeasurementValueInfos(api, L"PCM", which.data(), 2, &error, &some.items,
-                                       &some.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getSingleMeasurementValueInfos(api, L"PCM", which.data(), 2, &ok,
+                                                           &some.items, &some.count));
     ASSERT_EQ(some.count, 2U);
     EXPECT_STREQ(some.items[0]->text2, L"%");
     EXPECT_EQ(some.items[0]->error, nullptr);
-    ASSERT_NE(some.items[1]->error, nullptr);
-    EXPECT_EQ(some.items[1]->error->code, 1900);
+    ASSERT_EQ(codeIn(some.items[1]->error), 1900);
 
     Infos none;
-    kel_getMeasurementValueInfos(api, L"Nope", &error, &none.items, &none.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1011);
+    EXPECT_ENGINE_ERROR(
+        unknown, 1011,
+        kel_getMeasurementValueInfos(api, L"Nope", &unknown, &none.items, &none.count));
 }
 
 TEST_F(MeasurementTest, ReadsGoOverTheBusWithPerValueAndPerTargetErrors) {
-    TransmissionInfo* before = nullptr;
-    ErrorSlot error;
-    kel_getTransmissionInfo(api, &error, &before);
-    ASSERT_NE(before, nullptr);
+    const auto requestsSent = [&] {
+        return kel_test::fetchRecord(release_TransmissionInfo,
+                                     [&](auto... out) { kel_getTransmissionInfo(api, out...); })
+            ->value1;
+    };
+    const uint64_t before = requestsSent();
 
     auto which = names({L"Coolant", L"Nope"});
     Reads out;
-    kel_readMeasurementValues(api, L"PCM", which.data(), 2, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(
+        ok, kel_readMeasurementValues(api, L"PCM", which.data(), 2, &ok, &out.items, &out.count));
     ASSERT_EQ(out.count, 1U);
     EXPECT_EQ(out.items[0]->status, 0);
     ASSERT_EQ(out.items[0]->parameterCount, 2U);
     EXPECT_STREQ(out.items[0]->parameters[0]->text2, L"degC");
     ASSERT_EQ(out.items[0]->parameters[0]->dataLength, 1U);
-    ASSERT_NE(out.items[0]->parameters[1]->error, nullptr);
-    EXPECT_EQ(out.items[0]->parameters[1]->error->code, 1900);
+    ASSERT_EQ(codeIn(out.items[0]->parameters[1]->error), 1900);
 
-    TransmissionInfo* after = nullptr;
-    kel_getTransmissionInfo(api, &error, &after);
-    ASSERT_NE(after, nullptr);
-    EXPECT_EQ(after->value1 - before->value1, 1U) << "one ReadDataByIdentifier, none for Nope";
-    release_TransmissionInfo(before);
-    release_TransmissionInfo(after);
+    EXPECT_EQ(requestsSent() - before, 1U) << "one ReadDataByIdentifier, none for Nope";
 
     Reads silent;
-    kel_readMeasurementValues(api, L"MUTE", nullptr, 0, &error, &silent.items, &silent.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(
+        ok, kel_readMeasurementValues(api, L"MUTE", nullptr, 0, &ok, &silent.items, &silent.count));
     ASSERT_EQ(silent.count, 1U);
     EXPECT_EQ(silent.items[0]->status, 1);
-    ASSERT_NE(silent.items[0]->error, nullptr);
-    EXPECT_EQ(silent.items[0]->error->code, 1010);
+    ASSERT_EQ(codeIn(silent.items[0]->error), 1010);
 
     EXPECT_EQ(read({}).size(), 5U) << "no names: every value";
 }
 
 TEST_F(MeasurementTest, ARegistrationShowsValuesMovingUntilItEnds) {
     auto which = names({L"Coolant", L"Speed"});
-    ErrorSlot error;
     uint64_t registration = 0;
-    kel_registerMeasurementValues(api, L"PCM", which.data(), 2, &error, &registration);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(
+        ok, kel_registerMeasurementValues(api, L"PCM", which.data(), 2, &ok, &registration));
     ASSERT_NE(registration, 0U);
 
     const auto fetch = [&] {
@@ -245,90 +238,59 @@ TEST_F(MeasurementTest, ARegistrationShowsValuesMovingUntilItEnds) {
     EXPECT_NEAR(later[0], ramp(t + 3 * sampleMs), 0.5);
     EXPECT_NEAR(later[1], sine(t + 3 * sampleMs), 0.125);
 
-    kel_unregisterMeasurementValues(api, registration, &error);
-    ASSERT_FALSE(error);
-    Reads gone;
-    kel_getMeasurementValues(api, registration, &error, &gone.items, &gone.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1901);
+    const auto gone = [&] {
+        Reads none;
+        return kel_test::errorCodeOf([&](KelError** e) {
+            kel_getMeasurementValues(api, registration, e, &none.items, &none.count);
+        });
+    };
+    ASSERT_SUCCEEDS(ok, kel_unregisterMeasurementValues(api, registration, &ok));
+    EXPECT_EQ(gone(), 1901);
     EXPECT_ENGINE_ERROR(again, 1901, kel_unregisterMeasurementValues(api, registration, &again));
-
     auto wrong = names({L"Speed", L"Nope"});
     uint64_t none = 0;
     EXPECT_ENGINE_ERROR(
         refused, 1900,
         kel_registerMeasurementValues(api, L"PCM", wrong.data(), 2, &refused, &none));
-}
 
-TEST_F(MeasurementTest, AReloadEndsRegistrations) {
-    ErrorSlot error;
-    uint64_t registration = 0;
-    kel_registerMeasurementValues(api, L"PCM", nullptr, 0, &error, &registration);
-    ASSERT_FALSE(error);
+    // A reload ends registrations.
+    ASSERT_SUCCEEDS(ok, kel_registerMeasurementValues(api, L"PCM", nullptr, 0, &ok, &registration));
     kelsim_reloadVehicle();
-    Reads gone;
-    kel_getMeasurementValues(api, registration, &error, &gone.items, &gone.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1901);
+    EXPECT_EQ(gone(), 1901);
 }
-
-struct Reports : kel_test::AsyncWatch {
-    std::vector<std::wstring> values;
-
-    static void callback(ReadDataResult** results, uint32_t count, bool isFinal, uint64_t callId,
-                         KelError* error, void* context) {
-        auto& self = *static_cast<Reports*>(context);
-        {
-            const std::lock_guard lock(self.mutex);
-            for (uint32_t i = 0; i < count; ++i) {
-                for (uint32_t k = 0; k < results[i]->parameterCount; ++k) {
-                    self.values.emplace_back(results[i]->parameters[k]->text1);
-                }
-            }
-        }
-        release_ReadDataResult_array(results, count);
-        release_KelError(error);
-        self.reported(callId, false, isFinal);
-    }
-};
 
 TEST_F(MeasurementTest, AsynchronousReadsGiveWhatTheSynchronousOneGives) {
     middleOfNextSample();
     auto which = names({L"Speed", L"Coolant"});
-    Reports reports;
-    ErrorSlot error;
-    const uint64_t id = kel_readMeasurementValuesAsync(api, L"PCM", which.data(), 2, &error,
-                                                       Reports::callback, &reports);
-    ASSERT_FALSE(error);
-    ASSERT_NE(id, 0U);
-    ASSERT_TRUE(reports.wait());
-    EXPECT_EQ(reports.values, read({L"Speed", L"Coolant"}));
+    kel_test::AsyncReports<ReadDataResult, release_ReadDataResult_array> reports(
+        [](const ReadDataResult& r) {
+            std::wstring values;
+            for (uint32_t k = 0; k < r.parameterCount; ++k) {
+                values += (k == 0 ? L"" : L",") + std::wstring(r.parameters[k]->text1);
+            }
+            return values;
+        });
+    reports.run([&](auto... call) {
+        return kel_readMeasurementValuesAsync(api, L"PCM", which.data(), 2, call...);
+    });
+    const auto now = read({L"Speed", L"Coolant"});
+    EXPECT_EQ(reports.all(), std::vector<std::wstring>{now.at(0) + L"," + now.at(1)});
 }
 
 TEST(MeasurementDescription, BadMeasurementsAreRefused) {
-    const auto with = [](const std::string& measurement) {
-        return R"({"ecus": [{"name": "X", "measurements": [)" + measurement + "]}]}";
-    };
-    EXPECT_EQ(kelsim_setVehicleJson(with(R"({"id": "1", "name": "A"})").c_str()), -1) << "no range";
-    EXPECT_EQ(
-        kelsim_setVehicleJson(with(R"({"id": "1", "name": "A", "min": 0, "max": 300})").c_str()),
-        -1)
-        << "300 does not fit in one byte";
-    EXPECT_EQ(kelsim_setVehicleJson(with(R"({"id": "1", "name": "A", "min": 0, "max": 9,
-                           "motion": {"kind": "derived", "source": "B"}})")
-                                        .c_str()),
-              -1)
-        << "a source that comes later or not at all";
-    EXPECT_EQ(
-        kelsim_setVehicleJson(
-            with(R"({"id": "1", "name": "A", "min": 0, "max": 9, "motion": {"kind": "jump"}})")
-                .c_str()),
-        -1);
-    EXPECT_EQ(kelsim_setVehicleJson(with(R"({"id": "1", "name": "A", "min": 0, "max": 9,
-                                            "motion": {"kind": "sine", "amplitude": 1,
-                                                       "periodMs": 0}})")
-                                        .c_str()),
-              -1);
+    const std::string ranged = R"("id": "2001", "name": "A", "min": 0, "max": 9, "motion": )";
+    const std::vector<std::pair<std::string, int>> cases = {
+        {R"("id": "2001", "name": "A")", -1},                       // no range
+        {R"("id": "2001", "name": "A", "min": 0, "max": 300)", -1}, // 300 does not fit one byte
+        {ranged + R"({"kind": "derived", "source": "B"})", -1},     // a source that comes later
+        {ranged + R"({"kind": "jump"})", -1},                       // no such motion
+        {ranged + R"({"kind": "sine", "amplitude": 1, "periodMs": 0})", -1},
+        {ranged + R"({"kind": "constant", "value": 1})", 0}};
+    for (const auto& [measurement, expected] : cases) {
+        const auto description =
+            R"({"ecus": [{"name": "X", "measurements": [{)" + measurement + "}]}]}";
+        EXPECT_EQ(kelsim_setVehicleJson(description.c_str()), expected) << measurement;
+    }
     kelsim_reset();
 }
 

@@ -13,12 +13,14 @@
 #include <map>
 #include <string>
 #include <thread>
+#include <tuple>
 #include <vector>
 
 namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::fetch;
 using kel_test::List;
 using kel_test::zeroed;
 
@@ -85,21 +87,25 @@ protected:
     std::pair<Bytes, Bytes> raw(const wchar_t* target, const Bytes& request) {
         return {request, kel_test::sendRaw(api, target, request)};
     }
-    void readAllDtcs(const wchar_t* target) {
-        ErrorSlot error;
-        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
+    auto readAllDtcs(const wchar_t* target) {
         wchar_t* targets[] = {const_cast<wchar_t*>(target)};
-        kel_readDtcs(api, targets, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
-        EXPECT_FALSE(error);
+        return fetch<List<ReadDtcResult, release_ReadDtcResult_array>>(
+            [&](auto... out) { kel_readDtcs(api, targets, 1, allDtcs(), out...); });
+    }
+    std::unique_ptr<PduItems> pduItems(uint64_t monitor) {
+        return fetch<PduItems>(
+            [&](auto... out) { kel_getPduMonitoringItems(api, monitor, 0, 0, out...); });
+    }
+    std::unique_ptr<LinkItems> linkItems(uint64_t link) {
+        return fetch<LinkItems>(
+            [&](auto... out) { kel_getMonitoringItems(api, link, 0, 0, out...); });
     }
     std::vector<Seen> pdus(uint64_t monitor, uint32_t most = 0, int32_t keep = 0) {
-        ErrorSlot error;
-        PduItems items;
-        kel_getPduMonitoringItems(api, monitor, most, keep, &error, &items.items, &items.count);
-        EXPECT_FALSE(error) << (error ? error->code : 0);
+        const auto items = fetch<PduItems>(
+            [&](auto... o) { kel_getPduMonitoringItems(api, monitor, most, keep, o...); });
         std::vector<Seen> out;
-        for (uint32_t i = 0; i < items.count; ++i) {
-            const auto& p = *items.items[i];
+        for (uint32_t i = 0; i < items->count; ++i) {
+            const auto& p = *items->items[i];
             out.push_back({p.text1, p.value1 == 2, bytesOf(p.data, p.dataLength)});
         }
         return out;
@@ -109,11 +115,14 @@ protected:
         call(api, handle, &error);
         return error ? error->code : 0;
     }
-    std::string apiTrace(uint64_t monitor, uint32_t most = 0, int32_t keep = 0) {
+    // The content of an API trace monitor, read through `from` (the engine by default).
+    std::string apiTrace(uint64_t monitor, uint32_t most = 0, int32_t keep = 0,
+                         TarnApi* from = nullptr) {
         ErrorSlot error;
         void* data = nullptr;
         uint32_t length = 0;
-        kel_getApiTraceContent(api, monitor, most, keep, &error, &data, &length);
+        kel_getApiTraceContent(from != nullptr ? from : api, monitor, most, keep, &error, &data,
+                               &length);
         EXPECT_FALSE(error);
         EXPECT_NE(data, nullptr); // allocated also for 0 bytes
         std::string text(static_cast<const char*>(data), length);
@@ -128,58 +137,45 @@ TEST_F(Monitoring, PduMonitorShowsExactlyTheTrafficOfTheCallsInOrder) {
     std::vector<Seen> expected;
 
     // DTCs: 19 02 <mask>, answered by 59 02 FF and code (3 bytes) and status per DTC.
-    {
-        ErrorSlot error;
-        List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-        wchar_t* ecm[] = {const_cast<wchar_t*>(L"ECM")};
-        kel_readDtcs(api, ecm, 1, allDtcs(), &error, &dtcs.items, &dtcs.count);
-        ASSERT_FALSE(error);
-        ASSERT_EQ(dtcs.count, 1u);
-        Bytes answer = {0x59, 0x02, 0xFF};
-        for (uint32_t i = 0; i < dtcs.items[0]->dtcCount; ++i) {
-            const auto* d = dtcs.items[0]->dtcs[i];
-            answer.insert(answer.end(),
-                          {static_cast<uint8_t>(d->code >> 16), static_cast<uint8_t>(d->code >> 8),
-                           static_cast<uint8_t>(d->code), static_cast<uint8_t>(d->value1)});
-        }
-        ASSERT_GT(dtcs.items[0]->dtcCount, 0u);
-        expected.push_back({L"ECM", false, {0x19, 0x02, 0xFF}});
-        expected.push_back({L"ECM", true, answer});
+    const auto dtcs = readAllDtcs(L"ECM");
+    ASSERT_EQ(dtcs->count, 1u);
+    ASSERT_GT(dtcs->items[0]->dtcCount, 0u);
+    Bytes answer = {0x59, 0x02, 0xFF};
+    for (uint32_t i = 0; i < dtcs->items[0]->dtcCount; ++i) {
+        const auto* d = dtcs->items[0]->dtcs[i];
+        answer.insert(answer.end(),
+                      {static_cast<uint8_t>(d->code >> 16), static_cast<uint8_t>(d->code >> 8),
+                       static_cast<uint8_t>(d->code), static_cast<uint8_t>(d->value1)});
     }
+    expected.push_back({L"ECM", false, {0x19, 0x02, 0xFF}});
+    expected.push_back({L"ECM", true, answer});
     // Identification: one 22 <id> per value, answered by 62 <id> and the value's bytes.
     std::vector<Bytes> identification;
-    {
-        ErrorSlot error;
-        List<ReadDataResult, release_ReadDataResult_array> values;
-        wchar_t* tcm[] = {const_cast<wchar_t*>(L"TCM")};
-        kel_readIdentificationValues(api, tcm, 1, &error, &values.items, &values.count);
-        ASSERT_FALSE(error);
-        ASSERT_EQ(values.count, 1u);
-        ASSERT_GT(values.items[0]->parameterCount, 0u);
-        for (uint32_t i = 0; i < values.items[0]->parameterCount; ++i) {
-            const auto* p = values.items[0]->parameters[i];
-            identification.push_back(bytesOf(p->data, p->dataLength));
-        }
+    wchar_t* tcm[] = {const_cast<wchar_t*>(L"TCM")};
+    const auto values = fetch<List<ReadDataResult, release_ReadDataResult_array>>(
+        [&](auto... out) { kel_readIdentificationValues(api, tcm, 1, out...); });
+    ASSERT_EQ(values->count, 1u);
+    ASSERT_GT(values->items[0]->parameterCount, 0u);
+    for (uint32_t i = 0; i < values->items[0]->parameterCount; ++i) {
+        const auto* p = values->items[0]->parameters[i];
+        identification.push_back(bytesOf(p->data, p->dataLength));
     }
     // A service, and a unit that stays silent.
     const auto [request, response] = raw(L"ECM", {0x22, 0xF1, 0x90});
     readAllDtcs(L"ACC"); // the silent unit: a request, no answer
 
-    ErrorSlot error;
-    PduItems items;
-    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
-    ASSERT_FALSE(error);
+    const auto items = pduItems(monitor);
     std::vector<Seen> seen;
-    for (uint32_t i = 0; i < items.count; ++i) {
-        const auto& p = *items.items[i];
+    for (uint32_t i = 0; i < items->count; ++i) {
+        const auto& p = *items->items[i];
         seen.push_back({p.text1, p.value1 == 2, bytesOf(p.data, p.dataLength)});
         ASSERT_NE(p.detail, nullptr);
         EXPECT_EQ(p.detail->sequence, i + 1);
         EXPECT_EQ(std::wstring(p.text2), p.value1 == 2 ? L"response" : L"request");
         if (i > 0) {
-            EXPECT_GE(p.value2, items.items[i - 1]->value2) << "time runs backwards at " << i;
+            EXPECT_GE(p.value2, items->items[i - 1]->value2) << "time runs backwards at " << i;
             // A response shares its request's exchange; the next request starts a new one.
-            EXPECT_EQ(p.detail->exchange, items.items[i - 1]->detail->exchange + (p.value1 == 1));
+            EXPECT_EQ(p.detail->exchange, items->items[i - 1]->detail->exchange + (p.value1 == 1));
         }
     }
     // The identification requests lie between the DTC read and the service.
@@ -209,12 +205,10 @@ TEST_F(Monitoring, ValuesOfAFetchCountAndKeep) {
     EXPECT_EQ(pdus(monitor, 0, 1), all);
     EXPECT_EQ(pdus(monitor, 3, 0), std::vector<Seen>(all.begin(), all.begin() + 3));
     EXPECT_EQ(pdus(monitor, 3, 0), std::vector<Seen>(all.begin() + 3, all.end()));
-
-    ErrorSlot error;
     PduItems items;
-    kel_getPduMonitoringItems(api, monitor, 0, 2, &error, &items.items, &items.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, BadArgument);
+    EXPECT_ENGINE_ERROR(
+        keep, BadArgument,
+        kel_getPduMonitoringItems(api, monitor, 0, 2, &keep, &items.items, &items.count));
 }
 
 TEST_F(Monitoring, AFullMonitorDropsItsOldestItemsAndTheNumbersShowTheGap) {
@@ -225,14 +219,11 @@ TEST_F(Monitoring, AFullMonitorDropsItsOldestItemsAndTheNumbersShowTheGap) {
     raw(L"ECM", {0x3E, 0x00});
     const auto [request, response] = raw(L"ECM", {0x3E, 0x00});
     ASSERT_FALSE(response.empty());
-    ErrorSlot error;
-    PduItems items;
-    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(items.count, 3u);
-    EXPECT_EQ(items.items[0]->detail->sequence, 2u); // the first request went
-    EXPECT_EQ(bytesOf(items.items[1]->data, items.items[1]->dataLength), request);
-    EXPECT_EQ(bytesOf(items.items[2]->data, items.items[2]->dataLength), response);
+    const auto items = pduItems(monitor);
+    ASSERT_EQ(items->count, 3u);
+    EXPECT_EQ(items->items[0]->detail->sequence, 2u); // the first request went
+    EXPECT_EQ(bytesOf(items->items[1]->data, items->items[1]->dataLength), request);
+    EXPECT_EQ(bytesOf(items->items[2]->data, items->items[2]->dataLength), response);
 }
 
 TEST_F(Monitoring, ALinkGivesOneItemPerExchangeWithItsAnswer) {
@@ -243,12 +234,9 @@ TEST_F(Monitoring, ALinkGivesOneItemPerExchangeWithItsAnswer) {
     ASSERT_EQ(negative[0], 0x7F);
     readAllDtcs(L"ACC"); // the silent unit: a request, no answer
 
-    ErrorSlot error;
-    LinkItems items;
-    kel_getMonitoringItems(api, bench, 0, 0, &error, &items.items, &items.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(items.count, 3u);
-    const MonitoringItem& ok = *items.items[0];
+    const auto items = linkItems(bench);
+    ASSERT_EQ(items->count, 3u);
+    const MonitoringItem& ok = *items->items[0];
     EXPECT_EQ(std::wstring(ok.text1), L"ECM");
     EXPECT_EQ(bytesOf(ok.data, ok.dataLength), request);
     EXPECT_EQ(ok.value2, 1u);
@@ -262,7 +250,7 @@ TEST_F(Monitoring, ALinkGivesOneItemPerExchangeWithItsAnswer) {
     EXPECT_EQ(bytesOf(ok.detail->response, ok.detail->responseLength), positive);
     EXPECT_EQ(std::wstring(ok.detail->text), L"positive response");
 
-    const MonitoringItem& refused = *items.items[1];
+    const MonitoringItem& refused = *items->items[1];
     EXPECT_EQ(refused.value2, 2u);
     EXPECT_EQ(refused.flag1, 1);
     EXPECT_EQ(refused.flag2, 0);
@@ -271,14 +259,11 @@ TEST_F(Monitoring, ALinkGivesOneItemPerExchangeWithItsAnswer) {
     EXPECT_EQ(bytesOf(refused.detail->response, refused.detail->responseLength), negative);
     EXPECT_EQ(std::wstring(refused.detail->text).rfind(L"negative response 0x", 0), 0u);
 
-    const MonitoringItem& silent = *items.items[2];
+    const MonitoringItem& silent = *items->items[2];
     EXPECT_EQ(std::wstring(silent.text1), L"ACC");
     EXPECT_EQ(silent.flag1, 0);
     EXPECT_EQ(silent.detail, nullptr);
-
-    LinkItems none;
-    kel_getMonitoringItems(api, bench, 0, 0, &error, &none.items, &none.count);
-    EXPECT_EQ(none.count, 0u) << "reading removed them";
+    EXPECT_EQ(linkItems(bench)->count, 0u) << "reading removed them";
 }
 
 TEST_F(Monitoring, LinksAreListedByNameUntilReleased) {
@@ -310,25 +295,29 @@ TEST_F(Monitoring, ReleasedUnknownAndForeignHandlesAreEngineErrors) {
     const uint64_t bench = link(L"bench");
     ErrorSlot error;
     uint64_t trace = 0;
-    kel_createApiTraceMonitor(api, &error, &trace);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_createApiTraceMonitor(api, &ok, &trace));
     EXPECT_NE(monitor, bench);
     EXPECT_NE(bench, trace);
 
-    // A handle of another kind is not one of this kind.
-    EXPECT_EQ(errorOf(kel_releasePduMonitor, bench), UnknownMonitor);
-    EXPECT_EQ(errorOf(kel_releaseMonitoringLink, trace), UnknownMonitor);
-    EXPECT_EQ(errorOf(kel_releaseApiTraceMonitor, monitor), UnknownMonitor);
-    EXPECT_EQ(errorOf(kel_releasePduMonitor, 12345), UnknownMonitor);
-
-    // Released twice: the second is the engine's error, and the handle is gone for reads.
-    EXPECT_EQ(errorOf(kel_releasePduMonitor, monitor), 0);
-    EXPECT_EQ(errorOf(kel_releasePduMonitor, monitor), UnknownMonitor);
-    EXPECT_EQ(errorOf(kel_releaseMonitoringLink, bench), 0);
-    EXPECT_EQ(errorOf(kel_releaseMonitoringLink, bench), UnknownMonitor);
-    EXPECT_EQ(errorOf(kel_releaseApiTraceMonitor, trace), 0);
-    EXPECT_EQ(errorOf(kel_releaseApiTraceMonitor, trace), UnknownMonitor);
-    EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, bench), UnknownMonitor);
+    // A handle of another kind is not one of this kind; released twice, the second is the
+    // engine's error, and the handle is gone for reads.
+    using Release = void (*)(TarnApi*, uint64_t, KelError**);
+    const std::vector<std::tuple<Release, uint64_t, int32_t>> cases = {
+        {kel_releasePduMonitor, bench, UnknownMonitor},
+        {kel_releaseMonitoringLink, trace, UnknownMonitor},
+        {kel_releaseApiTraceMonitor, monitor, UnknownMonitor},
+        {kel_releasePduMonitor, 12345, UnknownMonitor},
+        {kel_releasePduMonitor, monitor, 0},
+        {kel_releasePduMonitor, monitor, UnknownMonitor},
+        {kel_releaseMonitoringLink, bench, 0},
+        {kel_releaseMonitoringLink, bench, UnknownMonitor},
+        {kel_releaseApiTraceMonitor, trace, 0},
+        {kel_releaseApiTraceMonitor, trace, UnknownMonitor},
+        {kel_startTraceFileMonitoringLink, bench, UnknownMonitor}};
+    for (std::size_t i = 0; i < cases.size(); ++i) {
+        const auto& [call, handle, expected] = cases[i];
+        EXPECT_EQ(errorOf(call, handle), expected) << "case " << i;
+    }
 
     PduItems items;
     EXPECT_ENGINE_ERROR(
@@ -371,10 +360,8 @@ std::vector<std::vector<std::string>> traceLines(const std::string& text) {
 }
 
 TEST_F(Monitoring, ApiTraceShowsTheCallsMadeWithSecretsMasked) {
-    ErrorSlot error;
     uint64_t trace = 0;
-    kel_createApiTraceMonitor(api, &error, &trace);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_createApiTraceMonitor(api, &ok, &trace));
     // Its own creation is not shown; a call shows when it ends, so a read shows in the next.
     EXPECT_EQ(apiTrace(trace), "");
 
@@ -435,9 +422,7 @@ TEST_F(Monitoring, AnOperatorsApiTraceShowsOnlyItsOwnCalls) {
     kel_initialize(api, &error);
     kel_addUser(api, L"op", L"op-password", 1, &error);
     kel_setServerUserManagement(api, 1, &error);
-    uint64_t handle = 0;
-    kel_getHandle(api, &error, &handle);
-    TarnApi* client = kel_getRemoteConnectionByHandle(handle, &error);
+    TarnApi* client = kel_getRemoteConnectionByHandle(kel_test::handleOf(api), &error);
     auto* login = static_cast<LogInOutConfig*>(allocate_Memory(sizeof(LogInOutConfig)));
     login->user = duplicate_WString(L"op");
     login->password = duplicate_WString(L"op-password");
@@ -456,12 +441,7 @@ TEST_F(Monitoring, AnOperatorsApiTraceShowsOnlyItsOwnCalls) {
     kel_getState(client, &error, &state);
     ASSERT_FALSE(error) << error->code;
 
-    void* data = nullptr;
-    uint32_t length = 0;
-    kel_getApiTraceContent(client, own, 0, 0, &error, &data, &length);
-    ASSERT_FALSE(error) << error->code;
-    const std::string mine(static_cast<const char*>(data), length);
-    release_Memory(data);
+    const std::string mine = apiTrace(own, 0, 0, client);
     const auto lines = traceLines(mine);
     ASSERT_EQ(lines.size(), 1u) << mine;
     EXPECT_EQ(lines[0][2], "getState");
@@ -469,6 +449,8 @@ TEST_F(Monitoring, AnOperatorsApiTraceShowsOnlyItsOwnCalls) {
     EXPECT_NE(everything.find("writeFile"), std::string::npos) << everything;
     EXPECT_NE(everything.find("getState"), std::string::npos) << everything;
 
+    void* data = nullptr;
+    uint32_t length = 0;
     EXPECT_ENGINE_ERROR(unread, UnknownMonitor,
                         kel_getApiTraceContent(client, all, 0, 0, &unread, &data, &length));
     EXPECT_ENGINE_ERROR(unreleased, UnknownMonitor,
@@ -495,9 +477,8 @@ TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     EXPECT_EQ(kelsim_savePduMonitor(engine, monitor + 1000, L"x.trc"), UnknownMonitor);
     EXPECT_EQ(kelsim_savePduMonitor(engine, monitor, L"../escape.trc"), 1606);
 
-    LinkItems recorded;
-    ErrorSlot liveError;
-    kel_getMonitoringItems(api, live, 0, 0, &liveError, &recorded.items, &recorded.count);
+    const auto recordedItems = linkItems(live);
+    const LinkItems& recorded = *recordedItems;
     ASSERT_EQ(recorded.count, 3u);
 
     const uint64_t replay = link(L"replay");
@@ -510,10 +491,8 @@ TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, replay), 0);
     kelsim_advanceClock(60000);
 
-    LinkItems replayed;
-    ErrorSlot error;
-    kel_getMonitoringItems(api, replay, 0, 0, &error, &replayed.items, &replayed.count);
-    ASSERT_FALSE(error);
+    const auto replayedItems = linkItems(replay);
+    const LinkItems& replayed = *replayedItems;
     ASSERT_EQ(replayed.count, recorded.count);
     for (uint32_t i = 0; i < replayed.count; ++i) {
         const MonitoringItem& r = *replayed.items[i];
@@ -539,11 +518,9 @@ TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     EXPECT_EQ(errorOf(kel_closeTraceFileMonitoringLink, replay), NoTraceFile);
     // Closed, the link hears the vehicle again.
     raw(L"ECM", {0x3E, 0x00});
-    LinkItems after;
-    ErrorSlot afterError;
-    kel_getMonitoringItems(api, replay, 0, 0, &afterError, &after.items, &after.count);
-    ASSERT_EQ(after.count, 1u);
-    EXPECT_EQ(after.items[0]->flag3, 0);
+    const auto after = linkItems(replay);
+    ASSERT_EQ(after->count, 1u);
+    EXPECT_EQ(after->items[0]->flag3, 0);
 }
 
 // A trace file written by hand: the replay follows its recorded times on vehicle time,
@@ -580,13 +557,10 @@ TEST_F(Monitoring, ReplayFollowsTheRecordedTimesAndStopHoldsIt) {
     ASSERT_EQ(openError(L"traces/hand.trc"), 0);
 
     const auto units = [&] {
-        ErrorSlot error;
-        LinkItems items;
-        kel_getMonitoringItems(api, replay, 0, 0, &error, &items.items, &items.count);
-        EXPECT_FALSE(error);
+        const auto items = linkItems(replay);
         std::vector<std::wstring> out;
-        for (uint32_t i = 0; i < items.count; ++i) {
-            out.emplace_back(items.items[i]->text1);
+        for (uint32_t i = 0; i < items->count; ++i) {
+            out.emplace_back(items->items[i]->text1);
         }
         return out;
     };
@@ -627,15 +601,12 @@ TEST_F(MonitoringConcurrency, ExchangesFromSeveralThreadsAreAllSeenInPairs) {
     for (auto& t : threads) {
         t.join();
     }
-    ErrorSlot error;
-    PduItems items;
-    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(items.count, 2u * perThread * units.size());
+    const auto items = pduItems(monitor);
+    ASSERT_EQ(items->count, 2u * perThread * units.size());
     std::map<std::wstring, int> requests;
-    for (uint32_t i = 0; i < items.count; i += 2) {
-        const auto& ask = *items.items[i];
-        const auto& answer = *items.items[i + 1];
+    for (uint32_t i = 0; i < items->count; i += 2) {
+        const auto& ask = *items->items[i];
+        const auto& answer = *items->items[i + 1];
         EXPECT_EQ(ask.value1, 1u);
         EXPECT_EQ(answer.value1, 2u);
         EXPECT_EQ(std::wstring(ask.text1), answer.text1);

@@ -26,7 +26,10 @@
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::ErrorSlot;
+using kel_test::fetch;
+using kel_test::fetchRecord;
 using kel_test::List;
 using kel_test::zeroed;
 
@@ -115,6 +118,19 @@ protected:
 
     std::filesystem::path projects() const { return root / "projects"; }
 
+    kel_test::Owned<ProjectDetails> projectDetails() {
+        return fetchRecord(release_ProjectDetails,
+                           [&](auto... out) { kel_getProjectDetails(api, out...); });
+    }
+    kel_test::Owned<StatusInfo> statusInfo() {
+        return fetchRecord(release_StatusInfo,
+                           [&](auto... out) { kel_getStatusInfo(api, out...); });
+    }
+    kel_test::Owned<ProcessInfo> processInfo() {
+        return fetchRecord(release_ProcessInfo,
+                           [&](auto... out) { kel_getProcessInfo(api, out...); });
+    }
+
     std::filesystem::path root;
     TarnApi* api = nullptr;
 
@@ -135,13 +151,10 @@ private:
     }
 };
 
-TEST_F(ProjectsTest, TheDefaultProjectIsMadeInTheDataRootAndSelected) {
+TEST_F(ProjectsTest, TheDefaultProjectIsMadeAndSelectingAnUnknownOneKeepsIt) {
     EXPECT_EQ(selected(), L"Default");
     EXPECT_TRUE(std::filesystem::exists(root / "projects" / "Default" / "project.json"));
     EXPECT_TRUE(std::filesystem::exists(root / "projects" / "Default" / "vehicle.kdb"));
-}
-
-TEST_F(ProjectsTest, SelectingAnUnknownProjectIsAnErrorAndKeepsTheSelection) {
     for (const wchar_t* name : {L"Nowhere", L"", L"../Default", L"Default/.."}) {
         SCOPED_TRACE(std::filesystem::path(name).string());
         EXPECT_ENGINE_ERROR(error, 1200, kel_setSelectedProject(api, &error, name));
@@ -178,64 +191,51 @@ TEST_F(ProjectsTest, ASavedProjectConfigurationOutlivesARestartAndAnUnsavedOneDo
     check(L"Simulated vehicle project", 0);
 
     change();
-    ErrorSlot error;
-    kel_saveProjectConfiguration(api, L"Default", &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_saveProjectConfiguration(api, L"Default", &ok));
     restart();
     check(description, -5);
 
-    List<ProjectConfig, release_ProjectConfig_array> all;
-    kel_getProjectConfigurations(api, &error, &all.items, &all.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(all.count, 1u);
-    EXPECT_EQ(all.items[0]->value3, 77u);
-}
+    const auto all = fetch<List<ProjectConfig, release_ProjectConfig_array>>(
+        [&](auto... out) { kel_getProjectConfigurations(api, out...); });
+    ASSERT_EQ(all->count, 1u);
+    EXPECT_EQ(all->items[0]->value3, 77u);
 
-TEST_F(ProjectsTest, ProjectConfigurationsOfUnknownProjectsAndNullInputs) {
     EXPECT_EQ(configuration(L"Nowhere"), nullptr); // no record and no error
-    EXPECT_ENGINE_ERROR(error, 1207, kel_setProjectConfiguration(api, L"Default", nullptr, &error));
+    EXPECT_ENGINE_ERROR(null, 1207, kel_setProjectConfiguration(api, L"Default", nullptr, &null));
     EXPECT_ENGINE_ERROR(unknown, 1200, kel_saveProjectConfiguration(api, L"Nowhere", &unknown));
 }
 
 TEST_F(ProjectsTest, TheEngineConfigurationOutlivesARestartOnlyWhenSaved) {
     std::filesystem::copy(projects() / "Default", projects() / "Second");
-    ErrorSlot error;
-    kel_refreshProjectList(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_refreshProjectList(api, &ok));
     ASSERT_EQ(selectionError(L"Second"), 0);
 
     TarnApiConfig* config = nullptr;
-    kel_getConfiguration(api, &error, &config);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getConfiguration(api, &ok, &config));
     ASSERT_NE(config, nullptr);
     ASSERT_NE(config->server, nullptr);
     config->value1 = 42;
     config->value7 = 0xBEEF;
     config->server->port = 7000;
-    kel_setConfiguration(api, &error, config);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setConfiguration(api, &ok, config));
 
     MoxConfig* mox = nullptr;
-    kel_getMoxConfiguration(api, &error, &mox);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getMoxConfiguration(api, &ok, &mox));
     ASSERT_NE(mox, nullptr);
     replace(mox->text1, L"mox \u00fc");
-    kel_setMoxConfiguration(api, &error, mox);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setMoxConfiguration(api, &ok, mox));
 
     SystemProperty* language = property(L"Engine.Language");
     ASSERT_NE(language, nullptr);
     replace(language->text1, L"de");
-    kel_setSystemProperty(api, language, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setSystemProperty(api, language, &ok));
 
-    kel_saveConfiguration(api, &error); // the Mox configuration is not saved
-    ASSERT_FALSE(error);
+    // The Mox configuration is not saved with it.
+    ASSERT_SUCCEEDS(ok, kel_saveConfiguration(api, &ok));
     restart();
 
     EXPECT_EQ(selected(), L"Second");
-    kel_getConfiguration(api, &error, &config);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getConfiguration(api, &ok, &config));
     EXPECT_EQ(config->value1, 42);
     EXPECT_EQ(config->value7, 0xBEEF);
     EXPECT_EQ(config->server->port, 7000u);
@@ -245,16 +245,13 @@ TEST_F(ProjectsTest, TheEngineConfigurationOutlivesARestartOnlyWhenSaved) {
     EXPECT_EQ(std::wstring(language->text1), L"de");
     EXPECT_EQ(language->flag, 1);
     release_SystemProperty(language);
-    kel_getMoxConfiguration(api, &error, &mox);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getMoxConfiguration(api, &ok, &mox));
     EXPECT_EQ(std::wstring(mox->text1), L"");
     replace(mox->text1, L"mox \u00fc");
-    kel_setMoxConfiguration(api, &error, mox);
-    kel_saveMoxConfiguration(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setMoxConfiguration(api, &ok, mox));
+    ASSERT_SUCCEEDS(ok, kel_saveMoxConfiguration(api, &ok));
     restart();
-    kel_getMoxConfiguration(api, &error, &mox);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getMoxConfiguration(api, &ok, &mox));
     EXPECT_EQ(std::wstring(mox->text1), L"mox \u00fc");
     release_MoxConfig(mox);
 }
@@ -269,14 +266,10 @@ TEST_F(ProjectsTest, ASavedConfigurationThatCannotBeReadIsReportedUntilReplaced)
     config = zeroed<TarnApiConfig>();
     config->value1 = 9;
     config->text = duplicate_WString(L"");
-    ErrorSlot set;
-    kel_setConfiguration(api, &set, config);
-    ASSERT_FALSE(set);
-    kel_saveConfiguration(api, &set);
-    ASSERT_FALSE(set);
+    ASSERT_SUCCEEDS(ok, kel_setConfiguration(api, &ok, config));
+    ASSERT_SUCCEEDS(ok, kel_saveConfiguration(api, &ok));
     restart();
-    kel_getConfiguration(api, &set, &config);
-    ASSERT_FALSE(set);
+    ASSERT_SUCCEEDS(ok, kel_getConfiguration(api, &ok, &config));
     EXPECT_EQ(config->value1, 9);
     EXPECT_EQ(config->server, nullptr);
     release_TarnApiConfig(config);
@@ -291,8 +284,7 @@ TEST_F(ProjectsTest, DatabaseFilesLoadAndUnloadWithAnErrorPerFile) {
                         const_cast<wchar_t*>(L"../../outside.kdb"),
                         const_cast<wchar_t*>(L"notes.kdb"), const_cast<wchar_t*>(L"vehicle.kdb")};
     List<LoadDatabaseResult, release_LoadDatabaseResult_array> loaded;
-    kel_loadDatabaseFile(api, files, 5, &error, &loaded.items, &loaded.count);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_loadDatabaseFile(api, files, 5, &ok, &loaded.items, &loaded.count));
     ASSERT_EQ(loaded.count, 5u);
     const int32_t expected[] = {0, 1203, 1206, 1204, 0};
     for (uint32_t i = 0; i < 5; ++i) {
@@ -302,9 +294,7 @@ TEST_F(ProjectsTest, DatabaseFilesLoadAndUnloadWithAnErrorPerFile) {
         EXPECT_EQ(r->flag, expected[i] == 0 ? 1 : 0) << i;
     }
 
-    ProjectDetails* details = nullptr;
-    kel_getProjectDetails(api, &error, &details);
-    ASSERT_FALSE(error);
+    auto details = projectDetails();
     ASSERT_NE(details, nullptr);
     EXPECT_EQ(std::wstring(details->text1), L"Default");
     ASSERT_EQ(details->dbFileCount2, 2u); // the project's own database, then the new one
@@ -312,37 +302,26 @@ TEST_F(ProjectsTest, DatabaseFilesLoadAndUnloadWithAnErrorPerFile) {
     EXPECT_EQ(std::wstring(details->dbFiles2[1]->name), L"second.kdb");
     ASSERT_EQ(details->dbFileCount1, 3u); // every database file in the folder, by name
     EXPECT_EQ(std::wstring(details->dbFiles1[0]->name), L"notes.kdb");
-    ASSERT_NE(details->dbFiles1[0]->error, nullptr);
-    EXPECT_EQ(details->dbFiles1[0]->error->code, 1204);
+    ASSERT_EQ(codeIn(details->dbFiles1[0]->error), 1204);
     EXPECT_EQ(details->dbFiles1[0]->loaded, 0);
     EXPECT_EQ(details->dbFiles1[1]->loaded, 1);
     EXPECT_EQ(details->dbFiles1[1]->size, database.size());
-    release_ProjectDetails(details);
 
     wchar_t* unload[] = {const_cast<wchar_t*>(L"second.kdb"), const_cast<wchar_t*>(L"second.kdb")};
-    List<LoadDatabaseResult, release_LoadDatabaseResult_array> unloaded;
-    kel_unloadDatabaseFile(api, unload, 2, &error, &unloaded.items, &unloaded.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(unloaded.count, 2u);
-    EXPECT_EQ(unloaded.items[0]->error, nullptr);
-    EXPECT_EQ(unloaded.items[0]->flag, 0);
-    ASSERT_NE(unloaded.items[1]->error, nullptr);
-    EXPECT_EQ(unloaded.items[1]->error->code, 1205);
-
-    StatusInfo* status = nullptr;
-    kel_getStatusInfo(api, &error, &status);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(status->value5, 1u);
-    release_StatusInfo(status);
+    const auto unloaded = fetch<List<LoadDatabaseResult, release_LoadDatabaseResult_array>>(
+        [&](auto... out) { kel_unloadDatabaseFile(api, unload, 2, out...); });
+    ASSERT_EQ(unloaded->count, 2u);
+    EXPECT_EQ(unloaded->items[0]->error, nullptr);
+    EXPECT_EQ(unloaded->items[0]->flag, 0);
+    ASSERT_EQ(codeIn(unloaded->items[1]->error), 1205);
+    EXPECT_EQ(statusInfo()->value5, 1u);
 }
 
 TEST_F(ProjectsTest, AnOlderProjectMustBeConvertedBeforeItCanBeSelected) {
     writeFile(projects() / "Old" / "project.json", R"({"format": 1, "databases": ["old.kdb"]})");
     writeFile(projects() / "Old" / "old.kdb", database);
     writeFile(projects() / "Broken" / "project.json", "{not json");
-    ErrorSlot error;
-    kel_refreshProjectList(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_refreshProjectList(api, &ok));
 
     auto required = [&](const std::wstring& path) -> int {
         ErrorSlot e;
@@ -360,19 +339,15 @@ TEST_F(ProjectsTest, AnOlderProjectMustBeConvertedBeforeItCanBeSelected) {
     EXPECT_EQ(selectionError(L"Broken"), 1201);
     EXPECT_EQ(configuration(L"Old"), nullptr);
 
-    kel_convertProject(api, L"Old", &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_convertProject(api, L"Old", &ok));
     EXPECT_EQ(required(L"Old"), 0);
     restart();
     EXPECT_EQ(required(L"Old"), 0);
     ASSERT_EQ(selectionError(L"Old"), 0);
-    ProjectDetails* details = nullptr;
-    kel_getProjectDetails(api, &error, &details);
-    ASSERT_FALSE(error);
+    const auto details = projectDetails();
     ASSERT_EQ(details->dbFileCount2, 1u); // its database files are kept and load
     EXPECT_EQ(std::wstring(details->dbFiles2[0]->name), L"old.kdb");
     EXPECT_EQ(details->value1, 2u);
-    release_ProjectDetails(details);
     ProjectConfig* config = configuration(L"Old");
     ASSERT_NE(config, nullptr);
     EXPECT_EQ(std::wstring(config->itemText1), L"Old");
@@ -399,16 +374,12 @@ TEST_F(ProjectsTest, SystemPropertiesFormATreeAndAResetRestoresTheDefaults) {
     engine = property(L"Engine");
     replace(engine->children[0]->text1, L"fr");
     replace(engine->children[2]->itemText1, L"Engine.Nothing");
-    kel_setSystemProperty(api, engine, &error);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1208);
+    EXPECT_ENGINE_ERROR(unknown, 1208, kel_setSystemProperty(api, engine, &unknown));
     SystemProperty* language = property(L"Engine.Language");
     EXPECT_EQ(std::wstring(language->text1), L"en");
     release_SystemProperty(language);
 
-    ErrorSlot reset;
-    kel_resetSystemProperty(api, L"Engine", &reset);
-    ASSERT_FALSE(reset);
+    ASSERT_SUCCEEDS(ok, kel_resetSystemProperty(api, L"Engine", &ok));
     level = property(L"Engine.TraceLevel");
     EXPECT_EQ(std::wstring(level->text1), L"0");
     EXPECT_EQ(level->flag, 0);
@@ -419,10 +390,7 @@ TEST_F(ProjectsTest, SystemPropertiesFormATreeAndAResetRestoresTheDefaults) {
 }
 
 TEST_F(ProjectsTest, ProcessAndSystemInformationAreTheRealFigures) {
-    ErrorSlot error;
-    ProcessInfo* info = nullptr;
-    kel_getProcessInfo(api, &error, &info);
-    ASSERT_FALSE(error);
+    const auto info = processInfo();
     ASSERT_NE(info, nullptr);
     ASSERT_EQ(info->processCount, 1u);
     const ProcessEntry* process = info->processes[0];
@@ -439,11 +407,9 @@ TEST_F(ProjectsTest, ProcessAndSystemInformationAreTheRealFigures) {
     EXPECT_GE(process->items2[2]->bytes, process->items2[0]->bytes); // the peak
     EXPECT_EQ(info->flag1, sizeof(void*) == 8 ? 1 : 0);
     EXPECT_EQ(info->flag2, 1); // initialized
-    release_ProcessInfo(info);
 
-    SystemInfo* system = nullptr;
-    kel_getSystemInfo(api, &error, &system);
-    ASSERT_FALSE(error);
+    const auto system =
+        fetchRecord(release_SystemInfo, [&](auto... out) { kel_getSystemInfo(api, out...); });
     EXPECT_EQ(system->value1, std::thread::hardware_concurrency());
     EXPECT_EQ(system->value3, sizeof(void*) * 8);
     EXPECT_GT(system->value2, 0u);
@@ -453,108 +419,73 @@ TEST_F(ProjectsTest, ProcessAndSystemInformationAreTheRealFigures) {
     EXPECT_EQ(std::wstring(system->text1), L"Linux");
 #endif
     EXPECT_NE(std::wstring(system->text3), L"");
-    release_SystemInfo(system);
 }
 
 TEST_F(ProjectsTest, TheStatusTextIsReportedAndPostedAsAnEvent) {
-    ErrorSlot error;
     uint64_t channel = 0;
-    kel_openEventChannel(api, &error, &channel);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_openEventChannel(api, &ok, &channel));
     const wchar_t* text = L"Flashing ECM \u2713";
-    kel_setStatusText(api, &error, text);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_setStatusText(api, &ok, text));
 
-    EventReport* report = nullptr;
-    kel_getCurrentEvents(api, channel, 0, &error, &report);
-    ASSERT_FALSE(error);
+    const auto report = fetchRecord(
+        release_EventReport, [&](auto... out) { kel_getCurrentEvents(api, channel, 0, out...); });
     ASSERT_EQ(report->eventCount, 1u);
     EXPECT_EQ(report->events[0]->kind, 14);
     EXPECT_EQ(std::wstring(report->events[0]->name), L"StatusText");
     EXPECT_EQ(std::wstring(report->events[0]->text), text);
-    release_EventReport(report);
-
-    ProcessInfo* info = nullptr;
-    kel_getProcessInfo(api, &error, &info);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(std::wstring(info->text), text);
-    release_ProcessInfo(info);
-    StatusInfo* status = nullptr;
-    kel_getStatusInfo(api, &error, &status);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(status->value7, 1u);
-    release_StatusInfo(status);
+    EXPECT_EQ(std::wstring(processInfo()->text), text);
+    EXPECT_EQ(statusInfo()->value7, 1u);
 }
 
 TEST_F(ProjectsTest, StatusInfoCountsTheCallsOfTheEngineObject) {
-    ErrorSlot error;
-    StatusInfo* before = nullptr;
-    kel_getStatusInfo(api, &error, &before);
-    ASSERT_FALSE(error);
+    const auto before = statusInfo();
     EXPECT_GT(before->value8, 0u);
     EXPECT_EQ(selected(), L"Default");
     EXPECT_EQ(selectionError(L"Nowhere"), 1200);
     std::this_thread::sleep_for(std::chrono::milliseconds(20));
-    StatusInfo* after = nullptr;
-    kel_getStatusInfo(api, &error, &after);
-    ASSERT_FALSE(error);
+    const auto after = statusInfo();
     EXPECT_EQ(after->value1, before->value1 + 3); // the first getStatusInfo and two calls
     EXPECT_EQ(after->value2, before->value2 + 1);
     EXPECT_GE(after->value3, before->value3 + 20);
     EXPECT_EQ(after->value8, before->value8);
     EXPECT_EQ(after->value6, 1u);
-    release_StatusInfo(before);
-    release_StatusInfo(after);
 }
 
 TEST_F(ProjectsTest, TransmissionInfoIsWhatTheBusCarried) {
-    ErrorSlot error;
-    TransmissionInfo* info = nullptr;
-    kel_getTransmissionInfo(api, &error, &info);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(info->value1, 0u); // a fresh vehicle has sent nothing
-    EXPECT_EQ(info->value2, 0u);
-    EXPECT_EQ(info->value3, 0u);
-    EXPECT_EQ(info->value4, 0u);
-    release_TransmissionInfo(info);
-
+    const auto transmission = [&] {
+        return fetchRecord(release_TransmissionInfo,
+                           [&](auto... out) { kel_getTransmissionInfo(api, out...); });
+    };
+    const auto fresh = transmission(); // a fresh vehicle has sent nothing
+    EXPECT_EQ(std::vector<uint64_t>({fresh->value1, fresh->value2, fresh->value3, fresh->value4}),
+              std::vector<uint64_t>(4, 0));
     wchar_t* targets[] = {const_cast<wchar_t*>(L"ECM"), const_cast<wchar_t*>(L"ACC")};
-    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-    kel_readDtcs(api, targets, 2, nullptr, &error, &dtcs.items, &dtcs.count);
-    ASSERT_FALSE(error);
-    kel_getTransmissionInfo(api, &error, &info);
-    ASSERT_FALSE(error);
+    fetch<List<ReadDtcResult, release_ReadDtcResult_array>>(
+        [&](auto... out) { kel_readDtcs(api, targets, 2, nullptr, out...); });
+    const auto info = transmission();
     EXPECT_LE(info->value2, info->value1); // the silent ACC answers nothing
     EXPECT_GE(info->value3, info->value1); // every request has a byte at least
     EXPECT_GE(info->value4, info->value2);
-    release_TransmissionInfo(info);
 }
 
 TEST_F(ProjectsTest, ProjectsWithNonAsciiNamesAreFoundAndSelected) {
     const std::wstring name = L"Pr\u00fcfstand \u6e2c\u8a66";
     const auto folder = projects() / std::filesystem::path(u8"Pr\u00fcfstand \u6e2c\u8a66");
     std::filesystem::copy(projects() / "Default", folder);
-    ErrorSlot error;
-    kel_refreshProjectList(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_refreshProjectList(api, &ok));
     ASSERT_EQ(selectionError(name.c_str()), 0);
     EXPECT_EQ(selected(), name);
-    kel_saveConfiguration(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_saveConfiguration(api, &ok));
     restart();
     EXPECT_EQ(selected(), name);
-    ProjectDetails* details = nullptr;
-    kel_getProjectDetails(api, &error, &details);
-    ASSERT_FALSE(error);
+    const auto details = projectDetails();
     EXPECT_EQ(std::wstring(details->text1), name);
     ASSERT_EQ(details->dbFileCount2, 1u);
     EXPECT_TRUE(std::filesystem::exists(folder / "vehicle.kdb"));
     EXPECT_NE(std::wstring(details->dbFiles2[0]->path).find(name), std::wstring::npos);
-    release_ProjectDetails(details);
 
     wchar_t* trace = nullptr;
-    kel_getCurrentDebugTraceDirectory(api, &error, &trace);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_getCurrentDebugTraceDirectory(api, &ok, &trace));
     EXPECT_TRUE(std::filesystem::is_directory(root / "traces" / "debug"));
     release_Memory(trace);
 }

@@ -62,14 +62,19 @@ constexpr int32_t sequenceEnded = 51;
 
 class SequencesTest : public EngineTest {
 protected:
+    // The outcomes of a sequence; with `failed`, the call may fail, with its code there.
     std::vector<Outcome> execute(const wchar_t* sequence, Values& values,
-                                 const wchar_t* target = L"ECM") {
+                                 const wchar_t* target = L"ECM", int32_t* failed = nullptr) {
         Results out;
         ErrorSlot error;
         kel_executeSequence(api, target, sequence, values.items.data(),
                             static_cast<uint32_t>(values.items.size()), &error, &out.items,
                             &out.count);
-        EXPECT_FALSE(error) << (error ? error->code : 0);
+        if (failed != nullptr) {
+            *failed = error ? error->code : 0;
+        } else {
+            EXPECT_FALSE(error) << (error ? error->code : 0);
+        }
         std::vector<Outcome> outcomes;
         for (uint32_t i = 0; i < out.count; ++i) {
             const ServiceResult& r = *out.items[i];
@@ -81,12 +86,9 @@ protected:
         return outcomes;
     }
     int32_t executeFails(const wchar_t* sequence, Values& values, const wchar_t* target = L"ECM") {
-        Results out;
-        ErrorSlot error;
-        kel_executeSequence(api, target, sequence, values.items.data(),
-                            static_cast<uint32_t>(values.items.size()), &error, &out.items,
-                            &out.count);
-        return error ? error->code : 0;
+        int32_t failed = 0;
+        execute(sequence, values, target, &failed);
+        return failed;
     }
     uint64_t run(const wchar_t* sequence, std::vector<const wchar_t*> arguments = {},
                  int32_t* failed = nullptr) {
@@ -151,11 +153,8 @@ TEST_F(SequencesTest, ResultsComeInOrderAndAFailedServiceStopsTheRest) {
                                     {L"WriteDataByIdentifier_F190", 1, 1102},
                                     {L"ReadDataByIdentifier_F190", 3, 2003}}));
 
-    ErrorSlot error;
-    UnlockResult* unlocked = nullptr;
-    kel_unlockVehicle(api, L"ECM", nullptr, 0, &error, &unlocked);
-    ASSERT_FALSE(error);
-    release_UnlockResult(unlocked);
+    kel_test::fetchRecord(release_UnlockResult,
+                          [&](auto... out) { kel_unlockVehicle(api, L"ECM", nullptr, 0, out...); });
     EXPECT_EQ(execute(L"WriteVin", vin),
               (std::vector<Outcome>{{L"DiagnosticSessionControl", 0, 0},
                                     {L"WriteDataByIdentifier_F190", 0, 0},
@@ -201,28 +200,22 @@ TEST_F(SequencesTest, AStepMayBePassedOverWhenItFails) {
     EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "sequences": {"A": {"steps": [{}]}}})"), -1);
 }
 
-using Reports = kel_test::ServiceReports;
-
 TEST_F(SequencesTest, TheAsynchronousFormReportsEachService) {
-    Values none{};
-    Reports reports;
-    ErrorSlot error;
-    const uint64_t id = kel_executeSequenceAsync(api, L"ECM", L"ReadSoftwareInfo", nullptr, 0,
-                                                 &error, Reports::callback, &reports);
-    ASSERT_FALSE(error);
-    ASSERT_NE(id, 0U);
-    ASSERT_TRUE(reports.wait());
-    EXPECT_EQ(reports.counts, (std::vector<uint32_t>{1, 1}));
-    EXPECT_EQ(reports.services, (std::vector<std::wstring>{L"ReadDataByIdentifier_F190",
-                                                           L"ReadDataByIdentifier_F189"}));
+    using Reports = kel_test::AsyncReports<ServiceResult, release_ServiceResult_array>;
+    const auto service = [](const ServiceResult& r) { return std::wstring(r.itemText1); };
+    Reports reports(service);
+    reports.run([&](auto... call) {
+        return kel_executeSequenceAsync(api, L"ECM", L"ReadSoftwareInfo", nullptr, 0, call...);
+    });
+    EXPECT_EQ(reports.texts, (std::vector<std::vector<std::wstring>>{
+                                 {L"ReadDataByIdentifier_F190"}, {L"ReadDataByIdentifier_F189"}}));
     EXPECT_EQ(reports.errorCode, 0);
 
-    Reports refused;
-    EXPECT_EQ(kel_executeSequenceAsync(api, L"ECM", L"Nope", nullptr, 0, &error, Reports::callback,
-                                       &refused),
-              0U);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 2000);
+    Reports refused(service);
+    EXPECT_ENGINE_ERROR(error, 2000,
+                        EXPECT_EQ(kel_executeSequenceAsync(api, L"ECM", L"Nope", nullptr, 0, &error,
+                                                           Reports::callback, &refused),
+                                  0U));
 }
 
 // Runs go on the family's worker: these run under the thread sanitizer too.
@@ -252,9 +245,7 @@ TEST_F(SequenceRunsConcurrency, ACancelStopsARunBetweenServices) {
     // The second read waits a minute of vehicle time.
     const uint64_t id = run(L"WarmUpCheck");
     ASSERT_NE(id, 0U);
-    ErrorSlot error;
-    kel_cancelSequence(api, id, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_cancelSequence(api, id, &ok));
     const auto events = eventsUntilEnded(channel, id);
     ASSERT_FALSE(events.empty());
     EXPECT_EQ(events.back().kind, sequenceEnded);

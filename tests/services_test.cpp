@@ -19,8 +19,10 @@
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::fetch;
 using kel_test::List;
 using kel_test::zeroed;
 using namespace std::chrono_literals;
@@ -132,12 +134,10 @@ protected:
         ASSERT_EQ(one(L"DiagnosticSessionControl", {param(L"Session", session)}).first, 0);
     }
     uint64_t unlock() {
-        ErrorSlot error;
-        UnlockResult* result = nullptr;
-        kel_unlockVehicle(api, L"ECM", nullptr, 0, &error, &result);
-        EXPECT_FALSE(error);
+        const auto result = kel_test::fetchRecord(release_UnlockResult, [&](auto... out) {
+            kel_unlockVehicle(api, L"ECM", nullptr, 0, out...);
+        });
         const uint64_t value = result != nullptr ? result->value : 0;
-        release_UnlockResult(result);
         EXPECT_NE(value, 0U);
         return value;
     }
@@ -188,8 +188,7 @@ TEST_F(ServicesTest, AParameterTreeReachesTheUnitWithItsShape) {
     for (uint32_t i = 1; i < 3; ++i) {
         const ServiceResult& refused = *results->items[i];
         EXPECT_EQ(refused.status, 3);
-        ASSERT_NE(refused.error, nullptr);
-        EXPECT_EQ(refused.error->code, 1101);
+        ASSERT_EQ(codeIn(refused.error), 1101);
         EXPECT_EQ(refused.request, nullptr) << "nothing was sent";
     }
     EXPECT_NE(std::wstring(results->items[1]->error->details).find(L"Settings.Speed"),
@@ -209,8 +208,7 @@ TEST_F(ServicesTest, NegativeResponsesCarryTheirBytes) {
     EXPECT_EQ(write.status, 1);
     EXPECT_STREQ(write.text1, L"serviceNotSupportedInActiveSession");
     EXPECT_EQ(responseOf(write), (Bytes{0x7F, 0x2E, 0x7F}));
-    ASSERT_NE(write.error, nullptr) << "the service's error is its response's";
-    EXPECT_EQ(write.error->code, 1102);
+    ASSERT_EQ(codeIn(write.error), 1102) << "the service's error is its response's";
     ASSERT_NE(write.error->negativeResponse, nullptr);
     EXPECT_EQ(write.error->negativeResponse->value1, 0x2EU) << "the service id";
     EXPECT_EQ(responseShape(write), L"SIDRQ=2E,NRC=serviceNotSupportedInActiveSession");
@@ -228,14 +226,10 @@ TEST_F(ServicesTest, NegativeResponsesCarryTheirBytes) {
     EXPECT_EQ(acc->items[0]->status, 2);
     EXPECT_EQ(acc->items[0]->error->code, 1010);
     EXPECT_EQ(acc->items[0]->responseCount, 0U);
-
-    // An unknown target fails the call.
-    ErrorSlot error;
     Results none;
-    kel_executeService(api, L"Nope", silent.list(), silent.count(), &error, &none.items,
-                       &none.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1011);
+    EXPECT_ENGINE_ERROR(unknown, 1011,
+                        kel_executeService(api, L"Nope", silent.list(), silent.count(), &unknown,
+                                           &none.items, &none.count));
 }
 
 TEST_F(ServicesTest, SessionAndSecurityRulesHold) {
@@ -295,20 +289,19 @@ TEST_F(ServicesTest, ThreeWrongKeysLockTheLevelForTheDelay) {
         ASSERT_NE(s, Bytes(4, 0));
         ErrorSlot keyError;
         kel_sendKey(api, wrong.data(), 4, &keyError);
-        ASSERT_TRUE(keyError);
-        EXPECT_EQ(keyError->code, 1102);
-        EXPECT_EQ(keyError->subCode, expected);
+        EXPECT_EQ(keyError ? std::make_pair(keyError->code, keyError->subCode)
+                           : std::make_pair(0, 0),
+                  std::make_pair(1102, expected));
     }
-    ErrorSlot locked;
-    seed(locked);
-    ASSERT_TRUE(locked);
-    EXPECT_EQ(locked->subCode, 0x37) << "requiredTimeDelayNotExpired";
+    const auto seedRefusal = [&] {
+        ErrorSlot e;
+        seed(e);
+        return e ? e->subCode : 0;
+    };
+    EXPECT_EQ(seedRefusal(), 0x37) << "requiredTimeDelayNotExpired";
     kelsim_advanceClock(9000);
-    ErrorSlot stillLocked;
     enterSession(L"Extended"); // keeps the session: it is not the lockout that ends
-    seed(stillLocked);
-    ASSERT_TRUE(stillLocked);
-    EXPECT_EQ(stillLocked->subCode, 0x37);
+    EXPECT_EQ(seedRefusal(), 0x37);
 
     kelsim_advanceClock(1001);
     ErrorSlot fine;
@@ -357,22 +350,19 @@ TEST_F(ServicesTest, AWrittenValueIsReadBackByServiceAndIdentification) {
     const auto byService = run(read);
     EXPECT_EQ(responseShape(*byService->items[0]), L"Identifier=F190,VIN=WVWZZZ1KZ8W999999");
 
-    ErrorSlot error;
-    List<ReadDataResult, release_ReadDataResult_array> values;
-    const wchar_t* ecm[] = {L"ECM"};
-    kel_readIdentificationValues(api, const_cast<wchar_t**>(ecm), 1, &error, &values.items,
-                                 &values.count);
-    ASSERT_FALSE(error);
-    ASSERT_GE(values.items[0]->parameterCount, 1U);
-    EXPECT_STREQ(values.items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
-    List<ReadDataResult, release_ReadDataResult_array> byName;
+    using Data = List<ReadDataResult, release_ReadDataResult_array>;
+    wchar_t* ecm[] = {const_cast<wchar_t*>(L"ECM")};
+    const auto values =
+        fetch<Data>([&](auto... out) { kel_readIdentificationValues(api, ecm, 1, out...); });
+    ASSERT_GE(values->items[0]->parameterCount, 1U);
+    EXPECT_STREQ(values->items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
     const wchar_t* ids[] = {L"VIN", L"IdleSpeedTarget"};
-    kel_readDataByIdentifiers(api, L"ECM", const_cast<wchar_t**>(ids), 2, &error, &byName.items,
-                              &byName.count);
-    ASSERT_FALSE(error);
-    EXPECT_STREQ(byName.items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
-    EXPECT_STREQ(byName.items[0]->parameters[1]->text1, L"800");
-    EXPECT_STREQ(byName.items[0]->parameters[1]->text2, L"1/min");
+    const auto byName = fetch<Data>([&](auto... out) {
+        kel_readDataByIdentifiers(api, L"ECM", const_cast<wchar_t**>(ids), 2, out...);
+    });
+    EXPECT_STREQ(byName->items[0]->parameters[0]->text1, L"WVWZZZ1KZ8W999999");
+    EXPECT_STREQ(byName->items[0]->parameters[1]->text1, L"800");
+    EXPECT_STREQ(byName->items[0]->parameters[1]->text2, L"1/min");
 
     // A scaled value: 900 1/min at 0.25 per bit is 3600; the unit refuses one out of range.
     Inputs idle;
@@ -388,17 +378,15 @@ TEST_F(ServicesTest, AWrittenValueIsReadBackByServiceAndIdentification) {
 
     // The fault memory is the same too: cleared by service, gone for readDtcs.
     EXPECT_EQ(one(L"ClearDiagnosticInformation").first, 0);
-    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-    kel_readDtcs(api, const_cast<wchar_t**>(ecm), 1, nullptr, &error, &dtcs.items, &dtcs.count);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(dtcs.items[0]->dtcCount, 0U);
+    const auto dtcs = fetch<List<ReadDtcResult, release_ReadDtcResult_array>>(
+        [&](auto... out) { kel_readDtcs(api, ecm, 1, nullptr, out...); });
+    EXPECT_EQ(dtcs->items[0]->dtcCount, 0U);
 }
 
 TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
     ErrorSlot error;
     UnlockResult* result = nullptr;
-    kel_unlockVehicle(api, L"ECM", nullptr, 0, &error, &result);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_unlockVehicle(api, L"ECM", nullptr, 0, &ok, &result));
     ASSERT_NE(result, nullptr);
     const uint64_t value = result->value;
     EXPECT_NE(value, 0U);
@@ -410,23 +398,18 @@ TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
     kelsim_advanceClock(60000);
     EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000002")}).first, 0)
         << "no timeout while unlocked";
-    kel_releaseVehicleUnlock(api, value, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_releaseVehicleUnlock(api, value, &ok));
     EXPECT_EQ(one(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000003")}).second,
               0x7F)
         << "released: back in the default session";
-    kel_releaseVehicleUnlock(api, value, &error);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1104);
+    EXPECT_ENGINE_ERROR(twice, 1104, kel_releaseVehicleUnlock(api, value, &twice));
 
     // With services given, those run; a failing one gives no unlock.
     Inputs given;
     given.add(L"DiagnosticSessionControl", {param(L"Session", L"Extended")});
     given.add(L"WriteDataByIdentifier_F190", {param(L"VIN", L"WVWZZZ1KZ8W000004")});
     UnlockResult* failed = nullptr;
-    ErrorSlot none;
-    kel_unlockVehicle(api, L"ECM", given.list(), given.count(), &none, &failed);
-    ASSERT_FALSE(none);
+    ASSERT_SUCCEEDS(ok, kel_unlockVehicle(api, L"ECM", given.list(), given.count(), &ok, &failed));
     ASSERT_NE(failed, nullptr);
     EXPECT_EQ(failed->value, 0U);
     ASSERT_EQ(failed->serviceCount, 2U);
@@ -435,13 +418,15 @@ TEST_F(ServicesTest, AnUnlockHoldsTheSessionUntilItIsReleased) {
 }
 
 TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
-    ErrorSlot error;
-    ServiceInfos writes;
-    kel_getServiceInfos(api, L"ECM", L"WriteDataByIdentifier_*", nullptr, 0, 0, &error,
-                        &writes.items, &writes.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(writes.count, 3U) << "F190, 0100, 0102";
-    const ServiceInfo& idle = *writes.items[1];
+    const auto infos = [&](const wchar_t* pattern, std::vector<const wchar_t*> names, int32_t sid) {
+        return fetch<ServiceInfos>([&](auto... out) {
+            kel_getServiceInfos(api, L"ECM", pattern, const_cast<wchar_t**>(names.data()),
+                                static_cast<uint32_t>(names.size()), sid, out...);
+        });
+    };
+    const auto writes = infos(L"WriteDataByIdentifier_*", {}, 0);
+    ASSERT_EQ(writes->count, 3U) << "F190, 0100, 0102";
+    const ServiceInfo& idle = *writes->items[1];
     EXPECT_EQ(idle.flag, 0) << "not allowed in the default session";
     EXPECT_EQ(idle.values[0], 0x2EU);
     EXPECT_EQ(idle.values[1], 1U) << "security level";
@@ -466,24 +451,18 @@ TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
     EXPECT_EQ(one(L"WriteDataByIdentifier_0100", {param(L"IdleSpeedTarget", L"1000.25")}).second,
               0x31);
 
-    ServiceInfos picked;
-    const wchar_t* names[] = {L"TesterPresent", L"Missing"};
-    kel_getServiceInfos(api, L"ECM", L"", const_cast<wchar_t**>(names), 2, 0, &error, &picked.items,
-                        &picked.count);
-    ASSERT_EQ(picked.count, 2U);
-    EXPECT_EQ(picked.items[0]->flag, 1);
-    EXPECT_EQ(picked.items[1]->error->code, 1100);
-    ServiceInfos routines;
-    kel_getServiceInfos(api, L"ECM", L"", nullptr, 0, 0x31, &error, &routines.items,
-                        &routines.count);
-    EXPECT_EQ(routines.count, 4U)
+    const auto picked = infos(L"", {L"TesterPresent", L"Missing"}, 0);
+    ASSERT_EQ(picked->count, 2U);
+    EXPECT_EQ(picked->items[0]->flag, 1);
+    EXPECT_EQ(picked->items[1]->error->code, 1100);
+    EXPECT_EQ(infos(L"", {}, 0x31)->count, 4U)
         << "InjectorTest, SelfTest, and the erase and check of programming";
 
-    Infos actuators;
-    kel_getActuatorServiceInfos(api, L"ECM", L"", &error, &actuators.items, &actuators.count);
-    ASSERT_EQ(actuators.count, 1U);
-    EXPECT_STREQ(actuators.items[0]->itemText1, L"RoutineControl_0203");
-    const ParameterInfo& settings = *actuators.items[0]->children[2];
+    const auto actuators =
+        fetch<Infos>([&](auto... out) { kel_getActuatorServiceInfos(api, L"ECM", L"", out...); });
+    ASSERT_EQ(actuators->count, 1U);
+    EXPECT_STREQ(actuators->items[0]->itemText1, L"RoutineControl_0203");
+    const ParameterInfo& settings = *actuators->items[0]->children[2];
     ASSERT_EQ(settings.childCount, 2U);
     EXPECT_EQ(settings.children[0]->childCount, 2U) << "Channel: Cylinder and Mode";
 
@@ -492,48 +471,47 @@ TEST_F(ServicesTest, DescriptionsDescribeTheCatalogueThatRuns) {
     config->text2 = duplicate_WString(L"RoutineControl_0203");
     config->text3 = duplicate_WString(L"Settings.Channel.Mode");
     config->text4 = duplicate_WString(L"");
-    ParameterInfo* mode = nullptr;
-    kel_getParameterInfo(api, config, &error, &mode);
-    ASSERT_FALSE(error);
-    ASSERT_NE(mode, nullptr);
+    const auto mode = kel_test::fetchRecord(
+        release_ParameterInfo, [&](auto... out) { kel_getParameterInfo(api, config, out...); });
+    ASSERT_NE(mode.get(), nullptr);
     ASSERT_EQ(mode->nameCount, 2U);
     EXPECT_STREQ(mode->names[1], L"Hold");
-    release_ParameterInfo(mode);
-    kel_getParameterInfo(api, nullptr, &error, &mode);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1101);
+    ParameterInfo* none = nullptr;
+    EXPECT_ENGINE_ERROR(null, 1101, kel_getParameterInfo(api, nullptr, &null, &none));
 
-    ErrorSlot identError;
-    Infos ident;
-    kel_getIdentificationValueInfos(api, L"ECM", &identError, &ident.items, &ident.count);
-    ASSERT_FALSE(identError);
-    ASSERT_EQ(ident.count, 5U);
-    EXPECT_STREQ(ident.items[0]->itemText2, L"F190");
-    EXPECT_EQ(ident.items[0]->value2, 17);
+    const auto ident =
+        fetch<Infos>([&](auto... out) { kel_getIdentificationValueInfos(api, L"ECM", out...); });
+    ASSERT_EQ(ident->count, 5U);
+    EXPECT_STREQ(ident->items[0]->itemText2, L"F190");
+    EXPECT_EQ(ident->items[0]->value2, 17);
 }
 
-using Reports = kel_test::ServiceReports;
+// Each result of an asynchronous call of services as "<service> <status>".
+using ServiceReports = kel_test::AsyncReports<ServiceResult, release_ServiceResult_array>;
+std::wstring serviceAndStatus(const ServiceResult& r) {
+    return std::wstring(r.itemText1) + L" " + std::to_wstring(r.status);
+}
 
 TEST_F(ServicesTest, AsynchronousExecutionReportsPerService) {
     Inputs in;
     in.add(L"TesterPresent")
         .add(L"ReadDataByIdentifier_F190")
         .add(L"WriteDataByIdentifier_F190", {param(L"VIN", L"X")});
-    Reports all;
-    ErrorSlot error;
-    const uint64_t id = kel_executeServiceInDefaultSessionAsync(api, L"ECM", in.list(), in.count(),
-                                                                &error, Reports::callback, &all);
-    ASSERT_FALSE(error);
-    ASSERT_NE(id, 0U);
-    ASSERT_TRUE(all.wait());
-    EXPECT_EQ(all.counts, (std::vector<uint32_t>{1, 1, 1})) << "one report per service";
-    EXPECT_EQ(all.statuses, (std::vector<int32_t>{0, 0, 3}));
+    ServiceReports all(serviceAndStatus);
+    all.run([&](auto... call) {
+        return kel_executeServiceInDefaultSessionAsync(api, L"ECM", in.list(), in.count(), call...);
+    });
+    EXPECT_EQ(all.texts,
+              (std::vector<std::vector<std::wstring>>{{L"TesterPresent 0"},
+                                                      {L"ReadDataByIdentifier_F190 0"},
+                                                      {L"WriteDataByIdentifier_F190 3"}}))
+        << "one report per service";
     EXPECT_EQ(all.errorCode, 0);
 
-    Reports never;
+    ServiceReports never(serviceAndStatus);
     EXPECT_ENGINE_ERROR(unknown, 1011,
                         kel_executeServiceAsync(api, L"Nope", in.list(), in.count(), &unknown,
-                                                Reports::callback, &never));
+                                                ServiceReports::callback, &never));
 }
 
 } // namespace
@@ -572,13 +550,11 @@ protected:
         return job;
     }
     std::vector<Cyclic> fetch(uint64_t job) {
-        Results out;
-        ErrorSlot error;
-        kel_getCyclicResults(api, job, &error, &out.items, &out.count);
-        EXPECT_FALSE(error) << (error ? error->code : 0);
+        const auto out =
+            kel_test::fetch<Results>([&](auto... o) { kel_getCyclicResults(api, job, o...); });
         std::vector<Cyclic> results;
-        for (uint32_t i = 0; i < out.count; ++i) {
-            const ServiceResult& r = *out.items[i];
+        for (uint32_t i = 0; i < out->count; ++i) {
+            const ServiceResult& r = *out->items[i];
             results.push_back(
                 {r.itemText1, r.request != nullptr ? r.request->value2 : 0, r.status});
         }
@@ -595,12 +571,9 @@ protected:
         return all;
     }
     uint64_t requestsSent() {
-        ErrorSlot error;
-        TransmissionInfo* info = nullptr;
-        kel_getTransmissionInfo(api, &error, &info);
-        const uint64_t sent = info != nullptr ? info->value1 : 0;
-        release_TransmissionInfo(info);
-        return sent;
+        return kel_test::fetchRecord(release_TransmissionInfo,
+                                     [&](auto... out) { kel_getTransmissionInfo(api, out...); })
+            ->value1;
     }
     int32_t failure(void (*call)(TarnApi*, uint64_t, KelError**), uint64_t job) {
         ErrorSlot error;
@@ -664,9 +637,7 @@ TEST_F(CyclicServicesConcurrency, AnUpdateReplacesTheServicesFromTheNextCycle) {
 
     Inputs second;
     second.add(L"ReadDataByIdentifier_F190").add(L"NoSuchService");
-    ErrorSlot error;
-    kel_updateCyclicServices(api, job, second.list(), second.count(), &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_updateCyclicServices(api, job, second.list(), second.count(), &ok));
     std::vector<Cyclic> seen;
     ASSERT_TRUE(eventually([&] {
         const auto more = fetch(job);

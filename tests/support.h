@@ -1,5 +1,6 @@
 // Shared pieces of the tests: a fixture that hands each test a fresh, initialised
-// engine with nothing scripted, and small helpers for error records.
+// engine with nothing scripted, small helpers for error records, for calls that must
+// succeed and for the reports of asynchronous calls.
 #pragma once
 
 #include <Kel_cpp/Engine.h>
@@ -11,10 +12,13 @@
 #include <chrono>
 #include <condition_variable>
 #include <filesystem>
+#include <functional>
 #include <kel_sim.h>
 #include <memory>
 #include <mutex>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace kel_test {
 
@@ -40,6 +44,37 @@ struct List {
     List& operator=(const List&) = delete;
     ~List() { Release(items, count); }
 };
+
+// Runs `call`, which reports into the error slot `slot` it names, and requires it to succeed.
+#define ASSERT_SUCCEEDS(slot, call)                                                                \
+    do {                                                                                           \
+        ::kel_test::ErrorSlot slot;                                                                \
+        call;                                                                                      \
+        ASSERT_FALSE(slot) << #call << ": error " << (slot)->code;                                 \
+    } while (false)
+
+// The list that `call(&error, &items, &count)` hands out; the call must succeed.
+template <class L, class Call>
+std::unique_ptr<L> fetch(Call call) {
+    auto out = std::make_unique<L>();
+    ErrorSlot error;
+    call(&error, &out->items, &out->count);
+    EXPECT_FALSE(error) << "error " << (error ? error->code : 0);
+    return out;
+}
+
+template <class R>
+using Owned = std::unique_ptr<R, void (*)(R*)>;
+
+// The record that `call(&error, &record)` hands out, freed by `release`; the call must succeed.
+template <class R, class Call>
+Owned<R> fetchRecord(void (*release)(R*), Call call) {
+    R* out = nullptr;
+    ErrorSlot error;
+    call(&error, &out);
+    EXPECT_FALSE(error) << "error " << (error ? error->code : 0);
+    return {out, release};
+}
 
 // A path in the temporary folder that no other test uses, for a data root or scratch
 // folder of its own; not created. Kept short: the sandbox tests nest deep paths in it.
@@ -76,6 +111,52 @@ struct AsyncWatch {
     }
 };
 
+// The reports of one asynchronous call, each result reduced to a text by `describe`:
+// the texts of each report, whether it was final, and the last error code reported.
+template <class R, void (*Release)(R**, uint64_t)>
+struct AsyncReports : AsyncWatch {
+    explicit AsyncReports(std::function<std::wstring(const R&)> describe)
+        : describe(std::move(describe)) {}
+    std::function<std::wstring(const R&)> describe;
+    std::vector<std::vector<std::wstring>> texts;
+    std::vector<bool> finals;
+
+    static void callback(R** results, uint32_t count, bool isFinal, uint64_t callId,
+                         KelError* error, void* context) {
+        auto& self = *static_cast<AsyncReports*>(context);
+        {
+            const std::lock_guard lock(self.mutex);
+            self.texts.emplace_back();
+            for (uint32_t i = 0; i < count; ++i) {
+                self.texts.back().push_back(self.describe(*results[i]));
+            }
+            self.finals.push_back(isFinal);
+            self.errorCode = error != nullptr ? error->code : self.errorCode;
+        }
+        Release(results, count);
+        release_KelError(error);
+        self.reported(callId, false, isFinal);
+    }
+    // Starts the call by `start(&error, callback, context)`, which must succeed, and waits
+    // for its final report.
+    template <class Start>
+    void run(Start start) {
+        ErrorSlot error;
+        EXPECT_NE(start(&error, callback, this), 0U);
+        ASSERT_FALSE(error) << error->code;
+        ASSERT_TRUE(wait());
+    }
+    // Every report's texts, in order.
+    std::vector<std::wstring> all() {
+        const std::lock_guard lock(mutex);
+        std::vector<std::wstring> out;
+        for (const auto& report : texts) {
+            out.insert(out.end(), report.begin(), report.end());
+        }
+        return out;
+    }
+};
+
 // The handle of an engine object (kel_getHandle), 0 if it has none.
 inline uint64_t handleOf(TarnApi* object) {
     ErrorSlot error;
@@ -84,6 +165,9 @@ inline uint64_t handleOf(TarnApi* object) {
     EXPECT_FALSE(error);
     return handle;
 }
+
+// The code of an error record, 0 for none.
+inline int32_t codeIn(const KelError* error) { return error != nullptr ? error->code : 0; }
 
 // The error code of `call(&error)`, 0 when it succeeded.
 template <class Call>

@@ -1,6 +1,7 @@
 // Targets, variant identification, identification values and target filters through
 // the exports.
 #include "support.h"
+#include "uds.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -11,6 +12,7 @@
 
 namespace {
 
+using kel_test::codeIn;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
@@ -47,66 +49,69 @@ std::vector<std::wstring> namesOf(const Targets& t) {
 }
 
 using TargetsFamily = EngineTest;
+using kel_test::fetch;
 
-TEST_F(TargetsFamily, IdentificationGivesVariantsAndAnErrorPerUnit) {
-    ErrorSlot error;
-    Idents all;
-    kel_identifyAllTargets(api, &error, &all.items, &all.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(all.count, 6U);
-    EXPECT_STREQ(all.items[0]->target, L"ECM");
-    EXPECT_STREQ(all.items[0]->variant, L"ECM_EDC17_CR_2L0_V3");
-    EXPECT_EQ(all.items[0]->status, 0);
-    EXPECT_STREQ(all.items[5]->target, L"ACC");
-    EXPECT_STREQ(all.items[5]->variant, L"");
-    ASSERT_NE(all.items[5]->error, nullptr);
-    EXPECT_EQ(all.items[5]->error->code, 1010);
-
-    Idents out;
-    const wchar_t* names[] = {L"TCM", L"Nope"};
-    kel_identifyTargets(api, const_cast<wchar_t**>(names), 2, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(out.count, 2U);
-    EXPECT_STREQ(out.items[0]->variant, L"TCM_DQ250_6F_V2");
-    ASSERT_NE(out.items[1]->error, nullptr);
-    EXPECT_EQ(out.items[1]->error->code, 1011);
-
-    VariantIdentResult* one = nullptr;
-    kel_identifyTarget(api, L"ESP", &error, &one);
-    ASSERT_NE(one, nullptr);
-    EXPECT_STREQ(one->variant, L"ESP_MK60EC1_V4");
-    release_VariantIdentResult(one);
-    VariantIdentResult* none = nullptr;
-    kel_identifyTarget(api, L"Nope", &error, &none);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(none, nullptr) << "an unknown target has no result";
+std::unique_ptr<Targets> targets(TarnApi* api) {
+    return fetch<Targets>([&](auto... out) { kel_getTargets(api, out...); });
 }
 
-TEST_F(TargetsFamily, IdentificationValuesAndDataByIdentifier) {
-    ErrorSlot error;
-    Data values;
-    const wchar_t* names[] = {L"BCM"};
-    kel_readIdentificationValues(api, const_cast<wchar_t**>(names), 1, &error, &values.items,
-                                 &values.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(values.count, 1U);
-    const ReadDataResult& bcm = *values.items[0];
+std::unique_ptr<Targets> filtered(TarnApi* api, std::vector<TargetFilter*> filters = {}) {
+    return fetch<Targets>([&](auto... out) {
+        kel_getFilteredTargets(api, filters.data(), static_cast<uint32_t>(filters.size()), out...);
+    });
+}
+
+std::unique_ptr<Filters> sessionFilters(TarnApi* api) {
+    return fetch<Filters>([&](auto... out) { kel_getSessionTargetFilters(api, out...); });
+}
+
+TEST_F(TargetsFamily, IdentificationGivesVariantsValuesAndAnErrorPerUnit) {
+    const auto all = fetch<Idents>([&](auto... out) { kel_identifyAllTargets(api, out...); });
+    ASSERT_EQ(all->count, 6U);
+    EXPECT_STREQ(all->items[0]->target, L"ECM");
+    EXPECT_STREQ(all->items[0]->variant, L"ECM_EDC17_CR_2L0_V3");
+    EXPECT_EQ(all->items[0]->status, 0);
+    EXPECT_STREQ(all->items[5]->target, L"ACC");
+    EXPECT_STREQ(all->items[5]->variant, L"");
+    ASSERT_EQ(codeIn(all->items[5]->error), 1010);
+
+    const wchar_t* names[] = {L"TCM", L"Nope"};
+    const auto out = fetch<Idents>(
+        [&](auto... o) { kel_identifyTargets(api, const_cast<wchar_t**>(names), 2, o...); });
+    ASSERT_EQ(out->count, 2U);
+    EXPECT_STREQ(out->items[0]->variant, L"TCM_DQ250_6F_V2");
+    ASSERT_EQ(codeIn(out->items[1]->error), 1011);
+
+    const auto one = kel_test::fetchRecord(
+        release_VariantIdentResult, [&](auto... o) { kel_identifyTarget(api, L"ESP", o...); });
+    ASSERT_NE(one.get(), nullptr);
+    EXPECT_STREQ(one->variant, L"ESP_MK60EC1_V4");
+    EXPECT_EQ(kel_test::fetchRecord(release_VariantIdentResult,
+                                    [&](auto... o) { kel_identifyTarget(api, L"Nope", o...); })
+                  .get(),
+              nullptr)
+        << "an unknown target has no result";
+
+    const wchar_t* bcmOnly[] = {L"BCM"};
+    const auto values = fetch<Data>([&](auto... o) {
+        kel_readIdentificationValues(api, const_cast<wchar_t**>(bcmOnly), 1, o...);
+    });
+    ASSERT_EQ(values->count, 1U);
+    const ReadDataResult& bcm = *values->items[0];
     EXPECT_STREQ(bcm.text, L"BCM_PQ35_HIGH_V1");
     ASSERT_EQ(bcm.parameterCount, 4U);
     EXPECT_STREQ(bcm.parameters[0]->itemText2, L"F190");
     EXPECT_STREQ(bcm.parameters[0]->text1, L"WVWZZZ1KZ8W000417");
     EXPECT_EQ(bcm.parameters[0]->dataLength, 17U) << "the raw bytes of the value";
 
-    Data read;
     const wchar_t* ids[] = {L"F187", L"F1FF"};
-    kel_readDataByIdentifiers(api, L"ECM", const_cast<wchar_t**>(ids), 2, &error, &read.items,
-                              &read.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(read.count, 1U);
-    ASSERT_EQ(read.items[0]->parameterCount, 2U);
-    EXPECT_STREQ(read.items[0]->parameters[0]->text1, L"03L 906 018 JH");
-    ASSERT_NE(read.items[0]->parameters[1]->error, nullptr) << "per-parameter error";
-    EXPECT_EQ(read.items[0]->parameters[1]->error->code, 1014);
+    const auto read = fetch<Data>([&](auto... o) {
+        kel_readDataByIdentifiers(api, L"ECM", const_cast<wchar_t**>(ids), 2, o...);
+    });
+    ASSERT_EQ(read->count, 1U);
+    ASSERT_EQ(read->items[0]->parameterCount, 2U);
+    EXPECT_STREQ(read->items[0]->parameters[0]->text1, L"03L 906 018 JH");
+    ASSERT_EQ(codeIn(read->items[0]->parameters[1]->error), 1014) << "per-parameter error";
 }
 
 TEST_F(TargetsFamily, TargetsCarryTheirAliasesAndIdentification) {
@@ -115,30 +120,16 @@ TEST_F(TargetsFamily, TargetsCarryTheirAliasesAndIdentification) {
          "identification": [{"id": "F187", "name": "Part number", "value": "P-1"}]},
         {"name": "B", "variant": "B1"}]})"),
               0);
-    ErrorSlot error;
-    Targets out;
-    kel_getTargets(api, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(out.count, 2U);
-    const Target& a = *out.items[0];
+    const auto out = targets(api);
+    ASSERT_EQ(out->count, 2U);
+    const Target& a = *out->items[0];
     EXPECT_EQ(a.value1, 1);
     ASSERT_EQ(a.nameCount, 2U);
     EXPECT_STREQ(a.names[1], L"alpha");
     ASSERT_EQ(a.itemCount, 1U);
     EXPECT_STREQ(a.items[0]->itemText1, L"Part number");
     EXPECT_STREQ(a.text3, L"P-1");
-    EXPECT_STREQ(out.items[1]->itemText3, L"B1");
-}
-
-TEST_F(TargetsFamily, BadDescriptionIsRefusedAndKeepsTheVehicle) {
-    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "X", "dtcs": [{"code": "Q1234"}]}]})"),
-              -1);
-    EXPECT_EQ(kelsim_setVehicleFile("/nonexistent/vehicle.json"), -1);
-    ErrorSlot error;
-    Targets out;
-    kel_getTargets(api, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(out.count, 6U);
+    EXPECT_STREQ(out->items[1]->itemText3, L"B1");
 }
 
 // A member of the wrong type in a known section is refused, not taken for its default
@@ -164,6 +155,11 @@ TEST_F(TargetsFamily, WrongTypesRefuseTheDescriptionNamingWhere) {
          L"ecus[1].name: a string holds a NUL"},
         {R"({"ecus": {"name": "A"}})", L"ecus: expected an array"},
     };
+    // A refused description keeps the vehicle.
+    EXPECT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "X", "dtcs": [{"code": "Q1234"}]}]})"),
+              -1);
+    EXPECT_EQ(kelsim_setVehicleFile("/nonexistent/vehicle.json"), -1);
+    EXPECT_EQ(targets(api)->count, 6U);
     for (const auto& [text, where] : cases) {
         EXPECT_EQ(kelsim_setVehicleJson(text.c_str()), -1) << text;
         std::ofstream(file, std::ios::binary) << text;
@@ -183,11 +179,7 @@ TEST_F(TargetsFamily, FilteredTargetsApplyTheGivenFilters) {
     FilterInput filters;
     filters.add(L"?CM", false, 5);
     filters.add(L"Trans*", true);
-    ErrorSlot error;
-    Targets out;
-    kel_getFilteredTargets(api, filters.items.data(), 2, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(namesOf(out), (std::vector<std::wstring>{L"ECM", L"BCM"}))
+    EXPECT_EQ(namesOf(*filtered(api, filters.items)), (std::vector<std::wstring>{L"ECM", L"BCM"}))
         << "TCM is excluded through its alias";
 }
 
@@ -195,11 +187,7 @@ TEST_F(TargetsFamily, FilteredTargetsApplyTheGivenFilters) {
 std::vector<std::wstring> admittedBy(TarnApi* api, const std::wstring& pattern) {
     FilterInput filter;
     filter.add(pattern.c_str(), false);
-    ErrorSlot error;
-    Targets out;
-    kel_getFilteredTargets(api, filter.items.data(), 1, &error, &out.items, &out.count);
-    EXPECT_FALSE(error);
-    return namesOf(out);
+    return namesOf(*filtered(api, filter.items));
 }
 
 std::wstring repeat(const std::wstring& part, int times) {
@@ -240,6 +228,10 @@ TEST_F(TargetsFamily, PatternsMatchWholeNamesAndBacktrackWhereTheyMust) {
         {repeat(L"a*", 20), {forty}},
         {repeat(L"a*", 41), {}},
         {std::wstring(40, L'*') + L"b", {L"ab"}},
+        // Many stars that match nothing took time exponential in the stars.
+        {std::wstring(40, L'*') + L"x", {}},
+        {repeat(L"*a", 40) + L"b", {}},
+        {repeat(L"*?", 41), {}},
     };
     for (const auto& [pattern, expected] : cases) {
         EXPECT_EQ(admittedBy(api, pattern), expected)
@@ -247,32 +239,17 @@ TEST_F(TargetsFamily, PatternsMatchWholeNamesAndBacktrackWhereTheyMust) {
     }
 }
 
-// Patterns of many stars that match nothing took time exponential in the stars.
-TEST_F(TargetsFamily, ManyStarsThatMatchNothingStillAnswer) {
-    ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [
-        {"name": "aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa", "aliases": ["aaaaaaaaaaaaaaaaaaaa"]}]})"),
-              0);
-    EXPECT_TRUE(admittedBy(api, std::wstring(40, L'*') + L"x").empty());
-    EXPECT_TRUE(admittedBy(api, repeat(L"*a", 40) + L"b").empty());
-    EXPECT_TRUE(admittedBy(api, repeat(L"*?", 41)).empty());
-}
-
 TEST_F(TargetsFamily, TheDescriptionGivesTheSessionItsFirstFilters) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "ECM"}, {"name": "TCM"}, {"name": "ABS"}],
         "diagnostics": {"sessionFilters": [{"pattern": "?CM"}, {"pattern": "T*", "flag": 1, "value": 7}]}})"),
               0);
-    ErrorSlot error;
-    Filters stored;
-    kel_getSessionTargetFilters(api, &error, &stored.items, &stored.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(stored.count, 2U);
-    EXPECT_STREQ(stored.items[0]->pattern, L"?CM");
-    EXPECT_EQ(stored.items[0]->flag, 0);
-    EXPECT_EQ(stored.items[1]->flag, 1);
-    EXPECT_EQ(stored.items[1]->value, 7);
-    Targets filtered;
-    kel_getFilteredTargets(api, nullptr, 0, &error, &filtered.items, &filtered.count);
-    EXPECT_EQ(namesOf(filtered), std::vector<std::wstring>{L"ECM"});
+    const auto stored = sessionFilters(api);
+    ASSERT_EQ(stored->count, 2U);
+    EXPECT_STREQ(stored->items[0]->pattern, L"?CM");
+    EXPECT_EQ(stored->items[0]->flag, 0);
+    EXPECT_EQ(stored->items[1]->flag, 1);
+    EXPECT_EQ(stored->items[1]->value, 7);
+    EXPECT_EQ(namesOf(*filtered(api)), std::vector<std::wstring>{L"ECM"});
 
     EXPECT_EQ(
         kelsim_setVehicleJson(R"({"ecus": [], "diagnostics": {"sessionFilters": [{"flag": 1}]}})"),
@@ -284,43 +261,29 @@ TEST_F(TargetsFamily, SessionFiltersAreStoredAndApplied) {
     FilterInput filters;
     filters.add(L"A*", true, -3);
     ErrorSlot error;
-    kel_setSessionTargetFilters(api, &error, filters.items.data(), 1);
-    ASSERT_FALSE(error);
-
-    Filters stored;
-    kel_getSessionTargetFilters(api, &error, &stored.items, &stored.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(stored.count, 1U);
-    EXPECT_STREQ(stored.items[0]->pattern, L"A*");
-    EXPECT_EQ(stored.items[0]->flag, 1);
-    EXPECT_EQ(stored.items[0]->value, -3);
-
-    Targets filtered;
-    kel_getFilteredTargets(api, nullptr, 0, &error, &filtered.items, &filtered.count);
-    EXPECT_EQ(namesOf(filtered), (std::vector<std::wstring>{L"ECM", L"TCM", L"ESP", L"BCM", L"GW"}))
+    ASSERT_SUCCEEDS(ok, kel_setSessionTargetFilters(api, &ok, filters.items.data(), 1));
+    const auto stored = sessionFilters(api);
+    ASSERT_EQ(stored->count, 1U);
+    EXPECT_STREQ(stored->items[0]->pattern, L"A*");
+    EXPECT_EQ(stored->items[0]->flag, 1);
+    EXPECT_EQ(stored->items[0]->value, -3);
+    EXPECT_EQ(namesOf(*filtered(api)),
+              (std::vector<std::wstring>{L"ECM", L"TCM", L"ESP", L"BCM", L"GW"}))
         << "no filters given: the session's apply";
-    Targets all;
-    kel_getTargets(api, &error, &all.items, &all.count);
-    EXPECT_EQ(all.count, 6U);
+    EXPECT_EQ(targets(api)->count, 6U);
 
     kel_setSessionTargetFilters(api, &error, nullptr, 0);
-    Filters cleared;
-    kel_getSessionTargetFilters(api, &error, &cleared.items, &cleared.count);
-    EXPECT_EQ(cleared.count, 0U);
+    EXPECT_EQ(sessionFilters(api)->count, 0U);
 }
 
 TEST_F(TargetsFamily, StatusReportsEachTarget) {
-    ErrorSlot error;
-    Idents identified;
-    const wchar_t* ecm[] = {L"ECM"};
-    kel_identifyTargets(api, const_cast<wchar_t**>(ecm), 1, &error, &identified.items,
-                        &identified.count);
-    Statuses out;
     const wchar_t* names[] = {L"ECM", L"ACC", L"TCM"};
-    kel_getTargetStatus(api, const_cast<wchar_t**>(names), 3, &error, &out.items, &out.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(out.count, 3U);
-    const TargetStatus& s = *out.items[0];
+    fetch<Idents>(
+        [&](auto... o) { kel_identifyTargets(api, const_cast<wchar_t**>(names), 1, o...); });
+    const auto out = fetch<Statuses>(
+        [&](auto... o) { kel_getTargetStatus(api, const_cast<wchar_t**>(names), 3, o...); });
+    ASSERT_EQ(out->count, 3U);
+    const TargetStatus& s = *out->items[0];
     EXPECT_STREQ(s.target, L"ECM");
     EXPECT_STREQ(s.text, L"responding");
     EXPECT_STREQ(s.text2, L"ECM_EDC17_CR_2L0_V3");
@@ -331,19 +294,14 @@ TEST_F(TargetsFamily, StatusReportsEachTarget) {
     EXPECT_EQ(s.values[2], 1U);
     EXPECT_EQ(s.values[3], 2U);
     EXPECT_EQ(s.values[4], 5U) << "four of the description and the programming DTC";
-    EXPECT_EQ(out.items[2]->values[2], 0U) << "TCM was not identified";
-    ASSERT_NE(out.items[1]->error, nullptr);
-    EXPECT_STREQ(out.items[1]->text, L"not responding");
-}
+    EXPECT_EQ(out->items[2]->values[2], 0U) << "TCM was not identified";
+    ASSERT_NE(out->items[1]->error, nullptr);
+    EXPECT_STREQ(out->items[1]->text, L"not responding");
 
-TEST_F(TargetsFamily, OperationsNeedAnInitializedEngine) {
-    ErrorSlot error;
-    kel_end(api, &error);
-    ASSERT_FALSE(error);
-    Idents out;
-    kel_identifyAllTargets(api, &error, &out.items, &out.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1001);
+    // Operations need an initialized engine.
+    ASSERT_SUCCEEDS(ok, kel_end(api, &ok));
+    Idents none;
+    EXPECT_ENGINE_ERROR(ended, 1001, kel_identifyAllTargets(api, &ended, &none.items, &none.count));
 }
 
 } // namespace

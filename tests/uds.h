@@ -59,31 +59,6 @@ inline ParameterInput* param(const wchar_t* name, const wchar_t* value,
     return p;
 }
 
-// The reports of an asynchronous call of services: how many results each carried, and
-// each result's service and status, in order.
-struct ServiceReports : AsyncWatch {
-    std::vector<uint32_t> counts;
-    std::vector<std::wstring> services;
-    std::vector<int32_t> statuses;
-
-    static void callback(ServiceResult** results, uint32_t count, bool isFinal, uint64_t callId,
-                         KelError* error, void* context) {
-        auto& self = *static_cast<ServiceReports*>(context);
-        {
-            const std::lock_guard lock(self.mutex);
-            self.counts.push_back(count);
-            for (uint32_t i = 0; i < count; ++i) {
-                self.services.emplace_back(results[i]->itemText1);
-                self.statuses.push_back(results[i]->status);
-            }
-            self.errorCode = error != nullptr ? error->code : self.errorCode;
-        }
-        release_ServiceResult_array(results, count);
-        release_KelError(error);
-        self.reported(callId, false, isFinal);
-    }
-};
-
 // Sends raw request bytes to a unit; its response bytes, empty when it stayed silent.
 inline Bytes sendRaw(TarnApi* api, const wchar_t* target, const Bytes& request) {
     auto* input = zeroed<ServiceInput>();

@@ -19,6 +19,7 @@ namespace {
 
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::fetch;
 using kel_test::List;
 using kel_test::zeroed;
 using Json = nlohmann::json;
@@ -154,6 +155,16 @@ protected:
         EXPECT_EQ(html.substr(html.size() - 5), L".html");
         return Json::parse(readFile(html.substr(0, html.size() - 5) + L".json"));
     }
+    auto readDtcs() {
+        return fetch<List<ReadDtcResult, release_ReadDtcResult_array>>(
+            [&](auto... out) { kel_readDtcs(api, ecmOnly, 1, nullptr, out...); });
+    }
+    void clearDtcs() {
+        fetch<List<ClearDtcResult, release_ClearDtcResult_array>>(
+            [&](auto... out) { kel_clearAllDtcs(api, ecmOnly, 1, out...); });
+    }
+    wchar_t* ecmOnly[1] = {const_cast<wchar_t*>(L"ECM")};
+
     bool exists(const std::wstring& path) {
         ErrorSlot error;
         uint8_t found = 0;
@@ -230,14 +241,10 @@ TEST_F(VehicleReportsTest, VehicleDataDescribesEachUnitAsItIsNow) {
     EXPECT_EQ(ecm.status, 0);
 
     // The DTC count is what readDtcs reads now.
-    const wchar_t* ecmOnly[] = {L"ECM"};
-    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-    ErrorSlot error;
-    kel_readDtcs(api, const_cast<wchar_t**>(ecmOnly), 1, nullptr, &error, &dtcs.items, &dtcs.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(dtcs.count, 1U);
-    EXPECT_GT(dtcs.items[0]->dtcCount, 0U);
-    EXPECT_EQ(ecm.dtcCount, dtcs.items[0]->dtcCount);
+    const auto dtcs = readDtcs();
+    ASSERT_EQ(dtcs->count, 1U);
+    EXPECT_GT(dtcs->items[0]->dtcCount, 0U);
+    EXPECT_EQ(ecm.dtcCount, dtcs->items[0]->dtcCount);
 
     const VehicleData& acc = *unit(*before, L"ACC");
     EXPECT_EQ(acc.status, 1) << "silent";
@@ -246,10 +253,7 @@ TEST_F(VehicleReportsTest, VehicleDataDescribesEachUnitAsItIsNow) {
     EXPECT_EQ(acc.dtcCount, 0U);
     EXPECT_STREQ(acc.vin, L"WVWZZZ1KZ8W000417") << "every entry carries the vehicle's VIN";
 
-    List<ClearDtcResult, release_ClearDtcResult_array> cleared;
-    kel_clearAllDtcs(api, const_cast<wchar_t**>(ecmOnly), 1, &error, &cleared.items,
-                     &cleared.count);
-    ASSERT_FALSE(error);
+    clearDtcs();
     auto after = vehicleData();
     EXPECT_EQ(unit(*after, L"ECM")->dtcCount, 0U);
     EXPECT_EQ(unit(*after, L"TCM")->dtcCount, unit(*before, L"TCM")->dtcCount);
@@ -281,29 +285,24 @@ TEST_F(VehicleReportsTest, VehicleDataShowsAnIncompleteUpdate) {
 }
 
 TEST_F(VehicleReportsTest, VehicleDataIsReadOverTheBus) {
-    ErrorSlot error;
     uint64_t monitor = 0;
-    kel_createPduMonitor(api, &error, &monitor);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_createPduMonitor(api, &ok, &monitor));
     vehicleData();
-    List<PduMonitoringItem, release_PduMonitoringItem_array> items;
-    kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
-    ASSERT_FALSE(error);
+    const auto items = fetch<List<PduMonitoringItem, release_PduMonitoringItem_array>>(
+        [&](auto... out) { kel_getPduMonitoringItems(api, monitor, 0, 0, out...); });
     std::vector<std::string> ecmRequests;
-    for (uint32_t i = 0; i < items.count; ++i) {
-        if (items.items[i]->value1 == 1 && std::wcscmp(items.items[i]->text1, L"ECM") == 0) {
-            ecmRequests.push_back(utf8(items.items[i]->text3));
+    for (uint32_t i = 0; i < items->count; ++i) {
+        const auto& item = *items->items[i];
+        if (item.value1 == 1 && std::wcscmp(item.text1, L"ECM") == 0) {
+            ecmRequests.push_back(utf8(item.text3));
         }
     }
     EXPECT_NE(std::find(ecmRequests.begin(), ecmRequests.end(), "22 F1 89"), ecmRequests.end());
     EXPECT_NE(std::find(ecmRequests.begin(), ecmRequests.end(), "19 02 FF"), ecmRequests.end());
 
-    kel_disconnectInterfaces(api, &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(ok, kel_disconnectInterfaces(api, &ok));
     Data none;
-    kel_getVehicleData(api, &error, &none.items, &none.count);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1404);
+    EXPECT_ENGINE_ERROR(offline, 1404, kel_getVehicleData(api, &offline, &none.items, &none.count));
 }
 
 TEST_F(VehicleReportsTest, AReportHoldsWhatWasRead) {
@@ -327,24 +326,18 @@ TEST_F(VehicleReportsTest, AReportHoldsWhatWasRead) {
     EXPECT_EQ(ecm["target"], "ECM");
     EXPECT_EQ(ecm["status"], "answered");
     EXPECT_EQ(ecm["variant"], "ECM_EDC17_CR_2L0_V3");
-    const wchar_t* ecmOnly[] = {L"ECM"};
-    ErrorSlot error;
-    List<ReadDataResult, release_ReadDataResult_array> ident;
-    kel_readIdentificationValues(api, const_cast<wchar_t**>(ecmOnly), 1, &error, &ident.items,
-                                 &ident.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(ecm["identification"].size(), ident.items[0]->parameterCount);
-    for (uint32_t i = 0; i < ident.items[0]->parameterCount; ++i) {
-        EXPECT_EQ(ecm["identification"][i]["identifier"],
-                  utf8(ident.items[0]->parameters[i]->itemText2));
-        EXPECT_EQ(ecm["identification"][i]["value"], utf8(ident.items[0]->parameters[i]->text1));
+    const auto ident = fetch<List<ReadDataResult, release_ReadDataResult_array>>(
+        [&](auto... out) { kel_readIdentificationValues(api, ecmOnly, 1, out...); });
+    const ReadDataResult& values = *ident->items[0];
+    ASSERT_EQ(ecm["identification"].size(), values.parameterCount);
+    for (uint32_t i = 0; i < values.parameterCount; ++i) {
+        EXPECT_EQ(ecm["identification"][i]["identifier"], utf8(values.parameters[i]->itemText2));
+        EXPECT_EQ(ecm["identification"][i]["value"], utf8(values.parameters[i]->text1));
     }
-    List<ReadDtcResult, release_ReadDtcResult_array> dtcs;
-    kel_readDtcs(api, const_cast<wchar_t**>(ecmOnly), 1, nullptr, &error, &dtcs.items, &dtcs.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(ecm["dtcs"].size(), dtcs.items[0]->dtcCount);
-    for (uint32_t i = 0; i < dtcs.items[0]->dtcCount; ++i) {
-        const DtcResult& d = *dtcs.items[0]->dtcs[i];
+    const auto dtcs = readDtcs();
+    ASSERT_EQ(ecm["dtcs"].size(), dtcs->items[0]->dtcCount);
+    for (uint32_t i = 0; i < dtcs->items[0]->dtcCount; ++i) {
+        const DtcResult& d = *dtcs->items[0]->dtcs[i];
         EXPECT_EQ(ecm["dtcs"][i]["code"], utf8(d.text1));
         EXPECT_EQ(ecm["dtcs"][i]["text"], utf8(d.text2));
         EXPECT_EQ(ecm["dtcs"][i]["status"], d.value1);
@@ -364,10 +357,7 @@ TEST_F(VehicleReportsTest, AReportHoldsWhatWasRead) {
     EXPECT_NE(html.find("silent"), std::string::npos);
 
     // A second report reads again: the cleared DTCs are gone, and the name stays unique.
-    List<ClearDtcResult, release_ClearDtcResult_array> cleared;
-    kel_clearAllDtcs(api, const_cast<wchar_t**>(ecmOnly), 1, &error, &cleared.items,
-                     &cleared.count);
-    ASSERT_FALSE(error);
+    clearDtcs();
     const auto again = report(reportConfig(L"", L"", L"", {L"ECM"}, false, true));
     EXPECT_NE(again, path);
     const Json second = twin(again);
@@ -461,9 +451,7 @@ TEST_F(VehicleReportsTest, AnUpdateReportListsEachResult) {
     EXPECT_NE(page.find("Image &lt;rejected&gt; &amp; kept"), std::string::npos);
 
     VehicleUpdateResult* withNull[] = {results[0], nullptr};
-    kel_createVehicleUpdateReport(api, withNull, 2, &error, &path);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 2403);
+    EXPECT_ENGINE_ERROR(null, 2403, kel_createVehicleUpdateReport(api, withNull, 2, &null, &path));
     for (auto* r : results) {
         release_VehicleUpdateResult(r);
     }

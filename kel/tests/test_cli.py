@@ -33,6 +33,12 @@ class CommandLine(EngineTest):
             code = cli.main(list(args), out=out)
         return code, out.getvalue(), err.getvalue()
 
+    def ok(self, *args: str) -> str:
+        """What a command that must succeed prints."""
+        code, out, err = self.main(*args)
+        self.assertEqual(code, 0, err)
+        return out
+
     def test_dtcs_prints_the_table_and_exits_3_for_the_silent_unit(self) -> None:
         done = run("dtcs")
         self.assertEqual(done.returncode, 3, done.stderr)
@@ -53,15 +59,11 @@ class CommandLine(EngineTest):
         results = json.loads(done.stdout)
         self.assertEqual(results[0]["variant"], "ECM_EDC17_CR_2L0_V3")
         self.assertEqual(results[1]["error"]["code"], 1011)
-        code, out, _ = self.main("--json", "dtcs", "ECM")
-        self.assertEqual(code, 0)
-        self.assertEqual({"display_code": "P0301", "status": 0x2F},
-                         {k: v for k, v in json.loads(out)[0]["dtcs"][0].items() if k in ("display_code", "status")})
+        first = json.loads(self.ok("--json", "dtcs", "ECM"))[0]["dtcs"][0]
+        self.assertEqual((first["display_code"], first["status"]), ("P0301", 0x2F))
 
     def test_exec_raw_hex_decodes_the_response_then_its_bytes(self) -> None:
-        code, out, _ = self.main("exec", "ECM", "22F190")
-        self.assertEqual(code, 0)
-        rows = [line.split() for line in out.splitlines()]
+        rows = [line.split() for line in self.ok("exec", "ECM", "22F190").splitlines()]
         self.assertIn(["VIN", "WVWZZZ1KZ8W000417"], rows)
         self.assertEqual(rows[-1][:4], ["bytes", "62", "F1", "90"])
         code, out, _ = self.main("exec", "ECM", "22F1FF")  # an identifier the unit lacks: a negative response
@@ -98,28 +100,20 @@ class CommandLine(EngineTest):
         self.assertEqual(err, "kel: error 42: Werkstatt geschlossen\n")
 
     def test_clear_then_read(self) -> None:
-        code, out, _ = self.main("dtcs", "--clear", "ECM", "TCM")
-        self.assertEqual(code, 0)
-        self.assertEqual(out.split(), ["ECU", "cleared", "ECM", "yes", "TCM", "yes"])
-        code, out, _ = self.main("--json", "dtcs", "--mask", "0x01", "ECM", "ESP")
-        self.assertEqual(code, 0)
+        self.assertEqual(self.ok("dtcs", "--clear", "ECM", "TCM").split(), ["ECU", "cleared", "ECM", "yes", "TCM", "yes"])
+        out = self.ok("--json", "dtcs", "--mask", "0x01", "ECM", "ESP")
         self.assertEqual([(r["target"], len(r["dtcs"])) for r in json.loads(out)], [("ECM", 0), ("ESP", 1)])
 
     def test_ident_targets_events_info(self) -> None:
-        code, out, _ = self.main("ident", "ECM")
-        self.assertEqual(code, 0)
-        self.assertIn("F190  VIN", out)
-        code, out, _ = self.main("targets")
+        self.assertIn("F190  VIN", self.ok("ident", "ECM"))
+        out = self.ok("targets")
         self.assertEqual([line.split()[0] for line in out.splitlines()], ["name", "ECM", "TCM", "ESP", "BCM", "GW", "ACC"])
-        code, out, _ = self.main("events")
-        self.assertEqual(code, 0)
+        out = self.ok("events")
         self.assertIn("EngineInitialized", out)
         header, first = out.splitlines()[:2]
         self.assertEqual(header.index("text"), first.index("The engine is initialized"), "events aligned")
-        code, out, _ = self.main("--json", "info")
-        self.assertEqual((code, json.loads(out)["state"]), (0, 1))
-        code, out, _ = self.main("info")
-        self.assertEqual(out.splitlines()[1].split(), ["state", "initialized"], "no blank line first")
+        self.assertEqual(json.loads(self.ok("--json", "info"))["state"], 1)
+        self.assertEqual(self.ok("info").splitlines()[1].split(), ["state", "initialized"], "no blank line first")
 
     def test_control_characters_that_engine_texts_echo_are_escaped_in_tables(self) -> None:
         code, out, _ = self.main("identify", "E\x1b[2J\nX")

@@ -104,13 +104,15 @@ class GeneratedPackage:
 
 class Generated(unittest.TestCase):
     def setUp(self) -> None:
-        self.package = GeneratedPackage(RECORDS)
+        self.package = self.built(RECORDS)
         self.records = self.package.module("records")
         self.stream = self.package.module("stream")
         self.iface = self.package.iface
 
-    def tearDown(self) -> None:
-        self.package.close()
+    def built(self, records: str) -> GeneratedPackage:
+        package = GeneratedPackage(records)
+        self.addCleanup(package.close)
+        return package
 
     def value(self, variant: int) -> conformance.Rec:
         model = conformance.Model(self.iface, conformance.VARIANTS[variant], 7)
@@ -125,23 +127,17 @@ class Generated(unittest.TestCase):
             return [self.dataclass_of(v) for v in value]
         return value
 
-    def test_every_kind_reads_as_the_engine_writes_it(self) -> None:
+    def test_every_kind_reads_as_the_engine_writes_it_and_writes_as_py_call_reads_it(self) -> None:
         for variant in (0, 1):
             value = self.value(variant)
-            s = conformance.Stream(self.iface, otx=False, result=True)
-            s.record(value, "Thing")
-            decoded, end = self.stream.read_Thing(bytes(s.out) + b"tail", 0)
-            self.assertEqual(end, len(s.out))
-            self.assertEqual(decoded, self.dataclass_of(value))
-
-    def test_every_kind_writes_as_py_call_reads_it(self) -> None:
-        for variant in (0, 1):
-            value = self.value(variant)
-            s = conformance.Stream(self.iface, otx=False, result=False)
-            s.record(value, "Thing")
+            engine, py_call = (conformance.Stream(self.iface, otx=False, result=r) for r in (True, False))
+            engine.record(value, "Thing")
+            py_call.record(value, "Thing")
+            decoded, end = self.stream.read_Thing(bytes(engine.out) + b"tail", 0)
+            self.assertEqual((end, decoded), (len(engine.out), self.dataclass_of(value)), variant)
             written = bytearray()
             self.stream.write_Thing(written, self.dataclass_of(value))
-            self.assertEqual(bytes(written), bytes(s.out))
+            self.assertEqual(bytes(written), bytes(py_call.out), variant)
 
     def test_an_as_class_travels_with_its_own_members_only(self) -> None:
         written = bytearray()
@@ -165,19 +161,13 @@ class Generated(unittest.TestCase):
         self.assertFalse(hasattr(self.records, "Later"))
         self.assertFalse(hasattr(operations, "read_later"))
         self.assertTrue(hasattr(operations, "read_things_async"))
-        built = GeneratedPackage(RECORDS.replace("record Later draft", "record Later"))
-        try:
-            self.assertTrue(hasattr(built.module("records"), "Later"))
-            self.assertTrue(hasattr(built.module("operations").Operations, "read_later"))
-        finally:
-            built.close()
+        built = self.built(RECORDS.replace("record Later draft", "record Later"))
+        self.assertTrue(hasattr(built.module("records"), "Later"))
+        self.assertTrue(hasattr(built.module("operations").Operations, "read_later"))
         # A draft record inside another holds back the outer one too.
-        nested = GeneratedPackage(RECORDS.replace("    wstr outward out\n", "    wstr outward out\n    rec Later later\n"))
-        try:
-            self.assertFalse(hasattr(nested.module("records"), "Thing"))
-            self.assertFalse(hasattr(nested.module("operations").Operations, "read_thing"))
-        finally:
-            nested.close()
+        nested = self.built(RECORDS.replace("    wstr outward out\n", "    wstr outward out\n    rec Later later\n"))
+        self.assertFalse(hasattr(nested.module("records"), "Thing"))
+        self.assertFalse(hasattr(nested.module("operations").Operations, "read_thing"))
 
 
 if __name__ == "__main__":
