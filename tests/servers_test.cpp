@@ -36,14 +36,9 @@
 #else
 #include <cerrno>
 #include <csignal>
-#include <fcntl.h>
-#include <poll.h>
-#include <spawn.h>
-#include <unistd.h>
+#include <cstdio>
 
 #include <sys/wait.h>
-
-extern char** environ; // NOLINT: POSIX declares it for the programs that use it
 #endif
 
 namespace {
@@ -1606,20 +1601,32 @@ TEST_F(Servers, ConnectionsAreBounded) {
 
 // kel-sim-server started as a process of its own (path from the build, or KEL_SIM_SERVER),
 // fed through a pipe on stdin so that it ends with the test even when the test does not
-// get to stop it. The address is the one line it prints.
+// get to stop it. The address is the first line it prints, into a file read here.
 class ServerProcess {
 public:
     explicit ServerProcess(const std::vector<std::string>& arguments) {
         const char* configured = std::getenv("KEL_SIM_SERVER");
-        std::vector<std::string> line{configured != nullptr ? configured : KEL_SIM_SERVER_PATH,
-                                      "--until-stdin-closes"};
-        line.insert(line.end(), arguments.begin(), arguments.end());
-        start(line);
-        address_ = readLine();
+        std::string command = quote(configured != nullptr ? configured : KEL_SIM_SERVER_PATH);
+        for (const auto& argument : arguments) {
+            command += " " + quote(argument);
+        }
+        start(command + " --until-stdin-closes");
+        // A hang guard of 60 s on the first line.
+        for (int i = 0; i < 6000 && address_.find('\n') == std::string::npos; ++i) {
+            std::this_thread::sleep_for(std::chrono::milliseconds(10));
+            std::ifstream in(output_, std::ios::binary);
+            address_.assign(std::istreambuf_iterator<char>(in), {});
+        }
+        address_.erase(std::min(address_.find_first_of("\r\n"), address_.size()));
     }
     ServerProcess(const ServerProcess&) = delete;
     ServerProcess& operator=(const ServerProcess&) = delete;
-    ~ServerProcess() { kill(); }
+    ~ServerProcess() {
+        kill();
+        std::error_code ignored;
+        std::filesystem::remove(output_, ignored);
+        std::filesystem::remove(output_.string() + ".pid", ignored);
+    }
 
     const std::string& address() const { return address_; }
     std::wstring wideAddress() const { return {address_.begin(), address_.end()}; } // ASCII
@@ -1630,38 +1637,31 @@ public:
     void kill() {
         if (process_ != nullptr) {
             TerminateProcess(process_, 9);
-            WaitForSingleObject(process_, 30000);
-            close();
+            stop();
         }
     }
-    // Closes its stdin and waits for it to stop; its exit code.
+    // Closes its stdin and waits (30 s at most) for it to stop; its exit code.
     int stop() {
         CloseHandle(input_);
-        input_ = nullptr;
         DWORD code = 99;
         if (WaitForSingleObject(process_, 30000) == WAIT_OBJECT_0) {
             GetExitCodeProcess(process_, &code);
         }
-        close();
+        CloseHandle(process_);
+        process_ = nullptr;
         return static_cast<int>(code);
     }
 
 private:
-    void start(const std::vector<std::string>& line) {
+    static std::string quote(const std::string& argument) { return "\"" + argument + "\""; }
+    void start(const std::string& command) {
         SECURITY_ATTRIBUTES inherited{sizeof(SECURITY_ATTRIBUTES), nullptr, TRUE};
         HANDLE childInput = nullptr;
-        HANDLE childOutput = nullptr;
         ASSERT_TRUE(CreatePipe(&childInput, &input_, &inherited, 0));
-        ASSERT_TRUE(CreatePipe(&output_, &childOutput, &inherited, 0));
-        SetHandleInformation(input_, HANDLE_FLAG_INHERIT, 0); // only the child's ends pass on
-        SetHandleInformation(output_, HANDLE_FLAG_INHERIT, 0);
-        std::wstring command;
-        for (const auto& argument : line) {
-            command +=
-                (command.empty() ? L"\"" : L" \"") +
-                std::filesystem::path(std::u8string(argument.begin(), argument.end())).wstring() +
-                L"\"";
-        }
+        SetHandleInformation(input_, HANDLE_FLAG_INHERIT, 0); // only the child's end passes on
+        HANDLE childOutput = CreateFileW(output_.wstring().c_str(), GENERIC_WRITE,
+                                         FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                         &inherited, CREATE_ALWAYS, 0, nullptr);
         STARTUPINFOW startup{};
         startup.cb = sizeof startup;
         startup.dwFlags = STARTF_USESTDHANDLES;
@@ -1669,124 +1669,56 @@ private:
         startup.hStdOutput = childOutput;
         startup.hStdError = GetStdHandle(STD_ERROR_HANDLE);
         PROCESS_INFORMATION started{};
-        const BOOL created = CreateProcessW(nullptr, command.data(), nullptr, nullptr, TRUE, 0,
+        std::wstring line =
+            std::filesystem::path(std::u8string(command.begin(), command.end())).wstring();
+        const BOOL created = CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, 0,
                                             nullptr, nullptr, &startup, &started);
         CloseHandle(childInput);
         CloseHandle(childOutput);
-        ASSERT_TRUE(created) << "cannot start " << line[0] << ": error " << GetLastError();
+        ASSERT_TRUE(created) << "cannot start " << command << ": error " << GetLastError();
         CloseHandle(started.hThread);
         process_ = started.hProcess;
-    }
-    std::string readLine() {
-        std::string line;
-        const auto until = std::chrono::steady_clock::now() + std::chrono::seconds(60);
-        char c = 0;
-        DWORD read = 0;
-        while (output_ != nullptr && std::chrono::steady_clock::now() < until) {
-            DWORD waiting = 0;
-            if (!PeekNamedPipe(output_, nullptr, 0, nullptr, &waiting, nullptr)) {
-                break; // it ended without a line
-            }
-            if (waiting == 0) {
-                Sleep(10);
-                continue;
-            }
-            if (!ReadFile(output_, &c, 1, &read, nullptr) || read == 0 || c == '\n') {
-                break;
-            }
-            if (c != '\r') {
-                line += c;
-            }
-        }
-        return line;
-    }
-    void close() {
-        for (HANDLE* handle : {&process_, &input_, &output_}) {
-            if (*handle != nullptr) {
-                CloseHandle(*handle);
-                *handle = nullptr;
-            }
-        }
     }
 
     HANDLE process_ = nullptr;
     HANDLE input_ = nullptr;
-    HANDLE output_ = nullptr;
 #else
     void kill() {
-        if (pid_ > 0) {
-            ::kill(pid_, SIGKILL);
-            waitpid(pid_, nullptr, 0);
-            pid_ = 0;
+        if (input_ != nullptr) {
+            if (const pid_t id = pid(); id > 0) { // never 0: that is the whole process group
+                ::kill(id, SIGKILL);
+            }
+            stop();
         }
-        close();
     }
+    // Closes its stdin and waits for it to stop (ctest's timeout guards a hang); its exit
+    // code.
     int stop() {
-        ::close(input_);
-        input_ = -1;
-        int status = 0;
-        pid_t ended = 0;
-        // A hang guard: it gets 30 s to stop before it is killed.
-        for (int i = 0; i < 3000 && (ended = waitpid(pid_, &status, WNOHANG)) == 0; ++i) {
-            std::this_thread::sleep_for(std::chrono::milliseconds(10));
-        }
-        if (ended != pid_) {
-            kill();
-            return 99;
-        }
-        pid_ = 0;
-        close();
+        const int status = pclose(input_);
+        input_ = nullptr;
         return WIFEXITED(status) ? WEXITSTATUS(status) : 128 + WTERMSIG(status);
     }
 
 private:
-    void start(const std::vector<std::string>& line) {
-        int in[2];
-        int out[2];
-        // Close-on-exec: no other child of the test process holds these pipes open.
-        ASSERT_EQ(pipe2(in, O_CLOEXEC), 0);
-        ASSERT_EQ(pipe2(out, O_CLOEXEC), 0);
-        posix_spawn_file_actions_t actions;
-        posix_spawn_file_actions_init(&actions);
-        posix_spawn_file_actions_adddup2(&actions, in[0], STDIN_FILENO);
-        posix_spawn_file_actions_adddup2(&actions, out[1], STDOUT_FILENO);
-        std::vector<char*> argv;
-        for (const auto& argument : line) {
-            argv.push_back(const_cast<char*>(argument.c_str())); // NOLINT: posix_spawn's type
-        }
-        argv.push_back(nullptr);
-        const int failed =
-            posix_spawn(&pid_, line[0].c_str(), &actions, nullptr, argv.data(), environ);
-        posix_spawn_file_actions_destroy(&actions);
-        ::close(in[0]);
-        ::close(out[1]);
-        input_ = in[1];
-        output_ = out[0];
-        ASSERT_EQ(failed, 0) << "cannot start " << line[0] << ": " << std::strerror(failed);
+    static std::string quote(const std::string& argument) { return "'" + argument + "'"; }
+    // The shell writes its process id, then execs the server with it. "e": no other child
+    // of the test process holds the pipe open.
+    void start(const std::string& command) {
+        input_ = popen(("echo $$ > " + quote(output_.string() + ".pid") + "; exec " + command +
+                        " > " + quote(output_.string()))
+                           .c_str(),
+                       "we");
+        ASSERT_NE(input_, nullptr) << "cannot start " << command << ": " << std::strerror(errno);
     }
-    std::string readLine() {
-        std::string line;
-        char c = 0;
-        pollfd ready{output_, POLLIN, 0};
-        while (output_ >= 0 && poll(&ready, 1, 60000) > 0 && ::read(output_, &c, 1) == 1 &&
-               c != '\n') {
-            line += c;
-        }
-        return line;
-    }
-    void close() {
-        for (int* fd : {&input_, &output_}) {
-            if (*fd >= 0) {
-                ::close(*fd);
-                *fd = -1;
-            }
-        }
+    pid_t pid() const {
+        pid_t id = 0;
+        std::ifstream(output_.string() + ".pid") >> id;
+        return id;
     }
 
-    pid_t pid_ = 0;
-    int input_ = -1;
-    int output_ = -1;
+    FILE* input_ = nullptr;
 #endif
+    std::filesystem::path output_ = freshTempPath("kel_server_out");
     std::string address_;
 };
 
