@@ -1273,23 +1273,16 @@ TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
     ErrorSlot error;
     kel_registerServerHandler(reinterpret_cast<uint64_t>(api), &handler, &error);
     ASSERT_EQ(addUser(api, L"anna", password, Administrator), 0);
-    wchar_t* address = nullptr;
-    kel_startServer(api, L"race", &error, &address);
-    ASSERT_FALSE(error);
-    const std::wstring where = address;
-    release_Memory(address);
-
-    std::atomic<bool> stop{false};
+    ASSERT_EQ(startServer(L"race"), 0);
     std::atomic<int> unexpected{0};
     std::vector<std::thread> clients;
     for (int t = 0; t < 4; ++t) {
         clients.emplace_back([&] {
-            ErrorSlot connectError;
             uint64_t registered = 0;
             // The server may end a socket before its handshake is through: 1301.
             for (int tries = 0; registered == 0 && tries < 100; ++tries) {
                 if (code([&](KelError** e) {
-                        kel_connectRemoteServer(api, where.c_str(), e, &registered);
+                        kel_connectRemoteServer(api, address_.c_str(), e, &registered);
                     }) != ConnectionEnded &&
                     registered == 0) {
                     ++unexpected;
@@ -1297,12 +1290,7 @@ TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
                 }
             }
             auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT
-            uint64_t own = 0;
-            kel_getHandle(client, &connectError, &own);
-            if (connectError) {
-                ++unexpected;
-                return;
-            }
+            const uint64_t own = handleOf(client);
             for (int i = 0; i < 60; ++i) {
                 switch (getState(client)) {
                 case 0:
@@ -1315,15 +1303,9 @@ TEST_F(ServersConcurrency, ClientsRaceTheServerEndingTheirConnections) {
                         ++unexpected;
                     }
                     break;
-                case ConnectionEnded: {
-                    uint8_t renewed = 0;
-                    if (code([&](KelError** e) {
-                            kel_reconnectRemoteServer(client, own, e, &renewed);
-                        }) != 0) {
-                        ++unexpected;
-                    }
+                case ConnectionEnded:
+                    unexpected += reconnect(client, own) < 0 ? 1 : 0;
                     break;
-                }
                 default:
                     ADD_FAILURE() << "getState: " << getState(client);
                     ++unexpected;
@@ -1665,26 +1647,11 @@ protected:
     std::unique_ptr<ServerProcess> server_;
 };
 
-// This process runs the one-unit vehicle of these tests; the server process runs the
-// bundled default vehicle, which is what a remote read must see.
-TEST_F(CrossProcessConcurrency, AClientReadsTheVehicleOfTheServerProcess) {
-    ASSERT_NO_FATAL_FAILURE(startServer({}));
-    TarnApi* client = connect();
-    const auto [failed, dtcs] = readDtcs(client);
-    ASSERT_EQ(failed, 0);
-    EXPECT_EQ(dtcs.size(), 6U);
-    EXPECT_EQ(dtcs.at(L"ECM"), (std::vector<std::wstring>{L"P0301", L"P2463"}));
-    EXPECT_EQ(dtcs.at(L"GW"), std::vector<std::wstring>{L"U0121"});
-    EXPECT_TRUE(dtcs.at(L"ACC").empty()) << "silent: its error stays in its result";
-    EXPECT_EQ(readDtcs(api).second.size(), 1U) << "the local vehicle is not the server's";
-
-    EXPECT_EQ(server_->stop(), 0) << "stdin closed: a clean stop";
-    EXPECT_EQ(readDtcs(client).first, ConnectionEnded);
-}
-
-// The server dies with a call in flight: the call ends with 1301 at once rather than
-// waiting, the client hears ConnectionBroken, and the connection is renewed once a server
-// listens on the same port again.
+// The server process runs the bundled default vehicle (this one the one-unit vehicle of
+// these tests), which is what a remote read must see. It dies with a call in flight: the
+// call ends with 1301 at once rather than waiting, the client hears ConnectionBroken, and
+// the connection is renewed once a server listens on the same port again; a server whose
+// stdin closes stops cleanly.
 TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnectionIsRenewed) {
     ASSERT_NO_FATAL_FAILURE(startServer({"--delay", "readDtcs=20000"}));
     const auto port = server_->port();
@@ -1703,16 +1670,20 @@ TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnecti
     EXPECT_TRUE(std::any_of(heard.begin(), heard.end(), [&](const Event& e) {
         return e.kind == 9 && e.detail.find(server_->wideAddress()) != std::wstring::npos;
     })) << "ConnectionBroken naming the server, on the engine object that connected";
-
-    uint8_t renewed = 1;
-    EXPECT_EQ(code([&](KelError** e) { kel_reconnectRemoteServer(client, own, e, &renewed); }), 0);
-    EXPECT_EQ(renewed, 0) << "no server listens";
+    EXPECT_EQ(reconnect(client, own), 0) << "no server listens";
 
     ASSERT_NO_FATAL_FAILURE(startServer({"--port", port}));
     EXPECT_EQ(server_->port(), port);
-    EXPECT_EQ(code([&](KelError** e) { kel_reconnectRemoteServer(client, own, e, &renewed); }), 0);
-    EXPECT_EQ(renewed, 1);
-    EXPECT_EQ(readDtcs(client).second.at(L"ECM"), (std::vector<std::wstring>{L"P0301", L"P2463"}));
+    EXPECT_EQ(reconnect(client, own), 1);
+    const auto [failed, dtcs] = readDtcs(client);
+    ASSERT_EQ(failed, 0);
+    EXPECT_EQ(dtcs.size(), 6U);
+    EXPECT_EQ(dtcs.at(L"ECM"), (std::vector<std::wstring>{L"P0301", L"P2463"}));
+    EXPECT_EQ(dtcs.at(L"GW"), std::vector<std::wstring>{L"U0121"});
+    EXPECT_TRUE(dtcs.at(L"ACC").empty()) << "silent: its error stays in its result";
+    EXPECT_EQ(readDtcs(api).second.size(), 1U) << "the local vehicle is not the server's";
+    EXPECT_EQ(server_->stop(), 0) << "stdin closed: a clean stop";
+    EXPECT_EQ(readDtcs(client).first, ConnectionEnded);
 }
 
 } // namespace
