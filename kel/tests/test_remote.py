@@ -14,7 +14,6 @@ import sys
 import tempfile
 import threading
 import unittest
-from typing import IO
 
 import kel
 from kel import cli
@@ -36,21 +35,13 @@ class Server:
     def __init__(self, root: str, *arguments: str) -> None:
         self.process = subprocess.Popen([_program(), "--until-stdin-closes", "--data-root", root, *arguments],
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        assert self.process.stdout is not None
         guard = threading.Timer(60, self.process.kill)  # a hang guard on its first line
         guard.start()
         try:
-            self.address = self._stdout.readline().strip()
+            self.address = self.process.stdout.readline().strip()
         finally:
             guard.cancel()
-
-    @property
-    def _stdout(self) -> IO[str]:
-        assert self.process.stdout is not None
-        return self.process.stdout
-
-    @property
-    def port(self) -> str:
-        return self.address.rsplit(":", 1)[1]
 
     def kill(self) -> None:
         self.process.kill()
@@ -73,17 +64,14 @@ class RemoteTest(unittest.TestCase):
         sim.kelsim_reset()
         sim.kelsim_restart()
         self.root = tempfile.mkdtemp(prefix="kel_remote_test")
-        self.servers: list[Server] = []
+        self.addCleanup(shutil.rmtree, self.root, ignore_errors=True)  # after the servers' kill
 
     def tearDown(self) -> None:
-        for server in self.servers:
-            server.kill()
-        shutil.rmtree(self.root, ignore_errors=True)
         sim.kelsim_reset()
 
     def start(self, *arguments: str) -> Server:
         server = Server(self.root, *arguments)
-        self.servers.append(server)
+        self.addCleanup(server.kill)
         self.assertRegex(server.address, r"^kel://127\.0\.0\.1:\d+$", "the line it printed")
         return server
 
