@@ -936,35 +936,6 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     EXPECT_EQ(kinds, (std::vector<int32_t>{30, 11, 31, 12, 30, 11, 12, 11, 12, 10}));
 }
 
-TEST_F(Servers, ServerStateAndConfiguration) {
-    ASSERT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), 0);
-    EXPECT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), SovdServerRunning);
-    ASSERT_EQ(addUser(api, L"anna", password, Administrator), 0);
-    ASSERT_EQ(logIn(api, L"anna", password), 0);
-
-    ErrorSlot error;
-    TarnApiServerConfig* config = nullptr;
-    kel_getServerConfiguration(api, &error, &config);
-    ASSERT_NE(config, nullptr);
-    EXPECT_EQ(config->userCount, 1U);
-    EXPECT_EQ(config->flag, 0);
-    EXPECT_STREQ(config->text1, L"") << "the server is stopped";
-    EXPECT_EQ(std::wstring(config->text2).rfind(L"http://127.0.0.1:", 0), 0U) << config->text2;
-    EXPECT_STREQ(config->text3, L"kel-sim-idp");
-    EXPECT_EQ(config->filterCount, 0U);
-    ASSERT_EQ(config->userCount2, 1U) << "the local object's login";
-    EXPECT_STREQ(config->users2[0]->name, L"anna");
-    EXPECT_EQ(config->value2, 3) << "failed logins before the throttle, from the description";
-    release_TarnApiServerConfig(config);
-
-    EXPECT_EQ(code([&](KelError** e) { kel_stopSOVDServer(api, e); }), 0);
-    EXPECT_EQ(code([&](KelError** e) { kel_stopSOVDServer(api, e); }), SovdServerNotRunning);
-    EXPECT_EQ(code([&](KelError** e) { kel_restartServer(api, 0, e); }), ServerNotRunning);
-    EXPECT_EQ(startServer(L"no spaces"), BadServersArgument);
-    EXPECT_EQ(code([&](KelError** e) { kel_end(api, e); }), 0);
-    EXPECT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), NotInitialized);
-}
-
 TEST_F(Servers, TheIdentityProviderLogsAUserInOnceWithItsCode) {
     ASSERT_EQ(addUser(api, L"anna", password, Operator), 0);
     ASSERT_EQ(userManagement(api, true), 0);
@@ -1684,7 +1655,9 @@ std::string httpGet(uint16_t port, const std::string& path) {
     return answer;
 }
 
-TEST_F(Servers, BothServersListenOnLoopbackOnlyAndSovdServesHttp) {
+// Both servers listen on loopback only; the SOVD server serves HTTP, and the server
+// configuration reports it.
+TEST_F(Servers, ServersListenOnLoopbackOnlyAndReportTheirConfiguration) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"name": "open", "ecus": [{"name": "ECM"}],
         "servers": {"listenAddress": "0.0.0.0"}})"),
               0);
@@ -1701,6 +1674,32 @@ TEST_F(Servers, BothServersListenOnLoopbackOnlyAndSovdServesHttp) {
     const std::string answer = httpGet(port, "/sovd/v1/components");
     EXPECT_EQ(answer.rfind("HTTP/1.1 200", 0), 0U) << answer;
     EXPECT_NE(answer.find(R"("id":"ECM")"), std::string::npos) << answer;
+
+    EXPECT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), SovdServerRunning);
+    ASSERT_EQ(addUser(api, L"anna", password, Administrator), 0);
+    ASSERT_EQ(logIn(api, L"anna", password), 0);
+
+    ErrorSlot error;
+    TarnApiServerConfig* config = nullptr;
+    kel_getServerConfiguration(api, &error, &config);
+    ASSERT_NE(config, nullptr);
+    EXPECT_EQ(config->userCount, 1U);
+    EXPECT_EQ(config->flag, 0);
+    EXPECT_STREQ(config->text1, L"") << "the server is stopped";
+    EXPECT_EQ(std::wstring(config->text2).rfind(L"http://127.0.0.1:", 0), 0U) << config->text2;
+    EXPECT_STREQ(config->text3, L"kel-sim-idp");
+    EXPECT_EQ(config->filterCount, 0U);
+    ASSERT_EQ(config->userCount2, 1U) << "the local object's login";
+    EXPECT_STREQ(config->users2[0]->name, L"anna");
+    EXPECT_EQ(config->value2, 3) << "failed logins before the throttle, from the description";
+    release_TarnApiServerConfig(config);
+
+    EXPECT_EQ(code([&](KelError** e) { kel_stopSOVDServer(api, e); }), 0);
+    EXPECT_EQ(code([&](KelError** e) { kel_stopSOVDServer(api, e); }), SovdServerNotRunning);
+    EXPECT_EQ(code([&](KelError** e) { kel_restartServer(api, 0, e); }), ServerNotRunning);
+    EXPECT_EQ(startServer(L"no spaces"), BadServersArgument);
+    EXPECT_EQ(code([&](KelError** e) { kel_end(api, e); }), 0);
+    EXPECT_EQ(code([&](KelError** e) { kel_startSOVDServer(api, e); }), NotInitialized);
 }
 
 // A request the engine is still serving when the server stops, or when the vehicle's
