@@ -866,6 +866,8 @@ TEST_F(Servers, AnOperatorCancelsOnlyItsOwnAsynchronousCalls) {
     EXPECT_EQ(finals.finals, (std::vector<int32_t>{1012, 1012}));
 }
 
+// The server ends its sockets cleanly and a client fails its calls at once; one that
+// vanishes mid-call is a broken connection.
 TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     RecordingHandler handler;
     ErrorSlot error;
@@ -902,7 +904,9 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     EXPECT_EQ(getState(client), ConnectionEnded);
     EXPECT_EQ(reconnect(client, clientHandle), 0) << "not while the server is stopped";
     EXPECT_EQ(stopServer(), ServerNotRunning);
+    const std::wstring before = address_;
     ASSERT_EQ(startServer(), 0);
+    EXPECT_EQ(address_, before) << "a server started again takes its port again";
     EXPECT_EQ(reconnect(client, clientHandle), 1);
     EXPECT_EQ(getState(client), 0);
     EXPECT_EQ(reconnect(api, 12345), -1005);
@@ -934,6 +938,22 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
         }
     }
     EXPECT_EQ(kinds, (std::vector<int32_t>{30, 11, 31, 12, 30, 11, 12, 11, 12, 10}));
+
+    // A raw client that vanishes mid-call: the server's engine object hears of it.
+    {
+        RawSocket raw(port());
+        sendFrame(raw.socket, ref::Wire::Kind::Hello, 0, ref::Wire::helloPayload());
+        readFrame(raw.socket); // Welcome
+        ref::Wire::Header header;
+        header.kind = ref::Wire::Kind::Call;
+        header.length = 100; // announced, never sent
+        std::array<uint8_t, 16> half{};
+        ref::Wire::writeHeader(header, half.data());
+        asio::write(raw.socket, asio::buffer(half));
+    }
+    EXPECT_TRUE(
+        hasKind(eventsUntil(channel, [](const auto& heard) { return hasKind(heard, 9); }), 9))
+        << "ConnectionBroken";
 }
 
 TEST_F(Servers, TheIdentityProviderLogsAUserInOnceWithItsCode) {
@@ -1069,37 +1089,6 @@ TEST_F(Servers, ARemoteObjectOnASocketCallsReportsAndReadsEvents) {
         << "the server closed the socket: " << closed.message();
     EXPECT_EQ(total, 0U);
     EXPECT_EQ(getState(client), 0) << "the other connection still works";
-}
-
-TEST_F(Servers, TheServerEndsSocketsCleanlyAndAClientThatVanishesIsABrokenConnection) {
-    TarnApi* client = connection();
-    const uint64_t own = handleOf(client);
-    const uint64_t channel = openChannel();
-    // The server ends its sockets: the client fails its calls at once.
-    ASSERT_EQ(stopServer(), 0);
-    EXPECT_EQ(getState(client), ConnectionEnded);
-    const std::wstring before = address_;
-    ASSERT_EQ(startServer(), 0);
-    EXPECT_EQ(address_, before) << "a server started again takes its port again";
-    EXPECT_EQ(reconnect(client, own), 1);
-    EXPECT_EQ(getState(client), 0);
-    events(channel); // what came so far
-
-    // Now a raw client that vanishes mid-call: the server's engine object hears of it.
-    {
-        RawSocket raw(port());
-        sendFrame(raw.socket, ref::Wire::Kind::Hello, 0, ref::Wire::helloPayload());
-        readFrame(raw.socket); // Welcome
-        ref::Wire::Header header;
-        header.kind = ref::Wire::Kind::Call;
-        header.length = 100; // announced, never sent
-        std::array<uint8_t, 16> half{};
-        ref::Wire::writeHeader(header, half.data());
-        asio::write(raw.socket, asio::buffer(half));
-    }
-    EXPECT_TRUE(
-        hasKind(eventsUntil(channel, [](const auto& heard) { return hasKind(heard, 9); }), 9))
-        << "ConnectionBroken";
 }
 
 // A server that dies mid-call: the client's call fails at once with 1301, and its local
