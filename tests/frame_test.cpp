@@ -3,9 +3,7 @@
 // the engine lacks names itself; and the memory exports.
 #include "support.h"
 
-#include <array>
 #include <cstring>
-#include <cwchar>
 
 namespace {
 
@@ -19,7 +17,6 @@ TEST_F(Frame, SuccessNeverWritesTheErrorParameter) {
     KelError* error = sentinel;
     int32_t state = 0;
     kel_getState(api, &error, &state);
-    EXPECT_EQ(error, sentinel);
     kel_breakLock(api, &error);
     EXPECT_EQ(error, sentinel);
 }
@@ -44,12 +41,12 @@ TEST_F(Frame, UnsupportedOperationNamesItself) {
     kel_selectDynamicProject(api, L"Dynamic", nullptr, 0, &error);
     ASSERT_TRUE(error);
     EXPECT_EQ(error->code, 1000);
-    const std::wstring message = error->message;
-    EXPECT_NE(message.find(L"selectDynamicProject"), std::wstring::npos)
-        << std::string(message.begin(), message.end());
-    EXPECT_NE(message.find(L"does not support"), std::wstring::npos);
+    EXPECT_STREQ(
+        error->message,
+        L"selectDynamicProject: the simulated vehicle does not support this operation yet");
 }
 
+// The leak checker proves that every block went back.
 TEST(MemoryExports, NullSafeAndOnTheLibrarysHeap) {
     release_KelError(nullptr);
     release_KelError_array(nullptr, 3);
@@ -57,27 +54,20 @@ TEST(MemoryExports, NullSafeAndOnTheLibrarysHeap) {
     release_StringArray(nullptr, 2);
     EXPECT_EQ(duplicate_WString(nullptr), nullptr);
     EXPECT_EQ(duplicate_String(nullptr), nullptr);
-
-    wchar_t* wide = duplicate_WString(L"Steuergerät \U0001F697");
-    EXPECT_STREQ(wide, L"Steuergerät \U0001F697");
     char* narrow = duplicate_String("ECU");
     EXPECT_STREQ(narrow, "ECU");
-    void* block = allocate_Memory(16);
-    ASSERT_NE(block, nullptr);
-    std::memset(block, 0, 16);
-    release_Memory(block);
     release_Memory(narrow);
 
-    // A list of strings built by the caller goes back with release_StringArray.
+    // A list of strings built by the caller goes back with release_StringArray; NULL
+    // entries are harmless.
     auto** texts = static_cast<wchar_t**>(allocate_Memory(3 * sizeof(wchar_t*)));
-    texts[0] = wide;
-    texts[1] = nullptr; // NULL entries are harmless
+    texts[0] = duplicate_WString(L"Steuergerät \U0001F697");
+    EXPECT_STREQ(texts[0], L"Steuergerät \U0001F697");
+    texts[1] = nullptr;
     texts[2] = duplicate_WString(L"");
-    const uint32_t count = 3; // as an export would hand it out, widened by the caller
-    release_StringArray(texts, count);
-}
+    release_StringArray(texts, 3);
 
-TEST(MemoryExports, ErrorArrayReleasesEveryEntryAndSkipsNulls) {
+    // An error array releases every entry, nested records too, and skips NULLs.
     auto** errors = static_cast<KelError**>(allocate_Memory(3 * sizeof(KelError*)));
     for (int i = 0; i < 3; ++i) {
         errors[i] = static_cast<KelError*>(allocate_Memory(sizeof(KelError)));
@@ -89,7 +79,7 @@ TEST(MemoryExports, ErrorArrayReleasesEveryEntryAndSkipsNulls) {
     errors[2]->mvciError = static_cast<MvciServerError*>(allocate_Memory(sizeof(MvciServerError)));
     std::memset(errors[2]->mvciError, 0, sizeof(MvciServerError));
     errors[2]->mvciError->codeText = duplicate_WString(L"nested");
-    release_KelError_array(errors, 3); // the leak checker proves everything went back
+    release_KelError_array(errors, 3);
 }
 
 } // namespace

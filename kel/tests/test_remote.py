@@ -14,7 +14,6 @@ import sys
 import tempfile
 import threading
 import unittest
-from typing import IO
 
 import kel
 from kel import cli
@@ -36,21 +35,13 @@ class Server:
     def __init__(self, root: str, *arguments: str) -> None:
         self.process = subprocess.Popen([_program(), "--until-stdin-closes", "--data-root", root, *arguments],
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
+        assert self.process.stdout is not None
         guard = threading.Timer(60, self.process.kill)  # a hang guard on its first line
         guard.start()
         try:
-            self.address = self._stdout.readline().strip()
+            self.address = self.process.stdout.readline().strip()
         finally:
             guard.cancel()
-
-    @property
-    def _stdout(self) -> IO[str]:
-        assert self.process.stdout is not None
-        return self.process.stdout
-
-    @property
-    def port(self) -> str:
-        return self.address.rsplit(":", 1)[1]
 
     def kill(self) -> None:
         self.process.kill()
@@ -73,17 +64,14 @@ class RemoteTest(unittest.TestCase):
         sim.kelsim_reset()
         sim.kelsim_restart()
         self.root = tempfile.mkdtemp(prefix="kel_remote_test")
-        self.servers: list[Server] = []
+        self.addCleanup(shutil.rmtree, self.root, ignore_errors=True)  # after the servers' kill
 
     def tearDown(self) -> None:
-        for server in self.servers:
-            server.kill()
-        shutil.rmtree(self.root, ignore_errors=True)
         sim.kelsim_reset()
 
     def start(self, *arguments: str) -> Server:
         server = Server(self.root, *arguments)
-        self.servers.append(server)
+        self.addCleanup(server.kill)
         self.assertRegex(server.address, r"^kel://127\.0\.0\.1:\d+$", "the line it printed")
         return server
 
@@ -92,27 +80,20 @@ class RemoteTest(unittest.TestCase):
         return subprocess.run([sys.executable, "-m", "kel", *arguments], cwd=ROOT, env=env, capture_output=True,
                               text=True, timeout=120, stdin=subprocess.DEVNULL)
 
-    def test_a_read_gives_the_servers_vehicle_not_this_ones(self) -> None:
+    def test_the_command_line_reads_the_servers_vehicle_and_logs_in_with_the_password_from_the_environment(
+            self) -> None:
         description = json.loads((ROOT / "reference_engine" / "vehicles" / "default.json").read_text("utf-8"))
         description["ecus"][0]["dtcs"][0]["text"] = "Misfire seen by the server process"
-        text = json.dumps(description)
         vehicle = pathlib.Path(self.root) / "vehicle.json"
-        vehicle.write_text(text, "utf-8")
+        vehicle.write_text(json.dumps(description), "utf-8")
         server = self.start("--vehicle", str(vehicle))
-
-        with kel.Engine.connect(server.address) as remote:
-            read = remote.read_dtcs()
-        with kel.Engine() as local:
-            self.assertNotEqual(local.read_dtcs(), read)
-            self.assertEqual(sim.kelsim_setVehicleJson(text.encode()), 0)
-            self.assertEqual(local.read_dtcs(), read)
-        self.assertEqual(server.stop(), 0)
-
-    def test_the_command_line_runs_on_the_server_and_logs_in_with_the_password_from_the_environment(self) -> None:
-        server = self.start()
         here = io.StringIO()
         self.assertEqual(cli.main(["dtcs"], out=here), cli.PARTLY)
         there = self.cli("--connect", server.address, "dtcs")
+        self.assertNotEqual(there.stdout, here.getvalue(), "this process runs the default vehicle")
+        self.assertEqual(sim.kelsim_setVehicleJson(json.dumps(description).encode()), 0)
+        here = io.StringIO()
+        self.assertEqual(cli.main(["dtcs"], out=here), cli.PARTLY)
         self.assertEqual((there.returncode, there.stdout), (cli.PARTLY, here.getvalue()), there.stderr)
 
         with kel.Engine.connect(server.address) as admin:  # no user management yet: it administers
@@ -125,6 +106,7 @@ class RemoteTest(unittest.TestCase):
             self.assertEqual(refused.returncode, cli.FAILED)
             self.assertIn(code, refused.stderr)
             self.assertNotIn("Wr0ng-9", refused.stderr + refused.stdout)
+        self.assertEqual(server.stop(), 0)
 
     def test_a_user_needs_a_server_and_a_password(self) -> None:
         with self.assertRaises(SystemExit) as usage, contextlib.redirect_stderr(io.StringIO()):

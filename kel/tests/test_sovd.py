@@ -89,69 +89,65 @@ class SovdTest(unittest.TestCase):
 
 
 class Resources(SovdTest):
+    def get(self, path: str) -> Any:
+        status, _, document = self.call("GET", "/sovd/v1/components" + path)
+        self.assertEqual(status, 200, path)
+        return document
+
     def test_components_faults_and_data_of_the_simulated_vehicle(self) -> None:
-        status, _, components = self.call("GET", "/sovd/v1/components")
-        self.assertEqual(status, 200)
-        ids = [c["id"] for c in components["items"]]
-        self.assertEqual(ids, ["ECM", "TCM", "ESP", "BCM", "GW", "ACC"])
-        self.assertEqual(components["items"][0]["name"], "Engine control module")
+        components = self.get("")["items"]
+        self.assertEqual([c["id"] for c in components], ["ECM", "TCM", "ESP", "BCM", "GW", "ACC"])
+        self.assertEqual(components[0]["name"], "Engine control module")
+        ecm = self.get("/ECM")
+        self.assertEqual((ecm["identification"], ecm["faults"]),
+                         ({"variant": "ECM_EDC17_CR_2L0_V3"}, "/sovd/v1/components/ECM/faults"))
 
-        status, _, ecm = self.call("GET", "/sovd/v1/components/ECM")
-        self.assertEqual(status, 200)
-        self.assertEqual(ecm["identification"], {"variant": "ECM_EDC17_CR_2L0_V3"})
-        self.assertEqual(ecm["faults"], "/sovd/v1/components/ECM/faults")
-
-        status, _, faults = self.call("GET", "/sovd/v1/components/ECM/faults")
-        self.assertEqual(status, 200)
-        self.assertEqual([f["code"] for f in faults["items"]], ["P0301", "P2463"])
-        first = faults["items"][0]
+        faults = self.get("/ECM/faults")["items"]
+        self.assertEqual([f["code"] for f in faults], ["P0301", "P2463"])
+        first = faults[0]
         self.assertEqual((first["number"], first["status"]["mask"]), (0x030100, 0x2F))
-        self.assertTrue(first["status"]["confirmedDtc"])
-        self.assertFalse(first["status"]["warningIndicatorRequested"])
+        self.assertEqual((first["status"]["confirmedDtc"], first["status"]["warningIndicatorRequested"]),
+                         (True, False))
         self.assertTrue(first["description"])
         self.assertIn("Engine speed", [s["label"] for s in first["snapshot"]])
-
         # One fault, by display code or by number, with its special data too.
         for code in ("P0301", "p0301", "030100"):
-            status, _, fault = self.call("GET", f"/sovd/v1/components/ECM/faults/{code}")
-            self.assertEqual((status, fault["code"]), (200, "P0301"), code)
-        self.assertTrue(fault["specialData"])
+            fault = self.get(f"/ECM/faults/{code}")
+            self.assertEqual(fault["code"], "P0301", code)
+            self.assertTrue(fault["specialData"])
 
-        status, _, data = self.call("GET", "/sovd/v1/components/ECM/data")
-        self.assertEqual(status, 200)
-        vin = next(d for d in data["items"] if d["id"] == "F190")
+        vin = next(d for d in self.get("/ECM/data")["items"] if d["id"] == "F190")
         self.assertEqual(vin["value"], "WVWZZZ1KZ8W000417")
-        status, _, one = self.call("GET", "/sovd/v1/components/ECM/data/F190")
-        self.assertEqual((status, one), (200, vin))
+        self.assertEqual(self.get("/ECM/data/F190"), vin)
 
     def test_a_faults_read_goes_over_the_bus_the_monitors_hear(self) -> None:
         monitor = self.engine.create_pdu_monitor()
-        status, _, _ = self.call("GET", "/sovd/v1/components/TCM/faults")
-        self.assertEqual(status, 200)
+        self.get("/TCM/faults")
         heard = [(p.unit, p.direction_text, p.hex) for p in self.engine.get_pdu_monitoring_items(monitor, 0, 0) if p]
         self.assertIn(("TCM", "request", "19 02 FF"), heard)
         self.assertIn("response", [direction for unit, direction, _ in heard if unit == "TCM"])
 
     def test_clearing_empties_the_fault_memory(self) -> None:
-        status, _, _ = self.call("DELETE", "/sovd/v1/components/ECM/faults")
-        self.assertEqual(status, 204)
+        self.assertEqual(self.call("DELETE", "/sovd/v1/components/ECM/faults")[0], 204)
         after = self.engine.read_dtcs(["ECM"])[0]
-        assert after is not None
-        self.assertEqual(after.dtcs, [])
+        self.assertEqual(after and after.dtcs, [])
         self.problem("GET", "/sovd/v1/components/ECM/faults/P0301", 404)
 
     def test_problem_documents(self) -> None:
-        self.problem("GET", "/sovd/v1/nothing", 404)
-        self.problem("GET", "/other", 404)
-        self.assertEqual(self.problem("GET", "/sovd/v1/components/XX", 404)["code"], 1011)
-        self.assertEqual(self.problem("GET", "/sovd/v1/components/XX/faults", 404)["code"], 1011)
-        self.assertEqual(self.problem("GET", "/sovd/v1/components/ECM/data/ABCD", 404)["code"], 1014)
-        # The silent unit: the engine's per-target error, not a success with nothing in it.
-        self.assertEqual(self.problem("GET", "/sovd/v1/components/ACC/faults", 504)["code"], 1010)
+        # The silent unit (ACC): the engine's per-target error, not a success with nothing in it.
+        for method, path, status, code, body in (
+                ("GET", "/sovd/v1/nothing", 404, None, None), ("GET", "/other", 404, None, None),
+                ("GET", "/sovd/v1/components/XX", 404, 1011, None),
+                ("GET", "/sovd/v1/components/XX/faults", 404, 1011, None),
+                ("GET", "/sovd/v1/components/ECM/data/ABCD", 404, 1014, None),
+                ("GET", "/sovd/v1/components/ACC/faults", 504, 1010, None),
+                ("GET", "/sovd/v1/components/%E", 400, None, None),
+                ("POST", "/sovd/v1/authorize", 400, None, ["not", "an", "object"])):
+            with self.subTest(method=method, path=path):
+                document = self.problem(method, path, status, body)
+                self.assertEqual(document["code"] if code else None, code)
         _, response, _ = self.call("PUT", "/sovd/v1/components/ECM/faults")
         self.assertEqual((response.status, response.getheader("Allow")), (405, "GET, DELETE"))
-        self.problem("GET", "/sovd/v1/components/%E", 400)
-        self.problem("POST", "/sovd/v1/authorize", 400, body=["not", "an", "object"])
 
     def test_malformed_or_oversized_http_is_refused_and_the_server_goes_on(self) -> None:
         for request, status in ((b"NONSENSE\r\n\r\n", b"400"),
@@ -164,23 +160,8 @@ class Resources(SovdTest):
                 self.assertTrue(answer.startswith(b"HTTP/1.1 " + status), answer[:100])
         self.assertEqual(self.call("GET", "/sovd/v1/components")[0], 200)
 
-    def test_the_server_stops_with_stop_and_with_the_vehicle(self) -> None:
-        self.engine.stop_sovd_server()
-        config = self.engine.get_server_configuration()
-        self.assertEqual(config and config.sovd_address, "")
-        with self.assertRaises(ConnectionRefusedError):
-            self.call("GET", "/sovd/v1/components")
-        self.engine.start_sovd_server()
-        config = self.engine.get_server_configuration()
-        assert config is not None
-        self.port = urllib.parse.urlsplit(config.sovd_address).port or 0
-        self.assertEqual(self.call("GET", "/sovd/v1/components")[0], 200)
+    def test_a_fixed_port_that_another_socket_holds_is_refused(self) -> None:
         self.engine.__exit__(None, None, None)
-        sim.kelsim_restart()
-        with self.assertRaises(ConnectionRefusedError):
-            self.call("GET", "/sovd/v1/components")
-
-        # A fixed port that another socket holds.
         with socket.socket() as taken:
             taken.bind(("127.0.0.1", 0))
             taken.listen()
