@@ -14,7 +14,6 @@
 #include <array>
 #include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -373,14 +372,23 @@ protected:
         return connectTo(address_);
     }
     TarnApi* connectTo(const std::wstring& where) {
-        uint64_t registered = 0;
-        EXPECT_EQ(code([&](KelError** e) {
-                      kel_connectRemoteServer(api, where.c_str(), e, &registered);
-                  }),
-                  0);
-        auto* client = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
-        remotes_.push_back(client);
+        TarnApi* client = nullptr;
+        EXPECT_EQ(connectCode(where, &client), 0);
         return client;
+    }
+    // kel_connectRemoteServer's error code; a connection made is released at the end.
+    int32_t connectCode(const std::wstring& where, TarnApi** client = nullptr) {
+        uint64_t registered = 0;
+        const int32_t failed = code(
+            [&](KelError** e) { kel_connectRemoteServer(api, where.c_str(), e, &registered); });
+        auto* made = reinterpret_cast<TarnApi*>(registered); // NOLINT(performance-no-int-to-ptr)
+        if (made != nullptr) {
+            remotes_.push_back(made);
+        }
+        if (client != nullptr) {
+            *client = made;
+        }
+        return failed;
     }
     // The port of the started server's kel://127.0.0.1:<port>.
     uint16_t port() const {
@@ -536,6 +544,17 @@ protected:
             return enough(heard);
         });
         return heard;
+    }
+    // The details of the events of `kind` on the channel, once one came.
+    std::vector<std::wstring> awaitDetails(uint64_t channel, int32_t kind) {
+        std::vector<std::wstring> details;
+        for (const auto& e :
+             eventsUntil(channel, [&](const auto& seen) { return hasKind(seen, kind); })) {
+            if (e.kind == kind) {
+                details.push_back(e.detail);
+            }
+        }
+        return details;
     }
     static bool hasKind(const std::vector<Event>& heard, int32_t kind) {
         return std::any_of(heard.begin(), heard.end(),
@@ -801,29 +820,9 @@ TEST_F(Servers, TheThrottleHoldsAgainstSimultaneousLoginsAndAFloodOfNames) {
     EXPECT_EQ(logIn(api, L"anna", password), LoginThrottled) << "anna was pushed out";
 }
 
-// Reports of an asynchronous call on a socket, to the caller's callback.
-struct Reports {
-    std::mutex mutex;
-    std::condition_variable changed;
-    int count = 0;
-    std::vector<int32_t> finals;
-    static void callback(ReadDtcResult** results, uint32_t count, bool isFinal, uint64_t,
-                         KelError* error, void* context) {
-        auto* self = static_cast<Reports*>(context);
-        release_ReadDtcResult_array(results, count);
-        const std::lock_guard lock(self->mutex);
-        ++self->count;
-        if (isFinal) {
-            self->finals.push_back(error != nullptr ? error->code : 0);
-        }
-        release_KelError(error);
-        self->changed.notify_all();
-    }
-    bool waitForFinals(std::size_t wanted) {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, std::chrono::seconds(20),
-                                [&] { return finals.size() >= wanted; });
-    }
+// The reports of one DTC read on a socket, each reduced to its target.
+struct Reports : kel_test::AsyncReports<ReadDtcResult, release_ReadDtcResult_array> {
+    Reports() : AsyncReports([](const ReadDtcResult& r) { return std::wstring(r.target); }) {}
 };
 
 // On sockets an operator is refused what the table refuses; and call ids are the
@@ -845,15 +844,13 @@ TEST_F(Servers, AnOperatorCancelsOnlyItsOwnAsynchronousCalls) {
     ASSERT_EQ(logIn(root, L"root", password), 0);
 
     kelsim_setAsyncInterval("readSupportedDtcsAsync", 60000);
-    Reports finals;
-    const auto start = [&](TarnApi* on) {
-        ErrorSlot error;
-        const uint64_t id =
-            kel_readSupportedDtcsAsync(on, nullptr, 0, nullptr, &error, Reports::callback, &finals);
-        EXPECT_FALSE(error);
-        return id;
-    };
-    uint64_t annas[] = {start(anna), start(anna)};
+    std::array<Reports, 2> finals;
+    uint64_t annas[2];
+    for (std::size_t i = 0; i < 2; ++i) {
+        ASSERT_SUCCEEDS(error,
+                        annas[i] = kel_readSupportedDtcsAsync(anna, nullptr, 0, nullptr, &error,
+                                                              Reports::callback, &finals[i]));
+    }
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(bert, annas, 2, e); }), 0)
         << "another's ids are ignored as unknown ones are";
     EXPECT_EQ(code([&](KelError** e) { kel_triggerAsyncCancels(bert, annas, 2, e); }), 0);
@@ -862,8 +859,10 @@ TEST_F(Servers, AnOperatorCancelsOnlyItsOwnAsynchronousCalls) {
 
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(anna, &annas[0], 1, e); }), 0);
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(root, &annas[1], 1, e); }), 0);
-    ASSERT_TRUE(finals.waitForFinals(2));
-    EXPECT_EQ(finals.finals, (std::vector<int32_t>{1012, 1012}));
+    for (auto& reports : finals) {
+        ASSERT_TRUE(reports.wait());
+        EXPECT_EQ(reports.errorCode, 1012);
+    }
 }
 
 // The server ends its sockets cleanly and a client fails its calls at once; one that
@@ -873,17 +872,13 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     ErrorSlot error;
     kel_registerServerHandler(reinterpret_cast<uint64_t>(api), &handler, &error);
     const uint64_t channel = openChannel();
-    uint64_t registered = 0;
-    EXPECT_EQ(code([&](KelError** e) {
-                  kel_connectRemoteServer(api, L"kel://127.0.0.1:1", e, &registered);
-              }),
-              ServerNotRunning);
+    EXPECT_EQ(connectCode(L"kel://127.0.0.1:1"), ServerNotRunning);
 
     ASSERT_EQ(startServer(), 0);
     EXPECT_EQ(address_.rfind(L"kel://127.0.0.1:", 0), 0U) << "on loopback, with the port given";
     EXPECT_EQ(startServer(L"other"), ServerRunning);
     TarnApi* client = connectTo(address_);
-    registered = reinterpret_cast<uint64_t>(client);
+    const auto registered = reinterpret_cast<uint64_t>(client);
     const uint64_t clientHandle = handleOf(client);
     EXPECT_NE(clientHandle, handleOf(api));
     EXPECT_EQ(getState(client), 0) << "the handle reaches the remote engine object";
@@ -951,9 +946,7 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
         ref::Wire::writeHeader(header, half.data());
         asio::write(raw.socket, asio::buffer(half));
     }
-    EXPECT_TRUE(
-        hasKind(eventsUntil(channel, [](const auto& heard) { return hasKind(heard, 9); }), 9))
-        << "ConnectionBroken";
+    EXPECT_FALSE(awaitDetails(channel, 9).empty()) << "ConnectionBroken";
 }
 
 TEST_F(Servers, TheIdentityProviderLogsAUserInOnceWithItsCode) {
@@ -1068,12 +1061,11 @@ TEST_F(Servers, ARemoteObjectOnASocketCallsReportsAndReadsEvents) {
     const uint64_t channel = openChannel(client);
     kelsim_setAsyncReports("readSupportedDtcsAsync", 3);
     Reports reports;
-    ErrorSlot error;
-    kel_readSupportedDtcsAsync(client, nullptr, 0, nullptr, &error, Reports::callback, &reports);
-    ASSERT_FALSE(error);
-    ASSERT_TRUE(reports.waitForFinals(1));
-    EXPECT_EQ(reports.count, 3);
-    EXPECT_EQ(reports.finals, std::vector<int32_t>{0});
+    reports.run([&](KelError** e, auto callback, void* context) {
+        return kel_readSupportedDtcsAsync(client, nullptr, 0, nullptr, e, callback, context);
+    });
+    EXPECT_EQ(reports.finals, (std::vector<bool>{false, false, true}));
+    EXPECT_EQ(reports.errorCode, 0);
     EXPECT_TRUE(hasKind(events(channel, client), 8))
         << "AsyncCompleted: the server's events reach the client's channel";
 
@@ -1111,15 +1103,7 @@ TEST_F(Servers, AServerThatDiesMidCallEndsTheCallAndIsPostedLocally) {
     TarnApi* client = connectTo(where);
     EXPECT_EQ(getState(client), ConnectionEnded);
     server.join();
-    EXPECT_EQ(getState(client), ConnectionEnded);
-    std::vector<std::wstring> broken;
-    for (const auto& e :
-         eventsUntil(channel, [](const auto& heard) { return hasKind(heard, 9); })) {
-        if (e.kind == 9) {
-            broken.push_back(e.detail);
-        }
-    }
-    EXPECT_EQ(broken, std::vector<std::wstring>{L"server " + where});
+    EXPECT_EQ(awaitDetails(channel, 9), std::vector<std::wstring>{L"server " + where});
 }
 
 // Reads frames out of bytes recorded on a socket.
@@ -1392,20 +1376,11 @@ TEST_F(Servers, ConnectionsAreBounded) {
     restart();
     TarnApi* first = connection();
     ASSERT_NE(connection(), nullptr);
-    uint64_t registered = 0;
-    EXPECT_EQ(
-        code([&](KelError** e) { kel_connectRemoteServer(api, address_.c_str(), e, &registered); }),
-        1322);
+    EXPECT_EQ(connectCode(address_), 1322);
     releaseTarnApi(first);
     std::erase(remotes_, first);
-    int32_t refusal = 1322;
-    eventually([&] {
-        refusal = code(
-            [&](KelError** e) { kel_connectRemoteServer(api, address_.c_str(), e, &registered); });
-        return refusal != 1322;
-    });
-    ASSERT_EQ(refusal, 0) << "the released connection's place is free again";
-    releaseTarnApi(reinterpret_cast<TarnApi*>(registered)); // NOLINT(performance-no-int-to-ptr)
+    EXPECT_TRUE(eventually([&] { return connectCode(address_) == 0; }))
+        << "the released connection's place is free again";
 }
 
 // Across processes
@@ -1582,10 +1557,9 @@ TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnecti
     ASSERT_EQ(call.wait_for(std::chrono::seconds(15)), std::future_status::ready);
     EXPECT_EQ(call.get(), ConnectionEnded);
 
-    const auto heard = eventsUntil(channel, [](const auto& seen) { return hasKind(seen, 9); });
-    EXPECT_TRUE(std::any_of(heard.begin(), heard.end(), [&](const Event& e) {
-        return e.kind == 9 && e.detail.find(server_->wideAddress()) != std::wstring::npos;
-    })) << "ConnectionBroken naming the server, on the engine object that connected";
+    EXPECT_EQ(awaitDetails(channel, 9),
+              std::vector<std::wstring>{L"server " + server_->wideAddress()})
+        << "ConnectionBroken naming the server, on the engine object that connected";
     EXPECT_EQ(reconnect(client, own), 0) << "no server listens";
 
     ASSERT_NO_FATAL_FAILURE(startServer({"--port", port}));
