@@ -9,6 +9,7 @@
 
 #include <nlohmann/json.hpp>
 
+#include <ErrorCodes.h>
 #include <Net.h>
 #include <algorithm>
 #include <array>
@@ -48,29 +49,7 @@ using kel_test::freshTempPath;
 using kel_test::handleOf;
 namespace ref = Varno::Kel_cpp::Reference;
 
-enum : int32_t {
-    NotInitialized = 1001,
-    NotLoggedIn = 1300,
-    ConnectionEnded = 1301,
-    UnknownRole = 1302,
-    UnknownUser = 1303,
-    BadServersArgument = 1304,
-    UserExists = 1305,
-    LoginFailed = 1306,
-    LoginThrottled = 1307,
-    NeedsAdministrator = 1308,
-    ServerNotRunning = 1309,
-    ServerRunning = 1310,
-    NotARemoteConnection = 1311,
-    UnknownIdentityProvider = 1312,
-    UnknownCertificate = 1313,
-    NotAPublicKey = 1314,
-    NeedsCryptography = 1315,
-    UsersUnreadable = 1316,
-    SovdServerRunning = 1317,
-    SovdServerNotRunning = 1318,
-    NotLoopback = 1319,
-};
+using enum ref::ErrorCode;
 enum : uint32_t { Operator = 1, Administrator = 2 };
 
 const wchar_t* const password = L"S3cret-P\u00e4ssw\u00f6rt-\u20ac";
@@ -835,7 +814,7 @@ TEST_F(Servers, AnOperatorCancelsOnlyItsOwnAsynchronousCalls) {
     EXPECT_EQ(code([&](KelError** e) { kel_cancelAsyncCalls(root, &annas[1], 1, e); }), 0);
     for (auto& reports : finals) {
         ASSERT_TRUE(reports.wait());
-        EXPECT_EQ(reports.errorCode, 1012);
+        EXPECT_EQ(reports.errorCode, CallCancelled);
     }
 }
 
@@ -862,9 +841,10 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     // connectRemoteServer hands out an address; reconnectRemoteServer takes the engine
     // handle that kel_getHandle reads from it, as getRemoteConnectionByHandle and kel_call
     // take engine handles. Each refuses the address.
-    EXPECT_EQ(code([&](KelError** e) { kel_getRemoteConnectionByHandle(registered, e); }), 1005);
-    EXPECT_EQ(reconnect(client, registered), -1005);
-    EXPECT_EQ(streamedError(registered, 49), 1005);
+    EXPECT_EQ(code([&](KelError** e) { kel_getRemoteConnectionByHandle(registered, e); }),
+              UnknownHandle);
+    EXPECT_EQ(reconnect(client, registered), -UnknownHandle);
+    EXPECT_EQ(streamedError(registered, 49), UnknownHandle);
     EXPECT_EQ(serverSettings(client), (std::pair<uint8_t, uint32_t>{1, 1}))
         << "running, one client";
 
@@ -878,7 +858,7 @@ TEST_F(Servers, ConnectionsTheServerEndsAreSeenByHandlersAndCanBeRenewed) {
     EXPECT_EQ(address_, before) << "a server started again takes its port again";
     EXPECT_EQ(reconnect(client, clientHandle), 1);
     EXPECT_EQ(getState(client), 0);
-    EXPECT_EQ(reconnect(api, 12345), -1005);
+    EXPECT_EQ(reconnect(api, 12345), -UnknownHandle);
 
     EXPECT_EQ(code([&](KelError** e) { kel_disconnectAllClients(api, e); }), 0);
     EXPECT_EQ(getState(client), ConnectionEnded);
@@ -1029,7 +1009,7 @@ TEST_F(Servers, ARemoteObjectOnASocketCallsReportsAndReadsEvents) {
     EXPECT_EQ(code([&](KelError** e) {
                   kel_registerServerHandler(reinterpret_cast<uint64_t>(client), &handler, e);
               }),
-              1320)
+              NotRemotable)
         << "a handler of this process cannot be registered on the server";
 
     const uint64_t channel = openChannel(client);
@@ -1341,7 +1321,7 @@ TEST_F(ServersConcurrency, FiftyClientsOfTwoHundredCallsEach) {
         << "every released client's connection ended on the server";
 }
 
-// The server takes at most maxConnections sockets; the one over is refused with 1322
+// The server takes at most maxConnections sockets; the one over is refused with ServerBusy
 // and a place freed is taken again.
 TEST_F(Servers, ConnectionsAreBounded) {
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "ECM"}],
@@ -1350,7 +1330,7 @@ TEST_F(Servers, ConnectionsAreBounded) {
     restart();
     TarnApi* first = connection();
     ASSERT_NE(connection(), nullptr);
-    EXPECT_EQ(connectCode(address_), 1322);
+    EXPECT_EQ(connectCode(address_), ServerBusy);
     releaseTarnApi(first);
     std::erase(remotes_, first);
     EXPECT_TRUE(eventually([&] { return connectCode(address_) == 0; }))
