@@ -316,17 +316,15 @@ protected:
         kelsim_setDataRoot(root_.wstring().c_str());
         kelsim_restart();
         api = kel_getTarnApi();
-        ErrorSlot error;
-        kel_initialize(api, &error);
-        ASSERT_FALSE(error);
+        ASSERT_SUCCEEDS(error, kel_initialize(api, &error));
     }
 
     TarnApi* remote() {
-        ErrorSlot error;
-        TarnApi* connection = kel_getRemoteConnectionByHandle(handleOf(api), &error);
-        EXPECT_NE(connection, nullptr);
-        remotes_.push_back(connection);
-        return connection;
+        EXPECT_EQ(code([&](KelError** e) {
+                      remotes_.push_back(kel_getRemoteConnectionByHandle(handleOf(api), e));
+                  }),
+                  0);
+        return remotes_.back();
     }
 
     // kel_startServer's error code; the address it gave goes to address_.
@@ -382,16 +380,12 @@ protected:
     }
     // getServerSettings: whether the server runs, and its connected clients.
     static std::pair<uint8_t, uint32_t> serverSettings(TarnApi* on) {
-        ErrorSlot error;
-        ServerSettings* settings = nullptr;
-        kel_getServerSettings(on, &error, &settings);
-        if (settings == nullptr) {
-            ADD_FAILURE() << "no server settings";
-            return {};
-        }
-        const std::pair<uint8_t, uint32_t> result{settings->flag, settings->value1};
-        release_ServerSettings(settings);
-        return result;
+        const auto settings =
+            kel_test::fetchRecord(release_ServerSettings, [&](KelError** e, auto** out) {
+                kel_getServerSettings(on, e, out);
+            });
+        return settings ? std::pair<uint8_t, uint32_t>{settings->flag, settings->value1}
+                        : std::pair<uint8_t, uint32_t>{};
     }
 
     static constexpr auto code = [](auto call) { return kel_test::errorCodeOf(call); };
@@ -470,46 +464,39 @@ protected:
     }
 
     using Users = std::vector<std::tuple<std::wstring, uint32_t, std::wstring>>;
-    // The users (name, role, role's text), or empty with the error's code in `failed`.
-    static Users users(TarnApi* on, int32_t* failed = nullptr) {
-        ErrorSlot error;
-        kel_test::List<UserInfo, release_UserInfo_array> list;
-        kel_getUsers(on, &error, &list.items, &list.count);
-        if (failed != nullptr) {
-            *failed = error ? error->code : 0;
-        } else {
-            EXPECT_FALSE(error) << (error ? error->code : 0);
-        }
+    // The users: name, role, role's text.
+    static Users users(TarnApi* on) {
+        const auto list = kel_test::fetch<kel_test::List<UserInfo, release_UserInfo_array>>(
+            [&](KelError** e, auto* items, auto* count) { kel_getUsers(on, e, items, count); });
         Users result;
-        for (uint32_t i = 0; i < list.count; ++i) {
-            result.emplace_back(list.items[i]->name, list.items[i]->value, list.items[i]->text);
+        for (uint32_t i = 0; i < list->count; ++i) {
+            result.emplace_back(list->items[i]->name, list->items[i]->value, list->items[i]->text);
         }
         return result;
     }
     static int32_t usersCode(TarnApi* on) {
-        int32_t failed = 0;
-        users(on, &failed);
-        return failed;
+        kel_test::List<UserInfo, release_UserInfo_array> list;
+        return code([&](KelError** e) { kel_getUsers(on, e, &list.items, &list.count); });
     }
 
     uint64_t openChannel(TarnApi* on = nullptr) {
-        ErrorSlot error;
         uint64_t channel = 0;
-        kel_openEventChannel(on != nullptr ? on : api, &error, &channel);
-        EXPECT_FALSE(error);
+        EXPECT_EQ(code([&](KelError** e) {
+                      kel_openEventChannel(on != nullptr ? on : api, e, &channel);
+                  }),
+                  0);
         return channel;
     }
     std::vector<Event> events(uint64_t channel, TarnApi* on = nullptr) {
-        ErrorSlot error;
-        EventReport* report = nullptr;
-        kel_getCurrentEvents(on != nullptr ? on : api, channel, 0, &error, &report);
-        EXPECT_FALSE(error);
+        const auto report =
+            kel_test::fetchRecord(release_EventReport, [&](KelError** e, auto** out) {
+                kel_getCurrentEvents(on != nullptr ? on : api, channel, 0, e, out);
+            });
         std::vector<Event> result;
-        for (uint32_t i = 0; report != nullptr && i < report->eventCount; ++i) {
-            const KelEvent* e = report->events[i];
-            result.push_back({e->kind, e->text, e->detail});
+        for (uint32_t i = 0; report && i < report->eventCount; ++i) {
+            result.push_back(
+                {report->events[i]->kind, report->events[i]->text, report->events[i]->detail});
         }
-        release_EventReport(report);
         return result;
     }
 
