@@ -1407,33 +1407,7 @@ private:
 
 // The ThreadSanitizer preset runs only the concurrency cases: a call in flight while the
 // other process dies is one.
-class CrossProcessConcurrency : public Servers {
-protected:
-    void SetUp() override {
-        Servers::SetUp();
-        serverRoot_ = freshTempPath("kel_server_process");
-    }
-    void TearDown() override {
-        server_.reset();
-        Servers::TearDown();
-        std::filesystem::remove_all(serverRoot_);
-    }
-
-    // Starts (or starts again) the server process on a data root of its own.
-    void startServer(std::vector<std::string> arguments) {
-        const auto root = serverRoot_.u8string();
-        arguments.insert(arguments.begin(), {"--data-root", std::string(root.begin(), root.end())});
-        server_.reset(); // a server still there is killed first
-        server_ = std::make_unique<ServerProcess>(arguments);
-        ASSERT_EQ(server_->address().rfind("kel://127.0.0.1:", 0), 0U)
-            << "the line it printed: " << server_->address();
-    }
-
-    TarnApi* connect() { return connectTo(server_->wideAddress()); }
-
-    std::filesystem::path serverRoot_;
-    std::unique_ptr<ServerProcess> server_;
-};
+using CrossProcessConcurrency = Servers;
 
 // The server process runs the bundled default vehicle (this one the one-unit vehicle of
 // these tests), which is what a remote read must see. It dies with a call in flight: the
@@ -1441,25 +1415,34 @@ protected:
 // the connection is renewed once a server listens on the same port again; a server whose
 // stdin closes stops cleanly.
 TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnectionIsRenewed) {
-    ASSERT_NO_FATAL_FAILURE(startServer({"--delay", "readDtcs=20000"}));
-    const auto port = server_->port();
-    TarnApi* client = connect();
+    std::unique_ptr<ServerProcess> server;
+    // Starts (or starts again) the server process, on a data root inside this test's.
+    const auto start = [&](std::vector<std::string> arguments) {
+        server.reset(); // a server still there is killed first
+        const auto root = (root_ / "server").u8string();
+        arguments.insert(arguments.begin(), {"--data-root", std::string(root.begin(), root.end())});
+        server = std::make_unique<ServerProcess>(arguments);
+        return server->address().rfind("kel://127.0.0.1:", 0) == 0;
+    };
+    ASSERT_TRUE(start({"--delay", "readDtcs=20000"})) << "it printed: " << server->address();
+    const auto port = server->port();
+    TarnApi* client = connectTo(server->wideAddress());
     const uint64_t own = handleOf(client);
     const uint64_t channel = openChannel();
 
     auto call = std::async(std::launch::async, [&] { return readDtcs(client).first; });
     EXPECT_EQ(call.wait_for(std::chrono::milliseconds(300)), std::future_status::timeout)
         << "the delay holds the call in flight";
-    server_->kill();
+    server->kill();
     ASSERT_EQ(call.wait_for(std::chrono::seconds(15)), std::future_status::ready);
     EXPECT_EQ(call.get(), ConnectionEnded);
 
     EXPECT_EQ(awaitDetails(channel, 9),
-              std::vector<std::wstring>{L"server " + server_->wideAddress()})
+              std::vector<std::wstring>{L"server " + server->wideAddress()})
         << "ConnectionBroken naming the server, on the engine object that connected";
     EXPECT_EQ(reconnect(client, own), 0) << "no server listens";
 
-    ASSERT_NO_FATAL_FAILURE(startServer({"--port", port}));
+    ASSERT_TRUE(start({"--port", port})) << "it printed: " << server->address();
     EXPECT_EQ(reconnect(client, own), 1);
     const auto [failed, dtcs] = readDtcs(client);
     ASSERT_EQ(failed, 0);
@@ -1468,7 +1451,7 @@ TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnecti
     EXPECT_EQ(dtcs.at(L"GW"), std::vector<std::wstring>{L"U0121"});
     EXPECT_TRUE(dtcs.at(L"ACC").empty()) << "silent: its error stays in its result";
     EXPECT_EQ(readDtcs(api).second.size(), 1U) << "the local vehicle is not the server's";
-    EXPECT_EQ(server_->stop(), 0) << "stdin closed: a clean stop";
+    EXPECT_EQ(server->stop(), 0) << "stdin closed: a clean stop";
     EXPECT_EQ(readDtcs(client).first, ConnectionEnded);
 }
 
