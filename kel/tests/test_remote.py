@@ -64,10 +64,8 @@ class RemoteTest(unittest.TestCase):
         sim.kelsim_reset()
         sim.kelsim_restart()
         self.root = tempfile.mkdtemp(prefix="kel_remote_test")
+        self.addCleanup(sim.kelsim_reset)
         self.addCleanup(shutil.rmtree, self.root, ignore_errors=True)  # after the servers' kill
-
-    def tearDown(self) -> None:
-        sim.kelsim_reset()
 
     def start(self, *arguments: str) -> Server:
         server = Server(self.root, *arguments)

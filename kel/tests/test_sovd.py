@@ -7,7 +7,6 @@ from __future__ import annotations
 import ctypes
 import http.client
 import json
-import pathlib
 import shutil
 import socket
 import tempfile
@@ -21,8 +20,6 @@ from .support import ROOT, sim
 
 sim.kelsim_setDataRoot.argtypes = [ctypes.c_wchar_p]
 sim.kelsim_setDataRoot.restype = None
-sim.kelsim_setVehicleJson.argtypes = [ctypes.c_char_p]
-sim.kelsim_setVehicleJson.restype = ctypes.c_int32
 sim.kelsim_advanceClock.argtypes = [ctypes.c_uint64]
 sim.kelsim_advanceClock.restype = None
 
@@ -120,14 +117,13 @@ class Resources(SovdTest):
         self.assertEqual(vin["value"], "WVWZZZ1KZ8W000417")
         self.assertEqual(self.get("/ECM/data/F190"), vin)
 
-    def test_a_faults_read_goes_over_the_bus_the_monitors_hear(self) -> None:
+    def test_faults_are_read_and_cleared_over_the_bus_the_monitors_hear(self) -> None:
         monitor = self.engine.create_pdu_monitor()
         self.get("/TCM/faults")
         heard = [(p.unit, p.direction_text, p.hex) for p in self.engine.get_pdu_monitoring_items(monitor, 0, 0) if p]
         self.assertIn(("TCM", "request", "19 02 FF"), heard)
         self.assertIn("response", [direction for unit, direction, _ in heard if unit == "TCM"])
-
-    def test_clearing_empties_the_fault_memory(self) -> None:
+        # Clearing empties the fault memory.
         self.assertEqual(self.call("DELETE", "/sovd/v1/components/ECM/faults")[0], 204)
         after = self.engine.read_dtcs(["ECM"])[0]
         self.assertEqual(after and after.dtcs, [])
@@ -193,7 +189,7 @@ class Tokens(SovdTest):
         self.assertNotIn(token, recorded)
         self.assertNotIn(PASSWORD, recorded)
 
-    def test_missing_wrong_unknown_and_expired_tokens(self) -> None:
+    def test_missing_wrong_unknown_expired_and_removed_tokens_and_the_throttle(self) -> None:
         for token in (None, "f" * 64):
             _, response, document = self.call("GET", "/sovd/v1/components", token=token)
             self.assertEqual(response.status, 401, document)
@@ -210,7 +206,7 @@ class Tokens(SovdTest):
         self.assertIn("expired", document["detail"])
         self.assertIn('error="invalid_token"', response.getheader("WWW-Authenticate") or "")
 
-    def test_a_removed_user_s_token_ends_and_failed_logins_are_throttled(self) -> None:
+        # A removed user's token ends; failed logins are throttled.
         token = self.authorize("olga")
         self.engine.remove_user("olga")
         self.problem("GET", "/sovd/v1/components", 401, token=token)
