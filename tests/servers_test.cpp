@@ -276,7 +276,6 @@ void sendFrame(tcp::socket& socket, ref::Wire::Kind kind, uint16_t operation,
     asio::write(socket,
                 asio::buffer(ref::Wire::frames(header, payload.data(), payload.size(), {})));
 }
-// The payload of the next frame.
 std::vector<uint8_t> readFrame(tcp::socket& socket) {
     std::array<uint8_t, 16> head{};
     asio::read(socket, asio::buffer(head));
@@ -367,7 +366,6 @@ protected:
         }
         return failed;
     }
-    // The port of the started server's kel://127.0.0.1:<port>.
     uint16_t port() const {
         return static_cast<uint16_t>(std::stoul(address_.substr(address_.rfind(L':') + 1)));
     }
@@ -390,7 +388,6 @@ protected:
 
     static constexpr auto code = [](auto call) { return kel_test::errorCodeOf(call); };
 
-    // What kel_call_checked of `number` streams back.
     static std::vector<uint8_t> streamed(uint64_t on, int32_t number,
                                          const std::string& input = {}) {
         void* stream = nullptr;
@@ -458,7 +455,6 @@ protected:
     }
 
     using Users = std::vector<std::tuple<std::wstring, uint32_t, std::wstring>>;
-    // The users: name, role, role's text.
     static Users users(TarnApi* on) {
         const auto list = kel_test::fetch<kel_test::List<UserInfo, release_UserInfo_array>>(
             [&](KelError** e, auto* items, auto* count) { kel_getUsers(on, e, items, count); });
@@ -1275,8 +1271,6 @@ TEST_F(ServersConcurrency, FiftyClientsOfTwoHundredCallsEach) {
         << "every released client's connection ended on the server";
 }
 
-// Across processes
-
 // kel-sim-server started as a process of its own (path from the build, or KEL_SIM_SERVER),
 // fed through a pipe on stdin so that it ends with the test even when the test does not
 // get to stop it. The address is the first line it prints, into a file read here.
@@ -1308,7 +1302,6 @@ public:
 
     const std::string& address() const { return address_; }
     std::wstring wideAddress() const { return {address_.begin(), address_.end()}; } // ASCII
-    // The port of kel://127.0.0.1:<port>.
     std::string port() const { return address_.substr(address_.rfind(':') + 1); }
 
 #if defined(_WIN32)
@@ -1449,12 +1442,6 @@ TEST_F(CrossProcessConcurrency, ACallInFlightEndsWhenTheServerDiesAndTheConnecti
     EXPECT_EQ(server->stop(), 0) << "stdin closed: a clean stop";
     EXPECT_EQ(readDtcs(client).first, ConnectionEnded);
 }
-
-} // namespace
-
-// SOVD
-
-namespace {
 
 auto serverConfiguration(TarnApi* api) {
     return kel_test::fetchRecord(release_TarnApiServerConfig, [&](KelError** e, auto** out) {
