@@ -39,8 +39,7 @@ TEST_F(Frame, SecondFailureOverwritesWithoutFreeingTheFirst) {
 TEST_F(Frame, UnsupportedOperationNamesItself) {
     ErrorSlot error;
     kel_selectDynamicProject(api, L"Dynamic", nullptr, 0, &error);
-    ASSERT_TRUE(error);
-    EXPECT_EQ(error->code, 1000);
+    ASSERT_EQ(kel_test::codeIn(error.error), 1000);
     EXPECT_STREQ(
         error->message,
         L"selectDynamicProject: the simulated vehicle does not support this operation yet");
