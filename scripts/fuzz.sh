@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# Builds the libFuzzer target for the bounds-checked dispatchers (preset 'fuzz', clang) and
-# runs it for a bounded time, seeded from the golden vectors and from well-formed arguments
-# of every numbered operation (fuzz/seeds.py), record trees nested deep among them.
+# Builds the libFuzzer targets (preset 'fuzz', clang) and runs them side by side for a bounded
+# time: the bounds-checked dispatchers, seeded from the golden vectors and from well-formed
+# arguments of every numbered operation (fuzz/seeds.py), record trees nested deep among them;
+# and the server protocol's frame parser.
 #
 #   scripts/fuzz.sh [seconds]    # default 60
 set -euo pipefail
@@ -31,15 +32,8 @@ for path in sys.argv[2:]:
 PY
 python3 fuzz/seeds.py "$corpus"
 
-echo "== fuzzing the checked dispatchers for ${seconds} s"
-# Inputs up to 256 KiB: deeply nested records need room (a level takes 6 to 100 bytes).
-# The stack is 1 MiB, as a Windows main thread has: what overflows there fails here too.
-ulimit -s 1024
-build/fuzz/bin/dispatch_fuzz -max_total_time="$seconds" -max_len=262144 -rss_limit_mb=2048 -timeout=10 \
-    -print_final_stats=1 "$corpus" 2>&1 | tail -n 25
-
 # The server protocol's frame parser: seeded with a handshake, a call and a result split
-# into continuation parts. Same stack as above.
+# into continuation parts.
 frames=build/fuzz/frames-corpus
 mkdir -p "$frames"
 python3 - "$frames" <<'PY'
@@ -53,6 +47,23 @@ hello = struct.pack("<IH", 0x574C454B, 1)
 error = bytes([0, 1]) + struct.pack("<i", 1301) + struct.pack("<I", 3) + b"end" + struct.pack("<I", 0)
 (corpus / "parts").write_bytes(bytes([0]) + frame(4, error[:5], flags=1, call=2) + frame(4, error[5:], call=2))
 PY
-echo "== fuzzing the server protocol's frames for ${seconds} s"
+
+# The two fuzzers run side by side, one a core, each for the whole time.
+# Dispatchers: inputs up to 256 KiB, as deeply nested records need room (a level takes 6 to
+# 100 bytes). The stack is 1 MiB, as a Windows main thread has: what overflows there fails
+# here too.
+echo "== fuzzing the checked dispatchers and the server protocol's frames for ${seconds} s"
+ulimit -s 1024
+build/fuzz/bin/dispatch_fuzz -max_total_time="$seconds" -max_len=262144 -rss_limit_mb=2048 -timeout=10 \
+    -print_final_stats=1 "$corpus" >build/fuzz/dispatch_fuzz.log 2>&1 &
+dispatch_pid=$!
+frame_status=0
 build/fuzz/bin/frame_fuzz -max_total_time="$seconds" -max_len=65536 -rss_limit_mb=2048 -timeout=10 \
-    -print_final_stats=1 "$frames" 2>&1 | tail -n 12
+    -print_final_stats=1 "$frames" >build/fuzz/frame_fuzz.log 2>&1 || frame_status=$?
+dispatch_status=0
+wait "$dispatch_pid" || dispatch_status=$?
+echo "== the checked dispatchers (exit $dispatch_status)"
+tail -n 25 build/fuzz/dispatch_fuzz.log
+echo "== the server protocol's frames (exit $frame_status)"
+tail -n 12 build/fuzz/frame_fuzz.log
+[[ $dispatch_status -eq 0 && $frame_status -eq 0 ]]
