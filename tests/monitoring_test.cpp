@@ -298,7 +298,6 @@ TEST_F(Monitoring, LinksAreListedByNameUntilReleased) {
 TEST_F(Monitoring, ReleasedUnknownAndForeignHandlesAreEngineErrors) {
     const uint64_t monitor = pduMonitor();
     const uint64_t bench = link(L"bench");
-    ErrorSlot error;
     uint64_t trace = 0;
     ASSERT_SUCCEEDS(ok, kel_createApiTraceMonitor(api, &ok, &trace));
     EXPECT_NE(monitor, bench);
@@ -475,16 +474,13 @@ TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     raw(L"ECM", {0x22, 0xF1, 0x90});
     raw(L"ECM", {0x22, 0xFF, 0xFF});
     readAllDtcs(L"ACC"); // the silent unit: a request, no answer
-    ErrorSlot handleError;
-    uint64_t engine = 0;
-    kel_getHandle(api, &handleError, &engine);
+    const uint64_t engine = kel_test::handleOf(api);
     ASSERT_EQ(kelsim_savePduMonitor(engine, monitor, L"run.trc"), 0);
     EXPECT_EQ(kelsim_savePduMonitor(engine, monitor + 1000, L"x.trc"), UnknownMonitor);
     EXPECT_EQ(kelsim_savePduMonitor(engine, monitor, L"../escape.trc"), 1606);
 
-    const auto recordedItems = linkItems(live);
-    const LinkItems& recorded = *recordedItems;
-    ASSERT_EQ(recorded.count, 3u);
+    const auto recorded = linkItems(live);
+    ASSERT_EQ(recorded->count, 3u);
 
     const uint64_t replay = link(L"replay");
     ErrorSlot open;
@@ -496,13 +492,12 @@ TEST_F(Monitoring, ASavedTraceReplaysItsItemsThroughALink) {
     EXPECT_EQ(errorOf(kel_startTraceFileMonitoringLink, replay), 0);
     kelsim_advanceClock(60000);
 
-    const auto replayedItems = linkItems(replay);
-    const LinkItems& replayed = *replayedItems;
-    ASSERT_EQ(replayed.count, recorded.count);
-    for (uint32_t i = 0; i < replayed.count; ++i) {
-        const MonitoringItem& r = *replayed.items[i];
-        EXPECT_EQ(describe(r), describe(*recorded.items[i]));
-        EXPECT_EQ(r.value1, recorded.items[i]->value1) << "the recorded time";
+    const auto replayed = linkItems(replay);
+    ASSERT_EQ(replayed->count, recorded->count);
+    for (uint32_t i = 0; i < replayed->count; ++i) {
+        const MonitoringItem& r = *replayed->items[i];
+        EXPECT_EQ(describe(r), describe(*recorded->items[i]));
+        EXPECT_EQ(r.value1, recorded->items[i]->value1) << "the recorded time";
         EXPECT_EQ(r.flag3, 1) << "replayed";
         EXPECT_EQ(std::wstring(r.text2), L"traces/run.trc");
     }

@@ -216,11 +216,7 @@ TEST_F(VehicleReportsTest, TheSelectedVehicleRoundTripsAndStartsAsDescribed) {
     EXPECT_EQ(selected(), other);
 
     // Refusals keep the selection.
-    struct Case {
-        Information information;
-        int32_t code;
-    };
-    const std::vector<Case> refused = {
+    const std::vector<std::pair<Information, int32_t>> refused = {
         {{L"1HGCM82633A00435", L"M"}, 2400},
         {{L"1HGCM82633A0043521", L"M"}, 2400},
         {{L"1HGCM82633A00435I", L"M"}, 2400},
@@ -233,8 +229,8 @@ TEST_F(VehicleReportsTest, TheSelectedVehicleRoundTripsAndStartsAsDescribed) {
         {{L"1HGCM82633A004352", L"M", 1500}, 2401},
         {{L"1HGCM82633A004352", L"M", 0, 0, L"", {L""}}, 2401},
     };
-    for (const auto& c : refused) {
-        EXPECT_EQ(select(cInformation(c.information)), c.code) << utf8(c.information.vin.c_str());
+    for (const auto& [information, code] : refused) {
+        EXPECT_EQ(select(cInformation(information)), code) << utf8(information.vin.c_str());
     }
     EXPECT_EQ(select(nullptr), 2401);
     EXPECT_EQ(selected(), other);
@@ -372,21 +368,17 @@ TEST_F(VehicleReportsTest, ReportNamesAreCheckedAndNeverOverwrite) {
     const Json all = twin(L"reports/job 17.html");
     EXPECT_EQ(all["units"].size(), 6U) << "no targets: every unit";
 
-    struct Case {
-        std::wstring name;
-        int32_t code;
-    };
-    const std::vector<Case> refused = {{L"job 17", 2402},
-                                       {L"../job", 1600},
-                                       {L"sub/job", 1600},
-                                       {L"a\\b", 1600},
-                                       {L"..", 1606},
-                                       {L"tab\there", 1602},
-                                       {std::wstring(252, L'x'), 1601}};
-    for (const auto& c : refused) {
+    const std::vector<std::pair<std::wstring, int32_t>> refused = {{L"job 17", 2402},
+                                                                   {L"../job", 1600},
+                                                                   {L"sub/job", 1600},
+                                                                   {L"a\\b", 1600},
+                                                                   {L"..", 1606},
+                                                                   {L"tab\there", 1602},
+                                                                   {std::wstring(252, L'x'), 1601}};
+    for (const auto& [name, expected] : refused) {
         int32_t code = 0;
-        EXPECT_EQ(report(reportConfig(c.name, L"", L"", {}, false, false), &code), L"");
-        EXPECT_EQ(code, c.code) << utf8(c.name.c_str());
+        EXPECT_EQ(report(reportConfig(name, L"", L"", {}, false, false), &code), L"");
+        EXPECT_EQ(code, expected) << utf8(name.c_str());
     }
     int32_t code = 0;
     report(reportConfig(L"unknown unit", L"", L"", {L"ECM", L"Ghost"}, true, true), &code);
