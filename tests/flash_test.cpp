@@ -30,6 +30,24 @@ using Results = List<FlashSessionResult, release_FlashSessionResult_array>;
 using Infos = List<FlashSessionInfo, release_FlashSessionInfo_array>;
 using QuickTests = List<QuickTestResult, release_QuickTestResult_array>;
 
+using Texts = std::vector<std::string>;
+
+std::string narrow(const wchar_t* text) {
+    const std::wstring wide = text != nullptr ? text : L"";
+    return {wide.begin(), wide.end()};
+}
+
+// Each session's result as "<status> <error code> <version before>-><version after>".
+Texts outcomes(const Results& list) {
+    Texts out;
+    for (uint32_t i = 0; i < list.count; ++i) {
+        const FlashSessionResult& r = *list.items[i];
+        out.push_back(std::to_string(r.status) + " " + std::to_string(codeIn(r.error)) + " " +
+                      narrow(r.versionBefore) + "->" + narrow(r.versionAfter));
+    }
+    return out;
+}
+
 class FlashTest : public EngineTest {
 protected:
     Bytes send(const wchar_t* target, const Bytes& request) {
@@ -101,12 +119,9 @@ TEST_F(FlashTest, SessionsAreListedFromTheDescription) {
 TEST_F(FlashTest, WithoutProgrammingSessionOrSecurityTheUnitRefusesAndKeepsItsSoftware) {
     // Default session: the erase routine is not available there.
     auto refused = flash({L"ECM_SW_5430"});
-    const FlashSessionResult& r = *refused->items[0];
-    EXPECT_EQ(r.status, 2);
-    ASSERT_EQ(codeIn(r.error), 1700);
-    ASSERT_NE(r.error->negativeResponse, nullptr);
-    EXPECT_EQ(r.error->negativeResponse->code, 0x7F); // serviceNotSupportedInActiveSession
-    EXPECT_STREQ(r.versionBefore, L"5428");
+    ASSERT_EQ(outcomes(*refused), Texts{"2 1700 5428->"});
+    ASSERT_NE(refused->items[0]->error->negativeResponse, nullptr);
+    EXPECT_EQ(refused->items[0]->error->negativeResponse->code, 0x7F); // not in this session
 
     // Programming session, but level 2 still locked.
     ASSERT_EQ(send(L"ECM", {0x10, 0x02}).at(0), 0x50);
@@ -125,10 +140,8 @@ TEST_F(FlashTest, AFlashChangesTheVersionIdentificationReadsAndTakesVehicleTime)
     const int64_t before = kelsim_clockMs();
     auto out = flash({L"ECM_SW_5430"});
     const int64_t after = kelsim_clockMs();
+    EXPECT_EQ(outcomes(*out), Texts{"0 0 5428->5430"});
     const FlashSessionResult& r = *out->items[0];
-    EXPECT_EQ(r.status, 0);
-    EXPECT_STREQ(r.versionBefore, L"5428");
-    EXPECT_STREQ(r.versionAfter, L"5430");
     EXPECT_EQ(r.size, 65536U);
     EXPECT_EQ(r.transferred, 65536U);
     EXPECT_EQ(r.progress, 100U);
@@ -146,11 +159,8 @@ TEST_F(FlashTest, AFlashChangesTheVersionIdentificationReadsAndTakesVehicleTime)
 
 TEST_F(FlashTest, SessionsRunInOrderAndAFailureStopsTheRestUnlessConfiguredOtherwise) {
     enterProgramming();
-    auto stopped = flash({L"NoSuchSession", L"ECM_SW_5430"});
-    EXPECT_EQ(stopped->items[0]->status, 2);
-    EXPECT_EQ(stopped->items[0]->error->code, 1701);
-    EXPECT_EQ(stopped->items[1]->status, 3);
-    EXPECT_EQ(stopped->items[1]->error->code, 1702);
+    EXPECT_EQ(outcomes(*flash({L"NoSuchSession", L"ECM_SW_5430"})),
+              (Texts{"2 1701 ->", "3 1702 ->"}));
     EXPECT_EQ(identifiedVersion(), L"5428") << "nothing was flashed";
 
     enterProgramming();
@@ -167,15 +177,8 @@ TEST_F(FlashTest, SessionsRunInOrderAndAFailureStopsTheRestUnlessConfiguredOther
     ErrorSlot error;
     Results out;
     ASSERT_SUCCEEDS(ok, kel_executeFlashSessionsConfig(api, config, &ok, &out.items, &out.count));
-    ASSERT_EQ(out.count, 3U);
-    EXPECT_EQ(out.items[0]->error->code, 1701);
-    EXPECT_EQ(out.items[1]->status, 0);
-    EXPECT_STREQ(out.items[1]->versionBefore, L"5428");
-    EXPECT_STREQ(out.items[1]->versionAfter, L"5430");
     // The second session runs in the same programming session, on the first one's result.
-    EXPECT_EQ(out.items[2]->status, 0);
-    EXPECT_STREQ(out.items[2]->versionBefore, L"5430");
-    EXPECT_STREQ(out.items[2]->versionAfter, L"5431");
+    EXPECT_EQ(outcomes(out), (Texts{"2 1701 ->", "0 0 5428->5430", "0 0 5430->5431"}));
     EXPECT_EQ(identifiedVersion(), L"5431");
 }
 
@@ -265,9 +268,7 @@ TEST_F(FlashTest, ACancelledFlashLeavesAnIncompleteUpdateThatANewFlashRepairs) {
 
     // The unit was left in its programming session; a new flash from the start repairs it.
     enterProgramming();
-    auto out = flash({L"ECM_SW_5430"});
-    EXPECT_EQ(out->items[0]->status, 0);
-    EXPECT_STREQ(out->items[0]->versionBefore, L"");
+    EXPECT_EQ(outcomes(*flash({L"ECM_SW_5430"})), Texts{"0 0 ->5430"});
     EXPECT_EQ(identifiedVersion(), L"5430");
     EXPECT_FALSE(programmingDtcStored());
 }
@@ -300,20 +301,11 @@ TEST_F(FlashTest, AnImageTheUnitRejectsLeavesItIncompleteAndASilentUnitIsReporte
     };
     unlock();
     auto bad = flash({L"Bad"}, L"PCM");
-    EXPECT_EQ(bad->items[0]->status, 2);
-    EXPECT_EQ(bad->items[0]->error->code, 1703);
+    EXPECT_EQ(outcomes(*bad), Texts{"2 1703 A1->"}) << "the update is incomplete";
     EXPECT_EQ(bad->items[0]->transferred, 4000U) << "the whole image went over";
-    EXPECT_STREQ(bad->items[0]->versionBefore, L"A1");
-    EXPECT_STREQ(bad->items[0]->versionAfter, L"") << "the update is incomplete";
-
     unlock();
-    auto good = flash({L"Good"}, L"PCM");
-    EXPECT_EQ(good->items[0]->status, 0);
-    EXPECT_STREQ(good->items[0]->versionAfter, L"B3");
-
-    auto mute = flash({L"Mute"}, L"MUTE");
-    EXPECT_EQ(mute->items[0]->status, 2);
-    ASSERT_EQ(codeIn(mute->items[0]->error), 1010);
+    EXPECT_EQ(outcomes(*flash({L"Good"}, L"PCM")), Texts{"0 0 ->B3"});
+    EXPECT_EQ(outcomes(*flash({L"Mute"}, L"MUTE")), Texts{"2 1010 ->"});
 }
 
 TEST_F(FlashTest, ADescriptionWhoseSessionsCannotBeFlashedIsRefused) {

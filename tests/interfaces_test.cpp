@@ -55,33 +55,26 @@ int32_t readDtcsError(TarnApi* api) {
     return error ? error->code : 0;
 }
 
-struct Scan {
-    std::wstring name; // empty: no interface record
-    bool connected = false;
-    int32_t errorCode = 0;
-    std::vector<std::wstring> resources;
-};
+using Texts = std::vector<std::wstring>;
 
-std::vector<Scan> scan(TarnApi* api, std::vector<const wchar_t*> names) {
-    ErrorSlot error;
+// Each scanned interface as "<name> <connected> <error code>:<resource>,...".
+Texts scan(TarnApi* api, std::vector<const wchar_t*> names) {
     List<ScanInterfaceResult, release_ScanInterfaceResult_array> results;
+    ErrorSlot error;
     kel_scanInterfaceConnection(api, const_cast<wchar_t**>(names.data()),
                                 static_cast<uint32_t>(names.size()), &error, &results.items,
                                 &results.count);
-    EXPECT_FALSE(error) << (error ? error->code : 0);
-    std::vector<Scan> out;
+    EXPECT_FALSE(error);
+    Texts out;
     for (uint32_t i = 0; i < results.count; ++i) {
-        const auto* r = results.items[i];
-        Scan s;
-        if (r->interfaceInfo != nullptr) {
-            s.name = r->interfaceInfo->itemText1;
-            s.connected = r->interfaceInfo->flag1 != 0;
-            for (uint32_t k = 0; k < r->interfaceInfo->resourceCount; ++k) {
-                s.resources.emplace_back(r->interfaceInfo->resources[k]->itemText1);
-            }
+        const auto* info = results.items[i]->interfaceInfo;
+        std::wstring s = info != nullptr ? info->itemText1 : L"";
+        s += L" " + std::to_wstring(info != nullptr ? info->flag1 : 0) + L" " +
+             std::to_wstring(kel_test::codeIn(results.items[i]->error)) + L":";
+        for (uint32_t k = 0; info != nullptr && k < info->resourceCount; ++k) {
+            s += (k == 0 ? L"" : L",") + std::wstring(info->resources[k]->itemText1);
         }
-        s.errorCode = r->error != nullptr ? r->error->code : 0;
-        out.push_back(std::move(s));
+        out.push_back(s);
     }
     return out;
 }
@@ -124,11 +117,11 @@ TEST_F(Interfaces, DisconnectedInterfacesStopDiagnosticCallsUntilConnectedAgain)
     // Reading the project's targets needs no communication.
     fetch<List<Target, release_Target_array>>([&](auto... out) { kel_getTargets(api, out...); });
 
-    EXPECT_FALSE(scan(api, {L"VCI1"}).front().connected);
+    EXPECT_EQ(scan(api, {L"VCI1"}), Texts{L"VCI1 0 0:UDS_CAN_HS,KWP_KLINE"});
     ASSERT_SUCCEEDS(ok, kel_connectInterfaces(api, &ok));
-    const auto after = scan(api, {L"VCI1", L"VCI2"});
-    EXPECT_TRUE(after[0].connected);
-    EXPECT_FALSE(after[1].connected) << "VCI2 is not plugged in";
+    EXPECT_EQ(scan(api, {L"VCI1", L"VCI2"}),
+              (Texts{L"VCI1 1 0:UDS_CAN_HS,KWP_KLINE", L"VCI2 0 1403:"}))
+        << "VCI2 is not plugged in";
     EXPECT_EQ(readDtcsError(api), 0);
 
     // Connecting fails when no configured interface is plugged in.
@@ -142,18 +135,9 @@ TEST_F(Interfaces, DisconnectedInterfacesStopDiagnosticCallsUntilConnectedAgain)
 
 TEST_F(Interfaces, ScanReportsEachInterfaceWithItsOwnError) {
     const auto results = scan(api, {L"VCI1", L"VCI2", L"NOPE"});
-    ASSERT_EQ(results.size(), 3u);
-    EXPECT_EQ(results[0].name, L"VCI1");
-    EXPECT_EQ(results[0].errorCode, 0);
-    EXPECT_EQ(results[0].resources, (std::vector<std::wstring>{L"UDS_CAN_HS", L"KWP_KLINE"}));
-    EXPECT_EQ(results[1].name, L"VCI2");
-    EXPECT_EQ(results[1].errorCode, 1403);
-    EXPECT_EQ(results[2].name, L"");
-    EXPECT_EQ(results[2].errorCode, 1400);
-
-    const auto all = scan(api, {});
-    ASSERT_EQ(all.size(), 4u);
-    EXPECT_EQ(all[3].name, L"WVCI-9");
+    EXPECT_EQ(results, (Texts{L"VCI1 1 0:UDS_CAN_HS,KWP_KLINE", L"VCI2 0 1403:", L" 0 1400:"}));
+    EXPECT_EQ(scan(api, {}), (Texts{L"VCI1 1 0:UDS_CAN_HS,KWP_KLINE", L"VCI2 0 1403:",
+                                    L"WVCI-7 0 0:UDS_DOIP", L"WVCI-9 0 0:"}));
 }
 
 TEST_F(Interfaces, ResourcesAreAddedWithTheirPinAndRemovedByName) {
@@ -183,7 +167,7 @@ TEST_F(Interfaces, ResourcesAreAddedWithTheirPinAndRemovedByName) {
                         kel_addResource(api, L"NOPE", resource(L"X"), 1, &unknownInterface));
 
     EXPECT_ENGINE_ERROR(removed, 0, kel_removeResource(api, L"VCI1", L"UDS_CAN_MS", &removed));
-    EXPECT_EQ(scan(api, {L"VCI1"}).front().resources.size(), 2u);
+    EXPECT_EQ(scan(api, {L"VCI1"}), Texts{L"VCI1 1 0:UDS_CAN_HS,KWP_KLINE"});
     EXPECT_ENGINE_ERROR(again, 1401, kel_removeResource(api, L"VCI1", L"UDS_CAN_MS", &again));
 }
 
@@ -418,11 +402,9 @@ TEST_F(Interfaces, ConfigurationAndProvidersAreReplacedAsGiven) {
     release_InterfaceConfigurationEntry(config->entries[1]);
     config->entryCount = 1;
     ASSERT_SUCCEEDS(ok, kel_setInterfaceConfiguration(api, &ok, config));
-    const auto all = scan(api, {});
-    ASSERT_EQ(all.size(), 3u);
-    EXPECT_EQ(all[0].name, L"VCI1");
-    EXPECT_TRUE(all[0].connected) << "a kept interface keeps its connection";
-    EXPECT_EQ(all[1].name, L"WVCI-7");
+    EXPECT_EQ(scan(api, {}),
+              (Texts{L"VCI1 1 0:UDS_CAN_HS,KWP_KLINE", L"WVCI-7 0 0:UDS_DOIP", L"WVCI-9 0 0:"}))
+        << "a kept interface keeps its connection";
     wchar_t* longName = nullptr;
     kel_getInterfaceLongName(api, L"VCI1", &error, &longName);
     ASSERT_NE(longName, nullptr);
@@ -491,11 +473,9 @@ TEST_F(InterfacesConcurrency, SavedConfigurationIsAlwaysWholeAndKeepsReplacedTex
     kelsim_restart();
     api = kel_getTarnApi();
     kel_initialize(api, &error);
-    const auto restarted = scan(api, {});
-    ASSERT_EQ(restarted.size(), 4u) << "VCI2 stays removed";
-    EXPECT_EQ(restarted[0].name, L"VCI1");
-    EXPECT_TRUE(std::any_of(restarted.begin(), restarted.end(),
-                            [](const Scan& s) { return s.name == L"VCI\uFFFD"; }));
+    EXPECT_EQ(scan(api, {}), (Texts{L"VCI1 1 0:UDS_CAN_HS,KWP_KLINE", L"WVCI-7 0 0:UDS_DOIP",
+                                    L"WVCI-9 0 0:", L"VCI\uFFFD 0 1403:"}))
+        << "VCI2 stays removed";
     kelsim_setDataRoot(L"");
     std::filesystem::remove_all(root);
 }

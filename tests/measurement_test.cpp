@@ -149,7 +149,6 @@ TEST_F(MeasurementTest, ARandomWalkIsReproducibleAndStaysWithinItsRange) {
 
 TEST_F(MeasurementTest, DescriptionsGiveUnitAndRange) {
     Infos all;
-    ErrorSlot error;
     ASSERT_SUCCEEDS(ok, kel_getMeasurementValueInfos(api, L"PCM", &ok, &all.items, &all.count));
     ASSERT_EQ(all.count, 5U);
     const ParameterInfo& coolant = *all.items[1];

@@ -62,6 +62,20 @@ uint32_t processId() {
 #endif
 }
 
+using Texts = std::vector<std::wstring>;
+using Loads = List<LoadDatabaseResult, release_LoadDatabaseResult_array>;
+
+// Each database file's result as "<file> <loaded> <error code>".
+Texts outcomes(const Loads& list) {
+    Texts out;
+    for (uint32_t i = 0; i < list.count; ++i) {
+        const auto& r = *list.items[i];
+        out.push_back(std::wstring(r.text) + L" " + std::to_wstring(r.flag) + L" " +
+                      std::to_wstring(codeIn(r.error)));
+    }
+    return out;
+}
+
 class ProjectsTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -114,6 +128,14 @@ protected:
         kel_getSystemProperty(api, name, &error, &p);
         EXPECT_FALSE(error) << std::filesystem::path(name).string();
         return p;
+    }
+    // A property's value and whether it was changed, as "<value> <changed>".
+    std::wstring valueOf(const wchar_t* name) {
+        SystemProperty* p = property(name);
+        const std::wstring out =
+            p == nullptr ? L"<none>" : p->text1 + (L" " + std::to_wstring(p->flag));
+        release_SystemProperty(p);
+        return out;
     }
 
     std::filesystem::path projects() const { return root / "projects"; }
@@ -241,10 +263,7 @@ TEST_F(ProjectsTest, TheEngineConfigurationOutlivesARestartOnlyWhenSaved) {
     EXPECT_EQ(config->server->port, 7000u);
     EXPECT_EQ(std::wstring(config->server->address), L"127.0.0.1");
     release_TarnApiConfig(config);
-    language = property(L"Engine.Language");
-    EXPECT_EQ(std::wstring(language->text1), L"de");
-    EXPECT_EQ(language->flag, 1);
-    release_SystemProperty(language);
+    EXPECT_EQ(valueOf(L"Engine.Language"), L"de 1");
     ASSERT_SUCCEEDS(ok, kel_getMoxConfiguration(api, &ok, &mox));
     EXPECT_EQ(std::wstring(mox->text1), L"");
     replace(mox->text1, L"mox \u00fc");
@@ -283,16 +302,11 @@ TEST_F(ProjectsTest, DatabaseFilesLoadAndUnloadWithAnErrorPerFile) {
     wchar_t* files[] = {const_cast<wchar_t*>(L"second.kdb"), const_cast<wchar_t*>(L"missing.kdb"),
                         const_cast<wchar_t*>(L"../../outside.kdb"),
                         const_cast<wchar_t*>(L"notes.kdb"), const_cast<wchar_t*>(L"vehicle.kdb")};
-    List<LoadDatabaseResult, release_LoadDatabaseResult_array> loaded;
+    Loads loaded;
     ASSERT_SUCCEEDS(ok, kel_loadDatabaseFile(api, files, 5, &ok, &loaded.items, &loaded.count));
-    ASSERT_EQ(loaded.count, 5u);
-    const int32_t expected[] = {0, 1203, 1206, 1204, 0};
-    for (uint32_t i = 0; i < 5; ++i) {
-        const auto* r = loaded.items[i];
-        EXPECT_EQ(std::wstring(r->text), files[i]);
-        EXPECT_EQ(r->error != nullptr ? r->error->code : 0, expected[i]) << i;
-        EXPECT_EQ(r->flag, expected[i] == 0 ? 1 : 0) << i;
-    }
+    EXPECT_EQ(outcomes(loaded),
+              (Texts{L"second.kdb 1 0", L"missing.kdb 0 1203", L"../../outside.kdb 0 1206",
+                     L"notes.kdb 0 1204", L"vehicle.kdb 1 0"}));
 
     auto details = projectDetails();
     ASSERT_NE(details, nullptr);
@@ -308,12 +322,9 @@ TEST_F(ProjectsTest, DatabaseFilesLoadAndUnloadWithAnErrorPerFile) {
     EXPECT_EQ(details->dbFiles1[1]->size, database.size());
 
     wchar_t* unload[] = {const_cast<wchar_t*>(L"second.kdb"), const_cast<wchar_t*>(L"second.kdb")};
-    const auto unloaded = fetch<List<LoadDatabaseResult, release_LoadDatabaseResult_array>>(
-        [&](auto... out) { kel_unloadDatabaseFile(api, unload, 2, out...); });
-    ASSERT_EQ(unloaded->count, 2u);
-    EXPECT_EQ(unloaded->items[0]->error, nullptr);
-    EXPECT_EQ(unloaded->items[0]->flag, 0);
-    ASSERT_EQ(codeIn(unloaded->items[1]->error), 1205);
+    const auto unloaded =
+        fetch<Loads>([&](auto... out) { kel_unloadDatabaseFile(api, unload, 2, out...); });
+    EXPECT_EQ(outcomes(*unloaded), (Texts{L"second.kdb 0 0", L"second.kdb 0 1205"}));
     EXPECT_EQ(statusInfo()->value5, 1u);
 }
 
@@ -362,28 +373,18 @@ TEST_F(ProjectsTest, SystemPropertiesFormATreeAndAResetRestoresTheDefaults) {
     EXPECT_EQ(std::wstring(engine->children[0]->text1), L"en");
     EXPECT_EQ(engine->children[0]->flag, 0);
     replace(engine->children[1]->text1, L"3");
-    ErrorSlot error;
-    kel_setSystemProperty(api, engine, &error); // sets the children given with it
-    ASSERT_FALSE(error);
-    SystemProperty* level = property(L"Engine.TraceLevel");
-    EXPECT_EQ(std::wstring(level->text1), L"3");
-    EXPECT_EQ(level->flag, 1);
-    release_SystemProperty(level);
+    ASSERT_SUCCEEDS(ok, kel_setSystemProperty(api, engine, &ok)); // and the children given
+    EXPECT_EQ(valueOf(L"Engine.TraceLevel"), L"3 1");
 
     // One unknown name refuses the whole change.
     engine = property(L"Engine");
     replace(engine->children[0]->text1, L"fr");
     replace(engine->children[2]->itemText1, L"Engine.Nothing");
     EXPECT_ENGINE_ERROR(unknown, 1208, kel_setSystemProperty(api, engine, &unknown));
-    SystemProperty* language = property(L"Engine.Language");
-    EXPECT_EQ(std::wstring(language->text1), L"en");
-    release_SystemProperty(language);
+    EXPECT_EQ(valueOf(L"Engine.Language"), L"en 0");
 
     ASSERT_SUCCEEDS(ok, kel_resetSystemProperty(api, L"Engine", &ok));
-    level = property(L"Engine.TraceLevel");
-    EXPECT_EQ(std::wstring(level->text1), L"0");
-    EXPECT_EQ(level->flag, 0);
-    release_SystemProperty(level);
+    EXPECT_EQ(valueOf(L"Engine.TraceLevel"), L"0 0");
 
     SystemProperty* none = nullptr;
     EXPECT_ENGINE_ERROR(unknown, 1208, kel_getSystemProperty(api, L"Nothing", &unknown, &none));
