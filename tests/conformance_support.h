@@ -559,10 +559,6 @@ struct Reports {
         std::unique_lock lock(mutex);
         return changed.wait_for(lock, limit, [&] { return final; });
     }
-    int reports() {
-        const std::lock_guard lock(mutex);
-        return count;
-    }
 };
 
 // ---- cases -----------------------------------------------------------------------------------
@@ -688,92 +684,106 @@ std::span<const int32_t> namedNumbers();
 
 inline std::string errorView(KelError* error) { return view(static_cast<const KelError*>(error)); }
 
-// Inputs reach the engine exactly and the scripted result comes back exactly; then every
-// output is released (ASan/LSan see leaks and double frees).
+constexpr std::chrono::milliseconds reportLimit{10000};
+
+template <class Op>
+constexpr bool isAsync = requires {
+    typename Op::Reports;
+};
+
+// What one call of an export gave. A synchronous call that fails must leave every output
+// as it was; an asynchronous one that does not start must never report, and one that
+// starts ends with a final report under its own id.
+struct Outcome {
+    bool refused = false; // the call itself returned an error
+    int32_t code = 0;     // its code
+    std::string error = "null";
+    std::string view; // the result, from the outputs or the final report
+    int reports = 0;
+};
+
+template <class Op>
+Outcome invoke(TarnApi* on, const char* inputs) {
+    Outcome o;
+    KelError* error = nullptr;
+    if constexpr (isAsync<Op>) {
+        typename Op::Reports reports;
+        const uint64_t id = Op::call(on, Json::parse(inputs), &error, reports);
+        if (error == nullptr) {
+            EXPECT_NE(id, 0U);
+            if (!reports.waitFinal(reportLimit)) {
+                ADD_FAILURE() << "no final report";
+                return o;
+            }
+            const std::lock_guard lock(reports.mutex);
+            EXPECT_EQ(reports.callId, id);
+            o.reports = reports.count;
+            o.error = reports.error;
+            o.view = reports.view;
+            return o;
+        }
+        EXPECT_EQ(id, 0U);
+        EXPECT_FALSE(reports.waitFinal(std::chrono::milliseconds(20)))
+            << "a call that did not start reported";
+    } else {
+        typename Op::Result out;
+        fillCanary(out);
+        Op::call(on, Json::parse(inputs), &error, out);
+        if (error == nullptr) {
+            o.view = out.view();
+            out.release(); // ASan/LSan see leaks and double frees
+            return o;
+        }
+        EXPECT_TRUE(untouched(out)) << "an output was written";
+    }
+    o.refused = true;
+    o.code = error->code;
+    o.error = errorView(error);
+    release_KelError(error);
+    return o;
+}
+
+// Inputs reach the engine exactly and the scripted result comes back exactly, through the
+// outputs or through the callback, converted alike.
 template <class Op>
 void exchange(TarnApi* api, std::span<const Case> cases) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.variant);
         script(Op::operation, c.script);
-        typename Op::Result out;
-        fillCanary(out);
-        KelError* error = nullptr;
-        Op::call(api, Json::parse(c.inputs), &error, out);
-        if (error != nullptr) {
-            ADD_FAILURE() << "engine error " << errorView(error);
-            release_KelError(error);
-            continue;
-        }
-        EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments));
+        const Outcome o = invoke<Op>(api, c.inputs);
+        EXPECT_EQ(o.error, "null");
+        EXPECT_EQ(o.reports, isAsync<Op> ? 1 : 0);
+        EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, isAsync<Op>));
         if (c.cView != nullptr) {
-            EXPECT_EQ(out.view(), c.cView);
+            EXPECT_EQ(o.view, c.cView);
         }
-        out.release();
     }
 }
 
-// An engine failure leaves every output as it was and gives exactly the error; a
-// consumed input record is freed all the same (LSan reports it otherwise).
+// An engine failure gives exactly the error at once; a consumed input record is freed all
+// the same (LSan reports it otherwise).
 template <class Op>
 void failure(TarnApi* api, std::span<const Case> cases) {
     for (const Case& c : cases) {
         for (const Failure& f : scriptedFailures()) {
             SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name);
             fail(Op::operation, f);
-            typename Op::Result out;
-            fillCanary(out);
-            KelError* error = nullptr;
-            Op::call(api, Json::parse(c.inputs), &error, out);
-            ASSERT_NE(error, nullptr);
-            EXPECT_EQ(errorView(error), f.view);
-            EXPECT_TRUE(untouched(out)) << "an output was written";
-            EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments));
-            release_KelError(error);
+            const Outcome o = invoke<Op>(api, c.inputs);
+            EXPECT_TRUE(o.refused);
+            EXPECT_EQ(o.error, f.view);
+            EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, isAsync<Op>));
         }
     }
 }
 
-constexpr std::chrono::milliseconds reportLimit{10000};
-
-// The scripted result arrives through the callback, once, final, without error, and
-// converted as the synchronous export converts it.
+// The asynchronous forms go the same way: invoke() tells them apart.
 template <class Op>
 void asyncExchange(TarnApi* api, std::span<const Case> cases) {
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.variant);
-        script(Op::operation, c.script);
-        typename Op::Reports reports;
-        KelError* error = nullptr;
-        const uint64_t id = Op::call(api, Json::parse(c.inputs), &error, reports);
-        ASSERT_EQ(error, nullptr) << errorView(error);
-        ASSERT_TRUE(reports.waitFinal(reportLimit)) << "no final report";
-        const std::lock_guard lock(reports.mutex);
-        EXPECT_EQ(reports.count, 1);
-        EXPECT_EQ(reports.callId, id);
-        EXPECT_EQ(reports.error, "null");
-        EXPECT_EQ(reports.view, c.cView);
-        EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, true));
-    }
+    exchange<Op>(api, cases);
 }
-
-// A failure at the start: 0, the exact error, and no callback.
 template <class Op>
 void asyncFailure(TarnApi* api, std::span<const Case> cases) {
-    for (const Case& c : cases) {
-        for (const Failure& f : scriptedFailures()) {
-            SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name);
-            fail(Op::operation, f);
-            typename Op::Reports reports;
-            KelError* error = nullptr;
-            EXPECT_EQ(Op::call(api, Json::parse(c.inputs), &error, reports), 0U);
-            ASSERT_NE(error, nullptr);
-            EXPECT_EQ(errorView(error), f.view);
-            EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, true));
-            release_KelError(error);
-            EXPECT_FALSE(reports.waitFinal(std::chrono::milliseconds(20)));
-            EXPECT_EQ(reports.reports(), 0) << "a call that did not start reported";
-        }
-    }
+    failure<Op>(api, cases);
 }
 
 // ---- text with no UTF-8 form -----------------------------------------------------------------
@@ -798,51 +808,28 @@ inline std::vector<std::string> noUtf8Forms(const char* inputs) {
     return forms;
 }
 
-// Each call returns, normally or with an engine error of its own; the process survives.
+// Each call returns, or starts and ends, normally or with an engine error of its own; the
+// process survives.
 template <class Op>
 void noUtf8(TarnApi* api, std::span<const char* const> cases) {
     for (const char* inputs : cases) {
         for (const std::string& form : noUtf8Forms(inputs)) {
             SCOPED_TRACE(form);
-            typename Op::Result out;
-            fillCanary(out);
-            KelError* error = nullptr;
-            Op::call(api, Json::parse(form), &error, out);
-            if (error != nullptr) {
-                EXPECT_NE(error->code, internalError) << errorView(error);
-                release_KelError(error);
-            } else {
-                out.release();
-            }
+            const Outcome o = invoke<Op>(api, form.c_str());
+            EXPECT_EQ(o.error.find("\"code\":" + std::to_string(internalError)), std::string::npos)
+                << o.error;
         }
     }
 }
 
-// The asynchronous form: refused at once, or started and ended by a final report.
 template <class Op>
 void asyncNoUtf8(TarnApi* api, std::span<const char* const> cases) {
-    for (const char* inputs : cases) {
-        for (const std::string& form : noUtf8Forms(inputs)) {
-            SCOPED_TRACE(form);
-            typename Op::Reports reports;
-            KelError* error = nullptr;
-            const uint64_t id = Op::call(api, Json::parse(form), &error, reports);
-            if (error != nullptr) {
-                EXPECT_NE(error->code, internalError) << errorView(error);
-                release_KelError(error);
-                continue;
-            }
-            ASSERT_NE(id, 0U);
-            ASSERT_TRUE(reports.waitFinal(reportLimit)) << "no final report";
-            const std::lock_guard lock(reports.mutex);
-            EXPECT_EQ(reports.error.find("\"code\":" + std::to_string(internalError)),
-                      std::string::npos)
-                << reports.error;
-        }
-    }
+    noUtf8<Op>(api, cases);
 }
 
 // ---- by number -------------------------------------------------------------------------------
+
+enum class Via { Otx, Py };
 
 struct Streamed {
     bool recognised = false;
@@ -850,103 +837,102 @@ struct Streamed {
     Bytes bytes;
 };
 
-inline void* const untouchedStream = reinterpret_cast<void*>(static_cast<uintptr_t>(0xC0FFEE0));
-constexpr uint64_t untouchedSize = 0xA5A5A5A5A5ULL;
-
-inline Streamed otxCall(int32_t number, const Bytes& input, bool checked, std::size_t size) {
+// One call through kel_call or py_call (their checked forms read only `size` bytes). A
+// number neither dispatcher knows leaves both outputs alone.
+inline Streamed dispatch(Via via, TarnApi* api, int32_t number, const Bytes& input, bool checked,
+                         std::size_t size) {
+    void* const untouchedStream = reinterpret_cast<void*>(static_cast<uintptr_t>(0xC0FFEE0));
+    constexpr uint64_t untouchedSize = 0xA5A5A5A5A5ULL;
     void* stream = untouchedStream;
-    uint64_t outSize = untouchedSize;
-    if (checked) {
-        kel_call_checked(0, number, input.data(), size, &stream, &outSize);
+    uint64_t otxSize = untouchedSize;
+    auto pySize = static_cast<uint32_t>(untouchedSize);
+    Streamed result;
+    if (via == Via::Otx && checked) {
+        kel_call_checked(0, number, input.data(), size, &stream, &otxSize);
+    } else if (via == Via::Otx) {
+        kel_call(0, number, input.data(), &stream, &otxSize);
     } else {
-        kel_call(0, number, input.data(), &stream, &outSize);
+        result.returned =
+            checked ? py_call_checked(api, number, 0, input.data(), size, &pySize, &stream)
+                    : py_call(api, number, 0, input.data(), &pySize, &stream);
     }
-    Streamed result;
     if (stream == untouchedStream) {
-        EXPECT_EQ(outSize, untouchedSize) << "one output of an unrecognised number was written";
+        EXPECT_EQ(otxSize, untouchedSize) << "one output of an unknown number was written";
+        EXPECT_EQ(pySize, static_cast<uint32_t>(untouchedSize)) << "one output was written";
         return result;
     }
     result.recognised = true;
-    result.bytes.resize(static_cast<std::size_t>(outSize));
-    kel_call_result(stream, result.bytes.data());
+    result.bytes.resize(static_cast<std::size_t>(via == Via::Otx ? otxSize : pySize));
+    if (via == Via::Otx) {
+        kel_call_result(stream, result.bytes.data());
+    } else {
+        py_result(result.bytes.data(), static_cast<int32_t>(pySize), stream);
+    }
     return result;
 }
 
-inline Streamed pyCall(TarnApi* api, int32_t number, const Bytes& input, bool checked,
-                       std::size_t size) {
-    void* buffer = untouchedStream;
-    uint32_t outSize = 0xA5A5A5A5U;
-    Streamed result;
-    result.returned = checked
-                          ? py_call_checked(api, number, 0, input.data(), size, &outSize, &buffer)
-                          : py_call(api, number, 0, input.data(), &outSize, &buffer);
-    if (buffer == untouchedStream) {
-        EXPECT_EQ(outSize, 0xA5A5A5A5U) << "one output of an unrecognised number was written";
-        return result;
+// A stream that carries an error record: kel_call's after status 0, py_call's with -1
+// returned; the record begins with its presence byte and the code.
+inline void expectError(Via via, const Streamed& r, int32_t code) {
+    const std::size_t at = via == Via::Otx ? 1 : 0;
+    int32_t found = 0;
+    if (r.bytes.size() >= at + 5 && r.bytes[0] == (at == 1 ? 0 : 1) && r.bytes[at] == 1) {
+        std::memcpy(&found, r.bytes.data() + at + 1, 4);
     }
-    result.recognised = true;
-    result.bytes.resize(outSize);
-    py_result(result.bytes.data(), static_cast<int32_t>(outSize), buffer);
-    return result;
+    EXPECT_EQ(found, code) << hex(r.bytes);
+    EXPECT_EQ(r.returned, via == Via::Py ? -1 : 0);
 }
 
-// The error code in a result stream that carries an error record.
-inline int32_t errorCode(const Bytes& bytes, std::size_t at) {
-    int32_t code = 0;
-    if (bytes.size() >= at + 4) {
-        std::memcpy(&code, bytes.data() + at, 4);
-    }
-    return code;
+// A case's values as one dispatcher sees them.
+struct Side {
+    Bytes input; // without padding: the stream must be read exactly
+    std::string arguments;
+    const char* result;
+};
+
+inline Side side(const Case& c, Via via) {
+    return via == Via::Otx ? Side{bytes(c.otxInput), expected(c.otxArguments), c.otxResult}
+                           : Side{bytes(c.pyInput), expected(c.pyArguments), c.pyResult};
 }
 
-// An input without padding: the stream must be read exactly, so a copy of its own size.
-inline Bytes input(const char* hexText) { return bytes(hexText); }
+inline const char* name(Via via, bool checked) {
+    return via == Via::Otx ? (checked ? "kel_call_checked" : "kel_call")
+                           : (checked ? "py_call_checked" : "py_call");
+}
 
-inline void kelCall(TarnApi* /*api*/, const Number& n) {
+inline void byNumber(Via via, TarnApi* api, const Number& n) {
     for (const Case& c : n.cases) {
         for (const bool checked : {false, true}) {
-            SCOPED_TRACE(std::string(c.variant) + (checked ? ", kel_call_checked" : ", kel_call"));
+            SCOPED_TRACE(std::string(c.variant) + ", " + name(via, checked));
             script(n.operation, c.script);
-            const Bytes in = input(c.otxInput);
-            const Streamed r = otxCall(n.number, in, checked, in.size());
+            const Side s = side(c, via);
+            // The checked py form goes to the local engine through a NULL engine object.
+            const Streamed r =
+                dispatch(via, checked ? nullptr : api, n.number, s.input, checked, s.input.size());
             ASSERT_TRUE(r.recognised);
-            EXPECT_EQ(hex(r.bytes), c.otxResult);
-            EXPECT_EQ(lastArguments(n.operation), expected(c.otxArguments));
+            EXPECT_EQ(r.returned, via == Via::Py ? c.pyReturn : 0);
+            EXPECT_EQ(hex(r.bytes), s.result);
+            EXPECT_EQ(lastArguments(n.operation), s.arguments);
         }
     }
 }
 
-inline void pyCall(TarnApi* api, const Number& n) {
-    for (const Case& c : n.cases) {
-        for (const bool checked : {false, true}) {
-            SCOPED_TRACE(std::string(c.variant) + (checked ? ", py_call_checked" : ", py_call"));
-            script(n.operation, c.script);
-            const Bytes in = input(c.pyInput);
-            // The checked form goes to the local engine through a NULL engine object.
-            const Streamed r = pyCall(checked ? nullptr : api, n.number, in, checked, in.size());
-            ASSERT_TRUE(r.recognised);
-            EXPECT_EQ(r.returned, c.pyReturn);
-            EXPECT_EQ(hex(r.bytes), c.pyResult);
-            EXPECT_EQ(lastArguments(n.operation), expected(c.pyArguments));
-        }
-    }
-}
+inline void kelCall(TarnApi* api, const Number& n) { byNumber(Via::Otx, api, n); }
+inline void pyCall(TarnApi* api, const Number& n) { byNumber(Via::Py, api, n); }
 
 inline void numberFailure(TarnApi* api, const Number& n) {
     for (const Case& c : n.cases) {
         for (const Failure& f : scriptedFailures()) {
-            SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name);
-            fail(n.operation, f);
-            const Bytes otxIn = input(c.otxInput);
-            const Streamed otx = otxCall(n.number, otxIn, false, otxIn.size());
-            EXPECT_EQ(hex(otx.bytes), f.otxResult);
-            EXPECT_EQ(lastArguments(n.operation), expected(c.otxArguments));
-            fail(n.operation, f);
-            const Bytes pyIn = input(c.pyInput);
-            const Streamed py = pyCall(api, n.number, pyIn, false, pyIn.size());
-            EXPECT_EQ(py.returned, -1);
-            EXPECT_EQ(hex(py.bytes), f.pyResult);
-            EXPECT_EQ(lastArguments(n.operation), expected(c.pyArguments));
+            for (const Via via : {Via::Otx, Via::Py}) {
+                SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name + ", " +
+                             name(via, false));
+                fail(n.operation, f);
+                const Side s = side(c, via);
+                const Streamed r = dispatch(via, api, n.number, s.input, false, s.input.size());
+                EXPECT_EQ(hex(r.bytes), via == Via::Otx ? f.otxResult : f.pyResult);
+                EXPECT_EQ(r.returned, via == Via::Py ? -1 : 0);
+                EXPECT_EQ(lastArguments(n.operation), s.arguments);
+            }
         }
     }
 }
@@ -955,20 +941,14 @@ inline void numberFailure(TarnApi* api, const Number& n) {
 // the engine is not called.
 inline void shortInput(TarnApi* api, const Number& n) {
     for (const Case& c : n.cases) {
-        SCOPED_TRACE(c.variant);
         const uint64_t calls = kelsim_callCount(n.operation);
-        const Bytes otxIn = input(c.otxInput);
-        if (!otxIn.empty()) {
-            const Streamed otx = otxCall(n.number, otxIn, true, otxIn.size() - 1);
-            ASSERT_GE(otx.bytes.size(), 6U);
-            EXPECT_EQ(otx.bytes[0], 0);
-            EXPECT_EQ(errorCode(otx.bytes, 2), KEL_ERROR_MALFORMED_INPUT);
-        }
-        const Bytes pyIn = input(c.pyInput);
-        if (!pyIn.empty()) {
-            const Streamed py = pyCall(api, n.number, pyIn, true, pyIn.size() - 1);
-            EXPECT_EQ(py.returned, -1);
-            EXPECT_EQ(errorCode(py.bytes, 1), KEL_ERROR_MALFORMED_INPUT);
+        for (const Via via : {Via::Otx, Via::Py}) {
+            SCOPED_TRACE(std::string(c.variant) + ", " + name(via, true));
+            const Side s = side(c, via);
+            if (!s.input.empty()) {
+                expectError(via, dispatch(via, api, n.number, s.input, true, s.input.size() - 1),
+                            KEL_ERROR_MALFORMED_INPUT);
+            }
         }
         EXPECT_EQ(kelsim_callCount(n.operation), calls) << "the engine was called";
     }
@@ -976,16 +956,11 @@ inline void shortInput(TarnApi* api, const Number& n) {
 
 // A number whose records are not built yet is recognised but answers -1002.
 inline void notAvailable(TarnApi* api, int32_t number, const char* operation) {
-    const Streamed otx = otxCall(number, {}, true, 0);
-    ASSERT_TRUE(otx.recognised);
-    ASSERT_GE(otx.bytes.size(), 6U);
-    EXPECT_EQ(otx.bytes[0], 0);
-    EXPECT_EQ(otx.bytes[1], 1);
-    EXPECT_EQ(errorCode(otx.bytes, 2), KEL_ERROR_NOT_AVAILABLE);
-    const Streamed py = pyCall(api, number, {}, true, 0);
-    ASSERT_TRUE(py.recognised);
-    EXPECT_EQ(py.returned, -1);
-    EXPECT_EQ(errorCode(py.bytes, 1), KEL_ERROR_NOT_AVAILABLE);
+    for (const Via via : {Via::Otx, Via::Py}) {
+        const Streamed r = dispatch(via, api, number, {}, true, 0);
+        ASSERT_TRUE(r.recognised) << name(via, true);
+        expectError(via, r, KEL_ERROR_NOT_AVAILABLE);
+    }
     EXPECT_EQ(kelsim_callCount(operation), 0U);
 }
 
@@ -997,12 +972,12 @@ inline void unnamedNumbers(TarnApi* api) {
         if (std::find(named.begin(), named.end(), n) != named.end()) {
             continue;
         }
-        SCOPED_TRACE(n);
-        for (const bool check : {false, true}) {
-            EXPECT_FALSE(otxCall(n, {}, check, 0).recognised);
-            const Streamed py = pyCall(api, n, {}, check, 0);
-            EXPECT_FALSE(py.recognised);
-            EXPECT_EQ(py.returned, 0);
+        for (const Via via : {Via::Otx, Via::Py}) {
+            for (const bool check : {false, true}) {
+                const Streamed r = dispatch(via, api, n, {}, check, 0);
+                EXPECT_FALSE(r.recognised) << n << ", " << name(via, check);
+                EXPECT_EQ(r.returned, 0) << n << ", " << name(via, check);
+            }
         }
         ++checked;
     }
@@ -1016,6 +991,7 @@ class ConformanceTest : public ::testing::Test {
 protected:
     void SetUp() override {
         kelsim_reset();
+        configure();
         kelsim_restart();
         api = kel_getTarnApi();
         ASSERT_NE(api, nullptr);
@@ -1027,6 +1003,8 @@ protected:
         releaseTarnApi(api);
         kelsim_reset();
     }
+    // Between the reset and the restart: what the engine starts on.
+    virtual void configure() {}
     TarnApi* api = nullptr;
 };
 
@@ -1046,23 +1024,22 @@ public:
     };
 
 protected:
-    void SetUp() override {
+    void configure() override {
         static int made = 0;
         root_ = std::filesystem::temp_directory_path() /
                 ("kel_admission_" +
                  std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()) + "_" +
                  std::to_string(++made));
         std::filesystem::remove_all(root_);
-        kelsim_reset(); // as ConformanceTest, on a vehicle and a root of its own
         ASSERT_EQ(kelsim_setVehicleJson(R"({"name": "admission", "ecus": [{"name": "ECM"}],
             "servers": {"passwordIterations": 1000}})"),
                   0);
         kelsim_setDataRoot(root_.wstring().c_str());
-        kelsim_restart();
-        api = kel_getTarnApi();
+    }
+    void SetUp() override {
+        ConformanceTest::SetUp();
+        ASSERT_FALSE(HasFatalFailure());
         KelError* error = nullptr;
-        kel_initialize(api, &error);
-        ASSERT_EQ(error, nullptr);
         kel_addUser(api, L"operator", L"operator-password", 1, &error);
         ASSERT_EQ(error, nullptr);
         kel_setServerUserManagement(api, 1, &error);
@@ -1099,87 +1076,47 @@ private:
     TarnApi* anonymous_ = nullptr;
 };
 
-// One call of a synchronous export: its error code, 0 when it succeeded (then with the
-// scripted result when `scripted`).
-template <class Op>
-int32_t callFor(TarnApi* on, const Case& c, bool scripted) {
-    typename Op::Result out;
-    fillCanary(out);
-    KelError* error = nullptr;
-    Op::call(on, Json::parse(c.inputs), &error, out);
-    if (error == nullptr) {
-        if (scripted && c.cView != nullptr) {
-            EXPECT_EQ(out.view(), c.cView);
-        }
-        out.release();
-        return 0;
-    }
-    const int32_t code = error->code;
-    EXPECT_TRUE(untouched(out)) << "an output was written";
-    release_KelError(error);
-    return code;
-}
-
-template <class Op>
-int32_t asyncCallFor(TarnApi* on, const Case& c, bool scripted) {
-    typename Op::Reports reports;
-    KelError* error = nullptr;
-    const uint64_t id = Op::call(on, Json::parse(c.inputs), &error, reports);
-    if (error != nullptr) {
-        const int32_t code = error->code;
-        EXPECT_EQ(id, 0U);
-        release_KelError(error);
-        return code;
-    }
-    EXPECT_TRUE(reports.waitFinal(reportLimit)) << "no final report";
-    const std::lock_guard lock(reports.mutex);
-    if (scripted) {
-        EXPECT_EQ(reports.view, c.cView);
-    }
-    return 0;
-}
-
 // A remote caller that lacks what the operation needs is refused (1300 not logged in,
 // 1308 not an administrator); the one result scripted before then reaches the first
 // caller admitted, so no refused call got as far as the engine's scripted results, let
 // alone the vehicle. An operation whose result cannot be scripted runs on the vehicle:
 // it may fail, but not with a refusal of admission.
-template <class Call>
-void checkAdmission(const char* operation, const AdmissionTest::Callers& who, const Case& c,
-                    Needs needs, Call call) {
+template <class Op>
+void admission(const AdmissionTest::Callers& who, std::span<const Case> cases, Needs needs) {
     constexpr int32_t notLoggedIn = 1300;
     constexpr int32_t needsAdministrator = 1308;
+    const Case& c = cases.front();
     const bool scripted = c.script != nullptr;
     if (scripted) {
-        script(operation, c.script);
+        script(Op::operation, c.script);
     }
     // A call let through took the scripted result: the next would reach the vehicle.
     if (needs != Needs::Anyone) {
-        ASSERT_EQ(call(who.anonymous, c, false), notLoggedIn) << "a connection not logged in";
+        ASSERT_EQ(invoke<Op>(who.anonymous, c.inputs).code, notLoggedIn)
+            << "a connection not logged in";
     }
     if (needs == Needs::Administrator) {
-        ASSERT_EQ(call(who.operatorApi, c, false), needsAdministrator) << "an operator";
+        ASSERT_EQ(invoke<Op>(who.operatorApi, c.inputs).code, needsAdministrator) << "an operator";
     }
     TarnApi* admitted = needs == Needs::Anyone     ? who.anonymous
                         : needs == Needs::Operator ? who.operatorApi
                                                    : who.local;
-    const int32_t code = call(admitted, c, scripted);
+    const Outcome o = invoke<Op>(admitted, c.inputs);
     if (scripted) {
-        EXPECT_EQ(code, 0) << "the scripted result did not reach the caller admitted";
+        EXPECT_FALSE(o.refused) << "the scripted result did not reach the caller admitted: "
+                                << o.error;
+        if (c.cView != nullptr) {
+            EXPECT_EQ(o.view, c.cView);
+        }
     } else {
-        EXPECT_NE(code, notLoggedIn);
-        EXPECT_NE(code, needsAdministrator);
+        EXPECT_NE(o.code, notLoggedIn);
+        EXPECT_NE(o.code, needsAdministrator);
     }
 }
 
 template <class Op>
-void admission(const AdmissionTest::Callers& who, std::span<const Case> cases, Needs needs) {
-    checkAdmission(Op::operation, who, cases.front(), needs, callFor<Op>);
-}
-
-template <class Op>
 void asyncAdmission(const AdmissionTest::Callers& who, std::span<const Case> cases, Needs needs) {
-    checkAdmission(Op::operation, who, cases.front(), needs, asyncCallFor<Op>);
+    admission<Op>(who, cases, needs);
 }
 
 } // namespace kel_conformance
