@@ -372,27 +372,13 @@ inline void set(const Json& j, wchar_t*& to) { to = text(j); }
 template <class R>
 requires std::is_class_v<R>
 void set(const Json& j, R*& to) { to = record<R>(j); }
-inline void set(const Json& j, wchar_t**& to, uint32_t& count) {
+// A list and its count, each element as a member of its type.
+template <class T>
+void set(const Json& j, T*& to, uint32_t& count) {
     count = static_cast<uint32_t>(j.size());
-    to = block<wchar_t*>(count);
+    to = block<T>(count);
     for (uint32_t i = 0; i < count; ++i) {
-        to[i] = text(j[i]);
-    }
-}
-inline void set(const Json& j, uint8_t*& to, uint32_t& count) {
-    count = static_cast<uint32_t>(j.size());
-    to = block<uint8_t>(count);
-    for (uint32_t i = 0; i < count; ++i) {
-        to[i] = number<uint8_t>(j[i]);
-    }
-}
-template <class R>
-requires std::is_class_v<R>
-void set(const Json& j, R**& to, uint32_t& count) {
-    count = static_cast<uint32_t>(j.size());
-    to = block<R*>(count);
-    for (uint32_t i = 0; i < count; ++i) {
-        to[i] = record<R>(j[i]);
+        set(j[i], to[i]);
     }
 }
 
@@ -408,12 +394,10 @@ private:
 
 class Texts {
 public:
-    explicit Texts(const Json& j) {
+    explicit Texts(const Json& j) : texts_(j.size()) {
         for (std::size_t i = 0; i < j.size(); ++i) {
-            texts_.push_back(widen(j[i].text()));
-        }
-        for (auto& t : texts_) {
-            pointers_.push_back(t.data());
+            texts_[i] = widen(j[i].text());
+            pointers_.push_back(texts_[i].data());
         }
     }
     wchar_t** data() { return pointers_.empty() ? nullptr : pointers_.data(); }
