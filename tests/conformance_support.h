@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
@@ -32,63 +33,60 @@ namespace kel_conformance {
 
 // ---- JSON, as the generator writes it -----------------------------------------------------
 
+// Read here rather than by nlohmann: the text checks' inputs hold lone UTF-16 surrogates
+// (and, with 32-bit wchar_t, values past U+10FFFF), which nlohmann refuses.
 class Json {
 public:
-    enum class Kind { Null, Boolean, Number, Text, Array, Object };
-
     static Json parse(std::string_view text) {
         std::size_t at = 0;
         Json value = read(text, at);
-        skip(text, at);
-        if (at != text.size()) {
+        if (skip(text, at) != text.size()) {
             throw std::runtime_error("trailing text in JSON");
         }
         return value;
     }
 
-    Kind kind() const { return kind_; }
-    bool isNull() const { return kind_ == Kind::Null; }
-    bool boolean() const { return expect(Kind::Boolean).flag_; }
-    const std::string& text() const { return expect(Kind::Text).text_; } // UTF-8
-    std::size_t size() const { return expect(Kind::Array).items_.size(); }
-    const Json& operator[](std::size_t i) const { return expect(Kind::Array).items_.at(i); }
+    bool isNull() const { return kind_ == 'n'; }
+    bool boolean() const { return expect('b').text_ == "true"; }
+    const std::string& text() const { return expect('"').text_; } // UTF-8
+    std::size_t size() const { return expect('[').items_.size(); }
+    const Json& operator[](std::size_t i) const { return expect('[').items_.at(i); }
     const Json& at(std::string_view key) const {
-        for (const auto& [name, value] : expect(Kind::Object).members_) {
-            if (name == key) {
-                return value;
+        const Json& object = expect('{');
+        for (std::size_t i = 0; i < object.keys_.size(); ++i) {
+            if (object.keys_[i] == key) {
+                return object.items_[i];
             }
         }
         throw std::runtime_error("JSON object without member " + std::string(key));
     }
     template <class T>
     T number() const {
-        const std::string& digits = expect(Kind::Number).text_;
-        if (digits.front() == '-') {
-            return static_cast<T>(std::stoll(digits));
-        }
-        return static_cast<T>(std::stoull(digits));
+        const std::string& digits = expect('0').text_;
+        return digits.front() == '-' ? static_cast<T>(std::stoll(digits))
+                                     : static_cast<T>(std::stoull(digits));
     }
 
 private:
-    const Json& expect(Kind kind) const {
+    const Json& expect(char kind) const {
         if (kind_ != kind) {
             throw std::runtime_error("unexpected JSON value kind");
         }
         return *this;
     }
-    static void skip(std::string_view s, std::size_t& at) {
+    static std::size_t skip(std::string_view s, std::size_t& at) {
         while (at < s.size() && (s[at] == ' ' || s[at] == '\n' || s[at] == '\t')) {
             ++at;
         }
+        return at;
     }
     static Json read(std::string_view s, std::size_t& at);
     static std::string readText(std::string_view s, std::size_t& at);
 
-    Kind kind_ = Kind::Null;
-    bool flag_ = false;
+    char kind_ = 'n'; // n(ull), b(oolean), 0 (number), " (text), [ (array), { (object)
     std::string text_;
     std::vector<Json> items_;
-    std::vector<std::pair<std::string, Json>> members_;
+    std::vector<std::string> keys_;
 };
 
 inline void appendUtf8(std::string& out, char32_t c) {
@@ -115,14 +113,12 @@ inline std::string Json::readText(std::string_view s, std::size_t& at) {
     while (at < s.size() && s[at] != '"') {
         if (s[at] != '\\') {
             out += s[at++];
-            continue;
-        }
-        const char escaped = s.at(at + 1);
-        if (escaped == 'u') {
+        } else if (s.at(at + 1) == 'u') {
             appendUtf8(out, static_cast<char32_t>(
                                 std::stoul(std::string(s.substr(at + 2, 4)), nullptr, 16)));
             at += 6;
         } else {
+            const char escaped = s[at + 1];
             out += escaped == 't' ? '\t' : escaped == 'n' ? '\n' : escaped;
             at += 2;
         }
@@ -132,52 +128,40 @@ inline std::string Json::readText(std::string_view s, std::size_t& at) {
 }
 
 inline Json Json::read(std::string_view s, std::size_t& at) {
-    skip(s, at);
     Json value;
-    if (at >= s.size()) {
+    if (skip(s, at) >= s.size()) {
         throw std::runtime_error("JSON ends early");
     }
     const char c = s[at];
-    if (c == 'n') {
-        at += 4;
-    } else if (c == 't' || c == 'f') {
-        value.kind_ = Kind::Boolean;
-        value.flag_ = c == 't';
-        at += c == 't' ? 4 : 5;
-    } else if (c == '"') {
-        value.kind_ = Kind::Text;
+    if (c == '"') {
+        value.kind_ = '"';
         value.text_ = readText(s, at);
     } else if (c == '[' || c == '{') {
-        const bool object = c == '{';
-        value.kind_ = object ? Kind::Object : Kind::Array;
-        ++at;
-        skip(s, at);
-        while (at < s.size() && s[at] != (object ? '}' : ']')) {
-            if (object) {
-                skip(s, at);
-                std::string name = readText(s, at);
+        value.kind_ = c;
+        for (++at; skip(s, at) < s.size() && s[at] != (c == '{' ? '}' : ']');) {
+            if (c == '{') {
+                value.keys_.push_back(readText(s, at));
                 skip(s, at);
                 ++at; // ':'
-                value.members_.emplace_back(std::move(name), read(s, at));
-            } else {
-                value.items_.push_back(read(s, at));
             }
-            skip(s, at);
-            if (at < s.size() && s[at] == ',') {
+            value.items_.push_back(read(s, at));
+            if (skip(s, at) < s.size() && s[at] == ',') {
                 ++at;
             }
         }
         ++at;
     } else {
-        value.kind_ = Kind::Number;
-        const std::size_t start = at;
-        while (at < s.size() && (s[at] == '-' || (s[at] >= '0' && s[at] <= '9'))) {
+        const std::size_t start = at; // a literal or a number
+        while (at < s.size() && (std::isalnum(static_cast<unsigned char>(s[at])) || s[at] == '-')) {
             ++at;
         }
-        if (at == start) {
+        value.text_ = std::string(s.substr(start, at - start));
+        if (value.text_.empty()) {
             throw std::runtime_error("bad JSON value");
         }
-        value.text_ = std::string(s.substr(start, at - start));
+        value.kind_ = value.text_ == "null"                             ? 'n'
+                      : value.text_ == "true" || value.text_ == "false" ? 'b'
+                                                                        : '0';
     }
     return value;
 }
@@ -234,13 +218,7 @@ public:
     void value(bool v) { text += v ? "true" : "false"; }
     template <class T>
     requires std::is_integral_v<T>
-    void value(T v) {
-        if constexpr (std::is_signed_v<T>) {
-            text += std::to_string(static_cast<long long>(v));
-        } else {
-            text += std::to_string(static_cast<unsigned long long>(v));
-        }
-    }
+    void value(T v) { text += std::to_string(v); }
     void value(const wchar_t* v) {
         if (v == nullptr) {
             text += "null";
@@ -450,23 +428,37 @@ struct NoResult {
     std::string view() const { return "null"; }
     void release() {}
 };
-template <class T>
-struct ValueResult {
+// One output, freed by `Release` when there is one.
+template <class T, auto Release = nullptr>
+struct Single {
     T data;
     std::string view() const { return kel_conformance::view(data); }
-    void release() {}
+    void release() {
+        if constexpr (!std::is_null_pointer_v<decltype(Release)>) {
+            Release(data);
+        }
+    }
 };
-struct TextResult {
-    wchar_t* data;
-    std::string view() const { return kel_conformance::view(static_cast<const wchar_t*>(data)); }
-    void release() { release_Memory(data); }
-};
-struct TextsResult {
-    wchar_t** data;
+// A block and its count.
+template <class T, void (*Release)(T*, uint64_t)>
+struct Counted {
+    T* data;
     uint32_t count;
     std::string view() const { return kel_conformance::view(data, count); }
-    void release() { release_StringArray(data, count); }
+    void release() { Release(data, count); }
 };
+template <class T>
+using ValueResult = Single<T>;
+using TextResult = Single<wchar_t*, release_Memory>;
+using TextsResult = Counted<wchar_t*, release_StringArray>;
+template <class R, void (*Release)(R*)>
+using RecordResult = Single<R*, Release>;
+template <class R, void (*Release)(R**, uint64_t)>
+using ListResult = Counted<R*, Release>;
+inline void releaseEngine(uint64_t handle) {
+    releaseTarnApi(reinterpret_cast<TarnApi*>(static_cast<uintptr_t>(handle)));
+}
+using EngineResult = Single<uint64_t, releaseEngine>;
 // A buffer handed out directly; its view is null only when it is NULL.
 template <class P>
 struct BufferResult {
@@ -476,24 +468,6 @@ struct BufferResult {
         return kel_conformance::view(static_cast<const uint8_t*>(data), count);
     }
     void release() { release_Memory(data); }
-};
-template <class R, void (*Release)(R*)>
-struct RecordResult {
-    R* data;
-    std::string view() const { return kel_conformance::view(static_cast<const R*>(data)); }
-    void release() { Release(data); }
-};
-template <class R, void (*Release)(R**, uint64_t)>
-struct ListResult {
-    R** data;
-    uint32_t count;
-    std::string view() const { return kel_conformance::view(data, count); }
-    void release() { Release(data, count); }
-};
-struct EngineResult {
-    uint64_t data;
-    std::string view() const { return kel_conformance::view(data); }
-    void release() { releaseTarnApi(reinterpret_cast<TarnApi*>(static_cast<uintptr_t>(data))); }
 };
 
 constexpr unsigned char canaryByte = 0xA5;

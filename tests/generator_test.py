@@ -179,17 +179,9 @@ class Generated(unittest.TestCase):
         (self.root / "kel_c" / "custom" / "special.cpp").write_text("")
         self.assertEqual(generate.missing_custom_exports(self.iface, self.root), [])
 
-    def test_header_version_is_the_cmake_project_version(self):
-        cmake = self.root / "CMakeLists.txt"
-        cmake.write_text("cmake_minimum_required(VERSION 3.25)\n"
-                         "project(kel_c VERSION 2.10.3 LANGUAGES C CXX)\n")
-        version = generate.cmake_version(self.root)
-        self.assertEqual(version, (2, 10, 3))
-        header = generate.c_header(self.iface, version)
-        for line in ["#define KEL_C_VERSION_MAJOR 2", "#define KEL_C_VERSION_MINOR 10",
-                     "#define KEL_C_VERSION_PATCH 3", '#define KEL_C_VERSION "2.10.3"']:
-            self.assertIn(line + "\n", header)
-        cmake.write_text("project(kel_c LANGUAGES C CXX)\n")
+    def test_a_project_without_a_version_is_refused(self):
+        # The version itself reaching the header is checked by tests/c99/version.cpp.
+        (self.root / "CMakeLists.txt").write_text("project(kel_c LANGUAGES C CXX)\n")
         with self.assertRaises(kelidl.DescriptionError):
             generate.cmake_version(self.root)
 
