@@ -295,16 +295,15 @@ private:
     std::vector<bool> first_;
 };
 
-template <class T>
-std::string view(const T& value) {
+// A value, or a block and its count.
+template <class... A>
+std::string view(const A&... a) {
     Out o;
-    o.value(value);
-    return o.text;
-}
-template <class T>
-std::string view(const T* block, uint32_t count) {
-    Out o;
-    o.values(block, count);
+    if constexpr (sizeof...(A) == 1) {
+        o.value(a...);
+    } else {
+        o.values(a...);
+    }
     return o.text;
 }
 
@@ -594,20 +593,16 @@ inline std::string lastArguments(const char* operation) {
     return out;
 }
 
-inline std::string pointerText(const void* pointer) {
-    char text[40];
-    std::snprintf(text, sizeof text, "\"%p\"", pointer);
-    return text;
-}
-
 // The recorded arguments, with the handler's address put in where the case names it.
 inline std::string expected(const char* arguments, bool async = false) {
     std::string out = arguments;
     for (const auto& [token, pointer] :
          {std::pair<std::string, const void*>{"\"@handler\"", handlerAddress()},
           std::pair<std::string, const void*>{"\"@nohandler\"", nullptr}}) {
+        char text[40];
+        std::snprintf(text, sizeof text, "\"%p\"", pointer);
         for (std::size_t at = out.find(token); at != std::string::npos; at = out.find(token)) {
-            out.replace(at, token.size(), pointerText(pointer));
+            out.replace(at, token.size(), text);
         }
     }
     if (async) {
