@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cctype>
 #include <chrono>
 #include <condition_variable>
 #include <cstdint>
@@ -32,63 +33,60 @@ namespace kel_conformance {
 
 // ---- JSON, as the generator writes it -----------------------------------------------------
 
+// Read here rather than by nlohmann: the text checks' inputs hold lone UTF-16 surrogates
+// (and, with 32-bit wchar_t, values past U+10FFFF), which nlohmann refuses.
 class Json {
 public:
-    enum class Kind { Null, Boolean, Number, Text, Array, Object };
-
     static Json parse(std::string_view text) {
         std::size_t at = 0;
         Json value = read(text, at);
-        skip(text, at);
-        if (at != text.size()) {
+        if (skip(text, at) != text.size()) {
             throw std::runtime_error("trailing text in JSON");
         }
         return value;
     }
 
-    Kind kind() const { return kind_; }
-    bool isNull() const { return kind_ == Kind::Null; }
-    bool boolean() const { return expect(Kind::Boolean).flag_; }
-    const std::string& text() const { return expect(Kind::Text).text_; } // UTF-8
-    std::size_t size() const { return expect(Kind::Array).items_.size(); }
-    const Json& operator[](std::size_t i) const { return expect(Kind::Array).items_.at(i); }
+    bool isNull() const { return kind_ == 'n'; }
+    bool boolean() const { return expect('b').text_ == "true"; }
+    const std::string& text() const { return expect('"').text_; } // UTF-8
+    std::size_t size() const { return expect('[').items_.size(); }
+    const Json& operator[](std::size_t i) const { return expect('[').items_.at(i); }
     const Json& at(std::string_view key) const {
-        for (const auto& [name, value] : expect(Kind::Object).members_) {
-            if (name == key) {
-                return value;
+        const Json& object = expect('{');
+        for (std::size_t i = 0; i < object.keys_.size(); ++i) {
+            if (object.keys_[i] == key) {
+                return object.items_[i];
             }
         }
         throw std::runtime_error("JSON object without member " + std::string(key));
     }
     template <class T>
     T number() const {
-        const std::string& digits = expect(Kind::Number).text_;
-        if (digits.front() == '-') {
-            return static_cast<T>(std::stoll(digits));
-        }
-        return static_cast<T>(std::stoull(digits));
+        const std::string& digits = expect('0').text_;
+        return digits.front() == '-' ? static_cast<T>(std::stoll(digits))
+                                     : static_cast<T>(std::stoull(digits));
     }
 
 private:
-    const Json& expect(Kind kind) const {
+    const Json& expect(char kind) const {
         if (kind_ != kind) {
             throw std::runtime_error("unexpected JSON value kind");
         }
         return *this;
     }
-    static void skip(std::string_view s, std::size_t& at) {
+    static std::size_t skip(std::string_view s, std::size_t& at) {
         while (at < s.size() && (s[at] == ' ' || s[at] == '\n' || s[at] == '\t')) {
             ++at;
         }
+        return at;
     }
     static Json read(std::string_view s, std::size_t& at);
     static std::string readText(std::string_view s, std::size_t& at);
 
-    Kind kind_ = Kind::Null;
-    bool flag_ = false;
+    char kind_ = 'n'; // n(ull), b(oolean), 0 (number), " (text), [ (array), { (object)
     std::string text_;
     std::vector<Json> items_;
-    std::vector<std::pair<std::string, Json>> members_;
+    std::vector<std::string> keys_;
 };
 
 inline void appendUtf8(std::string& out, char32_t c) {
@@ -115,14 +113,12 @@ inline std::string Json::readText(std::string_view s, std::size_t& at) {
     while (at < s.size() && s[at] != '"') {
         if (s[at] != '\\') {
             out += s[at++];
-            continue;
-        }
-        const char escaped = s.at(at + 1);
-        if (escaped == 'u') {
+        } else if (s.at(at + 1) == 'u') {
             appendUtf8(out, static_cast<char32_t>(
                                 std::stoul(std::string(s.substr(at + 2, 4)), nullptr, 16)));
             at += 6;
         } else {
+            const char escaped = s[at + 1];
             out += escaped == 't' ? '\t' : escaped == 'n' ? '\n' : escaped;
             at += 2;
         }
@@ -132,52 +128,40 @@ inline std::string Json::readText(std::string_view s, std::size_t& at) {
 }
 
 inline Json Json::read(std::string_view s, std::size_t& at) {
-    skip(s, at);
     Json value;
-    if (at >= s.size()) {
+    if (skip(s, at) >= s.size()) {
         throw std::runtime_error("JSON ends early");
     }
     const char c = s[at];
-    if (c == 'n') {
-        at += 4;
-    } else if (c == 't' || c == 'f') {
-        value.kind_ = Kind::Boolean;
-        value.flag_ = c == 't';
-        at += c == 't' ? 4 : 5;
-    } else if (c == '"') {
-        value.kind_ = Kind::Text;
+    if (c == '"') {
+        value.kind_ = '"';
         value.text_ = readText(s, at);
     } else if (c == '[' || c == '{') {
-        const bool object = c == '{';
-        value.kind_ = object ? Kind::Object : Kind::Array;
-        ++at;
-        skip(s, at);
-        while (at < s.size() && s[at] != (object ? '}' : ']')) {
-            if (object) {
-                skip(s, at);
-                std::string name = readText(s, at);
+        value.kind_ = c;
+        for (++at; skip(s, at) < s.size() && s[at] != (c == '{' ? '}' : ']');) {
+            if (c == '{') {
+                value.keys_.push_back(readText(s, at));
                 skip(s, at);
                 ++at; // ':'
-                value.members_.emplace_back(std::move(name), read(s, at));
-            } else {
-                value.items_.push_back(read(s, at));
             }
-            skip(s, at);
-            if (at < s.size() && s[at] == ',') {
+            value.items_.push_back(read(s, at));
+            if (skip(s, at) < s.size() && s[at] == ',') {
                 ++at;
             }
         }
         ++at;
     } else {
-        value.kind_ = Kind::Number;
-        const std::size_t start = at;
-        while (at < s.size() && (s[at] == '-' || (s[at] >= '0' && s[at] <= '9'))) {
+        const std::size_t start = at; // a literal or a number
+        while (at < s.size() && (std::isalnum(static_cast<unsigned char>(s[at])) || s[at] == '-')) {
             ++at;
         }
-        if (at == start) {
+        value.text_ = std::string(s.substr(start, at - start));
+        if (value.text_.empty()) {
             throw std::runtime_error("bad JSON value");
         }
-        value.text_ = std::string(s.substr(start, at - start));
+        value.kind_ = value.text_ == "null"                             ? 'n'
+                      : value.text_ == "true" || value.text_ == "false" ? 'b'
+                                                                        : '0';
     }
     return value;
 }
@@ -234,13 +218,7 @@ public:
     void value(bool v) { text += v ? "true" : "false"; }
     template <class T>
     requires std::is_integral_v<T>
-    void value(T v) {
-        if constexpr (std::is_signed_v<T>) {
-            text += std::to_string(static_cast<long long>(v));
-        } else {
-            text += std::to_string(static_cast<unsigned long long>(v));
-        }
-    }
+    void value(T v) { text += std::to_string(v); }
     void value(const wchar_t* v) {
         if (v == nullptr) {
             text += "null";
@@ -317,16 +295,15 @@ private:
     std::vector<bool> first_;
 };
 
-template <class T>
-std::string view(const T& value) {
+// A value, or a block and its count.
+template <class... A>
+std::string view(const A&... a) {
     Out o;
-    o.value(value);
-    return o.text;
-}
-template <class T>
-std::string view(const T* block, uint32_t count) {
-    Out o;
-    o.values(block, count);
+    if constexpr (sizeof...(A) == 1) {
+        o.value(a...);
+    } else {
+        o.values(a...);
+    }
     return o.text;
 }
 
@@ -372,27 +349,13 @@ inline void set(const Json& j, wchar_t*& to) { to = text(j); }
 template <class R>
 requires std::is_class_v<R>
 void set(const Json& j, R*& to) { to = record<R>(j); }
-inline void set(const Json& j, wchar_t**& to, uint32_t& count) {
+// A list and its count, each element as a member of its type.
+template <class T>
+void set(const Json& j, T*& to, uint32_t& count) {
     count = static_cast<uint32_t>(j.size());
-    to = block<wchar_t*>(count);
+    to = block<T>(count);
     for (uint32_t i = 0; i < count; ++i) {
-        to[i] = text(j[i]);
-    }
-}
-inline void set(const Json& j, uint8_t*& to, uint32_t& count) {
-    count = static_cast<uint32_t>(j.size());
-    to = block<uint8_t>(count);
-    for (uint32_t i = 0; i < count; ++i) {
-        to[i] = number<uint8_t>(j[i]);
-    }
-}
-template <class R>
-requires std::is_class_v<R>
-void set(const Json& j, R**& to, uint32_t& count) {
-    count = static_cast<uint32_t>(j.size());
-    to = block<R*>(count);
-    for (uint32_t i = 0; i < count; ++i) {
-        to[i] = record<R>(j[i]);
+        set(j[i], to[i]);
     }
 }
 
@@ -408,12 +371,10 @@ private:
 
 class Texts {
 public:
-    explicit Texts(const Json& j) {
+    explicit Texts(const Json& j) : texts_(j.size()) {
         for (std::size_t i = 0; i < j.size(); ++i) {
-            texts_.push_back(widen(j[i].text()));
-        }
-        for (auto& t : texts_) {
-            pointers_.push_back(t.data());
+            texts_[i] = widen(j[i].text());
+            pointers_.push_back(texts_[i].data());
         }
     }
     wchar_t** data() { return pointers_.empty() ? nullptr : pointers_.data(); }
@@ -466,23 +427,37 @@ struct NoResult {
     std::string view() const { return "null"; }
     void release() {}
 };
-template <class T>
-struct ValueResult {
+// One output, freed by `Release` when there is one.
+template <class T, auto Release = nullptr>
+struct Single {
     T data;
     std::string view() const { return kel_conformance::view(data); }
-    void release() {}
+    void release() {
+        if constexpr (!std::is_null_pointer_v<decltype(Release)>) {
+            Release(data);
+        }
+    }
 };
-struct TextResult {
-    wchar_t* data;
-    std::string view() const { return kel_conformance::view(static_cast<const wchar_t*>(data)); }
-    void release() { release_Memory(data); }
-};
-struct TextsResult {
-    wchar_t** data;
+// A block and its count.
+template <class T, void (*Release)(T*, uint64_t)>
+struct Counted {
+    T* data;
     uint32_t count;
     std::string view() const { return kel_conformance::view(data, count); }
-    void release() { release_StringArray(data, count); }
+    void release() { Release(data, count); }
 };
+template <class T>
+using ValueResult = Single<T>;
+using TextResult = Single<wchar_t*, release_Memory>;
+using TextsResult = Counted<wchar_t*, release_StringArray>;
+template <class R, void (*Release)(R*)>
+using RecordResult = Single<R*, Release>;
+template <class R, void (*Release)(R**, uint64_t)>
+using ListResult = Counted<R*, Release>;
+inline void releaseEngine(uint64_t handle) {
+    releaseTarnApi(reinterpret_cast<TarnApi*>(static_cast<uintptr_t>(handle)));
+}
+using EngineResult = Single<uint64_t, releaseEngine>;
 // A buffer handed out directly; its view is null only when it is NULL.
 template <class P>
 struct BufferResult {
@@ -492,24 +467,6 @@ struct BufferResult {
         return kel_conformance::view(static_cast<const uint8_t*>(data), count);
     }
     void release() { release_Memory(data); }
-};
-template <class R, void (*Release)(R*)>
-struct RecordResult {
-    R* data;
-    std::string view() const { return kel_conformance::view(static_cast<const R*>(data)); }
-    void release() { Release(data); }
-};
-template <class R, void (*Release)(R**, uint64_t)>
-struct ListResult {
-    R** data;
-    uint32_t count;
-    std::string view() const { return kel_conformance::view(data, count); }
-    void release() { Release(data, count); }
-};
-struct EngineResult {
-    uint64_t data;
-    std::string view() const { return kel_conformance::view(data); }
-    void release() { releaseTarnApi(reinterpret_cast<TarnApi*>(static_cast<uintptr_t>(data))); }
 };
 
 constexpr unsigned char canaryByte = 0xA5;
@@ -558,10 +515,6 @@ struct Reports {
     bool waitFinal(std::chrono::milliseconds limit) {
         std::unique_lock lock(mutex);
         return changed.wait_for(lock, limit, [&] { return final; });
-    }
-    int reports() {
-        const std::lock_guard lock(mutex);
-        return count;
     }
 };
 
@@ -640,20 +593,16 @@ inline std::string lastArguments(const char* operation) {
     return out;
 }
 
-inline std::string pointerText(const void* pointer) {
-    char text[40];
-    std::snprintf(text, sizeof text, "\"%p\"", pointer);
-    return text;
-}
-
 // The recorded arguments, with the handler's address put in where the case names it.
 inline std::string expected(const char* arguments, bool async = false) {
     std::string out = arguments;
     for (const auto& [token, pointer] :
          {std::pair<std::string, const void*>{"\"@handler\"", handlerAddress()},
           std::pair<std::string, const void*>{"\"@nohandler\"", nullptr}}) {
+        char text[40];
+        std::snprintf(text, sizeof text, "\"%p\"", pointer);
         for (std::size_t at = out.find(token); at != std::string::npos; at = out.find(token)) {
-            out.replace(at, token.size(), pointerText(pointer));
+            out.replace(at, token.size(), text);
         }
     }
     if (async) {
@@ -688,92 +637,106 @@ std::span<const int32_t> namedNumbers();
 
 inline std::string errorView(KelError* error) { return view(static_cast<const KelError*>(error)); }
 
-// Inputs reach the engine exactly and the scripted result comes back exactly; then every
-// output is released (ASan/LSan see leaks and double frees).
+constexpr std::chrono::milliseconds reportLimit{10000};
+
+template <class Op>
+constexpr bool isAsync = requires {
+    typename Op::Reports;
+};
+
+// What one call of an export gave. A synchronous call that fails must leave every output
+// as it was; an asynchronous one that does not start must never report, and one that
+// starts ends with a final report under its own id.
+struct Outcome {
+    bool refused = false; // the call itself returned an error
+    int32_t code = 0;     // its code
+    std::string error = "null";
+    std::string view; // the result, from the outputs or the final report
+    int reports = 0;
+};
+
+template <class Op>
+Outcome invoke(TarnApi* on, const char* inputs) {
+    Outcome o;
+    KelError* error = nullptr;
+    if constexpr (isAsync<Op>) {
+        typename Op::Reports reports;
+        const uint64_t id = Op::call(on, Json::parse(inputs), &error, reports);
+        if (error == nullptr) {
+            EXPECT_NE(id, 0U);
+            if (!reports.waitFinal(reportLimit)) {
+                ADD_FAILURE() << "no final report";
+                return o;
+            }
+            const std::lock_guard lock(reports.mutex);
+            EXPECT_EQ(reports.callId, id);
+            o.reports = reports.count;
+            o.error = reports.error;
+            o.view = reports.view;
+            return o;
+        }
+        EXPECT_EQ(id, 0U);
+        EXPECT_FALSE(reports.waitFinal(std::chrono::milliseconds(20)))
+            << "a call that did not start reported";
+    } else {
+        typename Op::Result out;
+        fillCanary(out);
+        Op::call(on, Json::parse(inputs), &error, out);
+        if (error == nullptr) {
+            o.view = out.view();
+            out.release(); // ASan/LSan see leaks and double frees
+            return o;
+        }
+        EXPECT_TRUE(untouched(out)) << "an output was written";
+    }
+    o.refused = true;
+    o.code = error->code;
+    o.error = errorView(error);
+    release_KelError(error);
+    return o;
+}
+
+// Inputs reach the engine exactly and the scripted result comes back exactly, through the
+// outputs or through the callback, converted alike.
 template <class Op>
 void exchange(TarnApi* api, std::span<const Case> cases) {
     for (const Case& c : cases) {
         SCOPED_TRACE(c.variant);
         script(Op::operation, c.script);
-        typename Op::Result out;
-        fillCanary(out);
-        KelError* error = nullptr;
-        Op::call(api, Json::parse(c.inputs), &error, out);
-        if (error != nullptr) {
-            ADD_FAILURE() << "engine error " << errorView(error);
-            release_KelError(error);
-            continue;
-        }
-        EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments));
+        const Outcome o = invoke<Op>(api, c.inputs);
+        EXPECT_EQ(o.error, "null");
+        EXPECT_EQ(o.reports, isAsync<Op> ? 1 : 0);
+        EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, isAsync<Op>));
         if (c.cView != nullptr) {
-            EXPECT_EQ(out.view(), c.cView);
+            EXPECT_EQ(o.view, c.cView);
         }
-        out.release();
     }
 }
 
-// An engine failure leaves every output as it was and gives exactly the error; a
-// consumed input record is freed all the same (LSan reports it otherwise).
+// An engine failure gives exactly the error at once; a consumed input record is freed all
+// the same (LSan reports it otherwise).
 template <class Op>
 void failure(TarnApi* api, std::span<const Case> cases) {
     for (const Case& c : cases) {
         for (const Failure& f : scriptedFailures()) {
             SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name);
             fail(Op::operation, f);
-            typename Op::Result out;
-            fillCanary(out);
-            KelError* error = nullptr;
-            Op::call(api, Json::parse(c.inputs), &error, out);
-            ASSERT_NE(error, nullptr);
-            EXPECT_EQ(errorView(error), f.view);
-            EXPECT_TRUE(untouched(out)) << "an output was written";
-            EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments));
-            release_KelError(error);
+            const Outcome o = invoke<Op>(api, c.inputs);
+            EXPECT_TRUE(o.refused);
+            EXPECT_EQ(o.error, f.view);
+            EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, isAsync<Op>));
         }
     }
 }
 
-constexpr std::chrono::milliseconds reportLimit{10000};
-
-// The scripted result arrives through the callback, once, final, without error, and
-// converted as the synchronous export converts it.
+// The asynchronous forms go the same way: invoke() tells them apart.
 template <class Op>
 void asyncExchange(TarnApi* api, std::span<const Case> cases) {
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.variant);
-        script(Op::operation, c.script);
-        typename Op::Reports reports;
-        KelError* error = nullptr;
-        const uint64_t id = Op::call(api, Json::parse(c.inputs), &error, reports);
-        ASSERT_EQ(error, nullptr) << errorView(error);
-        ASSERT_TRUE(reports.waitFinal(reportLimit)) << "no final report";
-        const std::lock_guard lock(reports.mutex);
-        EXPECT_EQ(reports.count, 1);
-        EXPECT_EQ(reports.callId, id);
-        EXPECT_EQ(reports.error, "null");
-        EXPECT_EQ(reports.view, c.cView);
-        EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, true));
-    }
+    exchange<Op>(api, cases);
 }
-
-// A failure at the start: 0, the exact error, and no callback.
 template <class Op>
 void asyncFailure(TarnApi* api, std::span<const Case> cases) {
-    for (const Case& c : cases) {
-        for (const Failure& f : scriptedFailures()) {
-            SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name);
-            fail(Op::operation, f);
-            typename Op::Reports reports;
-            KelError* error = nullptr;
-            EXPECT_EQ(Op::call(api, Json::parse(c.inputs), &error, reports), 0U);
-            ASSERT_NE(error, nullptr);
-            EXPECT_EQ(errorView(error), f.view);
-            EXPECT_EQ(lastArguments(Op::operation), expected(c.arguments, true));
-            release_KelError(error);
-            EXPECT_FALSE(reports.waitFinal(std::chrono::milliseconds(20)));
-            EXPECT_EQ(reports.reports(), 0) << "a call that did not start reported";
-        }
-    }
+    failure<Op>(api, cases);
 }
 
 // ---- text with no UTF-8 form -----------------------------------------------------------------
@@ -798,51 +761,28 @@ inline std::vector<std::string> noUtf8Forms(const char* inputs) {
     return forms;
 }
 
-// Each call returns, normally or with an engine error of its own; the process survives.
+// Each call returns, or starts and ends, normally or with an engine error of its own; the
+// process survives.
 template <class Op>
 void noUtf8(TarnApi* api, std::span<const char* const> cases) {
     for (const char* inputs : cases) {
         for (const std::string& form : noUtf8Forms(inputs)) {
             SCOPED_TRACE(form);
-            typename Op::Result out;
-            fillCanary(out);
-            KelError* error = nullptr;
-            Op::call(api, Json::parse(form), &error, out);
-            if (error != nullptr) {
-                EXPECT_NE(error->code, internalError) << errorView(error);
-                release_KelError(error);
-            } else {
-                out.release();
-            }
+            const Outcome o = invoke<Op>(api, form.c_str());
+            EXPECT_EQ(o.error.find("\"code\":" + std::to_string(internalError)), std::string::npos)
+                << o.error;
         }
     }
 }
 
-// The asynchronous form: refused at once, or started and ended by a final report.
 template <class Op>
 void asyncNoUtf8(TarnApi* api, std::span<const char* const> cases) {
-    for (const char* inputs : cases) {
-        for (const std::string& form : noUtf8Forms(inputs)) {
-            SCOPED_TRACE(form);
-            typename Op::Reports reports;
-            KelError* error = nullptr;
-            const uint64_t id = Op::call(api, Json::parse(form), &error, reports);
-            if (error != nullptr) {
-                EXPECT_NE(error->code, internalError) << errorView(error);
-                release_KelError(error);
-                continue;
-            }
-            ASSERT_NE(id, 0U);
-            ASSERT_TRUE(reports.waitFinal(reportLimit)) << "no final report";
-            const std::lock_guard lock(reports.mutex);
-            EXPECT_EQ(reports.error.find("\"code\":" + std::to_string(internalError)),
-                      std::string::npos)
-                << reports.error;
-        }
-    }
+    noUtf8<Op>(api, cases);
 }
 
 // ---- by number -------------------------------------------------------------------------------
+
+enum class Via { Otx, Py };
 
 struct Streamed {
     bool recognised = false;
@@ -850,103 +790,102 @@ struct Streamed {
     Bytes bytes;
 };
 
-inline void* const untouchedStream = reinterpret_cast<void*>(static_cast<uintptr_t>(0xC0FFEE0));
-constexpr uint64_t untouchedSize = 0xA5A5A5A5A5ULL;
-
-inline Streamed otxCall(int32_t number, const Bytes& input, bool checked, std::size_t size) {
+// One call through kel_call or py_call (their checked forms read only `size` bytes). A
+// number neither dispatcher knows leaves both outputs alone.
+inline Streamed dispatch(Via via, TarnApi* api, int32_t number, const Bytes& input, bool checked,
+                         std::size_t size) {
+    void* const untouchedStream = reinterpret_cast<void*>(static_cast<uintptr_t>(0xC0FFEE0));
+    constexpr uint64_t untouchedSize = 0xA5A5A5A5A5ULL;
     void* stream = untouchedStream;
-    uint64_t outSize = untouchedSize;
-    if (checked) {
-        kel_call_checked(0, number, input.data(), size, &stream, &outSize);
+    uint64_t otxSize = untouchedSize;
+    auto pySize = static_cast<uint32_t>(untouchedSize);
+    Streamed result;
+    if (via == Via::Otx && checked) {
+        kel_call_checked(0, number, input.data(), size, &stream, &otxSize);
+    } else if (via == Via::Otx) {
+        kel_call(0, number, input.data(), &stream, &otxSize);
     } else {
-        kel_call(0, number, input.data(), &stream, &outSize);
+        result.returned =
+            checked ? py_call_checked(api, number, 0, input.data(), size, &pySize, &stream)
+                    : py_call(api, number, 0, input.data(), &pySize, &stream);
     }
-    Streamed result;
     if (stream == untouchedStream) {
-        EXPECT_EQ(outSize, untouchedSize) << "one output of an unrecognised number was written";
+        EXPECT_EQ(otxSize, untouchedSize) << "one output of an unknown number was written";
+        EXPECT_EQ(pySize, static_cast<uint32_t>(untouchedSize)) << "one output was written";
         return result;
     }
     result.recognised = true;
-    result.bytes.resize(static_cast<std::size_t>(outSize));
-    kel_call_result(stream, result.bytes.data());
+    result.bytes.resize(static_cast<std::size_t>(via == Via::Otx ? otxSize : pySize));
+    if (via == Via::Otx) {
+        kel_call_result(stream, result.bytes.data());
+    } else {
+        py_result(result.bytes.data(), static_cast<int32_t>(pySize), stream);
+    }
     return result;
 }
 
-inline Streamed pyCall(TarnApi* api, int32_t number, const Bytes& input, bool checked,
-                       std::size_t size) {
-    void* buffer = untouchedStream;
-    uint32_t outSize = 0xA5A5A5A5U;
-    Streamed result;
-    result.returned = checked
-                          ? py_call_checked(api, number, 0, input.data(), size, &outSize, &buffer)
-                          : py_call(api, number, 0, input.data(), &outSize, &buffer);
-    if (buffer == untouchedStream) {
-        EXPECT_EQ(outSize, 0xA5A5A5A5U) << "one output of an unrecognised number was written";
-        return result;
+// A stream that carries an error record: kel_call's after status 0, py_call's with -1
+// returned; the record begins with its presence byte and the code.
+inline void expectError(Via via, const Streamed& r, int32_t code) {
+    const std::size_t at = via == Via::Otx ? 1 : 0;
+    int32_t found = 0;
+    if (r.bytes.size() >= at + 5 && r.bytes[0] == (at == 1 ? 0 : 1) && r.bytes[at] == 1) {
+        std::memcpy(&found, r.bytes.data() + at + 1, 4);
     }
-    result.recognised = true;
-    result.bytes.resize(outSize);
-    py_result(result.bytes.data(), static_cast<int32_t>(outSize), buffer);
-    return result;
+    EXPECT_EQ(found, code) << hex(r.bytes);
+    EXPECT_EQ(r.returned, via == Via::Py ? -1 : 0);
 }
 
-// The error code in a result stream that carries an error record.
-inline int32_t errorCode(const Bytes& bytes, std::size_t at) {
-    int32_t code = 0;
-    if (bytes.size() >= at + 4) {
-        std::memcpy(&code, bytes.data() + at, 4);
-    }
-    return code;
+// A case's values as one dispatcher sees them.
+struct Side {
+    Bytes input; // without padding: the stream must be read exactly
+    std::string arguments;
+    const char* result;
+};
+
+inline Side side(const Case& c, Via via) {
+    return via == Via::Otx ? Side{bytes(c.otxInput), expected(c.otxArguments), c.otxResult}
+                           : Side{bytes(c.pyInput), expected(c.pyArguments), c.pyResult};
 }
 
-// An input without padding: the stream must be read exactly, so a copy of its own size.
-inline Bytes input(const char* hexText) { return bytes(hexText); }
+inline const char* name(Via via, bool checked) {
+    return via == Via::Otx ? (checked ? "kel_call_checked" : "kel_call")
+                           : (checked ? "py_call_checked" : "py_call");
+}
 
-inline void kelCall(TarnApi* /*api*/, const Number& n) {
+inline void byNumber(Via via, TarnApi* api, const Number& n) {
     for (const Case& c : n.cases) {
         for (const bool checked : {false, true}) {
-            SCOPED_TRACE(std::string(c.variant) + (checked ? ", kel_call_checked" : ", kel_call"));
+            SCOPED_TRACE(std::string(c.variant) + ", " + name(via, checked));
             script(n.operation, c.script);
-            const Bytes in = input(c.otxInput);
-            const Streamed r = otxCall(n.number, in, checked, in.size());
+            const Side s = side(c, via);
+            // The checked py form goes to the local engine through a NULL engine object.
+            const Streamed r =
+                dispatch(via, checked ? nullptr : api, n.number, s.input, checked, s.input.size());
             ASSERT_TRUE(r.recognised);
-            EXPECT_EQ(hex(r.bytes), c.otxResult);
-            EXPECT_EQ(lastArguments(n.operation), expected(c.otxArguments));
+            EXPECT_EQ(r.returned, via == Via::Py ? c.pyReturn : 0);
+            EXPECT_EQ(hex(r.bytes), s.result);
+            EXPECT_EQ(lastArguments(n.operation), s.arguments);
         }
     }
 }
 
-inline void pyCall(TarnApi* api, const Number& n) {
-    for (const Case& c : n.cases) {
-        for (const bool checked : {false, true}) {
-            SCOPED_TRACE(std::string(c.variant) + (checked ? ", py_call_checked" : ", py_call"));
-            script(n.operation, c.script);
-            const Bytes in = input(c.pyInput);
-            // The checked form goes to the local engine through a NULL engine object.
-            const Streamed r = pyCall(checked ? nullptr : api, n.number, in, checked, in.size());
-            ASSERT_TRUE(r.recognised);
-            EXPECT_EQ(r.returned, c.pyReturn);
-            EXPECT_EQ(hex(r.bytes), c.pyResult);
-            EXPECT_EQ(lastArguments(n.operation), expected(c.pyArguments));
-        }
-    }
-}
+inline void kelCall(TarnApi* api, const Number& n) { byNumber(Via::Otx, api, n); }
+inline void pyCall(TarnApi* api, const Number& n) { byNumber(Via::Py, api, n); }
 
 inline void numberFailure(TarnApi* api, const Number& n) {
     for (const Case& c : n.cases) {
         for (const Failure& f : scriptedFailures()) {
-            SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name);
-            fail(n.operation, f);
-            const Bytes otxIn = input(c.otxInput);
-            const Streamed otx = otxCall(n.number, otxIn, false, otxIn.size());
-            EXPECT_EQ(hex(otx.bytes), f.otxResult);
-            EXPECT_EQ(lastArguments(n.operation), expected(c.otxArguments));
-            fail(n.operation, f);
-            const Bytes pyIn = input(c.pyInput);
-            const Streamed py = pyCall(api, n.number, pyIn, false, pyIn.size());
-            EXPECT_EQ(py.returned, -1);
-            EXPECT_EQ(hex(py.bytes), f.pyResult);
-            EXPECT_EQ(lastArguments(n.operation), expected(c.pyArguments));
+            for (const Via via : {Via::Otx, Via::Py}) {
+                SCOPED_TRACE(std::string(c.variant) + ", failure " + f.name + ", " +
+                             name(via, false));
+                fail(n.operation, f);
+                const Side s = side(c, via);
+                const Streamed r = dispatch(via, api, n.number, s.input, false, s.input.size());
+                EXPECT_EQ(hex(r.bytes), via == Via::Otx ? f.otxResult : f.pyResult);
+                EXPECT_EQ(r.returned, via == Via::Py ? -1 : 0);
+                EXPECT_EQ(lastArguments(n.operation), s.arguments);
+            }
         }
     }
 }
@@ -955,20 +894,14 @@ inline void numberFailure(TarnApi* api, const Number& n) {
 // the engine is not called.
 inline void shortInput(TarnApi* api, const Number& n) {
     for (const Case& c : n.cases) {
-        SCOPED_TRACE(c.variant);
         const uint64_t calls = kelsim_callCount(n.operation);
-        const Bytes otxIn = input(c.otxInput);
-        if (!otxIn.empty()) {
-            const Streamed otx = otxCall(n.number, otxIn, true, otxIn.size() - 1);
-            ASSERT_GE(otx.bytes.size(), 6U);
-            EXPECT_EQ(otx.bytes[0], 0);
-            EXPECT_EQ(errorCode(otx.bytes, 2), KEL_ERROR_MALFORMED_INPUT);
-        }
-        const Bytes pyIn = input(c.pyInput);
-        if (!pyIn.empty()) {
-            const Streamed py = pyCall(api, n.number, pyIn, true, pyIn.size() - 1);
-            EXPECT_EQ(py.returned, -1);
-            EXPECT_EQ(errorCode(py.bytes, 1), KEL_ERROR_MALFORMED_INPUT);
+        for (const Via via : {Via::Otx, Via::Py}) {
+            SCOPED_TRACE(std::string(c.variant) + ", " + name(via, true));
+            const Side s = side(c, via);
+            if (!s.input.empty()) {
+                expectError(via, dispatch(via, api, n.number, s.input, true, s.input.size() - 1),
+                            KEL_ERROR_MALFORMED_INPUT);
+            }
         }
         EXPECT_EQ(kelsim_callCount(n.operation), calls) << "the engine was called";
     }
@@ -976,16 +909,11 @@ inline void shortInput(TarnApi* api, const Number& n) {
 
 // A number whose records are not built yet is recognised but answers -1002.
 inline void notAvailable(TarnApi* api, int32_t number, const char* operation) {
-    const Streamed otx = otxCall(number, {}, true, 0);
-    ASSERT_TRUE(otx.recognised);
-    ASSERT_GE(otx.bytes.size(), 6U);
-    EXPECT_EQ(otx.bytes[0], 0);
-    EXPECT_EQ(otx.bytes[1], 1);
-    EXPECT_EQ(errorCode(otx.bytes, 2), KEL_ERROR_NOT_AVAILABLE);
-    const Streamed py = pyCall(api, number, {}, true, 0);
-    ASSERT_TRUE(py.recognised);
-    EXPECT_EQ(py.returned, -1);
-    EXPECT_EQ(errorCode(py.bytes, 1), KEL_ERROR_NOT_AVAILABLE);
+    for (const Via via : {Via::Otx, Via::Py}) {
+        const Streamed r = dispatch(via, api, number, {}, true, 0);
+        ASSERT_TRUE(r.recognised) << name(via, true);
+        expectError(via, r, KEL_ERROR_NOT_AVAILABLE);
+    }
     EXPECT_EQ(kelsim_callCount(operation), 0U);
 }
 
@@ -997,12 +925,12 @@ inline void unnamedNumbers(TarnApi* api) {
         if (std::find(named.begin(), named.end(), n) != named.end()) {
             continue;
         }
-        SCOPED_TRACE(n);
-        for (const bool check : {false, true}) {
-            EXPECT_FALSE(otxCall(n, {}, check, 0).recognised);
-            const Streamed py = pyCall(api, n, {}, check, 0);
-            EXPECT_FALSE(py.recognised);
-            EXPECT_EQ(py.returned, 0);
+        for (const Via via : {Via::Otx, Via::Py}) {
+            for (const bool check : {false, true}) {
+                const Streamed r = dispatch(via, api, n, {}, check, 0);
+                EXPECT_FALSE(r.recognised) << n << ", " << name(via, check);
+                EXPECT_EQ(r.returned, 0) << n << ", " << name(via, check);
+            }
         }
         ++checked;
     }
@@ -1016,6 +944,7 @@ class ConformanceTest : public ::testing::Test {
 protected:
     void SetUp() override {
         kelsim_reset();
+        configure();
         kelsim_restart();
         api = kel_getTarnApi();
         ASSERT_NE(api, nullptr);
@@ -1027,6 +956,8 @@ protected:
         releaseTarnApi(api);
         kelsim_reset();
     }
+    // Between the reset and the restart: what the engine starts on.
+    virtual void configure() {}
     TarnApi* api = nullptr;
 };
 
@@ -1046,23 +977,22 @@ public:
     };
 
 protected:
-    void SetUp() override {
+    void configure() override {
         static int made = 0;
         root_ = std::filesystem::temp_directory_path() /
                 ("kel_admission_" +
                  std::to_string(std::chrono::steady_clock::now().time_since_epoch().count()) + "_" +
                  std::to_string(++made));
         std::filesystem::remove_all(root_);
-        kelsim_reset(); // as ConformanceTest, on a vehicle and a root of its own
         ASSERT_EQ(kelsim_setVehicleJson(R"({"name": "admission", "ecus": [{"name": "ECM"}],
             "servers": {"passwordIterations": 1000}})"),
                   0);
         kelsim_setDataRoot(root_.wstring().c_str());
-        kelsim_restart();
-        api = kel_getTarnApi();
+    }
+    void SetUp() override {
+        ConformanceTest::SetUp();
+        ASSERT_FALSE(HasFatalFailure());
         KelError* error = nullptr;
-        kel_initialize(api, &error);
-        ASSERT_EQ(error, nullptr);
         kel_addUser(api, L"operator", L"operator-password", 1, &error);
         ASSERT_EQ(error, nullptr);
         kel_setServerUserManagement(api, 1, &error);
@@ -1099,87 +1029,47 @@ private:
     TarnApi* anonymous_ = nullptr;
 };
 
-// One call of a synchronous export: its error code, 0 when it succeeded (then with the
-// scripted result when `scripted`).
-template <class Op>
-int32_t callFor(TarnApi* on, const Case& c, bool scripted) {
-    typename Op::Result out;
-    fillCanary(out);
-    KelError* error = nullptr;
-    Op::call(on, Json::parse(c.inputs), &error, out);
-    if (error == nullptr) {
-        if (scripted && c.cView != nullptr) {
-            EXPECT_EQ(out.view(), c.cView);
-        }
-        out.release();
-        return 0;
-    }
-    const int32_t code = error->code;
-    EXPECT_TRUE(untouched(out)) << "an output was written";
-    release_KelError(error);
-    return code;
-}
-
-template <class Op>
-int32_t asyncCallFor(TarnApi* on, const Case& c, bool scripted) {
-    typename Op::Reports reports;
-    KelError* error = nullptr;
-    const uint64_t id = Op::call(on, Json::parse(c.inputs), &error, reports);
-    if (error != nullptr) {
-        const int32_t code = error->code;
-        EXPECT_EQ(id, 0U);
-        release_KelError(error);
-        return code;
-    }
-    EXPECT_TRUE(reports.waitFinal(reportLimit)) << "no final report";
-    const std::lock_guard lock(reports.mutex);
-    if (scripted) {
-        EXPECT_EQ(reports.view, c.cView);
-    }
-    return 0;
-}
-
 // A remote caller that lacks what the operation needs is refused (1300 not logged in,
 // 1308 not an administrator); the one result scripted before then reaches the first
 // caller admitted, so no refused call got as far as the engine's scripted results, let
 // alone the vehicle. An operation whose result cannot be scripted runs on the vehicle:
 // it may fail, but not with a refusal of admission.
-template <class Call>
-void checkAdmission(const char* operation, const AdmissionTest::Callers& who, const Case& c,
-                    Needs needs, Call call) {
+template <class Op>
+void admission(const AdmissionTest::Callers& who, std::span<const Case> cases, Needs needs) {
     constexpr int32_t notLoggedIn = 1300;
     constexpr int32_t needsAdministrator = 1308;
+    const Case& c = cases.front();
     const bool scripted = c.script != nullptr;
     if (scripted) {
-        script(operation, c.script);
+        script(Op::operation, c.script);
     }
     // A call let through took the scripted result: the next would reach the vehicle.
     if (needs != Needs::Anyone) {
-        ASSERT_EQ(call(who.anonymous, c, false), notLoggedIn) << "a connection not logged in";
+        ASSERT_EQ(invoke<Op>(who.anonymous, c.inputs).code, notLoggedIn)
+            << "a connection not logged in";
     }
     if (needs == Needs::Administrator) {
-        ASSERT_EQ(call(who.operatorApi, c, false), needsAdministrator) << "an operator";
+        ASSERT_EQ(invoke<Op>(who.operatorApi, c.inputs).code, needsAdministrator) << "an operator";
     }
     TarnApi* admitted = needs == Needs::Anyone     ? who.anonymous
                         : needs == Needs::Operator ? who.operatorApi
                                                    : who.local;
-    const int32_t code = call(admitted, c, scripted);
+    const Outcome o = invoke<Op>(admitted, c.inputs);
     if (scripted) {
-        EXPECT_EQ(code, 0) << "the scripted result did not reach the caller admitted";
+        EXPECT_FALSE(o.refused) << "the scripted result did not reach the caller admitted: "
+                                << o.error;
+        if (c.cView != nullptr) {
+            EXPECT_EQ(o.view, c.cView);
+        }
     } else {
-        EXPECT_NE(code, notLoggedIn);
-        EXPECT_NE(code, needsAdministrator);
+        EXPECT_NE(o.code, notLoggedIn);
+        EXPECT_NE(o.code, needsAdministrator);
     }
 }
 
 template <class Op>
-void admission(const AdmissionTest::Callers& who, std::span<const Case> cases, Needs needs) {
-    checkAdmission(Op::operation, who, cases.front(), needs, callFor<Op>);
-}
-
-template <class Op>
 void asyncAdmission(const AdmissionTest::Callers& who, std::span<const Case> cases, Needs needs) {
-    checkAdmission(Op::operation, who, cases.front(), needs, asyncCallFor<Op>);
+    admission<Op>(who, cases, needs);
 }
 
 } // namespace kel_conformance

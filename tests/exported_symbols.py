@@ -11,29 +11,27 @@ import subprocess
 import sys
 
 
+# The linker's own markers are not part of the interface.
+LINKER_MARKERS = {"_init", "_fini", "_edata", "_end", "__bss_start"}
+
+
 def exported(library: str, tool: str) -> set[str]:
-    if "objdump" in tool:
-        text = subprocess.run([tool, "-p", library], capture_output=True, text=True, check=True).stdout
-        table = text.split("[Ordinal/Name Pointer] Table", 1)
-        if len(table) != 2:
-            raise SystemExit(f"no export table in {library}")
-        names = set()
-        for line in table[1].splitlines():
-            m = re.match(r"\s*\[\s*\d+\]\s+(\S+)\s*$", line)
-            if m:
-                names.add(m.group(1))
-            elif names and not line.strip():
-                break
-        return names
-    text = subprocess.run([tool, "-D", "--defined-only", library], capture_output=True, text=True,
-                          check=True).stdout
+    if "objdump" not in tool:  # nm: text, data and read-only symbols
+        text = subprocess.run([tool, "-D", "--defined-only", library], capture_output=True, text=True,
+                              check=True).stdout
+        return {p[2] for p in map(str.split, text.splitlines())
+                if len(p) == 3 and p[1] in "TDBRW" and p[2] not in LINKER_MARKERS}
+    text = subprocess.run([tool, "-p", library], capture_output=True, text=True, check=True).stdout
+    table = text.split("[Ordinal/Name Pointer] Table", 1)
+    if len(table) != 2:
+        raise SystemExit(f"no export table in {library}")
     names = set()
-    for line in text.splitlines():
-        parts = line.split()
-        # Text, data and read-only symbols; the linker's own markers (_init, _fini, the
-        # end-of-section symbols) are not part of the interface.
-        if len(parts) == 3 and parts[1] in "TDBRW" and parts[2] not in ("_init", "_fini", "_edata", "_end", "__bss_start"):
-            names.add(parts[2])
+    for line in table[1].splitlines():
+        m = re.match(r"\s*\[\s*\d+\]\s+(\S+)\s*$", line)
+        if m:
+            names.add(m.group(1))
+        elif names and not line.strip():
+            break
     return names
 
 
@@ -45,14 +43,12 @@ def main() -> int:
     args = parser.parse_args()
     expected = {line.strip() for line in open(args.expected) if line.strip()}
     actual = exported(args.library, args.tool)
-    missing = sorted(expected - actual)
-    extra = sorted(actual - expected)
-    for name in missing:
+    for name in sorted(expected - actual):
         print(f"missing export: {name}")
-    for name in extra:
+    for name in sorted(actual - expected):
         print(f"unexpected export: {name}")
     print(f"{len(actual)} exports, {len(expected)} expected")
-    return 1 if missing or extra else 0
+    return 1 if expected != actual else 0
 
 
 if __name__ == "__main__":

@@ -17,14 +17,9 @@ inline std::vector<uint8_t> golden(const std::string& name) {
         throw std::runtime_error("cannot open golden vector " + path);
     }
     std::vector<uint8_t> bytes;
-    std::string line;
-    while (std::getline(file, line)) {
-        if (!line.empty() && line[0] == '#') {
-            continue;
-        }
-        std::istringstream words(line);
-        std::string word;
-        while (words >> word) {
+    for (std::string line; std::getline(file, line);) {
+        std::istringstream words(line.starts_with('#') ? "" : line);
+        for (std::string word; words >> word;) {
             bytes.push_back(static_cast<uint8_t>(std::stoul(word, nullptr, 16)));
         }
     }

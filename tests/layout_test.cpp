@@ -7,7 +7,7 @@
 
 namespace {
 
-TEST(Layout, ErrorRecords) {
+TEST(Layout, RecordsAndTextAsACCallerSeesThem) {
     static_assert(sizeof(void*) == 8, "the library is built for 64-bit targets only");
     EXPECT_EQ(offsetof(KelError, code), 0U);
     EXPECT_EQ(offsetof(KelError, message), 8U);
@@ -32,15 +32,10 @@ TEST(Layout, ErrorRecords) {
     EXPECT_EQ(offsetof(NegativeResponse, bytes), 32U);
     EXPECT_EQ(offsetof(NegativeResponse, byteCount), 40U);
     EXPECT_EQ(sizeof(NegativeResponse), 48U);
-}
 
-TEST(Layout, NamedItemIsFourStrings) {
     EXPECT_EQ(offsetof(NamedItem, itemText1), 0U);
     EXPECT_EQ(offsetof(NamedItem, itemText4), 24U);
     EXPECT_EQ(sizeof(NamedItem), 32U);
-}
-
-TEST(Layout, WideTextIsTheTargetsWcharT) {
 #if defined(_WIN32)
     EXPECT_EQ(sizeof(wchar_t), 2U); // UTF-16
 #else

@@ -35,35 +35,34 @@ TEST(RecordsBase, BaseMembersLeadTheCRecord) {
 
 // ---- one-byte flags ---------------------------------------------------------------------
 
+// A C caller may leave any byte in a bool or flag member (memset, a packed struct, a
+// language without a bool type): it must not reach the engine as an invalid bool, and
+// true goes back to C as 1.
 TEST(RecordsFlag, AnyNonZeroByteIsTrueAndTrueIsOne) {
     for (const uint8_t byte : {uint8_t{0}, uint8_t{1}, uint8_t{2}, uint8_t{0x80}, uint8_t{0xFF}}) {
-        auto* c = kel::toC<ProbeLeaf>(leaf(L"x", 1).get());
-        c->marker = byte;
+        SCOPED_TRACE(static_cast<int>(byte));
+        auto* c = static_cast<Probe*>(allocate_Memory(sizeof(Probe)));
+        std::memset(c, 0, sizeof(Probe));
+        c->text = duplicate_WString(L"");
+        c->leaf = kel::toC<ProbeLeaf>(leaf(L"x", 1).get());
+        c->leaf->marker = byte;
+        std::memcpy(&c->flag, &byte, 1);
+        std::memcpy(&c->switches[1], &byte, 1);
         const auto engine = kel::in::record(c);
-        EXPECT_EQ(engine->marker, byte != 0) << static_cast<int>(byte);
+        const uint8_t one = byte != 0 ? 1 : 0;
+        uint8_t stored[4] = {};
+        std::memcpy(&stored[0], &engine->flag, 1);
+        std::memcpy(&stored[1], engine->switches.data(), 3);
+        EXPECT_EQ(stored[0], one);
+        EXPECT_EQ(stored[1], 0U);
+        EXPECT_EQ(stored[2], one) << "also in a fixed array";
+        EXPECT_EQ(stored[3], 0U);
+        std::memcpy(&stored[0], &engine->leaf->marker, 1);
+        EXPECT_EQ(stored[0], one) << "a flag";
         const std::unique_ptr<ProbeLeaf, void (*)(ProbeLeaf*)> again(
-            kel::toC<ProbeLeaf>(engine.get()), &kel::release<ProbeLeaf>);
-        EXPECT_EQ(again->marker, byte != 0 ? 1U : 0U);
+            kel::toC<ProbeLeaf>(engine->leaf.get()), &kel::release<ProbeLeaf>);
+        EXPECT_EQ(again->marker, one);
     }
-}
-
-TEST(RecordsFlag, ABoolByteOtherThanOneFromCIsTrue) {
-    // A C caller may leave any byte in a bool member (memset, a packed struct, a
-    // language without a bool type); it must not reach the engine as an invalid bool.
-    auto* c = static_cast<Probe*>(allocate_Memory(sizeof(Probe)));
-    std::memset(c, 0, sizeof(Probe));
-    c->text = duplicate_WString(L"");
-    const uint8_t two = 2;
-    std::memcpy(&c->flag, &two, 1);
-    std::memcpy(&c->switches[1], &two, 1);
-    const auto engine = kel::in::record(c);
-    uint8_t stored[4] = {};
-    std::memcpy(&stored[0], &engine->flag, 1);
-    std::memcpy(&stored[1], engine->switches.data(), 3);
-    EXPECT_EQ(stored[0], 1U);
-    EXPECT_EQ(stored[1], 0U);
-    EXPECT_EQ(stored[2], 1U) << "also in a fixed array";
-    EXPECT_EQ(stored[3], 0U);
 }
 
 TEST(RecordsFlag, StreamedFlagBytesBecomeTrue) {

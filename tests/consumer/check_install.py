@@ -27,10 +27,9 @@ def run(*command: object, cwd: pathlib.Path | None = None, env: dict[str, str] |
         expect: int | None = 0) -> str:
     done = subprocess.run([str(c) for c in command], cwd=cwd, env=env, capture_output=True, text=True,
                           timeout=300)
-    failed = done.returncode != 0 if expect is None else done.returncode != expect
-    if expect is None and not failed:
+    if expect is None and done.returncode == 0:
         raise SystemExit(f"SUCCEEDED, expected to fail: {' '.join(map(str, command))}\n{done.stdout}{done.stderr}")
-    if expect is not None and failed:
+    if expect is not None and done.returncode != expect:
         raise SystemExit(f"FAILED ({done.returncode}): {' '.join(map(str, command))}\n{done.stdout}{done.stderr}")
     return done.stdout + done.stderr if expect is None else done.stdout
 
