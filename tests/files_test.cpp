@@ -476,10 +476,7 @@ TEST_F(FileSandbox, EveryEscapeAttemptThroughTheExportsIsRefused) {
                 continue; // no path names the vehicle's order file
             }
             EXPECT_EQ(refusal(attempt, api, escape.path), escape.code)
-                << name << " with \""
-                << std::string(escape.path.begin(),
-                               escape.path.begin() + std::min<std::size_t>(escape.path.size(), 60))
-                << "\"";
+                << name << " with " << fromWide(escape.path.substr(0, 60));
             ++tried;
         }
     }
@@ -538,15 +535,12 @@ TEST_F(FileSandbox, EveryEscapeAttemptThroughKelCallIsRefused) {
             kel_call_checked(0, op.number, in.buffer, in.position, &stream, &size);
             std::vector<uint8_t> result(size);
             kel_call_result(stream, result.data());
-            ASSERT_FALSE(result.empty());
-            EXPECT_EQ(result[0], 0) << "kel_call " << op.number << " succeeded";
-            if (result[0] == 0) {
-                kel::OTXStream out(result.data() + 1, true, true, true);
-                std::shared_ptr<Varno::Kel_cpp::KelError> error;
-                out.read(error);
-                ASSERT_TRUE(error);
-                EXPECT_EQ(error->code, escape.code) << "kel_call " << op.number;
-            }
+            ASSERT_EQ(result.at(0), 0) << "kel_call " << op.number << " succeeded";
+            kel::OTXStream out(result.data() + 1, true, true, true);
+            std::shared_ptr<Varno::Kel_cpp::KelError> error;
+            out.read(error);
+            ASSERT_TRUE(error);
+            EXPECT_EQ(error->code, escape.code) << "kel_call " << op.number;
             ++tried;
         }
     }
@@ -560,11 +554,14 @@ TEST_F(FileSandbox, EveryEscapeAttemptThroughKelCallIsRefused) {
 TEST_F(FileSandbox, HarmlessPathsAreNotRefused) {
     write(L"exchange/a.b..c/file.tar.gz", "x");
     uint8_t found = 9;
-    for (const wchar_t* path :
-         {L"exchange/a.b..c/file.tar.gz", L"./exchange//a.b..c\\.\\file.tar.gz",
-          L"EXCHANGE/a.b..c/file.tar.gz", L"exchange\\a.b..c\\file.tar.gz"}) {
+    // File names follow the platform: one file for any case on Windows only.
+    for (const auto& [path, expected] : {std::pair{L"exchange/a.b..c/file.tar.gz", 1},
+                                         {L"./exchange//a.b..c\\.\\file.tar.gz", 1},
+                                         {L"EXCHANGE/a.b..c/file.tar.gz", 1},
+                                         {L"exchange\\a.b..c\\file.tar.gz", 1},
+                                         {L"exchange/A.B..C/FILE.TAR.GZ", onWindows ? 1 : 0}}) {
         EXPECT_ENGINE_ERROR(error, 0, kel_isFile(api, path, &error, &found));
-        EXPECT_EQ(found, 1);
+        EXPECT_EQ(found, expected) << fromWide(path);
     }
     // A link that stays inside its public directory is followed; one into another public
     // directory is not (its entries would have two homes).
@@ -574,20 +571,6 @@ TEST_F(FileSandbox, HarmlessPathsAreNotRefused) {
         EXPECT_ENGINE_ERROR(across, Outside,
                             kel_isFile(api, L"projects/elsewhere/file.tar.gz", &across, &found));
     }
-    // File names follow the platform: one file for any case on Windows only.
-    EXPECT_ENGINE_ERROR(error, 0, kel_isFile(api, L"exchange/A.B..C/FILE.TAR.GZ", &error, &found));
-    EXPECT_EQ(found, onWindows ? 1 : 0);
-}
-
-TEST_F(FileSandbox, PublicDirectoriesThemselvesCannotBeDeletedMovedOrReplaced) {
-    KelError* outcome = nullptr;
-    EXPECT_ENGINE_ERROR(error, 0, kel_deleteDirectory(api, L"projects", &error, &outcome));
-    EXPECT_EQ(codeOf(outcome), PublicRoot);
-    uint8_t moved = 9;
-    EXPECT_ENGINE_ERROR(error, PublicRoot,
-                        kel_moveDirectory(api, L"traces", L"exchange/traces", &error, &moved));
-    EXPECT_TRUE(fs::is_directory(real(L"traces")));
-    EXPECT_TRUE(fs::is_directory(real(L"projects")));
 }
 
 // ---- reading and writing ----------------------------------------------------------------
@@ -622,15 +605,14 @@ TEST_F(FilesTest, ReadAndWriteRealFilesWithOffsetsModesAndNonAsciiNames) {
     EXPECT_FALSE(fs::exists(real(L"exchange/none")));
 
     // The name comes back as it was written, through the file's record.
-    FileInfo* info = nullptr;
-    EXPECT_ENGINE_ERROR(infoError, 0, kel_getFileInfo(api, name, &infoError, &info));
+    const auto info = kel_test::fetchRecord(
+        release_FileInfo, [&](auto... out) { kel_getFileInfo(api, name, out...); });
     ASSERT_NE(info, nullptr);
     EXPECT_EQ(std::wstring(info->name), L"\u00d6l \U0001F697.bin");
     EXPECT_EQ(std::wstring(info->text1), name);
     EXPECT_EQ(info->value2, 3U);
     EXPECT_GT(info->value3, 1600000000000ULL);        // milliseconds since 1970
     EXPECT_EQ(std::wstring(info->text2).size(), 20U); // 2026-11-22T07:42:00Z
-    release_FileInfo(info);
 }
 
 using FilesConcurrency = FilesTest;
@@ -706,72 +688,68 @@ TEST_F(FilesTest, DirectoryTreesDescribeRealEntriesAndAreReleasedWhole) {
     put(real(L"traces/2026/11/run2.trc"), "1");
     put(real(L"traces/2026/readme.txt"), "r");
     put(real(L"traces/top.trc"), "");
-    ErrorSlot error;
-    DirectoryInfo* tree = nullptr;
-    kel_getTraceDirectory(api, 1, &error, &tree);
+    // Each tree is released whole by one call; LeakSanitizer holds us to it.
+    const auto tree = kel_test::fetchRecord(
+        release_DirectoryInfo, [&](auto... out) { kel_getTraceDirectory(api, 1, out...); });
     ASSERT_NE(tree, nullptr);
     EXPECT_EQ(std::wstring(tree->name), L"traces");
-    EXPECT_EQ(shape(tree), "traces{top.trc:0 traces/2026{readme.txt:1 "
-                           "traces/2026/11{run1.trc:5 run2.trc:1 } } }");
+    EXPECT_EQ(shape(tree.get()), "traces{top.trc:0 traces/2026{readme.txt:1 "
+                                 "traces/2026/11{run1.trc:5 run2.trc:1 } } }");
     EXPECT_EQ(tree->directories[0]->value1 & 0x10U, 0x10U); // the directory attribute
-    release_DirectoryInfo(tree); // the whole tree; LeakSanitizer holds us to it
 
     // One level only: the sub-directory is named, its contents unread ...
-    DirectoryInfo* flat = nullptr;
-    kel_getDirectoryInfo(api, L"traces", 0, &error, &flat);
+    const auto flat = kel_test::fetchRecord(release_DirectoryInfo, [&](auto... out) {
+        kel_getDirectoryInfo(api, L"traces", 0, out...);
+    });
     ASSERT_NE(flat, nullptr);
-    EXPECT_EQ(shape(flat), "traces{top.trc:0 traces/2026?{} }");
+    EXPECT_EQ(shape(flat.get()), "traces{top.trc:0 traces/2026?{} }");
     // ... and filled in on request, from a record given back as input.
-    DirectoryInfo* filled = nullptr;
-    kel_initializeDirectoryElements(api, directoryRecord(flat->directories[0]->text1), 1, &error,
-                                    &filled);
+    const auto filled = kel_test::fetchRecord(release_DirectoryInfo, [&](auto... out) {
+        kel_initializeDirectoryElements(api, directoryRecord(flat->directories[0]->text1), 1,
+                                        out...);
+    });
     ASSERT_NE(filled, nullptr);
-    EXPECT_EQ(shape(filled), "traces/2026{readme.txt:1 traces/2026/11{run1.trc:5 run2.trc:1 } }");
-    release_DirectoryInfo(filled);
-    release_DirectoryInfo(flat);
+    EXPECT_EQ(shape(filled.get()),
+              "traces/2026{readme.txt:1 traces/2026/11{run1.trc:5 run2.trc:1 } }");
 
-    List<FileInfo, release_FileInfo_array> found;
-    kel_findFiles(api, L"traces", L"*.trc", 1, &error, &found.items, &found.count);
-    ASSERT_EQ(found.count, 3U);
-    EXPECT_EQ(std::wstring(found.items[0]->text1), L"traces/2026/11/run1.trc");
-    EXPECT_EQ(std::wstring(found.items[2]->text1), L"traces/top.trc");
-    List<DirectoryInfo, release_DirectoryInfo_array> dirs;
-    kel_findDirectories(api, directoryRecord(L"traces"), L"1?", 1, &error, &dirs.items,
-                        &dirs.count);
-    ASSERT_EQ(dirs.count, 1U);
-    EXPECT_EQ(std::wstring(dirs.items[0]->text1), L"traces/2026/11");
-    EXPECT_FALSE(error);
+    const auto found = kel_test::fetch<List<FileInfo, release_FileInfo_array>>(
+        [&](auto... out) { kel_findFiles(api, L"traces", L"*.trc", 1, out...); });
+    ASSERT_EQ(found->count, 3U);
+    EXPECT_EQ(std::wstring(found->items[0]->text1), L"traces/2026/11/run1.trc");
+    EXPECT_EQ(std::wstring(found->items[2]->text1), L"traces/top.trc");
+    const auto dirs =
+        kel_test::fetch<List<DirectoryInfo, release_DirectoryInfo_array>>([&](auto... out) {
+            kel_findDirectories(api, directoryRecord(L"traces"), L"1?", 1, out...);
+        });
+    ASSERT_EQ(dirs->count, 1U);
+    EXPECT_EQ(std::wstring(dirs->items[0]->text1), L"traces/2026/11");
 }
 
 TEST_F(FilesTest, PublicDirectoriesAreRealFoldersAndMoreCanBeAdded) {
-    ErrorSlot error;
-    List<DirectoryInfo, release_DirectoryInfo_array> publics;
-    kel_getPublicDirectories(api, &error, &publics.items, &publics.count);
-    ASSERT_FALSE(error);
+    const auto publics = kel_test::fetch<List<DirectoryInfo, release_DirectoryInfo_array>>(
+        [&](auto... out) { kel_getPublicDirectories(api, out...); });
     std::vector<std::wstring> names;
-    for (uint32_t i = 0; i < publics.count; ++i) {
-        names.emplace_back(publics.items[i]->name);
-        EXPECT_TRUE(fs::is_directory(root / fromWide(publics.items[i]->name)));
+    for (uint32_t i = 0; i < publics->count; ++i) {
+        names.emplace_back(publics->items[i]->name);
+        EXPECT_TRUE(fs::is_directory(root / fromWide(names.back())));
     }
     EXPECT_EQ(names, (std::vector<std::wstring>{L"broker", L"configuration", L"exchange",
                                                 L"projects", L"reports", L"traces"}));
 
-    kel_addPublicDirectory(api, L"Archive", L"reports/2026/archive", &error);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(e, kel_addPublicDirectory(api, L"Archive", L"reports/2026/archive", &e));
     write(L"archive/a.txt", "a");
     EXPECT_EQ(contents(root / "reports/2026/archive/a.txt"), "a");
     // The same file under both names.
     wchar_t** paths = texts({L"ARCHIVE/a.txt", L"reports/missing.txt"});
-    List<FileReferenceResult, release_FileReferenceResult_array> refs;
-    kel_getFileReferences(api, paths, 2, &error, &refs.items, &refs.count);
+    const auto refs = kel_test::fetch<List<FileReferenceResult, release_FileReferenceResult_array>>(
+        [&](auto... out) { kel_getFileReferences(api, paths, 2, out...); });
     release_StringArray(paths, 2);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(refs.count, 2U);
-    ASSERT_EQ(refs.items[0]->referenceCount, 2U);
-    EXPECT_EQ(std::wstring(refs.items[0]->references[0]), L"Archive/a.txt");
-    EXPECT_EQ(std::wstring(refs.items[0]->references[1]), L"reports/2026/archive/a.txt");
-    EXPECT_EQ(refs.items[0]->error, nullptr);
-    EXPECT_EQ(entryCode(refs.items + 1, 1), NotFound);
+    ASSERT_EQ(refs->count, 2U);
+    ASSERT_EQ(refs->items[0]->referenceCount, 2U);
+    EXPECT_EQ(std::wstring(refs->items[0]->references[0]), L"Archive/a.txt");
+    EXPECT_EQ(std::wstring(refs->items[0]->references[1]), L"reports/2026/archive/a.txt");
+    EXPECT_EQ(refs->items[0]->error, nullptr);
+    EXPECT_EQ(entryCode(refs->items + 1, 1), NotFound);
 
     // A taken name is refused; the same name for the same folder again is not.
     EXPECT_ENGINE_ERROR(e, 0, kel_addPublicDirectory(api, L"archive", L"reports/2026/archive", &e));
@@ -779,8 +757,9 @@ TEST_F(FilesTest, PublicDirectoriesAreRealFoldersAndMoreCanBeAdded) {
 }
 
 // Users, certificates, interfaces, the update store and the engine's configuration are
-// the engine's alone: no public directory reaches them, whoever asks.
-TEST_F(FilesTest, TheEnginesOwnFilesAreOutOfEveryPublicDirectorysReach) {
+// the engine's alone: no public directory reaches them, whoever asks. Nor can a public
+// directory itself be deleted or moved.
+TEST_F(FileSandbox, TheEnginesOwnFilesAndThePublicRootsAreOutOfReach) {
     for (const wchar_t* folder :
          {L"users", L"certificates", L"interfaces", L"updates", L"users/more", L"updates/packages",
           L"configuration", L"configuration/engine.json"}) {
@@ -803,6 +782,14 @@ TEST_F(FilesTest, TheEnginesOwnFilesAreOutOfEveryPublicDirectorysReach) {
     EXPECT_ENGINE_ERROR(e, UnknownPublic,
                         kel_pathExists(api, L"updates/installed.json", &e, &exists));
     write(L"configuration/ecu-order.txt", "the rest of the folder stays the clients'");
+
+    KelError* outcome = nullptr;
+    EXPECT_ENGINE_ERROR(e, 0, kel_deleteDirectory(api, L"projects", &e, &outcome));
+    EXPECT_EQ(codeOf(outcome), PublicRoot);
+    EXPECT_ENGINE_ERROR(e, PublicRoot,
+                        kel_moveDirectory(api, L"traces", L"exchange/traces", &e, &exists));
+    EXPECT_TRUE(fs::is_directory(real(L"traces")));
+    EXPECT_TRUE(fs::is_directory(real(L"projects")));
 }
 
 // ---- per-entry outcomes -------------------------------------------------------------------
@@ -908,46 +895,17 @@ TEST_F(FilesTest, ARefusedCopyLeavesNoFileBehind) {
 
 // ---- asynchronous copies ------------------------------------------------------------------
 
-// What an asynchronous copy reported: each report's size and whether it was the final
-// one, each entry's code (0 when copied) and, for path copies, the copied entries' targets.
-template <class R, void (*Release)(R**, uint64_t)>
-struct Reports {
-    std::mutex mutex;
-    std::condition_variable changed;
-    std::vector<std::pair<uint32_t, bool>> reports;
-    std::vector<int32_t> codes;
-    std::vector<std::wstring> targets;
-    bool final = false;
-    int32_t finalCode = 0;
-    uint64_t callId = 0;
-
-    static void on(R** results, uint32_t count, bool isFinal, uint64_t callId, KelError* error,
-                   void* context) {
-        auto* self = static_cast<Reports*>(context);
-        {
-            const std::lock_guard lock(self->mutex);
-            self->reports.emplace_back(count, isFinal);
-            for (uint32_t i = 0; i < count; ++i) {
-                self->codes.push_back(results[i]->error ? results[i]->error->code : 0);
-                if constexpr (std::is_same_v<R, PathCopyResult>) {
-                    if (results[i]->error == nullptr) {
-                        self->targets.emplace_back(results[i]->item->target);
-                    }
-                }
-            }
-            self->callId = callId;
-            self->final = isFinal;
-            self->finalCode = error ? error->code : 0;
-        }
-        Release(results, count);
-        release_KelError(error);
-        self->changed.notify_all();
+// A copied entry's target, or "!" and the code of the entry that failed.
+template <class R>
+std::wstring copyOutcome(const R& r) {
+    if (r.error != nullptr) {
+        return L"!" + std::to_wstring(r.error->code);
     }
-    bool waitFor(const std::function<bool()>& done) {
-        std::unique_lock lock(mutex);
-        return changed.wait_for(lock, std::chrono::seconds(20), done);
+    if constexpr (std::is_same_v<R, PathCopyResult>) {
+        return r.item->target;
     }
-};
+    return L"";
+}
 
 TEST_F(FilesTest, ACancelledAsynchronousCopyLeavesAConsistentTree) {
     for (int d = 0; d < 4; ++d) {
@@ -957,25 +915,30 @@ TEST_F(FilesTest, ACancelledAsynchronousCopyLeavesAConsistentTree) {
         }
     }
     kelsim_setAsyncInterval("copyPathAsync", 15); // one entry per report, 15 ms apart
-    Reports<PathCopyResult, release_PathCopyResult_array> reports;
+    kel_test::AsyncReports<PathCopyResult, release_PathCopyResult_array> reports(
+        copyOutcome<PathCopyResult>);
     ErrorSlot error;
     const uint64_t id = kel_copyPathAsync(api, pathCopy(L"projects/big", L"exchange/big", false),
-                                          &error, reports.on, &reports);
+                                          &error, reports.callback, &reports);
     ASSERT_NE(id, 0U);
-    ASSERT_TRUE(reports.waitFor([&] { return reports.reports.size() >= 8 || reports.final; }));
+    {
+        std::unique_lock lock(reports.mutex);
+        ASSERT_TRUE(reports.changed.wait_for(lock, std::chrono::seconds(20), [&] {
+            return reports.texts.size() >= 8 || reports.done;
+        }));
+    }
     EXPECT_ENGINE_ERROR(e, 0, kel_cancelAsyncCalls(api, &id, 1, &e));
-    ASSERT_TRUE(reports.waitFor([&] { return reports.final; }));
-    EXPECT_EQ(reports.finalCode, Cancelled);
-    EXPECT_EQ(reports.callId, id);
-    EXPECT_EQ(std::count(reports.codes.begin(), reports.codes.end(), 0), std::ssize(reports.codes));
+    ASSERT_TRUE(reports.wait());
+    EXPECT_EQ(reports.errorCode, Cancelled);
 
     // What was reported copied is there whole; nothing else is, not even a part file.
-    ASSERT_LT(reports.targets.size(), 1U + 4 + 40) << "the copy ended before the cancel";
+    const auto targets = reports.all();
+    ASSERT_LT(targets.size(), 1U + 4 + 40) << "the copy ended before the cancel";
     const auto onDisk = std::distance(fs::recursive_directory_iterator(real(L"exchange/big")), {});
-    EXPECT_EQ(onDisk + 1, std::ssize(reports.targets));
-    for (const auto& target : reports.targets) {
+    EXPECT_EQ(onDisk + 1, std::ssize(targets));
+    for (const auto& target : targets) {
         const fs::path copy = real(target);
-        ASSERT_TRUE(fs::exists(copy)) << std::string(target.begin(), target.end());
+        ASSERT_TRUE(fs::exists(copy)) << fromWide(target);
         if (fs::is_regular_file(copy)) {
             const std::wstring source =
                 L"projects/big" + target.substr(std::wstring(L"exchange/big").size());
@@ -990,16 +953,16 @@ TEST_F(FilesTest, AnAsynchronousFileCopyReportsInSlicesWithPerEntryErrors) {
     write(L"exchange/b.txt", "b");
     fs::create_directories(real(L"reports/in"));
     kelsim_setAsyncReports("copyFilesAsync", 2);
-    auto* config =
-        fileCopy({L"exchange/a.txt", L"/etc/passwd", L"exchange/b.txt"}, L"reports/in", true);
-    Reports<FileCopyResult, release_FileCopyResult_array> seen;
-    ErrorSlot error;
-    kel_copyFilesAsync(api, config, &error, seen.on, &seen);
-    ASSERT_FALSE(error);
-    ASSERT_TRUE(seen.waitFor([&] { return seen.final; }));
-    const std::lock_guard lock(seen.mutex);
-    EXPECT_EQ(seen.reports, (std::vector<std::pair<uint32_t, bool>>{{1, false}, {2, true}}));
-    EXPECT_EQ(seen.codes, (std::vector<int32_t>{0, Absolute, 0}));
+    kel_test::AsyncReports<FileCopyResult, release_FileCopyResult_array> seen(
+        copyOutcome<FileCopyResult>);
+    seen.run([&](auto... call) {
+        return kel_copyFilesAsync(
+            api,
+            fileCopy({L"exchange/a.txt", L"/etc/passwd", L"exchange/b.txt"}, L"reports/in", true),
+            call...);
+    });
+    EXPECT_EQ(seen.texts, (std::vector<std::vector<std::wstring>>{{L""}, {L"!1604", L""}}));
+    EXPECT_EQ(seen.finals, (std::vector<bool>{false, true}));
     EXPECT_EQ(contents(real(L"reports/in/b.txt")), "b");
 }
 
@@ -1018,30 +981,24 @@ TEST_F(FilesTest, FiltersSelectFilesAndCopyTheSelectedProject) {
     FileFilter include{duplicate_WString(L"*.odx"), 0, 0};
     FileFilter exclude{duplicate_WString(L"ecu/skip*"), 1, 0};
     FileFilter* filters[] = {&include, &exclude};
-    ErrorSlot error;
-    wchar_t** names = nullptr;
-    uint32_t count = 0;
-    kel_filterFiles(api, filters, 2, project.c_str(), &error, &names, &count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(count, 1U);
-    EXPECT_EQ(std::wstring(names[0]), project + L"/ecu/engine.odx");
-    release_StringArray(names, count);
+    const auto names = kel_test::fetch<List<wchar_t, release_StringArray>>(
+        [&](auto... out) { kel_filterFiles(api, filters, 2, project.c_str(), out...); });
+    ASSERT_EQ(names->count, 1U);
+    EXPECT_EQ(std::wstring(names->items[0]), project + L"/ecu/engine.odx");
 
-    DirectoryInfo* tree = nullptr;
-    kel_getSelectedProjectDirectory(api, 1, &error, &tree);
+    const auto tree = kel_test::fetchRecord(release_DirectoryInfo, [&](auto... out) {
+        kel_getSelectedProjectDirectory(api, 1, out...);
+    });
     ASSERT_NE(tree, nullptr);
     EXPECT_EQ(std::wstring(tree->text1), project);
-    release_DirectoryInfo(tree);
 
     fs::create_directories(real(L"exchange/copy"));
     auto* config = zeroed<FileCopyConfig>();
     config->target = duplicate_WString(L"exchange/copy");
-    List<FileInfo, release_FileInfo_array> copied;
-    kel_copyProjectWithFilters(api, filters, 2, 1, config, L"", &error, &copied.items,
-                               &copied.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(copied.count, 1U);
-    EXPECT_EQ(std::wstring(copied.items[0]->text1), L"exchange/copy/ecu/engine.odx");
+    const auto copied = kel_test::fetch<List<FileInfo, release_FileInfo_array>>(
+        [&](auto... out) { kel_copyProjectWithFilters(api, filters, 2, 1, config, L"", out...); });
+    ASSERT_EQ(copied->count, 1U);
+    EXPECT_EQ(std::wstring(copied->items[0]->text1), L"exchange/copy/ecu/engine.odx");
     EXPECT_EQ(contents(real(L"exchange/copy/ecu/engine.odx")), "odx");
     EXPECT_FALSE(fs::exists(real(L"exchange/copy/notes.txt")));
     release_Memory(include.pattern);
@@ -1049,20 +1006,16 @@ TEST_F(FilesTest, FiltersSelectFilesAndCopyTheSelectedProject) {
 }
 
 TEST_F(FilesTest, CreateRenameAndMoveWorkOnRealEntries) {
-    ErrorSlot error;
-    DirectoryInfo* made = nullptr;
-    kel_createDirectory(api, directoryRecord(L"exchange"), L"\u00e9t\u00e9", &error, &made);
-    ASSERT_FALSE(error);
+    const auto made = kel_test::fetchRecord(release_DirectoryInfo, [&](auto... out) {
+        kel_createDirectory(api, directoryRecord(L"exchange"), L"\u00e9t\u00e9", out...);
+    });
     EXPECT_EQ(std::wstring(made->text1), L"exchange/\u00e9t\u00e9");
-    release_DirectoryInfo(made);
-    FileInfo* file = nullptr;
-    kel_createFile(api, directoryRecord(L"exchange/\u00e9t\u00e9"), L"a.txt", &error, &file);
-    ASSERT_FALSE(error);
-    EXPECT_EQ(file->value2, 0U);
-    release_FileInfo(file);
-    EXPECT_ENGINE_ERROR(
-        e, Exists,
-        kel_createFile(api, directoryRecord(L"exchange/\u00e9t\u00e9"), L"a.txt", &e, &file));
+    const auto create = [&](auto... out) {
+        kel_createFile(api, directoryRecord(L"exchange/\u00e9t\u00e9"), L"a.txt", out...);
+    };
+    EXPECT_EQ(kel_test::fetchRecord(release_FileInfo, create)->value2, 0U);
+    FileInfo* again = nullptr;
+    EXPECT_ENGINE_ERROR(e, Exists, create(&e, &again));
 
     EXPECT_ENGINE_ERROR(e, 0, kel_renameFile(api, L"exchange/\u00e9t\u00e9/a.txt", L"b.txt", &e));
     // A new name is one name, never a path.
@@ -1082,8 +1035,7 @@ TEST_F(FilesTest, CreateRenameAndMoveWorkOnRealEntries) {
     EXPECT_TRUE(fs::is_directory(real(L"reports/summer")));
 
     wchar_t* resolved = nullptr;
-    kel_resolvePath(api, L"reports/summer", &error, &resolved);
-    ASSERT_FALSE(error);
+    ASSERT_SUCCEEDS(e, kel_resolvePath(api, L"reports/summer", &e, &resolved));
     EXPECT_TRUE(fs::equivalent(fs::path(resolved), real(L"reports/summer")));
     release_Memory(resolved);
 }
