@@ -17,7 +17,6 @@
 #include <memory>
 #include <mutex>
 #include <set>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -27,6 +26,8 @@ namespace fs = std::filesystem;
 using kel_test::AsyncWatch;
 using kel_test::EngineTest;
 using kel_test::ErrorSlot;
+using kel_test::fetch;
+using kel_test::fetchRecord;
 using kel_test::freshTempPath;
 using kel_test::List;
 using kel_test::zeroed;
@@ -95,9 +96,7 @@ Bytes ecuImage(const std::string& version, std::size_t size) {
 
 std::string read(const fs::path& file) {
     std::ifstream in(file, std::ios::binary);
-    std::stringstream s;
-    s << in.rdbuf();
-    return s.str();
+    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
 }
 
 void put(const fs::path& file, const std::string& text) {
@@ -294,14 +293,11 @@ protected:
     }
 
     std::wstring version(const wchar_t* target) {
-        const wchar_t* targets[] = {target};
-        ErrorSlot error;
-        List<ReadDataResult, release_ReadDataResult_array> out;
-        kel_readIdentificationValues(api, const_cast<wchar_t**>(targets), 1, &error, &out.items,
-                                     &out.count);
-        EXPECT_FALSE(error);
-        for (uint32_t i = 0; out.count == 1 && i < out.items[0]->parameterCount; ++i) {
-            const ParameterResult& p = *out.items[0]->parameters[i];
+        wchar_t* targets[] = {const_cast<wchar_t*>(target)};
+        const auto out = fetch<List<ReadDataResult, release_ReadDataResult_array>>(
+            [&](auto... result) { kel_readIdentificationValues(api, targets, 1, result...); });
+        for (uint32_t i = 0; out->count == 1 && i < out->items[0]->parameterCount; ++i) {
+            const ParameterResult& p = *out->items[0]->parameters[i];
             if (std::wstring(p.itemText2) == L"F189") {
                 return p.text1;
             }
@@ -310,13 +306,10 @@ protected:
     }
 
     std::map<std::wstring, std::wstring> versions() {
-        ErrorSlot error;
-        Items items;
-        kel_getCurrentVersions(api, &error, &items.items, &items.count);
-        EXPECT_FALSE(error);
+        const auto items = fetch<Items>([&](auto... out) { kel_getCurrentVersions(api, out...); });
         std::map<std::wstring, std::wstring> out;
-        for (uint32_t i = 0; i < items.count; ++i) {
-            out[items.items[i]->itemText1] = items.items[i]->itemText2;
+        for (uint32_t i = 0; i < items->count; ++i) {
+            out[items->items[i]->itemText1] = items->items[i]->itemText2;
         }
         return out;
     }
@@ -324,14 +317,12 @@ protected:
     // name-version:state of each package listed.
     std::vector<std::wstring> listed(void (*list)(TarnApi*, KelError**, UpdatePackageInfo***,
                                                   uint32_t*)) {
-        ErrorSlot error;
-        Packages out;
-        list(api, &error, &out.items, &out.count);
-        EXPECT_FALSE(error) << (error ? error->code : 0);
+        const auto out = fetch<Packages>([&](auto... result) { list(api, result...); });
         std::vector<std::wstring> names;
-        for (uint32_t i = 0; i < out.count; ++i) {
-            names.push_back(std::wstring(out.items[i]->name) + L"-" + out.items[i]->version + L":" +
-                            std::to_wstring(out.items[i]->state));
+        for (uint32_t i = 0; i < out->count; ++i) {
+            const UpdatePackageInfo& p = *out->items[i];
+            names.push_back(std::wstring(p.name) + L"-" + p.version + L":" +
+                            std::to_wstring(p.state));
         }
         std::sort(names.begin(), names.end());
         return names;
@@ -348,18 +339,16 @@ protected:
     // the largest TransferData request.
     std::vector<std::wstring> unitsTalkedTo(uint64_t monitor, std::map<std::wstring, int>* counts,
                                             uint32_t* largestTransfer = nullptr) {
-        ErrorSlot error;
-        List<PduMonitoringItem, release_PduMonitoringItem_array> items;
-        kel_getPduMonitoringItems(api, monitor, 0, 0, &error, &items.items, &items.count);
-        EXPECT_FALSE(error);
+        const auto items = fetch<List<PduMonitoringItem, release_PduMonitoringItem_array>>(
+            [&](auto... out) { kel_getPduMonitoringItems(api, monitor, 0, 0, out...); });
         std::vector<std::wstring> order;
-        for (uint32_t i = 0; i < items.count; ++i) {
-            const std::wstring unit = items.items[i]->text1;
-            if (items.items[i]->value1 == 1) {
+        for (uint32_t i = 0; i < items->count; ++i) {
+            const PduMonitoringItem& item = *items->items[i];
+            const std::wstring unit = item.text1;
+            if (item.value1 == 1) {
                 ++(*counts)[unit];
-                if (largestTransfer != nullptr && items.items[i]->dataLength > 0 &&
-                    items.items[i]->data[0] == 0x36) {
-                    *largestTransfer = std::max(*largestTransfer, items.items[i]->dataLength);
+                if (largestTransfer != nullptr && item.dataLength > 0 && item.data[0] == 0x36) {
+                    *largestTransfer = std::max(*largestTransfer, item.dataLength);
                 }
             }
             if (order.empty() || order.back() != unit) {
@@ -369,10 +358,17 @@ protected:
         return order;
     }
 
-    std::unique_ptr<Results> update(VehicleUpdateConfig* c, KelError** error) {
-        auto out = std::make_unique<Results>();
-        kel_updateVehicle(api, c, error, &out->items, &out->count);
+    // The engine's own config for `targets`, none for every unit.
+    VehicleUpdateConfig* madeConfig(std::vector<const wchar_t*> targets = {}) {
+        VehicleUpdateConfig* out = nullptr;
+        EXPECT_ENGINE_ERROR(
+            e, 0,
+            kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(targets.data()),
+                                          static_cast<uint32_t>(targets.size()), &e, &out));
         return out;
+    }
+    std::unique_ptr<Results> update(VehicleUpdateConfig* c) {
+        return fetch<Results>([&](auto... out) { kel_updateVehicle(api, c, out...); });
     }
 
     // Updates the ECM and the BCM asynchronously, reported to `watch`; whether it ended.
@@ -417,12 +413,10 @@ TEST_F(VehicleUpdateTest, TheBrokerOffersItsValidPackagesAndSkipsTheOthersWithAn
     put(packages / "badsum" / "manifest.json",
         manifest("B", "1", "ecu", "ECM", "p.bin", 1, "crc32:12345"));
 
-    ErrorSlot error;
-    Packages offered;
-    kel_getPackagesFromBroker(api, &error, &offered.items, &offered.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(offered.count, 2U);
-    const UpdatePackageInfo& ecm = *offered.items[0];
+    const auto offered =
+        fetch<Packages>([&](auto... out) { kel_getPackagesFromBroker(api, out...); });
+    ASSERT_EQ(offered->count, 2U);
+    const UpdatePackageInfo& ecm = *offered->items[0];
     EXPECT_STREQ(ecm.name, L"ECM_SW");
     EXPECT_STREQ(ecm.version, L"5432");
     EXPECT_EQ(ecm.kind, 1U);
@@ -432,21 +426,20 @@ TEST_F(VehicleUpdateTest, TheBrokerOffersItsValidPackagesAndSkipsTheOthersWithAn
     EXPECT_EQ(ecm.checksum, wide(crcText(crc32(ecuImage("5432", 3000)))));
     EXPECT_STREQ(ecm.location, L"broker/packages/ECM_SW-5432");
     EXPECT_EQ(ecm.state, 0);
-    EXPECT_STREQ(offered.items[1]->name, L"tool");
-    EXPECT_EQ(offered.items[1]->kind, 2U);
+    EXPECT_STREQ(offered->items[1]->name, L"tool");
+    EXPECT_EQ(offered->items[1]->kind, 2U);
 
-    EventReport* report = nullptr;
-    kel_getCurrentEvents(api, channel, 100, &error, &report);
-    ASSERT_FALSE(error);
+    const auto report = fetchRecord(
+        release_EventReport, [&](auto... out) { kel_getCurrentEvents(api, channel, 100, out...); });
+    ASSERT_NE(report, nullptr);
     std::set<std::wstring> skipped;
-    for (uint32_t i = 0; report != nullptr && i < report->eventCount; ++i) {
+    for (uint32_t i = 0; i < report->eventCount; ++i) {
+        const std::wstring detail = report->events[i]->detail;
         if (report->events[i]->kind == 60) {
-            EXPECT_EQ(report->events[i]->code, 2204) << report->events[i]->detail;
-            const std::wstring detail = report->events[i]->detail;
+            EXPECT_EQ(report->events[i]->code, 2204) << detail;
             skipped.insert(detail.substr(0, detail.find(L':')));
         }
     }
-    release_EventReport(report);
     EXPECT_EQ(skipped,
               (std::set<std::wstring>{L"badsum", L"escape", L"nomanifest", L"notjson", L"self"}));
     EXPECT_TRUE(listed(kel_getUpdatePackages).empty()) << "listing downloads nothing";
@@ -610,12 +603,9 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     publishEcu("ECM", "999");  // older by number, though "9" sorts after "5"
     publishEcu("TCM", "0830"); // what it runs already
     publishEcu("BCM", "0460", 5000);
-    ErrorSlot error;
     EXPECT_TRUE(updatesOnBroker());
 
-    VehicleUpdateConfig* made = nullptr;
-    kel_createVehicleUpdateConfig(api, nullptr, 0, &error, &made);
-    ASSERT_FALSE(error) << error->code;
+    VehicleUpdateConfig* made = madeConfig();
     ASSERT_NE(made, nullptr);
     EXPECT_EQ(made->targetCount, 5U) << "no targets: every unit";
     EXPECT_EQ(made->stopOnError, 1);
@@ -628,8 +618,7 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     made->blockLength = 500;
     const uint64_t monitor = pduMonitor();
     const int64_t start = kelsim_clockMs();
-    auto out = update(made, &error);
-    ASSERT_FALSE(error) << error->code;
+    auto out = update(made);
     ASSERT_EQ(out->count, 5U);
     for (uint32_t i = 0; i < out->count; ++i) {
         EXPECT_EQ(out->items[i]->target, defaultOrder[i]);
@@ -664,10 +653,8 @@ TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
 
     // Done: a new config finds nothing newer.
     EXPECT_FALSE(updatesOnBroker());
-    VehicleUpdateConfig* again = nullptr;
-    const wchar_t* ecm[] = {L"ECM"};
-    kel_createVehicleUpdateConfig(api, const_cast<wchar_t**>(ecm), 1, &error, &again);
-    ASSERT_FALSE(error);
+    VehicleUpdateConfig* again = madeConfig({L"ECM"});
+    ASSERT_NE(again, nullptr);
     EXPECT_EQ(again->targetCount, 1U);
     EXPECT_EQ(again->packageCount, 0U);
     release_VehicleUpdateConfig(again);
@@ -677,9 +664,7 @@ TEST_F(VehicleUpdateTest, ACorruptUnitPackageFailsThatUnitAloneAndItStaysUntouch
     publish("ECM_SW", "5432", "ecu", "ECM", ecuImage("5432", 3000), 0xDEADBEEF);
     publishEcu("BCM", "0460");
     const uint64_t monitor = pduMonitor();
-    ErrorSlot error;
-    auto out = update(config({}, ecmAndBcm, /*stopOnError=*/false), &error);
-    ASSERT_FALSE(error);
+    auto out = update(config({}, ecmAndBcm, /*stopOnError=*/false));
     EXPECT_EQ(statuses(*out),
               (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:4", L"ECM:2", L"TCM:4"}));
     ASSERT_NE(out->items[3]->error, nullptr);
@@ -699,11 +684,9 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
     publishEcu("TCM", "0830");
     Order order({L"ECM", L"TRAILER", L"TCM", L"GW", L"ROOF", L"BCM"}, {L"TRAILER"});
     const auto perform = [&](VehicleUpdateConfig* c) {
-        auto out = std::make_unique<Results>();
-        ErrorSlot error;
-        kel_performVehicleUpdate(api, order.entries.data(), 6, c, &error, &out->items, &out->count);
-        EXPECT_FALSE(error);
-        return out;
+        return fetch<Results>([&](auto... out) {
+            kel_performVehicleUpdate(api, order.entries.data(), 6, c, out...);
+        });
     };
     const std::vector<Wanted> wanted = {{L"ECM_SW", L"5432", L"ECM"}, {L"X", L"1", L"TRAILER"},
                                         {L"TCM_SW", L"0830", L"TCM"}, {L"GW_SW", L"0200", L"GW"},
@@ -732,15 +715,7 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
 }
 
 TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne) {
-    const auto updateAll = [&] {
-        ErrorSlot error;
-        VehicleUpdateConfig* made = nullptr;
-        kel_createVehicleUpdateConfig(api, nullptr, 0, &error, &made);
-        EXPECT_FALSE(error);
-        auto out = update(made, &error);
-        EXPECT_FALSE(error);
-        return statuses(*out);
-    };
+    const auto updateAll = [&] { return statuses(*update(madeConfig())); };
     // Nothing on the broker: every unit is up to date, visited in the default order.
     EXPECT_EQ(updateAll(),
               (std::vector<std::wstring>{L"GW:4", L"BCM:4", L"DASH:4", L"ECM:4", L"TCM:4"}));
