@@ -1,17 +1,15 @@
 // The ECU order of the default vehicle and of small made-up ones: the default order's
 // rules, filtering and completing an order, and order files in the public directories
 // (written, read back, refused when malformed or outside the sandbox).
-#include "support.h"
+#include "data_root.h"
 #include "uds.h"
 
 #include <cstring>
-#include <filesystem>
 #include <string>
 #include <vector>
 
 namespace {
 
-using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
 using kel_test::zeroed;
@@ -69,17 +67,8 @@ private:
     std::vector<EcuOrderEntry*> items_;
 };
 
-class EcuOrderTest : public EngineTest {
+class EcuOrderTest : public kel_test::DataRootTest {
 protected:
-    void SetUp() override {
-        EngineTest::SetUp();
-        // The data root outlives a test: start without the vehicle's order file.
-        wchar_t root[4096];
-        ASSERT_GT(kelsim_dataRoot(root, 4096), 0);
-        std::error_code e;
-        std::filesystem::remove(std::filesystem::path(root) / "configuration" / "ecu-order.txt", e);
-    }
-
     std::vector<Entry> defaultOrder() {
         Entries out;
         EXPECT_ENGINE_ERROR(error, 0,

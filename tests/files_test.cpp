@@ -2,17 +2,14 @@
 // every way out we know of (through the C exports and through kel_call), per-entry
 // errors of copies and deletes, a cancelled asynchronous copy, whole trees, and names
 // beyond ASCII.
-#include "support.h"
+#include "data_root.h"
 #include "uds.h"
 
 #include <OTXStream.h>
-#include <algorithm>
-#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <functional>
 #include <iostream>
 #include <mutex>
@@ -24,8 +21,12 @@
 namespace {
 
 namespace fs = std::filesystem;
+using kel_test::contents;
 using kel_test::ErrorSlot;
 using kel_test::List;
+using kel_test::put;
+using kel_test::snapshot;
+using kel_test::texts;
 using kel_test::zeroed;
 
 #if defined(_WIN32)
@@ -58,29 +59,6 @@ fs::path fromWide(const std::wstring& text) {
     return fs::path(std::u8string(utf8.begin(), utf8.end()));
 }
 
-std::string contents(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void put(const fs::path& file, const std::string& text) {
-    fs::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << text;
-}
-
-// Every entry below `folder`, relative, with the contents of the files: a snapshot
-// that shows any change.
-std::vector<std::string> snapshot(const fs::path& folder) {
-    std::vector<std::string> out;
-    for (const auto& e : fs::recursive_directory_iterator(folder)) {
-        const auto relative = e.path().lexically_relative(folder).generic_u8string();
-        out.push_back(std::string(relative.begin(), relative.end()) + "=" +
-                      (e.is_regular_file() ? contents(e.path()) : "<dir>"));
-    }
-    std::sort(out.begin(), out.end());
-    return out;
-}
-
 // Entries whose names show a copy that never finished.
 int partFiles(const fs::path& folder) {
     int n = 0;
@@ -102,14 +80,6 @@ R* record(const wchar_t* enginePath) {
 DirectoryInfo* directoryRecord(const wchar_t* path) { return record<DirectoryInfo>(path); }
 FileInfo* fileRecord(const wchar_t* path) { return record<FileInfo>(path); }
 
-wchar_t** texts(const std::vector<std::wstring>& values) {
-    auto** out = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*) * values.size()));
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        out[i] = duplicate_WString(values[i].c_str());
-    }
-    return out;
-}
-
 PathCopyConfig* pathCopy(const wchar_t* source, const wchar_t* target, bool overwrite) {
     auto* config = zeroed<PathCopyConfig>();
     config->source = duplicate_WString(source);
@@ -128,34 +98,8 @@ FileCopyConfig* fileCopy(const std::vector<std::wstring>& files, const wchar_t* 
     return config;
 }
 
-// A fresh data root per test, and a folder beside it that nothing may reach: the
-// "outside" a sandbox escape would read or change.
-class FilesTest : public kel_test::EngineTest {
+class FilesTest : public kel_test::DataRootTest {
 protected:
-    void SetUp() override {
-        base = kel_test::freshTempPath("kel_files_test");
-        root = base / "root";
-        outside = base / "outside";
-        fs::create_directories(root);
-        put(outside / "secret.txt", "outside secret");
-        EngineTest::SetUp();
-        kelsim_setDataRoot(root.wstring().c_str());
-        releaseTarnApi(api);
-        kelsim_restart();
-        api = kel_getTarnApi();
-        ErrorSlot error;
-        kel_initialize(api, &error);
-        ASSERT_FALSE(error);
-        before = snapshot(outside);
-    }
-    void TearDown() override {
-        EXPECT_EQ(snapshot(outside), before) << "something outside the data root changed";
-        EngineTest::TearDown();
-        kelsim_restart();
-        std::error_code ignored;
-        fs::remove_all(base, ignored);
-    }
-
     fs::path real(const std::wstring& enginePath) const { return root / fromWide(enginePath); }
 
     // Links are made where the platform lets a test make them.
@@ -189,9 +133,6 @@ protected:
         EXPECT_FALSE(error) << (error ? error->code : 0);
         return written;
     }
-
-    fs::path base, root, outside;
-    std::vector<std::string> before;
 };
 
 // ---- the sandbox ----------------------------------------------------------------------

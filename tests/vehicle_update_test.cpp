@@ -2,17 +2,14 @@
 // corrupt package changes nothing, an update flashes exactly the units that need it and
 // in ECU order, a cancel leaves no unit half written, the broker cannot be pointed
 // outside the engine's folders, and engine components stay updated across a restart.
-#include "support.h"
+#include "data_root.h"
 #include "uds.h"
 
 #include <algorithm>
-#include <atomic>
 #include <chrono>
-#include <condition_variable>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -24,12 +21,14 @@ namespace {
 
 namespace fs = std::filesystem;
 using kel_test::AsyncWatch;
-using kel_test::EngineTest;
+using kel_test::contents;
 using kel_test::ErrorSlot;
 using kel_test::fetch;
 using kel_test::fetchRecord;
-using kel_test::freshTempPath;
 using kel_test::List;
+using kel_test::put;
+using kel_test::snapshot;
+using kel_test::texts;
 using kel_test::zeroed;
 using namespace std::chrono_literals;
 
@@ -94,28 +93,6 @@ Bytes ecuImage(const std::string& version, std::size_t size) {
     return b;
 }
 
-std::string read(const fs::path& file) {
-    std::ifstream in(file, std::ios::binary);
-    return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void put(const fs::path& file, const std::string& text) {
-    fs::create_directories(file.parent_path());
-    std::ofstream(file, std::ios::binary) << text;
-}
-
-// Every file below `root` with its content.
-std::map<std::string, std::string> snapshot(const fs::path& root) {
-    std::map<std::string, std::string> out;
-    std::error_code e;
-    for (fs::recursive_directory_iterator i(root, e), end; !e && i != end; i.increment(e)) {
-        if (i->is_regular_file()) {
-            out[fs::relative(i->path(), root).generic_string()] = read(i->path());
-        }
-    }
-    return out;
-}
-
 std::string manifest(const std::string& name, const std::string& version, const std::string& kind,
                      const std::string& target, const std::string& payload, std::size_t size,
                      const std::string& checksum) {
@@ -129,14 +106,6 @@ std::string manifest(const std::string& name, const std::string& version, const 
 std::wstring wide(const std::string& s) { return std::wstring(s.begin(), s.end()); }
 
 wchar_t* dup(const std::wstring& s) { return duplicate_WString(s.c_str()); }
-
-wchar_t** texts(const std::vector<std::wstring>& values) {
-    auto** out = static_cast<wchar_t**>(allocate_Memory(sizeof(wchar_t*) * (values.size() + 1)));
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        out[i] = dup(values[i]);
-    }
-    return out;
-}
 
 struct Wanted {
     std::wstring name;
@@ -232,35 +201,12 @@ struct UpdateWatch : AsyncWatch {
 
 const std::vector<Wanted> ecmAndBcm = {{L"ECM_SW", L"5432", L"ECM"}, {L"BCM_SW", L"0460", L"BCM"}};
 
-class VehicleUpdateTest : public EngineTest {
+class VehicleUpdateTest : public kel_test::DataRootTest {
 protected:
     void SetUp() override {
-        base = freshTempPath("kel_update_test");
-        root = base / "root";
-        outside = base / "outside";
-        put(outside / "secret.txt", "outside");
-        fs::create_directories(root);
-        EngineTest::SetUp();
-        kelsim_setDataRoot(root.wstring().c_str());
+        DataRootTest::SetUp();
         ASSERT_EQ(kelsim_setVehicleJson(updateVehicle), 0);
         restart();
-    }
-    void TearDown() override {
-        EXPECT_EQ(snapshot(outside).size(), 1U) << "something outside the data root changed";
-        EngineTest::TearDown();
-        kelsim_restart();
-        std::error_code ignored;
-        fs::remove_all(base, ignored);
-    }
-
-    // A new engine on the same data root and vehicle.
-    void restart() {
-        releaseTarnApi(api);
-        kelsim_restart();
-        api = kel_getTarnApi();
-        ErrorSlot error;
-        kel_initialize(api, &error);
-        ASSERT_FALSE(error);
     }
 
     // The output of a call that must succeed.
@@ -384,8 +330,6 @@ protected:
         EXPECT_NE(id, 0U);
         return id != 0 && watch.wait();
     }
-
-    fs::path base, root, outside;
 };
 
 std::vector<std::wstring> statuses(const Results& r) {
@@ -523,7 +467,7 @@ TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeep
     publish("tool", "1.8", "engine", "tool", Bytes(50, 3));
     EXPECT_TRUE(updatesOnBroker());
     EXPECT_TRUE(autoUpdate());
-    EXPECT_EQ(read(root / "updates" / "components" / "tool" / "tool_1.10.bin"),
+    EXPECT_EQ(contents(root / "updates" / "components" / "tool" / "tool_1.10.bin"),
               std::string(200, '\2'));
     EXPECT_EQ(listed(kel_getUpdatePackages),
               (std::vector<std::wstring>{L"tool-1.10:2", L"tool-1.9:1"}));
@@ -571,12 +515,13 @@ TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {
     EXPECT_EQ(listed(kel_getUpdatePackages), std::vector<std::wstring>{L"tool-2:2"});
 
     // The failed downloads stay in tmp/ until cleaned; nothing else in the store moved.
-    auto after = snapshot(root / "updates");
-    std::erase_if(after, [](const auto& f) { return f.first.starts_with("tmp/"); });
-    after.erase("last-update.json");
-    auto expected = store;
-    expected.erase("last-update.json");
-    EXPECT_EQ(after, expected);
+    const auto lasting = [](std::vector<std::string> entries) {
+        std::erase_if(entries, [](const std::string& e) {
+            return e.starts_with("tmp") || e.starts_with("last-update.json=");
+        });
+        return entries;
+    };
+    EXPECT_EQ(lasting(snapshot(root / "updates")), lasting(store));
     EXPECT_FALSE(fs::is_empty(root / "updates" / "tmp"));
     EXPECT_ENGINE_ERROR(error, 0, kel_cleanUpdateTmp(api, &error));
     EXPECT_FALSE(fs::exists(root / "updates" / "tmp") && !fs::is_empty(root / "updates" / "tmp"));
@@ -800,9 +745,10 @@ TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
         return error ? error->code : 0;
     };
     ASSERT_EQ(upload(L"reports/r1.html", L"", L"", false, true), 0);
-    EXPECT_EQ(read(root / "broker" / "reports" / "r1.html"), "<html>report</html>");
-    EXPECT_EQ(read(root / "broker" / "reports" / "r1.json"), read(root / "reports" / "r1.json"));
-    const std::string log = read(root / "broker" / "uploads.jsonl");
+    EXPECT_EQ(contents(root / "broker" / "reports" / "r1.html"), "<html>report</html>");
+    EXPECT_EQ(contents(root / "broker" / "reports" / "r1.json"),
+              contents(root / "reports" / "r1.json"));
+    const std::string log = contents(root / "broker" / "uploads.jsonl");
     EXPECT_NE(log.find(R"("vin":"WVWZZZ1KZ8W000417")"), std::string::npos) << log;
     EXPECT_NE(log.find(R"("user":"meister")"), std::string::npos);
     EXPECT_NE(log.find(R"("file":"reports/r1.html")"), std::string::npos);
@@ -812,10 +758,10 @@ TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
     // The same name again: refused unless it may overwrite, and nothing changed.
     put(root / "reports" / "r1.html", "<html>second</html>");
     EXPECT_EQ(upload(L"reports/r1.html", L"", L"", false, false), 2212);
-    EXPECT_EQ(read(root / "broker" / "reports" / "r1.html"), "<html>report</html>");
+    EXPECT_EQ(contents(root / "broker" / "reports" / "r1.html"), "<html>report</html>");
     EXPECT_EQ(upload(L"reports/r1.html", L"", L"", true, false), 0);
-    EXPECT_EQ(read(root / "broker" / "reports" / "r1.html"), "<html>second</html>");
-    const std::string twoLines = read(root / "broker" / "uploads.jsonl");
+    EXPECT_EQ(contents(root / "broker" / "reports" / "r1.html"), "<html>second</html>");
+    const std::string twoLines = contents(root / "broker" / "uploads.jsonl");
     EXPECT_EQ(std::count(twoLines.begin(), twoLines.end(), '\n'), 2);
 
     // Another folder and name; then what may not be: a missing twin, a way out.
@@ -831,17 +777,17 @@ TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
 
     // The broker's own files are no reports: its root is not a report folder, nor is the
     // log's name a report's (an upload there replaced the log).
-    const std::string logBefore = read(root / "broker" / "uploads.jsonl");
+    const std::string logBefore = contents(root / "broker" / "uploads.jsonl");
     EXPECT_EQ(upload(L"reports/r1.html", L".", L"uploads.jsonl", true, false), 2211);
     EXPECT_EQ(upload(L"reports/r1.html", L"./", L"r2.html", true, false), 2211);
     EXPECT_EQ(upload(L"reports/r1.html", L"reports", L"uploads.jsonl", true, false), 2211);
-    EXPECT_EQ(read(root / "broker" / "uploads.jsonl"), logBefore);
+    EXPECT_EQ(contents(root / "broker" / "uploads.jsonl"), logBefore);
 
     // Text with no UTF-8 form is logged with U+FFFD (it ended the process, the report
     // copied and its line unwritten).
     comment = std::wstring{L'n', static_cast<wchar_t>(0xDC00)};
     EXPECT_EQ(upload(L"reports/r1.html", L"", L"r3.html", false, false), 0);
-    EXPECT_NE(read(root / "broker" / "uploads.jsonl").find("\"comment\":\"n\xEF\xBF\xBD\""),
+    EXPECT_NE(contents(root / "broker" / "uploads.jsonl").find("\"comment\":\"n\xEF\xBF\xBD\""),
               std::string::npos);
 
     // A line that cannot be written undoes the upload: a new report goes again, a
@@ -852,7 +798,7 @@ TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
     EXPECT_EQ(upload(L"reports/r1.html", L"", L"r4.html", false, false), 1611);
     EXPECT_EQ(upload(L"reports/r1.html", L"", L"r3.html", true, false), 1611);
     EXPECT_FALSE(fs::exists(root / "broker" / "reports" / "r4.html"));
-    EXPECT_EQ(read(root / "broker" / "reports" / "r3.html"), "<html>second</html>");
+    EXPECT_EQ(contents(root / "broker" / "reports" / "r3.html"), "<html>second</html>");
     EXPECT_EQ(std::distance(fs::directory_iterator(root / "broker" / "reports"), {}), 3);
 }
 
