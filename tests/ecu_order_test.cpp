@@ -12,7 +12,6 @@ namespace {
 
 using kel_test::ErrorSlot;
 using kel_test::List;
-using kel_test::zeroed;
 
 using Entries = List<EcuOrderEntry, release_EcuOrderEntry_array>;
 using Names = std::vector<std::wstring>;
@@ -35,35 +34,27 @@ std::vector<Entry> entriesOf(const Entries& list) {
     return out;
 }
 
-// An order as C records on the library's heap, as a caller hands one in; `withNull` adds
-// a NULL element at the end.
+// An order as C records, as a caller hands one in (the texts stay the caller's);
+// `withNull` adds a NULL element at the end.
 class COrder {
 public:
-    explicit COrder(const std::vector<Entry>& entries, bool withNull = false) {
-        for (const auto& e : entries) {
-            auto* c = zeroed<EcuOrderEntry>();
-            c->target = duplicate_WString(e.target.c_str());
-            c->bus = duplicate_WString(e.bus.c_str());
-            c->address = e.address;
-            c->gateway = e.gateway ? 1 : 0;
-            c->optional = e.optional ? 1 : 0;
-            items_.push_back(c);
+    explicit COrder(const std::vector<Entry>& entries, bool withNull = false) : entries_(entries) {
+        for (auto& e : entries_) {
+            records_.push_back({e.target.data(), e.bus.data(), e.address, e.gateway, e.optional});
+        }
+        for (auto& record : records_) {
+            items_.push_back(&record);
         }
         if (withNull) {
             items_.push_back(nullptr);
-        }
-    }
-    COrder(const COrder&) = delete;
-    COrder& operator=(const COrder&) = delete;
-    ~COrder() {
-        for (auto* c : items_) {
-            release_EcuOrderEntry(c);
         }
     }
     EcuOrderEntry** items() { return items_.empty() ? nullptr : items_.data(); }
     uint32_t count() const { return static_cast<uint32_t>(items_.size()); }
 
 private:
+    std::vector<Entry> entries_;
+    std::vector<EcuOrderEntry> records_;
     std::vector<EcuOrderEntry*> items_;
 };
 

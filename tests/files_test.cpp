@@ -142,40 +142,33 @@ struct Escape {
     int32_t code;
 };
 
+// Paths out of the sandbox or not allowed in it, grouped by the code that names the reason.
 std::vector<Escape> escapes() {
-    return {
-        {L"", InvalidPath},
-        {L"projects/a\x01z", ControlCharacter},
-        {L"projects/a\x1f", ControlCharacter},
-        {L"projects/" + std::wstring(1100, L'a'), PathTooLong},
-        {L"projects/" + std::wstring(300, L'b') + L"/x", PathTooLong},
-        {L"\\\\server\\share\\secret.txt", Unc},
-        {L"//server/share/secret.txt", Unc},
-        {L"\\\\?\\C:\\secret.txt", Unc},
-        {L"\\/server/share", Unc},
-        {L"/etc/passwd", Absolute},
-        {L"\\Windows\\win.ini", Absolute},
-        {L"C:\\Windows\\win.ini", DriveLetter},
-        {L"c:relative.txt", DriveLetter},
-        {L"Z:/tmp/x", DriveLetter},
-        {L"../outside/secret.txt", Parent},
-        {L"projects/../../outside/secret.txt", Parent},
-        {L"projects\\..\\..\\outside\\secret.txt", Parent},
-        {L"projects/./../reports", Parent},
-        {L"..", Parent},
-        {L"outside/secret.txt", UnknownPublic},
-        {L"root/projects", UnknownPublic},
-        {L"projects/file.txt:stream", InvalidPath},
-        {L"projects/CON", InvalidPath},
-        {L"projects/nul.txt", InvalidPath},
-        {L"projects/LPT1", InvalidPath},
-        {L"projects/trailing.", InvalidPath},
-        {L"projects/trailing ", InvalidPath},
-        {L"projects/a<b", InvalidPath},
-        {L"projects/a|b", InvalidPath},
-        {L"projects/a*b", InvalidPath},
-        {L"./.", InvalidPath},
+    const std::pair<int32_t, std::vector<std::wstring>> byCode[] = {
+        {InvalidPath,
+         {L"", L"projects/file.txt:stream", L"projects/CON", L"projects/nul.txt", L"projects/LPT1",
+          L"projects/trailing.", L"projects/trailing ", L"projects/a<b", L"projects/a|b",
+          L"projects/a*b", L"./."}},
+        {ControlCharacter, {L"projects/a\x01z", L"projects/a\x1f"}},
+        {PathTooLong,
+         {L"projects/" + std::wstring(1100, L'a'), L"projects/" + std::wstring(300, L'b') + L"/x"}},
+        {Unc,
+         {L"\\\\server\\share\\secret.txt", L"//server/share/secret.txt", L"\\\\?\\C:\\secret.txt",
+          L"\\/server/share"}},
+        {Absolute, {L"/etc/passwd", L"\\Windows\\win.ini"}},
+        {DriveLetter, {L"C:\\Windows\\win.ini", L"c:relative.txt", L"Z:/tmp/x"}},
+        {Parent,
+         {L"../outside/secret.txt", L"projects/../../outside/secret.txt",
+          L"projects\\..\\..\\outside\\secret.txt", L"projects/./../reports", L".."}},
+        {UnknownPublic, {L"outside/secret.txt", L"root/projects"}},
     };
+    std::vector<Escape> out;
+    for (const auto& [code, paths] : byCode) {
+        for (const auto& path : paths) {
+            out.push_back({path, code});
+        }
+    }
+    return out;
 }
 
 // One way to hand a path to the engine through an export: it makes the call, leaves the

@@ -140,24 +140,19 @@ VehicleUpdateConfig* config(const std::vector<std::wstring>& targets,
     return c;
 }
 
-// ECU order entries as a caller hands them in, the `optional` ones marked so.
+// ECU order entries as a caller hands them in (the texts stay the caller's), the
+// `optional` ones marked so.
 struct Order {
+    std::vector<EcuOrderEntry> records;
     std::vector<EcuOrderEntry*> entries;
-    explicit Order(const std::vector<std::wstring>& targets,
+    explicit Order(const std::vector<const wchar_t*>& targets,
                    const std::set<std::wstring>& optional = {}) {
-        for (const auto& target : targets) {
-            auto* e = zeroed<EcuOrderEntry>();
-            e->target = dup(target);
-            e->bus = dup(L"");
-            e->optional = optional.count(target) != 0 ? 1 : 0;
-            entries.push_back(e);
+        for (const wchar_t* target : targets) {
+            records.push_back({const_cast<wchar_t*>(target), const_cast<wchar_t*>(L""), 0, 0,
+                               static_cast<uint8_t>(optional.count(target))});
         }
-    }
-    Order(const Order&) = delete;
-    Order& operator=(const Order&) = delete;
-    ~Order() {
-        for (auto* e : entries) {
-            release_EcuOrderEntry(e);
+        for (auto& record : records) {
+            entries.push_back(&record);
         }
     }
 };
