@@ -763,17 +763,16 @@ TEST_F(FilesTest, CopiesReportEveryFailingEntryAndCopyTheRest) {
     auto* config = fileCopy({L"projects/p/one.odx", L"projects/p/missing.odx",
                              L"../outside/secret.txt", L"projects/p/two.odx", L"projects/p"},
                             L"exchange/out", false);
-    ErrorSlot error;
-    List<FileCopyResult, release_FileCopyResult_array> results;
-    kel_copyFiles(api, config, &error, &results.items, &results.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(results.count, 5U);
+    const auto results = kel_test::fetch<List<FileCopyResult, release_FileCopyResult_array>>(
+        [&](auto... out) { kel_copyFiles(api, config, out...); });
+    ASSERT_EQ(results->count, 5U);
     const int32_t expected[] = {0, NotFound, Parent, Exists, 1611};
     for (uint32_t i = 0; i < 5; ++i) {
-        EXPECT_EQ(results.items[i]->value2, static_cast<int32_t>(i));
-        EXPECT_EQ(results.items[i]->value1, expected[i] == 0 ? 0 : 1);
-        EXPECT_EQ(results.items[i]->error ? results.items[i]->error->code : 0, expected[i]) << i;
-        EXPECT_EQ(results.items[i]->file != nullptr, expected[i] == 0);
+        const FileCopyResult& r = *results->items[i];
+        EXPECT_EQ(r.value2, static_cast<int32_t>(i));
+        EXPECT_EQ(r.value1, expected[i] == 0 ? 0 : 1);
+        EXPECT_EQ(kel_test::codeIn(r.error), expected[i]) << i;
+        EXPECT_EQ(r.file != nullptr, expected[i] == 0);
     }
     EXPECT_EQ(contents(real(L"exchange/out/one.odx")), "one");
     EXPECT_EQ(contents(real(L"exchange/out/two.odx")), "old"); // not replaced
@@ -783,16 +782,14 @@ TEST_F(FilesTest, CopiesReportEveryFailingEntryAndCopyTheRest) {
     write(L"projects/p/sub/three.odx", "three");
     write(L"projects/p/sub/skip.txt", "skip");
     link(outside, real(L"projects/p/sub/out"), true);
-    List<DirectoryCopyResult, release_DirectoryCopyResult_array> copied;
-    kel_copyDirectories(api,
-                        directoryCopy({L"projects/p", L"projects/none"}, L"exchange", L"*.odx"),
-                        &error, &copied.items, &copied.count);
-    ASSERT_FALSE(error);
-    ASSERT_EQ(copied.count, 2U);
-    EXPECT_EQ(copied.items[1]->value1, 2);
-    ASSERT_NE(copied.items[1]->error, nullptr);
-    EXPECT_EQ(copied.items[1]->error->code, NotFound);
-    const DirectoryCopyItem* item = copied.items[0]->directory;
+    auto* both = directoryCopy({L"projects/p", L"projects/none"}, L"exchange", L"*.odx");
+    const auto copied =
+        kel_test::fetch<List<DirectoryCopyResult, release_DirectoryCopyResult_array>>(
+            [&](auto... out) { kel_copyDirectories(api, both, out...); });
+    ASSERT_EQ(copied->count, 2U);
+    EXPECT_EQ(copied->items[1]->value1, 2);
+    EXPECT_EQ(kel_test::codeIn(copied->items[1]->error), NotFound);
+    const DirectoryCopyItem* item = copied->items[0]->directory;
     ASSERT_NE(item, nullptr);
     EXPECT_EQ(std::wstring(item->target), L"exchange/p");
     EXPECT_EQ(item->files, 3U); // one, two, three
@@ -802,8 +799,8 @@ TEST_F(FilesTest, CopiesReportEveryFailingEntryAndCopyTheRest) {
     if (fs::is_symlink(real(L"projects/p/sub/out"))) {
         ASSERT_EQ(item->failureCount, 1U);
         EXPECT_EQ(item->failures[0]->error->code, Outside);
-        EXPECT_EQ(copied.items[0]->value1, 1);
-        EXPECT_EQ(copied.items[0]->error->code, SomeFailed);
+        EXPECT_EQ(copied->items[0]->value1, 1);
+        EXPECT_EQ(kel_test::codeIn(copied->items[0]->error), SomeFailed);
         EXPECT_FALSE(fs::exists(real(L"exchange/p/sub/out")));
     }
 }
