@@ -102,21 +102,6 @@ protected:
         out = entriesOf(list);
         return code;
     }
-    void writeFile(const wchar_t* path, const std::string& text) {
-        uint32_t written = 0;
-        EXPECT_ENGINE_ERROR(error, 0,
-                            kel_writeFile(api, path, reinterpret_cast<const uint8_t*>(text.data()),
-                                          static_cast<uint32_t>(text.size()), 0, 1, &error,
-                                          &written));
-    }
-    std::string readFile(const wchar_t* path) {
-        void* data = nullptr;
-        uint32_t length = 0;
-        EXPECT_ENGINE_ERROR(error, 0, kel_readFile(api, path, 0, 0, 0, &error, &data, &length));
-        std::string text(static_cast<const char*>(data), length);
-        release_Memory(data);
-        return text;
-    }
 };
 
 TEST_F(EcuOrderTest, TheDefaultOrderPutsTheGatewayFirstThenSortsByBusAndAddress) {
@@ -226,7 +211,7 @@ TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactly) {
     EXPECT_EQ(back, order);
 
     // The format other tools read: a header, then tab-separated columns.
-    const auto text = readFile(L"exchange/orders/workshop 1.txt");
+    const auto text = kel_test::contents(root / "exchange/orders/workshop 1.txt");
     EXPECT_EQ(text.rfind("# kel ECU order 1\n", 0), 0U) << text;
     EXPECT_NE(text.find("\nGW\tDiagnostic CAN\t0x710\tgateway\n"), std::string::npos) << text;
     EXPECT_NE(text.find("\nRetrofit\t\t0x0\tgateway\toptional\n"), std::string::npos) << text;
@@ -291,7 +276,7 @@ TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
         {header + "ECM\tA\t0x1\nTCM\tA\t0x2\nECM\tB\t0x3\n", L"line 4:"},
     };
     for (const auto& c : cases) {
-        writeFile(L"exchange/malformed.txt", c.text);
+        kel_test::put(root / "exchange/malformed.txt", c.text);
         ErrorSlot error;
         Entries out;
         kel_readEcuOrder(api, L"exchange/malformed.txt", &error, &out.items, &out.count);
@@ -302,10 +287,11 @@ TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
     }
 
     // What is not a mistake: a byte order mark, CRLF, blanks around columns, comments.
-    writeFile(L"exchange/lenient.txt", "\xEF\xBB\xBF# kel ECU order 1\r\n"
-                                       "  # written by hand\r\n"
-                                       "\r\n"
-                                       "ECM \t Powertrain CAN \t 0X7e0 \t optional gateway\r\n");
+    kel_test::put(root / "exchange/lenient.txt",
+                  "\xEF\xBB\xBF# kel ECU order 1\r\n"
+                  "  # written by hand\r\n"
+                  "\r\n"
+                  "ECM \t Powertrain CAN \t 0X7e0 \t optional gateway\r\n");
     std::vector<Entry> back;
     ASSERT_EQ(read(L"exchange/lenient.txt", back), 0);
     EXPECT_EQ(back, (std::vector<Entry>{{L"ECM", L"Powertrain CAN", 0x7E0, true, true}}));
@@ -314,7 +300,7 @@ TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
     while (huge.size() <= (1U << 20)) {
         huge += "# padding padding padding padding padding padding padding padding\n";
     }
-    writeFile(L"exchange/huge.txt", huge);
+    kel_test::put(root / "exchange/huge.txt", huge);
     EXPECT_EQ(read(L"exchange/huge.txt", back), 2100) << "over 1 MiB";
 }
 

@@ -233,17 +233,10 @@ protected:
         publish(target + "_SW", version, "ecu", target, ecuImage(version, size));
     }
 
+    // The software version a unit reports (ReadDataByIdentifier F189).
     std::wstring version(const wchar_t* target) {
-        wchar_t* targets[] = {const_cast<wchar_t*>(target)};
-        const auto out = fetch<List<ReadDataResult, release_ReadDataResult_array>>(
-            [&](auto... result) { kel_readIdentificationValues(api, targets, 1, result...); });
-        for (uint32_t i = 0; out->count == 1 && i < out->items[0]->parameterCount; ++i) {
-            const ParameterResult& p = *out->items[0]->parameters[i];
-            if (std::wstring(p.itemText2) == L"F189") {
-                return p.text1;
-            }
-        }
-        return L"<no F189>";
+        const Bytes response = kel_test::sendRaw(api, target, {0x22, 0xF1, 0x89});
+        return response.size() > 3 ? std::wstring(response.begin() + 3, response.end()) : L"?";
     }
 
     std::map<std::wstring, std::wstring> versions() {
