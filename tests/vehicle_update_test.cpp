@@ -163,8 +163,7 @@ struct UpdateWatch : AsyncWatch {
     uint32_t cancelAt = 101;
     std::vector<std::pair<std::wstring, uint32_t>> running; // unit and progress
     std::vector<uint32_t> overall;
-    std::vector<std::wstring> final;  // target:status of the final report
-    std::vector<int32_t> finalErrors; // their error codes, 0 for none
+    std::vector<std::wstring> final; // target:status of the final report, and :code of an error
 
     static void callback(VehicleUpdateResult** results, uint32_t count, bool isFinal,
                          uint64_t callId, KelError* error, void* context) {
@@ -175,9 +174,9 @@ struct UpdateWatch : AsyncWatch {
             for (uint32_t i = 0; i < count; ++i) {
                 const VehicleUpdateResult& r = *results[i];
                 if (isFinal) {
-                    self->final.push_back(std::wstring(r.target) + L":" +
-                                          std::to_wstring(r.status));
-                    self->finalErrors.push_back(r.error != nullptr ? r.error->code : 0);
+                    self->final.push_back(
+                        std::wstring(r.target) + L":" + std::to_wstring(r.status) +
+                        (r.error != nullptr ? L":" + std::to_wstring(r.error->code) : L""));
                     continue;
                 }
                 self->overall.push_back(r.overallProgress);
@@ -600,8 +599,7 @@ TEST_F(VehicleUpdateTest, ACorruptUnitPackageFailsThatUnitAloneAndItStaysUntouch
     auto out = update(config({}, ecmAndBcm, /*stopOnError=*/false));
     EXPECT_EQ(statuses(*out),
               (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:4", L"ECM:2", L"TCM:4"}));
-    ASSERT_NE(out->items[3]->error, nullptr);
-    EXPECT_EQ(out->items[3]->error->code, 2203);
+    EXPECT_EQ(kel_test::codeIn(out->items[3]->error), 2203);
     std::map<std::wstring, int> counts;
     unitsTalkedTo(monitor, &counts);
     EXPECT_EQ(counts.count(L"ECM"), 0U) << "a package that fails its check never reaches the unit";
@@ -632,10 +630,9 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
                                                          L"ROOF:2", L"BCM:0"}));
     EXPECT_EQ(out->items[2]->position, 3U);
     EXPECT_STREQ(out->items[2]->versionBefore, L"0830");
-    ASSERT_NE(out->items[3]->error, nullptr);
-    EXPECT_EQ(out->items[3]->error->code, 2210);
-    ASSERT_NE(out->items[3]->error->negativeResponse, nullptr);
-    EXPECT_EQ(out->items[4]->error->code, 2207);
+    ASSERT_EQ(kel_test::codeIn(out->items[3]->error), 2210);
+    EXPECT_NE(out->items[3]->error->negativeResponse, nullptr);
+    EXPECT_EQ(kel_test::codeIn(out->items[4]->error), 2207);
     EXPECT_EQ(version(L"GW"), L"0100") << "the refusing unit keeps its software";
 
     // force flashes the TCM again; a failure with stopOnError leaves the rest alone.
@@ -697,9 +694,8 @@ TEST_F(VehicleUpdateTest, ConcurrencyACancelFinishesTheUnitBeingWrittenAndLeaves
     {
         const std::lock_guard lock(watch.mutex);
         EXPECT_EQ(watch.errorCode, 1012);
-        EXPECT_EQ(watch.final,
-                  (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:3", L"ECM:3", L"TCM:3"}));
-        EXPECT_EQ(watch.finalErrors, (std::vector<int32_t>{0, 0, 1012, 1012, 1012}));
+        EXPECT_EQ(watch.final, (std::vector<std::wstring>{L"GW:4", L"BCM:0", L"DASH:3:1012",
+                                                          L"ECM:3:1012", L"TCM:3:1012"}));
         EXPECT_EQ(watch.running.back(), (std::pair<std::wstring, uint32_t>{L"BCM", 30}));
     }
     EXPECT_EQ(version(L"BCM"), L"0460") << "finished, not left erased";
