@@ -142,9 +142,7 @@ TEST_F(DispatchConcurrency, CallsFromManyThreadsEachGetTheirOwnResult) {
                 kel_call(0, 49, nullptr, &stream, &size);
                 uint8_t bytes[5] = {};
                 kel_call_result(stream, bytes);
-                if (size != 5 || bytes[0] != 1 || bytes[1] != 1) {
-                    ++wrong;
-                }
+                wrong += size != 5 || bytes[0] != 1 || bytes[1] != 1 ? 1 : 0;
             }
         });
     }

@@ -410,9 +410,9 @@ TEST_F(EventsConcurrency, ProducersAndOneConsumerPerChannelLoseAndRepeatNothing)
     for (int32_t p = 0; p < producers; ++p) {
         threads.emplace_back([&, p] {
             for (int32_t i = 0; i < perProducer; ++i) {
-                if (kelsim_postEvent(self, 100 + p, i, L"scripted", L"", 0, nullptr) != 0) {
-                    ++failures;
-                }
+                const int32_t posted =
+                    kelsim_postEvent(self, 100 + p, i, L"scripted", L"", 0, nullptr);
+                failures += posted != 0 ? 1 : 0;
             }
         });
     }

@@ -330,9 +330,7 @@ TEST_F(PyCallConcurrency, CallsOnTheLocalEngineSurviveItsRestart) {
         const int32_t state = py_call(nullptr, 49, 0, nullptr, &size, &buffer);
         int32_t written = -2;
         py_result(&written, size == 4 ? 4 : 0, buffer);
-        if (size != 4 || written != state) {
-            ++wrong;
-        }
+        wrong += size != 4 || written != state ? 1 : 0;
     }
     done = true;
     restarter.join();

@@ -111,9 +111,7 @@ TEST(RegistryConcurrency, ManyThreadsShareAndReleaseEngineObjects) {
         workers.emplace_back([&] {
             for (int i = 0; i < rounds; ++i) {
                 TarnApi* api = kel_getTarnApi();
-                if (api != local) {
-                    ++mismatches;
-                }
+                mismatches += api != local ? 1 : 0;
                 KelError* e = nullptr;
                 TarnApi* remote = kel_getRemoteConnectionByHandle(handle, &e);
                 int32_t state = -1;

@@ -644,7 +644,7 @@ TEST_F(VehicleUpdateTest, AGivenOrderIsFollowedWithOptionalMissingAndRefusingUni
     EXPECT_EQ(forced->items[3]->error->code, 2208);
 }
 
-TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne) {
+TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheOrderFileAndRefusesWhatCannotStart) {
     const auto updateAll = [&] { return statuses(*update(madeConfig())); };
     // Nothing on the broker: every unit is up to date, visited in the default order.
     EXPECT_EQ(updateAll(),
@@ -654,9 +654,8 @@ TEST_F(VehicleUpdateTest, UpdateVehicleFollowsTheVehiclesOrderFileWhenThereIsOne
     EXPECT_ENGINE_ERROR(error, 0, kel_writeEcuOrder(api, L"", order.entries.data(), 5, &error));
     EXPECT_EQ(updateAll(),
               (std::vector<std::wstring>{L"TCM:4", L"ECM:4", L"GW:4", L"DASH:4", L"BCM:4"}));
-}
 
-TEST_F(VehicleUpdateTest, CallsThatCannotStartAreRefusedWhole) {
+    // Calls that cannot start are refused whole.
     Results out;
     EXPECT_ENGINE_ERROR(noConfig, 2211,
                         kel_updateVehicle(api, nullptr, &noConfig, &out.items, &out.count));
