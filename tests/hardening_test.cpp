@@ -5,6 +5,7 @@
 
 #include <Describe.h>
 #include <OTXStream.h>
+#include <algorithm>
 #include <atomic>
 #include <cstring>
 #include <string>
@@ -117,10 +118,7 @@ protected:
     // arguments the engine recorded.
     static std::size_t recordedParameters() {
         const int64_t length = kelsim_lastArguments("executeSequence", nullptr, 0);
-        if (length < 0) {
-            return 0;
-        }
-        std::string text(static_cast<std::size_t>(length) + 1, '\0');
+        std::string text(static_cast<std::size_t>(std::max<int64_t>(length, 0)) + 1, '\0');
         kelsim_lastArguments("executeSequence", text.data(), text.size());
         std::size_t count = 0;
         for (auto at = text.find("\"children\""); at != std::string::npos;
