@@ -129,19 +129,19 @@ TEST_F(EcuOrderTest, TheDefaultOrderPutsTheGatewayFirstThenSortsByBusAndAddress)
         << "an order file outside the sandbox";
 }
 
-TEST_F(EcuOrderTest, FilteringKeepsTheOrdersOrderAndKnowsAliases) {
+TEST_F(EcuOrderTest, FilteringAndCompletingKeepTheOrdersOrderAndKnowAliases) {
     const auto order = defaultOrder();
     ASSERT_EQ(order.size(), 6U);
-    COrder given(order);
+    COrder whole(order);
     Names kept;
-    ASSERT_EQ(filter(given, {L"TCM", L"Engine", L"GW", L"TCM"}, kept), 0);
+    ASSERT_EQ(filter(whole, {L"TCM", L"Engine", L"GW", L"TCM"}, kept), 0);
     EXPECT_EQ(kept, (Names{L"GW", L"ECM", L"TCM"})) << "order's order, once each, alias Engine";
 
-    ASSERT_EQ(filter(given, {}, kept), 0);
+    ASSERT_EQ(filter(whole, {}, kept), 0);
     EXPECT_EQ(kept.size(), order.size()) << "no targets: the whole order";
 
     std::wstring details;
-    EXPECT_EQ(filter(given, {L"ECM", L"Ghost", L"Nope"}, kept, &details), 2102);
+    EXPECT_EQ(filter(whole, {L"ECM", L"Ghost", L"Nope"}, kept, &details), 2102);
     EXPECT_NE(details.find(L"Ghost"), std::wstring::npos);
     EXPECT_NE(details.find(L"Nope"), std::wstring::npos);
 
@@ -150,15 +150,14 @@ TEST_F(EcuOrderTest, FilteringKeepsTheOrdersOrderAndKnowsAliases) {
     COrder aliased({byAlias});
     ASSERT_EQ(filter(aliased, {L"GW"}, kept), 0);
     EXPECT_EQ(kept, (Names{L"Gateway"}));
-}
 
-TEST_F(EcuOrderTest, CompletingAnOrderAppendsExactlyTheMissingUnitsInDefaultOrder) {
+    // Completing an order appends exactly the missing units, in default order.
     const std::vector<Entry> given = {{L"TCM", L"Own bus", 5, false, true},
                                       {L"Engine", L"", 0, false, false},
                                       {L"Retrofit", L"Aux CAN", 0x7A0, false, true}};
-    COrder order(given);
+    COrder incomplete(given);
     std::vector<Entry> completed;
-    ASSERT_EQ(addMissing(order, completed), 0);
+    ASSERT_EQ(addMissing(incomplete, completed), 0);
     ASSERT_EQ(completed.size(), 7U);
     EXPECT_EQ(std::vector<Entry>(completed.begin(), completed.begin() + 3), given)
         << "given entries stay as they are, also one the vehicle lacks";

@@ -162,8 +162,18 @@ TEST_F(Events, EngineActionsComeBackOldestFirstWithTheirDetails) {
         << "reading one channel leaves the other";
 }
 
-TEST_F(Events, LimitIsRespectedAndWhatIsReadIsGone) {
+TEST_F(Events, ScriptedEventsKeepEveryFieldAndReadsTakeAtMostTheirLimit) {
     const uint64_t channel = open();
+    ASSERT_EQ(
+        kelsim_postEvent(handleOf(api), 321, -7, L"t\u00e9xt", L"d\u00e9tail", 55, L"m\u00e9ssage"),
+        0);
+    ASSERT_EQ(kelsim_postEvent(handleOf(api), 100, 0, nullptr, nullptr, 0, nullptr), 0);
+    EXPECT_EQ(kelsim_postEvent(0, 100, 0, nullptr, nullptr, 0, nullptr), -1);
+    EXPECT_EQ(read(channel), (std::vector<Event>{{L"Event321", 321, -7, L"t\u00e9xt",
+                                                  L"d\u00e9tail", true, 55, L"m\u00e9ssage"},
+                                                 {L"Scripted", 100, 0, L"", L"", false, 0, L""}}));
+
+    // What is read is gone.
     post(5);
     EXPECT_EQ(codes(read(channel, 2)), (std::vector<int32_t>{0, 1}));
     EXPECT_EQ(codes(read(channel, 1)), (std::vector<int32_t>{2}));
@@ -206,19 +216,6 @@ TEST_F(Events, ConnectionReportsBecomeEventsAndABrokenOneCarriesAnError) {
     EXPECT_EQ(events[0].errorCode, 1007);
     EXPECT_EQ(events[0].errorMessage, L"The connection to the client broke");
     EXPECT_FALSE(events[1].hasError);
-}
-
-TEST_F(Events, ScriptedEventsKeepEveryFieldAndNullTextsBecomeEmpty) {
-    const uint64_t channel = open();
-    ASSERT_EQ(
-        kelsim_postEvent(handleOf(api), 321, -7, L"t\u00e9xt", L"d\u00e9tail", 55, L"m\u00e9ssage"),
-        0);
-    ASSERT_EQ(kelsim_postEvent(handleOf(api), 100, 0, nullptr, nullptr, 0, nullptr), 0);
-    EXPECT_EQ(kelsim_postEvent(0, 100, 0, nullptr, nullptr, 0, nullptr), -1);
-
-    EXPECT_EQ(read(channel), (std::vector<Event>{{L"Event321", 321, -7, L"t\u00e9xt",
-                                                  L"d\u00e9tail", true, 55, L"m\u00e9ssage"},
-                                                 {L"Scripted", 100, 0, L"", L"", false, 0, L""}}));
 }
 
 // A full channel drops the oldest and says how many; the description sets the capacity.
