@@ -197,7 +197,7 @@ TEST_F(EcuOrderTest, AnOrderHandedInNamesEachTargetOnce) {
     EXPECT_EQ(read(L"exchange/unwritable.txt", out), 1609) << "nothing was written";
 }
 
-TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactly) {
+TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactlyAndTheVehiclesStandsForTheDefault) {
     const std::vector<Entry> order = {
         {L"GW", L"Diagnostic CAN", 0x710, true, false},
         {L"ECM", L"Powertrain CAN", 0x7E0, false, false},
@@ -225,9 +225,8 @@ TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactly) {
     // public directory itself is no order file.
     EXPECT_EQ(read(L"exchange", back), 1611);
     EXPECT_EQ(write(L"exchange", shorter), 1613);
-}
 
-TEST_F(EcuOrderTest, TheVehiclesOrderFileStandsForTheDefaultOrderUntilWritten) {
+    // The vehicle's own order file stands for the default order until it is written.
     const auto orderFilePath = [&] {
         wchar_t* path = nullptr;
         EXPECT_ENGINE_ERROR(error, 0, kel_getEcuOrderFilePath(api, &error, &path));
@@ -237,18 +236,17 @@ TEST_F(EcuOrderTest, TheVehiclesOrderFileStandsForTheDefaultOrderUntilWritten) {
     };
     EXPECT_EQ(orderFilePath(), L"configuration/ecu-order.txt");
 
-    std::vector<Entry> current;
-    ASSERT_EQ(read(L"", current), 0);
-    EXPECT_EQ(current, defaultOrder()) << "no order file yet";
-    EXPECT_EQ(read(L"configuration/ecu-order.txt", current), 1609) << "a named file must exist";
+    ASSERT_EQ(read(L"", back), 0);
+    EXPECT_EQ(back, defaultOrder()) << "no order file yet";
+    EXPECT_EQ(read(L"configuration/ecu-order.txt", back), 1609) << "a named file must exist";
 
     const std::vector<Entry> own = {{L"ECM", L"Powertrain CAN", 2016}, {L"GW", L"X", 1, true}};
-    COrder c(own);
-    ASSERT_EQ(write(L"", c), 0);
-    ASSERT_EQ(read(L"", current), 0);
-    EXPECT_EQ(current, own);
-    ASSERT_EQ(read(L"configuration/ecu-order.txt", current), 0);
-    EXPECT_EQ(current, own);
+    COrder vehicles(own);
+    ASSERT_EQ(write(L"", vehicles), 0);
+    ASSERT_EQ(read(L"", back), 0);
+    EXPECT_EQ(back, own);
+    ASSERT_EQ(read(L"configuration/ecu-order.txt", back), 0);
+    EXPECT_EQ(back, own);
 
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A"}],
         "ecuOrder": {"file": "exchange/vehicle order.txt"}})"),

@@ -96,11 +96,7 @@ protected:
     // Links are made where the platform lets a test make them.
     bool link(const fs::path& target, const fs::path& at, bool directory) const {
         std::error_code e;
-        if (directory) {
-            fs::create_directory_symlink(target, at, e);
-        } else {
-            fs::create_symlink(target, at, e);
-        }
+        directory ? fs::create_directory_symlink(target, at, e) : fs::create_symlink(target, at, e);
         return !e;
     }
 
