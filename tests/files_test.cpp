@@ -122,8 +122,6 @@ protected:
     }
 };
 
-// ---- the sandbox ----------------------------------------------------------------------
-
 struct Escape {
     std::wstring path;
     int32_t code;
@@ -489,8 +487,6 @@ TEST_F(FileSandbox, HarmlessPathsAreNotRefused) {
     }
 }
 
-// ---- reading and writing ----------------------------------------------------------------
-
 TEST_F(FilesTest, ReadAndWriteRealFilesWithOffsetsModesAndNonAsciiNames) {
     const wchar_t* name = L"exchange/Pr\u00fcfstand \u65e5\u672c/\u00d6l \U0001F697.bin";
     EXPECT_EQ(write(name, "0123456789"), 10U);
@@ -582,8 +578,6 @@ TEST_F(FilesConcurrency, OfTwoWritersCreatingOneFileExactlyOneWins) {
         EXPECT_TRUE(contents(file) == data[first == 0 ? 0 : 1]) << "not the winner's data";
     }
 }
-
-// ---- trees ------------------------------------------------------------------------------
 
 // A tree as text: a directory's path, then in braces its files with their sizes and its
 // subdirectories; "?" stands for contents that were not read.
@@ -708,8 +702,6 @@ TEST_F(FileSandbox, TheEnginesOwnFilesAndThePublicRootsAreOutOfReach) {
     EXPECT_TRUE(fs::is_directory(real(L"projects")));
 }
 
-// ---- per-entry outcomes -------------------------------------------------------------------
-
 TEST_F(FilesTest, DeletesReportEveryFailingEntryAndDoTheRest) {
     write(L"exchange/a.txt", "a");
     write(L"exchange/b.txt", "b");
@@ -805,8 +797,6 @@ TEST_F(FilesTest, CopiesReportEveryFailingEntryAndARefusedCopyLeavesNothing) {
     EXPECT_EQ(snapshot(root), rootBefore);
 }
 
-// ---- asynchronous copies ------------------------------------------------------------------
-
 // A copied entry's target, or "!" and the code of the entry that failed.
 template <class R>
 std::wstring copyOutcome(const R& r) {
@@ -877,8 +867,6 @@ TEST_F(FilesTest, AnAsynchronousFileCopyReportsInSlicesWithPerEntryErrors) {
     EXPECT_EQ(seen.finals, (std::vector<bool>{false, true}));
     EXPECT_EQ(contents(real(L"reports/in/b.txt")), "b");
 }
-
-// ---- filters and projects ---------------------------------------------------------------
 
 TEST_F(FilesTest, FiltersSelectFilesAndCopyTheSelectedProject) {
     wchar_t* selected = nullptr;

@@ -157,8 +157,6 @@ TEST_F(CheckedNesting, TheBoundIsExactPerBranchAndDeeperTreesAreMalformedNotACra
     EXPECT_EQ(recordedParameters(), 40 * std::size_t{maxRecordDepth});
 }
 
-// ---- invalid text ----------------------------------------------------------------
-
 // Wine's converter treats a lead byte and a following continuation byte as one
 // malformed unit even where that byte cannot follow the lead (E0 80, ED A0, F0 80,
 // F4 90): one U+FFFD fewer than Windows and the portable codec give.
@@ -283,8 +281,6 @@ TEST(Utf8Encode, UnpairedSurrogatesBecomeReplacements) {
     EXPECT_EQ(fromUtf8("\xC0\xAF"), L"\uFFFD") << "an overlong slash";
 }
 
-// ---- faults inside the engine ------------------------------------------------------
-
 using EngineFaults = EngineTest;
 using kel_test::ErrorSlot;
 
@@ -303,8 +299,6 @@ TEST_F(EngineFaults, AnExceptionThatIsNoEngineErrorBecomesTheInternalError) {
     kel_getState(api, &next, &state);
     EXPECT_FALSE(next) << "the engine goes on";
 }
-
-// ---- the local engine under py_call --------------------------------------------
 
 using PyCallConcurrency = EngineTest;
 

@@ -118,10 +118,8 @@ TEST(RegistryConcurrency, ManyThreadsShareAndReleaseEngineObjects) {
                 if (remote != nullptr) {
                     kel_getState(remote, &e, &state);
                 }
-                if (e != nullptr || remote == nullptr) {
-                    ++failures;
-                    release_KelError(e);
-                }
+                failures += e != nullptr || remote == nullptr ? 1 : 0;
+                release_KelError(e);
                 releaseTarnApi(remote);
                 releaseTarnApi(api);
             }

@@ -328,8 +328,6 @@ std::vector<std::wstring> statuses(const Results& r) {
     return out;
 }
 
-// ---- the broker --------------------------------------------------------------------------
-
 TEST_F(VehicleUpdateTest, TheBrokerOffersItsValidPackagesAndSkipsTheOthersWithAnEvent) {
     const uint64_t channel = ok(kel_openEventChannel);
     publishEcu("ECM", "5432");
@@ -432,8 +430,6 @@ TEST_F(VehicleUpdateTest, TheBrokerUrlCannotReachOutsideThePublicDirectories) {
     EXPECT_EQ(listed(kel_getPackagesFromBroker), std::vector<std::wstring>{L"ECM_SW-5432:0"});
 }
 
-// ---- the engine's own components ----------------------------------------------------------
-
 TEST_F(VehicleUpdateTest, AutoUpdateInstallsNewerEngineComponentsAndARestartKeepsThem) {
     auto before = versions();
     EXPECT_EQ(before[L"kel_cpp"], L"0.1.0");
@@ -525,8 +521,6 @@ TEST_F(VehicleUpdateTest, ACorruptPackageIsRefusedAndNothingChanges) {
     EXPECT_ENGINE_ERROR(ecu, 2205, kel_applyUpdatePackage(api, L"ECM_SW", &ecu));
     EXPECT_EQ(version(L"ECM"), L"5428");
 }
-
-// ---- vehicle updates ---------------------------------------------------------------------
 
 TEST_F(VehicleUpdateTest, AnUpdateFlashesExactlyTheUnitsThatNeedItInEcuOrder) {
     publishEcu("ECM", "5432");
@@ -700,8 +694,6 @@ TEST_F(VehicleUpdateTest, ConcurrencyACancelFinishesTheUnitBeingWrittenAndLeaves
     EXPECT_EQ(version(L"ECM"), L"5428") << "never started";
     EXPECT_FALSE(lastUpdateSucceeded()) << "cancelled: not all was done";
 }
-
-// ---- reports to the broker ---------------------------------------------------------------
 
 TEST_F(VehicleUpdateTest, AnUploadCopiesTheReportAndItsTwinAndLogsIt) {
     put(root / "reports" / "r1.html", "<html>report</html>");
