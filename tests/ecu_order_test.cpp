@@ -1,20 +1,17 @@
 // The ECU order of the default vehicle and of small made-up ones: the default order's
 // rules, filtering and completing an order, and order files in the public directories
 // (written, read back, refused when malformed or outside the sandbox).
-#include "support.h"
+#include "data_root.h"
 #include "uds.h"
 
 #include <cstring>
-#include <filesystem>
 #include <string>
 #include <vector>
 
 namespace {
 
-using kel_test::EngineTest;
 using kel_test::ErrorSlot;
 using kel_test::List;
-using kel_test::zeroed;
 
 using Entries = List<EcuOrderEntry, release_EcuOrderEntry_array>;
 using Names = std::vector<std::wstring>;
@@ -37,65 +34,32 @@ std::vector<Entry> entriesOf(const Entries& list) {
     return out;
 }
 
-Names targetsOf(const Entries& list) {
-    Names out;
-    for (const auto& e : entriesOf(list)) {
-        out.push_back(e.target);
-    }
-    return out;
-}
-
-// An order as C records on the library's heap, as a caller hands one in; `withNull` adds
-// a NULL element at the end.
+// An order as C records, as a caller hands one in (the texts stay the caller's);
+// `withNull` adds a NULL element at the end.
 class COrder {
 public:
-    explicit COrder(const std::vector<Entry>& entries, bool withNull = false) {
-        for (const auto& e : entries) {
-            auto* c = zeroed<EcuOrderEntry>();
-            c->target = duplicate_WString(e.target.c_str());
-            c->bus = duplicate_WString(e.bus.c_str());
-            c->address = e.address;
-            c->gateway = e.gateway ? 1 : 0;
-            c->optional = e.optional ? 1 : 0;
-            items_.push_back(c);
+    explicit COrder(const std::vector<Entry>& entries, bool withNull = false) : entries_(entries) {
+        for (auto& e : entries_) {
+            records_.push_back({e.target.data(), e.bus.data(), e.address, e.gateway, e.optional});
+        }
+        for (auto& record : records_) {
+            items_.push_back(&record);
         }
         if (withNull) {
             items_.push_back(nullptr);
-        }
-    }
-    COrder(const COrder&) = delete;
-    COrder& operator=(const COrder&) = delete;
-    ~COrder() {
-        for (auto* c : items_) {
-            release_EcuOrderEntry(c);
         }
     }
     EcuOrderEntry** items() { return items_.empty() ? nullptr : items_.data(); }
     uint32_t count() const { return static_cast<uint32_t>(items_.size()); }
 
 private:
+    std::vector<Entry> entries_;
+    std::vector<EcuOrderEntry> records_;
     std::vector<EcuOrderEntry*> items_;
 };
 
-std::vector<wchar_t*> cTargets(const Names& names) {
-    std::vector<wchar_t*> out;
-    for (const auto& n : names) {
-        out.push_back(const_cast<wchar_t*>(n.c_str()));
-    }
-    return out;
-}
-
-class EcuOrderTest : public EngineTest {
+class EcuOrderTest : public kel_test::DataRootTest {
 protected:
-    void SetUp() override {
-        EngineTest::SetUp();
-        // The data root outlives a test: start without the vehicle's order file.
-        wchar_t root[4096];
-        ASSERT_GT(kelsim_dataRoot(root, 4096), 0);
-        std::error_code e;
-        std::filesystem::remove(std::filesystem::path(root) / "configuration" / "ecu-order.txt", e);
-    }
-
     std::vector<Entry> defaultOrder() {
         Entries out;
         EXPECT_ENGINE_ERROR(error, 0,
@@ -114,14 +78,16 @@ protected:
         return kel_test::errorCodeOf(
             [&](KelError** e) { kel_writeEcuOrder(api, path, order.items(), order.count(), e); });
     }
-    int32_t filter(COrder& order, const Names& targets, Names& out,
+    int32_t filter(COrder& order, std::vector<const wchar_t*> targets, Names& out,
                    std::wstring* details = nullptr) {
         ErrorSlot error;
         Entries list;
-        auto t = cTargets(targets);
-        kel_filterEcuOrder(api, order.items(), order.count(), t.empty() ? nullptr : t.data(),
-                           static_cast<uint32_t>(t.size()), &error, &list.items, &list.count);
-        out = targetsOf(list);
+        kel_filterEcuOrder(api, order.items(), order.count(), const_cast<wchar_t**>(targets.data()),
+                           static_cast<uint32_t>(targets.size()), &error, &list.items, &list.count);
+        out.clear();
+        for (const auto& e : entriesOf(list)) {
+            out.push_back(e.target);
+        }
         if (details != nullptr && error) {
             *details = error->details;
         }
@@ -135,21 +101,6 @@ protected:
         });
         out = entriesOf(list);
         return code;
-    }
-    void writeFile(const wchar_t* path, const std::string& text) {
-        uint32_t written = 0;
-        EXPECT_ENGINE_ERROR(error, 0,
-                            kel_writeFile(api, path, reinterpret_cast<const uint8_t*>(text.data()),
-                                          static_cast<uint32_t>(text.size()), 0, 1, &error,
-                                          &written));
-    }
-    std::string readFile(const wchar_t* path) {
-        void* data = nullptr;
-        uint32_t length = 0;
-        EXPECT_ENGINE_ERROR(error, 0, kel_readFile(api, path, 0, 0, 0, &error, &data, &length));
-        std::string text(static_cast<const char*>(data), length);
-        release_Memory(data);
-        return text;
     }
 };
 
@@ -178,19 +129,19 @@ TEST_F(EcuOrderTest, TheDefaultOrderPutsTheGatewayFirstThenSortsByBusAndAddress)
         << "an order file outside the sandbox";
 }
 
-TEST_F(EcuOrderTest, FilteringKeepsTheOrdersOrderAndKnowsAliases) {
+TEST_F(EcuOrderTest, FilteringAndCompletingKeepTheOrdersOrderAndKnowAliases) {
     const auto order = defaultOrder();
     ASSERT_EQ(order.size(), 6U);
-    COrder given(order);
+    COrder whole(order);
     Names kept;
-    ASSERT_EQ(filter(given, {L"TCM", L"Engine", L"GW", L"TCM"}, kept), 0);
+    ASSERT_EQ(filter(whole, {L"TCM", L"Engine", L"GW", L"TCM"}, kept), 0);
     EXPECT_EQ(kept, (Names{L"GW", L"ECM", L"TCM"})) << "order's order, once each, alias Engine";
 
-    ASSERT_EQ(filter(given, {}, kept), 0);
+    ASSERT_EQ(filter(whole, {}, kept), 0);
     EXPECT_EQ(kept.size(), order.size()) << "no targets: the whole order";
 
     std::wstring details;
-    EXPECT_EQ(filter(given, {L"ECM", L"Ghost", L"Nope"}, kept, &details), 2102);
+    EXPECT_EQ(filter(whole, {L"ECM", L"Ghost", L"Nope"}, kept, &details), 2102);
     EXPECT_NE(details.find(L"Ghost"), std::wstring::npos);
     EXPECT_NE(details.find(L"Nope"), std::wstring::npos);
 
@@ -199,15 +150,14 @@ TEST_F(EcuOrderTest, FilteringKeepsTheOrdersOrderAndKnowsAliases) {
     COrder aliased({byAlias});
     ASSERT_EQ(filter(aliased, {L"GW"}, kept), 0);
     EXPECT_EQ(kept, (Names{L"Gateway"}));
-}
 
-TEST_F(EcuOrderTest, CompletingAnOrderAppendsExactlyTheMissingUnitsInDefaultOrder) {
+    // Completing an order appends exactly the missing units, in default order.
     const std::vector<Entry> given = {{L"TCM", L"Own bus", 5, false, true},
                                       {L"Engine", L"", 0, false, false},
                                       {L"Retrofit", L"Aux CAN", 0x7A0, false, true}};
-    COrder order(given);
+    COrder incomplete(given);
     std::vector<Entry> completed;
-    ASSERT_EQ(addMissing(order, completed), 0);
+    ASSERT_EQ(addMissing(incomplete, completed), 0);
     ASSERT_EQ(completed.size(), 7U);
     EXPECT_EQ(std::vector<Entry>(completed.begin(), completed.begin() + 3), given)
         << "given entries stay as they are, also one the vehicle lacks";
@@ -230,8 +180,7 @@ TEST_F(EcuOrderTest, AnOrderHandedInNamesEachTargetOnce) {
     COrder twice({ecm, ecm});
     COrder withNull({ecm}, true);
     COrder withEmpty({unnamed});
-    std::vector<COrder*> bad = {&twice, &withNull, &withEmpty};
-    for (auto* order : bad) {
+    for (COrder* order : {&twice, &withNull, &withEmpty}) {
         std::vector<Entry> out;
         Names kept;
         EXPECT_EQ(addMissing(*order, out), 2101);
@@ -248,7 +197,7 @@ TEST_F(EcuOrderTest, AnOrderHandedInNamesEachTargetOnce) {
     EXPECT_EQ(read(L"exchange/unwritable.txt", out), 1609) << "nothing was written";
 }
 
-TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactly) {
+TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactlyAndTheVehiclesStandsForTheDefault) {
     const std::vector<Entry> order = {
         {L"GW", L"Diagnostic CAN", 0x710, true, false},
         {L"ECM", L"Powertrain CAN", 0x7E0, false, false},
@@ -261,7 +210,7 @@ TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactly) {
     EXPECT_EQ(back, order);
 
     // The format other tools read: a header, then tab-separated columns.
-    const auto text = readFile(L"exchange/orders/workshop 1.txt");
+    const auto text = kel_test::contents(root / "exchange/orders/workshop 1.txt");
     EXPECT_EQ(text.rfind("# kel ECU order 1\n", 0), 0U) << text;
     EXPECT_NE(text.find("\nGW\tDiagnostic CAN\t0x710\tgateway\n"), std::string::npos) << text;
     EXPECT_NE(text.find("\nRetrofit\t\t0x0\tgateway\toptional\n"), std::string::npos) << text;
@@ -271,9 +220,13 @@ TEST_F(EcuOrderTest, AWrittenOrderReadsBackExactly) {
     ASSERT_EQ(write(L"exchange/orders/workshop 1.txt", shorter), 0);
     ASSERT_EQ(read(L"exchange/orders/workshop 1.txt", back), 0);
     EXPECT_EQ(back, (std::vector<Entry>{order[1]}));
-}
 
-TEST_F(EcuOrderTest, TheVehiclesOrderFileStandsForTheDefaultOrderUntilWritten) {
+    // Every way out of the sandbox is tried on both calls with the other file exports; a
+    // public directory itself is no order file.
+    EXPECT_EQ(read(L"exchange", back), 1611);
+    EXPECT_EQ(write(L"exchange", shorter), 1613);
+
+    // The vehicle's own order file stands for the default order until it is written.
     const auto orderFilePath = [&] {
         wchar_t* path = nullptr;
         EXPECT_ENGINE_ERROR(error, 0, kel_getEcuOrderFilePath(api, &error, &path));
@@ -283,18 +236,17 @@ TEST_F(EcuOrderTest, TheVehiclesOrderFileStandsForTheDefaultOrderUntilWritten) {
     };
     EXPECT_EQ(orderFilePath(), L"configuration/ecu-order.txt");
 
-    std::vector<Entry> current;
-    ASSERT_EQ(read(L"", current), 0);
-    EXPECT_EQ(current, defaultOrder()) << "no order file yet";
-    EXPECT_EQ(read(L"configuration/ecu-order.txt", current), 1609) << "a named file must exist";
+    ASSERT_EQ(read(L"", back), 0);
+    EXPECT_EQ(back, defaultOrder()) << "no order file yet";
+    EXPECT_EQ(read(L"configuration/ecu-order.txt", back), 1609) << "a named file must exist";
 
     const std::vector<Entry> own = {{L"ECM", L"Powertrain CAN", 2016}, {L"GW", L"X", 1, true}};
-    COrder c(own);
-    ASSERT_EQ(write(L"", c), 0);
-    ASSERT_EQ(read(L"", current), 0);
-    EXPECT_EQ(current, own);
-    ASSERT_EQ(read(L"configuration/ecu-order.txt", current), 0);
-    EXPECT_EQ(current, own);
+    COrder vehicles(own);
+    ASSERT_EQ(write(L"", vehicles), 0);
+    ASSERT_EQ(read(L"", back), 0);
+    EXPECT_EQ(back, own);
+    ASSERT_EQ(read(L"configuration/ecu-order.txt", back), 0);
+    EXPECT_EQ(back, own);
 
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [{"name": "A"}],
         "ecuOrder": {"file": "exchange/vehicle order.txt"}})"),
@@ -321,7 +273,7 @@ TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
         {header + "ECM\tA\t0x1\nTCM\tA\t0x2\nECM\tB\t0x3\n", L"line 4:"},
     };
     for (const auto& c : cases) {
-        writeFile(L"exchange/malformed.txt", c.text);
+        kel_test::put(root / "exchange/malformed.txt", c.text);
         ErrorSlot error;
         Entries out;
         kel_readEcuOrder(api, L"exchange/malformed.txt", &error, &out.items, &out.count);
@@ -332,10 +284,11 @@ TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
     }
 
     // What is not a mistake: a byte order mark, CRLF, blanks around columns, comments.
-    writeFile(L"exchange/lenient.txt", "\xEF\xBB\xBF# kel ECU order 1\r\n"
-                                       "  # written by hand\r\n"
-                                       "\r\n"
-                                       "ECM \t Powertrain CAN \t 0X7e0 \t optional gateway\r\n");
+    kel_test::put(root / "exchange/lenient.txt",
+                  "\xEF\xBB\xBF# kel ECU order 1\r\n"
+                  "  # written by hand\r\n"
+                  "\r\n"
+                  "ECM \t Powertrain CAN \t 0X7e0 \t optional gateway\r\n");
     std::vector<Entry> back;
     ASSERT_EQ(read(L"exchange/lenient.txt", back), 0);
     EXPECT_EQ(back, (std::vector<Entry>{{L"ECM", L"Powertrain CAN", 0x7E0, true, true}}));
@@ -344,18 +297,8 @@ TEST_F(EcuOrderTest, MalformedOrderFilesAreRefusedNamingTheLine) {
     while (huge.size() <= (1U << 20)) {
         huge += "# padding padding padding padding padding padding padding padding\n";
     }
-    writeFile(L"exchange/huge.txt", huge);
+    kel_test::put(root / "exchange/huge.txt", huge);
     EXPECT_EQ(read(L"exchange/huge.txt", back), 2100) << "over 1 MiB";
-}
-
-// Every way out of the sandbox is tried on both calls with the other file exports; a
-// public directory itself is no order file.
-TEST_F(EcuOrderTest, APublicDirectoryIsNoOrderFile) {
-    const Entry ecm{L"ECM", L"Powertrain CAN", 0x7E0};
-    COrder order({ecm});
-    std::vector<Entry> out;
-    EXPECT_EQ(read(L"exchange", out), 1611);
-    EXPECT_EQ(write(L"exchange", order), 1613);
 }
 
 } // namespace

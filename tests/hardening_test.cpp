@@ -5,6 +5,7 @@
 
 #include <Describe.h>
 #include <OTXStream.h>
+#include <algorithm>
 #include <atomic>
 #include <cstring>
 #include <string>
@@ -117,10 +118,7 @@ protected:
     // arguments the engine recorded.
     static std::size_t recordedParameters() {
         const int64_t length = kelsim_lastArguments("executeSequence", nullptr, 0);
-        if (length < 0) {
-            return 0;
-        }
-        std::string text(static_cast<std::size_t>(length) + 1, '\0');
+        std::string text(static_cast<std::size_t>(std::max<int64_t>(length, 0)) + 1, '\0');
         kelsim_lastArguments("executeSequence", text.data(), text.size());
         std::size_t count = 0;
         for (auto at = text.find("\"children\""); at != std::string::npos;
@@ -158,8 +156,6 @@ TEST_F(CheckedNesting, TheBoundIsExactPerBranchAndDeeperTreesAreMalformedNotACra
               KEL_ERROR_MALFORMED_INPUT);
     EXPECT_EQ(recordedParameters(), 40 * std::size_t{maxRecordDepth});
 }
-
-// ---- invalid text ----------------------------------------------------------------
 
 // Wine's converter treats a lead byte and a following continuation byte as one
 // malformed unit even where that byte cannot follow the lead (E0 80, ED A0, F0 80,
@@ -285,8 +281,6 @@ TEST(Utf8Encode, UnpairedSurrogatesBecomeReplacements) {
     EXPECT_EQ(fromUtf8("\xC0\xAF"), L"\uFFFD") << "an overlong slash";
 }
 
-// ---- faults inside the engine ------------------------------------------------------
-
 using EngineFaults = EngineTest;
 using kel_test::ErrorSlot;
 
@@ -305,8 +299,6 @@ TEST_F(EngineFaults, AnExceptionThatIsNoEngineErrorBecomesTheInternalError) {
     kel_getState(api, &next, &state);
     EXPECT_FALSE(next) << "the engine goes on";
 }
-
-// ---- the local engine under py_call --------------------------------------------
 
 using PyCallConcurrency = EngineTest;
 
@@ -330,9 +322,7 @@ TEST_F(PyCallConcurrency, CallsOnTheLocalEngineSurviveItsRestart) {
         const int32_t state = py_call(nullptr, 49, 0, nullptr, &size, &buffer);
         int32_t written = -2;
         py_result(&written, size == 4 ? 4 : 0, buffer);
-        if (size != 4 || written != state) {
-            ++wrong;
-        }
+        wrong += size != 4 || written != state ? 1 : 0;
     }
     done = true;
     restarter.join();

@@ -55,9 +55,8 @@ TEST_F(Lifecycle, LockIssuesTheIdThatUnlockChecksAndBreakLockFrees) {
     EXPECT_FALSE(locked());
     // The broken lock's id is no longer valid.
     EXPECT_ENGINE_ERROR(error, 1003, kel_unlock(api, broken, &error));
-}
 
-TEST_F(Lifecycle, TheDescriptionSetsTheFirstLockIdAndAReloadStartsThereAgain) {
+    // The description sets the first lock id, and a reload starts there again.
     ASSERT_EQ(kelsim_setVehicleJson(R"({"ecus": [], "lifecycle": {"firstLockId": 77}})"), 0);
     for (const uint64_t expected : {77U, 78U}) {
         const uint64_t id = lock();

@@ -108,28 +108,23 @@ TEST(StreamBuffer, GrowsAndHandsItsBufferOver) {
     std::free(buffer); // the caller's now; the stream frees nothing
 }
 
+// Reads a T from `bytes` in a stream bounded to their end; the read must be refused. The
+// value as the refused read left it.
+template <class T>
+T readPastTheEnd(const std::vector<uint8_t>& bytes, bool lengthPrefixed, bool presence,
+                 bool asList) {
+    OTXStream in(bytes.data(), lengthPrefixed, presence, asList);
+    in.bounded = true;
+    in.size = static_cast<uint32_t>(bytes.size());
+    T value{};
+    EXPECT_THROW(in.read(value), kel::MalformedInput);
+    return value;
+}
+
 TEST(StreamBounds, CheckedReadsStopAtTheEnd) {
-    const uint8_t countPastEnd[] = {0xFF, 0xFF, 0xFF, 0x7F, 'a'};
-    OTXStream counts(countPastEnd, true, false, true);
-    counts.bounded = true;
-    counts.size = sizeof countPastEnd;
-    std::vector<uint32_t> values;
-    EXPECT_THROW(counts.read(values), kel::MalformedInput);
-
-    const uint8_t noNul[] = {'a', 'b', 'c'};
-    OTXStream text(noNul, false, true, false);
-    text.bounded = true;
-    text.size = sizeof noNul;
-    std::wstring out;
-    EXPECT_THROW(text.read(out), kel::MalformedInput);
-
-    const uint8_t shortValue[] = {1, 2};
-    OTXStream value(shortValue, true, false, true);
-    value.bounded = true;
-    value.size = sizeof shortValue;
-    uint32_t number = 0;
-    EXPECT_THROW(value.read(number), kel::MalformedInput);
-    EXPECT_EQ(number, 0U);
+    readPastTheEnd<std::vector<uint32_t>>({0xFF, 0xFF, 0xFF, 0x7F, 'a'}, true, false, true);
+    readPastTheEnd<std::wstring>({'a', 'b', 'c'}, false, true, false); // no NUL
+    EXPECT_EQ(readPastTheEnd<uint32_t>({1, 2}, true, false, true), 0U);
 }
 
 } // namespace
