@@ -1,6 +1,7 @@
 // The call stream beyond what the conformance suite's byte streams show per operation:
-// the UTF-8 fast path, the trace, bit sets (which no operation carries), growth and
-// ownership, and the bounds checks of the checked entry points.
+// the wire forms pinned by the golden vectors, the UTF-8 fast path, the trace, bit sets
+// (which no operation carries), growth and ownership, and the bounds checks of the checked
+// entry points.
 #include "golden.h"
 
 #include <Vutil/ErrorHandler.h>
@@ -11,6 +12,7 @@
 #include <OTXStream.h>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <utf8.h>
 #include <utility>
 
@@ -18,10 +20,44 @@ namespace {
 
 using kel::Bits;
 using kel::OTXStream;
-using kel_test::golden;
+using namespace kel_test;
+using Varno::Kel_cpp::KelError;
+using Varno::Kel_cpp::MvciServerError;
 
 std::vector<uint8_t> written(const OTXStream& stream) {
     return {stream.buffer, stream.buffer + stream.position};
+}
+
+// The conformance suite holds the codec to the generator's model of the stream; these files
+// hold both to the form OTX runtimes already read, so that the two cannot drift together.
+TEST(StreamGolden, WrittenAndReadAsTheVectorsSay) {
+    auto error = std::make_shared<KelError>();
+    error->code = 5;
+    error->message = L"m";
+    error->subCode = 2;
+    error->mvciError = std::make_shared<MvciServerError>();
+    error->mvciError->code = 0x101;
+    error->mvciError->codeText = L"PDU_ERR_COMM_PC_TO_VCI_FAILED";
+    error->mvciError->vendorCode = -3;
+    error->mvciError->vendorCodeText = L"VCI timeout";
+    const std::pair<const char*, std::function<void(OTXStream&)>> forms[] = {
+        {"string_empty", [](OTXStream& s) { s.write(std::wstring()); }},
+        {"string_utf8", [](OTXStream& s) { s.write(std::wstring(L"Grüße \U0001F697")); }},
+        {"record_null", [](OTXStream& s) { s.write(std::shared_ptr<KelError>()); }},
+        {"record_present", [&](OTXStream& s) { s.write(error); }},
+        {"vector_empty", [](OTXStream& s) { s.write(std::vector<uint32_t>()); }},
+    };
+    for (const auto& [name, write] : forms) {
+        OTXStream stream(true, false, true);
+        write(stream);
+        EXPECT_EQ(written(stream), golden(name)) << name;
+    }
+    auto bytes = golden("string_nul_terminated");
+    OTXStream terminated(bytes.data(), false, true, false);
+    std::wstring text;
+    uint32_t after = 0;
+    terminated.read(text).read(after);
+    EXPECT_EQ(std::pair(text, after), std::pair(std::wstring(L"Zündung"), 42U));
 }
 
 // The ASCII runs go several units at a time: a character of each UTF-8 length, and a
