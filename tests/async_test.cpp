@@ -14,8 +14,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
+using namespace kel_test;
 using namespace std::chrono_literals;
 
 struct Report {

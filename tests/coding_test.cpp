@@ -12,11 +12,7 @@
 
 namespace {
 
-using kel_test::codeIn;
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::fetch;
-using kel_test::List;
+using namespace kel_test;
 
 using Codings = List<CodingStringResult, release_CodingStringResult_array>;
 using FileResults = List<CodingFileResult, release_CodingFileResult_array>;

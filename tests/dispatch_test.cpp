@@ -16,7 +16,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
+using namespace kel_test;
 using Bytes = std::vector<uint8_t>;
 
 // One kel_call_checked and its fetched result (empty for a number that names nothing).

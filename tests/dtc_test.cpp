@@ -12,10 +12,7 @@
 
 namespace {
 
-using kel_test::codeIn;
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::List;
+using namespace kel_test;
 
 using DtcLists = List<ReadDtcResult, release_ReadDtcResult_array>;
 using ClearLists = List<ClearDtcResult, release_ClearDtcResult_array>;
@@ -47,7 +44,6 @@ const ReadDtcResult* find(const DtcLists& list, const wchar_t* target) {
 }
 
 using Dtcs = EngineTest;
-using kel_test::fetch;
 
 std::unique_ptr<DtcLists> read(TarnApi* api, std::vector<const wchar_t*> names,
                                DtcReadConfig* filter = nullptr, bool supported = false) {

@@ -10,8 +10,7 @@
 
 namespace {
 
-using kel_test::ErrorSlot;
-using kel_test::List;
+using namespace kel_test;
 
 using Entries = List<EcuOrderEntry, release_EcuOrderEntry_array>;
 using Names = std::vector<std::wstring>;

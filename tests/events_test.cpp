@@ -14,10 +14,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
-using kel_test::errorCodeOf;
-using kel_test::ErrorSlot;
-using kel_test::handleOf;
+using namespace kel_test;
 
 // The vehicle's event kinds, as the reference engine numbers them.
 enum : int32_t {

@@ -21,13 +21,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-using kel_test::contents;
-using kel_test::ErrorSlot;
-using kel_test::List;
-using kel_test::put;
-using kel_test::snapshot;
-using kel_test::texts;
-using kel_test::zeroed;
+using namespace kel_test;
 
 #if defined(_WIN32)
 constexpr bool onWindows = true;

@@ -7,8 +7,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
+using namespace kel_test;
 
 using Frame = EngineTest;
 

@@ -21,7 +21,7 @@ namespace {
 
 using Bytes = std::vector<uint8_t>;
 using kel::maxRecordDepth;
-using kel_test::EngineTest;
+using namespace kel_test;
 
 // Argument bytes in one of the two input forms: kel_call's (length-prefixed strings, no
 // presence bytes) or py_call's (NUL-terminated strings, a presence byte before a record).
@@ -282,7 +282,6 @@ TEST(Utf8Encode, UnpairedSurrogatesBecomeReplacements) {
 }
 
 using EngineFaults = EngineTest;
-using kel_test::ErrorSlot;
 
 // Whatever a family throws leaves the engine as its internal error, with the fault's
 // text: the binding converts engine errors alone, so anything else ended the process.

@@ -22,12 +22,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::fetch;
-using kel_test::freshTempPath;
-using kel_test::List;
-using kel_test::zeroed;
+using namespace kel_test;
 using namespace std::chrono_literals;
 
 using Interfaces = EngineTest;

@@ -5,8 +5,7 @@
 
 namespace {
 
-using kel_test::ErrorSlot;
-using kel_test::handleOf;
+using namespace kel_test;
 
 class Lifecycle : public kel_test::EngineTest {
 protected:

@@ -18,10 +18,7 @@
 
 namespace {
 
-using kel_test::codeIn;
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::List;
+using namespace kel_test;
 using namespace std::chrono_literals;
 
 using Infos = List<ParameterInfo, release_ParameterInfo_array>;

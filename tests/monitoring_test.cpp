@@ -19,11 +19,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::fetch;
-using kel_test::List;
-using kel_test::zeroed;
+using namespace kel_test;
 
 using Bytes = std::vector<uint8_t>;
 using PduItems = List<PduMonitoringItem, release_PduMonitoringItem_array>;

@@ -26,12 +26,7 @@
 
 namespace {
 
-using kel_test::codeIn;
-using kel_test::ErrorSlot;
-using kel_test::fetch;
-using kel_test::fetchRecord;
-using kel_test::List;
-using kel_test::zeroed;
+using namespace kel_test;
 
 // Replaces a string member of a record the library handed out.
 void replace(wchar_t*& member, const wchar_t* text) {

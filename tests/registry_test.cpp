@@ -7,8 +7,7 @@
 
 namespace {
 
-using kel_test::ErrorSlot;
-using kel_test::handleOf;
+using namespace kel_test;
 
 // The engine object currently behind kel_getTarnApi, observed without keeping it alive.
 // The engine also keeps its local object itself; that hold is let go here, so that

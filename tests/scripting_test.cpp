@@ -18,9 +18,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::freshTempPath;
+using namespace kel_test;
 using Varno::Kel_cpp::Reference::describe;
 using Varno::Kel_cpp::Reference::Json;
 using Varno::Kel_cpp::Reference::parseText;

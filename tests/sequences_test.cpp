@@ -16,11 +16,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::List;
-using kel_test::param;
-using kel_test::zeroed;
+using namespace kel_test;
 using namespace std::chrono_literals;
 
 using Results = List<ServiceResult, release_ServiceResult_array>;

@@ -43,10 +43,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::freshTempPath;
-using kel_test::handleOf;
+using namespace kel_test;
 namespace ref = Varno::Kel_cpp::Reference;
 
 using enum ref::ErrorCode;

@@ -19,12 +19,7 @@
 
 namespace {
 
-using kel_test::codeIn;
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::fetch;
-using kel_test::List;
-using kel_test::zeroed;
+using namespace kel_test;
 using namespace std::chrono_literals;
 
 using Results = List<ServiceResult, release_ServiceResult_array>;
@@ -34,9 +29,6 @@ using Bytes = std::vector<uint8_t>;
 
 constexpr uint32_t ecmAddress = 2016;
 constexpr uint32_t ecmKeyMask = 0x5A3C96E1;
-
-using kel_test::keyFor;
-using kel_test::param;
 
 // A list of services to send, freed at the end of the test.
 struct Inputs {

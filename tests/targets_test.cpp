@@ -12,10 +12,7 @@
 
 namespace {
 
-using kel_test::codeIn;
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::List;
+using namespace kel_test;
 
 using Idents = List<VariantIdentResult, release_VariantIdentResult_array>;
 using Data = List<ReadDataResult, release_ReadDataResult_array>;
@@ -49,7 +46,6 @@ std::vector<std::wstring> namesOf(const Targets& t) {
 }
 
 using TargetsFamily = EngineTest;
-using kel_test::fetch;
 
 std::unique_ptr<Targets> targets(TarnApi* api) {
     return fetch<Targets>([&](auto... out) { kel_getTargets(api, out...); });

@@ -17,11 +17,7 @@
 
 namespace {
 
-using kel_test::EngineTest;
-using kel_test::ErrorSlot;
-using kel_test::fetch;
-using kel_test::List;
-using kel_test::zeroed;
+using namespace kel_test;
 using Json = nlohmann::json;
 
 using Data = List<VehicleData, release_VehicleData_array>;

@@ -20,16 +20,7 @@
 namespace {
 
 namespace fs = std::filesystem;
-using kel_test::AsyncWatch;
-using kel_test::contents;
-using kel_test::ErrorSlot;
-using kel_test::fetch;
-using kel_test::fetchRecord;
-using kel_test::List;
-using kel_test::put;
-using kel_test::snapshot;
-using kel_test::texts;
-using kel_test::zeroed;
+using namespace kel_test;
 using namespace std::chrono_literals;
 
 using Bytes = std::vector<uint8_t>;
